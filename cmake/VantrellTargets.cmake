@@ -1,0 +1,55 @@
+# What every target of the house has in common: language level, warnings, strict Qt switches and
+# the sanitizer, on one interface target; and one function each for libraries, programs and tests.
+
+add_library(vantrell_common INTERFACE)
+target_include_directories(vantrell_common INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_features(vantrell_common INTERFACE cxx_std_20)
+target_compile_options(vantrell_common INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+    -Wformat=2 -Wimplicit-fallthrough -Wextra-semi -Werror)
+target_compile_definitions(vantrell_common INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+    QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+
+if(VANTRELL_SANITIZER STREQUAL "")
+elseif(VANTRELL_SANITIZER STREQUAL "address")
+    set(VANTRELL_SANITIZER_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+elseif(VANTRELL_SANITIZER STREQUAL "thread")
+    set(VANTRELL_SANITIZER_FLAGS -fsanitize=thread -fno-omit-frame-pointer)
+else()
+    message(FATAL_ERROR "VANTRELL_SANITIZER is \"${VANTRELL_SANITIZER}\"; known are \"\", \"address\" and \"thread\".")
+endif()
+if(VANTRELL_SANITIZER_FLAGS)
+    target_compile_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
+    target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
+    target_compile_definitions(vantrell_common INTERFACE VANTRELL_SANITIZED)
+endif()
+
+# vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...])
+# makes the static library vantrell_<folder> from the files of the calling folder.
+function(vantrell_library folder)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(vantrell_${folder} STATIC ${ARG_SOURCES})
+    target_link_libraries(vantrell_${folder} PUBLIC vantrell_common ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+endfunction()
+
+# vantrell_program(<name> SOURCES ... LIBRARIES ...)
+function(vantrell_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE vantrell_common ${ARG_LIBRARIES})
+endfunction()
+
+# vantrell_test(<folder> <name> [LIBRARIES ...]) makes the Qt Test program tst_<name> from
+# tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
+# what LIBRARIES adds.
+function(vantrell_test folder name)
+    cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
+    add_executable(tst_${name} "${PROJECT_SOURCE_DIR}/tests/${folder}/tst_${name}.cpp")
+    set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test ${ARG_LIBRARIES})
+    add_test(NAME ${folder}/${name} COMMAND tst_${name})
+    set_tests_properties(${folder}/${name} PROPERTIES
+        TIMEOUT 600
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()

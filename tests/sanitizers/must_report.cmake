@@ -1,0 +1,7 @@
+execute_process(COMMAND "${PROGRAM}" "${FAULT}" RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+string(FIND "${output}" "${REPORT}" position)
+if(result STREQUAL "0")
+    message(FATAL_ERROR "The fault \"${FAULT}\" went through unpunished:\n${output}")
+elseif(position EQUAL -1)
+    message(FATAL_ERROR "The fault \"${FAULT}\" gave ${result} without \"${REPORT}\":\n${output}")
+endif()

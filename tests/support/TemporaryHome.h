@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <vector>
+
+namespace vantrell
+{
+
+/// A home folder of its own for one test: HOME and the XDG folders point into it, and so does the
+/// system-wide library folder. The log takes the process for an ordinary user's. All is put back at
+/// the end. One at a time, on the main thread, while no other thread reads the environment.
+class TemporaryHome
+{
+public:
+    TemporaryHome();
+    TemporaryHome(const TemporaryHome &) = delete;
+    TemporaryHome &operator=(const TemporaryHome &) = delete;
+    ~TemporaryHome();
+
+    /// The home folder, or a path in it.
+    QString path() const { return m_folder.path(); }
+    QString path(const QString &relative) const { return m_folder.filePath(relative); }
+
+    /// Writes a file in the home, with the folders that lead to it, and gives its path.
+    QString addFile(const QString &relative, const QByteArray &content) const;
+
+private:
+    struct Variable {
+        const char *name;
+        bool wasSet;
+        QByteArray value;
+    };
+
+    void set(const char *name, const QByteArray &value);
+
+    QTemporaryDir m_folder;
+    std::vector<Variable> m_variables;
+};
+
+/// What a file holds; empty when it cannot be read.
+QByteArray contentOf(const QString &path);
+
+} // namespace vantrell
