@@ -1,0 +1,350 @@
+#include "tests/support/TemporaryHome.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlDocument.h"
+#include "xml/XmlEdit.h"
+#include "xml/XmlLocationPaths.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace vantrell;
+
+namespace
+{
+
+std::unique_ptr<XmlDocument> parsed(const QByteArray &xml, bool tolerant = true)
+{
+    Result<std::unique_ptr<XmlDocument>> document = XmlDocument::fromData(xml, {tolerant, nullptr});
+    return document ? std::move(document.value()) : nullptr;
+}
+
+QByteArray saved(const XmlDocument &document)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return document.write(buffer) ? buffer.data() : QByteArray("not written");
+}
+
+QString rootText(const QByteArray &xml)
+{
+    const auto document = parsed(xml);
+    return document ? XmlDocument::textOfElement(document->rootElement()) : QStringLiteral("no document");
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+} // namespace
+
+class XmlDocumentTest : public QObject
+{
+    Q_OBJECT
+
+    const TemporaryHome m_home;
+
+private Q_SLOTS:
+    void whiteSpace_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("between elements goes")
+            << QByteArray("<a>\n  <b/>\n  <c/>\n</a>") << QStringLiteral("<a><b/><c/></a>");
+        QTest::newRow("all that an element holds stays")
+            << QByteArray("<a> <b>  </b>\n</a>") << QStringLiteral("<a><b>  </b></a>");
+        QTest::newRow("before text") << QByteArray("<a> <b/> x</a>") << QStringLiteral("<a> <b/> x</a>");
+        QTest::newRow("after text") << QByteArray("<a>x <b/>\n <c/> </a>")
+                                    << QStringLiteral("<a>x <b/>\n <c/> </a>");
+        QTest::newRow("between elements before text")
+            << QByteArray("<a>\n<b/>\t<c/> y<d/> </a>") << QStringLiteral("<a>\n<b/>\t<c/> y<d/> </a>");
+        QTest::newRow("beside CDATA")
+            << QByteArray("<a> <![CDATA[<]]> </a>") << QStringLiteral("<a> <![CDATA[<]]> </a>");
+        QTest::newRow("beside a reference")
+            << QByteArray("<a> &amp; <b/> </a>") << QStringLiteral("<a> &amp; <b/> </a>");
+        QTest::newRow("beside an undeclared entity")
+            << QByteArray("<a> <b/> &nothing; </a>") << QStringLiteral("<a> <b/>  </a>");
+        QTest::newRow("beside a comment alone")
+            << QByteArray("<a> <!--x--> </a>") << QStringLiteral("<a> <!--x--> </a>");
+        QTest::newRow("inner text leaves the outer alone")
+            << QByteArray("<a> <b> x </b> </a>") << QStringLiteral("<a><b> x </b></a>");
+        QTest::newRow("written as references")
+            << QByteArray("<a>&#32;&#10;</a>") << QStringLiteral("<a> \n</a>");
+        QTest::newRow("kept on request") << QByteArray("<a xml:space=\"preserve\"> <b/> </a>")
+                                         << QStringLiteral("<a xml:space=\"preserve\"> <b/> </a>");
+        QTest::newRow("input ends early")
+            << QByteArray("<a> <b/> <c> <d> x") << QStringLiteral("<a><b/><c><d> x</d></c></a>");
+    }
+    void whiteSpace()
+    {
+        QFETCH(QByteArray, xml);
+        QTEST(rootText(xml), "text");
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("empty") << QByteArray("") << QStringLiteral("is empty");
+        QTest::newRow("no XML") << QByteArray("Just a letter.\n") << QStringLiteral("no XML root element");
+        QTest::newRow("binary") << QByteArray("\0\x01\x02\xff\xfe", 5).repeated(100)
+                                << QStringLiteral("cannot be opened as a project");
+        QTest::newRow("no root") << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE xmeml>")
+                                 << QStringLiteral("no XML root element");
+        QTest::newRow("too deep") << nested(1001) << QStringLiteral("nested more than 1000 deep");
+        QTest::newRow("far too deep") << nested(200000) << QStringLiteral("nested more than 1000 deep");
+    }
+    void refusals()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, words);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p.xml"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        const auto document = XmlDocument::fromFile(path, {});
+        QVERIFY(!document);
+        QVERIFY2(document.message().contains(words), qPrintable(document.message()));
+        QVERIFY(document.message().contains(path));
+    }
+
+    void refusesWhatIsNoFile()
+    {
+        QTemporaryDir folder;
+        QVERIFY(XmlDocument::fromFile(folder.path(), {}).message().contains(QStringLiteral("is a folder")));
+        QVERIFY(XmlDocument::fromFile(folder.filePath(QStringLiteral("x")), {})
+                    .message()
+                    .contains(QStringLiteral("does not exist")));
+    }
+
+    void opensTheDeepestThatIsAllowed() { QVERIFY(parsed(nested(1000))); }
+
+    void encodings_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        const QString text = QStringLiteral("<xmeml><name>Üß 片 \U0001F3AC</name></xmeml>");
+        QTest::newRow("no declaration") << text.toUtf8();
+        QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF") + text.toUtf8();
+        QByteArray utf16("\xFF\xFE", 2);
+        for (const QChar unit : text) {
+            utf16 += char(unit.unicode() & 0xFF);
+            utf16 += char(unit.unicode() >> 8);
+        }
+        QTest::newRow("UTF-16, little end first") << utf16;
+        for (qsizetype i = 0; i < utf16.size(); i += 2)
+            std::swap(utf16[i], utf16[i + 1]);
+        QTest::newRow("UTF-16, big end first") << utf16;
+        QTest::newRow("mixed line ends")
+            << QByteArray("<?xml version=\"1.0\"?>\r\n<!DOCTYPE xmeml>\n\r") + text.toUtf8();
+    }
+    void encodings()
+    {
+        QFETCH(QByteArray, xml);
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QVERIFY(!document->wasRepaired());
+        const QString name = QStringLiteral("Üß 片 \U0001F3AC");
+        QCOMPARE(QVXMLParser::nameForNode(document->rootElement()).value_or(QString()), name);
+        const auto again = parsed(saved(*document));
+        QVERIFY(again);
+        QCOMPARE(QVXMLParser::nameForNode(again->rootElement()).value_or(QString()), name);
+    }
+
+    void declaresUtf8WhereNothingWasDeclared()
+    {
+        const auto document = parsed("<xmeml>é</xmeml>");
+        QCOMPARE(saved(*document),
+                 QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xmeml>é</xmeml>\n"));
+    }
+
+    void repairs_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("repaired");
+        QTest::newRow("well-formed") << QByteArray("<a>x</a>") << QStringLiteral("<a>x</a>") << false;
+        QTest::newRow("unbound prefix")
+            << QByteArray("<a MZ:b=\"1\"/>") << QStringLiteral("<a MZ:b=\"1\"/>") << false;
+        QTest::newRow("unclosed") << QByteArray("<a><b>x") << QStringLiteral("<a><b>x</b></a>") << true;
+        QTest::newRow("bare ampersand")
+            << QByteArray("<a>x & y</a>") << QStringLiteral("<a>x  y</a>") << true;
+        QTest::newRow("forbidden character")
+            << QByteArray("<a>x\x01y</a>") << QStringLiteral("<a>xy</a>") << true;
+        QTest::newRow("entity in text") << QByteArray("<!DOCTYPE a [<!ENTITY e \"boom\">]><a>x&e;y</a>")
+                                        << QStringLiteral("<a>xy</a>") << true;
+        QTest::newRow("entity in an attribute")
+            << QByteArray("<!DOCTYPE a [<!ENTITY e \"boom\">]><a b=\"x&e;y\"/>")
+            << QStringLiteral("<a b=\"xy\"/>") << true;
+        QTest::newRow("default of an attribute")
+            << QByteArray("<!DOCTYPE a [<!ATTLIST a b CDATA \"boom\">]><a/>") << QStringLiteral("<a/>")
+            << false;
+    }
+    void repairs()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(bool, repaired);
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QTEST(XmlDocument::textOfElement(document->rootElement()), "text");
+        QCOMPARE(document->wasRepaired(), repaired);
+        QCOMPARE(document->firstFault().isEmpty(), !repaired);
+        QVERIFY(parsed(saved(*document), false));
+        QCOMPARE(bool(parsed(xml, false)), !repaired);
+    }
+
+    void entitiesNeitherGrowNorReadFiles()
+    {
+        QByteArray bomb("<!DOCTYPE a [<!ENTITY e0 \"0123456789\">");
+        for (int i = 1; i < 30; ++i) {
+            const QByteArray previous = "&e" + QByteArray::number(i - 1) + ";";
+            bomb += "<!ENTITY e" + QByteArray::number(i) + " \"" + previous.repeated(10) + "\">";
+        }
+        const auto document = parsed(bomb + "]><a b=\"&e29;\">&e29;</a>");
+        QVERIFY(document);
+        QVERIFY(saved(*document).size() < 10000);
+
+        QTemporaryDir folder;
+        QFile secret(folder.filePath(QStringLiteral("secret")));
+        QVERIFY(secret.open(QIODevice::WriteOnly));
+        secret.write("SECRET");
+        secret.close();
+        const QByteArray url = "file://" + secret.fileName().toUtf8();
+        const auto outside = parsed("<!DOCTYPE a SYSTEM \"" + url + "\" [<!ENTITY % p SYSTEM \"" + url +
+                                    "\"> %p; <!ENTITY e SYSTEM \"" + url + "\">]><a>&e;</a>");
+        QVERIFY(outside);
+        QVERIFY(!saved(*outside).contains("SECRET"));
+    }
+
+    void textComesBackAsItWasSet_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("markup") << QStringLiteral("a & b < c > \"d\" 'e' &amp; ]]> <!-- <b/>");
+        QTest::newRow("line breaks") << QStringLiteral("one\ntwo\r\nthree\rfour\ttab");
+        QTest::newRow("white space alone") << QStringLiteral(" \n ");
+        QTest::newRow("empty") << QStringLiteral("");
+        QTest::newRow("beyond the basic plane") << QStringLiteral("\U0001F3AC 片");
+        QTest::newRow("long") << QStringLiteral("0123456789").repeated(10000);
+    }
+    void textComesBackAsItWasSet()
+    {
+        QFETCH(QString, text);
+        const auto document = parsed("<a><b>old</b><c/></a>");
+        const XmlNode b = document->rootElement().childElement("b");
+        XmlEdit::setText(b, text);
+        const XmlNode added = XmlEdit::appendElement(document->rootElement(), QStringLiteral("d"), text);
+        QVERIFY(added);
+        const auto again = parsed(saved(*document), false);
+        QVERIFY(again);
+        QCOMPARE(again->rootElement().childElement("b").stringValue(), text);
+        QCOMPARE(again->rootElement().childElement("d").stringValue(), text);
+    }
+
+    void forbiddenCharactersAreDropped()
+    {
+        const auto document = parsed("<a/>");
+        const QString text =
+            QStringLiteral("x") + QChar(1) + QChar(0xD83C) + QStringLiteral("y") + QChar(0xFFFF);
+        XmlEdit::setText(document->rootElement(), text);
+        QCOMPARE(document->rootElement().stringValue(), QStringLiteral("xy"));
+        QVERIFY(parsed(saved(*document), false));
+    }
+
+    void removedElementsStayUsable()
+    {
+        const auto document = parsed("<a><b><c>x</c></b><d/></a>");
+        const XmlNode root = document->rootElement();
+        const XmlNode b = root.childElement("b");
+        const XmlNode c = b.childElement("c");
+        document->remove(b);
+        document->remove(b);
+        QVERIFY(!c.isAttached());
+        XmlEdit::setText(c, QStringLiteral("edited"));
+        QCOMPARE(XmlDocument::textOfElement(root), QStringLiteral("<a><d/></a>"));
+        QVERIFY(document->moveTo(b, root.childElement("d")));
+        QCOMPARE(XmlDocument::textOfElement(root), QStringLiteral("<a><d><b><c>edited</c></b></d></a>"));
+        QVERIFY(!document->moveTo(root.childElement("d"), c));
+        // Replacing what an element holds keeps the elements that it held.
+        XmlEdit::setText(b, QStringLiteral("flat"));
+        QCOMPARE(c.stringValue(), QStringLiteral("edited"));
+        XmlNode copy = document->copyOfElement(root);
+        XmlEdit::setOnlyAttribute(copy, QStringLiteral("id"), QStringLiteral("1"));
+        QCOMPARE(XmlDocument::textOfElement(copy), QStringLiteral("<a id=\"1\"><d><b>flat</b></d></a>"));
+        QVERIFY(root.attribute("id").isNull());
+    }
+
+    void fragments()
+    {
+        const auto document = parsed("<a/>");
+        const Result<XmlNode> element =
+            document->elementFromText(QStringLiteral("<m><n>é&#233;&amp;</n></m>"));
+        QVERIFY(element);
+        QVERIFY(document->moveTo(element.value(), document->rootElement()));
+        QCOMPARE(document->rootElement().childElement("m").stringValue(), QStringLiteral("éé&"));
+        for (const char *bad : {"<m><n>a < b</n></m>", "<m>&#55357;</m>", "", "text", "<a/><b/>"}) {
+            const Result<XmlNode> refused = document->elementFromText(QString::fromUtf8(bad));
+            QVERIFY2(!refused && !refused.message().isEmpty(), bad);
+        }
+    }
+
+    void locationPaths()
+    {
+        const auto document = parsed("<x><s/><t/><s><m/><m><k>1</k></m></s></x>");
+        const XmlNode k = document->rootElement().lastChild().lastChild().firstChild();
+        QCOMPARE(k.locationPath(), QStringLiteral("/x[1]/s[2]/m[2]/k[1]"));
+        XmlLocationPaths paths;
+        QCOMPARE(paths.pathOf(k), k.locationPath());
+        QCOMPARE(paths.pathOf(document->rootElement().firstChild()), QStringLiteral("/x[1]/s[1]"));
+        document->remove(k.parent());
+        XmlLocationPaths later;
+        QVERIFY(later.pathOf(k).isNull());
+    }
+
+    void savesWholeOrNotAtAll()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p.xml"));
+        const auto document = parsed("<a>\n<b>x</b></a>");
+        QVERIFY(document->save(path));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QCOMPARE(content, QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n  <b>x</b>\n</a>\n"));
+        const Result<void> refused = document->save(folder.filePath(QStringLiteral("none/p.xml")));
+        QVERIFY(!refused);
+        QVERIFY(!refused.message().isEmpty());
+        if (QFile::exists(QStringLiteral("/dev/full")))
+            QVERIFY(!document->save(QStringLiteral("/dev/full")));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("p.xml")));
+    }
+
+    void everyLengthOfTextIsKept()
+    {
+        QString xml(QStringLiteral("<a>"));
+        for (int length = 1; length <= 260; ++length) {
+            const QString text = QString(length, QLatin1Char(char('a' + length % 26)));
+            xml +=
+                QStringLiteral("<b id=\"%1\"><c>%1</c><!--%1--><?p %1?></b><d><![CDATA[%1]]></d>").arg(text);
+        }
+        xml += QStringLiteral("</a>");
+        const auto document = parsed(xml.toUtf8());
+        const auto again = parsed(XmlDocument::textOfElement(document->rootElement()).toUtf8());
+        QCOMPARE(XmlDocument::textOfElement(document->rootElement()), xml);
+        QCOMPARE(XmlDocument::textOfElement(again->rootElement()), xml);
+        const XmlNode copy = document->copyOfElement(document->rootElement());
+        QCOMPARE(XmlDocument::textOfElement(copy), xml);
+    }
+
+    void aCancelledParseGivesNothing()
+    {
+        const std::atomic<bool> cancelled = true;
+        QVERIFY(!XmlDocument::fromData("<a><b/></a>", {true, &cancelled}));
+    }
+};
+
+QTEST_GUILESS_MAIN(XmlDocumentTest)
+#include "tst_xmldocument.moc"

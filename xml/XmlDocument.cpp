@@ -1,0 +1,228 @@
+#include "xml/XmlDocument.h"
+
+#include "support/FileUtilities.h"
+#include "xml/TreeMemory.h"
+#include "xml/XmlFile.h"
+#include "xml/XmlParse.h"
+
+#include <libxml/parser.h>
+#include <libxml/xmlsave.h>
+
+#include <QBuffer>
+
+#include <algorithm>
+#include <cstring>
+
+namespace vantrell
+{
+
+namespace
+{
+
+xmlDoc *treeOf(XmlNode document)
+{
+    return reinterpret_cast<xmlDoc *>(document.handle());
+}
+
+int writeToDevice(void *device, const char *buffer, int length)
+{
+    return static_cast<QIODevice *>(device)->write(buffer, length) == length ? length : -1;
+}
+
+struct SaveDeleter {
+    void operator()(xmlSaveCtxt *context) const { xmlSaveClose(context); }
+};
+using SavePointer = std::unique_ptr<xmlSaveCtxt, SaveDeleter>;
+
+QString faultText(const ParseOutcome &outcome)
+{
+    return outcome.firstError.isEmpty() ? QStringLiteral("nothing in it can be read") : outcome.firstError;
+}
+
+} // namespace
+
+void XmlDocument::TreeDeleter::operator()(_xmlNode *document) const
+{
+    xmlFreeDoc(reinterpret_cast<xmlDoc *>(document));
+}
+
+Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, const LoadOptions &options)
+{
+    const Result<std::shared_ptr<XmlFile>> file = XmlFile::open(path);
+    if (!file)
+        return file.failure();
+    ParseRequest request;
+    request.read = [input = file.value()](char *buffer, int length) { return input->read(buffer, length); };
+    request.tolerant = options.tolerant;
+    request.cancelled = options.cancelled;
+    Result<std::unique_ptr<XmlDocument>> document = parse(request);
+    if (!document)
+        return Failure{QStringLiteral("The file \"%1\" cannot be opened as a project: %2")
+                           .arg(path, document.message())};
+    return document;
+}
+
+Result<std::unique_ptr<XmlDocument>> XmlDocument::fromData(const QByteArray &data, const LoadOptions &options)
+{
+    ParseRequest request;
+    qsizetype position = 0;
+    request.read = [&](char *buffer, int length) {
+        const qsizetype count = std::min<qsizetype>(length, data.size() - position);
+        std::memcpy(buffer, data.constData() + position, std::size_t(count));
+        position += count;
+        return int(count);
+    };
+    request.tolerant = options.tolerant;
+    request.cancelled = options.cancelled;
+    return parse(request);
+}
+
+Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &request)
+{
+    std::unique_ptr<XmlDocument> document(new XmlDocument);
+    document->m_arena = std::make_unique<TreeMemory::Arena>();
+    const ParseOutcome outcome = parseXml(request, *document->m_arena);
+    document->m_tree.reset(reinterpret_cast<xmlNode *>(outcome.tree));
+    if (outcome.tree)
+        outcome.tree->_private = document.get();
+    document->m_repaired = outcome.repaired;
+    document->m_firstFault = outcome.firstError;
+    if (outcome.cancelled)
+        return Failure{QStringLiteral("loading was cancelled.")};
+    if (outcome.readFailed)
+        return Failure{QStringLiteral("reading it failed before its end.")};
+    if (outcome.tooDeep) {
+        return Failure{QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
+    }
+    if (!outcome.tree)
+        return Failure{QStringLiteral("it is not well-formed XML (%1).").arg(faultText(outcome))};
+    if (!document->rootElement())
+        return Failure{QStringLiteral("it holds no XML root element (%1).").arg(faultText(outcome))};
+    return document;
+}
+
+XmlDocument::~XmlDocument()
+{
+    for (const XmlNode parked : m_parked)
+        xmlFreeNode(parked.handle());
+}
+
+XmlNode XmlDocument::node() const
+{
+    return XmlNode(m_tree.get());
+}
+
+XmlNode XmlDocument::rootElement() const
+{
+    return m_tree ? XmlNode(xmlDocGetRootElement(treeOf(node()))) : XmlNode();
+}
+
+Result<void> XmlDocument::save(const QString &path) const
+{
+    return FileUtilities::writeAtomically(path, [this](QIODevice &device) { return write(device); });
+}
+
+Result<void> XmlDocument::write(QIODevice &device) const
+{
+    const char *encoding = reinterpret_cast<const char *>(treeOf(node())->encoding);
+    SavePointer save;
+    if (encoding)
+        save.reset(xmlSaveToIO(writeToDevice, nullptr, &device, encoding, XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+    if (!save)
+        save.reset(xmlSaveToIO(writeToDevice, nullptr, &device, "UTF-8", XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+    const bool saved = save && xmlSaveDoc(save.get(), treeOf(node())) >= 0 && xmlSaveFlush(save.get()) >= 0;
+    if (!saved)
+        return Failure{device.errorString()};
+    return {};
+}
+
+QString XmlDocument::textOfElement(XmlNode element)
+{
+    if (!element.isElement())
+        return QString();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        const SavePointer save(
+            xmlSaveToIO(writeToDevice, nullptr, &buffer, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
+        if (!save || xmlSaveTree(save.get(), element.handle()) < 0)
+            return QString();
+    }
+    return QString::fromUtf8(buffer.data());
+}
+
+Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
+{
+    const QByteArray utf8 = xml.toUtf8();
+    const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt *)> context(xmlNewParserCtxt(),
+                                                                            xmlFreeParserCtxt);
+    if (!context)
+        return Failure{QStringLiteral("There is not enough memory.")};
+    const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> parsed(
+        xmlCtxtReadMemory(context.get(), utf8.constData(), int(utf8.size()), nullptr, "UTF-8",
+                          XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
+        xmlFreeDoc);
+    const xmlNode *root = parsed ? xmlDocGetRootElement(parsed.get()) : nullptr;
+    if (!root) {
+        const xmlError *error = xmlCtxtGetLastError(context.get());
+        const QString text =
+            error && error->message ? QString::fromUtf8(error->message).simplified() : QString();
+        return Failure{text.isEmpty() ? QStringLiteral("The text is no XML element.") : text};
+    }
+    const XmlNode copy(xmlDocCopyNode(const_cast<xmlNode *>(root), treeOf(node()), 1));
+    park(copy);
+    return copy;
+}
+
+XmlNode XmlDocument::copyOfElement(XmlNode element)
+{
+    if (!element.isElement())
+        return XmlNode();
+    const XmlNode copy(xmlDocCopyNode(element.handle(), treeOf(node()), 1));
+    park(copy);
+    return copy;
+}
+
+void XmlDocument::discardCopy(XmlNode copy)
+{
+    if (m_parked.erase(copy) > 0)
+        xmlFreeNode(copy.handle());
+}
+
+void XmlDocument::remove(XmlNode element)
+{
+    if (!element.isElement() || !element.parent())
+        return;
+    noteChange();
+    xmlUnlinkNode(element.handle());
+    park(element);
+}
+
+bool XmlDocument::moveTo(XmlNode element, XmlNode parent)
+{
+    if (!element.isElement() || !parent.isElement())
+        return false;
+    for (XmlNode up = parent; up; up = up.parent()) {
+        if (up == element)
+            return false;
+    }
+    noteChange();
+    xmlUnlinkNode(element.handle());
+    m_parked.erase(element);
+    xmlAddChild(parent.handle(), element.handle());
+    return true;
+}
+
+XmlDocument *XmlDocument::owning(XmlNode node)
+{
+    const xmlDoc *tree = node ? node.handle()->doc : nullptr;
+    return tree ? static_cast<XmlDocument *>(tree->_private) : nullptr;
+}
+
+void XmlDocument::park(XmlNode element)
+{
+    if (element)
+        m_parked.insert(element);
+}
+
+} // namespace vantrell

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "xml/XmlNode.h"
+
+#include <QString>
+
+namespace vantrell
+{
+
+/// Changes to single elements, attached or not. Text is set as typed: nothing in it is read as markup;
+/// characters that XML forbids are dropped and logged. A null element is left alone.
+namespace XmlEdit
+{
+
+/// Makes the text all that the element holds. Elements that it held are kept outside the tree.
+void setText(XmlNode element, const QString &text);
+
+/// Appends a new element of that name with that text as the parent's last child; null without a parent
+/// or when the name is none that XML allows.
+XmlNode appendElement(XmlNode parent, const QString &name, const QString &text);
+
+/// Makes the one attribute all that the element has.
+void setOnlyAttribute(XmlNode element, const QString &name, const QString &value);
+
+} // namespace XmlEdit
+} // namespace vantrell

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/Result.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace vantrell
+{
+
+/// A file opened for one sequential read of what it held when it was opened: bytes that another program
+/// appends meanwhile are not part of it, and one that shrinks or goes away ends early.
+class XmlFile
+{
+public:
+    /// The failure says why the file cannot be read as a project.
+    static Result<std::shared_ptr<XmlFile>> open(const QString &path);
+    ~XmlFile();
+    XmlFile(const XmlFile &) = delete;
+    XmlFile &operator=(const XmlFile &) = delete;
+
+    /// Up to \a length bytes; 0 at the end, -1 on a failed read.
+    int read(char *buffer, int length);
+
+private:
+    XmlFile() = default;
+
+    int m_descriptor = -1;
+    long long m_remaining = -1; ///< bytes; -1 for what has no size, such as a pipe
+};
+
+} // namespace vantrell

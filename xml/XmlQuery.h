@@ -1,0 +1,79 @@
+#pragma once
+
+#include "xml/XmlNode.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrell
+{
+
+/// One compiled query: location paths with child, descendant and attribute steps, parent steps at the
+/// start and the end, and the predicates [n], [@name="text"] and [text()="text"]; alternatives are
+/// joined by "|", also inside a parenthesised step such as (clipitem | clip). Such a query is answered
+/// in one walk that gives the nodes in document order, each once, and ends as soon as the wanted
+/// number is found; its cost is that of the nodes that it looks at. Whatever else XPath 1.0 has goes
+/// to the XML library's evaluator. Immutable; any thread.
+class XmlQuery
+{
+public:
+    /// Compiles. Never fails: a query that is no XPath answers every evaluation with its error.
+    explicit XmlQuery(const QString &text);
+
+    /// The query compiled on its first use in the process and kept; for texts without data in them.
+    static std::shared_ptr<const XmlQuery> compiled(const QString &text);
+
+    struct Answer {
+        XmlNodeList nodes;
+        QString error; ///< empty when the evaluation went well
+    };
+
+    /// The nodes found from the context, at most \a limit of them (0: all). A null context finds
+    /// nothing.
+    Answer evaluate(XmlNode context, std::size_t limit = 0) const;
+
+    /// The first node found, or null.
+    XmlNode first(XmlNode context) const;
+
+    /// The string value of the first node found; nothing when there is none.
+    std::optional<QString> firstText(XmlNode context) const;
+
+private:
+    friend class XmlQueryParser;
+    friend class XmlQueryWalk;
+
+    enum class Axis { Child, Attribute };
+    enum class Test { Name, AnyElement, Text, AnyNode };
+
+    struct Predicate {
+        enum class Kind { Position, AttributeEquals, TextEquals } kind;
+        std::int64_t position = 0; ///< 1-based
+        std::string name;          ///< of the attribute
+        std::string literal;       ///< UTF-8
+    };
+
+    struct Step {
+        bool anywhere = false; ///< reached by "//": below the context at any depth
+        Axis axis = Axis::Child;
+        Test test = Test::Name;
+        std::vector<std::string> names;
+        std::vector<Predicate> predicates;
+    };
+
+    struct Path {
+        bool absolute = false;
+        int parents = 0; ///< leading ".." steps
+        std::vector<Step> steps;
+        int trailingParents = 0; ///< ".." steps at the end
+    };
+
+    std::vector<Path> m_paths;                                ///< when the walk can answer it
+    std::shared_ptr<const class XmlQueryFallback> m_fallback; ///< when it cannot
+};
+
+} // namespace vantrell

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "xml/XmlQuery.h"
+
+#include <mutex>
+
+struct _xmlXPathCompExpr;
+
+namespace vantrell
+{
+
+/// A query that the XML library evaluates: compiled once, evaluated by one thread at a time. A
+/// parenthesised step of names, which XPath 1.0 lacks, is rewritten as the union of the full paths.
+class XmlQueryFallback
+{
+public:
+    explicit XmlQueryFallback(const QString &text);
+    ~XmlQueryFallback();
+    XmlQueryFallback(const XmlQueryFallback &) = delete;
+    XmlQueryFallback &operator=(const XmlQueryFallback &) = delete;
+
+    XmlQuery::Answer evaluate(XmlNode context) const;
+
+    /// The query with each parenthesised step of names multiplied out; a text without one unchanged.
+    static QString withoutParenthesisedSteps(const QString &text);
+
+private:
+    mutable std::mutex m_mutex; // guards the compiled expression during an evaluation
+    _xmlXPathCompExpr *m_expression = nullptr;
+    QString m_error;
+};
+
+} // namespace vantrell
