@@ -1,0 +1,115 @@
+// The loading side of MyDocument: what runs on the loader and the inventory threads.
+
+#include "document/MyDocument.h"
+
+#include "support/QVAlert.h"
+#include "support/QVException.h"
+#include "support/QVLog.h"
+#include "support/Workspace.h"
+#include "xml/XmlQuery.h"
+
+namespace vantrell
+{
+
+bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
+{
+    QVLog::appendLog(u"type name: %@", typeName);
+    const bool known = typeName == DocumentType::finalCutProProject ||
+                       typeName == DocumentType::finalCutProXMLFile || typeName == DocumentType::publicXML;
+    if (!known) {
+        QVLog::appendLogAndPrint(u"Error loading document: wrong type");
+        return false;
+    }
+    m_fileURL = url;
+    m_loader = std::thread([this, typeName, url] {
+        guarded("-[MyDocument loadProjectWithSettings:]", [&] { loadProjectWithSettings(typeName, url); });
+    });
+    return true;
+}
+
+void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &url)
+{
+    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+        setPopulating(tab, true);
+        m_mainThread->runAndWait([this, tab] { m_interface.startSpinner(tab); });
+    }
+    if (!loadTree(typeName, url))
+        return;
+    static const XmlQuery sequence(QStringLiteral("./xmeml[1]/sequence[1]"));
+    m_xmlType = sequence.first(xmlNode()) ? 1 : 0;
+    if (m_xmlType == 1)
+        QVLog::appendLog(u"XML type: sequence");
+    else
+        QVLog::appendLog(u"XML type: project");
+    populateSequences();
+    QString notice;
+    if (m_xmlDoc->wasRepaired()) {
+        notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
+                     .arg(url.toLocalFile(), m_xmlDoc->firstFault());
+        QVLog::appendLog(u"%@", notice);
+    }
+    m_mainThread->runAndWait([this, &notice] { m_interface.loadFinished(true, QString(), notice); });
+    runInventories();
+}
+
+bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
+{
+    auto parsed = [&]() -> std::optional<Result<std::unique_ptr<XmlDocument>>> {
+        if (typeName != DocumentType::finalCutProProject)
+            return XmlDocument::fromFile(url.toLocalFile(), {true, &m_closing});
+        if (Workspace::applicationPathForBundleIdentifier(QStringLiteral("com.apple.FinalCutPro"))
+                .isEmpty()) {
+            QVAlert::alertSheetWithMessageText(
+                QStringLiteral("Unable to load project"),
+                QStringLiteral("Final Cut Pro 7 is not installed on this system."),
+                m_interface.alertParent());
+            return std::nullopt;
+        }
+        const std::optional<QByteArray> data =
+            m_services.projectXMLData ? m_services.projectXMLData(url.toLocalFile()) : std::nullopt;
+        if (!data)
+            return std::nullopt;
+        return XmlDocument::fromData(*data, {false, &m_closing});
+    }();
+    if (!parsed) {
+        failLoading(QString());
+        return false;
+    }
+    m_isFCPProject = typeName == DocumentType::finalCutProProject;
+    m_isPremiereProject = false;
+    if (!*parsed) {
+        if (!isClosing())
+            QVLog::appendLogAndPrint(u"Error loading document: %@", parsed->message());
+        m_xmlDoc.reset();
+        failLoading(parsed->message());
+        return false;
+    }
+    m_xmlDoc = std::move(parsed->value());
+    return true;
+}
+
+void MyDocument::failLoading(const QString &message)
+{
+    m_mainThread->runAndWait([this, &message] { m_interface.loadFinished(false, message, QString()); });
+}
+
+void MyDocument::runInventories()
+{
+    m_runningInventories = int(m_services.inventoryBuilders.size());
+    if (m_runningInventories == 0) {
+        for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
+            setPopulating(tab, false);
+        m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+        return;
+    }
+    for (const auto &builder : m_services.inventoryBuilders) {
+        m_inventories.emplace_back([this, &builder] {
+            if (!isClosing())
+                guarded("inventory", [&] { builder(*this); });
+            if (--m_runningInventories == 0)
+                m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+        });
+    }
+}
+
+} // namespace vantrell

@@ -1,0 +1,225 @@
+#include "document/MyDocument.h"
+
+#include "support/QVAlert.h"
+#include "support/QVLog.h"
+#include "timecode/QVTimecode.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlQuery.h"
+
+#include <QFileInfo>
+
+namespace vantrell
+{
+
+MyDocument::MyDocument(DocumentInterface &interface, Services services)
+    : m_interface(interface)
+    , m_services(std::move(services))
+    , m_mainThread(std::make_shared<MainThreadGate>())
+    , m_sequenceMenu(std::make_shared<Menu>(Menu{{QStringLiteral("(none)"), QString(), XmlNode()}}))
+{
+}
+
+MyDocument::~MyDocument()
+{
+    close();
+}
+
+void MyDocument::close()
+{
+    m_closing = true;
+    m_mainThread->close();
+    if (m_loader.joinable())
+        m_loader.join();
+    for (std::thread &inventory : m_inventories) {
+        if (inventory.joinable())
+            inventory.join();
+    }
+}
+
+Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
+{
+    if (typeName == DocumentType::finalCutProProject) {
+        if (m_services.sendToFCP)
+            m_services.sendToFCP(*this);
+        return Failure{QStringLiteral("The project was sent to Final Cut Pro instead of being saved.")};
+    }
+    if (!m_xmlDoc)
+        return Failure{QStringLiteral("There is no project to save.")};
+    const QString path = url.toLocalFile();
+    if (!confirmSavingRepaired(path))
+        return Failure{SaveFailure::notOverwritten};
+    const Result<void> saved = m_xmlDoc->save(path);
+    if (saved) {
+        m_isFCPProject = false;
+        m_isPremiereProject = false;
+    }
+    return saved;
+}
+
+void MyDocument::setFileURL(const QUrl &url)
+{
+    m_fileURL = url;
+    m_fileIsOurs = true;
+}
+
+bool MyDocument::confirmSavingRepaired(const QString &path)
+{
+    const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
+    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs || !overItself || !QFileInfo::exists(path))
+        return true;
+    const int answer = QVAlert::alertSheetWithMessageText(
+        QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),
+        QStringLiteral("Cancel"), QString(),
+        QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?"),
+        m_interface.alertParent(), true);
+    return answer == AlertAnswer::Default;
+}
+
+std::optional<QString> MyDocument::valueForXPath(const QString &query, XmlNode parentNode)
+{
+    const XmlNode node = QVXMLParser::nodeForQuery(query, parentNode);
+    if (!node)
+        return std::nullopt;
+    return node.stringValue();
+}
+
+void MyDocument::populateSequences()
+{
+    static const XmlQuery single(QStringLiteral("./xmeml[1]/sequence[1]"));
+    static const XmlQuery inProject(QStringLiteral("./xmeml[1]/project[1]/children[1]//sequence"));
+    auto menu = std::make_shared<Menu>();
+    menu->push_back({QStringLiteral("(none)"), QString(), XmlNode()});
+    const XmlQuery &query = m_xmlType == 1 ? single : inProject;
+    for (const XmlNode sequence : query.evaluate(xmlNode()).nodes) {
+        const QString title = QVXMLParser::nameForNode(sequence).value_or(QStringLiteral("Unknown sequence"));
+        menu->push_back({title, QStringLiteral("sequence"), sequence});
+    }
+    {
+        const std::lock_guard lock(m_lock);
+        m_sequenceMenu = menu;
+    }
+    m_mainThread->runAndWait([this, &menu] { m_interface.setSequenceMenu(menu); });
+}
+
+MenuPtr MyDocument::sequenceMenu() const
+{
+    const std::lock_guard lock(m_lock);
+    return m_sequenceMenu;
+}
+
+MenuPtr MyDocument::clipMenuForSequence(XmlNode sequence)
+{
+    const std::lock_guard lock(m_lock);
+    return m_clipMenus.menuForSequence(sequence);
+}
+
+std::shared_ptr<const QStringList> MyDocument::clipIDsForSequence(XmlNode sequence)
+{
+    const std::lock_guard lock(m_lock);
+    return m_clipMenus.idsForSequence(sequence);
+}
+
+QString MyDocument::timecodeFromFrameCount(std::int32_t frames, const RowRecord &object)
+{
+    return QVTimecode::timecodeFromFrameCount(
+        quint64(qint64(frames)), object.get(TimecodeKey::timebase), object.get(TimecodeKey::ntsc),
+        object.get(TimecodeKey::dropFrame), quint64(object.get(TimecodeKey::startFrame)));
+}
+
+std::int64_t MyDocument::frameCountFromTimecode(const QString &timecode, const RowRecord &object)
+{
+    return std::int64_t(QVTimecode::frameCountFromTimecode(
+        timecode, object.get(TimecodeKey::timebase), object.get(TimecodeKey::ntsc),
+        object.get(TimecodeKey::dropFrame), quint64(object.get(TimecodeKey::startFrame))));
+}
+
+void MyDocument::setListOf(Tab tab, RowList rows)
+{
+    m_lists[std::size_t(tab)] = std::move(rows);
+}
+
+void MyDocument::appendToListOf(Tab tab, RowRecordPtr row)
+{
+    m_lists[std::size_t(tab)].push_back(std::move(row));
+}
+
+const RowList &MyDocument::rowsOnShow(Tab tab) const
+{
+    static const RowList none;
+    return tab == m_tableTab ? m_tableArray : none;
+}
+
+void MyDocument::setTableArray(Tab tab, RowList rows)
+{
+    m_interface.tableWillReload();
+    m_tableTab = tab;
+    m_tableArray = std::move(rows);
+    m_waitingTableRows.clear();
+    m_interface.tableDidReload();
+}
+
+void MyDocument::appendToTableArray(RowRecordPtr row)
+{
+    ++m_tableUpdates;
+    m_waitingTableRows.push_back(std::move(row));
+    endTableUpdates();
+}
+
+void MyDocument::endTableUpdates()
+{
+    if (--m_tableUpdates > 0 || m_waitingTableRows.empty())
+        return;
+    m_interface.tableWillReload();
+    m_tableArray.insert(m_tableArray.end(), m_waitingTableRows.begin(), m_waitingTableRows.end());
+    m_waitingTableRows.clear();
+    m_interface.tableDidReload();
+}
+
+void MyDocument::addModifiedSequenceUUID(const QString &uuid)
+{
+    if (!m_modifiedSequenceUUIDs)
+        m_modifiedSequenceUUIDs.emplace();
+    m_modifiedSequenceUUIDs->append(uuid);
+    m_modifiedSet.insert(uuid);
+}
+
+void MyDocument::clearModifiedSequenceUUIDs()
+{
+    m_modifiedSequenceUUIDs.reset();
+    m_modifiedSet.clear();
+}
+
+void MyDocument::updateChangeCount()
+{
+    ++m_changeCount;
+    if (m_changeCount == 1)
+        m_interface.setEdited(true);
+}
+
+void MyDocument::clearChangeCount()
+{
+    m_changeCount = 0;
+    m_interface.setEdited(false);
+}
+
+void MyDocument::startProgress()
+{
+    m_mainThread->runAndWait([this] { m_interface.startProgress(); });
+}
+
+void MyDocument::updateProgressLabel(const QString &text)
+{
+    m_mainThread->runAndWait([this, &text] { m_interface.updateProgressLabel(text); });
+}
+
+void MyDocument::endProgress()
+{
+    m_mainThread->runAndWait([this] { m_interface.endProgress(); });
+}
+
+void MyDocument::cancelProgress()
+{
+    endProgress();
+}
+
+} // namespace vantrell

@@ -1,0 +1,237 @@
+#pragma once
+
+#include "document/ClipMenus.h"
+#include "document/DocumentInterface.h"
+#include "document/Menu.h"
+#include "document/RowRecord.h"
+#include "support/MainThread.h"
+#include "support/Result.h"
+#include "xml/XmlDocument.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+namespace vantrell
+{
+
+/// Names of the document types that the program opens.
+namespace DocumentType
+{
+inline const QString finalCutProProject = QStringLiteral("Final Cut Pro Project");
+inline const QString finalCutProXMLFile = QStringLiteral("Final Cut Pro XML File");
+inline const QString publicXML = QStringLiteral("public.xml");
+} // namespace DocumentType
+
+/// Keys of the timecode parameters that every record with a time carries.
+namespace TimecodeKey
+{
+inline const TypedKey<bool> ntsc(u"ntsc");
+inline const TypedKey<bool> dropFrame(u"dropFrame");
+inline const TypedKey<std::int64_t> timebase(u"timebase");
+inline const TypedKey<std::int64_t> startFrame(u"startFrame");
+} // namespace TimecodeKey
+
+/// Why saving failed, where the program must know it.
+namespace SaveFailure
+{
+/// The user did not want the damaged file to be replaced.
+inline const QString notOverwritten = QStringLiteral("The repaired file was not overwritten.");
+} // namespace SaveFailure
+
+/// What the tabs show of their lists, as the user last chose it. Main thread.
+struct ViewState {
+    Tab selectedTab = Tab::Media;
+    int markerFilter = 0; ///< 0 all, k the colour index k-1
+    int mediaKind = 0;    ///< 0 all, 1 movies, 2 audio, 3 images
+    QString mediaDrive;   ///< path of the chosen drive; null for all drives
+    int effectType = 0;   ///< item of the type pop-up
+    bool effectShowDefaults = false;
+    QString effectSearch;
+};
+
+/// One open project: its tree, what the tabs show of it, and what the user changed in it.
+///
+/// Loading runs on threads of its own: the loader parses, builds the sequence menu and starts the
+/// inventories side by side. Until all of them have ended the tree is only read; after that it belongs
+/// to the main thread. Unless a member says otherwise it is for the main thread.
+class MyDocument
+{
+public:
+    /// What the document needs of the folders above it.
+    struct Services {
+        /// Fills one list each; every one runs on a thread of its own and looks at isClosing() between
+        /// units of work.
+        std::vector<std::function<void(MyDocument &)>> inventoryBuilders;
+        /// The XML of a project that the editing application holds, launching it when needed; nothing
+        /// when there is none. Called on the loader thread.
+        std::function<std::optional<QByteArray>(const QString &projectPath)> projectXMLData;
+        /// Sends the changed sequences to the editing application.
+        std::function<void(MyDocument &)> sendToFCP;
+    };
+
+    MyDocument(DocumentInterface &interface, Services services);
+    /// Closes first.
+    ~MyDocument();
+    MyDocument(const MyDocument &) = delete;
+    MyDocument &operator=(const MyDocument &) = delete;
+
+    // Loading and saving
+
+    /// Checks the type name and starts the loader. False only for an unknown type name; whatever goes
+    /// wrong afterwards leaves the document open and empty.
+    bool readFromURL(const QUrl &url, const QString &typeName);
+    /// The loader. On its own thread.
+    void loadProjectWithSettings(const QString &typeName, const QUrl &url);
+    /// Saves a plain XML document, pretty-printed, whole or not at all. A document of the editing
+    /// application is sent instead, which counts as not saved.
+    Result<void> writeToURL(const QUrl &url, const QString &typeName);
+
+    /// Ends everything that runs for the document: waiting calls return, workers stop at their next unit
+    /// of work. The document stays as it is. Called twice, nothing happens.
+    void close();
+    /// Any thread.
+    bool isClosing() const { return m_closing; }
+    /// The door to the main thread for the document's workers. Any thread.
+    const std::shared_ptr<MainThreadGate> &mainThread() const { return m_mainThread; }
+
+    // The project
+
+    DocumentInterface &interface() { return m_interface; }
+    /// Null when loading failed or has not ended. Any thread while loading.
+    XmlDocument *xmlDoc() const { return m_xmlDoc.get(); }
+    /// The document node for queries on the whole tree; null without a tree.
+    XmlNode xmlNode() const { return m_xmlDoc ? m_xmlDoc->node() : XmlNode(); }
+    /// 1 for a single exported sequence, 0 for a project.
+    std::int64_t xmlType() const { return m_xmlType; }
+    const QUrl &fileURL() const { return m_fileURL; }
+    /// The document was saved there and stands for that file from now on.
+    void setFileURL(const QUrl &url);
+    bool isFCPProject() const { return m_isFCPProject; }
+    bool isPremiereProject() const { return m_isPremiereProject; }
+    void setPremiereProject(bool premiere) { m_isPremiereProject = premiere; }
+
+    /// The object value of the first node that the query finds under the element; nothing when it finds
+    /// none. Any thread.
+    static std::optional<QString> valueForXPath(const QString &query, XmlNode parentNode);
+
+    // Sequences and clips
+
+    /// Rebuilds the sequence menu. Any thread while loading.
+    void populateSequences();
+    MenuPtr sequenceMenu() const;
+    /// The clips of a sequence, video tracks first; "(none)" alone for a null element. Any thread.
+    MenuPtr clipMenuForSequence(XmlNode sequence);
+    /// The clip ids by the places of the clip menu; null for an element without a location. Any thread.
+    std::shared_ptr<const QStringList> clipIDsForSequence(XmlNode sequence);
+
+    // Timecode by a record's own parameters
+
+    static QString timecodeFromFrameCount(std::int32_t frames, const RowRecord &object);
+    static std::int64_t frameCountFromTimecode(const QString &timecode, const RowRecord &object);
+
+    // Inventories
+
+    const RowList &mediaArray() const { return m_lists[std::size_t(Tab::Media)]; }
+    const RowList &effectArray() const { return m_lists[std::size_t(Tab::Effects)]; }
+    const RowList &markerArray() const { return m_lists[std::size_t(Tab::Markers)]; }
+    const RowList &listOf(Tab tab) const { return m_lists[std::size_t(tab)]; }
+    /// Replaces a list whole.
+    void setListOf(Tab tab, RowList rows);
+    /// Adds one row at the end of a list.
+    void appendToListOf(Tab tab, RowRecordPtr row);
+
+    /// True from the start of a load until the tab's list is there. Any thread.
+    bool isPopulating(Tab tab) const { return m_populating[std::size_t(tab)]; }
+    void setPopulating(Tab tab, bool populating) { m_populating[std::size_t(tab)] = populating; }
+
+    /// The rows on show, and the tab that shows them; the tables of the other tabs have no rows.
+    const RowList &tableArray() const { return m_tableArray; }
+    Tab tableTab() const { return m_tableTab; }
+    const RowList &rowsOnShow(Tab tab) const;
+    /// Exchanges the rows on show, announcing it before and after.
+    void setTableArray(Tab tab, RowList rows);
+    /// Adds one row to those on show, announced the same way.
+    void appendToTableArray(RowRecordPtr row);
+    /// Between these two, which may be nested, rows that are added wait: they come at the outer end,
+    /// announced once. Rows that were exchanged meanwhile take the place of those that wait.
+    void beginTableUpdates() { ++m_tableUpdates; }
+    void endTableUpdates();
+
+    ViewState &viewState() { return m_viewState; }
+
+    // Changes
+
+    const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_modifiedSequenceUUIDs; }
+    /// Appends without a check: the same UUID may stand several times.
+    void addModifiedSequenceUUID(const QString &uuid);
+    /// Whether the UUID stands in the list. In constant time.
+    bool isSequenceModified(const QString &uuid) const { return m_modifiedSet.contains(uuid); }
+    /// Makes the list absent.
+    void clearModifiedSequenceUUIDs();
+    /// Whether there is a way to send the changes to an editing application.
+    bool canSend() const { return bool(m_services.sendToFCP); }
+    /// Marks one change done, or all changes cleared.
+    void updateChangeCount();
+    void clearChangeCount();
+    bool isEdited() const { return m_changeCount > 0; }
+
+    // The progress sheet. Any thread; each waits for the main thread.
+
+    void startProgress();
+    void updateProgressLabel(const QString &text);
+    void endProgress();
+    /// Takes the sheet away; the work goes on.
+    void cancelProgress();
+
+private:
+    bool loadTree(const QString &typeName, const QUrl &url);
+    void failLoading(const QString &message);
+    void runInventories();
+    bool confirmSavingRepaired(const QString &path);
+
+    DocumentInterface &m_interface;
+    Services m_services;
+    std::shared_ptr<MainThreadGate> m_mainThread;
+    std::atomic<bool> m_closing = false;
+
+    QUrl m_fileURL;
+    bool m_fileIsOurs = false; ///< what stands there was saved by this document
+    std::unique_ptr<XmlDocument> m_xmlDoc;
+    std::int64_t m_xmlType = 0;
+    bool m_isFCPProject = false;
+    bool m_isPremiereProject = false;
+
+    mutable std::recursive_mutex m_lock; // guards the two below
+    MenuPtr m_sequenceMenu;
+    ClipMenus m_clipMenus;
+
+    std::array<RowList, 3> m_lists;
+    std::array<std::atomic<bool>, 3> m_populating = {};
+    RowList m_tableArray;
+    Tab m_tableTab = Tab::Media;
+    int m_tableUpdates = 0;
+    RowList m_waitingTableRows;
+    ViewState m_viewState;
+
+    std::optional<QStringList> m_modifiedSequenceUUIDs;
+    QSet<QString> m_modifiedSet;
+    int m_changeCount = 0;
+
+    std::atomic<int> m_runningInventories = 0;
+    std::thread m_loader;
+    std::vector<std::thread> m_inventories; // made by the loader, joined after it
+};
+
+} // namespace vantrell

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace vantrell
+{
+
+/// A column of a table: its identifier, which is the record key that it shows, and its title.
+struct TableColumn {
+    QString identifier;
+    QString title;
+};
+
+using TableColumns = std::vector<TableColumn>;
+
+} // namespace vantrell

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "document/RowSort.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace vantrell
+{
+
+class MyDocument;
+class UserDefaults;
+
+/// What a document's table is sorted by, and what a click on a column's header does. The last choice is
+/// kept in the user defaults "%@SortedColumn" and "%@SortedDescending", which all documents share, and
+/// is what a new table starts with. Main thread.
+class TableSorting
+{
+public:
+    /// The document and the defaults outlive this object.
+    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab,
+                 SortValueOfColumn valueOfColumn = recordValueOfColumn);
+
+    Tab tab() const { return m_tab; }
+    /// "media", "effect" or "marker": what the keys of the tab's table begin with in the user defaults.
+    static QString prefixOf(Tab tab);
+
+    /// The column clicked last first, then those clicked before it; each column once.
+    const std::vector<SortDescriptor> &descriptors() const { return m_descriptors; }
+
+    /// Sorts the rows on show by the column: ascending at first, the other way round when it is the one
+    /// that was sorted by last. What goes wrong is logged, and the click is ignored.
+    void tableViewDidClickTableColumn(const QString &column);
+
+private:
+    QString key(QStringView format) const;
+
+    MyDocument &m_document;
+    UserDefaults &m_defaults;
+    Tab m_tab;
+    SortValueOfColumn m_valueOfColumn;
+    std::vector<SortDescriptor> m_descriptors;
+};
+
+} // namespace vantrell

@@ -1,0 +1,121 @@
+#include "document/RowRecord.h"
+#include "document/RowSort.h"
+
+#include <QTest>
+
+#include <thread>
+
+using namespace vantrell;
+
+namespace
+{
+
+const TypedKey<QString> name(u"name");
+const TypedKey<std::int64_t> count(u"count");
+const TypedKey<bool> flag(u"flag");
+
+QStringList keysOf(const RowRecord &record)
+{
+    QStringList keys;
+    for (std::size_t i = 0; i < record.size(); ++i)
+        keys.append(record.keyAt(i).text());
+    return keys;
+}
+
+RowRecordPtr row(const QString &text, std::optional<std::int64_t> number)
+{
+    auto record = std::make_shared<RowRecord>();
+    record->set(name, text);
+    if (number)
+        record->set(count, *number);
+    return record;
+}
+
+} // namespace
+
+class RowRecordTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheOrderOfFirstSetting()
+    {
+        RowRecord record;
+        record.set(name, QStringLiteral("a"));
+        record.set(count, 1);
+        record.set(flag, false);
+        record.set(name, QStringLiteral("b"));
+        QCOMPARE(keysOf(record).join(QLatin1Char(' ')), QStringLiteral("name count flag"));
+        QCOMPARE(record.get(name), QStringLiteral("b"));
+        record.remove(count);
+        record.remove(count);
+        QVERIFY(!record.contains(count));
+        record.set(count, 0);
+        QCOMPARE(keysOf(record).join(QLatin1Char(' ')), QStringLiteral("name flag count"));
+        QVERIFY(record.contains(count));
+        QCOMPARE(record.get(TypedKey<QString>(u"count")), QString());
+        RowRecord other;
+        other.set(TypedKey<QString>(u"extra"), QStringLiteral("x"));
+        other.set(name, QStringLiteral("c"));
+        record.merge(other);
+        QCOMPARE(keysOf(record).join(QLatin1Char(' ')), QStringLiteral("name flag count extra"));
+        QCOMPARE(record.get(name), QStringLiteral("c"));
+    }
+
+    void threadsBuildRecordsAtOnce()
+    {
+        std::vector<std::thread> threads;
+        std::atomic<int> wrong = 0;
+        for (int t = 0; t < 4; ++t) {
+            threads.emplace_back([&wrong, t] {
+                for (int i = 0; i < 300; ++i) {
+                    RowRecord record;
+                    for (int k = 0; k < 20; ++k) {
+                        const QString key = QStringLiteral("k%1").arg((k * (t + 1) + i) % 40);
+                        record.set(TypedKey<QString>(key), key);
+                    }
+                    for (std::size_t k = 0; k < record.size(); ++k)
+                        wrong += record.keyAt(k).text() != std::get<QString>(record.valueAt(k));
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(wrong.load(), 0);
+    }
+
+    void sorts_data()
+    {
+        QTest::addColumn<QString>("columns");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("none") << QString() << QStringLiteral("b2 B1 a- a1");
+        QTest::newRow("text: case last") << QStringLiteral("name") << QStringLiteral("a- a1 B1 b2");
+        QTest::newRow("text, descending") << QStringLiteral("-name") << QStringLiteral("b2 B1 a- a1");
+        QTest::newRow("number: absent first, ties kept")
+            << QStringLiteral("count") << QStringLiteral("a- B1 a1 b2");
+        QTest::newRow("number, descending: ties kept")
+            << QStringLiteral("-count") << QStringLiteral("b2 B1 a1 a-");
+        QTest::newRow("two columns") << QStringLiteral("count name") << QStringLiteral("a- a1 B1 b2");
+        QTest::newRow("no such column") << QStringLiteral("none") << QStringLiteral("b2 B1 a- a1");
+    }
+    void sorts()
+    {
+        QFETCH(QString, columns);
+        const RowList rows{row(QStringLiteral("b"), 2), row(QStringLiteral("B"), 1),
+                           row(QStringLiteral("a"), std::nullopt), row(QStringLiteral("a"), 1)};
+        std::vector<SortDescriptor> descriptors;
+        for (const QString &column : columns.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const bool descending = column.startsWith(QLatin1Char('-'));
+            descriptors.push_back({descending ? column.sliced(1) : column, descending});
+        }
+        QStringList order;
+        for (const RowRecordPtr &record : sortedRows(rows, descriptors)) {
+            order.append(record->get(name) + (record->contains(count) ? QString::number(record->get(count))
+                                                                      : QStringLiteral("-")));
+        }
+        QTEST(order.join(QLatin1Char(' ')), "order");
+    }
+};
+
+QTEST_GUILESS_MAIN(RowRecordTest)
+#include "tst_rowrecord.moc"
