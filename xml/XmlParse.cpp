@@ -5,6 +5,8 @@
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -195,18 +197,32 @@ private:
         if (m_open.empty() || m_open.back().node != m_context->node)
             return;
         if (!m_open.back().keepsBlanks) {
-            const bool blank = std::all_of(text, text + length, [](xmlChar c) {
-                return c == ' ' || c == '\n' || c == '\t' || c == '\r';
-            });
-            if (blank) {
-                const xmlChar *kept = xmlDictLookup(m_context->dict, text, length);
-                m_blanks.push_back({m_context->node->last, kept, length});
+            if (const xmlChar *blank = keptBlank(text, length)) {
+                m_blanks.push_back({m_context->node->last, blank, length});
                 return;
             }
             keepBlanks();
         }
         const TreeMemory::Scope scope(&m_arena);
         xmlSAX2Characters(m_context, text, length);
+    }
+
+    /// The text in the parser's dictionary when it is white space alone, else null. Indentation repeats:
+    /// the last text of each length is looked at first.
+    const xmlChar *keptBlank(const xmlChar *text, int length)
+    {
+        const auto bytes = std::size_t(length);
+        const xmlChar *last = bytes < m_lastBlanks.size() ? m_lastBlanks[bytes] : nullptr;
+        if (last && std::memcmp(last, text, bytes) == 0)
+            return last;
+        const bool blank = std::all_of(
+            text, text + length, [](xmlChar c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
+        if (!blank)
+            return nullptr;
+        const xmlChar *kept = xmlDictLookup(m_context->dict, text, length);
+        if (bytes < m_lastBlanks.size())
+            m_lastBlanks[bytes] = kept;
+        return kept;
     }
 
     /// The open element turns out to hold text: its white space is data, that met so far included.
@@ -267,6 +283,7 @@ private:
     TreeMemory::Arena &m_arena;
     std::vector<OpenElement> m_open;
     std::vector<PendingBlank> m_blanks;
+    std::array<const xmlChar *, 128> m_lastBlanks = {};
     std::vector<char> m_readAhead = std::vector<char>(std::size_t(1) << 18);
     int m_readPosition = 0;
     int m_readEnd = 0;

@@ -5,10 +5,13 @@
 
 #include <libxml/tree.h>
 
+#include <libxml/dict.h>
+
 #include <QHash>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <mutex>
 #include <unordered_set>
 
@@ -20,18 +23,15 @@ namespace vantrell
 class XmlQueryWalk
 {
 public:
-    XmlQueryWalk(const std::vector<XmlQuery::Path> &paths, std::size_t limit, XmlNodeList &found)
+    XmlQueryWalk(const std::vector<XmlQuery::Path> &paths, std::size_t limit, const xmlDoc *document,
+                 XmlNodeList &found)
         : m_limit(limit)
         , m_found(found)
     {
         for (const XmlQuery::Path &path : paths) {
             m_start |= bit(m_steps.size());
-            for (const XmlQuery::Step &step : path.steps) {
-                const bool last = &step == &path.steps.back();
-                m_steps.push_back({&step, m_positions, last});
-                for (const XmlQuery::Predicate &predicate : step.predicates)
-                    m_positions += predicate.kind == XmlQuery::Predicate::Kind::Position;
-            }
+            for (const XmlQuery::Step &step : path.steps)
+                addStep(step, &step == &path.steps.back(), document->dict);
         }
     }
 
@@ -45,6 +45,7 @@ private:
         const XmlQuery::Step *step;
         std::size_t firstPosition; ///< of its [n] predicates among all
         bool last;
+        std::vector<const xmlChar *> names; ///< as the document keeps them; what it has not is left out
     };
     using Counters = std::array<std::int64_t, maximumPositions>;
 
@@ -52,52 +53,73 @@ private:
 
     bool isFull() const { return m_limit && m_found.size() >= m_limit; }
 
+    void addStep(const XmlQuery::Step &step, bool last, xmlDict *dictionary)
+    {
+        const std::uint64_t self = bit(m_steps.size());
+        if (step.anywhere)
+            m_anywhere |= self;
+        if (step.axis == XmlQuery::Axis::Attribute)
+            m_attributes |= self;
+        else if (step.test == XmlQuery::Test::Text || step.test == XmlQuery::Test::AnyNode)
+            m_otherNodes |= self;
+        StepState state{&step, m_positions, last, {}};
+        for (const std::string &name : step.names) {
+            const auto *text = reinterpret_cast<const xmlChar *>(name.c_str());
+            if (const xmlChar *kept = xmlDictExists(dictionary, text, int(name.size())))
+                state.names.push_back(kept);
+        }
+        for (const XmlQuery::Predicate &predicate : step.predicates)
+            m_positions += predicate.kind == XmlQuery::Predicate::Kind::Position;
+        m_steps.push_back(std::move(state));
+    }
+
     void visit(xmlNode *node, std::uint64_t contexts)
     {
-        std::uint64_t everywhere = 0;
-        std::uint64_t childSteps = 0;
-        for (std::size_t i = 0; i < m_steps.size(); ++i) {
-            if (!(contexts & bit(i)))
-                continue;
-            const XmlQuery::Step &step = *m_steps[i].step;
-            if (step.anywhere)
-                everywhere |= bit(i);
-            if (step.axis == XmlQuery::Axis::Attribute)
-                visitAttributes(node, step);
-            else
-                childSteps |= bit(i);
-        }
+        for (std::uint64_t rest = contexts & m_attributes; rest; rest &= rest - 1)
+            visitAttributes(node, *m_steps[std::size_t(std::countr_zero(rest))].step);
         if (node->type != XML_ELEMENT_NODE && node->type != XML_DOCUMENT_NODE)
             return;
+        const std::uint64_t everywhere = contexts & m_anywhere;
+        std::uint64_t childSteps = contexts & ~m_attributes;
         Counters counters;
         std::fill_n(counters.begin(), m_positions, 0);
-        std::uint64_t exhausted = 0;
         for (xmlNode *child = node->children; child && !isFull(); child = child->next) {
-            std::uint64_t next = child->type == XML_ELEMENT_NODE ? everywhere : 0;
+            const bool element = child->type == XML_ELEMENT_NODE;
+            std::uint64_t next = element ? everywhere : 0;
             bool wanted = false;
-            for (std::size_t i = 0; i < m_steps.size(); ++i) {
-                if (!(childSteps & bit(i)) || (exhausted & bit(i)) || !matchesTest(child, *m_steps[i].step))
+            for (std::uint64_t rest = element ? childSteps : childSteps & m_otherNodes; rest;
+                 rest &= rest - 1) {
+                const auto i = std::size_t(std::countr_zero(rest));
+                const StepState &state = m_steps[i];
+                if (!matchesTest(child, state))
                     continue;
                 bool more = true;
-                if (!passesPredicates(child, m_steps[i], counters, more)) {
-                    if (!more)
-                        exhausted |= bit(i);
-                    continue;
+                if (state.step->predicates.empty() || passesPredicates(child, state, counters, more)) {
+                    if (state.last)
+                        wanted = true;
+                    else
+                        next |= bit(i + 1);
                 }
-                if (m_steps[i].last)
-                    wanted = true;
-                else
-                    next |= bit(i + 1);
                 if (!more)
-                    exhausted |= bit(i);
+                    childSteps &= ~bit(i);
             }
             if (wanted)
                 m_found.push_back(XmlNode(child));
-            if (next && !isFull())
+            if (next && holdsCandidates(child, next) && !isFull())
                 visit(child, next);
-            if (!everywhere && (childSteps & ~exhausted) == 0)
+            if (!everywhere && childSteps == 0)
                 break;
         }
+    }
+
+    /// Whether anything in the node can match a step that it is a context of. Most elements of a project
+    /// hold one text and nothing else.
+    bool holdsCandidates(const xmlNode *node, std::uint64_t contexts) const
+    {
+        if (contexts & (m_attributes | m_otherNodes))
+            return true;
+        const xmlNode *child = node->children;
+        return child && (child->type == XML_ELEMENT_NODE || child->next);
     }
 
     void visitAttributes(xmlNode *node, const XmlQuery::Step &step)
@@ -118,9 +140,9 @@ private:
         }
     }
 
-    static bool matchesTest(const xmlNode *node, const XmlQuery::Step &step)
+    static bool matchesTest(const xmlNode *node, const StepState &state)
     {
-        switch (step.test) {
+        switch (state.step->test) {
         case XmlQuery::Test::AnyNode:
             return true;
         case XmlQuery::Test::Text:
@@ -132,9 +154,8 @@ private:
         }
         if (node->type != XML_ELEMENT_NODE || node->ns)
             return false;
-        const char *name = reinterpret_cast<const char *>(node->name);
-        return std::any_of(step.names.begin(), step.names.end(),
-                           [name](const std::string &accepted) { return accepted == name; });
+        // A document keeps each name once, also those of elements that are made later.
+        return std::find(state.names.begin(), state.names.end(), node->name) != state.names.end();
     }
 
     /// \a more becomes false once no later sibling can pass.
@@ -189,7 +210,10 @@ private:
     }
 
     std::vector<StepState> m_steps;
-    std::uint64_t m_start = 0;
+    std::uint64_t m_start = 0;      // the first step of each path
+    std::uint64_t m_anywhere = 0;   // steps reached by "//"
+    std::uint64_t m_attributes = 0; // steps to attributes
+    std::uint64_t m_otherNodes = 0; // steps to children that need not be elements
     std::size_t m_positions = 0;
     std::size_t m_limit;
     XmlNodeList &m_found;
@@ -284,7 +308,8 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
         answer.nodes.push_back(context);
         return answer;
     }
-    XmlQueryWalk(m_paths, path.trailingParents ? 0 : limit, answer.nodes).run(context.handle());
+    XmlQueryWalk(m_paths, path.trailingParents ? 0 : limit, context.handle()->doc, answer.nodes)
+        .run(context.handle());
     if (path.trailingParents > 0) {
         for (XmlNode &node : answer.nodes) {
             for (int i = 0; i < path.trailingParents; ++i)
