@@ -155,6 +155,12 @@ public:
     /// True from the start of a load until the tab's list is there. Any thread.
     bool isPopulating(Tab tab) const { return m_populating[std::size_t(tab)]; }
     void setPopulating(Tab tab, bool populating) { m_populating[std::size_t(tab)] = populating; }
+    /// How many rows a tab's running inventory has found so far. Any thread.
+    std::size_t foundSoFar(Tab tab) const { return m_found[std::size_t(tab)].load(std::memory_order_relaxed); }
+    void setFoundSoFar(Tab tab, std::size_t count)
+    {
+        m_found[std::size_t(tab)].store(count, std::memory_order_relaxed);
+    }
 
     /// The rows on show, and the tab that shows them; the tables of the other tabs have no rows.
     const RowList &tableArray() const { return m_tableArray; }
@@ -219,6 +225,7 @@ private:
 
     std::array<RowList, 3> m_lists;
     std::array<std::atomic<bool>, 3> m_populating = {};
+    std::array<std::atomic<std::size_t>, 3> m_found = {};
     RowList m_tableArray;
     Tab m_tableTab = Tab::Media;
     int m_tableUpdates = 0;

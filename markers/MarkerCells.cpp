@@ -1,0 +1,178 @@
+// Edits of the marker table's selected rows.
+
+#include "markers/MarkerCandidates.h"
+#include "markers/MarkerKeys.h"
+#include "support/QVException.h"
+#include "support/TextFormat.h"
+#include "support/TextNumbers.h"
+#include "timecode/QVTimecode.h"
+#include "xml/QVXMLParser.h"
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// A null text removes the key.
+void setOrRemove(RowRecord &record, TypedKey<QString> key, const QString &value)
+{
+    if (value.isNull())
+        record.remove(key);
+    else
+        record.set(key, value);
+}
+
+/// A frame count as positions are written.
+QString positionText(quint64 frames)
+{
+    return formatText(u"%i", frames);
+}
+
+} // namespace
+
+void MarkerEditor::setObjectValue(const QString &text, const QString &column)
+{
+    guarded("-[MyDocument tableView:setObjectValue:forTableColumn:row:]", [&] {
+        const RowList records = selectedRecords();
+        if (records.empty())
+            return;
+        if (column == MarkerKey::sequence.text()) {
+            moveToSequence(records.front(), integerValue(text));
+            return;
+        }
+        if (column == MarkerKey::clip.text()) {
+            moveToClip(records.front(), integerValue(text));
+            return;
+        }
+        Candidates candidates(m_document, nullptr);
+        for (const RowRecordPtr &record : records) {
+            if (column == MarkerKey::in.text())
+                setInPoint(record, text, candidates);
+            else if (column == MarkerKey::out.text())
+                setDuration(record, text, candidates);
+            else
+                update(record, column, text, candidates);
+        }
+    });
+}
+
+void MarkerEditor::setInPoint(const RowRecordPtr &record, const QString &text, Candidates &candidates)
+{
+    const QString timecode = QVTimecode::timecodeFromUserString(text, record->get(TimecodeKey::dropFrame),
+                                                                QStringLiteral("01:00:00:00"));
+    const std::int64_t frames = MyDocument::frameCountFromTimecode(timecode, *record);
+    update(record, MarkerKey::in.text(), positionText(quint64(frames)), candidates);
+}
+
+void MarkerEditor::setDuration(const RowRecordPtr &record, const QString &text, Candidates &candidates)
+{
+    const bool dropFrame = record->get(TimecodeKey::dropFrame);
+    const QString timecode =
+        QVTimecode::timecodeFromUserString(text, dropFrame, QStringLiteral("00:00:00:00"));
+    const quint64 duration = QVTimecode::frameCountFromTimecode(timecode, record->get(TimecodeKey::timebase),
+                                                                record->get(TimecodeKey::ntsc), dropFrame, 0);
+    const quint64 in = quint64(integerValue(record->get(MarkerKey::in)));
+    const quint64 out = std::int64_t(duration) > 0 ? in + duration : quint64(-1);
+    update(record, MarkerKey::out.text(), positionText(out), candidates);
+}
+
+void MarkerEditor::moveToSequence(const RowRecordPtr &record, std::int64_t item)
+{
+    const XmlNode sequence = sequenceAt(item);
+    if (!sequence)
+        return;
+    updateXMLMarker(record, MarkerKey::in.text(),
+                    inPointForObject(*record, sequence, QStringLiteral("sequence")));
+    setXMLMarkerSequence(sequence, XmlNode(), record);
+    const SequenceInfo &info = sequences().infoOf(sequence);
+    record->set(MarkerKey::sequenceIndex, item);
+    record->set(MarkerKey::sequence, sequence);
+    setOrRemove(*record, MarkerKey::sequenceUUID, info.uuid);
+    setOrRemove(*record, MarkerKey::sequenceName, info.name);
+    info.timing.store(*record);
+    for (const RecordKey key :
+         std::initializer_list<RecordKey>{MarkerKey::clip, MarkerKey::clipID, MarkerKey::clipUUID,
+                                          MarkerKey::clipName, MarkerKey::clipIndex})
+        record->remove(key);
+    if (m_freeSlots)
+        m_freeSlots->update(*record);
+    reloadTable();
+}
+
+void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
+{
+    if (item < 1) {
+        moveToSequence(record, record->get(MarkerKey::sequenceIndex));
+        return;
+    }
+    const XmlNode sequence = sequenceAt(record->get(MarkerKey::sequenceIndex));
+    const MenuPtr clips = m_document.clipMenuForSequence(sequence);
+    const XmlNode clip =
+        sequence && item < std::int64_t(clips->size()) ? (*clips)[std::size_t(item)].element : XmlNode();
+    if (!clip) {
+        reloadTable();
+        return;
+    }
+    const QString in = inPointForObject(*record, clip, QStringLiteral("clip"));
+    updateXMLMarker(record, MarkerKey::in.text(), in);
+    setXMLMarkerSequence(sequence, clip, record);
+    const std::optional<QString> name = QVXMLParser::nameForNode(clip);
+    if (!name)
+        return;
+    record->set(MarkerKey::clipIndex, item);
+    record->set(MarkerKey::clip, clip);
+    setOrRemove(*record, MarkerKey::clipID, QVXMLParser::idAttributeForNode(clip).value_or(QString()));
+    setOrRemove(*record, MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip).value_or(QString()));
+    record->set(MarkerKey::clipName, *name);
+    SequenceTiming::ofFirstTexts(sequence).store(*record);
+    record->set(MarkerKey::in, in);
+    reloadTable();
+}
+
+/// The sequence of a menu item; null for "(none)" and for what is no item.
+XmlNode MarkerEditor::sequenceAt(std::int64_t item) const
+{
+    const MenuPtr menu = m_document.sequenceMenu();
+    return item >= 1 && item < std::int64_t(menu->size()) ? (*menu)[std::size_t(item)].element : XmlNode();
+}
+
+void MarkerEditor::offsetMarkers(const QString &text)
+{
+    guarded("-[MyDocument offsetMarkers:]", [&] {
+        const quint64 offset = quint64(offsetOf(text));
+        Candidates candidates(m_document, nullptr);
+        for (const RowRecordPtr &record : selectedRecords()) {
+            const quint64 in = quint64(integerValue(record->get(MarkerKey::in)));
+            update(record, MarkerKey::in.text(), positionText(in + offset), candidates);
+        }
+    });
+}
+
+/// In frames.
+std::int64_t MarkerEditor::offsetOf(const QString &text) const
+{
+    static const QString separators = QStringLiteral(":;,.");
+    const bool isTimecode =
+        std::any_of(text.begin(), text.end(), [](QChar c) { return separators.contains(c); });
+    if (!isTimecode)
+        return integerValue(text);
+    const bool negative = text.startsWith(QLatin1Char('-'));
+    const QString timecode = QVTimecode::timecodeFromUserString(negative ? text.sliced(1) : text, false,
+                                                                QStringLiteral("00:00:00:00"));
+    const RowList &rows = m_document.rowsOnShow(Tab::Markers);
+    const std::int64_t timebase = rows.empty() ? 30 : rows.front()->get(TimecodeKey::timebase);
+    const bool ntsc = rows.empty() || rows.front()->get(TimecodeKey::ntsc);
+    const quint64 frames = QVTimecode::frameCountFromTimecode(timecode, timebase, ntsc, false, 0);
+    return std::int64_t(negative ? 0 - frames : frames);
+}
+
+void MarkerEditor::reloadTable()
+{
+    m_document.interface().tableWillReload();
+    m_document.interface().tableDidReload();
+}
+
+} // namespace vantrell

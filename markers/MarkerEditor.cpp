@@ -1,0 +1,241 @@
+// Adding and removing markers.
+
+#include "markers/MarkerEditor.h"
+
+#include "markers/MarkerColors.h"
+#include "markers/MarkerInventory.h"
+#include "markers/MarkerKeys.h"
+#include "support/QVAlert.h"
+#include "support/QVException.h"
+#include "support/TextFormat.h"
+#include "timecode/QVTimecode.h"
+#include "xml/QVXMLParser.h"
+
+#include <functional>
+#include <unordered_set>
+
+namespace vantrell
+{
+
+MarkerEditor::MarkerEditor(MyDocument &document, MarkerInventory &inventory)
+    : m_document(document)
+    , m_inventory(inventory)
+{
+}
+
+void MarkerEditor::addMarker()
+{
+    guarded("-[MyDocument addMarker:]", [this] {
+        if (m_document.sequenceMenu()->size() < 2) {
+            QVAlert::alertSheetWithMessageText(
+                QStringLiteral("Unable to add marker"),
+                QStringLiteral("You need at least one sequence in your project in order to add a marker."),
+                m_document.interface().alertParent());
+            return;
+        }
+        const QString name = formatText(u"Marker %i", freeSlots().firstFreeNumber());
+        const RowRecordPtr record = addMarkerWithName(name, freeSlots().firstFreeInPoint(), -1,
+                                                      QStringLiteral(""), QStringLiteral("red"));
+        const RowList &rows = m_document.rowsOnShow(Tab::Markers);
+        if (!record || rows.empty() || rows.back() != record)
+            return;
+        const std::size_t row = rows.size() - 1;
+        m_document.interface().selectRows(Tab::Markers, {row});
+        m_document.interface().editCell(Tab::Markers, row, QStringLiteral("name"));
+    });
+}
+
+RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
+                                             const QString &comment, const QString &colorName,
+                                             const MenuItem *parentItem)
+{
+    RowRecordPtr record;
+    guarded("-[MyDocument addMarkerWithName:inPoint:outPoint:comment:colorName:parentName:]",
+            [&] { record = addElement(name, inPoint, outPoint, comment, colorName, parentItem); });
+    return record;
+}
+
+RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString &startTimecode,
+                                             const QString &durationTimecode, const QString &comment,
+                                             const QString &colorName, const MenuItem *parentItem)
+{
+    RowRecordPtr record;
+    guarded("-[MyDocument addMarkerWithName:startTimecode:durationTimecode:comment:colorName:parentName:]",
+            [&] {
+                const XmlNode sequence = parentSequence(parentItem);
+                if (!sequence)
+                    return;
+                const SequenceTiming timing = sequences().infoOf(sequence).timing;
+                const auto frames = [&timing](const QString &timecode) {
+                    return QVTimecode::frameCountFromTimecode(timecode, timing.timebase, timing.ntsc,
+                                                              timing.dropFrame, quint64(timing.startFrame));
+                };
+                const quint64 in = frames(startTimecode);
+                const quint64 duration = frames(durationTimecode);
+                const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
+                record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem);
+            });
+    return record;
+}
+
+RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
+                                      const QString &comment, const QString &colorName,
+                                      const MenuItem *parentItem)
+{
+    XmlDocument *tree = m_document.xmlDoc();
+    if (!tree)
+        return nullptr;
+    const Result<XmlNode> made = tree->elementFromText(formatText(
+        u"<marker><name>%@</name><comment>%@</comment><color><alpha>0</alpha><red>255</red>"
+        u"<green>0</green><blue>0</blue></color><in>%i</in><out>%i</out></marker>",
+        QVXMLParser::escapeQueryString(name), QVXMLParser::escapeQueryString(comment), inPoint, outPoint));
+    if (!made) {
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to create marker"), made.message(),
+                                           m_document.interface().alertParent());
+        return nullptr;
+    }
+    const XmlNode marker = made.value();
+    const int color = MarkerColors::indexOfName(colorName);
+    sequences().synchronize();
+    if (color > 0)
+        MarkerColors::setXMLMarkerColorIndex(color, marker.childElement("color"));
+    const XmlNode sequence = parentSequence(parentItem);
+    if (!sequence) {
+        sequences().didChange();
+        tree->discardCopy(marker);
+        return nullptr;
+    }
+    tree->moveTo(marker, sequence);
+    sequences().didAppend(marker, sequence);
+
+    const SequenceInfo &info = sequences().infoOf(sequence);
+    const auto record = std::make_shared<RowRecord>();
+    record->set(MarkerKey::markerElement, marker);
+    record->set(MarkerKey::sequence, sequence);
+    record->set(MarkerKey::sequenceIndex, 1);
+    if (!info.uuid.isNull())
+        record->set(MarkerKey::sequenceUUID, info.uuid);
+    if (!info.name.isNull())
+        record->set(MarkerKey::sequenceName, info.name);
+    info.timing.store(*record);
+    if (!name.isNull())
+        record->set(MarkerKey::name, name);
+    if (!comment.isNull())
+        record->set(MarkerKey::comment, comment);
+    record->set(MarkerKey::color, color);
+    record->set(MarkerKey::in, formatText(u"%i", inPoint));
+    record->set(MarkerKey::out, formatText(u"%i", outPoint));
+    addRecord(record);
+    noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
+    return record;
+}
+
+/// The element of the item, or of the first sequence when it is no item of the sequence menu.
+XmlNode MarkerEditor::parentSequence(const MenuItem *parentItem) const
+{
+    const MenuPtr menu = m_document.sequenceMenu();
+    const MenuItem *first = menu->data();
+    const bool isItem =
+        std::greater_equal<>()(parentItem, first) && std::less<>()(parentItem, first + menu->size());
+    if (isItem)
+        return parentItem->element;
+    return menu->size() > 1 ? (*menu)[1].element : XmlNode();
+}
+
+void MarkerEditor::addRecord(const RowRecordPtr &record)
+{
+    freeSlots().add(*record);
+    m_document.appendToListOf(Tab::Markers, record);
+    if (m_document.tableTab() == Tab::Markers)
+        m_document.appendToTableArray(record);
+}
+
+void MarkerEditor::removeMarkers()
+{
+    guarded("-[MyDocument removeMarkers:]", [this] {
+        const RowList rows = selectedRecords();
+        if (rows.empty())
+            return;
+        const bool one = rows.size() == 1;
+        const int answer = QVAlert::alertSheetWithMessageText(
+            formatText(u"Are you sure you wish to remove %@ marker%@?", one ? u"this" : u"these",
+                       one ? u"" : u"s"),
+            QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
+            m_document.interface().alertParent(), true);
+        if (answer != AlertAnswer::Default)
+            return;
+        removeRows(rows);
+        m_inventory.populateFilteredMarkerData();
+        m_document.interface().selectRows(Tab::Markers, {});
+    });
+}
+
+void MarkerEditor::removeRows(const RowList &rows)
+{
+    std::unordered_set<const RowRecord *> removed;
+    for (const RowRecordPtr &record : rows) {
+        removeXMLMarker(record);
+        freeSlots().remove(*record);
+        removed.insert(record.get());
+    }
+    RowList kept;
+    kept.reserve(m_document.markerArray().size());
+    for (const RowRecordPtr &record : m_document.markerArray()) {
+        if (!removed.contains(record.get()))
+            kept.push_back(record);
+    }
+    m_document.setListOf(Tab::Markers, std::move(kept));
+}
+
+void MarkerEditor::removeXMLMarker(const RowRecordPtr &record)
+{
+    XmlDocument *tree = m_document.xmlDoc();
+    if (!tree) {
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to remove marker"),
+                                           QStringLiteral("XML document cannot be found."),
+                                           m_document.interface().alertParent());
+        return;
+    }
+    const XmlNode marker = record->get(MarkerKey::markerElement);
+    sequences().willDetach(marker);
+    tree->remove(marker);
+    sequences().didChange();
+    noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
+}
+
+void MarkerEditor::noteSequenceChanged(const QString &uuid)
+{
+    if (!uuid.isNull() && !m_document.isSequenceModified(uuid))
+        m_document.addModifiedSequenceUUID(uuid);
+    m_document.updateChangeCount();
+}
+
+/// Only with a tree.
+SequenceInfoCache &MarkerEditor::sequences()
+{
+    if (!m_sequences)
+        m_sequences.emplace(*m_document.xmlDoc());
+    return *m_sequences;
+}
+
+FreeMarkerSlots &MarkerEditor::freeSlots()
+{
+    if (!m_freeSlots || m_slotsGeneration != m_inventory.generation()) {
+        m_freeSlots.emplace().reset(m_document.markerArray());
+        m_slotsGeneration = m_inventory.generation();
+    }
+    return *m_freeSlots;
+}
+
+RowList MarkerEditor::selectedRecords() const
+{
+    RowList records;
+    const RowList &rows = m_document.rowsOnShow(Tab::Markers);
+    for (const std::size_t row : m_document.interface().selectedRows(Tab::Markers)) {
+        if (row < rows.size())
+            records.push_back(rows[row]);
+    }
+    return records;
+}
+
+} // namespace vantrell

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "document/MyDocument.h"
+#include "markers/FreeMarkerSlots.h"
+#include "markers/SequenceInfoCache.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace vantrell
+{
+
+class MarkerInventory;
+
+/// Every change to markers: writes it into the tree, keeps the records in step, and marks the sequence
+/// and the document changed. Main thread, once every inventory of the document has ended.
+class MarkerEditor
+{
+public:
+    /// Both outlive the editor.
+    MarkerEditor(MyDocument &document, MarkerInventory &inventory);
+
+    // Adding
+
+    /// The Add button: a new marker with a free name at a free in point of the first sequence, its name
+    /// ready to be edited.
+    void addMarker();
+
+    /// Adds a marker with its in and out point in frames, of which the low 32 bits count. A null comment
+    /// is none. The marker goes to the sequence of the parent item; without one (null), or with one that
+    /// is no item of the sequence menu, to the first sequence. Null when there is no such sequence, or, after
+    /// an alert, when the name or comment breaks the XML that the marker is made from.
+    RowRecordPtr addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
+                                   const QString &comment, const QString &colorName,
+                                   const MenuItem *parentItem = nullptr);
+    /// The same with timecodes of that sequence. A duration of less than one frame is none.
+    RowRecordPtr addMarkerWithName(const QString &name, const QString &startTimecode,
+                                   const QString &durationTimecode, const QString &comment,
+                                   const QString &colorName, const MenuItem *parentItem = nullptr);
+
+    // Removing
+
+    /// The Remove button: removes the selected rows when the user agrees.
+    void removeMarkers();
+    /// Takes the record's element out of the tree; the lists stay as they are.
+    void removeXMLMarker(const RowRecordPtr &record);
+
+    // Changing
+
+    /// Writes a value into the record and its element. A record without an element changes the first
+    /// marker of the tree that fits its values.
+    void updateXMLMarker(const RowRecordPtr &record, const QString &key, const QString &value);
+    /// The same, looking for the element of a record without one in the list; null for all markers.
+    void updateXMLMarker(const RowRecordPtr &record, const QString &key, const QString &value,
+                         const XmlNodeList *markerList);
+
+    /// Moves the record's element under the clip, or under the sequence when that is null.
+    void setXMLMarkerSequence(XmlNode sequence, XmlNode clip, const RowRecordPtr &record);
+
+    /// The in point in frames that the marker gets in a new parent of the type "sequence" or "clip".
+    static QString inPointForObject(const RowRecord &record, XmlNode newParent, const QString &type);
+
+    /// Moves the in points of the selected rows by frames or, when the text holds one of ":;,.", by a
+    /// timecode.
+    void offsetMarkers(const QString &text);
+
+    /// Edits the cell of the column in the selected rows, as typed. For "sequence" and "clip" the text is
+    /// a place in the cell's menu, and only the first selected row changes.
+    void setObjectValue(const QString &text, const QString &column);
+
+private:
+    /// The markers to look through for records without an element, found when first needed.
+    class Candidates;
+
+    RowRecordPtr addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
+                            const QString &comment, const QString &colorName, const MenuItem *parentItem);
+    XmlNode parentSequence(const MenuItem *parentItem) const;
+    void addRecord(const RowRecordPtr &record);
+    void removeRows(const RowList &rows);
+
+    void update(const RowRecordPtr &record, const QString &key, const QString &value, Candidates &candidates);
+    void writeChild(XmlNode marker, const QString &name, const QString &text);
+
+    void setInPoint(const RowRecordPtr &record, const QString &text, Candidates &candidates);
+    void setDuration(const RowRecordPtr &record, const QString &text, Candidates &candidates);
+    void moveToSequence(const RowRecordPtr &record, std::int64_t item);
+    void moveToClip(const RowRecordPtr &record, std::int64_t item);
+    XmlNode sequenceAt(std::int64_t item) const;
+    RowList selectedRecords() const;
+    std::int64_t offsetOf(const QString &text) const;
+    void reloadTable();
+
+    void noteSequenceChanged(const QString &uuid);
+    SequenceInfoCache &sequences();
+    FreeMarkerSlots &freeSlots();
+
+    MyDocument &m_document;
+    MarkerInventory &m_inventory;
+    std::optional<SequenceInfoCache> m_sequences;
+    std::optional<FreeMarkerSlots> m_freeSlots;
+    std::uint64_t m_slotsGeneration = 0; // of the list that m_freeSlots was made from
+};
+
+} // namespace vantrell

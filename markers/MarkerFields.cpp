@@ -1,0 +1,156 @@
+#include "markers/MarkerFields.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerKeys.h"
+#include "support/UserDefaults.h"
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString defaultsKey = QStringLiteral("customMarkerFields");
+const QString identifierKey = QStringLiteral("identifier");
+const QString titleKey = QStringLiteral("title");
+const QString colIndexKey = QStringLiteral("colIndex");
+
+bool isAllowed(QChar c)
+{
+    return (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) || c == QLatin1Char('_');
+}
+
+} // namespace
+
+MarkerFields::MarkerFields(MyDocument &document, UserDefaults *defaults)
+    : m_document(document)
+    , m_defaults(defaults)
+{
+}
+
+void MarkerFields::setupMarkerFields()
+{
+    load();
+    DocumentInterface &interface = m_document.interface();
+    QStringList identifiers;
+    for (const MarkerField &field : m_markerFieldArray) {
+        if (field.identifier.isEmpty())
+            continue;
+        if (!interface.markerColumns().contains(field.identifier))
+            interface.addMarkerColumn(field.identifier, field.title);
+        identifiers.append(field.identifier);
+    }
+    const QStringList columns = interface.markerColumns();
+    for (const QString &column : columns) {
+        if (column.startsWith(MarkerKey::customPrefix) && !identifiers.contains(column))
+            interface.removeMarkerColumn(column);
+    }
+    const qint64 count = interface.markerColumns().size();
+    for (const MarkerField &field : m_markerFieldArray) {
+        const bool placed =
+            !field.identifier.isEmpty() && field.colIndex && *field.colIndex >= 0 && *field.colIndex < count;
+        if (placed)
+            interface.moveMarkerColumn(field.identifier, int(*field.colIndex));
+    }
+    if (m_document.tableTab() == Tab::Markers) {
+        interface.tableWillReload();
+        interface.tableDidReload();
+    }
+}
+
+QString MarkerFields::formatMarkerFieldName(const QString &name)
+{
+    QString identifier = name.isEmpty() ? QStringLiteral("Untitled") : name;
+    identifier = identifier.toUpper();
+    const auto wrong = std::find_if_not(identifier.cbegin(), identifier.cend(), isAllowed);
+    if (wrong != identifier.cend()) {
+        const auto next = wrong + 1;
+        const bool pair = wrong->isHighSurrogate() && next != identifier.cend() && next->isLowSurrogate();
+        identifier.remove(wrong - identifier.cbegin(), pair ? 2 : 1);
+    }
+    if (!identifier.startsWith(MarkerKey::customPrefix))
+        identifier.prepend(MarkerKey::customPrefix);
+    return identifier;
+}
+
+void MarkerFields::markerFieldAdd()
+{
+    m_markerFieldArray.push_back({QStringLiteral(""), QStringLiteral("Untitled"), std::nullopt});
+}
+
+void MarkerFields::markerFieldRemove(std::size_t row)
+{
+    if (row < m_markerFieldArray.size())
+        m_markerFieldArray.erase(m_markerFieldArray.begin() + std::ptrdiff_t(row));
+}
+
+void MarkerFields::setObjectValue(const QString &text, const QString &column, std::size_t row)
+{
+    if (row >= m_markerFieldArray.size())
+        return;
+    MarkerField &field = m_markerFieldArray[row];
+    if (column == titleKey) {
+        if (field.identifier.isEmpty())
+            field.identifier = formatMarkerFieldName(text);
+        field.title = text;
+    } else if (column == identifierKey) {
+        field.identifier = formatMarkerFieldName(text);
+    }
+}
+
+void MarkerFields::storeAndSetup()
+{
+    store();
+    setupMarkerFields();
+}
+
+void MarkerFields::columnMoved(const QString &identifier, int newIndex)
+{
+    if (!identifier.startsWith(MarkerKey::customPrefix))
+        return;
+    const auto moved =
+        std::find_if(m_markerFieldArray.begin(), m_markerFieldArray.end(),
+                     [&identifier](const MarkerField &field) { return field.identifier == identifier; });
+    if (moved == m_markerFieldArray.end())
+        return;
+    moved->colIndex = newIndex;
+    std::rotate(moved, moved + 1, m_markerFieldArray.end());
+    store();
+}
+
+void MarkerFields::load()
+{
+    if (!m_defaults)
+        return;
+    m_markerFieldArray.clear();
+    const PropertyListValue stored = m_defaults->value(defaultsKey);
+    for (const PropertyListValue &entry : stored.toArray()) {
+        const PropertyListDictionary &definition = entry.toDictionary();
+        MarkerField field;
+        field.identifier = definition.value(identifierKey).toString();
+        field.title = definition.value(titleKey).toString();
+        if (definition.contains(colIndexKey))
+            field.colIndex = definition.value(colIndexKey).toInteger();
+        m_markerFieldArray.push_back(field);
+    }
+}
+
+void MarkerFields::store()
+{
+    if (!m_defaults)
+        return;
+    PropertyListValue::Array definitions;
+    for (const MarkerField &field : m_markerFieldArray) {
+        PropertyListDictionary definition;
+        definition.insert(identifierKey, field.identifier);
+        definition.insert(titleKey, field.title);
+        if (field.colIndex)
+            definition.insert(colIndexKey, *field.colIndex);
+        definitions.emplace_back(definition);
+    }
+    m_defaults->setValue(defaultsKey, definitions);
+}
+
+} // namespace vantrell

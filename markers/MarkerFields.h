@@ -1,0 +1,64 @@
+#pragma once
+
+#include "support/PropertyListValue.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace vantrell
+{
+
+class MyDocument;
+class UserDefaults;
+
+/// The definition of one custom marker field.
+struct MarkerField {
+    QString identifier; ///< empty until the field has got its first title
+    QString title;
+    std::optional<qint64> colIndex; ///< place of its column, once the user has moved it
+};
+
+/// The custom marker fields of a document and their columns in the marker table. The definitions are
+/// kept in the user defaults "customMarkerFields", which all documents share. Main thread.
+class MarkerFields
+{
+public:
+    /// The document outlives this object, as do the defaults; without them (null) there are only the
+    /// definitions that are made here, and nothing is read or stored.
+    MarkerFields(MyDocument &document, UserDefaults *defaults);
+
+    const std::vector<MarkerField> &markerFieldArray() const { return m_markerFieldArray; }
+
+    /// Loads the definitions and brings the columns of the marker table in line with them.
+    void setupMarkerFields();
+
+    /// The identifier that a text gives: in upper case, without the first character that is no letter
+    /// from A to Z and no underscore, with "QVCUSTOM_" in front.
+    static QString formatMarkerFieldName(const QString &name);
+
+    // The sheet's edits change only the definitions here, until storeAndSetup().
+
+    /// Appends a definition without an identifier, titled "Untitled".
+    void markerFieldAdd();
+    /// Nothing happens for a row that is not there.
+    void markerFieldRemove(std::size_t row);
+    /// The cell of the column "title" or "identifier". Nothing happens for another one.
+    void setObjectValue(const QString &text, const QString &column, std::size_t row);
+    /// Stores the definitions and applies them; for when the sheet closes.
+    void storeAndSetup();
+
+    /// The user moved a column of the marker table: a custom field keeps its new place.
+    void columnMoved(const QString &identifier, int newIndex);
+
+private:
+    void load();
+    void store();
+
+    MyDocument &m_document;
+    UserDefaults *m_defaults;
+    std::vector<MarkerField> m_markerFieldArray;
+};
+
+} // namespace vantrell

@@ -1,0 +1,188 @@
+#include "markers/MarkerInventory.h"
+
+#include "markers/MarkerColors.h"
+#include "markers/MarkerComment.h"
+#include "markers/MarkerFields.h"
+#include "markers/MarkerKeys.h"
+#include "markers/MarkerOwners.h"
+#include "markers/MarkerTableValues.h"
+#include "support/QVException.h"
+#include "support/QVLog.h"
+#include "xml/QVXMLParser.h"
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The first child of each name that a marker is read from.
+struct MarkerParts {
+    explicit MarkerParts(XmlNode marker)
+    {
+        for (XmlNode child = marker.firstChildElement(); child; child = child.nextSiblingElement()) {
+            for (const auto &[part, elementName] : parts) {
+                if (!(this->*part) && child.isPlainElement(elementName))
+                    this->*part = child;
+            }
+        }
+    }
+
+    XmlNode name;
+    XmlNode comment;
+    XmlNode in;
+    XmlNode out;
+    XmlNode color;
+
+private:
+    static constexpr std::pair<XmlNode MarkerParts::*, const char *> parts[] = {
+        {&MarkerParts::name, "name"}, {&MarkerParts::comment, "comment"}, {&MarkerParts::in, "in"},
+        {&MarkerParts::out, "out"},   {&MarkerParts::color, "color"},
+    };
+};
+
+/// The element's first text; null when it has none.
+QString firstText(XmlNode element)
+{
+    XmlNode child = element.firstChild();
+    while (child && !child.isText())
+        child = child.nextSibling();
+    return child.stringValue();
+}
+
+/// As QVXMLParser::nameForNode(), without a search where the name stands in plain sight.
+QString nameOf(XmlNode marker, XmlNode nameElement)
+{
+    const QString text = firstText(nameElement);
+    if (!text.isNull() && !text.contains(QLatin1Char('%')))
+        return text;
+    return QVXMLParser::nameForNode(marker).value_or(QString());
+}
+
+void readMarker(XmlNode marker, RowRecord &record)
+{
+    static const QString noDuration = QStringLiteral("-1"); // what most rows share
+    const MarkerParts parts(marker);
+    record.set(MarkerKey::color, 0);
+    record.set(MarkerKey::markerElement, marker);
+    const QString name = nameOf(marker, parts.name);
+    if (!name.isNull())
+        record.set(MarkerKey::name, name);
+    const QString comment = firstText(parts.comment);
+    if (!comment.isNull())
+        MarkerComment::read(comment, record);
+    const QString in = firstText(parts.in);
+    if (!in.isNull())
+        record.set(MarkerKey::in, in);
+    const QString out = firstText(parts.out);
+    if (!out.isNull())
+        record.set(MarkerKey::out, out == noDuration ? noDuration : out);
+    if (parts.color)
+        record.set(MarkerKey::color, MarkerColors::indexOfElement(parts.color));
+}
+
+} // namespace
+
+MarkerInventory::MarkerInventory(MyDocument &document, MarkerFields &fields)
+    : m_document(document)
+    , m_fields(fields)
+{
+}
+
+void MarkerInventory::populateMarkerData()
+{
+    MainThreadGate &mainThread = *m_document.mainThread();
+    QVLog::appendLog(u"Populating markers...");
+    m_document.setPopulating(Tab::Markers, true);
+    mainThread.runAndWait([this] { m_document.interface().startSpinner(Tab::Markers); });
+    guarded("-[MyDocument populateMarkerData]", [&] {
+        std::optional<RowList> rows = extract();
+        if (!rows)
+            return;
+        mainThread.runAndWait([&] {
+            m_document.setListOf(Tab::Markers, std::move(*rows));
+            ++m_generation;
+            m_fields.setupMarkerFields();
+        });
+    });
+    m_document.setPopulating(Tab::Markers, false);
+    mainThread.runAndWait([this] { m_document.interface().stopSpinner(Tab::Markers); });
+    QVLog::appendLog(u"Finished populating markers");
+    bool onShow = false;
+    mainThread.runAndWait([&] { onShow = m_document.viewState().selectedTab == Tab::Markers; });
+    if (onShow)
+        populateFilteredMarkerData();
+}
+
+std::optional<RowList> MarkerInventory::extract() const
+{
+    RowList rows;
+    if (!m_document.xmlDoc())
+        return rows;
+    const XmlNodeList markers =
+        QVXMLParser::nodesForQuery(QStringLiteral(".//marker"), m_document.xmlNode()).value_or(XmlNodeList());
+    QVLog::appendLog(u"Number of markers: %i", markers.size());
+    rows.reserve(markers.size());
+    MarkerOwners owners(m_document);
+    RowRecord record;
+    const RowRecord empty;
+    for (const XmlNode marker : markers) {
+        if (m_document.isClosing())
+            return std::nullopt;
+        const MarkerOwners::Owner &owner = owners.ownerOfMarkersIn(marker.parent());
+        if (owner.inInactiveAngle)
+            QVLog::fastAppendLog(u"Marker is in inactive multiclip angle - skipping...");
+        if (owner.inInactiveAngle || owner.lacksSequence)
+            continue;
+        record = empty; // keeps its memory, and the copy below takes no more than it needs
+        readMarker(marker, record);
+        record.merge(owner.keys);
+        rows.push_back(std::make_shared<RowRecord>(record));
+        m_document.setFoundSoFar(Tab::Markers, rows.size());
+    }
+    rows.shrink_to_fit();
+    return rows;
+}
+
+void MarkerInventory::populateFilteredMarkerData()
+{
+    struct View {
+        std::uint64_t rebuild = 0;
+        Tab tab = Tab::Markers;
+        int filter = 0;
+        std::vector<SortDescriptor> sort;
+        RowList rows;
+    };
+    MainThreadGate &mainThread = *m_document.mainThread();
+    guarded("-[MyDocument populateFilteredMarkerData]", [&] {
+        QVLog::appendLog(u"Filtering markers...");
+        View view;
+        mainThread.runAndWait([&] {
+            view.rebuild = ++m_lastRebuild;
+            view.tab = m_document.viewState().selectedTab;
+            view.filter = m_document.viewState().markerFilter;
+            view.sort = m_document.interface().sortDescriptors(Tab::Markers);
+            view.rows = m_document.markerArray();
+        });
+        if (view.filter != 0) {
+            std::erase_if(view.rows, [&view](const RowRecordPtr &record) {
+                return record->get(MarkerKey::color) != view.filter - 1;
+            });
+            view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
+        }
+        mainThread.runAndWait([&] {
+            if (view.rebuild == m_lastRebuild && view.tab == m_document.viewState().selectedTab)
+                m_document.setTableArray(Tab::Markers, std::move(view.rows));
+        });
+        QVLog::appendLog(u"Finished filtering markers");
+    });
+}
+
+void MarkerInventory::changeMarkerFilter()
+{
+    populateFilteredMarkerData();
+}
+
+} // namespace vantrell

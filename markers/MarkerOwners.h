@@ -1,0 +1,83 @@
+#pragma once
+
+#include "document/MyDocument.h"
+
+#include <QHash>
+
+#include <deque>
+#include <memory>
+#include <unordered_map>
+
+namespace vantrell
+{
+
+/// What the sequences and clips above a marker put into its record, for one extraction. What was read of
+/// one is kept: of a sequence by its step in the location path (so that like steps anywhere in the
+/// project share what the first one gave), of a clip by the path of its parent (so that all clips of a
+/// track share what the first one gave). One thread, while nobody edits the tree.
+class MarkerOwners
+{
+public:
+    explicit MarkerOwners(MyDocument &document)
+        : m_document(document)
+    {
+    }
+
+    struct Owner {
+        /// The markers lie in a multiclip angle that is switched off.
+        bool inInactiveAngle = false;
+        /// A step of the path is named like a sequence, but none holds the markers: they get no record.
+        bool lacksSequence = false;
+        RowRecord keys;
+    };
+
+    /// What the markers right below the element get. Good until the next call.
+    const Owner &ownerOfMarkersIn(XmlNode parent);
+
+private:
+    enum class Kind { None, Sequence, ClipItem, Clip };
+
+    /// A step of location paths that matters for the markers below it.
+    struct Place {
+        const Place *up = nullptr; ///< the nearest such step above
+        XmlNode element;
+        Kind kind = Kind::None;
+        bool inAngle = false; ///< a step down to here has "angle" in its name
+        XmlNode angle;        ///< from here up, the nearest element of each name
+        XmlNode sequence;
+        XmlNode clipItem;
+        XmlNode clip;
+    };
+
+    struct SequencePart {
+        RowRecord keys;
+        XmlNode sequence;
+    };
+
+    const Place &placeOf(XmlNode element);
+    const Place &addPlace(XmlNode element, const Place &up);
+    bool isActiveAngle(XmlNode angle);
+    const QString &stepOf(XmlNode element);
+    void addSequence(const Place &at, const Place &innermost, XmlNode &current);
+    void addClip(const Place &at, const Place &innermost, XmlNode current);
+    std::optional<std::int64_t> sequenceIndexOf(const QString &uuid);
+    std::optional<std::int64_t> clipIndexOf(const QString &id, XmlNode sequence);
+
+    MyDocument &m_document;
+    XmlNode m_parent;
+    Owner m_owner; ///< of the markers in m_parent
+
+    const Place m_root;
+    std::deque<Place> m_placeList;
+    std::unordered_map<XmlNode, const Place *> m_places; ///< of elements, themselves or the nearest above
+    std::unordered_map<XmlNode, bool> m_angles;
+    std::unordered_map<XmlNode, QString> m_steps;
+
+    QHash<QString, SequencePart> m_sequences;
+    std::unordered_map<XmlNode, RowRecord> m_clips; ///< by the parent, which stands for its path
+
+    std::unique_ptr<QHash<QString, std::int64_t>> m_sequenceIndexes; ///< by UUID; made when first asked
+    std::unordered_map<XmlNode, QHash<QString, std::int64_t>> m_clipIndexes;
+};
+
+} // namespace vantrell

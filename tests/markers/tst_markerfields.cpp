@@ -1,0 +1,91 @@
+#include "support/UserDefaults.h"
+#include "tests/markers/MarkerProject.h"
+#include "tests/support/TemporaryHome.h"
+
+using namespace vantrell;
+
+class MarkerFieldsTest : public QObject
+{
+    Q_OBJECT
+
+    const TemporaryHome m_home;
+
+    static QString columns(MarkerProject &project)
+    {
+        return project.world.markerColumns().join(QLatin1Char(' '));
+    }
+
+private Q_SLOTS:
+    void names_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("identifier");
+        QTest::newRow("empty") << QString() << QStringLiteral("QVCUSTOM_UNTITLED");
+        QTest::newRow("prefixed") << QStringLiteral("qvcustom_x") << QStringLiteral("QVCUSTOM_X");
+        QTest::newRow("one wrong") << QStringLiteral("Take 2 b") << QStringLiteral("QVCUSTOM_TAKE2 B");
+        QTest::newRow("two wrong") << QStringLiteral("a-b-c") << QStringLiteral("QVCUSTOM_AB-C");
+        QTest::newRow("a pair is one character")
+            << QStringLiteral("a\U0001F3ACb") << QStringLiteral("QVCUSTOM_AB");
+        QTest::newRow("nothing left") << QStringLiteral("1") << QStringLiteral("QVCUSTOM_");
+    }
+    void names()
+    {
+        QFETCH(QString, name);
+        QTEST(MarkerFields::formatMarkerFieldName(name), "identifier");
+    }
+
+    void definitionsAndColumns()
+    {
+        const QString path = m_home.path(QStringLiteral("settings.plist"));
+        UserDefaults defaults(path);
+        MarkerProject project("<xmeml/>", &defaults);
+        for (const char *column : {"name", "in", "QVCUSTOM_OLD"})
+            project.world.addMarkerColumn(QString::fromLatin1(column), QString());
+        MarkerFields &fields = project.fields;
+        for (const char *title : {"Take", "Cam era"}) {
+            fields.markerFieldAdd();
+            fields.setObjectValue(QString::fromLatin1(title), QStringLiteral("title"),
+                                  fields.markerFieldArray().size() - 1);
+        }
+        fields.markerFieldAdd(); // stays without an identifier and gets no column
+        fields.setObjectValue(QStringLiteral("Take 2"), QStringLiteral("title"), 0);
+        fields.setObjectValue(QStringLiteral("none"), QStringLiteral("title"), 9);
+        QCOMPARE(columns(project), QStringLiteral("name in QVCUSTOM_OLD"));
+        fields.storeAndSetup();
+        QCOMPARE(columns(project), QStringLiteral("name in QVCUSTOM_TAKE QVCUSTOM_CAMERA"));
+
+        fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 0);
+        fields.columnMoved(QStringLiteral("in"), 3);
+        QCOMPARE(fields.markerFieldArray().back().identifier, QStringLiteral("QVCUSTOM_TAKE"));
+
+        UserDefaults again(path);
+        MarkerProject other("<xmeml/>", &again);
+        QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_CAMERA"));
+        QCOMPARE(other.fields.markerFieldArray().back().title, QStringLiteral("Take 2"));
+        other.fields.markerFieldRemove(0);
+        other.fields.markerFieldRemove(7);
+        other.fields.setObjectValue(QStringLiteral("lens"), QStringLiteral("identifier"), 0);
+        other.fields.storeAndSetup();
+        QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
+        other.fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 2); // no such place: it stays
+        other.fields.setupMarkerFields();
+        QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
+    }
+
+    void strangeDefinitionsDoNoHarm()
+    {
+        UserDefaults defaults(m_home.path(QStringLiteral("strange.plist")), UserDefaults::Access::Volatile);
+        const QString key = QStringLiteral("customMarkerFields");
+        const PropertyListDictionary far{{QStringLiteral("identifier"), QStringLiteral("QVCUSTOM_X")},
+                                         {QStringLiteral("colIndex"), QStringLiteral("-4")}};
+        defaults.setValue(key, PropertyListValue::Array{1, far, QStringLiteral("text"), far});
+        MarkerProject project("<xmeml/>", &defaults);
+        QCOMPARE(columns(project), QStringLiteral("QVCUSTOM_X"));
+        defaults.setValue(key, QStringLiteral("no list"));
+        project.fields.setupMarkerFields();
+        QCOMPARE(columns(project), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(MarkerFieldsTest)
+#include "tst_markerfields.moc"

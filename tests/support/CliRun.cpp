@@ -1,0 +1,22 @@
+#include "tests/support/CliRun.h"
+
+#include <QProcess>
+
+namespace vantrell
+{
+
+CliRun runCli(const QStringList &arguments, const QByteArray &input)
+{
+    QProcess process;
+    process.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell-cli"), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    CliRun run;
+    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
+        run.status = process.exitCode();
+    run.output = process.readAllStandardOutput();
+    run.messages = process.readAllStandardError();
+    return run;
+}
+
+} // namespace vantrell

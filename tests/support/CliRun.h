@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace vantrell
+{
+
+/// One run of the command line program, ended.
+struct CliRun {
+    int status = -1; ///< -1 when it crashed or did not end in two minutes
+    QByteArray output;
+    QByteArray messages;
+};
+
+/// Runs vantrell-cli with the arguments and the standard input given.
+CliRun runCli(const QStringList &arguments, const QByteArray &input = QByteArray());
+
+} // namespace vantrell
