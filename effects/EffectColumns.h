@@ -1,0 +1,18 @@
+#pragma once
+
+#include "document/TableColumn.h"
+
+namespace vantrell
+{
+
+/// The columns of the effects table, in order.
+inline const TableColumns effectColumns{
+    {QStringLiteral("enabled"), QStringLiteral("Enabled")},
+    {QStringLiteral("name"), QStringLiteral("Name")},
+    {QStringLiteral("effectType"), QStringLiteral("Type")},
+    {QStringLiteral("mediaType"), QStringLiteral("Media")},
+    {QStringLiteral("clip"), QStringLiteral("Clip")},
+    {QStringLiteral("sequence"), QStringLiteral("Sequence")},
+};
+
+} // namespace vantrell

@@ -1,0 +1,140 @@
+#include "effects/EffectEditor.h"
+
+#include "effects/EffectKeys.h"
+#include "support/QVAlert.h"
+#include "support/QVException.h"
+#include "support/QVLog.h"
+#include "xml/XmlEdit.h"
+
+#include <unordered_set>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString removeTitle = QStringLiteral("Unable to remove effect");
+const QString changeTitle = QStringLiteral("Unable to change setting");
+
+/// The rows at those places among the rows on show; places beyond them are passed over.
+RowList rowsAt(const std::vector<std::size_t> &places, const RowList &rows)
+{
+    RowList found;
+    for (const std::size_t place : places) {
+        if (place < rows.size())
+            found.push_back(rows[place]);
+    }
+    return found;
+}
+
+RowList without(const RowList &rows, const RowList &removed)
+{
+    const std::unordered_set<RowRecordPtr> gone(removed.begin(), removed.end());
+    RowList kept;
+    kept.reserve(rows.size());
+    for (const RowRecordPtr &row : rows) {
+        if (!gone.contains(row))
+            kept.push_back(row);
+    }
+    return kept;
+}
+
+} // namespace
+
+EffectEditor::EffectEditor(MyDocument &document, EffectInventory &inventory)
+    : m_document(document)
+    , m_inventory(inventory)
+{
+}
+
+void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value)
+{
+    guarded("-[MyDocument updateXMLEffect:key:value:]", [&] {
+        QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
+        if (!hasProject(changeTitle))
+            return;
+        QString text = value;
+        if (key == EffectKey::enabled.text()) {
+            const bool isOn = value == QStringLiteral("1");
+            text = isOn ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
+            effect->set(EffectKey::enabled, isOn ? 1 : 0);
+        }
+        const XmlNode element = effect->get(EffectKey::effectElement);
+        if (const XmlNode child = element.childElement(key.toStdString())) {
+            XmlEdit::setText(child, text);
+        } else if (!XmlEdit::appendElement(element, key, text)) {
+            QVLog::appendLog(u"No element can have the name %@", key);
+            return;
+        }
+        markModified(*effect);
+    });
+}
+
+void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
+{
+    guarded("-[MyDocument removeXMLEffect:]", [&] {
+        if (!hasProject(removeTitle))
+            return;
+        m_document.xmlDoc()->remove(effect->get(EffectKey::effectElement));
+        markModified(*effect);
+    });
+}
+
+void EffectEditor::removeEffects()
+{
+    guarded("-[MyDocument removeEffects:]", [&] {
+        // What the user sees selected is what goes, whatever happens while the question stands.
+        const RowList selected =
+            rowsAt(m_document.interface().selectedRows(Tab::Effects), m_document.rowsOnShow(Tab::Effects));
+        if (selected.empty())
+            return;
+        const bool isOne = selected.size() == 1;
+        const int answer = QVAlert::alertSheetWithMessageText(
+            formatText(u"Are you sure you wish to remove %@ effect%@?", isOne ? u"this" : u"these",
+                       isOne ? u"" : u"s"),
+            QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
+            m_document.interface().alertParent(), true);
+        if (answer != AlertAnswer::Default)
+            return;
+        for (const RowRecordPtr &effect : selected)
+            removeXMLEffect(effect);
+        m_document.setListOf(Tab::Effects, without(m_document.effectArray(), selected));
+        m_inventory.populateFilteredEffectData();
+        m_document.interface().selectRows(Tab::Markers, {});
+    });
+}
+
+void EffectEditor::hideSelectedEffects()
+{
+    guarded("-[MyDocument tableView:keyDown:]", [&] {
+        const RowList &rows = m_document.rowsOnShow(Tab::Effects);
+        const RowList selected = rowsAt(m_document.interface().selectedRows(Tab::Effects), rows);
+        if (selected.empty())
+            return;
+        m_document.setTableArray(Tab::Effects, without(rows, selected));
+        m_document.interface().selectRows(Tab::Effects, {});
+        m_inventory.updateEffectStatusText();
+    });
+}
+
+/// Whether there is a tree to edit; an alert under that title says when there is none.
+bool EffectEditor::hasProject(const QString &alertTitle)
+{
+    if (m_document.xmlDoc())
+        return true;
+    const QString reason = QStringLiteral("XML document cannot be found.");
+    QVLog::appendLog(u"%@. %@", alertTitle, reason);
+    QVAlert::alertSheetWithMessageText(alertTitle, reason, m_document.interface().alertParent());
+    return false;
+}
+
+void EffectEditor::markModified(const RowRecord &effect)
+{
+    const QString uuid = effect.get(EffectKey::sequenceUUID);
+    if (!uuid.isNull() && !m_document.isSequenceModified(uuid))
+        m_document.addModifiedSequenceUUID(uuid);
+    m_document.updateChangeCount();
+}
+
+} // namespace vantrell

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "document/MyDocument.h"
+#include "effects/EffectInventory.h"
+
+#include <QString>
+
+namespace vantrell
+{
+
+/// Changes to effects, written into the project's tree at once: the sequence that holds the effect counts
+/// as modified and the document as edited. Editing an effect that is out of the tree does no harm. Main
+/// thread, once no inventory runs any more.
+class EffectEditor
+{
+public:
+    /// The inventory is that of the same document.
+    EffectEditor(MyDocument &document, EffectInventory &inventory);
+
+    /// Gives the effect's child element of that name the value as its text, adding the child at the end
+    /// when there is none. For the key "enabled", "1" switches the effect on and anything else switches it
+    /// off, in the tree ("TRUE", "FALSE") and in the record. Without a project an alert says so; a key
+    /// that cannot be an element's name changes nothing.
+    void updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value);
+
+    /// Takes the effect's element out of the tree, a generator with all that is on it. Without a project
+    /// an alert says so.
+    void removeXMLEffect(const RowRecordPtr &effect);
+
+    /// Removes the selected effects after a question, from the tree and from the document's list, and
+    /// deselects the rows of the marker table; those of the effects table stay selected.
+    void removeEffects();
+
+    /// What the Delete and Backspace keys do in the effects table: the selected rows leave the rows on
+    /// show until the next rebuild. Neither tree nor list changes. Nothing without a selection.
+    void hideSelectedEffects();
+
+private:
+    bool hasProject(const QString &alertTitle);
+    void markModified(const RowRecord &effect);
+
+    MyDocument &m_document;
+    EffectInventory &m_inventory;
+};
+
+} // namespace vantrell

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "document/MyDocument.h"
+
+#include <cstdint>
+
+namespace vantrell
+{
+
+/// The list of all effects of a project, and those of it that are on show: what the type menu, the
+/// show-defaults box and the search leave, sorted as the table is. Main thread unless a member says
+/// otherwise. The document must be closed before the object goes away.
+class EffectInventory
+{
+public:
+    explicit EffectInventory(MyDocument &document);
+
+    /// Rebuilds the document's list of effects, then the rows on show when the Effects tab is chosen.
+    /// Leaves the list as it is when the document closes meanwhile. On a thread of its own, one run at a
+    /// time.
+    void populateEffectData();
+
+    /// Rebuilds the rows on show and the status text. Off the main thread it shows them only if neither a
+    /// newer rebuild was started nor another tab chosen meanwhile. Any thread.
+    void populateFilteredEffectData();
+
+    /// The actions of the type menu (and of the show-defaults box) and of the search field.
+    void changeEffectFilter();
+    void effectSearchAction();
+
+    /// Sets the text under the effects table: how many rows are on show and how many are selected.
+    void updateEffectStatusText();
+
+private:
+    struct View;
+
+    void build();
+    View snapshot();
+    static RowList filtered(const View &view);
+    void show(RowList rows);
+
+    MyDocument &m_document;
+    std::uint64_t m_rebuilds = 0; // started so far
+};
+
+} // namespace vantrell

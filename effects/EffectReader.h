@@ -1,0 +1,52 @@
+#pragma once
+
+#include "document/RowRecord.h"
+#include "xml/XmlNode.h"
+
+#include <QSet>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+
+namespace vantrell
+{
+
+/// Makes effect records (EffectKey) of the elements of one tree that nobody edits meanwhile. What an
+/// owner has in common for all its effects is looked up once, and equal texts are stored once. One thread.
+class EffectReader
+{
+public:
+    /// The effect elements of a project (\a xmlType 0) or a single sequence (1): all filters in document
+    /// order, then all generators in document order. \a document is the document node.
+    static XmlNodeList effectElements(XmlNode document, std::int64_t xmlType);
+
+    RowRecordPtr recordOf(XmlNode element);
+
+private:
+    /// Name, UUID and id of a sequence or clip.
+    struct Owner {
+        std::optional<QString> name;
+        std::optional<QString> uuid;
+        std::optional<QString> id;
+    };
+
+    /// The nearest elements of those names at or above one element; null where there is none.
+    struct Surroundings {
+        XmlNode sequence;
+        XmlNode clipItem;
+        XmlNode clip;
+    };
+
+    Surroundings surroundingsAt(XmlNode element);
+    const Owner &ownerOf(XmlNode element);
+    std::optional<QString> shared(const std::optional<QString> &text);
+
+    std::unordered_map<XmlNode, Surroundings> m_surroundings; // by the element that they are seen from
+    std::unordered_map<XmlNode, Owner> m_owners;
+    QSet<QString> m_texts;
+};
+
+} // namespace vantrell

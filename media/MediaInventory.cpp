@@ -1,0 +1,227 @@
+#include "media/MediaInventory.h"
+
+#include "media/MediaFile.h"
+#include "media/MediaKeys.h"
+#include "support/QVException.h"
+#include "support/QVLog.h"
+#include "support/Workspace.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlQuery.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <algorithm>
+#include <system_error>
+#include <thread>
+
+namespace vantrell
+{
+
+/// One file definition found in the project.
+struct MediaInventory::File {
+    QString url;
+    std::optional<QString> path; ///< nothing when the URL is none
+    std::optional<QString> id;
+};
+
+namespace
+{
+
+constexpr std::size_t filesPerOperation = 256;
+
+/// Runs the action with the path when something exists there, on a thread that may be left behind.
+void withExistingFile(const QString &path, bool (*action)(const QString &))
+{
+    if (path.isEmpty())
+        return;
+    try {
+        std::thread([path, action] {
+            guarded("MediaInventory::withExistingFile", [&] {
+                if (FileChecks::lookUp(QFile::encodeName(path)).exists)
+                    action(path);
+            });
+        }).detach();
+    } catch (const std::system_error &error) {
+        QVLog::appendLog(u"The file %@ cannot be shown: %@", path, QString::fromLocal8Bit(error.what()));
+    }
+}
+
+} // namespace
+
+MediaInventory::MediaInventory(MyDocument &document, MediaFilter &filter)
+    : m_document(document)
+    , m_filter(filter)
+{
+}
+
+void MediaInventory::setFileCheck(const FileChecks::Check &check, std::chrono::milliseconds checkPatience)
+{
+    m_check = check;
+    m_patience = checkPatience;
+}
+
+void MediaInventory::populateMediaData()
+{
+    guarded("-[MyDocument populateMediaData]", [this] { build(); });
+    m_document.setPopulating(Tab::Media, false);
+    bool isShowing = false;
+    m_document.mainThread()->runAndWait([&] {
+        m_document.interface().stopSpinner(Tab::Media);
+        isShowing = m_document.viewState().selectedTab == Tab::Media;
+    });
+    if (isShowing)
+        m_filter.populateFilteredMediaData();
+}
+
+void MediaInventory::build()
+{
+    QVLog::appendLog(u"Populating media...");
+    m_document.setPopulating(Tab::Media, true);
+    m_document.mainThread()->runAndWait([this] { m_document.interface().startSpinner(Tab::Media); });
+    m_mediaOpQueue = std::make_unique<OperationQueue>(OperationQueue::processorCount());
+    m_tempUsageDict.clear();
+    RowList records;
+    std::uint64_t total = 0;
+    if (m_document.xmlDoc()) {
+        const auto isClosing = [this] { return m_document.isClosing(); };
+        std::vector<File> files;
+        XmlNodeList sequences;
+        if (!collect(files, sequences))
+            return;
+        std::vector<QByteArray> paths;
+        paths.reserve(files.size());
+        for (const File &file : files)
+            paths.push_back(file.path ? QFile::encodeName(*file.path) : QByteArray());
+        const FileChecks checks(std::move(paths), m_check);
+        countUsage(files, MediaUsage(m_document.xmlNode(), m_document.xmlType(), sequences, isClosing));
+        const std::optional<FileChecks::Answers> answers = checks.answers(isClosing, m_patience);
+        if (!answers)
+            return;
+        records = recordsOf(files, *answers, total);
+    }
+    const std::size_t count = records.size();
+    m_document.mainThread()->runAndWait([&] { m_document.setListOf(Tab::Media, std::move(records)); });
+    QVLog::appendLog(u"Finished populating media");
+    m_document.mainThread()->runAndWait([&] {
+        DocumentInterface &interface = m_document.interface();
+        interface.setLabel(Label::MediaTotalSize,
+                           formatText(u"Total size: %@", MediaFile::formatFileSize(double(total))));
+        interface.setLabel(Label::MediaTotalFiles, formatText(u"Total number of files: %i", count));
+    });
+}
+
+/// Every file definition and every sequence, in document order, in one walk. False when the document
+/// closes meanwhile.
+bool MediaInventory::collect(std::vector<File> &files, XmlNodeList &sequences) const
+{
+    static const XmlQuery query(QStringLiteral(".//sequence | .//clipitem/file[1]/pathurl[1]/text()"));
+    for (const XmlNode node : query.evaluate(m_document.xmlNode()).nodes) {
+        if (m_document.isClosing())
+            return false;
+        if (node.isElement()) {
+            sequences.push_back(node);
+            continue;
+        }
+        const QString url = node.stringValue();
+        if (url.isEmpty())
+            continue;
+        files.push_back({url, QVXMLParser::filenameFromPathURLString(url),
+                         QVXMLParser::idAttributeForNode(node.parent().parent())});
+        m_document.setFoundSoFar(Tab::Media, files.size());
+    }
+    return true;
+}
+
+void MediaInventory::countUsage(const std::vector<File> &files, const MediaUsage &usage)
+{
+    for (std::size_t first = 0; first < files.size(); first += filesPerOperation) {
+        m_mediaOpQueue->addOperation([this, first, &files, &usage] {
+            const std::size_t end = std::min(files.size(), first + filesPerOperation);
+            for (std::size_t i = first; i < end && !m_document.isClosing(); ++i) {
+                if (files[i].id)
+                    populateUsageCountForClipWithSettings({files[i].url, *files[i].id, i, usage});
+            }
+        });
+    }
+    if (m_document.isClosing())
+        m_mediaOpQueue->cancelAllOperations();
+    m_mediaOpQueue->waitUntilAllOperationsAreFinished();
+    m_mediaOpQueue.reset();
+}
+
+void MediaInventory::populateUsageCountForClipWithSettings(const ClipSettings &settings)
+{
+    const std::int64_t count = settings.usage.usageOf(settings.clipID);
+    {
+        const std::lock_guard lock(m_usageMutex);
+        const auto stored = m_tempUsageDict.find(settings.filename);
+        if (stored == m_tempUsageDict.end())
+            m_tempUsageDict.insert(settings.filename, {settings.place, count});
+        else if (stored->place <= settings.place)
+            *stored = {settings.place, count};
+    }
+    QVLog::fastAppendLog(u"Usage for file %@: %i", settings.filename, count);
+}
+
+RowList MediaInventory::recordsOf(const std::vector<File> &files, const FileChecks::Answers &answers,
+                                  std::uint64_t &total) const
+{
+    RowList records;
+    records.reserve(files.size());
+    std::size_t unanswered = 0;
+    QSet<QString> directories; // one copy of each
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const File &file = files[i];
+        const auto record = std::make_shared<RowRecord>();
+        if (file.path) {
+            const MediaFile::PathParts parts = MediaFile::splitPath(*file.path);
+            const auto usage = m_tempUsageDict.constFind(file.url);
+            record->set(MediaKey::filename, parts.filename);
+            record->set(MediaKey::directory, *directories.insert(parts.directory));
+            record->set(MediaKey::rawpath, file.url);
+            record->set(MediaKey::usageCount, usage != m_tempUsageDict.constEnd() ? usage->count : 0);
+            record->set(MediaKey::filetype, MediaFile::fileTypeForPath(*file.path));
+        }
+        if (!answers[i]) {
+            ++unanswered;
+        } else if (!answers[i]->exists) {
+            record->set(MediaKey::missing, true);
+        } else {
+            if (const auto modified = answers[i]->modified)
+                record->set(MediaKey::modDate, QDateTime::fromMSecsSinceEpoch(*modified, Qt::UTC));
+            if (const auto size = answers[i]->size) {
+                record->set(MediaKey::filesize, *size);
+                total += std::uint64_t(*size);
+            }
+        }
+        records.push_back(record);
+    }
+    if (unanswered > 0)
+        QVLog::appendLog(u"%lu media files are on volumes that do not answer.", unanswered);
+    return records;
+}
+
+void MediaInventory::revealMediaInFinder()
+{
+    const std::vector<std::size_t> selected = m_document.interface().selectedRows(Tab::Media);
+    if (!selected.empty())
+        withExistingFile(pathOfRow(selected.front()), Workspace::revealFile);
+}
+
+void MediaInventory::mediaTableViewDoubleClick(std::ptrdiff_t clickedRow)
+{
+    if (clickedRow >= 0)
+        withExistingFile(pathOfRow(std::size_t(clickedRow)), Workspace::openFile);
+}
+
+/// Null for a row that is not there or has no path.
+QString MediaInventory::pathOfRow(std::size_t row) const
+{
+    const RowList &rows = m_document.rowsOnShow(Tab::Media);
+    if (row >= rows.size())
+        return QString();
+    return MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
+}
+
+} // namespace vantrell
