@@ -1,0 +1,113 @@
+#include "bridge/OutputDocument.h"
+
+#include "bridge/QVAppleEvents.h"
+#include "support/QVLog.h"
+#include "support/TextFormat.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlEdit.h"
+#include "xml/XmlQuery.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The "uuid" elements of a project's sequences by the texts in them; of those with the same text the
+/// first in the document. Made in one walk; the tree must not change while it serves.
+class UuidIndex
+{
+public:
+    UuidIndex(XmlNode project, const QString &query)
+        : m_project(project)
+        , m_query(query)
+    {
+    }
+
+    XmlNode find(const QString &uuid)
+    {
+        if (!isPlain(uuid))
+            return QVXMLParser::nodeForQuery(m_query + QStringLiteral("[text()=\"%1\"]").arg(uuid),
+                                             m_project);
+        if (!m_isMade)
+            make();
+        return m_elements.value(uuid);
+    }
+
+private:
+    /// Whether a query takes the text literally.
+    static bool isPlain(const QString &uuid)
+    {
+        return std::none_of(uuid.begin(), uuid.end(), [](QChar c) {
+            return c == QLatin1Char('"') || c == QLatin1Char('&') || c.unicode() < 20;
+        });
+    }
+
+    void make()
+    {
+        m_isMade = true;
+        for (const XmlNode element : XmlQuery(m_query).evaluate(m_project).nodes) {
+            for (XmlNode child = element.firstChild(); child; child = child.nextSibling()) {
+                if (!child.isText())
+                    continue;
+                const QString text = child.stringValue();
+                if (!m_elements.contains(text))
+                    m_elements.insert(text, element);
+            }
+        }
+    }
+
+    XmlNode m_project;
+    QString m_query;
+    bool m_isMade = false;
+    QHash<QString, XmlNode> m_elements;
+};
+
+/// The sequence around the node, or the node itself when it is one.
+XmlNode sequenceOf(XmlNode node)
+{
+    return node.isElement("sequence") ? node : QVXMLParser::parentWithName(node, "sequence");
+}
+
+} // namespace
+
+QString OutputDocument::generateXMLOutput()
+{
+    QString output =
+        formatText(u"<?xml version=\"1.0\" encoding=\"UTF-8\"?><!DOCTYPE xmeml><xmeml version=\"%i\">"
+                   u"<bin><uuid>%@</uuid><updatebehavior>add</updatebehavior><name>Vantrell</name>"
+                   u"<children>",
+                   QVAppleEvents::maximumXMEMLVersion(), QVAppleEvents::generateUUID());
+    const QStringList uuids = m_document.modifiedSequenceUUIDs().value_or(QStringList());
+    QVLog::appendLog(u"Modified sequence UUIDs: %@", uuids);
+    UuidIndex current(m_document.xmlNode(), QStringLiteral(".//sequence/uuid"));
+    UuidIndex history(m_document.xmlNode(), QStringLiteral(".//sequence/itemhistory/uuid"));
+    for (const QString &uuid : uuids) {
+        XmlNode found = current.find(uuid);
+        if (!found)
+            found = history.find(uuid);
+        const XmlNode sequence = sequenceOf(found);
+        if (!sequence)
+            continue;
+        const XmlNode copy = m_document.xmlDoc()->copyOfElement(sequence);
+        output += XmlDocument::textOfElement(renameSequence(copy));
+        m_document.xmlDoc()->discardCopy(copy);
+    }
+    return output + QStringLiteral("</children></bin></xmeml>");
+}
+
+XmlNode OutputDocument::renameSequence(XmlNode sequence)
+{
+    const QString processed = sequence.attribute("id") + QStringLiteral("-Processed");
+    XmlEdit::setOnlyAttribute(sequence, QStringLiteral("id"), processed);
+    XmlEdit::setText(QVXMLParser::nodeForQuery(QStringLiteral("./name[1]"), sequence), processed);
+    XmlEdit::setText(QVXMLParser::nodeForQuery(QStringLiteral("./uuid[1]"), sequence),
+                     QVAppleEvents::generateUUID());
+    return sequence;
+}
+
+} // namespace vantrell

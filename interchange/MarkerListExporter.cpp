@@ -1,0 +1,132 @@
+#include "interchange/MarkerListExporter.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerColors.h"
+#include "markers/MarkerKeys.h"
+#include "support/FileUtilities.h"
+#include "support/QVAlert.h"
+#include "support/QVException.h"
+#include "support/QVLog.h"
+#include "support/TextNumbers.h"
+#include "timecode/QVTimecode.h"
+
+#include <initializer_list>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The fields with tabs between them, and a line feed.
+void appendLine(QString &text, std::initializer_list<QString> fields)
+{
+    bool isFirst = true;
+    for (const QString &field : fields) {
+        if (!isFirst)
+            text += QLatin1Char('\t');
+        text += field;
+        isFirst = false;
+    }
+    text += QLatin1Char('\n');
+}
+
+QString commentOf(const RowRecord &marker)
+{
+    return marker.get(MarkerKey::comment).trimmed();
+}
+
+QString startOf(const RowRecord &marker)
+{
+    return MyDocument::timecodeFromFrameCount(intValue(marker.get(MarkerKey::in)), marker);
+}
+
+QString durationOf(const RowRecord &marker)
+{
+    const qint64 out = integerValue(marker.get(MarkerKey::out));
+    if (out < 0)
+        return QStringLiteral("00:00:00:00");
+    const quint64 frames = quint64(out) - quint64(integerValue(marker.get(MarkerKey::in)));
+    return QVTimecode::timecodeFromFrameCount(frames, marker.get(TimecodeKey::timebase),
+                                              marker.get(TimecodeKey::ntsc),
+                                              marker.get(TimecodeKey::dropFrame), 0);
+}
+
+QString colorOf(const RowRecord &marker)
+{
+    const std::int64_t index = marker.get(MarkerKey::color);
+    const bool isListed = index > 0 && index < std::int64_t(MarkerColors::count);
+    return MarkerColors::table()[isListed ? std::size_t(index) : 0].label;
+}
+
+QString sequenceNameOf(const RowRecord &marker)
+{
+    return marker.contains(MarkerKey::sequenceName) ? marker.get(MarkerKey::sequenceName)
+                                                    : QStringLiteral("Sequence 1");
+}
+
+void appendFCPLine(QString &text, const RowRecord &marker)
+{
+    const bool onClip = marker.contains(MarkerKey::clipName);
+    appendLine(text,
+               {onClip ? marker.get(MarkerKey::clipName) : sequenceNameOf(marker),
+                onClip ? QStringLiteral("Clip") : QStringLiteral("Sequence"), marker.get(MarkerKey::name),
+                commentOf(marker), startOf(marker), durationOf(marker), colorOf(marker)});
+}
+
+void appendAvidLine(QString &text, const RowRecord &marker)
+{
+    appendLine(text, {marker.get(MarkerKey::name), startOf(marker), QStringLiteral("V1"),
+                      QStringLiteral("red"), commentOf(marker)});
+}
+
+} // namespace
+
+std::optional<MarkerListPanel> MarkerListExporter::exportFCPMarkers() const
+{
+    return showMarkerListSaveDialog(MarkerListFormat::fcp);
+}
+
+std::optional<MarkerListPanel> MarkerListExporter::exportAvidLocators() const
+{
+    return showMarkerListSaveDialog(MarkerListFormat::avid);
+}
+
+std::optional<MarkerListPanel> MarkerListExporter::showMarkerListSaveDialog(const QString &format) const
+{
+    return MarkerListPanel::forSaving(m_document, format);
+}
+
+bool MarkerListExporter::markerSaveDialogDidEnd(const QString &path, int returnCode,
+                                                const QString &format) const
+{
+    if (returnCode != MarkerListPanel::accepted)
+        return true;
+    bool isWritten = false;
+    guarded("-[MyDocument markerSaveDialogDidEnd:returnCode:contextInfo:]", [&] {
+        const Result<void> written = FileUtilities::writeAtomically(path, textOfMarkerList(format).toUtf8());
+        isWritten = written.isOk();
+        if (isWritten)
+            return;
+        QVLog::appendLog(u"Error saving %@ marker list: %@", format, written.message());
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Error saving marker list"), written.message(),
+                                           m_document.interface().alertParent());
+    });
+    return isWritten;
+}
+
+QString MarkerListExporter::textOfMarkerList(const QString &format) const
+{
+    QString text;
+    if (format == MarkerListFormat::fcp) {
+        text = QStringLiteral("Name\tType\tMarker Name\tComment\tStart\tDuration\tColor\n");
+        for (const RowRecordPtr &marker : m_document.markerArray())
+            appendFCPLine(text, *marker);
+    } else if (format == MarkerListFormat::avid) {
+        for (const RowRecordPtr &marker : m_document.markerArray())
+            appendAvidLine(text, *marker);
+    }
+    return text;
+}
+
+} // namespace vantrell
