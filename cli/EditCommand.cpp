@@ -1,0 +1,107 @@
+#include "bridge/OutputDocument.h"
+#include "cli/Command.h"
+#include "cli/EditRun.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectOutput.h"
+#include "cli/RecordJson.h"
+#include "support/FileUtilities.h"
+#include "support/QVAlert.h"
+
+#include <QFileInfo>
+
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct EditOptions {
+    std::string file;
+    std::string script;
+    std::string output;
+    std::string outputBin;
+    bool yes = false;
+    bool quiet = false;
+};
+
+const QString standardStream = QStringLiteral("-");
+
+/// Whether two paths name one file, be it there or not.
+bool isSameFile(const QString &a, const QString &b)
+{
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath() ||
+           (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
+}
+
+QByteArray resultOf(MyDocument &document)
+{
+    XmlLocationPaths paths;
+    Json uuids = Json::array();
+    for (const QString &uuid : document.modifiedSequenceUUIDs().value_or(QStringList()))
+        uuids.push_back(jsonText(uuid));
+    return toBytes(Json{{"modifiedSequenceUUIDs", std::move(uuids)},
+                        {"markers", recordsToJson(document.markerArray(), paths)},
+                        {"effects", recordsToJson(document.effectArray(), paths)}});
+}
+
+bool writeBin(const QByteArray &bin, const QString &path)
+{
+    if (path == standardStream)
+        return print(bin);
+    const Result<void> written = FileUtilities::writeAtomically(path, bin);
+    if (!written)
+        complain(written.message());
+    return written.isOk();
+}
+
+int edit(const EditOptions &options)
+{
+    const QString file = withoutMark(fromArgument(options.file));
+    const QString output = withoutMark(fromArgument(options.output));
+    const QString outputBin = withoutMark(fromArgument(options.outputBin));
+    const bool collides = !outputBin.isEmpty() && (isSameFile(outputBin, file) ||
+                                                   (!output.isEmpty() && isSameFile(outputBin, output)));
+    if (collides)
+        return refuseUsage(QStringLiteral("--output-bin: the bin needs a place of its own."));
+    const auto presenter = std::make_shared<HeadlessAlertPresenter>(options.yes);
+    QVAlert::setPresenter(presenter);
+    const Result<EditScript> script = readEditScriptFile(withoutMark(fromArgument(options.script)));
+    if (!script) {
+        complain(script.message());
+        return Failed;
+    }
+    ProjectSession session(Workbench::Inventories::All);
+    if (!session.open(file) || !EditRun(session, *presenter).apply(script.value()))
+        return Failed;
+    QByteArray bin;
+    if (!outputBin.isEmpty())
+        bin = OutputDocument(session.document()).generateXMLOutput().toUtf8();
+    if (!output.isEmpty() && !writeProject(session.document(), output))
+        return Failed;
+    if (!outputBin.isEmpty() && !writeBin(bin, outputBin))
+        return Failed;
+    const bool silent = options.quiet || output == standardStream || outputBin == standardStream;
+    return silent || print(resultOf(session.document())) ? Done : Failed;
+}
+
+} // namespace
+
+void addEditCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<EditOptions>();
+    CLI::App *command = program.add_subcommand("edit", "Change the markers and effects of a project");
+    command->add_option("FILE", options->file, "The project")->required();
+    command->add_option("--script", options->script, "The operations, a JSON file; \"-\" is standard input")
+        ->required();
+    command->add_option("-o", options->output, "The project to write; \"-\" is standard output");
+    command->add_option("--output-bin", options->outputBin,
+                        "The document of the changed sequences to write; \"-\" is standard output");
+    command->add_flag("--yes", options->yes, "Answer questions with their default button");
+    command->add_flag("--quiet", options->quiet, "Print no result");
+    command->callback([options, &status] { status = edit(*options); });
+}
+
+} // namespace vantrell::cli

@@ -1,0 +1,224 @@
+#include "cli/EditScript.h"
+
+#include "cli/JsonText.h"
+#include "markers/MarkerColumns.h"
+#include "support/FileUtilities.h"
+
+#include <QFile>
+
+#include <limits>
+#include <map>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+QString quoted(const std::string &name)
+{
+    return QLatin1Char('"') + QString::fromStdString(name) + QLatin1Char('"');
+}
+
+/// One operation's members. The first that is missing or of another type than asked for is remembered.
+class Members
+{
+public:
+    explicit Members(const Json &object)
+        : m_object(object)
+    {
+    }
+
+    const QString &fault() const { return m_fault; }
+    void setFault(const QString &fault)
+    {
+        if (m_fault.isNull())
+            m_fault = fault;
+    }
+
+    /// Null when it is missing.
+    QString optionalText(const std::string &name)
+    {
+        const Json *member = find(name);
+        if (!member)
+            return QString();
+        if (!member->is_string()) {
+            setFault(quoted(name) + QStringLiteral(" is no text."));
+            return QString();
+        }
+        const QString text = QString::fromStdString(member->get_ref<const std::string &>());
+        return text.isNull() ? QStringLiteral("") : text;
+    }
+
+    QString text(const std::string &name)
+    {
+        demand(name);
+        return optionalText(name);
+    }
+
+    std::optional<std::int64_t> optionalInteger(const std::string &name)
+    {
+        const Json *member = find(name);
+        if (!member)
+            return std::nullopt;
+        if (!member->is_number_integer())
+            setFault(quoted(name) + QStringLiteral(" is no whole number."));
+        return integerOf(*member);
+    }
+
+    std::int64_t integer(const std::string &name)
+    {
+        demand(name);
+        return optionalInteger(name).value_or(0);
+    }
+
+    RowIndexes rows()
+    {
+        demand("rows");
+        RowIndexes rows;
+        const Json *member = find("rows");
+        const bool isList = member && member->is_array() &&
+                            std::all_of(member->begin(), member->end(),
+                                        [](const Json &row) { return row.is_number_integer(); });
+        if (!isList) {
+            setFault(QStringLiteral("\"rows\" is no list of whole numbers."));
+            return rows;
+        }
+        for (const Json &row : *member)
+            rows.insert(integerOf(row));
+        return rows;
+    }
+
+private:
+    const Json *find(const std::string &name) const
+    {
+        const auto member = m_object.find(name);
+        return member == m_object.end() ? nullptr : &*member;
+    }
+
+    void demand(const std::string &name)
+    {
+        if (!find(name))
+            setFault(quoted(name) + QStringLiteral(" is missing."));
+    }
+
+    /// Numbers beyond the signed ones stay beyond every row.
+    static std::int64_t integerOf(const Json &number)
+    {
+        constexpr auto largest = std::numeric_limits<std::int64_t>::max();
+        if (number.is_number_unsigned() && number.get<std::uint64_t>() > std::uint64_t(largest))
+            return largest;
+        return number.is_number_integer() ? number.get<std::int64_t>() : 0;
+    }
+
+    const Json &m_object;
+    QString m_fault;
+};
+
+NewMarker newMarkerOf(Members &members)
+{
+    NewMarker marker;
+    marker.name = members.text("name");
+    marker.comment = members.optionalText("comment");
+    marker.color = members.optionalText("color");
+    marker.sequence = members.optionalInteger("sequence");
+    return marker;
+}
+
+EditOperation setCell(Members &members)
+{
+    SetCell operation{members.rows(), members.text("column"), members.text("value")};
+    if (!isMarkerColumn(operation.column))
+        members.setFault(QStringLiteral("the marker table has no column \"%1\".").arg(operation.column));
+    return operation;
+}
+
+EditOperation addFrames(Members &members)
+{
+    const NewMarker marker = newMarkerOf(members);
+    return AddFrames{marker, members.integer("in"), members.integer("out")};
+}
+
+EditOperation addTimecode(Members &members)
+{
+    const NewMarker marker = newMarkerOf(members);
+    return AddTimecode{marker, members.text("start"), members.optionalText("duration")};
+}
+
+EditOperation setEffect(Members &members)
+{
+    const QString key = members.optionalText("key");
+    return SetEffect{members.integer("row"), key.isNull() ? QStringLiteral("enabled") : key,
+                     members.text("value")};
+}
+
+using Reader = EditOperation (*)(Members &);
+
+const std::map<std::string, Reader, std::less<>> &readers()
+{
+    static const std::map<std::string, Reader, std::less<>> table = {
+        {"set", setCell},
+        {"add", [](Members &) -> EditOperation { return AddMarker(); }},
+        {"addFrames", addFrames},
+        {"addTimecode", addTimecode},
+        {"remove", [](Members &members) -> EditOperation { return RemoveMarkers{members.rows()}; }},
+        {"offset",
+         [](Members &members) -> EditOperation {
+             return OffsetMarkers{members.rows(), members.text("text")};
+         }},
+        {"setEffect", setEffect},
+        {"removeEffects", [](Members &members) -> EditOperation { return RemoveEffects{members.rows()}; }},
+    };
+    return table;
+}
+
+Result<EditOperation> readOperation(const Json &object)
+{
+    if (!object.is_object())
+        return Failure{QStringLiteral("it is no object.")};
+    Members members(object);
+    const QString name = members.text("op");
+    const auto reader = readers().find(name.toStdString());
+    if (members.fault().isNull() && reader == readers().end())
+        return Failure{QStringLiteral("there is no operation \"%1\".").arg(name)};
+    if (!members.fault().isNull())
+        return Failure{members.fault()};
+    const EditOperation operation = reader->second(members);
+    if (!members.fault().isNull())
+        return Failure{members.fault()};
+    return operation;
+}
+
+} // namespace
+
+Result<EditScript> readEditScript(const QByteArray &bytes)
+{
+    const Json json = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    if (json.is_discarded())
+        return Failure{QStringLiteral("The script is no JSON.")};
+    if (!json.is_array())
+        return Failure{QStringLiteral("The script is no list of operations.")};
+    EditScript script;
+    for (const Json &object : json) {
+        const Result<EditOperation> operation = readOperation(object);
+        if (!operation)
+            return Failure{QStringLiteral("Operation %1 of the script: %2")
+                               .arg(QString::number(script.size() + 1), operation.message())};
+        script.push_back(operation.value());
+    }
+    return script;
+}
+
+Result<EditScript> readEditScriptFile(const QString &path)
+{
+    if (path != QLatin1String("-")) {
+        const Result<QByteArray> bytes = FileUtilities::readFile(path);
+        return bytes ? readEditScript(bytes.value()) : Result<EditScript>(bytes.failure());
+    }
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return Failure{input.errorString()};
+    return readEditScript(input.readAll());
+}
+
+} // namespace vantrell::cli

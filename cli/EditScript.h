@@ -1,0 +1,69 @@
+#pragma once
+
+#include "support/Result.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <variant>
+#include <vector>
+
+namespace vantrell::cli
+{
+
+/// Indexes into an unfiltered list, as they were given: any of them may be out of range.
+using RowIndexes = std::set<std::int64_t>;
+
+struct SetCell {
+    RowIndexes rows;
+    QString column;
+    QString value;
+};
+struct AddMarker {
+};
+/// What the two ways of adding a marker have in common.
+struct NewMarker {
+    QString name;
+    QString comment; ///< null for none
+    QString color;
+    std::optional<std::int64_t> sequence; ///< in the sequence menu
+};
+struct AddFrames : NewMarker {
+    std::int64_t in = 0;
+    std::int64_t out = 0;
+};
+struct AddTimecode : NewMarker {
+    QString start;
+    QString duration;
+};
+struct RemoveMarkers {
+    RowIndexes rows;
+};
+struct OffsetMarkers {
+    RowIndexes rows;
+    QString text;
+};
+struct SetEffect {
+    std::int64_t row = 0;
+    QString key;
+    QString value;
+};
+struct RemoveEffects {
+    RowIndexes rows;
+};
+
+using EditOperation = std::variant<SetCell, AddMarker, AddFrames, AddTimecode, RemoveMarkers, OffsetMarkers,
+                                   SetEffect, RemoveEffects>;
+using EditScript = std::vector<EditOperation>;
+
+/// Reads the operations from JSON. The failure says which operation is wrong and why: it is unknown, a
+/// member is missing or of another type, or its column is none of the marker table.
+Result<EditScript> readEditScript(const QByteArray &json);
+
+/// The same from a file, or from standard input for "-".
+Result<EditScript> readEditScriptFile(const QString &path);
+
+} // namespace vantrell::cli

@@ -1,0 +1,109 @@
+#include "cli/Command.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectSession.h"
+#include "cli/RecordJson.h"
+#include "cli/SortOption.h"
+#include "cli/TextTable.h"
+#include "effects/EffectColumns.h"
+#include "effects/EffectKeys.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct EffectsOptions {
+    std::string file;
+    std::string type = "all";
+    std::string search;
+    std::optional<std::string> sort;
+    bool showDefaults = false;
+    bool json = false;
+};
+
+/// Names of the type menu's items, in their order.
+const std::vector<std::string> typeNames{"all",          "filter",    "video-filter",
+                                         "audio-filter", "generator", "transition"};
+
+QString cellText(const RowRecord &effect, const TableColumn &column)
+{
+    const RecordKey key(column.identifier);
+    const RecordValue *value = effect.find(key);
+    if (!value)
+        return QString();
+    if (key == EffectKey::enabled)
+        return effect.get(EffectKey::enabled) != 0 ? QStringLiteral("yes") : QStringLiteral("no");
+    return valueText(*value);
+}
+
+QByteArray asTable(const RowList &effects)
+{
+    QStringList titles;
+    for (const TableColumn &column : effectColumns)
+        titles.append(column.title);
+    TextTable table(titles);
+    for (const RowRecordPtr &effect : effects) {
+        QStringList cells;
+        for (const TableColumn &column : effectColumns)
+            cells.append(cellText(*effect, column));
+        table.addRow(cells);
+    }
+    return table.toBytes();
+}
+
+QByteArray asJson(ProjectSession &session)
+{
+    XmlLocationPaths paths;
+    return toBytes(Json{{"effects", recordsToJson(session.document().rowsOnShow(Tab::Effects), paths)},
+                        {"status", jsonText(session.label(Label::EffectStatus))}});
+}
+
+int effects(const EffectsOptions &options)
+{
+    std::vector<SortDescriptor> sort;
+    if (options.sort) {
+        const std::optional<SortDescriptor> descriptor = readSortOption(*options.sort, effectColumns);
+        if (!descriptor)
+            return refuseUsage(QStringLiteral("--sort: the effects table has no such column."));
+        sort.push_back(*descriptor);
+    }
+    ProjectSession session(Workbench::Inventories::All);
+    if (!session.open(withoutMark(fromArgument(options.file))))
+        return Failed;
+    session.setSortDescriptors(Tab::Effects, sort);
+    ViewState &view = session.document().viewState();
+    view.selectedTab = Tab::Effects;
+    view.effectType = int(std::find(typeNames.begin(), typeNames.end(), options.type) - typeNames.begin());
+    view.effectShowDefaults = options.showDefaults;
+    view.effectSearch = withoutMark(fromArgument(options.search));
+    session.workbench().effectInventory().populateFilteredEffectData();
+    const QByteArray output =
+        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Effects));
+    return print(output) ? Done : Failed;
+}
+
+} // namespace
+
+void addEffectsCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<EffectsOptions>();
+    CLI::App *command = program.add_subcommand("effects", "List the filters and generators of a project");
+    command->add_option("FILE", options->file, "The project")->required();
+    command
+        ->add_option("--type", options->type,
+                     "Only these: all, filter, video-filter, audio-filter, generator or transition")
+        ->check(CLI::IsMember(typeNames));
+    command->add_option("--search", options->search, "Only effects with this text in their name");
+    command->add_flag("--show-defaults", options->showDefaults,
+                      "Also the effects that every clip has, such as Opacity");
+    command->add_option("--sort", options->sort,
+                        "Sort by a column, ID or ID:desc: " + sortChoices(effectColumns));
+    command->add_flag("--json", options->json, "Print one JSON document, with the status text");
+    command->callback([options, &status] { status = effects(*options); });
+}
+
+} // namespace vantrell::cli

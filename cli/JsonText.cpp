@@ -1,0 +1,17 @@
+#include "cli/JsonText.h"
+
+namespace vantrell::cli
+{
+
+std::string jsonText(const QString &text)
+{
+    return text.toUtf8().toStdString();
+}
+
+QByteArray toBytes(const Json &json)
+{
+    const std::string text = json.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return QByteArray(text.data(), qsizetype(text.size())) + '\n';
+}
+
+} // namespace vantrell::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+
+namespace vantrell::cli
+{
+
+using Json = nlohmann::ordered_json;
+
+/// The text as JSON takes it; unpaired surrogates become replacement characters.
+std::string jsonText(const QString &text);
+
+/// One JSON document as UTF-8, with a line end.
+QByteArray toBytes(const Json &json);
+
+} // namespace vantrell::cli

@@ -1,0 +1,48 @@
+#include "cli/Command.h"
+#include "cli/JsonText.h"
+#include "cli/ProjectSession.h"
+
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct LoadOptions {
+    std::string file;
+    bool noInventories = false;
+};
+
+int load(const LoadOptions &options)
+{
+    ProjectSession session(options.noInventories ? Workbench::Inventories::None
+                                                 : Workbench::Inventories::All);
+    if (!session.open(fromArgument(options.file)))
+        return Failed;
+    MyDocument &document = session.document();
+    Json counts;
+    counts["xmlType"] = document.xmlType();
+    counts["sequences"] = document.sequenceMenu()->size() - 1;
+    if (!options.noInventories) {
+        counts["media"] = document.mediaArray().size();
+        counts["effects"] = document.effectArray().size();
+        counts["markers"] = document.markerArray().size();
+    }
+    return print(toBytes(counts)) ? Done : Failed;
+}
+
+} // namespace
+
+void addLoadCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<LoadOptions>();
+    CLI::App *command = program.add_subcommand("load", "Load a project and print what it holds, in numbers");
+    command->add_option("FILE", options->file, "The project")->required();
+    command->add_flag("--no-inventories", options->noInventories,
+                      "Only parse the file and list its sequences");
+    command->callback([options, &status] { status = load(*options); });
+}
+
+} // namespace vantrell::cli

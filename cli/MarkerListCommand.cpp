@@ -1,0 +1,132 @@
+#include "cli/Command.h"
+#include "cli/Numbers.h"
+#include "cli/RecordJson.h"
+#include "cli/TextTable.h"
+#include "interchange/ImportedMarker.h"
+#include "interchange/MarkerListImporter.h"
+#include "interchange/QVFCPXMLParser.h"
+
+#include <QFileInfo>
+
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct MarkerListOptions {
+    std::string file;
+    std::string format;
+    std::string relativeHour = "-1";
+    bool seconds = false;
+    bool stripDuplicates = false;
+    bool allStorylines = false;
+    bool json = false;
+};
+
+QByteArray asJson(const RowList &rows)
+{
+    XmlLocationPaths paths;
+    return toBytes(recordsToJson(rows, paths));
+}
+
+std::vector<RecordKey> columnsOf(const MarkerListOptions &options)
+{
+    using namespace ImportedMarkerKey;
+    if (options.format == "fcp")
+        return {name, comment, startTimecode, durationTimecode, color, parentName, parentType};
+    if (options.format == "avid")
+        return {name, comment, startTimecode, color};
+    if (options.seconds)
+        return {name, seconds};
+    return {name, startTimecode};
+}
+
+QByteArray asTable(const RowList &rows, const std::vector<RecordKey> &columns)
+{
+    QStringList titles;
+    for (const RecordKey column : columns)
+        titles.append(column.text());
+    TextTable table(titles);
+    for (const RowRecordPtr &row : rows) {
+        QStringList cells;
+        for (const RecordKey column : columns) {
+            const RecordValue *value = row->find(column);
+            cells.append(value ? valueText(*value) : QString());
+        }
+        table.addRow(cells);
+    }
+    return table.toBytes();
+}
+
+/// The rows; nothing, after a message, when the file cannot be read.
+std::optional<RowList> read(const QString &path, const MarkerListOptions &options, qint64 relativeHour)
+{
+    std::optional<RowList> rows;
+    if (options.format == "fcpx")
+        rows = QVFCPXMLParser::markersFromXMLFile(path, !options.seconds, options.stripDuplicates,
+                                                  !options.allStorylines, relativeHour);
+    else
+        rows = MarkerListImporter::rowsOfFile(path, fromArgument(options.format));
+    if (rows && !rows->empty())
+        return rows;
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        complain(QStringLiteral("The file \"%1\" does not exist.").arg(path));
+    } else if (file.isDir()) {
+        complain(QStringLiteral("\"%1\" is a folder, not a marker list.").arg(path));
+    } else if (!file.isReadable()) {
+        complain(QStringLiteral("The file \"%1\" may not be read.").arg(path));
+    } else if (!rows) {
+        complain(QStringLiteral("The file \"%1\" holds no text that could be a marker list.").arg(path));
+    } else {
+        return rows;
+    }
+    return std::nullopt;
+}
+
+int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
+{
+    if (hasOptionsOfFcpx && options.format != "fcpx")
+        return refuseUsage(QStringLiteral("--seconds, --strip-duplicates, --all-storylines and "
+                                          "--relative-hour go with --format fcpx only."));
+    const QString hourText = withoutMark(fromArgument(options.relativeHour));
+    const std::optional<quint64> hour = wholeNumber(hourText);
+    if (!hour)
+        return refuseUsage(QStringLiteral("--relative-hour: \"%1\" is no whole number.").arg(hourText));
+    const std::optional<RowList> rows = read(fromArgument(options.file), options, qint64(*hour));
+    if (!rows)
+        return Failed;
+    return print(options.json ? asJson(*rows) : asTable(*rows, columnsOf(options))) ? Done : Failed;
+}
+
+} // namespace
+
+void addMarkerListCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<MarkerListOptions>();
+    CLI::App *command =
+        program.add_subcommand("marker-list", "List the markers of another system's marker list file");
+    command->add_option("LIST", options->file, "The marker list")->required();
+    command->add_option("--format", options->format, "fcp, avid or fcpx")
+        ->required()
+        ->check(CLI::IsMember({"fcp", "avid", "fcpx"}));
+    const std::vector<const CLI::Option *> ofFcpx = {
+        command->add_flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)"),
+        command->add_flag("--strip-duplicates", options->stripDuplicates,
+                          "Only the first of the markers at one place (fcpx)"),
+        command->add_flag("--all-storylines", options->allStorylines,
+                          "Connected clips and secondary storylines too (fcpx)"),
+        command->add_option("--relative-hour", options->relativeHour,
+                            "The hour that becomes 0; lower ones are raised by it (fcpx)")};
+    command->add_flag("--json", options->json, "Print one JSON document");
+    command->callback([options, ofFcpx, &status] {
+        const bool hasOptionsOfFcpx = std::any_of(
+            ofFcpx.begin(), ofFcpx.end(), [](const CLI::Option *option) { return option->count() > 0; });
+        status = markerList(*options, hasOptionsOfFcpx);
+    });
+}
+
+} // namespace vantrell::cli

@@ -1,0 +1,162 @@
+#include "cli/Command.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectSession.h"
+#include "cli/RecordJson.h"
+#include "cli/SortOption.h"
+#include "cli/TextTable.h"
+#include "markers/MarkerColors.h"
+#include "markers/MarkerColumns.h"
+#include "markers/MarkerTableValues.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct MarkersOptions {
+    std::string file;
+    std::optional<std::string> color;
+    std::optional<std::string> sort;
+    bool json = false;
+};
+
+/// The colour index that the value of --color names.
+std::optional<int> colorOf(const std::string &value)
+{
+    const QString text = fromArgument(value);
+    const bool isIndex = text.size() == 1 && text >= QStringLiteral("0") && text <= QStringLiteral("7");
+    return isIndex ? std::optional<int>(text.toInt()) : MarkerColors::find(text);
+}
+
+QString yesOrEmpty(const RowRecord &marker, TypedKey<std::int64_t> flag)
+{
+    return marker.get(flag) == 1 ? QStringLiteral("yes") : QString();
+}
+
+QString cellText(const RowRecord &marker, const QString &column)
+{
+    const RecordKey key(column);
+    if (key == MarkerKey::color) {
+        const std::int64_t color = marker.get(MarkerKey::color);
+        const bool known = color >= 0 && color < std::int64_t(MarkerColors::count);
+        return known ? MarkerColors::table()[std::size_t(color)].label : QString::number(color);
+    }
+    if (key == MarkerKey::in)
+        return MarkerTableValues::inText(marker);
+    if (key == MarkerKey::out)
+        return MarkerTableValues::outText(marker);
+    if (key == MarkerKey::sequence)
+        return marker.get(MarkerKey::sequenceName);
+    if (key == MarkerKey::clip)
+        return marker.get(MarkerKey::clipName);
+    for (const TypedKey<std::int64_t> flag :
+         {MarkerKey::chapter, MarkerKey::compression, MarkerKey::scoring}) {
+        if (key == flag)
+            return yesOrEmpty(marker, flag);
+    }
+    return marker.text(key);
+}
+
+/// The custom fields that the markers have, in the order in which they come.
+QStringList customFieldsOf(const RowList &markers)
+{
+    std::vector<RecordKey> seen;
+    QStringList fields;
+    for (const RowRecordPtr &marker : markers) {
+        for (std::size_t i = 0; i < marker->size(); ++i) {
+            const RecordKey key = marker->keyAt(i);
+            if (std::find(seen.begin(), seen.end(), key) != seen.end())
+                continue;
+            seen.push_back(key);
+            if (key.text().startsWith(MarkerKey::customPrefix))
+                fields.append(key.text());
+        }
+    }
+    return fields;
+}
+
+QByteArray asTable(const RowList &markers)
+{
+    QStringList columns;
+    QStringList titles;
+    for (const TableColumn &column : markerColumns) {
+        columns.append(column.identifier);
+        titles.append(column.title.isEmpty() ? QStringLiteral("Color") : column.title);
+    }
+    const QStringList customFields = customFieldsOf(markers);
+    columns += customFields;
+    titles += customFields;
+    TextTable table(titles);
+    for (const RowRecordPtr &marker : markers) {
+        QStringList cells;
+        for (const QString &column : columns)
+            cells.append(cellText(*marker, column));
+        table.addRow(cells);
+    }
+    return table.toBytes();
+}
+
+QByteArray asJson(const RowList &markers)
+{
+    XmlLocationPaths paths;
+    Json list = Json::array();
+    for (const RowRecordPtr &marker : markers) {
+        Json json = recordToJson(*marker, paths);
+        json.push_back({"display", Json{{"in", jsonText(MarkerTableValues::inText(*marker))},
+                                        {"out", jsonText(MarkerTableValues::outText(*marker))}}});
+        list.push_back(std::move(json));
+    }
+    return toBytes(list);
+}
+
+int markers(const MarkersOptions &options)
+{
+    std::optional<int> color;
+    if (options.color) {
+        color = colorOf(*options.color);
+        if (!color)
+            return refuseUsage(QStringLiteral("--color: there is no such colour."));
+    }
+    std::vector<SortDescriptor> sort;
+    if (options.sort) {
+        const std::optional<SortDescriptor> descriptor =
+            readSortOption(*options.sort, markerColumns, MarkerKey::customPrefix);
+        if (!descriptor)
+            return refuseUsage(QStringLiteral("--sort: the marker table has no such column."));
+        sort.push_back(*descriptor);
+    }
+    ProjectSession session(Workbench::Inventories::Markers);
+    if (!session.open(withoutMark(fromArgument(options.file))))
+        return Failed;
+    session.setSortDescriptors(Tab::Markers, sort);
+    ViewState &view = session.document().viewState();
+    view.selectedTab = Tab::Markers;
+    view.markerFilter = color ? *color + 1 : 0;
+    session.workbench().markerInventory().populateFilteredMarkerData();
+    const RowList &rows = session.document().rowsOnShow(Tab::Markers);
+    return print(options.json ? asJson(rows) : asTable(rows)) ? Done : Failed;
+}
+
+} // namespace
+
+void addMarkersCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<MarkersOptions>();
+    CLI::App *command = program.add_subcommand("markers", "List the markers of a project");
+    command->add_option("FILE", options->file, "The project")->required();
+    command->add_option("--color", options->color,
+                        "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
+                        "pink, or 0 to 7");
+    command->add_option("--sort", options->sort,
+                        "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
+                        "come in document order. Columns: " +
+                            sortChoices(markerColumns) + ", QVCUSTOM_...");
+    command->add_flag("--json", options->json, "Print one JSON document");
+    command->callback([options, &status] { status = markers(*options); });
+}
+
+} // namespace vantrell::cli

@@ -1,0 +1,126 @@
+#include "cli/Command.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectSession.h"
+#include "cli/RecordJson.h"
+#include "cli/SortOption.h"
+#include "cli/TextTable.h"
+#include "media/MediaColumns.h"
+#include "media/MediaFile.h"
+#include "media/MediaKeys.h"
+
+#include <array>
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct MediaOptions {
+    std::string file;
+    std::string kind;
+    std::string drive;
+    std::optional<std::string> sort;
+    bool json = false;
+};
+
+constexpr std::array labels{Label::MediaTotalSize,         Label::MediaTotalFiles,
+                            Label::MediaFilteredTotalSize, Label::MediaFilteredTotalFiles,
+                            Label::MediaLargestFile,       Label::MediaSmallestFile};
+
+/// The item of the kind menu; 0 for no name.
+int menuItemOfKind(const std::string &kind)
+{
+    return kind == "movie" ? 1 : kind == "audio" ? 2 : kind == "image" ? 3 : 0;
+}
+
+/// The path of the drive menu's item; null for all drives.
+QString driveOf(const std::string &argument)
+{
+    QString drive = withoutMark(fromArgument(argument));
+    while (drive.size() > 1 && drive.endsWith(QLatin1Char('/')))
+        drive.chop(1);
+    return drive.isEmpty() ? QString() : drive;
+}
+
+QString cellText(const RowRecord &file, const TableColumn &column)
+{
+    const RecordKey key(column.identifier);
+    const RecordValue *value = file.find(key);
+    if (!value)
+        return QString();
+    if (key == MediaKey::filesize)
+        return MediaFile::formatFileSize(double(file.get(MediaKey::filesize)));
+    if (key == MediaKey::missing)
+        return QStringLiteral("missing");
+    return valueText(*value);
+}
+
+QByteArray asTable(const RowList &files)
+{
+    QStringList titles;
+    for (const TableColumn &column : mediaColumns)
+        titles.append(column.title);
+    TextTable table(titles);
+    for (const RowRecordPtr &file : files) {
+        QStringList cells;
+        for (const TableColumn &column : mediaColumns)
+            cells.append(cellText(*file, column));
+        table.addRow(cells);
+    }
+    return table.toBytes();
+}
+
+QByteArray asJson(ProjectSession &session)
+{
+    XmlLocationPaths paths;
+    Json texts = Json::array();
+    for (const Label label : labels)
+        texts.push_back(jsonText(session.label(label)));
+    return toBytes(Json{{"files", recordsToJson(session.document().rowsOnShow(Tab::Media), paths)},
+                        {"statistics", recordToJson(session.workbench().mediaFilter().statistics(), paths)},
+                        {"labels", std::move(texts)}});
+}
+
+int media(const MediaOptions &options)
+{
+    std::vector<SortDescriptor> sort;
+    if (options.sort) {
+        const std::optional<SortDescriptor> descriptor = readSortOption(*options.sort, mediaColumns);
+        if (!descriptor)
+            return refuseUsage(QStringLiteral("--sort: the media table has no such column."));
+        sort.push_back(*descriptor);
+    }
+    ProjectSession session(Workbench::Inventories::All);
+    if (!session.open(withoutMark(fromArgument(options.file))))
+        return Failed;
+    session.setSortDescriptors(Tab::Media, sort);
+    ViewState &view = session.document().viewState();
+    view.selectedTab = Tab::Media;
+    view.mediaKind = menuItemOfKind(options.kind);
+    view.mediaDrive = driveOf(options.drive);
+    session.workbench().mediaFilter().populateFilteredMediaData();
+    const QByteArray output =
+        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Media));
+    return print(output) ? Done : Failed;
+}
+
+} // namespace
+
+void addMediaCommand(CLI::App &program, int &status)
+{
+    auto options = std::make_shared<MediaOptions>();
+    CLI::App *command = program.add_subcommand("media", "List the media files that the clips use");
+    command->add_option("FILE", options->file, "The project")->required();
+    command->add_option("--kind", options->kind, "Only files of this kind: movie, audio or image")
+        ->check(CLI::IsMember({"movie", "audio", "image"}));
+    command->add_option("--drive", options->drive,
+                        "Only files below this folder; / stands for all that is on no mounted volume");
+    command->add_option("--sort", options->sort,
+                        "Sort by a column, ID or ID:desc: " + sortChoices(mediaColumns));
+    command->add_flag("--json", options->json, "Print one JSON document, with statistics and label texts");
+    command->callback([options, &status] { status = media(*options); });
+}
+
+} // namespace vantrell::cli

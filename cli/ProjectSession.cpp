@@ -1,0 +1,51 @@
+#include "cli/ProjectSession.h"
+
+#include "cli/Command.h"
+
+namespace vantrell::cli
+{
+
+ProjectSession::ProjectSession(Workbench::Inventories inventories)
+    : m_workbench(new Workbench(*this, inventories))
+{
+}
+
+ProjectSession::~ProjectSession()
+{
+    m_workbench->document().close();
+#ifndef VANTRELL_SANITIZED
+    m_workbench.release();
+#endif
+}
+
+bool ProjectSession::open(const QString &path)
+{
+    if (!m_workbench->open(path)) {
+        complain(QStringLiteral("The file \"%1\" is of no type that can be opened.").arg(path));
+        return false;
+    }
+    if (!m_ended)
+        m_loop.exec();
+    return m_loaded;
+}
+
+void ProjectSession::loadFinished(bool loaded, const QString &message, const QString &notice)
+{
+    m_loaded = loaded;
+    if (!notice.isEmpty())
+        complain(notice);
+    if (loaded)
+        return;
+    if (!message.isEmpty())
+        complain(message);
+    m_ended = true;
+    m_loop.quit();
+}
+
+void ProjectSession::inventoriesFinished()
+{
+    m_ended = true;
+    m_loop.quit();
+}
+
+} // namespace vantrell::cli

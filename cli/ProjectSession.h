@@ -1,0 +1,45 @@
+#pragma once
+
+#include "document/HeadlessDocumentInterface.h"
+#include "workbench/Workbench.h"
+
+#include <QEventLoop>
+#include <QString>
+
+#include <memory>
+
+namespace vantrell::cli
+{
+
+/// One project opened for a command. Main thread.
+class ProjectSession : private HeadlessDocumentInterface
+{
+public:
+    explicit ProjectSession(Workbench::Inventories inventories);
+    /// Ends what runs for the project and leaves its memory to the end of the process, which is near:
+    /// taking a large tree apart would only cost time.
+    ~ProjectSession() override;
+
+    /// Loads the file and waits for it, inventories included. False, with a message on standard error,
+    /// when there is no project then; a file that had to be repaired is opened with a message.
+    bool open(const QString &path);
+
+    Workbench &workbench() { return *m_workbench; }
+    MyDocument &document() { return m_workbench->document(); }
+
+    /// What the tables are sorted by, and the texts beside them.
+    using HeadlessDocumentInterface::label;
+    using HeadlessDocumentInterface::selectRows;
+    using HeadlessDocumentInterface::setSortDescriptors;
+
+private:
+    void loadFinished(bool loaded, const QString &message, const QString &notice) override;
+    void inventoriesFinished() override;
+
+    QEventLoop m_loop;
+    bool m_loaded = false;
+    bool m_ended = false;
+    std::unique_ptr<Workbench> m_workbench;
+};
+
+} // namespace vantrell::cli

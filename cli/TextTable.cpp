@@ -1,0 +1,50 @@
+#include "cli/TextTable.h"
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace vantrell::cli
+{
+
+void TextTable::addRow(const QStringList &cells)
+{
+    QStringList row = cells;
+    for (QString &cell : row) {
+        for (QChar &c : cell) {
+            if (c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'))
+                c = QLatin1Char(' ');
+        }
+    }
+    m_rows.push_back(std::move(row));
+}
+
+QByteArray TextTable::toBytes() const
+{
+    return toBytes(isatty(STDOUT_FILENO) != 0);
+}
+
+QByteArray TextTable::toBytes(bool aligned) const
+{
+    std::vector<qsizetype> widths(std::size_t(m_rows.front().size()), 0);
+    if (aligned) {
+        for (const QStringList &row : m_rows) {
+            for (qsizetype i = 0; i < row.size(); ++i)
+                widths[std::size_t(i)] = std::max(widths[std::size_t(i)], row.at(i).size());
+        }
+    }
+    QString text;
+    for (const QStringList &row : m_rows) {
+        QString line;
+        for (qsizetype i = 0; i < row.size(); ++i) {
+            const bool last = i + 1 == row.size();
+            line += aligned && !last ? row.at(i).leftJustified(widths[std::size_t(i)] + 2) : row.at(i);
+            if (!aligned && !last)
+                line += QLatin1Char('\t');
+        }
+        text += line + QLatin1Char('\n');
+    }
+    return text.toUtf8();
+}
+
+} // namespace vantrell::cli

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <vector>
+
+namespace vantrell::cli
+{
+
+/// A table for people: aligned columns on a terminal, tab-separated otherwise. Line breaks and tabs in
+/// cells become blanks.
+class TextTable
+{
+public:
+    explicit TextTable(const QStringList &titles) { addRow(titles); }
+
+    /// As many cells as there are titles.
+    void addRow(const QStringList &cells);
+
+    /// The table in the form that suits standard output.
+    QByteArray toBytes() const;
+    QByteArray toBytes(bool aligned) const;
+
+private:
+    std::vector<QStringList> m_rows;
+};
+
+} // namespace vantrell::cli

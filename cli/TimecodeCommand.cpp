@@ -1,0 +1,173 @@
+#include "cli/Command.h"
+
+#include "cli/Numbers.h"
+#include "timecode/QVTimecode.h"
+
+#include <functional>
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct TimecodeOptions {
+    std::string timebase = "30";
+    std::string start;
+    bool ntsc = false;
+    bool dropFrame = false;
+    std::vector<std::string> values;
+};
+
+/// The options with their numbers read.
+struct Parameters {
+    qint64 timebase = 30;
+    quint64 startFrame = 0;
+    bool ntsc = false;
+    bool dropFrame = false;
+    QString startTimecode;
+};
+
+/// What one subcommand prints for its values; nothing, after a message, when a value is wrong.
+using Printer = std::function<std::optional<QStringList>(const Parameters &, const QStringList &)>;
+
+std::optional<QStringList> formatFrames(const Parameters &p, const QStringList &values)
+{
+    QStringList lines;
+    for (const QString &value : values) {
+        const std::optional<quint64> frames = wholeNumber(value);
+        if (!frames) {
+            complain(QStringLiteral("\"%1\" is no number of frames.").arg(value));
+            return std::nullopt;
+        }
+        lines.append(
+            QVTimecode::timecodeFromFrameCount(*frames, p.timebase, p.ntsc, p.dropFrame, p.startFrame));
+    }
+    return lines;
+}
+
+std::optional<QStringList> parseTimecodes(const Parameters &p, const QStringList &values)
+{
+    QStringList lines;
+    for (const QString &value : values) {
+        lines.append(QString::number(
+            QVTimecode::frameCountFromTimecode(value, p.timebase, p.ntsc, p.dropFrame, p.startFrame)));
+    }
+    return lines;
+}
+
+std::optional<QStringList> expandTexts(const Parameters &p, const QStringList &values)
+{
+    QStringList lines;
+    for (const QString &value : values)
+        lines.append(QVTimecode::timecodeFromUserString(value, p.dropFrame, p.startTimecode));
+    return lines;
+}
+
+using Combination = QString (*)(const QString &, const QString &, qint64, bool, bool);
+
+Printer combining(Combination combination)
+{
+    return [combination](const Parameters &p, const QStringList &values) -> std::optional<QStringList> {
+        if (values.isEmpty() || values.size() % 2 != 0) {
+            complain(QStringLiteral("two timecodes are needed."));
+            return std::nullopt;
+        }
+        QStringList lines;
+        for (qsizetype i = 0; i < values.size(); i += 2)
+            lines.append(combination(values.at(i), values.at(i + 1), p.timebase, p.ntsc, p.dropFrame));
+        return lines;
+    };
+}
+
+int run(const TimecodeOptions &options, bool startIsTimecode, const Printer &printer)
+{
+    Parameters parameters;
+    parameters.ntsc = options.ntsc;
+    parameters.dropFrame = options.dropFrame;
+    const QString timebaseText = withoutMark(fromArgument(options.timebase));
+    const std::optional<quint64> timebase = wholeNumber(timebaseText);
+    if (!timebase)
+        return refuseUsage(QStringLiteral("--timebase: \"%1\" is no whole number.").arg(timebaseText));
+    parameters.timebase = qint64(*timebase);
+    const QString start = withoutMark(fromArgument(options.start));
+    if (startIsTimecode) {
+        parameters.startTimecode = start;
+    } else if (!start.isEmpty()) {
+        const std::optional<quint64> frame = wholeNumber(start);
+        if (!frame)
+            return refuseUsage(QStringLiteral("--start: \"%1\" is no whole number.").arg(start));
+        parameters.startFrame = *frame;
+    }
+    QStringList values = fromArguments(options.values);
+    for (QString &value : values)
+        value = withoutMark(value);
+    if (values.isEmpty())
+        values = readLines();
+    const std::optional<QStringList> lines = printer(parameters, values);
+    if (!lines)
+        return WrongUsage;
+    QByteArray output;
+    for (const QString &line : *lines)
+        output += line.toUtf8() + '\n';
+    return print(output) ? Done : Failed;
+}
+
+struct Operation {
+    const char *name;
+    const char *description;
+    const char *valueName;
+    bool counts;           ///< takes --timebase and --ntsc
+    const char *startHelp; ///< of --start; null for none
+    bool startIsTimecode;
+    Printer printer;
+};
+
+void addOperation(CLI::App &timecode, const Operation &operation, int &status)
+{
+    auto options = std::make_shared<TimecodeOptions>();
+    CLI::App *command = timecode.add_subcommand(operation.name, operation.description);
+    command->add_option(operation.valueName, options->values,
+                        "Values; read from standard input when none is given");
+    if (operation.counts) {
+        command->add_option("--timebase", options->timebase, "Frames per second, 30 unless given");
+        command->add_flag("--ntsc", options->ntsc, "The real rate is timebase x 1000/1001");
+    }
+    command->add_flag("--drop-frame", options->dropFrame, "Count in drop frame");
+    if (operation.startHelp)
+        command->add_option("--start", options->start, operation.startHelp);
+    command->callback([options, operation, &status] {
+        status = run(*options, operation.startIsTimecode, operation.printer);
+    });
+}
+
+} // namespace
+
+void addTimecodeCommand(CLI::App &program, int &status)
+{
+    CLI::App *timecode = program.add_subcommand("timecode", "Convert and calculate timecodes");
+    timecode->require_subcommand(1);
+    addOperation(*timecode,
+                 {"format", "Frame counts to timecodes", "FRAMES", true, "Frame number of the first frame",
+                  false, formatFrames},
+                 status);
+    addOperation(*timecode,
+                 {"parse", "Timecodes to frame counts", "TC", true, "Frame number of the first frame", false,
+                  parseTimecodes},
+                 status);
+    addOperation(*timecode,
+                 {"expand", "Expand what users type into timecode fields", "TEXT", false,
+                  "Timecode whose right-hand end is replaced", true, expandTexts},
+                 status);
+    addOperation(
+        *timecode,
+        {"add", "The sum of two timecodes", "TC", true, nullptr, false, combining(&QVTimecode::addTimecode)},
+        status);
+    addOperation(*timecode,
+                 {"subtract", "The second timecode minus the first", "TC", true, nullptr, false,
+                  combining(&QVTimecode::subtractTimecode)},
+                 status);
+}
+
+} // namespace vantrell::cli

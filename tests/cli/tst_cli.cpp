@@ -1,0 +1,130 @@
+#include "tests/support/CliRun.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace vantrell;
+
+class CliTest : public QObject
+{
+    Q_OBJECT
+
+    const TemporaryHome m_home;
+
+private Q_SLOTS:
+    void timecodes_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QByteArray>("input");
+        QTest::addColumn<QByteArray>("output");
+        QTest::newRow("format") << QStringLiteral("format --drop-frame 0 1800 107892") << QByteArray()
+                                << QByteArray("00:00:00;00\n00:01:00;02\n01:00:00;00\n");
+        QTest::newRow("format -1") << QStringLiteral("format -1") << QByteArray()
+                                   << QByteArray("09:01:52:00\n");
+        QTest::newRow("format beyond signed")
+            << QStringLiteral("format 18446744073709551615") << QByteArray() << QByteArray("09:01:52:00\n");
+        QTest::newRow("format with a start") << QStringLiteral("format --timebase 25 --start 90000 5 --ntsc")
+                                             << QByteArray() << QByteArray("01:00:00:05\n");
+        QTest::newRow("format from input")
+            << QStringLiteral("format") << QByteArray("5\r\n30") << QByteArray("00:00:00:05\n00:00:01:00\n");
+        QTest::newRow("parse") << QStringLiteral("parse --start 10 00:00:00:09 1:2 00:00:01:00")
+                               << QByteArray() << QByteArray("18446744073709551615\n0\n20\n");
+        QTest::newRow("parse from input")
+            << QStringLiteral("parse") << QByteArray(" 00:00:01:00 \n\n") << QByteArray("30\n0\n");
+        QTest::newRow("expand") << QStringLiteral("expand --drop-frame 1.. --start 01:00:00;00 5 -1.")
+                                << QByteArray() << QByteArray("01:01:00;00\n01:00:00;05\n01:00:-1;00\n");
+        QTest::newRow("add") << QStringLiteral("add 00:00:01:00 00:00:00:15") << QByteArray()
+                             << QByteArray("00:00:01:15\n");
+        QTest::newRow("subtract") << QStringLiteral("subtract 00:00:01:00 00:00:03:05") << QByteArray()
+                                  << QByteArray("00:00:02:05\n");
+        QTest::newRow("subtract the later")
+            << QStringLiteral("subtract 00:00:03:05 00:00:01:00") << QByteArray() << QByteArray("\n");
+    }
+    void timecodes()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(QByteArray, input);
+        const CliRun run =
+            runCli(QStringList(QStringLiteral("timecode")) + arguments.split(QLatin1Char(' ')), input);
+        QTEST(run.output, "output");
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.messages, QByteArray());
+    }
+
+    void wrongUsage_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        for (const char *arguments :
+             {"", "none", "load", "load a b", "load --none a", "timecode", "timecode format x",
+              "timecode format 1.5", "timecode format --timebase x 1", "timecode add 1", "info"})
+            QTest::newRow(*arguments ? arguments : "nothing") << QString::fromLatin1(arguments);
+    }
+    void wrongUsage()
+    {
+        QFETCH(QString, arguments);
+        const CliRun run = runCli(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        QCOMPARE(run.status, 2);
+        QCOMPARE(run.output, QByteArray());
+        QVERIFY(!run.messages.isEmpty());
+    }
+
+    void helpIsNoError()
+    {
+        for (const char *arguments : {"--help", "load --help", "timecode expand --help", "--version"}) {
+            const CliRun run = runCli(QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+            QCOMPARE(run.status, 0);
+            QVERIFY(!run.output.isEmpty());
+        }
+    }
+
+    void info()
+    {
+        const QString path = m_home.addFile(
+            QStringLiteral("p/a b.xml"),
+            "<xmeml><project><children><sequence><name>É</name><uuid>U</uuid><media><video><track>"
+            "<clipitem id=\"c\"><name>C</name></clipitem></track></video></media></sequence>"
+            "<bin><children><sequence/></children></bin></children></project></xmeml>");
+        const CliRun json = runCli({QStringLiteral("info"), QStringLiteral("--json"), path});
+        QCOMPARE(
+            json.output,
+            QByteArray(
+                "{\"xmlType\":0,\"sequences\":[{\"index\":1,\"name\":\"É\",\"uuid\":\"U\",\"element\":"
+                "\"/xmeml[1]/project[1]/children[1]/"
+                "sequence[1]\",\"clips\":[{\"index\":1,\"title\":\"C\",\"id\":\"c\"}]},"
+                "{\"index\":2,\"name\":\"Unknown sequence\",\"uuid\":null,\"element\":"
+                "\"/xmeml[1]/project[1]/children[1]/bin[1]/children[1]/sequence[1]\",\"clips\":[]}]}\n"));
+        QCOMPARE(json.status, 0);
+        const CliRun table = runCli({QStringLiteral("info"), path});
+        QVERIFY(table.output.contains("1\t1\tC\tc\n"));
+        const CliRun counts = runCli({QStringLiteral("load"), path, QStringLiteral("--no-inventories")});
+        QCOMPARE(counts.output, QByteArray("{\"xmlType\":0,\"sequences\":2}\n"));
+    }
+
+    void whatCannotBeRead()
+    {
+        const QString text = m_home.addFile(QStringLiteral("p/letter.txt"), "Dear editor,\n");
+        for (const QString &path : {text, m_home.path(), m_home.path(QStringLiteral("p/none.xml"))}) {
+            const CliRun run = runCli({QStringLiteral("info"), path});
+            QCOMPARE(run.status, 1);
+            QCOMPARE(run.output, QByteArray());
+            QVERIFY2(run.messages.startsWith("vantrell-cli: ") && run.messages.contains(path.toUtf8()),
+                     run.messages.constData());
+        }
+        const QString damaged = m_home.addFile(QStringLiteral("p/damaged.xml"), "<xmeml><sequence><name>A");
+        const CliRun repaired = runCli({QStringLiteral("load"), QStringLiteral("--no-inventories"), damaged});
+        QCOMPARE(repaired.status, 0);
+        QVERIFY(repaired.messages.contains("repaired"));
+        QCOMPARE(repaired.output, QByteArray("{\"xmlType\":1,\"sequences\":1}\n"));
+    }
+
+    void keepsALogOfItsOwn()
+    {
+        runCli({QStringLiteral("timecode"), QStringLiteral("format"), QStringLiteral("1")});
+        // The file itself is elsewhere for the super-user.
+        QVERIFY(QDir(m_home.path(QStringLiteral(".local/state/Logs/Orvandel"))).exists());
+    }
+};
+
+QTEST_GUILESS_MAIN(CliTest)
+#include "tst_cli.moc"

@@ -1,0 +1,106 @@
+#include "tests/support/CliRun.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QTest>
+
+using namespace vantrell;
+
+class ListingsTest : public QObject
+{
+    Q_OBJECT
+
+    const TemporaryHome m_home;
+    QString m_project;
+
+    CliRun run(const char *arguments) const
+    {
+        QStringList list = QString::fromUtf8(arguments).split(QLatin1Char(' '));
+        return runCli(list << m_project);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_home.addFile(QStringLiteral("m/a.mov"), QByteArray(1536, 'x'));
+        m_home.addFile(QStringLiteral("m/b.wav"), QByteArray(512, 'x'));
+        QByteArray clips;
+        for (const char *name : {"a.mov", "b.wav", "c.png"}) {
+            clips += QByteArray("<clipitem id=\"k\"><file id=\"") + name + "\"><pathurl>file://" +
+                     m_home.path(QStringLiteral("m/")).toUtf8() + name + "</pathurl></file></clipitem>";
+        }
+        m_project =
+            m_home.addFile(QStringLiteral("p.xml"),
+                           "<xmeml><sequence><name>S</name><media><video><track>" + clips +
+                               "<generatoritem><enabled>FALSE</enabled><effect><name>Text</name></"
+                               "effect><filter><effect><name>-1.5"
+                               "</name><mediatype>video</mediatype></effect></"
+                               "filter><filter><effect><name>Crop</name></effect>"
+                               "</filter></generatoritem></track></video></media></sequence></xmeml>");
+    }
+
+    void media()
+    {
+        const CliRun all = run("media --json --sort filesize:desc");
+        QCOMPARE(all.status, 0);
+        QCOMPARE(all.messages, QByteArray());
+        const QByteArray names[] = {"\"filename\":\"a.mov\"", "\"filename\":\"b.wav\"",
+                                    "\"filename\":\"c.png\""};
+        QVERIFY(all.output.indexOf(names[0]) < all.output.indexOf(names[1]));
+        QVERIFY(all.output.indexOf(names[1]) < all.output.indexOf(names[2]));
+        QVERIFY(all.output.contains("\"usageCount\":1,\"filetype\":\"Image\",\"missing\":true}"));
+        QVERIFY(all.output.endsWith(
+            "\"statistics\":{\"totalSize\":2048,\"largestFileSize\":1536,\"largestFile\":\"a.mov\","
+            "\"smallestFileSize\":512,\"smallestFile\":\"b.wav\"},\"labels\":[\"Total size: 2.00 KB\","
+            "\"Total number of files: 3\",\"Total size of filtered media: 2.00 KB\","
+            "\"Number of filtered media files: 3\",\"Largest file: a.mov (1.50 KB)\","
+            "\"Smallest file: b.wav (512 B)\"]}\n"));
+        const CliRun audio = run("media --json --kind audio");
+        QVERIFY(audio.output.contains("\"labels\":[\"Total size: 512 B\",\"Total number of files: 3\""));
+        QVERIFY(run("media --json --drive /none/").output.startsWith("{\"files\":[],"));
+        const QByteArray drive = "media --json --drive " + m_home.path().toUtf8() + "/m/";
+        QCOMPARE(run(drive.constData()).output.count("filename"), 3);
+        const QByteArray table = run("media --kind image").output;
+        QVERIFY2(table.startsWith("Name\tKind\tSize\tDate Modified\tUsage\tMissing\tFolder\n"
+                                  "c.png\tImage\t\t\t1\tmissing\t/"),
+                 table.constData());
+    }
+
+    void effects()
+    {
+        const QByteArray at = "/xmeml[1]/sequence[1]/media[1]/video[1]/track[1]/generatoritem[1]";
+        const CliRun all = run("effects --json");
+        QCOMPARE(all.status, 0);
+        QCOMPARE(all.output, "{\"effects\":[{\"enabled\":1,\"effectType\":\"Filter\",\"effectElement\":\"" +
+                                 at +
+                                 "/filter[1]\",\"name\":\"-1.5\",\"mediaType\":\"Video\",\"sequence\":\"S\"},"
+                                 "{\"enabled\":0,\"effectType\":\"Generator\",\"effectElement\":\"" +
+                                 at + "\",\"name\":\"Text\",\"sequence\":\"S\"}],\"status\":\"2 items\"}\n");
+        const QByteArray title = "Enabled\tName\tType\tMedia\tClip\tSequence\n";
+        const std::pair<const char *, QByteArray> table[] = {
+            {"--search -1", "yes\t-1.5\tFilter\tVideo\t\tS\n"},
+            {"--type generator", "no\tText\tGenerator\t\t\tS\n"},
+            {"--type transition", ""},
+            {"--type filter --show-defaults --sort name:desc",
+             "yes\tCrop\tFilter\t\t\tS\nyes\t-1.5\tFilter\tVideo\t\tS\n"},
+            {"--type video-filter", "yes\t-1.5\tFilter\tVideo\t\tS\n"},
+        };
+        for (const auto &[options, rows] : table)
+            QCOMPARE(run((QByteArray("effects ") + options).constData()).output, title + rows);
+    }
+
+    void wrongUsage()
+    {
+        for (const char *arguments :
+             {"media --sort comment", "media --sort filename:asc", "media --kind film", "media --json x",
+              "effects --type video", "effects --sort effectElement",
+              "effects --sort=", "effects --search"}) {
+            const CliRun refused = run(arguments);
+            QVERIFY2(refused.status == 2, arguments);
+            QCOMPARE(refused.output, QByteArray());
+            QVERIFY(!refused.messages.isEmpty());
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(ListingsTest)
+#include "tst_listings.moc"

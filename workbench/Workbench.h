@@ -1,0 +1,64 @@
+#pragma once
+
+#include "document/MyDocument.h"
+#include "effects/EffectEditor.h"
+#include "effects/EffectInventory.h"
+#include "interchange/MarkerListExporter.h"
+#include "interchange/MarkerListImporter.h"
+#include "markers/MarkerEditor.h"
+#include "markers/MarkerFields.h"
+#include "markers/MarkerInventory.h"
+#include "media/MediaFilter.h"
+#include "media/MediaInventory.h"
+
+namespace vantrell
+{
+
+/// One open project with everything that works on it, and no window: what the command line and the
+/// window both own. Main thread.
+class Workbench
+{
+public:
+    /// The inventories that a load fills.
+    enum class Inventories { All, Markers, None };
+
+    /// The interface outlives the workbench, as do the defaults; without them (null) no setting of the
+    /// user is read or stored.
+    explicit Workbench(DocumentInterface &interface, Inventories inventories = Inventories::All,
+                       UserDefaults *defaults = nullptr);
+    /// Closes the document first.
+    ~Workbench();
+
+    MyDocument &document() { return m_document; }
+    MediaFilter &mediaFilter() { return m_mediaFilter; }
+    MediaInventory &mediaInventory() { return m_mediaInventory; }
+    EffectInventory &effectInventory() { return m_effectInventory; }
+    EffectEditor &effectEditor() { return m_effectEditor; }
+    MarkerFields &markerFields() { return m_markerFields; }
+    MarkerInventory &markerInventory() { return m_markerInventory; }
+    MarkerEditor &markerEditor() { return m_markerEditor; }
+    const MarkerListImporter &markerListImporter() const { return m_markerListImporter; }
+    const MarkerListExporter &markerListExporter() const { return m_markerListExporter; }
+
+    /// Starts loading a file; its end is told to the interface. False when the file cannot even be tried.
+    bool open(const QString &path);
+
+    /// The document type that stands for a file by its name.
+    static QString typeNameForPath(const QString &path);
+
+private:
+    MyDocument::Services services(Inventories inventories);
+
+    MyDocument m_document;
+    MediaFilter m_mediaFilter{m_document};
+    MediaInventory m_mediaInventory{m_document, m_mediaFilter};
+    EffectInventory m_effectInventory{m_document};
+    EffectEditor m_effectEditor{m_document, m_effectInventory};
+    MarkerFields m_markerFields;
+    MarkerInventory m_markerInventory{m_document, m_markerFields};
+    MarkerEditor m_markerEditor{m_document, m_markerInventory};
+    MarkerListImporter m_markerListImporter{m_document, m_markerEditor};
+    MarkerListExporter m_markerListExporter{m_document};
+};
+
+} // namespace vantrell
