@@ -156,7 +156,10 @@ public:
     bool isPopulating(Tab tab) const { return m_populating[std::size_t(tab)]; }
     void setPopulating(Tab tab, bool populating) { m_populating[std::size_t(tab)] = populating; }
     /// How many rows a tab's running inventory has found so far. Any thread.
-    std::size_t foundSoFar(Tab tab) const { return m_found[std::size_t(tab)].load(std::memory_order_relaxed); }
+    std::size_t foundSoFar(Tab tab) const
+    {
+        return m_found[std::size_t(tab)].load(std::memory_order_relaxed);
+    }
     void setFoundSoFar(Tab tab, std::size_t count)
     {
         m_found[std::size_t(tab)].store(count, std::memory_order_relaxed);
