@@ -43,26 +43,21 @@ private Q_SLOTS:
         const CliRun all = run("media --json --sort filesize:desc");
         QCOMPARE(all.status, 0);
         QCOMPARE(all.messages, QByteArray());
-        const QByteArray names[] = {"\"filename\":\"a.mov\"", "\"filename\":\"b.wav\"",
-                                    "\"filename\":\"c.png\""};
-        QVERIFY(all.output.indexOf(names[0]) < all.output.indexOf(names[1]));
-        QVERIFY(all.output.indexOf(names[1]) < all.output.indexOf(names[2]));
-        QVERIFY(all.output.contains("\"usageCount\":1,\"filetype\":\"Image\",\"missing\":true}"));
-        QVERIFY(all.output.endsWith(
-            "\"statistics\":{\"totalSize\":2048,\"largestFileSize\":1536,\"largestFile\":\"a.mov\","
-            "\"smallestFileSize\":512,\"smallestFile\":\"b.wav\"},\"labels\":[\"Total size: 2.00 KB\","
-            "\"Total number of files: 3\",\"Total size of filtered media: 2.00 KB\","
-            "\"Number of filtered media files: 3\",\"Largest file: a.mov (1.50 KB)\","
-            "\"Smallest file: b.wav (512 B)\"]}\n"));
+        QVERIFY(all.output.indexOf("\"filename\":\"a.mov\"") < all.output.indexOf("\"filename\":\"b.wav\""));
+        QVERIFY(all.output.contains("\"usageCount\":1,\"filetype\":\"Image\",\"missing\":true}],"));
         const CliRun audio = run("media --json --kind audio");
-        QVERIFY(audio.output.contains("\"labels\":[\"Total size: 512 B\",\"Total number of files: 3\""));
-        QVERIFY(run("media --json --drive /none/").output.startsWith("{\"files\":[],"));
+        QVERIFY(audio.output.endsWith(
+            "\"statistics\":{\"totalSize\":512,\"largestFileSize\":512,\"largestFile\":\"b.wav\","
+            "\"smallestFileSize\":512,\"smallestFile\":\"b.wav\"},\"labels\":[\"Total size: 512 B\","
+            "\"Total number of files: 3\",\"Total size of filtered media: 512 B\","
+            "\"Number of filtered media files: 1\",\"Largest file: b.wav (512 B)\","
+            "\"Smallest file: b.wav (512 B)\"]}\n"));
+        QVERIFY(run("media --json --drive /none").output.startsWith("{\"files\":[],"));
         const QByteArray drive = "media --json --drive " + m_home.path().toUtf8() + "/m/";
         QCOMPARE(run(drive.constData()).output.count("filename"), 3);
         const QByteArray table = run("media --kind image").output;
-        QVERIFY2(table.startsWith("Name\tKind\tSize\tDate Modified\tUsage\tMissing\tFolder\n"
-                                  "c.png\tImage\t\t\t1\tmissing\t/"),
-                 table.constData());
+        QVERIFY(table.startsWith("Name\tKind\tSize\tDate Modified\tUsage\tMissing\tFolder\n"
+                                 "c.png\tImage\t\t\t1\tmissing\t/"));
     }
 
     void effects()

@@ -129,24 +129,29 @@ private Q_SLOTS:
         const MenuPtr menu = p.document.sequenceMenu();
         const MenuItem stranger{QString(), QString(), menu->at(2).element};
         const QString n = QStringLiteral("n");
+        const RowRecordPtr nameless =
+            p.editor.addMarkerWithName(QStringLiteral(""), n, n, n, n, &menu->at(2));
+        QVERIFY(!nameless->contains(MarkerKey::sequenceName));
         p.editor.addMarkerWithName(QStringLiteral("É&\tü&amp;"), 4294967297, -2, QString(),
                                    QStringLiteral("BLUE"), &menu->at(2));
         p.editor.addMarkerWithName(n, QStringLiteral("01:00:01;00"), QStringLiteral("01:00:00;10"), n, n);
         p.editor.addMarkerWithName(n, QStringLiteral("x"), QStringLiteral("00:00:00:10"), n, n, &stranger);
         p.editor.addMarkerWithName(n, QStringLiteral("00:00:02:00"), QStringLiteral("00:00:00:10"), n, n,
                                    &menu->at(2));
-        QCOMPARE(p.values(QStringLiteral("name comment color in out sequenceUUID sequenceIndex timebase")),
-                 QStringLiteral("É&\tü&amp;|-|5|1|-2|B|1|25\n" // the second sequence, and still index 1
-                                "n|n|0|30|40|A|1|30\n"
-                                "n|n|0|0|-1|A|1|30\n" // durations are counted from the start frame, too
-                                "n|n|0|50|60|B|1|25"));
         QCOMPARE(
-            text(p.marker(0)),
+            p.values(QStringLiteral("name comment color in out sequenceUUID sequenceIndex timebase")),
+            QStringLiteral(
+                "|n|0|0|-1|B|1|25\nÉ&\tü&amp;|-|5|1|-2|B|1|25\n" // the second sequence, and still index 1
+                "n|n|0|30|40|A|1|30\n"
+                "n|n|0|0|-1|A|1|30\n" // durations are counted from the start frame, too
+                "n|n|0|50|60|B|1|25"));
+        QCOMPARE(
+            text(p.marker(1)),
             QStringLiteral("<marker><name>É&amp;ü&amp;</name><comment/><color><alpha>0</alpha><red>0</red>"
                            "<green>128</green><blue>255</blue></color><in>1</in><out>-2</out></marker>"));
         // A sequence without a name goes by the first one in it, that of its first marker.
-        QCOMPARE(p.marker(3)->get(MarkerKey::sequenceName), QStringLiteral("É&ü&"));
-        p.set({0}, "name", QStringLiteral("new"));
+        QCOMPARE(p.marker(4)->get(MarkerKey::sequenceName), QStringLiteral("É&ü&"));
+        p.set({1}, "name", QStringLiteral("new"));
         const RowRecordPtr third = p.editor.addMarkerWithName(n, 0, 0, n, n, &menu->at(2));
         QCOMPARE(third->get(MarkerKey::sequenceName), QStringLiteral("new"));
         QCOMPARE(p.document.modifiedSequenceUUIDs(), (QStringList{QStringLiteral("B"), QStringLiteral("A")}));

@@ -29,11 +29,6 @@ namespace
 class HangingDisk
 {
 public:
-    explicit HangingDisk(QByteArray marker)
-        : m_state(std::make_shared<State>())
-    {
-        m_state->marker = std::move(marker);
-    }
     ~HangingDisk()
     {
         std::unique_lock lock(m_state->mutex);
@@ -46,9 +41,8 @@ public:
     {
         return [state = m_state](const QByteArray &path) {
             std::unique_lock lock(state->mutex);
-            if (path.contains(state->marker)) {
+            if (path.contains("/Hung/")) {
                 ++state->hanging;
-                state->changed.notify_all();
                 state->changed.wait(lock, [&] { return state->isReleased; });
                 --state->hanging;
                 state->changed.notify_all();
@@ -70,32 +64,41 @@ private:
     struct State {
         std::mutex mutex; // guards the rest
         std::condition_variable changed;
-        QByteArray marker;
         int hanging = 0;
         bool isReleased = false;
     };
-    std::shared_ptr<State> m_state;
+    std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
-QList<qint64> usageCounts(const MyDocument &document)
+/// A clip item that defines a file in full, and one that only refers to it.
+QByteArray item(const QByteArray &id, const QByteArray &url)
 {
-    QList<qint64> counts;
-    for (const RowRecordPtr &file : document.mediaArray())
-        counts.append(file->get(MediaKey::usageCount));
-    return counts;
+    return "<clipitem><file id=\"" + id + "\"><pathurl>" + url + "</pathurl></file></clipitem>";
 }
 
-QStringList keysOf(const RowRecord &record)
+QByteArray item(const QByteArray &id)
 {
-    QStringList keys;
+    return "<clipitem><file id=\"" + id + "\"/></clipitem>";
+}
+
+QByteArray sequence(const QByteArray &video, const QByteArray &audio = QByteArray())
+{
+    return "<sequence><media><video><track>" + video + "</track></video><audio><track>" + audio +
+           "</track></audio></media></sequence>";
+}
+
+/// Files on the tracks of one sequence of a project.
+QByteArray used(const QByteArray &items)
+{
+    return project(sequence(items));
+}
+
+QByteArray keysOf(const RowRecord &record)
+{
+    QByteArrayList keys;
     for (std::size_t i = 0; i < record.size(); ++i)
-        keys.append(record.keyAt(i).text());
-    return keys;
-}
-
-QByteArray urlOf(const QString &path)
-{
-    return QUrl::fromLocalFile(path).toEncoded();
+        keys.append(record.keyAt(i).text().toUtf8());
+    return keys.join(' ');
 }
 
 } // namespace
@@ -109,74 +112,46 @@ class MediaInventoryTest : public QObject
 private Q_SLOTS:
     void initTestCase() { QVLog::createNewLog(QStringLiteral("tests"), true); }
 
-    void usage_data()
-    {
-        QTest::addColumn<QByteArray>("xml");
-        QTest::addColumn<QList<qint64>>("counts");
-        const auto single = [](const QByteArray &video, const QByteArray &audio) {
-            return "<xmeml>" + sequence(video, audio) + "</xmeml>";
-        };
-        const QByteArray a = clipItem("a", "file:///a.mov");
-        const QByteArray refA = clipItem("a");
-        QTest::newRow("video and audio are not added")
-            << single(a + refA + refA, refA + refA) << QList<qint64>{3};
-        QTest::newRow("audio alone, single sequence") << single("", a + refA) << QList<qint64>{2};
-        QTest::newRow("audio alone, project") << project(sequence("", a + refA)) << QList<qint64>{0};
-        QTest::newRow("a second sequence of a single one does not count")
-            << "<xmeml>" + sequence(a, "") + sequence(refA + refA, "") + "</xmeml>" << QList<qint64>{1};
-        QTest::newRow("master clip and two sequences")
-            << project("<clip><media><video><track>" + a + "</track></video></media></clip>" +
-                       sequence(refA) + "<bin><children>" + sequence(refA + refA) + "</children></bin>")
-            << QList<qint64>{3};
-        QTest::newRow("nested in a clip item")
-            << project(sequence(a + "<clipitem>" + sequence(refA + refA) + "</clipitem>"))
-            << QList<qint64>{3};
-        QTest::newRow("only the first file of a clip item")
-            << project(sequence("<clipitem><file id=\"b\"/><file id=\"a\"/></clipitem>" + a))
-            << QList<qint64>{1};
-        QTest::newRow("only the first media and video")
-            << project("<sequence><media><video/><video><track>" + a +
-                       "</track></video></media><media><video><track>" + refA +
-                       "</track></video></media></sequence>")
-            << QList<qint64>{0};
-        QTest::newRow("generators do not count")
-            << project(sequence(a + "<generatoritem><file id=\"a\"/></generatoritem>")) << QList<qint64>{1};
-        QTest::newRow("no id; an empty id")
-            << project(sequence("<clipitem><file><pathurl>file:///a</pathurl></file></clipitem>"
-                                "<clipitem><file/></clipitem>" +
-                                clipItem("", "file:///b") + clipItem("")))
-            << QList<qint64>{0, 2};
-        QTest::newRow("an escaped id is compared decoded with the raw ones")
-            << project(sequence(clipItem("a%20b", "file:///1") + clipItem("a%20b") +
-                                clipItem("a b", "file:///2")))
-            << QList<qint64>{1, 1};
-        QTest::newRow("an id with a malformed escape counts nothing")
-            << project(sequence(clipItem("50%", "file:///1") + clipItem("50%"))) << QList<qint64>{0};
-        QTest::newRow("quotes and brackets")
-            << project(sequence(clipItem("&quot;", "file:///1") + clipItem("%22", "file:///2") +
-                                clipItem("'][1", "file:///3") + clipItem("'][1")))
-            << QList<qint64>{0, 0, 2};
-        QTest::newRow("ampersands, letters beyond ASCII, stripped characters")
-            << project(sequence(
-                   clipItem("&amp;", "file:///1") + clipItem("&amp;") + clipItem("&amp;amp;", "file:///2") +
-                   clipItem("\xC3\xA9\xF0\x9F\x98\x80", "file:///3") + clipItem("\xC3\xA9\xF0\x9F\x98\x80") +
-                   clipItem("x%09y", "file:///4") + clipItem("xy")))
-            << QList<qint64>{2, 2, 2, 1};
-        QTest::newRow("two definitions with one URL: the later count for both")
-            << project(sequence(clipItem("a", "file:///1") + clipItem("b", "file:///1") + clipItem("b") +
-                                "<clipitem><file><pathurl>file:///1</pathurl></file></clipitem>"))
-            << QList<qint64>{2, 2, 2};
-        QTest::newRow("a root of its own: its audio counts once per sequence")
-            << "<media><audio><track>" + a + refA + "</track></audio>" + sequence("") + sequence("") +
-                   sequence("") + "</media>"
-            << QList<qint64>{6};
-    }
     void usage()
     {
-        QFETCH(QByteArray, xml);
-        MediaProject opened;
-        QVERIFY(opened.load(xml));
-        QTEST(usageCounts(opened.document), "counts");
+        const QByteArray a = item("a", "file:///a.mov"), ref = item("a"),
+                         noId = "<clipitem><file><pathurl>file:///1"
+                                "</pathurl></file></clipitem>",
+                         accent = "\xC3\xA9\xF0\x9F\x98\x80";
+        const std::pair<QByteArray, QByteArray> table[] = {
+            // Video and audio are not added; audio counts in a single sequence only.
+            {"<xmeml>" + sequence(a + ref + ref, ref + ref) + "</xmeml>", "3"},
+            {"<xmeml>" + sequence("", a + ref) + "</xmeml>", "2"},
+            {project(sequence("", a + ref)), "0"},
+            {"<xmeml>" + sequence(a) + sequence(ref + ref) + "</xmeml>", "1"},
+            // Master clips do not count, sequences inside of clip items do.
+            {project("<clip><media><video><track>" + a + "</track></video></media></clip>" + sequence(ref)),
+             "1"},
+            {used(a + "<clipitem>" + sequence(ref + ref) + "</clipitem>"), "3"},
+            {used(a + "<clipitem><file id=\"b\"/><file id=\"a\"/></clipitem>"), "1"},
+            {used(noId + "<clipitem><file/></clipitem>" + item("", "file:///b") + item("")), "0 2"},
+            // Ids are decoded before they are compared with the others as they stand.
+            {used(item("a%20b", "file:///1") + item("a%20b") + item("a b", "file:///2")), "1 1"},
+            {used(item("50%", "file:///1") + item("50%")), "0"},
+            {used(item("&quot;", "file:///1") + item("%22", "file:///2") + item("'][1", "file:///3")),
+             "0 0 1"},
+            {used(item("&amp;", "file:///1") + item("&amp;") + item("&amp;amp;", "file:///2")), "2 2"},
+            {used(item(accent, "file:///1") + item(accent) + item("x%09y", "file:///4") + item("xy")), "2 1"},
+            // Of two definitions with one URL the later one counts for both.
+            {used(item("a", "file:///1") + item("b", "file:///1") + item("b") + noId), "2 2 2"},
+            // The audio of a root that is a `media` itself counts once per sequence.
+            {"<media><audio><track>" + a + ref + "</track></audio>" + sequence("") + sequence("") +
+                 "</media>",
+             "4"},
+        };
+        for (const auto &[xml, counts] : table) {
+            MediaProject opened;
+            QVERIFY(opened.load(xml));
+            QByteArrayList found;
+            for (const RowRecordPtr &file : opened.document.mediaArray())
+                found.append(QByteArray::number(qint64(file->get(MediaKey::usageCount))));
+            QVERIFY2(found.join(' ') == counts, xml.constData());
+        }
     }
 
     void usageInRandomProjects()
@@ -190,6 +165,7 @@ private Q_SLOTS:
             const XmlNodeList sequences =
                 *QVXMLParser::nodesForQuery(QStringLiteral(".//sequence"), document);
             const MediaUsage usage(document, isSingle ? 1 : 0, sequences, [] { return false; });
+            const QString root = isSingle ? QStringLiteral("/xmeml[1]/sequence[1]") : QString();
             const XmlNodeList files = *QVXMLParser::nodesForQuery(QStringLiteral(".//file"), document);
             for (const XmlNode file : files) {
                 const std::optional<QString> id = QVXMLParser::idAttributeForNode(file);
@@ -201,10 +177,9 @@ private Q_SLOTS:
                     return qint64(isSingle ? QVXMLParser::nodesForQuery(query, document)->size()
                                            : QVXMLParser::queryNodes(sequences, query).size());
                 };
-                const QString root = isSingle ? QStringLiteral("/xmeml[1]/sequence[1]") : QString();
-                const qint64 video = count(QStringLiteral(".") + root + QStringLiteral("/media[1]/video[1]"));
-                const qint64 expected =
-                    video != 0 ? video : count(root + QStringLiteral("/media[1]/audio[1]"));
+                qint64 expected = count(QLatin1Char('.') + root + QStringLiteral("/media[1]/video[1]"));
+                if (expected == 0)
+                    expected = count(root + QStringLiteral("/media[1]/audio[1]"));
                 QVERIFY2(usage.usageOf(*id) == expected, qPrintable(QString::number(seed)));
                 found += expected;
             }
@@ -212,63 +187,48 @@ private Q_SLOTS:
         QVERIFY2(found > 300, qPrintable(QString::number(found)));
     }
 
-    void records_data()
+    void addresses()
     {
-        QTest::addColumn<QByteArray>("pathurl"); // the whole content of the file element
-        QTest::addColumn<QStringList>(
-            "files"); // directory, a bar, file name; "-" for an address that is none
         const auto url = [](const QByteArray &text) { return "<pathurl>" + text + "</pathurl>"; };
-        QTest::newRow("localhost") << url("file://localhost/Volumes/Media/a%20b.mov")
-                                   << QStringList{QStringLiteral("/Volumes/Media|a b.mov")};
-        QTest::newRow("another host")
-            << url("file://server.local/Share/a.mov") << QStringList{QStringLiteral("/Share|a.mov")};
-        QTest::newRow("Windows drives") << url("file://localhost/D%3a/m/a.mov") + url("file:///x")
-                                        << QStringList{QStringLiteral("/D:/m|a.mov")};
-        QTest::newRow("a bare drive is a scheme")
-            << url("c:/m/a.mov") << QStringList{QStringLiteral("/m|a.mov")};
-        QTest::newRow("backslashes") << url("c:\\m\\a.mov") << QStringList{QStringLiteral("-")};
-        QTest::newRow("a bare name") << url("a.mov") << QStringList{QStringLiteral("|a.mov")};
-        QTest::newRow("missing") << QByteArray("<name>a</name>") << QStringList();
-        QTest::newRow("empty") << url("") << QStringList();
-        QTest::newRow("empty path") << url("file://localhost") << QStringList{QStringLiteral("|")};
-        QTest::newRow("root") << url("file:///") << QStringList{QStringLiteral("/|/")};
-        QTest::newRow("white space") << url(" ") << QStringList{QStringLiteral("-")};
-        QTest::newRow("blank inside") << url("file:///a b.mov") << QStringList{QStringLiteral("-")};
-        QTest::newRow("two texts") << url("file:///a<![CDATA[file:///b]]>")
-                                   << QStringList{QStringLiteral("/|a"), QStringLiteral("/|b")};
-        QTest::newRow("10,000 characters")
-            << url("file:///" + QByteArray(10000, 'a'))
-            << QStringList{QStringLiteral("/|") + QString(10000, QLatin1Char('a'))};
-        QTest::newRow("a zero byte") << url("file:///tmp%00x")
-                                     << QStringList{QStringLiteral("/|tmp") + QChar(0) + QLatin1Char('x')};
-    }
-    void records()
-    {
-        QFETCH(QByteArray, pathurl);
-        MediaProject opened;
-        QVERIFY(opened.load(project("<clipitem><file id=\"f\">" + pathurl + "</file></clipitem>")));
-        QStringList files;
-        for (const RowRecordPtr &record : opened.document.mediaArray()) {
-            files.append(record->contains(MediaKey::directory)
-                             ? record->get(MediaKey::directory) + QLatin1Char('|') +
-                                   record->get(MediaKey::filename)
-                             : QStringLiteral("-"));
-            if (files.last() == QStringLiteral("-"))
-                QCOMPARE(keysOf(*record), QStringList{QStringLiteral("missing")});
-            QCOMPARE(record->get(MediaKey::missing), files.last() != QStringLiteral("/|/"));
+        const std::pair<QByteArray, QByteArray> table[] = {
+            {url("file://localhost/Volumes/Media/a%20b.mov"), "/Volumes/Media|a b.mov"},
+            {url("file://server.local/Share/a.mov?x#y"), "/Share|a.mov"},
+            {url("file://localhost/D%3a/m/a.mov") + url("file:///x"), "/D:/m|a.mov"},
+            {url("c:/m/a.mov"), "/m|a.mov"},
+            {url("c:\\m\\a.mov"), "-"},
+            {url("a.mov"), "|a.mov"},
+            {"<name>a</name>", ""},
+            {url(""), ""},
+            {url("file://localhost"), "|"},
+            {url("file:///"), "/|/"},
+            {url(" "), "-"},
+            {url("file:///a b.mov"), "-"},
+            {url("file:///a<![CDATA[file:///b]]>"), "/|a /|b"},
+            {url("file:///" + QByteArray(10000, 'a')), "/|" + QByteArray(10000, 'a')},
+            {url("file:///tmp%00x"), QByteArray("/|tmp\0x", 7)},
+        };
+        for (const auto &[content, expected] : table) {
+            MediaProject opened;
+            QVERIFY(opened.load(used("<clipitem><file id=\"f\">" + content + "</file></clipitem>")));
+            QByteArrayList files;
+            for (const RowRecordPtr &file : opened.document.mediaArray()) {
+                const QString path =
+                    file->get(MediaKey::directory) + QLatin1Char('|') + file->get(MediaKey::filename);
+                files.append(keysOf(*file) == "missing" ? QByteArray("-") : path.toUtf8());
+                QCOMPARE(file->get(MediaKey::missing), files.last() != "/|/");
+            }
+            QCOMPARE(files.join(' '), expected);
         }
-        QTEST(files, "files");
     }
 
     void filesOnDisk()
     {
         const QString movie = m_home.addFile(QStringLiteral("m/é 50%.mov"), QByteArray(1500, 'x'));
-        const QString empty = m_home.addFile(QStringLiteral("m/empty.wav"), QByteArray());
+        m_home.addFile(QStringLiteral("m/empty.wav"), QByteArray());
         const timespec times[2] = {{1000000000, 0}, {1000000000, 250000000}};
         QVERIFY(utimensat(AT_FDCWD, QFile::encodeName(movie).constData(), times, 0) == 0);
         QVERIFY(QFile::link(movie, m_home.path(QStringLiteral("m/link.mov"))));
-        QVERIFY(
-            QFile::link(m_home.path(QStringLiteral("m/none")), m_home.path(QStringLiteral("m/dead.mov"))));
+        QVERIFY(QFile::link(m_home.path(QStringLiteral("none")), m_home.path(QStringLiteral("m/dead.mov"))));
         sockaddr_un address = {};
         address.sun_family = AF_UNIX;
         qstrncpy(address.sun_path, QFile::encodeName(m_home.path(QStringLiteral("m/socket"))).constData(),
@@ -276,73 +236,67 @@ private Q_SLOTS:
         const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
         QVERIFY(::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0);
         ::close(socket);
-        const char *names[] = {"m/é 50%.mov", "m/empty.wav", "m/link.mov",  "m/dead.mov",
-                               "m/socket",    "m",           "m/é 50%.mov", "m/empty.wav/x"};
-        QByteArray clips;
-        for (const char *name : names)
-            clips += clipItem("f", urlOf(m_home.path(QString::fromUtf8(name))));
+        const std::pair<const char *, qint64> table[] = {
+            {"m/é 50%.mov", 1500}, {"m/empty.wav", 0},    {"m/link.mov", 1500},  {"m/dead.mov", -1},
+            {"m/socket", 0},       {"m/é 50%.mov", 1500}, {"m/empty.wav/x", -1}, {"m", -2},
+        };
+        QByteArray items;
+        for (const auto &[name, size] : table)
+            items += item("f", QUrl::fromLocalFile(m_home.path(QString::fromUtf8(name))).toEncoded());
         MediaProject opened;
         opened.document.viewState().selectedTab = Tab::Markers;
-        QVERIFY(opened.load(project(clips)));
+        QVERIFY(opened.load(used(items)));
         const RowList &files = opened.document.mediaArray();
-        const bool isMissing[] = {false, false, false, true, false, false, false, true};
-        for (std::size_t i = 0; i < 8; ++i) {
-            QCOMPARE(files[i]->contains(MediaKey::missing), isMissing[i]);
-            QCOMPARE(files[i]->contains(MediaKey::filesize), !isMissing[i]);
-            QCOMPARE(files[i]->contains(MediaKey::modDate), !isMissing[i]);
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            const qint64 size = table[i].second;
+            QCOMPARE(keysOf(*files[i]), "filename directory rawpath usageCount filetype " +
+                                            QByteArray(size == -1 ? "missing" : "modDate filesize"));
+            if (size >= 0)
+                QCOMPARE(files[i]->get(MediaKey::filesize), size);
+            if (size == 1500)
+                QCOMPARE(files[i]->get(MediaKey::modDate).toMSecsSinceEpoch(), 1000000000250);
         }
-        for (const std::size_t i : {0, 2, 6}) {
-            QCOMPARE(files[i]->get(MediaKey::filesize), 1500);
-            QCOMPARE(files[i]->get(MediaKey::modDate).toMSecsSinceEpoch(), 1000000000250);
-        }
-        QCOMPARE(files[1]->get(MediaKey::filesize), 0);
-        QCOMPARE(keysOf(*files[0]).join(QLatin1Char(' ')),
-                 QStringLiteral("filename directory rawpath usageCount filetype modDate filesize"));
-        // Three times the movie, and what the system says of the folder.
-        const qint64 folder = files[5]->get(MediaKey::filesize);
+        const qint64 folder = files.back()->get(MediaKey::filesize);
         QCOMPARE(opened.label(Label::MediaTotalSize),
                  QStringLiteral("Total size: ") + MediaFile::formatFileSize(double(4500 + folder)));
         QCOMPARE(opened.label(Label::MediaTotalFiles), QStringLiteral("Total number of files: 8"));
         QCOMPARE(opened.label(Label::MediaFilteredTotalSize), QString());
-        QCOMPARE(
-            opened.world.events.filter(QStringLiteral(" 0")),
-            (QStringList{QStringLiteral("start 0"), QStringLiteral("start 0"), QStringLiteral("stop 0")}));
+        QCOMPARE(opened.world.events.filter(QStringLiteral("stop")), QStringList{QStringLiteral("stop 0")});
         QVERIFY(!opened.document.isPopulating(Tab::Media));
+        QVLog::finishWriting();
+        QVERIFY(contentOf(QVLog::availableLogs().value(0)).contains("/m/dead.mov: 8\n"));
     }
 
     void attributesThatCannotBeRead()
     {
         MediaProject opened;
-        opened.inventory.setFileCheck(
-            [](const QByteArray &path) {
-                FileFacts facts;
-                facts.exists = path != "/none";
-                if (path == "/dated")
-                    facts.modified = -1000;
-                return facts;
-            },
-            std::chrono::seconds(60));
-        QVERIFY(opened.load(project(clipItem("a", "file:///plain") + clipItem("b", "file:///dated") +
-                                    clipItem("c", "file:///none"))));
+        const auto check = [](const QByteArray &path) {
+            FileFacts facts;
+            facts.exists = path != "/none";
+            if (path == "/dated")
+                facts.modified = -1000;
+            return facts;
+        };
+        opened.inventory.setFileCheck(check, std::chrono::seconds(60));
+        QVERIFY(opened.load(
+            used(item("a", "file:///plain") + item("b", "file:///dated") + item("c", "file:///none"))));
         const RowList &files = opened.document.mediaArray();
         QCOMPARE(files[0]->size(), std::size_t(5));
-        QCOMPARE(files[1]->get(MediaKey::modDate).toUTC().toString(Qt::ISODate),
-                 QStringLiteral("1969-12-31T23:59:59Z"));
+        QCOMPARE(files[1]->get(MediaKey::modDate).toSecsSinceEpoch(), -1);
         QVERIFY(files[2]->get(MediaKey::missing));
-        QCOMPARE(opened.label(Label::MediaTotalSize), QStringLiteral("Total size: 0 B"));
     }
 
     void closingWhileTheDiskHangs()
     {
-        HangingDisk disk("/hang/");
+        HangingDisk disk;
         QElapsedTimer timer;
         {
             MediaProject opened;
             opened.inventory.setFileCheck(disk.check(), std::chrono::hours(1));
-            QByteArray clips;
+            QByteArray items;
             for (int i = 0; i < 200; ++i)
-                clips += clipItem("f", "file:///hang/" + QByteArray::number(i));
-            opened.start(project(clips));
+                items += item("f", "file:///Hung/" + QByteArray::number(i));
+            opened.start(used(items));
             QVERIFY(MainThread::drainUntil([&disk] { return disk.isHanging(); }, std::chrono::seconds(60)));
             timer.start();
             opened.document.close();
@@ -354,45 +308,22 @@ private Q_SLOTS:
 
     void aVolumeThatDoesNotAnswer()
     {
-        HangingDisk disk("/Volumes/Hung/");
+        HangingDisk disk;
         MediaProject opened;
         opened.inventory.setFileCheck(disk.check(), std::chrono::milliseconds(300));
-        QByteArray clips;
+        QByteArray items;
         for (int i = 0; i < 300; ++i) {
-            clips += clipItem("h", "file:///Volumes/Hung/" + QByteArray::number(i));
-            clips += clipItem("f", "file:///Volumes/Fine/" + QByteArray::number(i));
+            items += item("h", "file:///Volumes/Hung/" + QByteArray::number(i));
+            items += item("f", "file:///Volumes/Fine/" + QByteArray::number(i));
         }
-        QVERIFY(opened.load(project(clips)));
+        QVERIFY(opened.load(used(items)));
         const RowList &files = opened.document.mediaArray();
         QCOMPARE(files.size(), std::size_t(600));
         for (std::size_t i = 0; i < files.size(); ++i) {
             QCOMPARE(files[i]->contains(MediaKey::filesize), i % 2 == 1);
             QVERIFY(!files[i]->contains(MediaKey::missing));
         }
-        QCOMPARE(opened.label(Label::MediaFilteredTotalSize),
-                 QStringLiteral("Total size of filtered media: 2.93 KB"));
-    }
-
-    void manyFilesAndManyUses()
-    {
-        QByteArray clips;
-        QByteArray uses;
-        for (int i = 0; i < 2000; ++i) {
-            const QByteArray id = "file-" + QByteArray::number(i);
-            clips += clipItem(id, "file:///m/" + id);
-            for (int k = 0; k < i % 10; ++k)
-                uses += clipItem(id);
-        }
-        MediaProject opened;
-        QVERIFY(opened.load(project("<clip>" + clips + "</clip>" + sequence(uses))));
-        const QList<qint64> counts = usageCounts(opened.document);
-        QCOMPARE(counts.size(), 2000);
-        for (qsizetype i = 0; i < counts.size(); ++i)
-            QCOMPARE(counts[i], i % 10);
-        QVLog::finishWriting();
-        const QByteArray log = contentOf(QVLog::availableLogs().value(0));
-        QVERIFY(log.contains("Usage for file file:///m/file-7: 7"));
-        QVERIFY(log.contains("Usage for file file:///m/file-1990: 0"));
+        QCOMPARE(opened.label(Label::MediaTotalSize), QStringLiteral("Total size: 2.93 KB"));
     }
 
     void withoutAProject()
@@ -407,7 +338,6 @@ private Q_SLOTS:
         run.join();
         QVERIFY(opened.document.mediaArray().empty());
         QCOMPARE(opened.label(Label::MediaTotalSize), QStringLiteral("Total size: 0 B"));
-        QCOMPARE(opened.label(Label::MediaTotalFiles), QStringLiteral("Total number of files: 0"));
         QCOMPARE(opened.label(Label::MediaLargestFile), QStringLiteral("Largest file:  (0 B)"));
     }
 
@@ -419,13 +349,12 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(opener, QFile::permissions(opener) | QFile::ExeOwner));
         Workspace::setOpenProgram(opener);
         MediaProject opened;
-        QVERIFY(opened.load(project(clipItem("a", "file:///nowhere/x.mov") + clipItem("b", urlOf(movie)))));
+        QVERIFY(opened.load(
+            used(item("a", "file:///nowhere/x.mov") + item("b", QUrl::fromLocalFile(movie).toEncoded()))));
         const QString output = opener + QStringLiteral(".out");
         opened.inventory.revealMediaInFinder(); // no selection
-        opened.inventory.mediaTableViewDoubleClick(-1);
-        opened.inventory.mediaTableViewDoubleClick(0); // not there
-        opened.inventory.mediaTableViewDoubleClick(7);
-        opened.inventory.mediaTableViewDoubleClick(1);
+        for (const int row : {-1, 0, 7, 1})     // only the last has a file
+            opened.inventory.mediaTableViewDoubleClick(row);
         QTRY_VERIFY(QFile::exists(output));
         QCOMPARE(contentOf(output), movie.toUtf8());
         QVERIFY(QFile::remove(output));
