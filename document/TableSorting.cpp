@@ -57,9 +57,7 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
     guarded("-[MyDocument tableView:didClickTableColumn:]", [&] {
         const bool isSortedColumn = m_defaults.string(key(columnFormat)) == column;
         const bool newDescending = isSortedColumn && !m_defaults.boolean(key(descendingFormat));
-        std::vector<SortDescriptor> descriptors = m_descriptors;
-        std::erase_if(descriptors, [&column](const SortDescriptor &old) { return old.column == column; });
-        descriptors.insert(descriptors.begin(), {column, newDescending});
+        std::vector<SortDescriptor> descriptors{{column, newDescending}};
         if (m_document.tableTab() == m_tab) {
             RowList rows = m_document.tableArray();
             if (isReversedWhole(column)) {

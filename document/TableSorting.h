@@ -26,7 +26,8 @@ public:
     /// "media", "effect" or "marker": what the keys of the tab's table begin with in the user defaults.
     static QString prefixOf(Tab tab);
 
-    /// The column clicked last first, then those clicked before it; each column once.
+    /// The column that was clicked last; empty before the first click ever. Rows that it does not tell apart
+    /// stay in the order of the clicks before.
     const std::vector<SortDescriptor> &descriptors() const { return m_descriptors; }
 
     /// Sorts the rows on show by the column: ascending at first, the other way round when it is the one

@@ -1,0 +1,324 @@
+#include "app/AppController.h"
+
+#include "app/AboutPanel.h"
+#include "app/MainMenu.h"
+#include "app/RecentFiles.h"
+#include "app/StartWindow.h"
+#include "app/Troubleshooting.h"
+#include "app/WebPages.h"
+#include "document/widgets/DocumentWindow.h"
+#include "support/PropertyList.h"
+#include "support/QVAlert.h"
+#include "support/QVLog.h"
+#include "support/StandardFolders.h"
+#include "support/UserDefaults.h"
+#include "support/Workspace.h"
+#include "support/widgets/WindowAlertPresenter.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString programName = QStringLiteral("Vantrell");
+const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
+const QString logQCKey = QStringLiteral("logQC");
+
+constexpr int startupActionMs = 1000;
+constexpr int cascadeStep = 28; // pixels
+
+QString qcListPath()
+{
+    return StandardFolders::preferences() + QStringLiteral("/com.orvandel.qc.plist");
+}
+
+PropertyListDictionary qcList()
+{
+    const Result<PropertyListValue> list = PropertyList::fromFile(qcListPath());
+    return list ? list.value().toDictionary() : PropertyListDictionary();
+}
+
+} // namespace
+
+AppController::AppController(UserDefaults &defaults)
+    : m_defaults(defaults)
+{
+    QVLog::createNewLog(programName);
+    QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
+    PropertyListDictionary registered = defaultWebAddresses();
+    registered.insert(showOpenDialogKey, 1);
+    m_defaults.registerDefaults(registered);
+
+    m_recentFiles = std::make_unique<RecentFiles>(m_defaults);
+    m_startWindow = std::make_unique<StartWindow>(*m_recentFiles);
+    new MainMenu(*this, *m_startWindow, nullptr);
+    connect(m_startWindow.get(), &StartWindow::openRequested, this, &AppController::openFile);
+    connect(m_startWindow.get(), &StartWindow::filesChosen, this, &AppController::openFiles);
+    connect(m_startWindow.get(), &StartWindow::closed, this, &AppController::quit);
+}
+
+AppController::~AppController()
+{
+    QVAlert::closeAll();
+    for (const QPointer<DocumentWindow> &window : m_windows)
+        delete window;
+    QVAlert::setPresenter(nullptr);
+}
+
+void AppController::applicationDidFinishLaunching()
+{
+    if (documentWindows().empty())
+        m_startWindow->show();
+    QTimer::singleShot(startupActionMs, this, [this] {
+        const QWidget *const active = QApplication::activeWindow();
+        const bool isInUse = !documentWindows().empty() || (active && active != m_startWindow.get());
+        if (!isInUse && !m_quitting)
+            performStartupAction();
+    });
+}
+
+void AppController::performStartupAction()
+{
+    if (m_defaults.integer(showOpenDialogKey) == 1)
+        openFile();
+}
+
+bool AppController::applicationShouldOpenUntitledFile()
+{
+    performStartupAction();
+    return false;
+}
+
+void AppController::openFile()
+{
+    if (m_openPanel) {
+        m_openPanel->raise();
+        m_openPanel->activateWindow();
+        return;
+    }
+    m_openPanel = new QFileDialog(QApplication::activeWindow(),
+                                  tr("Browse for a Final Cut Pro 7 project or XML file"), startFolder(),
+                                  tr("Final Cut Pro 7 projects and XML files (*.fcp *.xml *.FCP *.XML)"));
+    m_openPanel->setAttribute(Qt::WA_DeleteOnClose);
+    m_openPanel->setFileMode(QFileDialog::ExistingFiles);
+    m_openPanel->setOption(QFileDialog::ReadOnly); // makes no folders
+    connect(m_openPanel, &QFileDialog::filesSelected, this, &AppController::openFiles, Qt::QueuedConnection);
+    m_openPanel->setWindowModality(Qt::ApplicationModal);
+    m_openPanel->show();
+}
+
+QString AppController::startFolder() const
+{
+    const QString last = m_recentFiles->paths().value(0);
+    return last.isEmpty() ? StandardFolders::documents() : QFileInfo(last).path();
+}
+
+void AppController::openFiles(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        applicationOpenFile(path);
+}
+
+bool AppController::applicationOpenFile(const QString &path)
+{
+    const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    if (DocumentWindow *const open = windowOf(absolute)) {
+        open->showNormal();
+        open->raise();
+        open->activateWindow();
+        return true;
+    }
+    auto *const window = new DocumentWindow(m_defaults);
+    m_windows.emplace_back(window);
+    new MainMenu(*this, *window, window);
+    connect(window, &DocumentWindow::loaded, m_recentFiles.get(), &RecentFiles::add);
+    connect(window, &DocumentWindow::filesDropped, this, &AppController::openFiles, Qt::QueuedConnection);
+    connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
+    connect(window, &DocumentWindow::closeCancelled, this, [this] { m_quitting = false; });
+    placeWindow(*window);
+    window->show();
+    m_startWindow->hide();
+    return window->open(absolute);
+}
+
+DocumentWindow *AppController::windowOf(const QString &path) const
+{
+    for (DocumentWindow *const window : documentWindows()) {
+        if (window->path() == path && window->state() != DocumentWindow::State::Failed)
+            return window;
+    }
+    return nullptr;
+}
+
+/// Moves the window off the corner where another one stands.
+void AppController::placeWindow(DocumentWindow &window) const
+{
+    if (window.isMaximized() || window.isFullScreen())
+        return;
+    const auto isTaken = [this, &window] {
+        const auto windows = documentWindows();
+        return std::any_of(windows.begin(), windows.end(), [&window](const DocumentWindow *other) {
+            return other != &window && other->isVisible() && other->pos() == window.pos();
+        });
+    };
+    while (isTaken())
+        window.move(window.pos() + QPoint(cascadeStep, cascadeStep));
+}
+
+std::vector<DocumentWindow *> AppController::documentWindows() const
+{
+    std::vector<DocumentWindow *> open;
+    for (const QPointer<DocumentWindow> &window : m_windows) {
+        if (window && !window->isClosing())
+            open.push_back(window);
+    }
+    return open;
+}
+
+DocumentWindow *AppController::currentWindow() const
+{
+    const std::vector<DocumentWindow *> open = documentWindows();
+    auto *const active = qobject_cast<DocumentWindow *>(QApplication::activeWindow());
+    if (active && !active->isClosing())
+        return active;
+    return open.empty() ? nullptr : open.back();
+}
+
+void AppController::windowClosed()
+{
+    std::erase_if(m_windows, [](const QPointer<DocumentWindow> &window) { return !window; });
+    if (m_quitting)
+        closeNextWindow();
+    else if (documentWindows().empty())
+        m_startWindow->show();
+}
+
+void AppController::quit()
+{
+    if (m_quitting)
+        return;
+    m_quitting = true;
+    closeNextWindow();
+}
+
+void AppController::closeNextWindow()
+{
+    const std::vector<DocumentWindow *> open = documentWindows();
+    if (!open.empty()) {
+        open.front()->close(); // and then the next one, when it has closed
+        return;
+    }
+    QVAlert::closeAll();
+    QCoreApplication::quit();
+}
+
+void AppController::sendToFCP()
+{
+    if (DocumentWindow *const window = currentWindow())
+        window->sendToFCP();
+}
+
+bool AppController::isQCLogging()
+{
+    return qcList().value(logQCKey).toBoolean();
+}
+
+void AppController::prefsToggleQCLogging(bool on)
+{
+    PropertyListDictionary list = qcList();
+    list.insert(logQCKey, on);
+    const Result<void> written = PropertyList::toFile(list, qcListPath());
+    if (!written)
+        QVLog::appendLog(u"Unable to write %@: %@", qcListPath(), written.message());
+}
+
+void AppController::helpUserManual()
+{
+    const QString manual =
+        StandardFolders::sharedLibrary() + QStringLiteral("/Documentation/Orvandel/Halvex User Manual.pdf");
+    if (QFileInfo::exists(manual))
+        Workspace::openFile(manual);
+}
+
+void AppController::helpHalvexHome()
+{
+    openWebPage(WebPage::HalvexHome, m_defaults);
+}
+
+void AppController::helpSupport()
+{
+    openWebPage(WebPage::Support, m_defaults);
+}
+
+void AppController::helpQVHome()
+{
+    openWebPage(WebPage::QVHome, m_defaults);
+}
+
+void AppController::helpReportBug()
+{
+    openWebPage(WebPage::ReportBug, m_defaults);
+}
+
+void AppController::helpSuggestFeature()
+{
+    openWebPage(WebPage::SuggestFeature, m_defaults);
+}
+
+void AppController::showAboutDialog()
+{
+    if (!m_aboutPanel)
+        m_aboutPanel = AboutPanel::load(QApplication::activeWindow());
+    if (m_aboutPanel) {
+        m_aboutPanel->show();
+        m_aboutPanel->raise();
+        m_aboutPanel->activateWindow();
+        return;
+    }
+    QVLog::appendLog(u"Error: unable to load About dialog. Please report this error to Orvandel.");
+    QVAlert::alertSheetWithMessageText(QStringLiteral("Error: unable to load About dialog."),
+                                       QStringLiteral("Please report this error to Orvandel."), nullptr);
+}
+
+void AppController::viewLog()
+{
+    Troubleshooting::viewLogForApp(programName);
+}
+
+void AppController::viewTaskLog()
+{
+    Troubleshooting::viewTaskLogForApp(programName);
+}
+
+void AppController::gatherLogs()
+{
+    auto *const panel = new QFileDialog(QApplication::activeWindow(), tr("Choose a folder for the logs"),
+                                        StandardFolders::desktop());
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::Directory);
+    panel->setOption(QFileDialog::ShowDirsOnly);
+    connect(panel, &QFileDialog::fileSelected, this, &AppController::gatherLogsInto);
+    panel->setWindowModality(Qt::ApplicationModal);
+    panel->show();
+}
+
+void AppController::gatherLogsInto(const QString &folder)
+{
+    Troubleshooting::gatherLogsForAppWithName(programName, folder, this, [](const Result<QString> &archive) {
+        if (archive)
+            QVAlert::alertSheetWithMessageText(tr("The logs were gathered"), archive.value(), nullptr);
+        else
+            QVAlert::alertSheetWithMessageText(tr("Unable to gather the logs"), archive.message(), nullptr);
+    });
+}
+
+} // namespace vantrell

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QFileDialog;
+
+namespace vantrell
+{
+
+class AboutPanel;
+class DocumentWindow;
+class RecentFiles;
+class StartWindow;
+class UserDefaults;
+
+/// The program as a whole: its start, the windows of its documents, and the commands that belong to none
+/// of them. Main thread.
+class AppController final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Starts the log and the alerts, and gives the defaults what they begin with. The defaults outlive the
+    /// controller.
+    explicit AppController(UserDefaults &defaults);
+    ~AppController() override;
+
+    /// Shows the start window unless a document is open, and has the start-up action performed a second
+    /// later unless a window is in use by then.
+    void applicationDidFinishLaunching();
+    /// Shows the open panel if the default "showOpenDialogAtStartup" is 1.
+    void performStartupAction();
+    /// Opens the file in a window of its own, or brings the window to the front that has it. True when
+    /// that could be tried; what is wrong with the file its window says.
+    bool applicationOpenFile(const QString &path);
+    void openFiles(const QStringList &paths);
+    /// Performs the start-up action; the program makes no untitled documents, so this is false.
+    bool applicationShouldOpenUntitledFile();
+
+    /// The windows of all documents that are open.
+    std::vector<DocumentWindow *> documentWindows() const;
+    /// The document that commands are for; null when none is open.
+    DocumentWindow *currentWindow() const;
+    StartWindow &startWindow() const { return *m_startWindow; }
+    RecentFiles &recentFiles() const { return *m_recentFiles; }
+    /// Whether quality-control logging is switched on.
+    static bool isQCLogging();
+
+public Q_SLOTS:
+    /// The open panel.
+    void openFile();
+    void sendToFCP();
+    /// Closes every window, with the questions that this takes, and ends the program.
+    void quit();
+
+    void prefsToggleQCLogging(bool on);
+    void helpUserManual();
+    void helpHalvexHome();
+    void helpSupport();
+    void helpQVHome();
+    void helpReportBug();
+    void helpSuggestFeature();
+    void showAboutDialog();
+    void viewLog();
+    void viewTaskLog();
+    void gatherLogs();
+
+private:
+    DocumentWindow *windowOf(const QString &path) const;
+    void placeWindow(DocumentWindow &window) const;
+    void windowClosed();
+    void closeNextWindow();
+    void gatherLogsInto(const QString &folder);
+    QString startFolder() const;
+
+    UserDefaults &m_defaults;
+    std::unique_ptr<RecentFiles> m_recentFiles;
+    std::unique_ptr<StartWindow> m_startWindow;
+    std::vector<QPointer<DocumentWindow>> m_windows; // those that close among them
+    QPointer<QFileDialog> m_openPanel;
+    QPointer<AboutPanel> m_aboutPanel;
+    bool m_quitting = false;
+};
+
+} // namespace vantrell

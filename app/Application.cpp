@@ -1,0 +1,63 @@
+#include "app/Application.h"
+
+#include "support/QVException.h"
+
+#include <QFileOpenEvent>
+#include <QIcon>
+
+#include <cstring>
+
+static void registerResources()
+{
+    Q_INIT_RESOURCE(app_resources);
+}
+
+namespace vantrell
+{
+
+Application::Application(int &argc, char **argv)
+    : QApplication(argc, argv)
+{
+    registerResources();
+    setApplicationName(QStringLiteral("Vantrell"));
+    setApplicationVersion(QStringLiteral(VANTRELL_VERSION));
+    setOrganizationName(QStringLiteral("Orvandel"));
+    setDesktopFileName(QStringLiteral("vantrell"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/vantrell.svg")));
+    setQuitOnLastWindowClosed(false); // the controller decides
+}
+
+bool Application::hasDisplay(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "-platform") == 0 || std::strcmp(argv[i], "--platform") == 0)
+            return true;
+    }
+    for (const char *const name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return true;
+    }
+#if defined(Q_OS_MACOS) || defined(Q_OS_WIN)
+    return true;
+#else
+    return false;
+#endif
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    bool isHandled = false;
+    guarded("Application::notify", [&] { isHandled = QApplication::notify(receiver, event); });
+    return isHandled;
+}
+
+bool Application::event(QEvent *event)
+{
+    if (event->type() == QEvent::FileOpen) {
+        Q_EMIT openFileRequested(static_cast<QFileOpenEvent *>(event)->file());
+        return true;
+    }
+    return QApplication::event(event);
+}
+
+} // namespace vantrell

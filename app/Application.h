@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QApplication>
+#include <QString>
+
+namespace vantrell
+{
+
+/// The application: its names, and that no exception leaves an event handler. Made once, on the main
+/// thread.
+class Application final : public QApplication
+{
+    Q_OBJECT
+
+public:
+    Application(int &argc, char **argv);
+
+    /// Whether there is a display, or a platform that needs none was asked for.
+    static bool hasDisplay(int argc, char **argv);
+
+    bool notify(QObject *receiver, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The file manager wants a file opened.
+    void openFileRequested(const QString &path);
+
+protected:
+    bool event(QEvent *event) override;
+};
+
+} // namespace vantrell

@@ -1,0 +1,217 @@
+#include "app/MainMenu.h"
+
+#include "app/AppController.h"
+#include "app/RecentFiles.h"
+#include "document/MyDocument.h"
+#include "document/widgets/CommandValidation.h"
+#include "document/widgets/DocumentWindow.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace vantrell
+{
+
+namespace
+{
+
+void apply(const CommandState &state, QAction *action)
+{
+    action->setVisible(state.isVisible);
+    action->setEnabled(state.isEnabled);
+    if (!state.title.isNull())
+        action->setText(state.title);
+    if (state.shortcut)
+        action->setShortcut(*state.shortcut);
+}
+
+} // namespace
+
+MainMenu::MainMenu(AppController &controller, QMainWindow &window, DocumentWindow *document)
+    : QObject(&window)
+    , m_controller(controller)
+    , m_window(window)
+    , m_document(document)
+    , m_bar(window.menuBar())
+{
+    makeFileMenu();
+    makeEditMenu();
+    makeViewMenu();
+    makeHelpMenu();
+    connect(&m_controller.recentFiles(), &RecentFiles::changed, this, &MainMenu::fillRecentMenu);
+    fillRecentMenu();
+    if (m_document)
+        connect(m_document, &DocumentWindow::menusChanged, this, &MainMenu::validate);
+    validate();
+}
+
+QMenu *MainMenu::addMenu(const QString &title)
+{
+    QMenu *const menu = m_bar->addMenu(title);
+    menu->setToolTipsVisible(true);
+    connect(menu, &QMenu::aboutToShow, this, &MainMenu::validate);
+    return menu;
+}
+
+template <typename Receiver, typename Operation>
+QAction *MainMenu::add(QMenu *menu, const QString &title, const QKeySequence &shortcut, Receiver *receiver,
+                       Operation operation)
+{
+    QAction *const action = menu->addAction(title);
+    action->setShortcut(shortcut);
+    if (receiver)
+        connect(action, &QAction::triggered, receiver, operation);
+    return action;
+}
+
+void MainMenu::makeFileMenu()
+{
+    m_fileMenu = addMenu(tr("&File"));
+    add(m_fileMenu, tr("&Open…"), QKeySequence::Open, &m_controller, &AppController::openFile);
+    m_recentMenu = m_fileMenu->addMenu(tr("Open &Recent"));
+    m_recentMenu->setToolTipsVisible(true);
+    m_openFCPProject = m_fileMenu->addAction(tr("Open &Final Cut Pro Project…"));
+    m_fileMenu->addSeparator();
+    m_close = add(m_fileMenu, tr("&Close"), QKeySequence::Close, &m_window, &QWidget::close);
+    m_save = add(m_fileMenu, tr("&Save"), QKeySequence::Save, m_document, &DocumentWindow::save);
+    m_saveAs = add(m_fileMenu, tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), m_document,
+                   &DocumentWindow::saveAs);
+    m_revert = add(m_fileMenu, tr("Re&vert to Saved"), {}, m_document, &DocumentWindow::revert);
+    m_fileMenu->addSeparator();
+    makeMarkerListMenus();
+    m_send = add(m_fileMenu, QString(), {}, m_document, &DocumentWindow::sendToFCP);
+    m_fileMenu->addSeparator();
+    QAction *const print = m_fileMenu->addAction(tr("&Print…"));
+    print->setEnabled(false);
+    print->setToolTip(tr("This version cannot print yet."));
+    m_fileMenu->addSeparator();
+    QAction *const quit =
+        add(m_fileMenu, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &m_controller, &AppController::quit);
+    quit->setMenuRole(QAction::QuitRole);
+}
+
+void MainMenu::makeMarkerListMenus()
+{
+    m_importMenu = m_fileMenu->addMenu(tr("&Import"));
+    add(m_importMenu, tr("&Final Cut Pro Markers…"), {}, m_document, &DocumentWindow::importFCPMarkers);
+    add(m_importMenu, tr("&Avid Locators…"), {}, m_document, &DocumentWindow::importAvidLocators);
+    add(m_importMenu, tr("Final Cut Pro &X Markers…"), {}, m_document, &DocumentWindow::importFCPXMarkers);
+    m_exportMenu = m_fileMenu->addMenu(tr("&Export"));
+    add(m_exportMenu, tr("&Final Cut Pro Markers…"), {}, m_document, &DocumentWindow::exportFCPMarkers);
+    add(m_exportMenu, tr("&Avid Locators…"), {}, m_document, &DocumentWindow::exportAvidLocators);
+}
+
+void MainMenu::makeEditMenu()
+{
+    QMenu *const menu = addMenu(tr("&Edit"));
+    m_documentActions << add(menu, tr("&Copy"), QKeySequence::Copy, m_document,
+                             &DocumentWindow::copySelection)
+                      << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
+                             &DocumentWindow::selectAllRows);
+    menu->addSeparator();
+    m_remove = add(menu, tr("&Remove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
+                   &DocumentWindow::removeSelection);
+}
+
+void MainMenu::makeViewMenu()
+{
+    QMenu *const menu = addMenu(tr("&View"));
+    m_paneActions << add(menu, tr("&Media"), QKeySequence(Qt::CTRL | Qt::Key_1), m_document,
+                         &DocumentWindow::toolbarMedia)
+                  << add(menu, tr("&Effects"), QKeySequence(Qt::CTRL | Qt::Key_2), m_document,
+                         &DocumentWindow::toolbarEffects)
+                  << add(menu, tr("Mar&kers"), QKeySequence(Qt::CTRL | Qt::Key_3), m_document,
+                         &DocumentWindow::toolbarMarkers);
+    auto *const group = new QActionGroup(this);
+    for (QAction *const action : m_paneActions) {
+        action->setCheckable(true);
+        group->addAction(action);
+    }
+    m_documentActions += m_paneActions;
+}
+
+void MainMenu::makeHelpMenu()
+{
+    QMenu *const menu = addMenu(tr("&Help"));
+    add(menu, tr("User &Manual"), QKeySequence::HelpContents, &m_controller, &AppController::helpUserManual);
+    menu->addSeparator();
+    add(menu, tr("&Halvex Home Page"), {}, &m_controller, &AppController::helpHalvexHome);
+    add(menu, tr("&Orvandel Home Page"), {}, &m_controller, &AppController::helpQVHome);
+    add(menu, tr("&Support"), {}, &m_controller, &AppController::helpSupport);
+    add(menu, tr("Report a &Bug"), {}, &m_controller, &AppController::helpReportBug);
+    add(menu, tr("Suggest a &Feature"), {}, &m_controller, &AppController::helpSuggestFeature);
+    menu->addSeparator();
+    QMenu *const trouble = menu->addMenu(tr("&Troubleshooting"));
+    add(trouble, tr("View &Log"), {}, &m_controller, &AppController::viewLog);
+    add(trouble, tr("View &Task Log"), {}, &m_controller, &AppController::viewTaskLog);
+    add(trouble, tr("&Gather Logs…"), {}, &m_controller, &AppController::gatherLogs);
+    trouble->addSeparator();
+    m_qcLogging = trouble->addAction(tr("Log &Quality Control"));
+    m_qcLogging->setCheckable(true);
+    connect(m_qcLogging, &QAction::triggered, &m_controller, &AppController::prefsToggleQCLogging);
+    connect(trouble, &QMenu::aboutToShow, this,
+            [this] { m_qcLogging->setChecked(AppController::isQCLogging()); });
+    menu->addSeparator();
+    QAction *const about =
+        add(menu, tr("About &Vantrell"), {}, &m_controller, &AppController::showAboutDialog);
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainMenu::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList paths = m_controller.recentFiles().paths();
+    for (const QString &path : paths) {
+        QString title = QFileInfo(path).fileName();
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction *const action = m_recentMenu->addAction(title);
+        action->setToolTip(path);
+        connect(action, &QAction::triggered, &m_controller,
+                [this, path] { m_controller.applicationOpenFile(path); });
+    }
+    m_recentMenu->setEnabled(!paths.isEmpty());
+    m_recentMenu->addSeparator();
+    connect(m_recentMenu->addAction(tr("Clear Menu")), &QAction::triggered, &m_controller.recentFiles(),
+            &RecentFiles::clear, Qt::QueuedConnection);
+}
+
+void MainMenu::validate()
+{
+    if (m_document && m_document->isClosing())
+        return;
+    validateFileMenu();
+    const bool showsPanes = m_document && m_document->state() != DocumentWindow::State::Failed;
+    for (QAction *const action : m_documentActions)
+        action->setEnabled(showsPanes);
+    if (!showsPanes) {
+        m_remove->setEnabled(false);
+        return;
+    }
+    const Tab tab = m_document->selectedTab();
+    m_paneActions.at(int(tab))->setChecked(true);
+    m_remove->setEnabled(m_document->state() == DocumentWindow::State::Ready && tab != Tab::Media);
+}
+
+void MainMenu::validateFileMenu()
+{
+    const MyDocument *const document = m_document ? m_document->document() : nullptr;
+    m_openFCPProject->setEnabled(false);
+    m_openFCPProject->setToolTip(tr("This version opens project files; the list of the projects that are "
+                                    "open in Final Cut Pro comes with a later one."));
+    apply(validateUserInterfaceItem(DocumentCommand::Save, document), m_save);
+    apply(validateUserInterfaceItem(DocumentCommand::SaveAs, document), m_saveAs);
+    apply(validateUserInterfaceItem(DocumentCommand::Revert, document), m_revert);
+    apply(validateUserInterfaceItem(DocumentCommand::Send, document), m_send);
+    if (document && m_send->isVisible() && !document->canSend()) {
+        m_send->setEnabled(false);
+        m_send->setToolTip(tr("This version cannot send to an editing application yet."));
+    }
+    m_importMenu->setEnabled(m_document != nullptr);
+    m_exportMenu->setEnabled(m_document != nullptr);
+}
+
+} // namespace vantrell

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QMenuBar;
+
+namespace vantrell
+{
+
+class AppController;
+class DocumentWindow;
+
+/// The menu bar of one window, which owns it. Commands that are not there for the window's document are
+/// hidden or disabled, with a tool tip that says why where that is not plain. Main thread.
+class MainMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `document` is the window itself when it is one of a document, else null. The controller outlives
+    /// the window.
+    MainMenu(AppController &controller, QMainWindow &window, DocumentWindow *document);
+
+private:
+    void makeFileMenu();
+    void makeMarkerListMenus();
+    void makeEditMenu();
+    void makeViewMenu();
+    void makeHelpMenu();
+    QMenu *addMenu(const QString &title);
+    template <typename Receiver, typename Operation>
+    QAction *add(QMenu *menu, const QString &title, const QKeySequence &shortcut, Receiver *receiver,
+                 Operation operation);
+
+    void fillRecentMenu();
+    void validate();
+    void validateFileMenu();
+
+    AppController &m_controller;
+    QMainWindow &m_window;
+    DocumentWindow *m_document;
+    QMenuBar *m_bar;
+
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_recentMenu = nullptr;
+    QMenu *m_importMenu = nullptr;
+    QMenu *m_exportMenu = nullptr;
+    QAction *m_openFCPProject = nullptr;
+    QAction *m_close = nullptr;
+    QAction *m_save = nullptr;
+    QAction *m_saveAs = nullptr;
+    QAction *m_revert = nullptr;
+    QAction *m_send = nullptr;
+    QAction *m_remove = nullptr;
+    QAction *m_qcLogging = nullptr;
+    QList<QAction *> m_documentActions; // need a document that shows its panes
+    QList<QAction *> m_paneActions;     // by tab
+};
+
+} // namespace vantrell

@@ -1,0 +1,186 @@
+#include "app/StartWindow.h"
+
+#include "app/RecentFiles.h"
+#include "document/widgets/SymbolIcon.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPainter>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr int logoSide = 96;
+
+/// A dashed outline around a hint; drawn strongly while a file is above it.
+class DropPlace final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const bool isTarget = property("isTarget").toBool();
+        QColor outline = palette().color(isTarget ? QPalette::Highlight : QPalette::WindowText);
+        if (!isTarget)
+            outline.setAlphaF(0.35F);
+        painter.setPen(QPen(outline, isTarget ? 2 : 1.2, Qt::DashLine));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 8, 8);
+        QLabel::paintEvent(event);
+    }
+};
+
+QStringList localFiles(const QMimeData *data)
+{
+    QStringList paths;
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
+QString shownFolder(const QString &path)
+{
+    const QString folder = QFileInfo(path).path();
+    const QString home = QDir::homePath();
+    return folder == home || folder.startsWith(home + QLatin1Char('/'))
+               ? QLatin1Char('~') + folder.mid(home.size())
+               : folder;
+}
+
+} // namespace
+
+StartWindow::StartWindow(RecentFiles &recentFiles)
+    : m_recentFiles(recentFiles)
+{
+    setWindowTitle(QCoreApplication::applicationName());
+    setAcceptDrops(true);
+    auto *const central = new QWidget(this);
+    auto *const layout = new QHBoxLayout(central);
+    layout->setContentsMargins(28, 24, 24, 24);
+    layout->setSpacing(28);
+    layout->addWidget(makeWelcome());
+    layout->addWidget(makeRecentList(), 1);
+    setCentralWidget(central);
+    resize(760, 440);
+    connect(&m_recentFiles, &RecentFiles::changed, this, &StartWindow::fillRecentList);
+    fillRecentList();
+}
+
+QWidget *StartWindow::makeWelcome()
+{
+    auto *const welcome = new QWidget(this);
+    auto *const logo = new QLabel(welcome);
+    logo->setPixmap(QIcon(QStringLiteral(":/icons/vantrell.svg")).pixmap(logoSide, logoSide));
+    auto *const name = new QLabel(QCoreApplication::applicationName(), welcome);
+    QFont font = name->font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    name->setFont(font);
+    auto *const purpose = new QLabel(tr("Media, effects and markers\nof an editing project"), welcome);
+    auto *const open = new QPushButton(tr("&Open…"), welcome);
+    open->setDefault(true);
+    connect(open, &QPushButton::clicked, this, &StartWindow::openRequested);
+    m_dropPlace = new DropPlace(tr("Drop a project or\nan XML file here"), welcome);
+    m_dropPlace->setAlignment(Qt::AlignCenter);
+    m_dropPlace->setMinimumSize(220, 96);
+    auto *const layout = new QVBoxLayout(welcome);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    for (QWidget *const widget : {logo, name, purpose})
+        layout->addWidget(widget, 0, Qt::AlignHCenter);
+    purpose->setAlignment(Qt::AlignHCenter);
+    layout->addStretch(1);
+    layout->addWidget(open);
+    layout->addWidget(m_dropPlace);
+    return welcome;
+}
+
+QWidget *StartWindow::makeRecentList()
+{
+    auto *const side = new QWidget(this);
+    auto *const title = new QLabel(tr("&Recent projects"), side);
+    m_list = new QListWidget(side);
+    m_list->setAccessibleName(tr("Recent projects"));
+    m_list->setIconSize({24, 24});
+    m_list->setSpacing(2);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    title->setBuddy(m_list);
+    connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
+        const QString path = item->data(Qt::UserRole).toString();
+        if (!path.isEmpty())
+            Q_EMIT filesChosen({path});
+    });
+    auto *const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(title);
+    layout->addWidget(m_list, 1);
+    return side;
+}
+
+void StartWindow::fillRecentList()
+{
+    m_list->clear();
+    const QIcon icon = themeIcon({QStringLiteral("text-xml")}, QStringLiteral(":/icons/open.svg"));
+    for (const QString &path : m_recentFiles.paths()) {
+        auto *const item = new QListWidgetItem(
+            icon, QFileInfo(path).fileName() + QLatin1Char('\n') + shownFolder(path), m_list);
+        item->setData(Qt::UserRole, path);
+        item->setToolTip(path);
+    }
+    if (m_list->count() == 0) {
+        auto *const none = new QListWidgetItem(tr("Projects that you open are listed here."), m_list);
+        none->setFlags(Qt::NoItemFlags);
+    } else {
+        m_list->setCurrentRow(0);
+    }
+}
+
+void StartWindow::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closed();
+}
+
+void StartWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (localFiles(event->mimeData()).isEmpty())
+        return;
+    event->acceptProposedAction();
+    m_dropPlace->setProperty("isTarget", true);
+    m_dropPlace->update();
+}
+
+void StartWindow::dragLeaveEvent(QDragLeaveEvent *)
+{
+    m_dropPlace->setProperty("isTarget", false);
+    m_dropPlace->update();
+}
+
+void StartWindow::dropEvent(QDropEvent *event)
+{
+    dragLeaveEvent(nullptr);
+    event->acceptProposedAction();
+    Q_EMIT filesChosen(localFiles(event->mimeData()));
+}
+
+} // namespace vantrell

@@ -1,0 +1,55 @@
+#include "app/WebPages.h"
+
+#include "support/TextFormat.h"
+#include "support/UserDefaults.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString familyShortName = QStringLiteral("halvex");
+const QString programShortName = QStringLiteral("vantrell");
+
+QString keyOf(WebPage page)
+{
+    switch (page) {
+    case WebPage::HalvexHome:
+        return QStringLiteral("halvexHomeAddress");
+    case WebPage::QVHome:
+        return QStringLiteral("homeAddress");
+    case WebPage::Support:
+        return QStringLiteral("supportAddress");
+    case WebPage::ReportBug:
+        return QStringLiteral("reportBugAddress");
+    case WebPage::SuggestFeature:
+        return QStringLiteral("suggestFeatureAddress");
+    }
+    return QString();
+}
+
+} // namespace
+
+PropertyListDictionary defaultWebAddresses()
+{
+    return {
+        {keyOf(WebPage::HalvexHome), QStringLiteral("https://www.orvandel.example/halvex")},
+        {keyOf(WebPage::QVHome), QStringLiteral("https://www.orvandel.example/")},
+        {keyOf(WebPage::Support), QStringLiteral("https://www.orvandel.example/support/%@")},
+        {keyOf(WebPage::ReportBug), QStringLiteral("https://www.orvandel.example/bug?app=%@&subapp=%@")},
+        {keyOf(WebPage::SuggestFeature),
+         QStringLiteral("https://www.orvandel.example/feature?app=%@&subapp=%@")},
+    };
+}
+
+void openWebPage(WebPage page, const UserDefaults &defaults)
+{
+    const QString address = formatText(defaults.string(keyOf(page)), familyShortName, programShortName);
+    QDesktopServices::openUrl(QUrl(address));
+}
+
+} // namespace vantrell

@@ -1,0 +1,91 @@
+#include "app/AppController.h"
+#include "app/Application.h"
+#include "document/widgets/DocumentDisposal.h"
+#include "support/QVLog.h"
+#include "support/UserDefaults.h"
+
+#include <QStringList>
+#include <QWindow>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace
+{
+
+constexpr std::chrono::milliseconds patienceAtEnd{200};
+
+/// Answers what needs no window; false when there is nothing to answer.
+bool answerOption(const char *option)
+{
+    if (std::strcmp(option, "--version") == 0) {
+        std::puts("vantrell " VANTRELL_VERSION);
+        return true;
+    }
+    if (std::strcmp(option, "--help") == 0 || std::strcmp(option, "-h") == 0) {
+        std::puts("Usage: vantrell [FILE...]\n\nShows the media, effects and markers of each project FILE.\n"
+                  "Without a display use vantrell-cli.");
+        return true;
+    }
+    return false;
+}
+
+[[noreturn]] void endWithoutDisplay()
+{
+    std::fputs("vantrell: there is no display to show a window on. "
+               "The command line vantrell-cli works without one.\n",
+               stderr);
+    std::fflush(stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// While the application is made, the one fatal message is that there is no usable display.
+void endOnFatalMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+    if (type == QtFatalMsg)
+        endWithoutDisplay();
+}
+
+int run(vantrell::Application &application)
+{
+    vantrell::AppController controller(vantrell::UserDefaults::standard());
+    QObject::connect(&application, &vantrell::Application::openFileRequested, &controller,
+                     &vantrell::AppController::applicationOpenFile);
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &controller,
+                     [&controller](Qt::ApplicationState state) {
+                         const QWindowList windows = QGuiApplication::topLevelWindows();
+                         const bool isBare =
+                             std::none_of(windows.begin(), windows.end(),
+                                          [](const QWindow *window) { return window->isVisible(); });
+                         if (state == Qt::ApplicationActive && isBare)
+                             controller.applicationShouldOpenUntitledFile();
+                     });
+    controller.openFiles(QCoreApplication::arguments().mid(1));
+    controller.applicationDidFinishLaunching();
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc == 2 && answerOption(argv[1]))
+        return EXIT_SUCCESS;
+    if (!vantrell::Application::hasDisplay(argc, argv))
+        endWithoutDisplay();
+    const QtMessageHandler handler = qInstallMessageHandler(endOnFatalMessage);
+    vantrell::Application application(argc, argv);
+    qInstallMessageHandler(handler);
+
+    const int status = run(application);
+    // Taking a large project apart is no reason to keep the process.
+    if (!vantrell::DocumentDisposal::waitForAll(patienceAtEnd)) {
+        vantrell::QVLog::willTerminate();
+        std::_Exit(status);
+    }
+    return status;
+}

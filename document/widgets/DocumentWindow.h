@@ -1,0 +1,159 @@
+#pragma once
+
+#include "document/DocumentInterface.h"
+#include "support/QVAlert.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <memory>
+
+class QActionGroup;
+class QLabel;
+class QStackedWidget;
+class QToolBar;
+
+namespace vantrell
+{
+
+class DocumentWindowInterface;
+class MyDocument;
+class NoticeBar;
+class ProgressSheet;
+class TabPane;
+class UserDefaults;
+class Workbench;
+
+/// The window of one document, which it owns: the three panes behind a toolbar, of which one shows. It
+/// ends with its document; closing it asks about changes first, and it deletes itself afterwards. Main
+/// thread.
+class DocumentWindow final : public QMainWindow, private AlertDelegate
+{
+    Q_OBJECT
+
+public:
+    /// Loading: the panes fill. Ready: the project may be changed. Failed: the window says why it is empty.
+    enum class State { Loading, Ready, Failed };
+
+    /// The defaults outlive the window and its document.
+    explicit DocumentWindow(UserDefaults &defaults);
+    ~DocumentWindow() override;
+
+    /// Starts loading the file and shows the media pane; once. False, with the reason in the window, when
+    /// it cannot even be tried.
+    bool open(const QString &path);
+
+    /// The file that the window stands for.
+    QString path() const { return m_path; }
+    State state() const { return m_state; }
+    /// Whether the window is on its way out: nothing of its document may be used any more.
+    bool isClosing() const { return m_closing; }
+    /// The document as far as menus go: null until it has loaded, and from the beginning of the end.
+    MyDocument *document() const;
+    /// After open().
+    Workbench &workbench() const { return *m_workbench; }
+    TabPane &pane(Tab tab) const { return *m_panes[std::size_t(tab)]; }
+    Tab selectedTab() const;
+
+    /// The items of the toolbar, all selectable, and the one whose pane shows.
+    QStringList toolbarSelectableItemIdentifiers() const;
+    QString selectedToolbarItemIdentifier() const { return m_selectedToolbarItemIdentifier; }
+
+    /// What the window says about its file: why it could not be loaded, or that it had to be repaired.
+    QString message() const;
+
+public Q_SLOTS:
+    /// The toolbar's actions: each fills its pane and shows it.
+    void toolbarMedia();
+    void toolbarEffects();
+    void toolbarMarkers();
+
+    /// Writes the document to its file; false, after an alert, when that fails.
+    bool save();
+    /// Asks where to, then writes there; from then on the window stands for that file.
+    void saveAs();
+    bool saveTo(const QString &path);
+    /// Loads the file again, after a question when changes would be lost.
+    void revert();
+    void revertWithoutQuestion();
+
+    /// Hands the changes to the editing application.
+    void sendToFCP();
+
+    void importFCPMarkers();
+    void importAvidLocators();
+    void importFCPXMarkers();
+    void exportFCPMarkers();
+    void exportAvidLocators();
+
+    // The edit menu, for the pane that shows
+    void copySelection();
+    void selectAllRows();
+    void removeSelection();
+
+Q_SIGNALS:
+    /// What the menus depend on is another than before.
+    void menusChanged();
+    void loaded(const QString &path);
+    /// The user wants these files opened.
+    void filesDropped(const QStringList &paths);
+    /// The window is hidden and will delete itself.
+    void closed();
+    /// The user does not want the window to be closed, after all.
+    void closeCancelled();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void makeToolBar();
+    void makeContent();
+    QWidget *makeFailurePage();
+    void startSession(const QString &path);
+    void endSession();
+    void showFailure(const QString &message);
+    void loadEnded(bool loaded, const QString &message, const QString &notice);
+    void inventoriesEnded();
+    void setEditingEnabled(bool enabled);
+    void setPath(const QString &path);
+    void showPane(Tab tab);
+    void applyDefaultsChange(const QString &key);
+
+    bool respondsTo(const QString &selector) const override;
+    void perform(const QString &selector, QVAlert *alert, int code) override;
+    void askBeforeClosing();
+    void closeQuestionEnded(int code);
+    void shutDown();
+    void restorePlace();
+    void storePlace();
+
+    bool mayChangeMarkers();
+    void runOpenPanel(const QString &format);
+    void runSavePanel(const QString &format);
+    QString folder() const;
+
+    UserDefaults &m_defaults;
+    QString m_path;
+    State m_state = State::Loading;
+    bool m_treeLoaded = false;
+    bool m_closing = false;
+    bool m_asksBeforeClosing = false;
+
+    QToolBar *m_toolBar = nullptr;
+    QActionGroup *m_toolBarItems = nullptr;
+    QString m_selectedToolbarItemIdentifier;
+    NoticeBar *m_notice = nullptr;
+    QStackedWidget *m_content = nullptr;
+    QLabel *m_failure = nullptr;
+    QLabel *m_failureReason = nullptr;
+    ProgressSheet *m_progress = nullptr;
+
+    // The document and what shows it, exchanged together when the file is loaded again.
+    std::shared_ptr<DocumentWindowInterface> m_interface;
+    std::unique_ptr<Workbench> m_workbench;
+    std::array<TabPane *, 3> m_panes = {}; // by tab, in m_content
+};
+
+} // namespace vantrell

@@ -1,0 +1,161 @@
+#include "document/widgets/MarkersPane.h"
+
+#include "document/widgets/MarkerOffsetSheet.h"
+#include "document/widgets/MarkerTableModel.h"
+#include "document/widgets/QVTableView.h"
+#include "document/widgets/TableIcons.h"
+#include "markers/MarkerTableValues.h"
+#include "workbench/Workbench.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+
+namespace vantrell
+{
+
+MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
+    : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
+              MarkerTableValues::sortValueOfColumn, parent)
+    , m_filter(new QComboBox(this))
+    , m_add(new QPushButton(tr("&Add"), this))
+    , m_remove(new QPushButton(tr("Re&move…"), this))
+    , m_offset(new QPushButton(tr("&Offset…"), this))
+    , m_status(new QLabel(this))
+{
+    m_filter->addItem(tr("All Colors"));
+    for (int i = 0; i < markerModel().colorLabels().size(); ++i)
+        m_filter->addItem(TableIcons::marker(i), markerModel().colorLabels()[i]);
+    m_filter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_filter->setAccessibleName(tr("Color of markers"));
+    m_filter->setToolTip(tr("Show markers of one color only"));
+    m_add->setToolTip(tr("Add a marker to the first sequence"));
+    m_remove->setToolTip(tr("Remove the selected markers from the project"));
+    m_offset->setToolTip(tr("Move the in points of the selected markers"));
+    addControls({m_filter, m_add, m_remove, m_offset});
+    footer().addWidget(m_status);
+
+    connect(m_filter, &QComboBox::activated, this, [this](int item) {
+        this->workbench().document().viewState().markerFilter = item;
+        this->workbench().markerInventory().changeMarkerFilter();
+    });
+    connect(m_add, &QPushButton::clicked, this, &MarkersPane::addMarker);
+    connect(m_remove, &QPushButton::clicked, this, &MarkersPane::removeMarkers);
+    connect(m_offset, &QPushButton::clicked, this, &MarkersPane::showMarkerOffsetWindow);
+
+    table().setAccessibleName(tr("Markers"));
+    table().addWatchKeys({13, 3}, "editCurrentCell");
+    connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
+        const bool isText = model().cellOf(index.column()) == TableModel::Cell::Text;
+        if (isText && index.flags().testFlag(Qt::ItemIsEditable))
+            table().edit(index);
+    });
+    auto *menu = new QMenu(this);
+    menu->addAction(tr("Offset…"), this, &MarkersPane::showMarkerOffsetWindow);
+    menu->addAction(tr("Remove…"), this, &MarkersPane::removeMarkers);
+    menu->addAction(tr("Copy"), this, &TabPane::copySelection);
+    table().setMenu(menu);
+    updateControls();
+}
+
+MarkerTableModel &MarkersPane::markerModel() const
+{
+    return static_cast<MarkerTableModel &>(model());
+}
+
+void MarkersPane::setSequenceMenu(const MenuPtr &)
+{
+    markerModel().sequenceMenuChanged();
+}
+
+void MarkersPane::setColorLabels(const QStringList &labels)
+{
+    markerModel().setColorLabels(labels);
+    for (int i = 0; i < labels.size() && i + 1 < m_filter->count(); ++i)
+        m_filter->setItemText(i + 1, labels[i]);
+}
+
+void MarkersPane::addMarker()
+{
+    if (isEditingEnabled())
+        workbench().markerEditor().addMarker();
+}
+
+void MarkersPane::removeMarkers()
+{
+    if (isEditingEnabled())
+        workbench().markerEditor().removeMarkers();
+}
+
+void MarkersPane::editCurrentCell()
+{
+    const QModelIndex index = table().currentIndex();
+    if (index.isValid() && index.flags().testFlag(Qt::ItemIsEditable))
+        table().edit(index);
+}
+
+void MarkersPane::showMarkerOffsetWindow()
+{
+    if (!isEditingEnabled())
+        return;
+    auto *sheet = new MarkerOffsetSheet(window());
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        workbench().markerEditor().offsetMarkers(sheet->text());
+        model().rowsChanged(0, model().rowCount() - 1);
+    });
+    sheet->open();
+}
+
+void MarkersPane::commitEdit(int, const QString &column, const QString &text)
+{
+    workbench().markerEditor().setObjectValue(text, column);
+}
+
+void MarkersPane::columnMoved(const QString &identifier, int index)
+{
+    workbench().markerFields().columnMoved(identifier, index);
+}
+
+void MarkersPane::setEditingEnabled(bool enabled)
+{
+    TabPane::setEditingEnabled(enabled);
+    for (QAction *action : table().menuForEvent(QPoint(-1, -1))->actions().mid(0, 2))
+        action->setEnabled(enabled);
+}
+
+void MarkersPane::updateControls()
+{
+    const bool hasSelection = table().selectionModel()->hasSelection();
+    m_add->setEnabled(isEditingEnabled());
+    m_remove->setEnabled(isEditingEnabled() && hasSelection);
+    m_offset->setEnabled(isEditingEnabled() && hasSelection);
+    const std::size_t selected = hasSelection ? selectedRows().size() : 0;
+    const int count = model().rowCount();
+    const QLocale locale;
+    QString text = count == 1 ? tr("1 marker") : tr("%1 markers").arg(locale.toString(count));
+    if (selected > 0)
+        text = tr("%1 (%2 selected)").arg(text, locale.toString(qulonglong(selected)));
+    m_status->setText(text);
+}
+
+QString MarkersPane::loadingText(std::size_t found) const
+{
+    return found == 0 ? tr("Looking for markers…")
+                      : tr("Looking for markers: %n so far…", nullptr, int(found));
+}
+
+QString MarkersPane::emptyText() const
+{
+    return tr("This project has no markers yet.");
+}
+
+QString MarkersPane::filteredText() const
+{
+    return tr("No marker has this color.");
+}
+
+} // namespace vantrell

@@ -1,0 +1,52 @@
+#include "document/widgets/NoticeBar.h"
+
+#include "document/widgets/SymbolIcon.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace vantrell
+{
+
+NoticeBar::NoticeBar(QWidget *parent)
+    : QFrame(parent)
+    , m_text(new QLabel(this))
+{
+    setBackgroundRole(QPalette::AlternateBase);
+    setAutoFillBackground(true);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    auto *const icon = new QLabel(this);
+    icon->setPixmap(
+        themeIcon({QStringLiteral("dialog-warning-symbolic")}, QStringLiteral(":/icons/warning.svg"))
+            .pixmap(side, side));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto *const dismiss = new QToolButton(this);
+    dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    dismiss->setAutoRaise(true);
+    dismiss->setToolTip(tr("Dismiss"));
+    dismiss->setAccessibleName(tr("Dismiss notice"));
+    connect(dismiss, &QToolButton::clicked, this, &QWidget::hide);
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(10, 5, 6, 5);
+    layout->addWidget(icon);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(dismiss);
+    hide();
+}
+
+void NoticeBar::setNotice(const QString &text)
+{
+    m_text->setText(text);
+    setVisible(!text.isEmpty());
+}
+
+QString NoticeBar::notice() const
+{
+    return isHidden() ? QString() : m_text->text();
+}
+
+} // namespace vantrell

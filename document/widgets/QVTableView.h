@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMenu>
+#include <QPointer>
+#include <QTableView>
+
+#include <functional>
+#include <vector>
+
+namespace vantrell
+{
+
+/// A table that lets its owner watch single keys, whose context menu acts on the clicked row alone, and
+/// that shows a text while it has no rows. Main thread.
+class QVTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    /// A key that is watched: its character, whatever the modifiers, and the name of the slot, without
+    /// arguments, that it performs.
+    struct WatchKey {
+        char16_t keycode;
+        QByteArray selector;
+    };
+
+    /// Handles a key; false when the table shall handle it as well.
+    using KeyHandler = std::function<bool(QVTableView &table, QKeyEvent &event)>;
+
+    explicit QVTableView(QWidget *parent = nullptr);
+
+    const std::vector<WatchKey> &watchKeys() const { return m_watchKeys; }
+    /// One entry for each character. The delegate becomes the watch delegate unless there is one.
+    void addWatchKeys(const std::vector<char16_t> &keycodes, const QByteArray &selector);
+    QObject *watchDelegate() const { return m_watchDelegate; }
+    void setWatchDelegate(QObject *delegate) { m_watchDelegate = delegate; }
+
+    /// The object that owns the table, and what it does with keys; without a handler it answers none.
+    void setDelegateObject(QObject *delegate) { m_delegate = delegate; }
+    void setKeyDownHandler(KeyHandler handler) { m_keyDown = std::move(handler); }
+    void setKeyUpHandler(KeyHandler handler) { m_keyUp = std::move(handler); }
+
+    /// The context menu, which belongs to somebody else.
+    void setMenu(QMenu *menu) { m_menu = menu; }
+    /// Selects the row at the position alone and gives the menu.
+    QMenu *menuForEvent(const QPoint &position);
+
+    /// What stands in the table while it has no rows.
+    QString placeholder() const { return m_placeholder; }
+    void setPlaceholder(const QString &text);
+
+    using QTableView::edit;
+    bool isEditing() const { return state() == EditingState; }
+
+Q_SIGNALS:
+    void copyRequested();
+
+protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
+
+private:
+    void performWatched(char16_t character);
+    void openPopUp(const QModelIndex &index);
+    void setRowHeight();
+
+    std::vector<WatchKey> m_watchKeys;
+    QPointer<QObject> m_watchDelegate;
+    QPointer<QObject> m_delegate;
+    KeyHandler m_keyDown;
+    KeyHandler m_keyUp;
+    QPointer<QMenu> m_menu;
+    QString m_placeholder;
+};
+
+} // namespace vantrell

@@ -1,0 +1,156 @@
+#pragma once
+
+#include "document/DocumentInterface.h"
+#include "document/RowRecord.h"
+#include "document/TableSorting.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <initializer_list>
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTimer;
+class QVBoxLayout;
+
+namespace vantrell
+{
+
+class QVTableView;
+class TableModel;
+class UserDefaults;
+class Workbench;
+
+/// One of the three panes of a document window: its table with the controls above and below it. The
+/// window makes all three, shows one, and hands on to them what the document asks of its interface. Main
+/// thread; the workbench and the defaults outlive the pane.
+class TabPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~TabPane() override;
+
+    Tab tab() const { return m_sorting.tab(); }
+    QVTableView &table() const { return *m_table; }
+    TableModel &model() const { return *m_model; }
+
+    /// What the window does before it shows the pane.
+    virtual void prepareToShow() {}
+
+    // What a document asks of its interface
+
+    /// Around an exchange of the rows on show, of whatever tab; always in pairs. Selected rows that are
+    /// still there, or are there again, stay selected.
+    void tableWillReload();
+    void tableDidReload();
+    /// Shows that the pane's inventory is being built, with the count of what was found so far.
+    void setSpinning(bool spinning);
+    /// Labels of other panes are passed over.
+    virtual void setLabel(Label label, const QString &text);
+    virtual void setSequenceMenu(const MenuPtr &) {}
+    virtual void setMediaChart(const std::vector<double> &) {}
+
+    /// Places among the rows on show, ascending; empty while another tab's rows are on show.
+    std::vector<std::size_t> selectedRows() const;
+    void selectRows(const std::vector<std::size_t> &rows);
+    /// Begins editing the cell with its text selected; nothing when it is not there.
+    void editCell(std::size_t row, const QString &column);
+    const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
+
+    /// The columns by their identifiers as they stand from left to right, and changes to them. A column
+    /// that is there already gets the title.
+    QStringList columns() const;
+    void addColumn(const QString &identifier, const QString &title);
+    void removeColumn(const QString &identifier);
+    void moveColumn(const QString &identifier, int index);
+
+    // What the window asks
+
+    /// Whether the project may be changed; false until all its inventories are there.
+    virtual void setEditingEnabled(bool enabled);
+
+    /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout". They are restored
+    /// by the constructor.
+    void saveLayout();
+    void restoreLayout();
+
+    /// The selected rows as lines of texts with tabs between them, columns as they stand; copySelection()
+    /// puts them on the clipboard.
+    QString selectionText() const;
+
+public Q_SLOTS:
+    void copySelection();
+
+Q_SIGNALS:
+    void selectionChanged();
+
+protected:
+    /// The model becomes the pane's.
+    TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, SortValueOfColumn sortValues,
+            QWidget *parent);
+
+    Workbench &workbench() const { return m_workbench; }
+    /// Puts the controls above the table, from the left; the keyboard reaches them in this order, then the
+    /// table.
+    void addControls(std::initializer_list<QWidget *> controls);
+    /// Below the table.
+    QVBoxLayout &footer() const { return *m_footer; }
+    /// A line of text below the table that the label's texts go to.
+    QLabel *makeLabel(Label label, QWidget *parent);
+    QLabel *labelOf(Label label) const { return m_labels.value(label); }
+    bool isEditingEnabled() const { return m_editingEnabled; }
+
+    /// A cell was edited: writes it into the project. The row is selected.
+    virtual void commitEdit(int row, const QString &column, const QString &text);
+    /// The user moved a column; the index is its new place.
+    virtual void columnMoved(const QString &, int) {}
+    /// The selection or the rows changed.
+    virtual void updateControls() {}
+    /// What stands in a table without rows: while all is read, and when the list is empty.
+    virtual QString loadingText(std::size_t found) const = 0;
+    virtual QString emptyText() const = 0;
+    /// When the list is not empty but the filters leave nothing of it.
+    virtual QString filteredText() const = 0;
+
+private:
+    void clickHeader(int section);
+    void showSortIndicator();
+    void moveSection(int section, int from, int to);
+    void noteSelectionChange();
+    void updateBusy();
+    void updatePlaceholder();
+    void rememberRows();
+    void restoreRows();
+
+    Workbench &m_workbench;
+    UserDefaults &m_defaults;
+    TableSorting m_sorting;
+    TableModel *m_model;
+    QVTableView *m_table;
+    QHBoxLayout *m_controls;
+    QVBoxLayout *m_footer;
+    QProgressBar *m_busy;
+    QLabel *m_busyText;
+    QTimer *m_busyTimer;
+    QHash<Label, QLabel *> m_labels;
+    QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
+
+    bool m_spinning = false;
+    bool m_editingEnabled = false;
+    bool m_movesColumns = false; // by the program
+    int m_reloads = 0;           // begun and not ended
+    bool m_selectionMuted = false;
+    RowList m_keptSelection;
+    RowRecordPtr m_keptCurrent;
+    int m_keptColumn = 0;
+    int m_keptScroll = 0;
+};
+
+} // namespace vantrell

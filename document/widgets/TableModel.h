@@ -1,0 +1,99 @@
+#pragma once
+
+#include "document/MyDocument.h"
+#include "document/TableColumn.h"
+
+#include <QAbstractTableModel>
+#include <QIcon>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace vantrell
+{
+
+/// One choice of a pop-up cell.
+struct PopUpItem {
+    QString title;
+    QIcon icon;
+};
+
+/// A table over the document's rows on show while those are its tab's, and without rows otherwise. Cells
+/// are edited through the function that the owner gives; the model changes no record. Main thread; the
+/// document outlives the model.
+class TableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum class Cell { Text, CheckBox, PopUp };
+
+    /// Writes what was typed or chosen: a text, "1" or "0" of a check box, the place in a pop-up menu.
+    using Edit = std::function<void(int row, const QString &column, const QString &text)>;
+
+    Tab tab() const { return m_tab; }
+    MyDocument &document() const { return m_document; }
+
+    // Columns, in the order of their making
+
+    const TableColumns &columns() const { return m_columns; }
+    /// -1 for one that is not there.
+    int columnOf(const QString &identifier) const;
+    const QString &identifierOf(int column) const { return m_columns[std::size_t(column)].identifier; }
+    /// A column that is there already gets the title.
+    void addColumn(const QString &identifier, const QString &title);
+    void removeColumn(const QString &identifier);
+
+    // Rows
+
+    const RowRecordPtr &recordAt(int row) const;
+    /// Around an exchange of the rows on show.
+    void willReload();
+    void didReload();
+    /// The records of these rows changed.
+    void rowsChanged(int first, int last);
+
+    // Cells
+
+    virtual Cell cellOf(int column) const = 0;
+    /// The choices of a pop-up cell.
+    virtual std::vector<PopUpItem> popUpItems(const QModelIndex &) const { return {}; }
+    /// The text of the cell in a line of texts.
+    QString cellText(const QModelIndex &index) const;
+
+    void setEdit(Edit edit) { m_edit = std::move(edit); }
+    bool isEditingEnabled() const { return m_editingEnabled; }
+    void setEditingEnabled(bool enabled);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+protected:
+    TableModel(MyDocument &document, Tab tab, TableColumns columns, QObject *parent);
+
+    virtual bool isEditable(int) const { return false; }
+    /// Whether a check box is ticked; the place of a pop-up cell's choice, -1 for none.
+    virtual bool isChecked(const RowRecord &, int) const { return false; }
+    virtual int popUpIndex(const RowRecord &, int) const { return -1; }
+    virtual QString text(const RowRecord &record, int column) const;
+    virtual QIcon icon(const RowRecord &, int) const { return QIcon(); }
+    virtual QString toolTip(const RowRecord &, int) const { return QString(); }
+    virtual Qt::Alignment alignment(int) const { return Qt::AlignLeft | Qt::AlignVCenter; }
+
+private:
+    bool contains(const QModelIndex &index) const;
+
+    MyDocument &m_document;
+    Tab m_tab;
+    TableColumns m_columns;
+    std::vector<RecordKey> m_keys; // of the columns
+    Edit m_edit;
+    bool m_editingEnabled = false;
+};
+
+} // namespace vantrell

@@ -1,0 +1,70 @@
+#include "media/widgets/QVGraphView.h"
+
+#include "media/MediaChart.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace vantrell
+{
+
+namespace
+{
+
+QColor colorOf(const ChartColor &color)
+{
+    return QColor::fromHsvF(float(color.hue), float(color.saturation), float(color.brightness),
+                            float(color.alpha));
+}
+
+QPainterPath pathOf(const ChartSlice &slice, const QPointF &centre, double radius)
+{
+    const QRectF circle(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+    QPainterPath path;
+    if (slice.startsAtCentre)
+        path.moveTo(centre);
+    else
+        path.arcMoveTo(circle, slice.startAngle);
+    path.arcTo(circle, slice.startAngle, slice.sweep);
+    path.lineTo(centre);
+    return path;
+}
+
+} // namespace
+
+QVGraphView::QVGraphView(QWidget *parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize QVGraphView::sizeHint() const
+{
+    const int side = fontMetrics().height() * 5;
+    return QSize(side, side);
+}
+
+void QVGraphView::paintEvent(QPaintEvent *)
+{
+    const MediaChart chart = mediaChart(m_type, m_values, width(), height());
+    if (chart.slices.empty())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre(chart.centreX, height() - chart.centreY);
+    for (const ChartSlice &slice : chart.slices) {
+        const QPainterPath path = pathOf(slice, centre, chart.radius);
+        painter.strokePath(path, QPen(colorOf(slice.wideOutline), MediaChart::wideLine));
+        if (slice.fill) {
+            const QRectF bounds = path.boundingRect();
+            QLinearGradient gradient(bounds.bottomLeft(), bounds.topRight());
+            gradient.setColorAt(0, colorOf(slice.fill->from));
+            gradient.setColorAt(1, colorOf(slice.fill->to));
+            painter.fillPath(path, gradient);
+        }
+        painter.strokePath(path, QPen(colorOf(slice.narrowOutline), MediaChart::narrowLine));
+    }
+}
+
+} // namespace vantrell

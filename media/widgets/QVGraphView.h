@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+namespace vantrell
+{
+
+/// The pie chart of the media pane. Main thread.
+class QVGraphView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit QVGraphView(QWidget *parent = nullptr);
+
+    /// 0 for a pie; any other kind draws nothing.
+    int type() const { return m_type; }
+    void setType(int type) { m_type = type; }
+    const std::vector<double> &values() const { return m_values; }
+    void setValues(const std::vector<double> &values) { m_values = values; }
+    /// Draws the chart anew, soon.
+    void refresh() { update(); }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_type = 0;
+    std::vector<double> m_values;
+};
+
+} // namespace vantrell

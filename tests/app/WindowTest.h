@@ -1,0 +1,88 @@
+#pragma once
+
+#include "document/widgets/DocumentWindow.h"
+#include "document/widgets/TabPane.h"
+#include "document/widgets/TableModel.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <functional>
+
+namespace vantrell
+{
+
+/// The sample project in a folder, as a file that a test may change; its media stay away.
+inline QString copySample(const QString &folder)
+{
+    const QDir samples(qEnvironmentVariable("VANTRELL_SOURCE_DIR") + QStringLiteral("/samples"));
+    QDir().mkpath(folder);
+    const QString path = QDir(folder).filePath(QStringLiteral("Harbour Lights.xml"));
+    QFile::remove(path);
+    if (!QFile::copy(samples.filePath(QStringLiteral("Harbour Lights.xml")), path))
+        qFatal("The sample could not be copied.");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    return path;
+}
+
+/// The visible alert box; null when there is none.
+inline QMessageBox *visibleBox()
+{
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        auto *const box = qobject_cast<QMessageBox *>(widget);
+        if (box && box->isVisible())
+            return box;
+    }
+    return nullptr;
+}
+
+/// Presses the button of the box; false when it has none with that title.
+inline bool press(QMessageBox *box, const QString &title)
+{
+    for (QAbstractButton *const button : box->buttons()) {
+        if (button->text().remove(QLatin1Char('&')) == title) {
+            button->click();
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Presses that button of the next alert, from within the operation that raises it.
+inline void pressLater(const QString &title)
+{
+    auto *const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, title] {
+        QMessageBox *const box = visibleBox();
+        if (box && press(box, title))
+            timer->deleteLater();
+    });
+    timer->start(5);
+}
+
+/// The texts of a column, from the top.
+inline QStringList columnTexts(const DocumentWindow &window, Tab tab, const QString &column)
+{
+    const TableModel &model = window.pane(tab).model();
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row)
+        texts.append(model.index(row, model.columnOf(column)).data().toString());
+    return texts;
+}
+
+/// Edits a cell as its editor does: the row is selected, and what was typed goes to the model.
+inline bool editCell(DocumentWindow &window, Tab tab, int row, const QString &column, const QVariant &value,
+                     int role = Qt::EditRole)
+{
+    TabPane &pane = window.pane(tab);
+    pane.selectRows({std::size_t(row)});
+    TableModel &model = pane.model();
+    return model.setData(model.index(row, model.columnOf(column)), value, role);
+}
+
+} // namespace vantrell

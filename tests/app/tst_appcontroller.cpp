@@ -1,0 +1,365 @@
+#include "WindowTest.h"
+
+#include "app/AppController.h"
+#include "app/RecentFiles.h"
+#include "app/StartWindow.h"
+#include "app/Troubleshooting.h"
+#include "document/MyDocument.h"
+#include "document/widgets/CommandValidation.h"
+#include "document/widgets/DocumentDisposal.h"
+#include "support/PropertyList.h"
+#include "support/QVAlert.h"
+#include "support/QVLog.h"
+#include "support/TaskRunner.h"
+#include "support/UserDefaults.h"
+#include "tests/support/TemporaryHome.h"
+#include "workbench/Workbench.h"
+
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace vantrell;
+
+namespace
+{
+
+const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
+
+QFileDialog *visiblePanel()
+{
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        auto *const panel = qobject_cast<QFileDialog *>(widget);
+        if (panel && panel->isVisible())
+            return panel;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestAppController : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void noteAddress(const QUrl &url) { m_address = url.toString(); }
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_path = copySample(m_home->path(QStringLiteral("project")));
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(20)));
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void startWindowStandsWhileNothingIsOpen()
+    {
+        start();
+        QVERIFY(m_controller->startWindow().isVisible());
+        QVERIFY(m_controller->applicationOpenFile(m_path));
+        QVERIFY(!m_controller->startWindow().isVisible());
+        QTRY_COMPARE(m_controller->currentWindow()->state(), DocumentWindow::State::Ready);
+        QCOMPARE(m_controller->recentFiles().paths(), QStringList(m_path));
+
+        // The same file, said differently, has its window already.
+        m_controller->openFiles({m_home->path(QStringLiteral("project/./Harbour Lights.xml"))});
+        QCOMPARE(m_controller->documentWindows().size(), std::size_t(1));
+        m_controller->currentWindow()->close();
+        QVERIFY(m_controller->startWindow().isVisible());
+        QVERIFY(m_controller->documentWindows().empty());
+    }
+
+    void startupActionRunsUnlessSomethingIsOpen_data()
+    {
+        QTest::addColumn<int>("setting"); // -1: none is set
+        QTest::addColumn<bool>("opensFile");
+        QTest::addColumn<bool>("showsPanel");
+        QTest::newRow("by default") << -1 << false << true;
+        QTest::newRow("switched off") << 0 << false << false;
+        QTest::newRow("neither off nor on") << 2 << false << false;
+        QTest::newRow("a file came first") << 1 << true << false;
+    }
+    void startupActionRunsUnlessSomethingIsOpen()
+    {
+        QFETCH(int, setting);
+        QFETCH(bool, opensFile);
+        if (setting >= 0)
+            m_defaults->setValue(showOpenDialogKey, setting);
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        if (opensFile)
+            m_controller->openFiles({m_path});
+        m_controller->applicationDidFinishLaunching();
+        QTest::qWait(700);
+        QVERIFY(!visiblePanel());
+        QTest::qWait(700);
+        QTEST(visiblePanel() != nullptr, "showsPanel");
+        if (QFileDialog *const panel = visiblePanel()) {
+            QCOMPARE(panel->windowTitle(),
+                     QStringLiteral("Browse for a Final Cut Pro 7 project or XML file"));
+            QCOMPARE(panel->fileMode(), QFileDialog::ExistingFiles);
+            panel->close();
+        }
+    }
+
+    void aDamagedDefaultsFileIsKeptAside()
+    {
+        const QString path = m_home->addFile(QStringLiteral("damaged.plist"), "<plist><dict><key>oops");
+        m_defaults = std::make_unique<UserDefaults>(path);
+        start();
+        m_controller->performStartupAction(); // as the default says
+        QVERIFY(visiblePanel());
+        visiblePanel()->close();
+        m_controller->recentFiles().add(m_path);
+        QCOMPARE(contentOf(path + QStringLiteral(".damaged")), QByteArray("<plist><dict><key>oops"));
+        QVERIFY(PropertyList::fromFile(path).isOk());
+    }
+
+    void recentFilesAreTheLatestFirst()
+    {
+        start();
+        RecentFiles &recent = m_controller->recentFiles();
+        for (int i = 0; i < 12; ++i)
+            recent.add(QStringLiteral("/p/%1.xml").arg(i));
+        recent.add(QStringLiteral("/p/5.xml"));
+        QStringList expected{QStringLiteral("/p/5.xml")};
+        for (const int i : {11, 10, 9, 8, 7, 6, 4, 3, 2})
+            expected.append(QStringLiteral("/p/%1.xml").arg(i));
+        QCOMPARE(recent.paths(), expected);
+        QCOMPARE(UserDefaults(m_home->path(QStringLiteral("test.plist")))
+                     .value(QStringLiteral("recentFiles"))
+                     .toStringList(),
+                 expected);
+    }
+
+    void commandsFollowTheKindOfDocument_data()
+    {
+        QTest::addColumn<int>("kind"); // 0 none, 1 XML, 2 Premiere Pro
+        QTest::addColumn<bool>("savesVisible");
+        QTest::addColumn<bool>("savesEnabled");
+        QTest::addColumn<bool>("sends");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("no document") << 0 << true << false << false << "Send to Final Cut Pro";
+        QTest::newRow("XML") << 1 << true << true << false << "Send to Final Cut Pro";
+        QTest::newRow("Premiere Pro") << 2 << false << false << true << "Send to Premiere Pro";
+    }
+    void commandsFollowTheKindOfDocument()
+    {
+        QFETCH(int, kind);
+        QFETCH(bool, savesVisible);
+        QFETCH(bool, savesEnabled);
+        QFETCH(bool, sends);
+        start();
+        const MyDocument *document = nullptr;
+        if (kind > 0) {
+            m_controller->applicationOpenFile(m_path);
+            QTRY_COMPARE(m_controller->currentWindow()->state(), DocumentWindow::State::Ready);
+            MyDocument *const loaded = m_controller->currentWindow()->document();
+            loaded->setPremiereProject(kind == 2);
+            document = loaded;
+        }
+        for (const DocumentCommand command :
+             {DocumentCommand::Save, DocumentCommand::SaveAs, DocumentCommand::Revert}) {
+            const CommandState state = validateUserInterfaceItem(command, document);
+            QCOMPARE(state.isVisible, savesVisible);
+            QCOMPARE(state.isEnabled, savesEnabled);
+        }
+        const CommandState save = validateUserInterfaceItem(DocumentCommand::Save, document);
+        const CommandState send = validateUserInterfaceItem(DocumentCommand::Send, document);
+        QCOMPARE(send.isVisible, sends);
+        QCOMPARE(send.isEnabled, sends);
+        QTEST(send.title, "title");
+        const QKeySequence key(Qt::CTRL | Qt::Key_S);
+        QCOMPARE(*save.shortcut, sends ? QKeySequence() : key);
+        QCOMPARE(*send.shortcut, sends ? key : QKeySequence());
+        QVERIFY(!validateUserInterfaceItem(DocumentCommand::OpenFCPProject, document).isEnabled);
+    }
+
+    void menuCommandsWork()
+    {
+        start();
+        m_controller->applicationOpenFile(m_path);
+        DocumentWindow *const window = m_controller->currentWindow();
+        QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
+        QCOMPARE(trigger(*window, QStringLiteral("Markers")), true);
+        QCOMPARE(window->selectedToolbarItemIdentifier(), QStringLiteral("markers"));
+        QVERIFY(trigger(*window, QStringLiteral("Select All")));
+        QCOMPARE(window->pane(Tab::Markers).selectedRows().size(), std::size_t(24));
+        QVERIFY(trigger(*window, QStringLiteral("Media")));
+        QVERIFY(!trigger(*window, QStringLiteral("Remove…")));
+        QVERIFY(!trigger(*window, QStringLiteral("Print…")));
+        for (QAction *const action : actionsOf(*window)) {
+            if (!action->isEnabled() && action->isVisible() &&
+                action->text().contains(QStringLiteral("Cut Pro Project")))
+                QVERIFY(action->toolTip().size() > 30);
+        }
+    }
+
+    void importsAndExportsMarkerLists()
+    {
+        start();
+        m_controller->applicationOpenFile(m_path);
+        DocumentWindow *const window = m_controller->currentWindow();
+        QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
+        const QString list =
+            m_home->addFile(QStringLiteral("project/list.txt"), "Cue\t01:00:20:00\tV1\tred\tNew\n");
+        window->importAvidLocators();
+        QVERIFY(visiblePanel());
+        QCOMPARE(visiblePanel()->fileMode(), QFileDialog::ExistingFiles);
+        choose(list);
+        QTRY_COMPARE(window->document()->markerArray().size(), std::size_t(25));
+        QVERIFY(window->isWindowModified());
+        window->exportAvidLocators();
+        QVERIFY(visiblePanel());
+        choose(m_home->path(QStringLiteral("project/out")));
+        QTRY_VERIFY(QFile::exists(m_home->path(QStringLiteral("project/out.txt"))));
+        QVERIFY(contentOf(m_home->path(QStringLiteral("project/out.txt")))
+                    .contains("Cue\t01:00:20:00\tV1\tred\tNew\n"));
+    }
+
+    void quittingAsksAboutChanges()
+    {
+        start();
+        QSignalSpy quits(qApp, &QCoreApplication::aboutToQuit);
+        m_controller->applicationOpenFile(m_path);
+        const QPointer<DocumentWindow> window = m_controller->currentWindow();
+        QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
+        window->toolbarMarkers();
+        QVERIFY(editCell(*window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed")));
+        m_controller->quit();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+        QVERIFY(window->isVisible());
+        m_controller->quit();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Don’t Save")));
+        QTRY_VERIFY(!window);
+        QVERIFY(!m_controller->startWindow().isVisible());
+    }
+
+    void qualityControlLoggingKeepsOtherKeys()
+    {
+        start();
+        const QString path = m_home->path(QStringLiteral(".config/com.orvandel.qc.plist"));
+        QVERIFY(!AppController::isQCLogging());
+        m_controller->prefsToggleQCLogging(true);
+        QVERIFY(AppController::isQCLogging());
+        QVERIFY(PropertyList::toFile(
+            PropertyListDictionary{{QStringLiteral("other"), 3}, {QStringLiteral("logQC"), true}}, path));
+        m_controller->prefsToggleQCLogging(false);
+        const PropertyListDictionary list = PropertyList::fromFile(path).value().toDictionary();
+        QCOMPARE(list.value(QStringLiteral("other")).toInteger(), 3);
+        QVERIFY(!list.value(QStringLiteral("logQC")).toBoolean());
+    }
+
+    void helpPagesHaveTheirAddresses()
+    {
+        m_defaults->setValue(QStringLiteral("supportAddress"), QStringLiteral("help:%@/contact"));
+        start();
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "noteAddress");
+        QDesktopServices::setUrlHandler(QStringLiteral("help"), this, "noteAddress");
+        m_controller->helpReportBug();
+        QVERIFY2(m_address.contains(QStringLiteral("app=halvex&subapp=vantrell")), qPrintable(m_address));
+        m_controller->helpSupport(); // an address of the site's own
+        QCOMPARE(m_address, QStringLiteral("help:halvex/contact"));
+        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+        QDesktopServices::unsetUrlHandler(QStringLiteral("help"));
+    }
+
+    void gathersTheLogs()
+    {
+        start();
+        QVLog::appendLog(u"A line to be found");
+        QString archive;
+        QString failure;
+        const auto note = [&](const Result<QString> &result) {
+            (result ? archive : failure) = result ? result.value() : result.message();
+        };
+        Troubleshooting::gatherLogsForAppWithName(QStringLiteral("Vantrell"), m_home->path(), this, note);
+        QTRY_VERIFY(!archive.isEmpty());
+        const auto log = TaskRunner::run(QStringLiteral("tar"), {QStringLiteral("-xzOf"), archive}, 10000);
+        QVERIFY(log && log.value().standardOutput.contains("A line to be found"));
+        Troubleshooting::gatherLogsForAppWithName(QStringLiteral("Vantrell"),
+                                                  m_home->path(QStringLiteral("no")), this, note);
+        QTRY_VERIFY(!failure.isEmpty());
+    }
+
+    void withoutADisplayItSaysSo()
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
+        for (const bool refuses : {false, true}) {
+            if (refuses)
+                environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":9731"));
+            program.setProcessEnvironment(environment);
+            program.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell"), {m_path});
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(program.exitCode(), 1);
+            QVERIFY(program.readAllStandardError().contains("vantrell-cli"));
+        }
+    }
+
+private:
+    void start()
+    {
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        if (m_defaults->value(showOpenDialogKey).toInteger() == 1)
+            m_controller->startWindow().show();
+    }
+
+    static QList<QAction *> actionsOf(const QMainWindow &window)
+    {
+        QList<QAction *> actions;
+        for (const QMenu *const menu : window.menuBar()->findChildren<QMenu *>())
+            actions += menu->actions();
+        return actions;
+    }
+    /// Triggers the menu's command; false when it is disabled.
+    static bool trigger(const QMainWindow &window, const QString &title)
+    {
+        for (QAction *const action : actionsOf(window)) {
+            if (action->text().remove(QLatin1Char('&')) == title && action->isEnabled()) {
+                action->trigger();
+                return true;
+            }
+        }
+        return false;
+    }
+    static void choose(const QString &path)
+    {
+        QFileDialog *const panel = visiblePanel();
+        panel->selectFile(path);
+        QMetaObject::invokeMethod(panel, "accept");
+    }
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<AppController> m_controller;
+    QString m_path;
+    QString m_address;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    TestAppController test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_appcontroller.moc"

@@ -1,0 +1,399 @@
+#include "WindowTest.h"
+
+#include "document/widgets/DocumentDisposal.h"
+#include "document/widgets/QVTableView.h"
+#include "support/QVAlert.h"
+#include "support/QVLog.h"
+#include "support/UserDefaults.h"
+#include "support/widgets/WindowAlertPresenter.h"
+#include "tests/support/TemporaryHome.h"
+#include "workbench/Workbench.h"
+
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace vantrell;
+
+class TestDocumentWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(*m_defaults));
+        QVLog::createNewLog(QStringLiteral("test"), true);
+        m_path = copySample(m_home->path(QStringLiteral("project")));
+    }
+    void cleanup()
+    {
+        delete m_window;
+        QVAlert::closeAll();
+        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(20)));
+        QVAlert::setPresenter(nullptr);
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void showsOnePaneAtATime()
+    {
+        make();
+        QVERIFY(m_window->open(m_path));
+        QVERIFY(m_window->state() == DocumentWindow::State::Ready ||
+                !m_window->pane(Tab::Markers).model().isEditingEnabled());
+        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
+        QVERIFY(m_window->pane(Tab::Markers).model().isEditingEnabled());
+        QCOMPARE(
+            m_window->toolbarSelectableItemIdentifiers(),
+            QStringList({QStringLiteral("media"), QStringLiteral("effects"), QStringLiteral("markers")}));
+        struct Case {
+            void (DocumentWindow::*action)();
+            const char *identifier;
+            std::array<int, 3> rows; // of the three tables
+        };
+        // Each table has rows only while its pane shows.
+        for (const Case &step : {Case{&DocumentWindow::toolbarMarkers, "markers", {0, 0, 24}},
+                                 Case{&DocumentWindow::toolbarEffects, "effects", {0, 15, 0}},
+                                 Case{&DocumentWindow::toolbarMedia, "media", {11, 0, 0}}}) {
+            (m_window->*step.action)();
+            QCOMPARE(m_window->selectedToolbarItemIdentifier(), QLatin1String(step.identifier));
+            for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+                const int rows = step.rows[std::size_t(tab)];
+                QCOMPARE(m_window->pane(tab).model().rowCount(), rows);
+                QCOMPARE(m_window->pane(tab).isVisible(), rows > 0);
+            }
+        }
+    }
+
+    void writesEditsIntoTheFile()
+    {
+        openSample();
+        m_window->toolbarMarkers();
+        MarkerEditor &editor = m_window->workbench().markerEditor();
+        int row = rowOf(Tab::Markers, QStringLiteral("Check grade"));
+        QVERIFY(
+            editCell(*m_window, Tab::Markers, row, QStringLiteral("name"), QStringLiteral("Grade & <sky>")));
+        QVERIFY(editCell(*m_window, Tab::Markers, row, QStringLiteral("in"), QStringLiteral("01:00:08:00")));
+        // Sequence 3, clip 2: the first "Boat crossing #2"; and back to no clip.
+        row = rowOf(Tab::Markers, QStringLiteral("Music in"));
+        QVERIFY(editCell(*m_window, Tab::Markers, row, QStringLiteral("clip"), 2));
+        QCOMPARE(cell(QStringLiteral("Music in"), QStringLiteral("clip")),
+                 QStringLiteral("Boat crossing #2"));
+        row = rowOf(Tab::Markers, QStringLiteral("Horn"));
+        QVERIFY(editCell(*m_window, Tab::Markers, row, QStringLiteral("clip"), 3));
+        QVERIFY(editCell(*m_window, Tab::Markers, row, QStringLiteral("clip"), 0));
+        m_window->pane(Tab::Markers)
+            .selectRows({std::size_t(rowOf(Tab::Markers, QStringLiteral("Opening")))});
+        editor.offsetMarkers(QStringLiteral("30"));
+        m_window->pane(Tab::Markers).selectRows({std::size_t(rowOf(Tab::Markers, QStringLiteral("Ende")))});
+        pressLater(QStringLiteral("Remove"));
+        m_window->removeSelection();
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 23);
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(m_window->save());
+        QVERIFY(!m_window->isWindowModified());
+
+        reopen();
+        m_window->toolbarMarkers();
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 23);
+        QCOMPARE(rowOf(Tab::Markers, QStringLiteral("Ende")), -1);
+        const QString in = QStringLiteral("in");
+        QCOMPARE(cell(QStringLiteral("Grade & <sky>"), in), QStringLiteral("01:00:08;00"));
+        QCOMPARE(cell(QStringLiteral("Opening"), in), QStringLiteral("01:00:01;00"));
+        QCOMPARE(cell(QStringLiteral("Music in"), QStringLiteral("clip")),
+                 QStringLiteral("Boat crossing #2"));
+        QCOMPARE(cell(QStringLiteral("Horn"), QStringLiteral("clip")), QStringLiteral("(none)"));
+
+        m_window->workbench().markerEditor().addMarker();
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 24);
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(m_window->save());
+        QVERIFY(contentOf(m_path).contains("<name>Marker 1</name>"));
+    }
+
+    void switchesEffectsOffAndRemovesThem()
+    {
+        openSample();
+        m_window->toolbarEffects();
+        const QStringList states = enabledStates();
+        QVERIFY(states.contains(QStringLiteral("Color Corrector 3-way 2")));
+        const int row = rowOf(Tab::Effects, QStringLiteral("Color Corrector 3-way"));
+        QVERIFY(editCell(*m_window, Tab::Effects, row, QStringLiteral("enabled"), Qt::Unchecked,
+                         Qt::CheckStateRole));
+        m_window->pane(Tab::Effects)
+            .selectRows({std::size_t(rowOf(Tab::Effects, QStringLiteral("Outline Text")))});
+        pressLater(QStringLiteral("Remove"));
+        m_window->removeSelection();
+        QVERIFY(m_window->save());
+        reopen();
+        m_window->toolbarEffects();
+        QStringList expected = states;
+        expected.removeAll(QStringLiteral("Outline Text 0"));
+        expected[expected.indexOf(QStringLiteral("Color Corrector 3-way 2"))] =
+            QStringLiteral("Color Corrector 3-way 0");
+        QCOMPARE(enabledStates(), expected);
+    }
+
+    void keepsSortAndFilterOfATab()
+    {
+        openSample();
+        m_window->toolbarEffects();
+        auto *const search = m_window->pane(Tab::Effects).findChild<QLineEdit *>();
+        QVERIFY(search);
+        QTest::keyClicks(search, QStringLiteral("blur"));
+        QTRY_COMPARE(m_window->pane(Tab::Effects).model().rowCount(), 3);
+        m_window->toolbarMarkers();
+        m_window->toolbarEffects();
+        QCOMPARE(m_window->pane(Tab::Effects).model().rowCount(), 3);
+    }
+
+    void asksBeforeChangesAreLost_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<bool>("saves");
+        QTest::newRow("save") << "Save" << true << true;
+        QTest::newRow("don't save") << "Don’t Save" << true << false;
+        QTest::newRow("cancel") << "Cancel" << false << false;
+    }
+    void asksBeforeChangesAreLost()
+    {
+        QFETCH(QString, button);
+        openSample();
+        const QByteArray before = contentOf(m_path);
+        m_window->toolbarMarkers();
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed")));
+        QSignalSpy closed(m_window, &DocumentWindow::closed);
+        QSignalSpy cancelled(m_window, &DocumentWindow::closeCancelled);
+        m_window->close();
+        QVERIFY(m_window->isVisible());
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), button));
+        QTEST(closed.count() == 1, "closes");
+        QCOMPARE(cancelled.count(), 1 - closed.count());
+        QTEST(contentOf(m_path).contains("Renamed"), "saves");
+        QTEST(contentOf(m_path) != before, "saves");
+        if (closed.count() == 1)
+            QTRY_VERIFY(!m_window);
+    }
+
+    void saysWhyItIsEmpty_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("exists");
+        QTest::newRow("no file") << QByteArray() << false;
+        QTest::newRow("empty") << QByteArray() << true;
+        QTest::newRow("no XML") << QByteArray("Just a note.\n") << true;
+    }
+    void saysWhyItIsEmpty()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, exists);
+        const QString path = exists ? m_home->addFile(QStringLiteral("broken.xml"), content)
+                                    : m_home->path(QStringLiteral("broken.xml"));
+        make();
+        m_window->open(path);
+        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Failed);
+        const QStringList lines = m_window->message().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QVERIFY(lines.value(0).contains(QStringLiteral("broken.xml")));
+        QVERIFY2(lines.value(1).size() > 10, qPrintable(m_window->message()));
+        QVERIFY(!m_window->save());
+        QCOMPARE(QFile::exists(path), exists);
+        m_window->close();
+        QTRY_VERIFY(!m_window);
+    }
+
+    void tellsOfARepairedFile()
+    {
+        QByteArray damaged = contentOf(m_path);
+        damaged.replace("<name>Opening</name>", "<name>Opening & rest</name>");
+        m_path = m_home->addFile(QStringLiteral("damaged.xml"), damaged);
+        openSample();
+        QVERIFY(m_window->message().contains(QStringLiteral("repaired")));
+        m_window->toolbarMarkers();
+        editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed"));
+        pressLater(QStringLiteral("Cancel"));
+        QVERIFY(!m_window->save());
+        QCOMPARE(contentOf(m_path), damaged);
+        QVERIFY(!visibleBox()); // the user knows
+        pressLater(QStringLiteral("Save"));
+        QVERIFY(m_window->save());
+        QVERIFY(m_window->message().isEmpty());
+        // From now on it is a file like any other.
+        editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Again"));
+        QVERIFY(m_window->save());
+        QVERIFY(contentOf(m_path).contains("Again"));
+    }
+
+    void standsForTheFileItWasSavedTo()
+    {
+        openSample();
+        const QByteArray before = contentOf(m_path);
+        m_window->toolbarMarkers();
+        editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed"));
+        const QString other = m_home->path(QStringLiteral("other.xml"));
+        QVERIFY(m_window->saveTo(other));
+        QCOMPARE(contentOf(m_path), before);
+        QVERIFY(contentOf(other).contains("Renamed"));
+        QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("other.xml")));
+        const auto panel = m_window->workbench().markerListExporter().exportFCPMarkers();
+        QCOMPARE(panel->proposedName, QStringLiteral("other Markers.txt"));
+        editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Twice"));
+        // Where nothing can be written the changes stay unsaved, and the user hears of it.
+        pressLater(QStringLiteral("OK"));
+        QVERIFY(!m_window->saveTo(m_home->path(QStringLiteral("missing/other.xml"))));
+        QVERIFY(m_window->isWindowModified());
+        m_window->revert();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Revert")));
+        QTRY_VERIFY(!m_window->isWindowModified());
+        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
+        QTRY_COMPARE(m_window->selectedTab(), Tab::Markers);
+        QVERIFY(
+            columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).contains(QStringLiteral("Renamed")));
+    }
+
+    void closesWhileItLoads_data()
+    {
+        QTest::addColumn<int>("after"); // milliseconds
+        QTest::newRow("at once") << 0;
+        QTest::newRow("while it is read") << 120;
+        QTest::newRow("later") << 700;
+    }
+    void closesWhileItLoads()
+    {
+        QFETCH(int, after);
+        make();
+        m_window->open(largeProject());
+        QTest::qWait(after);
+        QElapsedTimer timer;
+        timer.start();
+        m_window->close();
+        QVERIFY(!m_window->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!m_window, 1000);
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void closesWhileItsLoaderAsks()
+    {
+        const QString project = m_home->addFile(QStringLiteral("Cut.fcp"), "KeyG");
+        make();
+        m_window->open(project);
+        QTRY_VERIFY(visibleBox());
+        QCOMPARE(visibleBox()->text(), QStringLiteral("Unable to load project"));
+        m_window->close();
+        QTRY_VERIFY(!m_window);
+        QVERIFY(!visibleBox());
+        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(5)));
+    }
+
+    void closesWhileAnOperationAsks()
+    {
+        openSample();
+        m_window->toolbarMarkers();
+        m_window->pane(Tab::Markers).selectRows({0});
+        QTimer::singleShot(150, m_window, &QWidget::close);
+        m_window->removeSelection(); // returns when the window takes its question away
+        QVERIFY(m_window && m_window->isClosing());
+        QTRY_VERIFY(!m_window);
+    }
+
+    void handsOnDroppedFiles()
+    {
+        make();
+        QSignalSpy dropped(m_window, &DocumentWindow::filesDropped);
+        QMimeData data;
+        data.setUrls(
+            {QUrl::fromLocalFile(m_path), QUrl(QStringLiteral("https://www.orvandel.example/a.xml"))});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &event);
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(dropped.at(0).at(0).toStringList(), QStringList(m_path));
+    }
+
+    void remembersItsSize()
+    {
+        openSample();
+        m_window->resize(700, 500);
+        m_window->close();
+        QTRY_VERIFY(!m_window);
+        make();
+        QCOMPARE(m_window->size(), QSize(700, 500));
+    }
+
+private:
+    void make()
+    {
+        m_window = new DocumentWindow(*m_defaults);
+        m_window->show();
+    }
+    void openSample()
+    {
+        make();
+        m_window->open(m_path);
+        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
+    }
+    void reopen()
+    {
+        m_window->close();
+        QTRY_VERIFY(!m_window);
+        openSample();
+    }
+
+    int rowOf(Tab tab, const QString &name) const
+    {
+        return int(columnTexts(*m_window, tab, QStringLiteral("name")).indexOf(name));
+    }
+    QString cell(const QString &name, const QString &column) const
+    {
+        return columnTexts(*m_window, Tab::Markers, column).value(rowOf(Tab::Markers, name));
+    }
+    /// "name state" of each effect.
+    QStringList enabledStates() const
+    {
+        const TableModel &model = m_window->pane(Tab::Effects).model();
+        QStringList states;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QString name = model.index(row, model.columnOf(QStringLiteral("name"))).data().toString();
+            const int state =
+                model.index(row, model.columnOf(QStringLiteral("enabled"))).data(Qt::CheckStateRole).toInt();
+            states.append(QStringLiteral("%1 %2").arg(name).arg(state));
+        }
+        return states;
+    }
+
+    /// Large enough to take some seconds.
+    QString largeProject() const
+    {
+        QByteArray clip;
+        for (int i = 0; i < 40; ++i) {
+            clip += "<clipitem id=\"c\">\n  <name>Clip of some length</name>\n  <start>0</start>\n"
+                    "  <marker>\n    <name>A marker</name>\n    <in>10</in>\n    <out>-1</out>\n  </marker>\n"
+                    "</clipitem>\n";
+        }
+        QByteArray project = "<xmeml version=\"5\"><project><name>Large</name><children>";
+        for (int i = 0; i < 5000; ++i)
+            project += "<sequence><uuid>" + QByteArray::number(i) +
+                       "</uuid><name>S</name><media><video><track>" + clip +
+                       "</track></video></media></sequence>";
+        return m_home->addFile(QStringLiteral("large.xml"), project + "</children></project></xmeml>");
+    }
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    QString m_path;
+    QPointer<DocumentWindow> m_window;
+};
+
+QTEST_MAIN(TestDocumentWindow)
+#include "tst_documentwindow.moc"

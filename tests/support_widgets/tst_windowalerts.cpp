@@ -1,0 +1,218 @@
+#include "support/QVAlert.h"
+#include "support/UserDefaults.h"
+#include "support/widgets/NestedEvents.h"
+#include "support/widgets/WindowAlertPresenter.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <thread>
+
+using namespace vantrell;
+
+namespace
+{
+
+QList<QMessageBox *> boxesOnShow()
+{
+    QList<QMessageBox *> boxes;
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        auto *const box = qobject_cast<QMessageBox *>(widget);
+        if (box && box->isVisible())
+            boxes.append(box);
+    }
+    return boxes;
+}
+
+void press(QMessageBox *box, const QString &title)
+{
+    for (QAbstractButton *const button : box->buttons()) {
+        if (button->text().remove(QLatin1Char('&')) == title)
+            button->click();
+    }
+}
+
+/// Does something with the next box that shows up.
+void whenShown(const std::function<void(QMessageBox *)> &action)
+{
+    auto *const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+        if (boxesOnShow().isEmpty())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        action(boxesOnShow().constLast());
+    });
+    timer->start(5);
+}
+
+} // namespace
+
+class TestWindowAlerts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_defaults = std::make_unique<UserDefaults>(m_home.path(QStringLiteral("test.plist")));
+        QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(*m_defaults));
+    }
+    void cleanupTestCase() { QVAlert::setPresenter(nullptr); }
+    void cleanup()
+    {
+        QVAlert::closeAll();
+        QVERIFY(boxesOnShow().isEmpty());
+    }
+
+    void answersWithTheButtonPressed_data()
+    {
+        QTest::addColumn<QString>("pressed"); // empty: the Escape key
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<int>("code");
+        QTest::newRow("default") << "Yes"
+                                 << "Later" << 1;
+        QTest::newRow("alternate") << "No"
+                                   << "Later" << 0;
+        QTest::newRow("other") << "Later"
+                               << "Later" << -1;
+        QTest::newRow("Escape is the alternate") << ""
+                                                 << "Later" << 0;
+        QTest::newRow("Escape is Cancel where there is one") << ""
+                                                             << "Cancel" << -1;
+    }
+    void answersWithTheButtonPressed()
+    {
+        QFETCH(QString, pressed);
+        QFETCH(QString, other);
+        whenShown([&](QMessageBox *box) {
+            if (pressed.isEmpty())
+                QTest::keyClick(box, Qt::Key_Escape);
+            else
+                press(box, pressed);
+        });
+        const int code = QVAlert::alertSheetWithMessageText(QStringLiteral("Proceed?"), QStringLiteral("Yes"),
+                                                            QStringLiteral("No"), other,
+                                                            QStringLiteral("It is late."), nullptr, true);
+        QTEST(code, "code");
+    }
+
+    void answersAWorkerThatWaits_data()
+    {
+        QTest::addColumn<bool>("closesWindow");
+        QTest::addColumn<int>("code");
+        QTest::newRow("button") << false << 1;
+        QTest::newRow("window closes") << true << -1;
+    }
+    void answersAWorkerThatWaits()
+    {
+        QFETCH(bool, closesWindow);
+        auto window = std::make_unique<QWidget>();
+        window->show();
+        WindowAlertParent parent(window.get());
+        std::atomic<int> code = 7;
+        std::thread worker(
+            [&] { code = QVAlert::alertSheetWithMessageText(QStringLiteral("Done"), QString(), &parent); });
+        QTRY_COMPARE(boxesOnShow().size(), 1);
+        if (closesWindow) {
+            QVAlert::closeAlertsForParent(&parent);
+            window.reset();
+        } else {
+            boxesOnShow().constFirst()->defaultButton()->click();
+        }
+        QTRY_VERIFY(code != 7);
+        worker.join();
+        QTEST(int(code), "code");
+    }
+
+    void textsShowAsTheyStand()
+    {
+        QStringList labels;
+        whenShown([&](QMessageBox *box) {
+            for (const QLabel *const label : box->findChildren<QLabel *>()) {
+                if (!label->text().isEmpty() && label->textFormat() == Qt::PlainText)
+                    labels.append(label->text());
+            }
+            box->defaultButton()->click();
+        });
+        QVAlert::alertSheetWithMessageText(QStringLiteral("<b>50 %@</b>"), QStringLiteral("a < b & %i"),
+                                           nullptr);
+        QVERIFY(labels.contains(QStringLiteral("<b>50 %@</b>")));
+        QVERIFY(labels.contains(QStringLiteral("a < b & %i")));
+    }
+
+    void aSecondAlertStandsAlone()
+    {
+        QWidget window;
+        window.show();
+        WindowAlertParent parent(&window);
+        for (int i = 0; i < 2; ++i)
+            QVAlert::alertSheetWithMessageText(QString::number(i), {}, {}, {}, {}, &parent, false);
+        const QList<QMessageBox *> boxes = boxesOnShow();
+        QCOMPARE(boxes.size(), 2);
+        QMessageBox *const sheet = window.findChild<QMessageBox *>();
+        QVERIFY(sheet && sheet->text() == QStringLiteral("0"));
+        QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+        QVERIFY(std::any_of(boxes.begin(), boxes.end(), [](QMessageBox *box) {
+            return box->text() == QStringLiteral("1") && !box->parent();
+        }));
+        QVAlert::closeAlertsForParent(&parent);
+        QVERIFY(boxesOnShow().isEmpty());
+    }
+
+    void theSuppressionBoxIsBoundToItsKey()
+    {
+        const QString key = QStringLiteral("doNotWarn");
+        m_defaults->setValue(key, true);
+        bool wasChecked = false;
+        whenShown([&](QMessageBox *box) {
+            wasChecked = box->checkBox()->isChecked();
+            box->checkBox()->click();
+            box->defaultButton()->click();
+        });
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Careful"), {}, {}, {}, {}, nullptr, nullptr, {},
+                                           true, nullptr, key);
+        QVERIFY(wasChecked);
+        QVERIFY(!m_defaults->boolean(key));
+    }
+
+    void aTimedAlertAnswersForTheUser()
+    {
+        QCOMPARE(QVAlert::timedAlertSheetWithMessageText(QStringLiteral("Soon"), QStringLiteral("Go"),
+                                                         QStringLiteral("Stop"), {}, {}, nullptr, 0.2),
+                 1);
+        QVERIFY(boxesOnShow().isEmpty());
+    }
+
+    void workWaitsForTheOperationThatAsks()
+    {
+        QStringList order;
+        whenShown([&](QMessageBox *box) {
+            NestedEvents::whenUnwound(this, [&] { order.append(QStringLiteral("work")); });
+            QTest::qWait(100);
+            order.append(QStringLiteral("answer"));
+            box->defaultButton()->click();
+        });
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Wait"), {}, nullptr);
+        order.append(QStringLiteral("returned"));
+        QTRY_COMPARE(order.size(), 3);
+        QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("answer returned work"));
+    }
+
+private:
+    TemporaryHome m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+};
+
+QTEST_MAIN(TestWindowAlerts)
+#include "tst_windowalerts.moc"
