@@ -7,6 +7,7 @@
 #include "support/QVLog.h"
 
 #include <QSet>
+#include <QStringMatcher>
 
 namespace vantrell
 {
@@ -140,6 +141,7 @@ EffectInventory::View EffectInventory::snapshot()
 RowList EffectInventory::filtered(const View &view)
 {
     RowList rows;
+    const QStringMatcher search(view.search, Qt::CaseInsensitive);
     for (const RowRecordPtr &record : view.rows) {
         if (!passesType(*record, view.type))
             continue;
@@ -147,9 +149,7 @@ RowList EffectInventory::filtered(const View &view)
         if (!view.showsDefaults && isDefaultEffect(name))
             continue;
         // An effect without a name passes every search.
-        const bool isFound =
-            view.search.isEmpty() || name.isNull() || name.contains(view.search, Qt::CaseInsensitive);
-        if (isFound)
+        if (view.search.isEmpty() || name.isNull() || search.indexIn(name) >= 0)
             rows.push_back(record);
     }
     return sortedRows(std::move(rows), view.sort);

@@ -65,19 +65,28 @@ RowRecordPtr EffectReader::recordOf(XmlNode element)
         if (const std::optional<QString> type = mediaTypeText.firstText(effect))
             record->set(EffectKey::mediaType, *shared(capitalized(*type)));
     }
-    const Surroundings around = surroundingsAt(element.parent());
-    if (around.sequence) {
-        const Owner &sequence = ownerOf(around.sequence);
-        setIfThere(*record, EffectKey::sequence, sequence.name);
-        setIfThere(*record, EffectKey::sequenceUUID, sequence.uuid);
+    lookAround(element.parent());
+    if (m_sequence) {
+        setIfThere(*record, EffectKey::sequence, m_sequence->name);
+        setIfThere(*record, EffectKey::sequenceUUID, m_sequence->uuid);
     }
-    if (const XmlNode clipElement = around.clipItem ? around.clipItem : around.clip) {
-        const Owner &clip = ownerOf(clipElement);
-        setIfThere(*record, EffectKey::clip, clip.name);
-        setIfThere(*record, EffectKey::clipUUID, clip.uuid);
-        setIfThere(*record, EffectKey::clipID, clip.id);
+    if (m_clip) {
+        setIfThere(*record, EffectKey::clip, m_clip->name);
+        setIfThere(*record, EffectKey::clipUUID, m_clip->uuid);
+        setIfThere(*record, EffectKey::clipID, m_clip->id);
     }
     return record;
+}
+
+/// Finds the owners of what the element holds.
+void EffectReader::lookAround(XmlNode parent)
+{
+    if (parent == m_parent)
+        return;
+    const Surroundings around = surroundingsAt(parent);
+    m_parent = parent;
+    m_sequence = ownerOf(around.sequence);
+    m_clip = ownerOf(around.clipItem ? around.clipItem : around.clip);
 }
 
 EffectReader::Surroundings EffectReader::surroundingsAt(XmlNode element)
@@ -100,16 +109,18 @@ EffectReader::Surroundings EffectReader::surroundingsAt(XmlNode element)
     return around;
 }
 
-const EffectReader::Owner &EffectReader::ownerOf(XmlNode element)
+/// Null for a null element.
+const EffectReader::Owner *EffectReader::ownerOf(XmlNode element)
 {
+    static const XmlQuery id(QStringLiteral("./@id[1]"));
+    if (!element)
+        return nullptr;
     const auto known = m_owners.find(element);
     if (known != m_owners.end())
-        return known->second;
-    static const XmlQuery id(QStringLiteral("./@id[1]"));
-    return m_owners
-        .emplace(element, Owner{shared(QVXMLParser::nameForNode(element)),
-                                shared(QVXMLParser::uuidForNode(element)), shared(id.firstText(element))})
-        .first->second;
+        return &known->second;
+    const Owner owner{shared(QVXMLParser::nameForNode(element)), shared(QVXMLParser::uuidForNode(element)),
+                      shared(id.firstText(element))};
+    return &m_owners.emplace(element, owner).first->second;
 }
 
 /// The text in the one copy that all records hold.

@@ -40,12 +40,17 @@ private:
         XmlNode clip;
     };
 
+    void lookAround(XmlNode parent);
     Surroundings surroundingsAt(XmlNode element);
-    const Owner &ownerOf(XmlNode element);
+    const Owner *ownerOf(XmlNode element);
     std::optional<QString> shared(const std::optional<QString> &text);
 
     std::unordered_map<XmlNode, Surroundings> m_surroundings; // by the element that they are seen from
     std::unordered_map<XmlNode, Owner> m_owners;
+
+    XmlNode m_parent; // of the effect that was read last: most have several
+    const Owner *m_sequence = nullptr;
+    const Owner *m_clip = nullptr;
     QSet<QString> m_texts;
 };
 
