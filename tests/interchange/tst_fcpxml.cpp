@@ -101,7 +101,8 @@ private Q_SLOTS:
         } rows[] = {
             // The ends of the item, and a hair outside.
             {at25, fromOneHour,
-             "<clip offset='100s' start='10s' duration='10s'>@a=10s @b=20s @c=9999/1000s @d=20001/1000s </clip>",
+             "<clip offset='100s' start='10s' duration='10s'>@a=10s @b=20s @c=9999/1000s @d=20001/1000s "
+             "</clip>",
              "a=01:01:40:00 b=01:01:50:00", "a=100 b=110"},
             // Frame 12.5.
             {at25, "", "<gap duration='9s'>@a=1/2s </gap>", "a=00:00:00:12", "a=0.5"},
@@ -138,10 +139,11 @@ private Q_SLOTS:
 
     void storylinesAndDuplicates()
     {
-        const QByteArray xml = fcpxml(at25, fromOneHour,
-                                      "<clip offset='100s' duration='9s'>@a=1s <title offset='1s'>@t=0s </title>"
-                                      "<spine><clip offset='50s' duration='9s'>@s=3s </clip></spine></clip>"
-                                      "<clip offset='101s' duration='9s'>@b=0s @c=1s </clip>");
+        const QByteArray xml =
+            fcpxml(at25, fromOneHour,
+                   "<clip offset='100s' duration='9s'>@a=1s <title offset='1s'>@t=0s </title>"
+                   "<spine><clip offset='50s' duration='9s'>@s=3s </clip></spine></clip>"
+                   "<clip offset='101s' duration='9s'>@b=0s @c=1s </clip>");
         QCOMPARE(read(xml, false, false, true), u"a=101 b=101 c=102"_s);
         QCOMPARE(read(xml, false, true, true), u"a=101 c=102"_s);
         QCOMPARE(read(xml, false, false, false), u"a=101 t=1 s=53 b=101 c=102"_s);
@@ -155,9 +157,10 @@ private Q_SLOTS:
     void firstProjectOfEachEvent()
     {
         QByteArray xml = fcpxml(at25, fromOneHour, "<gap>@a=0s </gap>");
-        const QByteArray others = "<project><sequence><spine><gap><marker value='b'/></gap></spine></sequence>"
-                                  "</project></event><event><project><sequence tcStart='7200s'><spine><gap>"
-                                  "<marker value='c'/></gap></spine></sequence></project></event>";
+        const QByteArray others =
+            "<project><sequence><spine><gap><marker value='b'/></gap></spine></sequence>"
+            "</project></event><event><project><sequence tcStart='7200s'><spine><gap>"
+            "<marker value='c'/></gap></spine></sequence></project></event>";
         QCOMPARE(read(xml.replace("</event>", others)), u"a=01:00:00:00 c=01:00:00:00"_s);
     }
 
