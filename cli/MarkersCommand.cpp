@@ -8,8 +8,8 @@
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
 
-#include <algorithm>
 #include <memory>
+#include <unordered_set>
 
 namespace vantrell::cli
 {
@@ -37,9 +37,8 @@ QString yesOrEmpty(const RowRecord &marker, TypedKey<std::int64_t> flag)
     return marker.get(flag) == 1 ? QStringLiteral("yes") : QString();
 }
 
-QString cellText(const RowRecord &marker, const QString &column)
+QString cellText(const RowRecord &marker, RecordKey key)
 {
-    const RecordKey key(column);
     if (key == MarkerKey::color) {
         const std::int64_t color = marker.get(MarkerKey::color);
         const bool known = color >= 0 && color < std::int64_t(MarkerColors::count);
@@ -64,15 +63,12 @@ QString cellText(const RowRecord &marker, const QString &column)
 /// The custom fields that the markers have, in the order in which they come.
 QStringList customFieldsOf(const RowList &markers)
 {
-    std::vector<RecordKey> seen;
+    std::unordered_set<std::uint32_t> seen;
     QStringList fields;
     for (const RowRecordPtr &marker : markers) {
         for (std::size_t i = 0; i < marker->size(); ++i) {
             const RecordKey key = marker->keyAt(i);
-            if (std::find(seen.begin(), seen.end(), key) != seen.end())
-                continue;
-            seen.push_back(key);
-            if (key.text().startsWith(MarkerKey::customPrefix))
+            if (seen.insert(key.number()).second && key.text().startsWith(MarkerKey::customPrefix))
                 fields.append(key.text());
         }
     }
@@ -81,19 +77,20 @@ QStringList customFieldsOf(const RowList &markers)
 
 QByteArray asTable(const RowList &markers)
 {
-    QStringList columns;
+    std::vector<RecordKey> columns;
     QStringList titles;
     for (const TableColumn &column : markerColumns) {
-        columns.append(column.identifier);
+        columns.emplace_back(column.identifier);
         titles.append(column.title.isEmpty() ? QStringLiteral("Color") : column.title);
     }
-    const QStringList customFields = customFieldsOf(markers);
-    columns += customFields;
-    titles += customFields;
+    for (const QString &field : customFieldsOf(markers)) {
+        columns.emplace_back(field);
+        titles.append(field);
+    }
     TextTable table(titles);
     for (const RowRecordPtr &marker : markers) {
         QStringList cells;
-        for (const QString &column : columns)
+        for (const RecordKey column : columns)
             cells.append(cellText(*marker, column));
         table.addRow(cells);
     }

@@ -1,6 +1,9 @@
 #include "document/RowRecord.h"
 
 #include <atomic>
+#include <map>
+#include <mutex>
+#include <utility>
 
 namespace vantrell
 {
@@ -41,9 +44,15 @@ private:
     }
 
     static const Layout *findLarger(const Larger *from, const Larger *until, RecordKey key);
+    const Layout *withFromTable(RecordKey key) const;
+
+    /// So many larger layouts are looked through one by one; the rest is in a table. Only keys that files
+    /// make up come in such numbers.
+    static constexpr int maximumListed = 64;
 
     std::vector<RecordKey> m_keys;
     mutable std::atomic<Larger *> m_larger = nullptr; // grows at its head, is never shortened
+    mutable std::atomic<int> m_listed = 0;            // the length of that, or a little less
 };
 
 struct RowRecord::Layout::Larger {
@@ -66,6 +75,8 @@ const RowRecord::Layout *RowRecord::Layout::with(RecordKey key) const
     Larger *first = m_larger.load(std::memory_order_acquire);
     if (const Layout *known = findLarger(first, nullptr, key))
         return known;
+    if (m_listed.load(std::memory_order_relaxed) >= maximumListed)
+        return withFromTable(key);
     auto *larger = new Larger{key, Layout(m_keys, key), first};
     while (!m_larger.compare_exchange_weak(larger->next, larger, std::memory_order_acq_rel)) {
         if (const Layout *known = findLarger(larger->next, first, key)) {
@@ -74,7 +85,20 @@ const RowRecord::Layout *RowRecord::Layout::with(RecordKey key) const
         }
         first = larger->next;
     }
+    m_listed.fetch_add(1, std::memory_order_relaxed);
     return &larger->layout;
+}
+
+const RowRecord::Layout *RowRecord::Layout::withFromTable(RecordKey key) const
+{
+    using Table = std::map<std::pair<const Layout *, std::uint32_t>, const Layout *>;
+    static std::mutex mutex; // guards the table
+    static Table &table = *new Table;
+    const std::lock_guard lock(mutex);
+    const Layout *&layout = table[{this, key.number()}];
+    if (!layout)
+        layout = new Layout(m_keys, key);
+    return layout;
 }
 
 RowRecord::RowRecord()

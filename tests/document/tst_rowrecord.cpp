@@ -71,7 +71,7 @@ private Q_SLOTS:
                 for (int i = 0; i < 300; ++i) {
                     RowRecord record;
                     for (int k = 0; k < 20; ++k) {
-                        const QString key = QStringLiteral("k%1").arg((k * (t + 1) + i) % 40);
+                        const QString key = QStringLiteral("k%1").arg((k * (t + 1) + i) % 150);
                         record.set(TypedKey<QString>(key), key);
                     }
                     for (std::size_t k = 0; k < record.size(); ++k)

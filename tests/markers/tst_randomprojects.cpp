@@ -148,18 +148,27 @@ private:
     std::map<QString, RowRecord> m_clips;
 };
 
+void addOutline(XmlNode element, XmlNode left, QString &text)
+{
+    if (element == left)
+        return;
+    if (!element.isElement()) {
+        text += element.stringValue();
+        return;
+    }
+    text += QLatin1Char('<') + element.name() + element.attribute("id") + element.attribute("x") +
+            QLatin1Char('>');
+    for (XmlNode child = element.firstChild(); child; child = child.nextSibling())
+        addOutline(child, left, text);
+    text += QLatin1Char('/');
+}
+
 /// Everything in the element but one part of it.
 QString outline(XmlNode element, XmlNode left)
 {
-    if (element == left)
-        return QString();
-    if (!element.isElement())
-        return element.stringValue();
-    QString text = QLatin1Char('<') + element.name() + QLatin1Char(' ') + element.attribute("id") +
-                   element.attribute("x") + QLatin1Char('>');
-    for (XmlNode child = element.firstChild(); child; child = child.nextSibling())
-        text += outline(child, left);
-    return text + QStringLiteral("</>");
+    QString text;
+    addOutline(element, left, text);
+    return text;
 }
 
 /// A record's columns that were edited with a text that a reload gives back.
@@ -286,7 +295,7 @@ private Q_SLOTS:
             RandomNumbers random(seed + 1000);
             Edited edited;
             const XmlNode root = p.document.xmlDoc()->rootElement();
-            for (int step = 0; step < 20; ++step) {
+            for (int step = 0; step < 10; ++step) {
                 const int what = random.below(6);
                 const std::size_t count = p.document.markerArray().size();
                 XmlNode element;
