@@ -81,12 +81,14 @@ private Q_SLOTS:
             {u"1e999s"_s, 0, 0, 1, 0},
         };
         for (const auto &row : rows) {
-            const char *name = qPrintable(row.text);
-            QVERIFY2(QVFCPXMLParser::secondsFromTimeString(row.text) == row.seconds, name);
-            QVERIFY2(QVFCPXMLParser::fpsFromFrameDuration(row.text) == row.fps, name);
-            QVERIFY2(QVFCPXMLParser::multiplierFromFrameDuration(row.text) == row.multiplier, name);
-            QVERIFY2(QVFCPXMLParser::framesFromTimeString(row.text, 1001) == row.framesOf1001, name);
-            QVERIFY2(QVFCPXMLParser::framesFromTimeString(row.text, 0) == 0, name);
+            const QByteArray name = row.text.toUtf8();
+            QVERIFY2(QVFCPXMLParser::secondsFromTimeString(row.text) == row.seconds, name.constData());
+            QVERIFY2(QVFCPXMLParser::fpsFromFrameDuration(row.text) == row.fps, name.constData());
+            QVERIFY2(QVFCPXMLParser::multiplierFromFrameDuration(row.text) == row.multiplier,
+                     name.constData());
+            QVERIFY2(QVFCPXMLParser::framesFromTimeString(row.text, 1001) == row.framesOf1001,
+                     name.constData());
+            QVERIFY2(QVFCPXMLParser::framesFromTimeString(row.text, 0) == 0, name.constData());
         }
     }
 
@@ -225,7 +227,8 @@ private Q_SLOTS:
         const QByteArray gap = xml.sliced(start, xml.indexOf("</spine>") - start);
         xml.insert(start, gap.repeated(50'000));
         QCOMPARE(read(xml, false, true, false), u"a=1"_s);
-        QCOMPARE(QVFCPXMLParser::markersFromXMLFile(m_home.path(u"a.fcpxml"_s), true).size(), 50'001U);
+        QCOMPARE(QVFCPXMLParser::markersFromXMLFile(m_home.path(u"a.fcpxml"_s), true).size(),
+                 std::size_t(50'001));
     }
 };
 
