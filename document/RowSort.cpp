@@ -1,7 +1,10 @@
 #include "document/RowSort.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
+#include <unordered_map>
+#include <utility>
 
 namespace vantrell
 {
@@ -9,62 +12,130 @@ namespace vantrell
 namespace
 {
 
-/// A value made ready for many comparisons.
-struct SortKey {
-    enum class Kind { Absent, Integer, Number, Text } kind = Kind::Absent;
-    std::int64_t integer = 0;
-    double number = 0;
-    QString folded;
-    QString text;
+/// A row's place in the order, as numbers: first by kind, then by value, both ascending.
+struct Place {
+    enum class Kind : quint32 { Absent, Integer, Number, Text } kind = Kind::Absent;
+    quint32 row = 0; // before sorting
+    quint64 value = 0;
 };
 
-SortKey keyOf(const std::optional<RecordValue> &value)
+bool comesBefore(const Place &a, const Place &b)
 {
-    SortKey key;
+    return a.kind != b.kind ? a.kind < b.kind : a.value < b.value;
+}
+
+constexpr quint64 signBit = quint64(1) << 63;
+
+quint64 orderOf(std::int64_t integer)
+{
+    return quint64(integer) ^ signBit;
+}
+
+/// The bits of a number stand in its order, those of negative ones the other way round.
+quint64 orderOf(double number)
+{
+    const auto bits = std::bit_cast<quint64>(number + 0.0); // one zero only
+    return bits & signBit ? ~bits : bits | signBit;
+}
+
+/// The different texts of a column in their order. Many rows have the same text, and a number is sooner
+/// compared than a text.
+class TextRanks
+{
+public:
+    /// Gives the text a number of its own.
+    quint64 add(const QString &text)
+    {
+        const auto [entry, isNew] = m_numbers.try_emplace(text, m_texts.size());
+        if (isNew)
+            m_texts.push_back({0, text.toCaseFolded(), text, entry->second});
+        return entry->second;
+    }
+
+    /// The ranks by the numbers of the texts.
+    std::vector<quint64> ranks()
+    {
+        for (Text &text : m_texts)
+            text.beginning = beginningOf(text.folded);
+        std::sort(m_texts.begin(), m_texts.end());
+        std::vector<quint64> ranks(m_texts.size());
+        for (std::size_t rank = 0; rank < m_texts.size(); ++rank)
+            ranks[m_texts[rank].number] = rank;
+        return ranks;
+    }
+
+private:
+    struct Text {
+        quint64 beginning; // of the folded text
+        QString folded;
+        QString text;
+        std::size_t number;
+
+        bool operator<(const Text &other) const
+        {
+            if (beginning != other.beginning)
+                return beginning < other.beginning;
+            const int comparison = folded.compare(other.folded);
+            return comparison != 0 ? comparison < 0 : text < other.text;
+        }
+    };
+
+    /// The first four code units, the first one counting most.
+    static quint64 beginningOf(const QString &text)
+    {
+        quint64 beginning = 0;
+        for (qsizetype i = 0; i < 4; ++i)
+            beginning = beginning << 16 | (i < text.size() ? text[i].unicode() : 0U);
+        return beginning;
+    }
+
+    struct Hash {
+        std::size_t operator()(const QString &text) const { return qHash(text); }
+    };
+
+    std::unordered_map<QString, std::size_t, Hash> m_numbers;
+    std::vector<Text> m_texts;
+};
+
+Place placeOf(const std::optional<RecordValue> &value, TextRanks &texts)
+{
+    Place place;
     if (!value)
-        return key;
-    if (const auto *integer = std::get_if<std::int64_t>(&*value)) {
-        key.kind = SortKey::Kind::Integer;
-        key.integer = *integer;
-    } else if (const auto *flag = std::get_if<bool>(&*value)) {
-        key.kind = SortKey::Kind::Integer;
-        key.integer = *flag;
-    } else if (const auto *date = std::get_if<QDateTime>(&*value)) {
-        key.kind = SortKey::Kind::Integer;
-        key.integer = date->toMSecsSinceEpoch();
+        return place;
+    if (const auto *text = std::get_if<QString>(&*value)) {
+        place.kind = Place::Kind::Text;
+        place.value = texts.add(*text);
     } else if (const auto *number = std::get_if<double>(&*value)) {
-        key.kind = SortKey::Kind::Number;
-        key.number = *number;
-    } else if (const auto *text = std::get_if<QString>(&*value)) {
-        key.kind = SortKey::Kind::Text;
-        key.text = *text;
-        key.folded = text->toCaseFolded();
+        place.kind = Place::Kind::Number;
+        place.value = orderOf(*number);
+    } else if (const auto *integer = std::get_if<std::int64_t>(&*value)) {
+        place.kind = Place::Kind::Integer;
+        place.value = orderOf(*integer);
+    } else if (const auto *flag = std::get_if<bool>(&*value)) {
+        place.kind = Place::Kind::Integer;
+        place.value = orderOf(std::int64_t(*flag));
+    } else if (const auto *date = std::get_if<QDateTime>(&*value)) {
+        place.kind = Place::Kind::Integer;
+        place.value = orderOf(std::int64_t(date->toMSecsSinceEpoch()));
     }
-    return key;
+    return place;
 }
 
-template <typename Value>
-int compareValues(const Value &a, const Value &b)
+std::vector<Place> placesOf(const RowList &rows, const SortValue &valueOf)
 {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
-int compareKeys(const SortKey &a, const SortKey &b)
-{
-    if (a.kind != b.kind)
-        return compareValues(a.kind, b.kind);
-    switch (a.kind) {
-    case SortKey::Kind::Absent:
-        return 0;
-    case SortKey::Kind::Integer:
-        return compareValues(a.integer, b.integer);
-    case SortKey::Kind::Number:
-        return compareValues(a.number, b.number);
-    case SortKey::Kind::Text:
-        break;
+    std::vector<Place> places;
+    places.reserve(rows.size());
+    TextRanks texts;
+    for (const RowRecordPtr &row : rows) {
+        places.push_back(placeOf(valueOf(*row), texts));
+        places.back().row = quint32(places.size() - 1);
     }
-    const int folded = a.folded.compare(b.folded);
-    return folded != 0 ? folded : a.text.compare(b.text);
+    const std::vector<quint64> ranks = texts.ranks();
+    for (Place &place : places) {
+        if (place.kind == Place::Kind::Text)
+            place.value = ranks[place.value];
+    }
+    return places;
 }
 
 } // namespace
@@ -83,25 +154,16 @@ RowList sortedRows(RowList rows, const std::vector<SortDescriptor> &descriptors,
 {
     // The least important column first: each stable pass keeps the order of those before it.
     for (auto descriptor = descriptors.rbegin(); descriptor != descriptors.rend(); ++descriptor) {
-        struct Item {
-            SortKey key;
-            RowRecordPtr row;
-        };
-        const SortValue valueOf = valueOfColumn(descriptor->column);
-        std::vector<Item> items;
-        items.reserve(rows.size());
-        for (RowRecordPtr &row : rows)
-            items.push_back({keyOf(valueOf(*row)), std::move(row)});
-        std::vector<const Item *> order;
-        order.reserve(items.size());
-        for (const Item &item : items)
-            order.push_back(&item);
+        std::vector<Place> places = placesOf(rows, valueOfColumn(descriptor->column));
         const bool descending = descriptor->descending;
-        std::stable_sort(order.begin(), order.end(), [descending](const Item *a, const Item *b) {
-            const int comparison = compareKeys(a->key, b->key);
-            return descending ? comparison > 0 : comparison < 0;
+        std::stable_sort(places.begin(), places.end(), [descending](const Place &a, const Place &b) {
+            return descending ? comesBefore(b, a) : comesBefore(a, b);
         });
-        std::transform(order.begin(), order.end(), rows.begin(), [](const Item *item) { return item->row; });
+        RowList sorted;
+        sorted.reserve(rows.size());
+        for (const Place &place : places)
+            sorted.push_back(std::move(rows[place.row]));
+        rows = std::move(sorted);
     }
     return rows;
 }
