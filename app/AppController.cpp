@@ -19,6 +19,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -49,10 +50,14 @@ PropertyListDictionary qcList()
 
 } // namespace
 
+void AppController::startLog()
+{
+    QVLog::createNewLog(programName);
+}
+
 AppController::AppController(UserDefaults &defaults)
     : m_defaults(defaults)
 {
-    QVLog::createNewLog(programName);
     QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
     PropertyListDictionary registered = defaultWebAddresses();
     registered.insert(showOpenDialogKey, 1);
@@ -62,7 +67,8 @@ AppController::AppController(UserDefaults &defaults)
     m_startWindow = std::make_unique<StartWindow>(*m_recentFiles);
     new MainMenu(*this, *m_startWindow, nullptr);
     connect(m_startWindow.get(), &StartWindow::openRequested, this, &AppController::openFile);
-    connect(m_startWindow.get(), &StartWindow::filesChosen, this, &AppController::openFiles);
+    connect(m_startWindow.get(), &StartWindow::filesChosen, this, &AppController::openFiles,
+            Qt::QueuedConnection);
     connect(m_startWindow.get(), &StartWindow::closed, this, &AppController::quit);
 }
 
@@ -141,6 +147,7 @@ bool AppController::applicationOpenFile(const QString &path)
     m_windows.emplace_back(window);
     new MainMenu(*this, *window, window);
     connect(window, &DocumentWindow::loaded, m_recentFiles.get(), &RecentFiles::add);
+    connect(window, &DocumentWindow::loadFailed, m_recentFiles.get(), &RecentFiles::forgetIfGone);
     connect(window, &DocumentWindow::filesDropped, this, &AppController::openFiles, Qt::QueuedConnection);
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
     connect(window, &DocumentWindow::closeCancelled, this, [this] { m_quitting = false; });
@@ -170,8 +177,12 @@ void AppController::placeWindow(DocumentWindow &window) const
             return other != &window && other->isVisible() && other->pos() == window.pos();
         });
     };
-    while (isTaken())
-        window.move(window.pos() + QPoint(cascadeStep, cascadeStep));
+    const QRect screen = window.screen()->availableGeometry();
+    const QPoint corner = screen.topLeft();
+    for (std::size_t i = 0; i < m_windows.size() && isTaken(); ++i) {
+        const QPoint next = window.pos() + QPoint(cascadeStep, cascadeStep);
+        window.move(screen.contains(QRect(next, window.size())) ? next : corner);
+    }
 }
 
 std::vector<DocumentWindow *> AppController::documentWindows() const

@@ -26,8 +26,10 @@ class AppController final : public QObject
     Q_OBJECT
 
 public:
-    /// Starts the log and the alerts, and gives the defaults what they begin with. The defaults outlive the
-    /// controller.
+    /// Starts the program's log. It comes before everything that may have something to write into it.
+    static void startLog();
+
+    /// Starts the alerts, and gives the defaults what they begin with. The defaults outlive the controller.
     explicit AppController(UserDefaults &defaults);
     ~AppController() override;
 

@@ -8,7 +8,7 @@ namespace vantrell
 
 /// The application: its names, and that no exception leaves an event handler. Made once, on the main
 /// thread.
-class Application final : public QApplication
+class Application : public QApplication
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentWindow.h"
+#include "document/widgets/TabPane.h"
+#include "document/widgets/TableModel.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -112,6 +114,8 @@ void MainMenu::makeEditMenu()
                              &DocumentWindow::copySelection)
                       << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
                              &DocumentWindow::selectAllRows);
+    m_documentActions << add(menu, tr("&Find Effects…"), QKeySequence::Find, m_document,
+                             &DocumentWindow::findEffects);
     menu->addSeparator();
     m_remove = add(menu, tr("&Remove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
                    &DocumentWindow::removeSelection);
@@ -132,6 +136,9 @@ void MainMenu::makeViewMenu()
         group->addAction(action);
     }
     m_documentActions += m_paneActions;
+    menu->addSeparator();
+    m_sortMenu = menu->addMenu(tr("&Sort By"));
+    connect(m_sortMenu, &QMenu::aboutToShow, this, &MainMenu::fillSortMenu);
 }
 
 void MainMenu::makeHelpMenu()
@@ -161,6 +168,22 @@ void MainMenu::makeHelpMenu()
     about->setMenuRole(QAction::AboutRole);
 }
 
+/// The columns of the pane that shows, as they stand.
+void MainMenu::fillSortMenu()
+{
+    m_sortMenu->clear();
+    TabPane &pane = m_document->pane(m_document->selectedTab());
+    const auto &sorted = pane.sortDescriptors();
+    for (const QString &column : pane.columns()) {
+        QString title = pane.model().columnName(pane.model().columnOf(column));
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction *const action = m_sortMenu->addAction(title);
+        action->setCheckable(true);
+        action->setChecked(!sorted.empty() && sorted.front().column == column);
+        connect(action, &QAction::triggered, &pane, [&pane, column] { pane.sortBy(column); });
+    }
+}
+
 void MainMenu::fillRecentMenu()
 {
     m_recentMenu->clear();
@@ -187,13 +210,14 @@ void MainMenu::validate()
     const bool showsPanes = m_document && m_document->state() != DocumentWindow::State::Failed;
     for (QAction *const action : m_documentActions)
         action->setEnabled(showsPanes);
+    m_sortMenu->setEnabled(showsPanes);
     if (!showsPanes) {
         m_remove->setEnabled(false);
         return;
     }
     const Tab tab = m_document->selectedTab();
     m_paneActions.at(int(tab))->setChecked(true);
-    m_remove->setEnabled(m_document->state() == DocumentWindow::State::Ready && tab != Tab::Media);
+    m_remove->setEnabled(m_document->mayEdit() && tab != Tab::Media);
 }
 
 void MainMenu::validateFileMenu()

@@ -36,6 +36,7 @@ private:
                  Operation operation);
 
     void fillRecentMenu();
+    void fillSortMenu();
     void validate();
     void validateFileMenu();
 
@@ -48,6 +49,7 @@ private:
     QMenu *m_recentMenu = nullptr;
     QMenu *m_importMenu = nullptr;
     QMenu *m_exportMenu = nullptr;
+    QMenu *m_sortMenu = nullptr;
     QAction *m_openFCPProject = nullptr;
     QAction *m_close = nullptr;
     QAction *m_save = nullptr;

@@ -2,6 +2,8 @@
 
 #include "support/UserDefaults.h"
 
+#include <QFileInfo>
+
 namespace vantrell
 {
 
@@ -36,8 +38,11 @@ void RecentFiles::add(const QString &path)
     m_defaults.setValue(recentFilesKey, PropertyListValue(list.mid(0, maximum)));
 }
 
-void RecentFiles::remove(const QString &path)
+void RecentFiles::forgetIfGone(const QString &path)
 {
+    const QFileInfo file(path);
+    if (file.exists() || !QFileInfo::exists(file.path()))
+        return;
     QStringList list = paths();
     if (list.removeAll(path) > 0)
         m_defaults.setValue(recentFilesKey, PropertyListValue(list));

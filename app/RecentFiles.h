@@ -24,7 +24,8 @@ public:
     QStringList paths() const;
     /// Puts the file first.
     void add(const QString &path);
-    void remove(const QString &path);
+    /// Takes the file out of the list when its folder is there and it is not: a volume may come back.
+    void forgetIfGone(const QString &path);
     void clear();
 
 Q_SIGNALS:

@@ -1,8 +1,10 @@
 #include "app/Troubleshooting.h"
 
+#include "document/widgets/DocumentDisposal.h"
 #include "support/FileUtilities.h"
 #include "support/MainThread.h"
 #include "support/QVAlert.h"
+#include "support/QVException.h"
 #include "support/QVLog.h"
 #include "support/StandardFolders.h"
 #include "support/TaskRunner.h"
@@ -14,7 +16,7 @@
 #include <QFile>
 #include <QPointer>
 
-#include <thread>
+#include <memory>
 
 namespace vantrell::Troubleshooting
 {
@@ -99,13 +101,14 @@ void gatherLogsForAppWithName(const QString &name, const QString &folder, QObjec
                               const std::function<void(const Result<QString> &)> &ended)
 {
     const QPointer<QObject> guard(context);
-    std::thread([name, folder, guard, ended] {
-        const auto result = std::make_shared<Result<QString>>(archive(name, folder));
+    DocumentDisposal::runBeside([name, folder, guard, ended] {
+        const auto result = std::make_shared<Result<QString>>(Failure{text("The logs cannot be read.")});
+        guarded("gatherLogsForAppWithName", [&] { *result = archive(name, folder); });
         MainThread::post([guard, ended, result] {
             if (guard)
                 ended(*result);
         });
-    }).detach();
+    });
 }
 
 } // namespace vantrell::Troubleshooting

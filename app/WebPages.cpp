@@ -1,8 +1,9 @@
 #include "app/WebPages.h"
 
-#include "support/TextFormat.h"
+#include "support/QVAlert.h"
 #include "support/UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
 
@@ -48,8 +49,18 @@ PropertyListDictionary defaultWebAddresses()
 
 void openWebPage(WebPage page, const UserDefaults &defaults)
 {
-    const QString address = formatText(defaults.string(keyOf(page)), familyShortName, programShortName);
-    QDesktopServices::openUrl(QUrl(address));
+    // Other percent signs belong to the address.
+    QString address = defaults.string(keyOf(page));
+    for (const QString &name : {familyShortName, programShortName}) {
+        const qsizetype place = address.indexOf(QStringLiteral("%@"));
+        if (place >= 0)
+            address.replace(place, 2, name);
+    }
+    if (!QDesktopServices::openUrl(QUrl(address)))
+        QVAlert::alertSheetWithMessageText(
+            QCoreApplication::translate("WebPages", "The page cannot be shown"),
+            QCoreApplication::translate("WebPages", "There is no browser to show it with: %1").arg(address),
+            nullptr);
 }
 
 } // namespace vantrell

@@ -52,6 +52,7 @@ void endOnFatalMessage(QtMsgType type, const QMessageLogContext &, const QString
 
 int run(vantrell::Application &application)
 {
+    vantrell::AppController::startLog();
     vantrell::AppController controller(vantrell::UserDefaults::standard());
     QObject::connect(&application, &vantrell::Application::openFileRequested, &controller,
                      &vantrell::AppController::applicationOpenFile);

@@ -48,31 +48,40 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
                      .arg(url.toLocalFile(), m_xmlDoc->firstFault());
         QVLog::appendLog(u"%@", notice);
     }
+    const QString root = m_xmlDoc->rootElement().name();
+    if (root != QStringLiteral("xmeml")) {
+        notice += notice.isEmpty() ? QString() : QStringLiteral("\n");
+        notice += QStringLiteral("The file \"%1\" is no editing project: its root element is \"%2\" instead "
+                                 "of \"xmeml\". Nothing in it can be shown.")
+                      .arg(url.toLocalFile(), root);
+    }
     m_mainThread->runAndWait([this, &notice] { m_interface.loadFinished(true, QString(), notice); });
     runInventories();
 }
 
 bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
 {
+    QString problem;
     auto parsed = [&]() -> std::optional<Result<std::unique_ptr<XmlDocument>>> {
         if (typeName != DocumentType::finalCutProProject)
             return XmlDocument::fromFile(url.toLocalFile(), {true, &m_closing});
         if (Workspace::applicationPathForBundleIdentifier(QStringLiteral("com.apple.FinalCutPro"))
                 .isEmpty()) {
-            QVAlert::alertSheetWithMessageText(
-                QStringLiteral("Unable to load project"),
-                QStringLiteral("Final Cut Pro 7 is not installed on this system."),
-                m_interface.alertParent());
+            problem = QStringLiteral("Final Cut Pro 7 is not installed on this system.");
+            QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to load project"), problem,
+                                               m_interface.alertParent());
             return std::nullopt;
         }
         const std::optional<QByteArray> data =
             m_services.projectXMLData ? m_services.projectXMLData(url.toLocalFile()) : std::nullopt;
-        if (!data)
+        if (!data) {
+            problem = QStringLiteral("Final Cut Pro gave no project for this file.");
             return std::nullopt;
+        }
         return XmlDocument::fromData(*data, {false, &m_closing});
     }();
     if (!parsed) {
-        failLoading(QString());
+        failLoading(problem);
         return false;
     }
     m_isFCPProject = typeName == DocumentType::finalCutProProject;

@@ -34,45 +34,14 @@ void MyDocument::close()
         if (inventory.joinable())
             inventory.join();
     }
-}
-
-Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
-{
-    if (typeName == DocumentType::finalCutProProject) {
-        if (m_services.sendToFCP)
-            m_services.sendToFCP(*this);
-        return Failure{QStringLiteral("The project was sent to Final Cut Pro instead of being saved.")};
-    }
-    if (!m_xmlDoc)
-        return Failure{QStringLiteral("There is no project to save.")};
-    const QString path = url.toLocalFile();
-    if (!confirmSavingRepaired(path))
-        return Failure{SaveFailure::notOverwritten};
-    const Result<void> saved = m_xmlDoc->save(path);
-    if (saved) {
-        m_isFCPProject = false;
-        m_isPremiereProject = false;
-    }
-    return saved;
+    if (m_saver.joinable())
+        m_saver.join();
 }
 
 void MyDocument::setFileURL(const QUrl &url)
 {
     m_fileURL = url;
     m_fileIsOurs = true;
-}
-
-bool MyDocument::confirmSavingRepaired(const QString &path)
-{
-    const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
-    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs || !overItself || !QFileInfo::exists(path))
-        return true;
-    const int answer = QVAlert::alertSheetWithMessageText(
-        QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),
-        QStringLiteral("Cancel"), QString(),
-        QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?"),
-        m_interface.alertParent(), true);
-    return answer == AlertAnswer::Default;
 }
 
 std::optional<QString> MyDocument::valueForXPath(const QString &query, XmlNode parentNode)

@@ -48,6 +48,8 @@ namespace SaveFailure
 {
 /// The user did not want the damaged file to be replaced.
 inline const QString notOverwritten = QStringLiteral("The repaired file was not overwritten.");
+/// The user gave up a long save.
+inline const QString cancelled = QStringLiteral("Saving was cancelled.");
 } // namespace SaveFailure
 
 /// What the tabs show of their lists, as the user last chose it. Main thread.
@@ -97,6 +99,14 @@ public:
     /// Saves a plain XML document, pretty-printed, whole or not at all. A document of the editing
     /// application is sent instead, which counts as not saved.
     Result<void> writeToURL(const QUrl &url, const QString &typeName);
+    /// The same with the writing done on a thread of its own, while which the tree may be read but not
+    /// changed. `done` is told the outcome, in the call itself when there is nothing to write, and not at
+    /// all when the document is closed before. Refused while another one runs.
+    void writeInBackground(const QUrl &url, const QString &typeName,
+                           std::function<void(const Result<void> &)> done);
+    /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.
+    void cancelWriting() { m_savingCancelled = true; }
+    bool isSaving() const { return m_isSaving; }
 
     /// Ends everything that runs for the document: waiting calls return, workers stop at their next unit
     /// of work. The document stays as it is. Called twice, nothing happens.
@@ -208,6 +218,8 @@ private:
     bool loadTree(const QString &typeName, const QUrl &url);
     void failLoading(const QString &message);
     void runInventories();
+    Result<void> prepareSaving(const QUrl &url, const QString &typeName);
+    Result<void> noteSaved(Result<void> saved);
     bool confirmSavingRepaired(const QString &path);
 
     DocumentInterface &m_interface;
@@ -242,6 +254,9 @@ private:
     std::atomic<int> m_runningInventories = 0;
     std::thread m_loader;
     std::vector<std::thread> m_inventories; // made by the loader, joined after it
+    std::thread m_saver;
+    bool m_isSaving = false;
+    std::atomic<bool> m_savingCancelled = false;
 };
 
 } // namespace vantrell

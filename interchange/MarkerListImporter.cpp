@@ -1,6 +1,7 @@
 #include "interchange/MarkerListImporter.h"
 
 #include "document/MyDocument.h"
+#include "document/TableUpdates.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/QVFCPXMLParser.h"
 #include "interchange/QVMarkerListParser.h"
@@ -10,28 +11,6 @@
 
 namespace vantrell
 {
-
-namespace
-{
-
-/// The table reloads once for all rows that come while this lives.
-class TableUpdates
-{
-public:
-    explicit TableUpdates(MyDocument &document)
-        : m_document(document)
-    {
-        m_document.beginTableUpdates();
-    }
-    ~TableUpdates() { m_document.endTableUpdates(); }
-    TableUpdates(const TableUpdates &) = delete;
-    TableUpdates &operator=(const TableUpdates &) = delete;
-
-private:
-    MyDocument &m_document;
-};
-
-} // namespace
 
 std::optional<MarkerListPanel> MarkerListImporter::importFCPMarkers() const
 {
@@ -71,37 +50,55 @@ bool MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int re
         return true;
     bool hasRows = false;
     guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
-        RowList rows;
-        for (const QString &path : paths) {
-            const RowList found = rowsOfFile(path, format).value_or(RowList());
-            rows.insert(rows.end(), found.begin(), found.end());
-        }
+        const RowList rows = rowsOfFiles(paths, format);
         hasRows = !rows.empty();
         if (hasRows) {
-            addMarkers(rows);
-            return;
+            const TableUpdates updates(m_document);
+            addMarkers(rows, 0);
+        } else {
+            tellNothingToImport();
         }
-        QVAlert::alertSheetWithMessageText(
-            QStringLiteral("No markers to import"),
-            QStringLiteral("There were no markers in the file or it is an invalid format."),
-            m_document.interface().alertParent());
     });
     return hasRows;
 }
 
-void MarkerListImporter::addMarkers(const RowList &rows) const
+RowList MarkerListImporter::rowsOfFiles(const QStringList &paths, const QString &format)
 {
-    const TableUpdates updates(m_document);
-    for (const RowRecordPtr &row : rows) {
-        // An alert on the way lets the user close the window.
-        if (m_document.isClosing())
-            return;
-        // The name of a parent is no item of the sequence menu, so that none is chosen.
-        m_editor.addMarkerWithName(
-            row->text(ImportedMarkerKey::name), row->text(ImportedMarkerKey::startTimecode),
-            row->text(ImportedMarkerKey::durationTimecode), row->text(ImportedMarkerKey::comment),
-            row->text(ImportedMarkerKey::color), nullptr);
+    RowList rows;
+    for (const QString &path : paths) {
+        const RowList found = rowsOfFile(path, format).value_or(RowList());
+        rows.insert(rows.end(), found.begin(), found.end());
     }
+    return rows;
+}
+
+void MarkerListImporter::tellNothingToImport() const
+{
+    QVAlert::alertSheetWithMessageText(
+        QStringLiteral("No markers to import"),
+        QStringLiteral("There were no markers in the file or it is an invalid format."),
+        m_document.interface().alertParent());
+}
+
+std::size_t MarkerListImporter::addMarkers(const RowList &rows, std::size_t first,
+                                           std::optional<std::chrono::milliseconds> limit) const
+{
+    const auto start = std::chrono::steady_clock::now();
+    std::size_t next = first;
+    guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
+        // An alert on the way lets the user close the window.
+        while (next < rows.size() && !m_document.isClosing()) {
+            const RowRecord &row = *rows[next++];
+            // The name of a parent is no item of the sequence menu, so that none is chosen.
+            m_editor.addMarkerWithName(
+                row.text(ImportedMarkerKey::name), row.text(ImportedMarkerKey::startTimecode),
+                row.text(ImportedMarkerKey::durationTimecode), row.text(ImportedMarkerKey::comment),
+                row.text(ImportedMarkerKey::color), nullptr);
+            if (limit && std::chrono::steady_clock::now() - start >= *limit)
+                break;
+        }
+    });
+    return next;
 }
 
 } // namespace vantrell

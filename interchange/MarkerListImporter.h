@@ -5,6 +5,10 @@
 
 #include <QStringList>
 
+#include <chrono>
+#include <cstddef>
+#include <optional>
+
 namespace vantrell
 {
 
@@ -35,9 +39,17 @@ public:
     /// and for an unknown format. Any thread.
     static std::optional<RowList> rowsOfFile(const QString &path, const QString &format);
 
-private:
-    void addMarkers(const RowList &rows) const;
+    // markerOpenDialogDidEnd() in its steps, for a window that must not wait for all of it
 
+    /// The rows of all files, in their order. Any thread.
+    static RowList rowsOfFiles(const QStringList &paths, const QString &format);
+    void tellNothingToImport() const;
+    /// Adds the markers from the place `first` on, until all are there or the time is over, at least one.
+    /// Returns the place of the next. Stops when the document is being closed.
+    std::size_t addMarkers(const RowList &rows, std::size_t first,
+                           std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
+
+private:
     MyDocument &m_document;
     MarkerEditor &m_editor;
 };

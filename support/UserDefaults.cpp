@@ -314,7 +314,7 @@ UserDefaults::Content UserDefaults::readContent(PropertyListDictionary &content)
 /// Renames the damaged file, with the lock held.
 bool UserDefaults::putAside()
 {
-    const QString aside = m_path + QStringLiteral(".damaged");
+    const QString aside = FileUtilities::uniqueFilePath(m_path + QStringLiteral(".damaged"));
     if (std::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(aside).constData()) != 0) {
         reportOnce(QStringLiteral("The file is damaged and cannot be renamed."));
         return false;

@@ -24,9 +24,18 @@ xmlDoc *treeOf(XmlNode document)
     return reinterpret_cast<xmlDoc *>(document.handle());
 }
 
-int writeToDevice(void *device, const char *buffer, int length)
+/// Where the library's output goes.
+struct Output {
+    QIODevice &device;
+    const std::atomic<bool> *cancelled; // null: never
+};
+
+int writeOutput(void *context, const char *buffer, int length)
 {
-    return static_cast<QIODevice *>(device)->write(buffer, length) == length ? length : -1;
+    const auto &output = *static_cast<Output *>(context);
+    if (output.cancelled && *output.cancelled)
+        return -1;
+    return output.device.write(buffer, length) == length ? length : -1;
 }
 
 struct SaveDeleter {
@@ -117,19 +126,21 @@ XmlNode XmlDocument::rootElement() const
     return m_tree ? XmlNode(xmlDocGetRootElement(treeOf(node()))) : XmlNode();
 }
 
-Result<void> XmlDocument::save(const QString &path) const
+Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled) const
 {
-    return FileUtilities::writeAtomically(path, [this](QIODevice &device) { return write(device); });
+    return FileUtilities::writeAtomically(
+        path, [this, cancelled](QIODevice &device) { return write(device, cancelled); });
 }
 
-Result<void> XmlDocument::write(QIODevice &device) const
+Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled) const
 {
+    Output output{device, cancelled};
     const char *encoding = reinterpret_cast<const char *>(treeOf(node())->encoding);
     SavePointer save;
     if (encoding)
-        save.reset(xmlSaveToIO(writeToDevice, nullptr, &device, encoding, XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+        save.reset(xmlSaveToIO(writeOutput, nullptr, &output, encoding, XML_SAVE_FORMAT | XML_SAVE_AS_XML));
     if (!save)
-        save.reset(xmlSaveToIO(writeToDevice, nullptr, &device, "UTF-8", XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+        save.reset(xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_FORMAT | XML_SAVE_AS_XML));
     const bool saved = save && xmlSaveDoc(save.get(), treeOf(node())) >= 0 && xmlSaveFlush(save.get()) >= 0;
     if (!saved)
         return Failure{device.errorString()};
@@ -143,8 +154,9 @@ QString XmlDocument::textOfElement(XmlNode element)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
+        Output output{buffer, nullptr};
         const SavePointer save(
-            xmlSaveToIO(writeToDevice, nullptr, &buffer, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
+            xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
         if (!save || xmlSaveTree(save.get(), element.handle()) < 0)
             return QString();
     }

@@ -52,9 +52,10 @@ public:
     const QString &firstFault() const { return m_firstFault; }
 
     /// Writes the tree, pretty-printed, in its declared encoding (UTF-8 when it has none), whole or not
-    /// at all.
-    Result<void> save(const QString &path) const;
-    Result<void> write(QIODevice &device) const;
+    /// at all. Nothing may change the tree meanwhile. Once `cancelled` is set (null for never) writing
+    /// fails. Any thread.
+    Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr) const;
+    Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
     /// The element as XML text, without a declaration and without added white space.
     static QString textOfElement(XmlNode element);
 

@@ -1,6 +1,7 @@
 #include "document/widgets/DocumentDisposal.h"
 
 #include "support/MainThread.h"
+#include "support/QVException.h"
 #include "workbench/Workbench.h"
 
 #include <atomic>
@@ -25,8 +26,6 @@ struct Disposed {
         workbench->document().close();
         workbench.reset();
         MainThread::post([kept = std::exchange(world, nullptr)] {});
-        --s_running;
-        MainThread::wake();
     }
 };
 
@@ -36,12 +35,22 @@ void DocumentDisposal::dispose(std::unique_ptr<Workbench> workbench, std::shared
 {
     // From here on no worker waits for the main thread through the document's door.
     workbench->document().mainThread()->close();
-    ++s_running;
     const auto disposed = std::make_shared<Disposed>(Disposed{std::move(workbench), std::move(world)});
+    runBeside([disposed] { disposed->end(); });
+}
+
+void DocumentDisposal::runBeside(std::function<void()> work)
+{
+    ++s_running;
+    const auto run = [work = std::move(work)] {
+        guarded("DocumentDisposal::runBeside", work);
+        --s_running;
+        MainThread::wake();
+    };
     try {
-        std::thread([disposed] { disposed->end(); }).detach();
+        std::thread(run).detach();
     } catch (const std::system_error &) {
-        disposed->end(); // no thread to be had
+        run(); // no thread to be had
     }
 }
 

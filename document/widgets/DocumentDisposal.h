@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace vantrell
@@ -19,7 +20,12 @@ public:
     /// for, the document's interface foremost; it is let go on the main thread, after the document.
     static void dispose(std::unique_ptr<Workbench> workbench, std::shared_ptr<void> world);
 
-    /// Waits until nothing is left of the documents disposed of so far; false when that takes longer.
+    /// Runs `work` on a thread of its own that nobody waits for but waitForAll(): it holds nothing of a
+    /// document, and what it hands to the main thread looks whether somebody still wants it.
+    static void runBeside(std::function<void()> work);
+
+    /// Waits until nothing is left of the documents disposed of so far and of the work beside them; false
+    /// when that takes longer.
     static bool waitForAll(std::chrono::milliseconds limit);
 };
 

@@ -3,7 +3,7 @@
 #include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/EffectsPane.h"
-#include "document/widgets/MarkerListPanels.h"
+#include "document/widgets/MarkerListImport.h"
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/MediaPane.h"
 #include "document/widgets/NoticeBar.h"
@@ -17,11 +17,9 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QEventLoop>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
@@ -44,10 +42,9 @@ namespace
 
 const QString placeKey = QStringLiteral("documentWindowPlace");
 const QString markerFieldsKey = QStringLiteral("customMarkerFields");
-const QString closeQuestion = QStringLiteral("closeQuestionDidEnd:returnCode:contextInfo:");
-const QString revertQuestion = QStringLiteral("revertQuestionDidEnd:returnCode:contextInfo:");
 
 constexpr int redrawMs = 50;
+constexpr int progressDelayMs = 400; // what is over sooner shows no sheet
 
 struct ToolBarItem {
     QString identifier;
@@ -97,12 +94,17 @@ QStringList localFiles(const QMimeData *data)
 
 DocumentWindow::DocumentWindow(UserDefaults &defaults)
     : m_defaults(defaults)
+    , m_progressDelay(new QTimer(this))
 {
     setAcceptDrops(true);
     setUnifiedTitleAndToolBarOnMac(true);
     makeToolBar();
     makeContent();
     m_progress = new ProgressSheet(this);
+    m_progressDelay->setSingleShot(true);
+    m_progressDelay->setInterval(progressDelayMs);
+    connect(m_progressDelay, &QTimer::timeout, this, &DocumentWindow::showProgress);
+    connect(m_progress, &ProgressSheet::cancelled, this, &DocumentWindow::cancelProgress);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
     restorePlace();
 }
@@ -200,14 +202,12 @@ void DocumentWindow::startSession(const QString &path)
         setWindowModified(edited);
         Q_EMIT menusChanged();
     });
-    connect(m_progress, &ProgressSheet::cancelled, m_interface.get(),
-            [this] { m_workbench->document().cancelProgress(); });
     m_state = State::Loading;
     m_treeLoaded = false;
     m_notice->setNotice(QString());
     m_toolBar->setEnabled(true);
     setWindowModified(false);
-    setEditingEnabled(false);
+    updateEditing();
     setPath(path);
 }
 
@@ -217,8 +217,8 @@ void DocumentWindow::endSession()
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
     m_interface->disconnectFromWindow();
+    qDeleteAll(findChildren<MarkerListImport *>());
     m_progress->endProgress();
-    m_progress->disconnect(m_interface.get());
     for (TabPane *&pane : m_panes) {
         pane->saveLayout();
         delete pane;
@@ -243,7 +243,7 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
 void DocumentWindow::inventoriesEnded()
 {
     m_state = State::Ready;
-    setEditingEnabled(true);
+    updateEditing();
     Q_EMIT menusChanged();
 }
 
@@ -255,12 +255,72 @@ void DocumentWindow::showFailure(const QString &message)
     m_failureReason->setText(message);
     m_content->setCurrentWidget(m_failure->parentWidget());
     Q_EMIT menusChanged();
+    Q_EMIT loadFailed(m_path);
 }
 
-void DocumentWindow::setEditingEnabled(bool enabled)
+void DocumentWindow::updateEditing()
 {
     for (TabPane *const pane : m_panes)
-        pane->setEditingEnabled(enabled);
+        pane->setEditingEnabled(mayEdit());
+}
+
+/// What is being typed into a cell counts as typed.
+void DocumentWindow::commitEditing()
+{
+    for (TabPane *const pane : m_panes) {
+        if (pane)
+            pane->table().commitEditing();
+    }
+}
+
+void DocumentWindow::beginBusy(const QString &text, std::function<void()> cancel)
+{
+    m_isBusy = true;
+    m_isCancellable = true;
+    m_givesUpForClosing = false;
+    m_cancelBusy = std::move(cancel);
+    m_focusBefore = focusWidget();
+    m_progress->updateProgressLabel(text);
+    m_progressDelay->start();
+    updateEditing();
+    Q_EMIT menusChanged();
+}
+
+void DocumentWindow::endBusy()
+{
+    m_progressDelay->stop();
+    m_progress->endProgress();
+    m_isBusy = false;
+    m_cancelBusy = nullptr;
+    updateEditing();
+    // Controls that were out of use meanwhile lost the focus.
+    if (m_focusBefore && m_focusBefore->isVisible())
+        m_focusBefore->setFocus();
+    Q_EMIT menusChanged();
+    if (std::exchange(m_closesWhenIdle, false))
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void DocumentWindow::showProgress()
+{
+    m_progress->startProgress();
+    m_progress->setCancellable(m_isCancellable);
+}
+
+void DocumentWindow::setCancellable(bool cancellable)
+{
+    m_isCancellable = cancellable;
+    m_progress->setCancellable(cancellable);
+}
+
+void DocumentWindow::cancelProgress()
+{
+    if (m_isBusy) {
+        const auto cancel = m_cancelBusy;
+        cancel();
+    } else if (m_workbench) {
+        m_workbench->document().cancelProgress();
+    }
 }
 
 void DocumentWindow::setPath(const QString &path)
@@ -324,6 +384,11 @@ void DocumentWindow::toolbarMarkers()
     });
 }
 
+void DocumentWindow::toolbar(Tab tab)
+{
+    (this->*toolBarItems()[std::size_t(tab)].action)();
+}
+
 void DocumentWindow::showPane(Tab tab)
 {
     if (m_state != State::Failed) {
@@ -340,145 +405,6 @@ void DocumentWindow::applyDefaultsChange(const QString &key)
 {
     if (key == markerFieldsKey && m_workbench && !m_closing)
         m_workbench->markerFields().setupMarkerFields();
-}
-
-bool DocumentWindow::save()
-{
-    return saveTo(m_path);
-}
-
-bool DocumentWindow::saveTo(const QString &path)
-{
-    MyDocument *const loaded = document();
-    if (!loaded)
-        return false;
-    const bool isProject = loaded->isFCPProject() || loaded->isPremiereProject();
-    const QUrl url = QUrl::fromLocalFile(path);
-    const Result<void> written = loaded->writeToURL(url, isProject ? DocumentType::finalCutProProject
-                                                                   : DocumentType::finalCutProXMLFile);
-    if (m_closing)
-        return written.isOk();
-    if (isProject) // sent instead, which clears the changes when it succeeds
-        return !loaded->isEdited();
-    if (!written) {
-        if (written.message() != SaveFailure::notOverwritten)
-            QVAlert::alertSheetWithMessageText(
-                tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
-                written.message(), m_interface->alertParent());
-        return false;
-    }
-    loaded->setFileURL(url);
-    loaded->clearChangeCount();
-    m_notice->setNotice(QString());
-    setPath(path);
-    Q_EMIT this->loaded(path);
-    return true;
-}
-
-void DocumentWindow::saveAs()
-{
-    if (!document())
-        return;
-    auto *const dialog = new QFileDialog(this, tr("Save As"), folder(), tr("XML files (*.xml *.XML)"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QStringLiteral("xml"));
-    dialog->selectFile(QFileInfo(m_path).fileName());
-    dialog->setWindowModality(Qt::WindowModal);
-    connect(dialog, &QFileDialog::accepted, this, [this, dialog] {
-        dialog->hide(); // an alert then is the window's only sheet
-        saveTo(dialog->selectedFiles().value(0));
-    });
-    dialog->open();
-}
-
-void DocumentWindow::revert()
-{
-    const MyDocument *const loaded = document();
-    if (!loaded)
-        return;
-    if (!loaded->isEdited()) {
-        revertWithoutQuestion();
-        return;
-    }
-    QVAlert::alertSheetWithMessageText(
-        tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_path).fileName()),
-        tr("Revert"), tr("Cancel"), QString(), tr("Your changes since it was last saved will be lost."),
-        m_interface->alertParent(), this, revertQuestion, false, nullptr);
-}
-
-void DocumentWindow::revertWithoutQuestion()
-{
-    NestedEvents::whenUnwound(this, [this] {
-        if (m_closing || !m_workbench)
-            return;
-        const Tab tab = selectedTab();
-        endSession();
-        open(m_path);
-        if (m_state != State::Failed && !m_closing && tab != Tab::Media)
-            (this->*toolBarItems()[std::size_t(tab)].action)();
-    });
-}
-
-void DocumentWindow::sendToFCP()
-{
-    if (MyDocument *const loaded = document()) {
-        const Result<void> sent =
-            loaded->writeToURL(QUrl::fromLocalFile(m_path), DocumentType::finalCutProProject);
-        Q_UNUSED(sent) // which tells its outcome itself
-    }
-}
-
-bool DocumentWindow::mayChangeMarkers()
-{
-    if (m_state != State::Loading || m_workbench->document().isPopulating(Tab::Markers))
-        return true; // whoever is asked next looks at the markers themselves
-    QVAlert::alertSheetWithMessageText(
-        tr("The project is still loading"),
-        tr("Please wait for the project to finish loading before attempting this operation."),
-        m_interface->alertParent());
-    return false;
-}
-
-void DocumentWindow::runOpenPanel(const QString &format)
-{
-    if (!mayChangeMarkers() || m_closing)
-        return;
-    const MarkerListImporter &importer = m_workbench->markerListImporter();
-    if (const auto panel = importer.showMarkerListOpenDialog(format))
-        runMarkerListOpenPanel(importer, *panel, this, folder());
-}
-
-void DocumentWindow::runSavePanel(const QString &format)
-{
-    const MarkerListExporter &exporter = m_workbench->markerListExporter();
-    if (const auto panel = exporter.showMarkerListSaveDialog(format))
-        runMarkerListSavePanel(exporter, *panel, this, folder());
-}
-
-void DocumentWindow::importFCPMarkers()
-{
-    runOpenPanel(MarkerListFormat::fcp);
-}
-
-void DocumentWindow::importAvidLocators()
-{
-    runOpenPanel(MarkerListFormat::avid);
-}
-
-void DocumentWindow::importFCPXMarkers()
-{
-    runOpenPanel(MarkerListFormat::fcpx);
-}
-
-void DocumentWindow::exportFCPMarkers()
-{
-    runSavePanel(MarkerListFormat::fcp);
-}
-
-void DocumentWindow::exportAvidLocators()
-{
-    runSavePanel(MarkerListFormat::avid);
 }
 
 QString DocumentWindow::folder() const
@@ -504,81 +430,27 @@ void DocumentWindow::selectAllRows()
     pane(selectedTab()).table().selectAll();
 }
 
+void DocumentWindow::findEffects()
+{
+    if (selectedTab() != Tab::Effects)
+        toolbarEffects();
+    static_cast<EffectsPane &>(pane(Tab::Effects)).focusSearch();
+}
+
 void DocumentWindow::removeSelection()
 {
-    if (m_state != State::Ready)
+    if (auto *const field = qobject_cast<QLineEdit *>(focusWidget())) {
+        if (!field->hasSelectedText())
+            field->cursorWordForward(true);
+        field->del();
+        return;
+    }
+    if (!mayEdit())
         return;
     if (selectedTab() == Tab::Effects)
         static_cast<EffectsPane &>(pane(Tab::Effects)).removeEffects();
     else if (selectedTab() == Tab::Markers)
         static_cast<MarkersPane &>(pane(Tab::Markers)).removeMarkers();
-}
-
-void DocumentWindow::closeEvent(QCloseEvent *event)
-{
-    const MyDocument *const loaded = document();
-    if (m_closing) {
-        event->accept();
-    } else if (loaded && loaded->isEdited()) {
-        event->ignore();
-        askBeforeClosing();
-    } else {
-        event->accept();
-        shutDown();
-    }
-}
-
-void DocumentWindow::askBeforeClosing()
-{
-    if (m_asksBeforeClosing)
-        return;
-    m_asksBeforeClosing = true;
-    const bool isProject = document()->isFCPProject() || document()->isPremiereProject();
-    QVAlert::alertSheetWithMessageText(
-        tr("Do you want to save the changes made to “%1”?").arg(QFileInfo(m_path).fileName()),
-        isProject ? tr("Send") : tr("Save"), tr("Don’t Save"), tr("Cancel"),
-        tr("Your changes will be lost if you don’t save them."), m_interface->alertParent(), this,
-        closeQuestion, false, nullptr);
-}
-
-bool DocumentWindow::respondsTo(const QString &selector) const
-{
-    return selector == closeQuestion || selector == revertQuestion;
-}
-
-void DocumentWindow::perform(const QString &selector, QVAlert *, int code)
-{
-    if (m_closing)
-        return;
-    if (selector == closeQuestion)
-        closeQuestionEnded(code);
-    else if (code == AlertAnswer::Default)
-        revertWithoutQuestion();
-}
-
-void DocumentWindow::closeQuestionEnded(int code)
-{
-    m_asksBeforeClosing = false;
-    const bool mayClose = code == AlertAnswer::Alternate || (code == AlertAnswer::Default && save());
-    if (m_closing)
-        return;
-    if (mayClose)
-        shutDown();
-    else
-        Q_EMIT closeCancelled();
-}
-
-void DocumentWindow::shutDown()
-{
-    m_closing = true;
-    storePlace();
-    if (m_workbench) {
-        QVAlert::closeAlertsForParent(m_interface->alertParent());
-        m_workbench->document().mainThread()->close();
-    }
-    hide();
-    Q_EMIT closed();
-    NestedEvents::whenUnwound(this, [this] { deleteLater(); });
 }
 
 void DocumentWindow::restorePlace()

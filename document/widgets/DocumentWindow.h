@@ -4,13 +4,17 @@
 #include "support/QVAlert.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
+#include <cstddef>
+#include <functional>
 #include <memory>
 
 class QActionGroup;
 class QLabel;
 class QStackedWidget;
+class QTimer;
 class QToolBar;
 
 namespace vantrell
@@ -46,6 +50,10 @@ public:
     /// The file that the window stands for.
     QString path() const { return m_path; }
     State state() const { return m_state; }
+    /// Whether something long has the project to itself, which nobody may change meanwhile.
+    bool isBusy() const { return m_isBusy; }
+    /// Whether the user may change the project now.
+    bool mayEdit() const { return m_state == State::Ready && !m_isBusy; }
     /// Whether the window is on its way out: nothing of its document may be used any more.
     bool isClosing() const { return m_closing; }
     /// The document as far as menus go: null until it has loaded, and from the beginning of the end.
@@ -68,11 +76,11 @@ public Q_SLOTS:
     void toolbarEffects();
     void toolbarMarkers();
 
-    /// Writes the document to its file; false, after an alert, when that fails.
-    bool save();
+    /// Writes the document to its file. This goes on beside the window; saved() tells the end of it.
+    void save();
     /// Asks where to, then writes there; from then on the window stands for that file.
     void saveAs();
-    bool saveTo(const QString &path);
+    void saveTo(const QString &path);
     /// Loads the file again, after a question when changes would be lost.
     void revert();
     void revertWithoutQuestion();
@@ -85,16 +93,28 @@ public Q_SLOTS:
     void importFCPXMarkers();
     void exportFCPMarkers();
     void exportAvidLocators();
+    /// What the open panel ends with: adds the markers of the files, beside the window; markersImported()
+    /// tells the end of it.
+    void importMarkerLists(const QStringList &paths, const QString &format);
+    /// What the save panel ends with.
+    void exportMarkerList(const QString &path, const QString &format);
 
     // The edit menu, for the pane that shows
     void copySelection();
     void selectAllRows();
     void removeSelection();
+    /// Shows the effects with the keyboard in their search field.
+    void findEffects();
 
 Q_SIGNALS:
     /// What the menus depend on is another than before.
     void menusChanged();
     void loaded(const QString &path);
+    /// A save is over; why it failed the user has been told.
+    void saved(bool isSaved);
+    /// An import is over; 0 when it was cancelled or there was nothing to import.
+    void markersImported(std::size_t count);
+    void loadFailed(const QString &path);
     /// The user wants these files opened.
     void filesDropped(const QStringList &paths);
     /// The window is hidden and will delete itself.
@@ -116,7 +136,17 @@ private:
     void showFailure(const QString &message);
     void loadEnded(bool loaded, const QString &message, const QString &notice);
     void inventoriesEnded();
-    void setEditingEnabled(bool enabled);
+    void updateEditing();
+    void commitEditing();
+    void toolbar(Tab tab);
+    void beginBusy(const QString &text, std::function<void()> cancel);
+    void endBusy();
+    void showProgress();
+    void setCancellable(bool cancellable);
+    void cancelProgress();
+    void tellOfFailedSave(const QString &path, const QString &reason);
+    void saveEnded(const QString &path, bool isSaved);
+    void tellOfImport(std::size_t imported, const QStringList &paths);
     void setPath(const QString &path);
     void showPane(Tab tab);
     void applyDefaultsChange(const QString &key);
@@ -140,6 +170,16 @@ private:
     bool m_treeLoaded = false;
     bool m_closing = false;
     bool m_asksBeforeClosing = false;
+    bool m_closesWhenSaved = false;
+
+    // Something long
+    bool m_isBusy = false;
+    bool m_isCancellable = false;
+    bool m_givesUpForClosing = false; // when the window is closed
+    bool m_closesWhenIdle = false;
+    std::function<void()> m_cancelBusy;
+    QTimer *m_progressDelay;
+    QPointer<QWidget> m_focusBefore;
 
     QToolBar *m_toolBar = nullptr;
     QActionGroup *m_toolBarItems = nullptr;

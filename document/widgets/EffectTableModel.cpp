@@ -53,7 +53,7 @@ QIcon EffectTableModel::icon(const RowRecord &record, int column) const
 
 QString EffectTableModel::toolTip(const RowRecord &record, int column) const
 {
-    return column == Clip || column == Sequence ? text(record, column) : QString();
+    return column == Enabled ? QString() : text(record, column);
 }
 
 Qt::Alignment EffectTableModel::alignment(int column) const

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
@@ -41,6 +42,7 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_search->setClearButtonEnabled(true);
     m_search->setAccessibleName(tr("Search by name"));
     m_search->setToolTip(tr("Show only effects whose name contains this text"));
+    m_search->setAcceptDrops(false); // a file that is dropped there is opened
     m_search->setMinimumWidth(fontMetrics().averageCharWidth() * 28);
     m_remove->setToolTip(tr("Remove the selected effects from the project"));
     addControls({m_types, m_showDefaults, m_search, m_remove});
@@ -80,6 +82,8 @@ void EffectsPane::applyFilters()
     state.effectShowDefaults = m_showDefaults->isChecked();
     const bool isSearch = state.effectSearch != m_search->text();
     state.effectSearch = m_search->text();
+    if (state.selectedTab != Tab::Effects)
+        return; // showing the tab applies them
     if (isSearch)
         workbench().effectInventory().effectSearchAction();
     else
@@ -111,7 +115,7 @@ void EffectsPane::commitEdit(int row, const QString &column, const QString &text
 void EffectsPane::setEditingEnabled(bool enabled)
 {
     TabPane::setEditingEnabled(enabled);
-    for (QAction *action : table().menuForEvent(QPoint(-1, -1))->actions().mid(0, 1))
+    for (QAction *action : table().menu()->actions().mid(0, 1))
         action->setEnabled(enabled);
 }
 
@@ -123,7 +127,7 @@ void EffectsPane::updateControls()
 QString EffectsPane::loadingText(std::size_t found) const
 {
     return found == 0 ? tr("Looking for effects…")
-                      : tr("Looking for effects: %n so far…", nullptr, int(found));
+                      : tr("Looking for effects: %1 so far…").arg(QLocale().toString(qulonglong(found)));
 }
 
 QString EffectsPane::emptyText() const

@@ -1,10 +1,9 @@
 #include "document/widgets/MarkerListPanels.h"
 
-#include "interchange/MarkerListExporter.h"
-#include "interchange/MarkerListImporter.h"
-
 #include <QCoreApplication>
 #include <QFileDialog>
+
+#include <utility>
 
 namespace vantrell
 {
@@ -34,23 +33,23 @@ QFileDialog *makeDialog(const MarkerListPanel &panel, QWidget *window, const QSt
 
 } // namespace
 
-void runMarkerListOpenPanel(const MarkerListImporter &importer, const MarkerListPanel &panel, QWidget *window,
-                            const QString &folder)
+void runMarkerListOpenPanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
+                            std::function<void(const QStringList &)> chosen)
 {
     QFileDialog *const dialog = makeDialog(panel, window, folder);
     dialog->setWindowTitle(text("Import Markers"));
     dialog->setLabelText(QFileDialog::Accept, text("Import"));
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    QObject::connect(dialog, &QFileDialog::finished, window,
-                     [dialog, &importer, format = panel.format](int code) {
-                         dialog->hide(); // an alert then is the window's only sheet
-                         importer.markerOpenDialogDidEnd(dialog->selectedFiles(), code, format);
-                     });
+    dialog->setOption(QFileDialog::ReadOnly); // makes no folders
+    QObject::connect(dialog, &QFileDialog::accepted, window, [dialog, chosen = std::move(chosen)] {
+        dialog->hide(); // an alert then is the window's only sheet
+        chosen(dialog->selectedFiles());
+    });
     dialog->open();
 }
 
-void runMarkerListSavePanel(const MarkerListExporter &exporter, const MarkerListPanel &panel, QWidget *window,
-                            const QString &folder)
+void runMarkerListSavePanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
+                            std::function<void(const QString &)> chosen)
 {
     QFileDialog *const dialog = makeDialog(panel, window, folder);
     dialog->setWindowTitle(text("Export Markers"));
@@ -58,11 +57,10 @@ void runMarkerListSavePanel(const MarkerListExporter &exporter, const MarkerList
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(panel.extension);
     dialog->selectFile(panel.proposedName);
-    QObject::connect(dialog, &QFileDialog::finished, window,
-                     [dialog, &exporter, format = panel.format](int code) {
-                         dialog->hide();
-                         exporter.markerSaveDialogDidEnd(dialog->selectedFiles().value(0), code, format);
-                     });
+    QObject::connect(dialog, &QFileDialog::accepted, window, [dialog, chosen = std::move(chosen)] {
+        dialog->hide();
+        chosen(dialog->selectedFiles().value(0));
+    });
     dialog->open();
 }
 

@@ -2,21 +2,22 @@
 
 #include "interchange/MarkerListPanel.h"
 
+#include <QStringList>
+
+#include <functional>
+
 class QWidget;
 
 namespace vantrell
 {
 
-class MarkerListExporter;
-class MarkerListImporter;
-
-/// Runs the file panel that chooses marker lists, as a sheet on the window, and imports what was chosen.
-/// Returns at once; the importer outlives the window. Main thread.
-void runMarkerListOpenPanel(const MarkerListImporter &importer, const MarkerListPanel &panel, QWidget *window,
-                            const QString &folder);
+/// Runs the file panel that chooses marker lists, as a sheet on the window, and hands on what was chosen,
+/// when it was closed with its OK button. Returns at once. Main thread.
+void runMarkerListOpenPanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
+                            std::function<void(const QStringList &)> chosen);
 
 /// The same for the panel that chooses where a marker list is written.
-void runMarkerListSavePanel(const MarkerListExporter &exporter, const MarkerListPanel &panel, QWidget *window,
-                            const QString &folder);
+void runMarkerListSavePanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
+                            std::function<void(const QString &)> chosen);
 
 } // namespace vantrell

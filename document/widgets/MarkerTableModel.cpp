@@ -157,14 +157,19 @@ QString MarkerTableModel::toolTip(const RowRecord &record, int column) const
 {
     switch (column) {
     case Color:
-    case Comment:
         return text(record, column);
     case Sequence:
         return record.get(MarkerKey::sequenceName);
     case Clip:
         return record.get(MarkerKey::clipName);
-    default:
+    case In:
+    case Out:
+    case Chapter:
+    case Compression:
+    case Scoring:
         return QString();
+    default:
+        return TableModel::text(record, column);
     }
 }
 

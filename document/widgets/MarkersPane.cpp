@@ -13,9 +13,17 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+#include <QTimer>
 
 namespace vantrell
 {
+
+namespace
+{
+
+constexpr int messageMs = 30000;
+
+} // namespace
 
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
@@ -25,6 +33,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_remove(new QPushButton(tr("Re&move…"), this))
     , m_offset(new QPushButton(tr("&Offset…"), this))
     , m_status(new QLabel(this))
+    , m_messageTime(new QTimer(this))
 {
     m_filter->addItem(tr("All Colors"));
     for (int i = 0; i < markerModel().colorLabels().size(); ++i)
@@ -37,6 +46,13 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_offset->setToolTip(tr("Move the in points of the selected markers"));
     addControls({m_filter, m_add, m_remove, m_offset});
     footer().addWidget(m_status);
+    m_status->setTextFormat(Qt::PlainText);
+    m_messageTime->setSingleShot(true);
+    m_messageTime->setInterval(messageMs);
+    connect(m_messageTime, &QTimer::timeout, this, [this] {
+        m_message.clear();
+        updateControls();
+    });
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         this->workbench().document().viewState().markerFilter = item;
@@ -76,6 +92,13 @@ void MarkersPane::setColorLabels(const QStringList &labels)
     markerModel().setColorLabels(labels);
     for (int i = 0; i < labels.size() && i + 1 < m_filter->count(); ++i)
         m_filter->setItemText(i + 1, labels[i]);
+}
+
+void MarkersPane::showMessage(const QString &text)
+{
+    m_message = text;
+    m_messageTime->start();
+    updateControls();
 }
 
 void MarkersPane::addMarker()
@@ -123,7 +146,7 @@ void MarkersPane::columnMoved(const QString &identifier, int index)
 void MarkersPane::setEditingEnabled(bool enabled)
 {
     TabPane::setEditingEnabled(enabled);
-    for (QAction *action : table().menuForEvent(QPoint(-1, -1))->actions().mid(0, 2))
+    for (QAction *action : table().menu()->actions().mid(0, 2))
         action->setEnabled(enabled);
 }
 
@@ -139,13 +162,13 @@ void MarkersPane::updateControls()
     QString text = count == 1 ? tr("1 marker") : tr("%1 markers").arg(locale.toString(count));
     if (selected > 0)
         text = tr("%1 (%2 selected)").arg(text, locale.toString(qulonglong(selected)));
-    m_status->setText(text);
+    m_status->setText(m_message.isEmpty() ? text : tr("%1. %2.").arg(text, m_message));
 }
 
 QString MarkersPane::loadingText(std::size_t found) const
 {
     return found == 0 ? tr("Looking for markers…")
-                      : tr("Looking for markers: %n so far…", nullptr, int(found));
+                      : tr("Looking for markers: %1 so far…").arg(QLocale().toString(qulonglong(found)));
 }
 
 QString MarkersPane::emptyText() const

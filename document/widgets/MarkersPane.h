@@ -23,6 +23,9 @@ public:
     /// The eight labels that the colour filter and the colour cells show, by colour index.
     void setColorLabels(const QStringList &labels);
 
+    /// Shows in the status line, for a while, what was done.
+    void showMessage(const QString &text);
+
 public Q_SLOTS:
     void addMarker();
     /// Removes the selected markers after a question.
@@ -47,6 +50,8 @@ private:
     QPushButton *m_remove;
     QPushButton *m_offset;
     QLabel *m_status;
+    QString m_message;
+    QTimer *m_messageTime;
 };
 
 } // namespace vantrell

@@ -1,10 +1,12 @@
 #include "document/widgets/MediaPane.h"
 
+#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/MediaTableModel.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableIcons.h"
 #include "media/MediaFile.h"
 #include "media/widgets/QVGraphView.h"
+#include "support/MainThread.h"
 #include "workbench/Workbench.h"
 
 #include <QAction>
@@ -12,8 +14,13 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
+
+#include <memory>
+#include <utility>
 
 namespace vantrell
 {
@@ -85,8 +92,21 @@ void MediaPane::makeFooter()
 
 void MediaPane::prepareToShow()
 {
+    // A volume that does not answer must not hold up the window.
+    DocumentDisposal::runBeside([pane = QPointer(this), count = ++m_driveLookups] {
+        auto drives = std::make_shared<std::vector<DriveItem>>();
+        MediaFilter::populateDrivePopUp(*drives);
+        MainThread::post([pane, drives, count] {
+            if (pane && count == pane->m_driveLookups)
+                pane->setDrives(std::move(*drives));
+        });
+    });
+}
+
+void MediaPane::setDrives(std::vector<DriveItem> drives)
+{
     const QString chosen = workbench().document().viewState().mediaDrive;
-    MediaFilter::populateDrivePopUp(m_driveItems);
+    m_driveItems = std::move(drives);
     m_drives->clear();
     int place = 0;
     for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
@@ -96,7 +116,8 @@ void MediaPane::prepareToShow()
             place = int(i);
     }
     m_drives->setCurrentIndex(place);
-    workbench().document().viewState().mediaDrive = m_driveItems[std::size_t(place)].path;
+    if (!chosen.isNull() && place == 0 && workbench().document().viewState().selectedTab == Tab::Media)
+        applyFilters(); // the chosen drive has gone
 }
 
 void MediaPane::applyFilters()
@@ -112,10 +133,12 @@ void MediaPane::setMediaChart(const std::vector<double> &values)
 {
     m_chart->setValues(values);
     m_chart->refresh();
-    if (values.size() == 2)
-        m_chart->setToolTip(
-            tr("Media on show: %1 (green)\nFree on the start-up volume: %2 (blue)")
-                .arg(MediaFile::formatFileSize(values[0]), MediaFile::formatFileSize(values[1])));
+    if (values.size() != 2)
+        return;
+    const QString text = tr("Media on show: %1 (green)\nFree on the start-up volume: %2 (blue)")
+                             .arg(MediaFile::formatFileSize(values[0]), MediaFile::formatFileSize(values[1]));
+    m_chart->setToolTip(text);
+    m_chart->setAccessibleDescription(text);
 }
 
 void MediaPane::revealMediaInFinder()
@@ -131,7 +154,7 @@ void MediaPane::updateControls()
 QString MediaPane::loadingText(std::size_t found) const
 {
     return found == 0 ? tr("Looking for media…")
-                      : tr("Looking for media: %n file(s) so far…", nullptr, int(found));
+                      : tr("Looking for media: %1 so far…").arg(QLocale().toString(qulonglong(found)));
 }
 
 QString MediaPane::emptyText() const

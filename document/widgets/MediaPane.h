@@ -33,6 +33,7 @@ protected:
     QString filteredText() const override;
 
 private:
+    void setDrives(std::vector<DriveItem> drives);
     void makeControls();
     void makeFooter();
     void applyFilters();
@@ -42,6 +43,7 @@ private:
     QPushButton *m_reveal;
     QVGraphView *m_chart;
     std::vector<DriveItem> m_driveItems;
+    int m_driveLookups = 0; // begun so far
 };
 
 } // namespace vantrell

@@ -2,9 +2,9 @@
 
 #include "document/widgets/TableIcons.h"
 #include "media/MediaColumns.h"
+#include "media/MediaDrives.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
-#include "support/StandardFolders.h"
 
 namespace vantrell
 {
@@ -19,7 +19,7 @@ enum Column { FileName, FileType, FileSize, ModDate, UsageCount, Missing, Direct
 
 MediaTableModel::MediaTableModel(MyDocument &document, QObject *parent)
     : TableModel(document, Tab::Media, mediaColumns, parent)
-    , m_volumesFolders(QStringList(QStringLiteral("/Volumes")) + StandardFolders::volumesFolders())
+    , m_volumesFolders(QStringList(QStringLiteral("/Volumes")) + answeringVolumesFolders())
 {
 }
 

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace vantrell
@@ -20,6 +21,7 @@ ProgressSheet::ProgressSheet(QWidget *window)
     m_progressBar->setTextVisible(false);
     m_progressBar->setMinimumWidth(320);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_cancel = buttons->button(QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::rejected, this, &ProgressSheet::cancelled);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_progressLabel);
@@ -29,7 +31,10 @@ ProgressSheet::ProgressSheet(QWidget *window)
 
 void ProgressSheet::startProgress()
 {
-    m_progressBar->setRange(0, 0);
+    if (!isVisible()) {
+        m_progressBar->setRange(0, 0);
+        setCancellable(true);
+    }
     show();
     raise();
 }
@@ -37,6 +42,24 @@ void ProgressSheet::startProgress()
 void ProgressSheet::updateProgressLabel(const QString &text)
 {
     m_progressLabel->setText(text);
+}
+
+void ProgressSheet::setProgress(std::size_t done, std::size_t total)
+{
+    constexpr int steps = 1000;
+    m_progressBar->setRange(0, steps);
+    m_progressBar->setValue(total > 0 ? int(done * steps / total) : 0);
+}
+
+void ProgressSheet::setCancellable(bool cancellable)
+{
+    m_cancel->setEnabled(cancellable);
+}
+
+void ProgressSheet::reject()
+{
+    if (m_cancel->isEnabled())
+        Q_EMIT cancelled();
 }
 
 void ProgressSheet::endProgress()

@@ -2,8 +2,11 @@
 
 #include <QDialog>
 
+#include <cstddef>
+
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace vantrell
 {
@@ -19,6 +22,10 @@ public:
     /// Shows the sheet, or brings it to the front.
     void startProgress();
     void updateProgressLabel(const QString &text);
+    /// How much is done; until it is told the bar shows only that something goes on.
+    void setProgress(std::size_t done, std::size_t total);
+    /// Whether the Cancel button can be pressed; it can when the sheet is shown.
+    void setCancellable(bool cancellable);
     void endProgress();
 
 Q_SIGNALS:
@@ -26,10 +33,11 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    void reject() override { Q_EMIT cancelled(); }
+    void reject() override;
 
     QLabel *m_progressLabel;
     QProgressBar *m_progressBar;
+    QPushButton *m_cancel;
 };
 
 } // namespace vantrell

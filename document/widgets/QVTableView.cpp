@@ -114,9 +114,25 @@ bool QVTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
     const bool starts = trigger == AllEditTriggers || trigger == EditKeyPressed;
     const bool needsSelecting = starts && index.isValid() && index.flags().testFlag(Qt::ItemIsEditable) &&
                                 !selectionModel()->isSelected(index);
-    if (needsSelecting)
+    if (needsSelecting) {
         selectRow(index.row());
-    return QTableView::edit(index, trigger, event);
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    }
+    if (!QTableView::edit(index, trigger, event))
+        return false;
+    m_edited = index;
+    return true;
+}
+
+void QVTableView::commitEditing()
+{
+    QWidget *const editor = isEditing() ? indexWidget(m_edited) : nullptr;
+    if (!editor)
+        return;
+    const QPointer<QWidget> open(editor);
+    commitData(editor);
+    if (open) // unless the edit exchanged the rows
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void QVTableView::keyPressEvent(QKeyEvent *event)

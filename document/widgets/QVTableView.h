@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QMenu>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTableView>
 
@@ -45,6 +46,7 @@ public:
     void setMenu(QMenu *menu) { m_menu = menu; }
     /// Selects the row at the position alone and gives the menu.
     QMenu *menuForEvent(const QPoint &position);
+    QMenu *menu() const { return m_menu; }
 
     /// What stands in the table while it has no rows.
     QString placeholder() const { return m_placeholder; }
@@ -52,6 +54,8 @@ public:
 
     using QTableView::edit;
     bool isEditing() const { return state() == EditingState; }
+    /// Ends the editing of a cell with what has been typed so far; nothing when none is edited.
+    void commitEditing();
 
 Q_SIGNALS:
     void copyRequested();
@@ -77,6 +81,7 @@ private:
     KeyHandler m_keyDown;
     KeyHandler m_keyUp;
     QPointer<QMenu> m_menu;
+    QPersistentModelIndex m_edited; // the cell whose editor was opened last
     QString m_placeholder;
 };
 

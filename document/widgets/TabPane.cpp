@@ -14,6 +14,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -79,6 +80,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
 {
     m_model->setParent(this);
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
+        const QScopedValueRollback<bool> edits(m_edits, true);
         const std::vector<std::size_t> selected = selectedRows();
         // Of several rows only the first one moves to another owner: let it be the one that was clicked.
         const bool moves = column == QStringLiteral("sequence") || column == QStringLiteral("clip");
@@ -131,6 +133,8 @@ TabPane::~TabPane() = default;
 
 void TabPane::tableWillReload()
 {
+    if (m_reloads == 0 && !m_edits)
+        m_table->commitEditing(); // or it would be lost with the rows
     if (m_reloads++ > 0)
         return;
     rememberRows();
@@ -142,7 +146,8 @@ void TabPane::tableDidReload()
     if (m_reloads == 0 || --m_reloads > 0)
         return;
     m_model->didReload();
-    if (m_workbench.document().tableTab() == tab())
+    m_isFilled = m_workbench.document().tableTab() == tab();
+    if (m_isFilled)
         restoreRows();
     updatePlaceholder();
     updateControls();
@@ -211,7 +216,8 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
         std::size_t last = first;
         while (++i < rows.size() && rows[i] == last + 1)
             ++last;
-        if (last < std::size_t(m_model->rowCount()))
+        last = std::min(last, std::size_t(m_model->rowCount()) - 1);
+        if (first <= last && m_model->rowCount() > 0)
             selection.append(
                 QItemSelectionRange(m_model->index(int(first), 0), m_model->index(int(last), lastColumn)));
     }
@@ -266,10 +272,15 @@ void TabPane::copySelection()
 
 // Sorting
 
+void TabPane::sortBy(const QString &identifier)
+{
+    m_sorting.tableViewDidClickTableColumn(identifier);
+    showSortIndicator();
+}
+
 void TabPane::clickHeader(int section)
 {
-    m_sorting.tableViewDidClickTableColumn(m_model->identifierOf(section));
-    showSortIndicator();
+    sortBy(m_model->identifierOf(section));
 }
 
 void TabPane::showSortIndicator()
@@ -341,6 +352,15 @@ void TabPane::saveLayout()
         column.insert(widthKey, m_table->columnWidth(m_model->columnOf(identifier)));
         layout.emplace_back(column);
     }
+    // Columns that are not there now may come back.
+    for (auto stored = m_storedWidths.cbegin(); stored != m_storedWidths.cend(); ++stored) {
+        if (m_model->columnOf(stored.key()) >= 0)
+            continue;
+        PropertyListDictionary column;
+        column.insert(identifierKey, stored.key());
+        column.insert(widthKey, stored.value());
+        layout.emplace_back(column);
+    }
     m_defaults.setValue(layoutKey(tab()), layout);
 }
 
@@ -404,6 +424,7 @@ void TabPane::setLabel(Label label, const QString &text)
 void TabPane::setSpinning(bool spinning)
 {
     m_spinning = spinning;
+    m_isFilled = false;
     m_busy->setVisible(spinning);
     m_busyText->setVisible(spinning);
     if (spinning)
@@ -428,6 +449,8 @@ void TabPane::updatePlaceholder()
         m_table->setPlaceholder(loadingText(document.foundSoFar(tab())));
     else if (!document.xmlDoc())
         m_table->setPlaceholder(tr("No project is loaded."));
+    else if (!m_isFilled)
+        m_table->setPlaceholder(QString());
     else
         m_table->setPlaceholder(document.listOf(tab()).empty() ? emptyText() : filteredText());
 }

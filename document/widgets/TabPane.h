@@ -63,6 +63,8 @@ public:
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
     const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
+    /// As a click on the column's title: sorts by it, and the other way round when it is sorted by it.
+    void sortBy(const QString &identifier);
 
     /// The columns by their identifiers as they stand from left to right, and changes to them. A column
     /// that is there already gets the title.
@@ -144,7 +146,9 @@ private:
 
     bool m_spinning = false;
     bool m_editingEnabled = false;
+    bool m_isFilled = false;     // the table has got the rows of its list
     bool m_movesColumns = false; // by the program
+    bool m_edits = false;        // a cell's edit is being carried out
     int m_reloads = 0;           // begun and not ended
     bool m_selectionMuted = false;
     RowList m_keptSelection;

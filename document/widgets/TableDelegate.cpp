@@ -153,7 +153,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = field;
     }
     if (editor)
-        editor->setAccessibleName(modelOf(index).columns()[std::size_t(index.column())].title);
+        editor->setAccessibleName(modelOf(index).columnName(index.column()));
     return editor;
 }
 

@@ -1,6 +1,7 @@
 #include "document/widgets/TableModel.h"
 
 #include <QLocale>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -41,6 +42,12 @@ int TableModel::columnOf(const QString &identifier) const
         std::find_if(m_columns.begin(), m_columns.end(),
                      [&identifier](const TableColumn &column) { return column.identifier == identifier; });
     return found == m_columns.end() ? -1 : int(found - m_columns.begin());
+}
+
+QString TableModel::columnName(int column) const
+{
+    const QVariant name = headerData(column, Qt::Horizontal, Qt::AccessibleTextRole);
+    return name.isValid() ? name.toString() : headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
 void TableModel::addColumn(const QString &identifier, const QString &title)
@@ -167,8 +174,9 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return image.isNull() ? QVariant() : QVariant(image);
     }
     case Qt::ToolTipRole: {
+        // What the project holds is shown as it stands, whatever it looks like.
         const QString tip = toolTip(record, column);
-        return tip.isEmpty() ? QVariant() : QVariant(tip);
+        return tip.isEmpty() ? QVariant() : QVariant(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
     }
     case Qt::TextAlignmentRole:
         return QVariant(alignment(column));

@@ -40,6 +40,8 @@ public:
     const TableColumns &columns() const { return m_columns; }
     /// -1 for one that is not there.
     int columnOf(const QString &identifier) const;
+    /// What a column is called where its title may be empty.
+    QString columnName(int column) const;
     const QString &identifierOf(int column) const { return m_columns[std::size_t(column)].identifier; }
     /// A column that is there already gets the title.
     void addColumn(const QString &identifier, const QString &title);

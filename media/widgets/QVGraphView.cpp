@@ -31,6 +31,15 @@ QPainterPath pathOf(const ChartSlice &slice, const QPointF &centre, double radiu
     return path;
 }
 
+/// Upwards to the right through the whole of the bounds: from where a line across the direction first
+/// touches them to where it leaves them.
+QLinearGradient gradientAt45Degrees(const QRectF &bounds)
+{
+    const double half = (bounds.width() + bounds.height()) / 4;
+    const QPointF reach(half, -half);
+    return QLinearGradient(bounds.center() - reach, bounds.center() + reach);
+}
+
 } // namespace
 
 QVGraphView::QVGraphView(QWidget *parent)
@@ -47,18 +56,22 @@ QSize QVGraphView::sizeHint() const
 
 void QVGraphView::paintEvent(QPaintEvent *)
 {
-    const MediaChart chart = mediaChart(m_type, m_values, width(), height());
+    QPainter painter(this);
+    drawRect(painter, rect());
+}
+
+void QVGraphView::drawRect(QPainter &painter, const QRectF &area) const
+{
+    const MediaChart chart = mediaChart(m_type, m_values, area.width(), area.height());
     if (chart.slices.empty())
         return;
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPointF centre(chart.centreX, height() - chart.centreY);
+    const QPointF centre(chart.centreX, area.height() - chart.centreY);
     for (const ChartSlice &slice : chart.slices) {
         const QPainterPath path = pathOf(slice, centre, chart.radius);
         painter.strokePath(path, QPen(colorOf(slice.wideOutline), MediaChart::wideLine));
         if (slice.fill) {
-            const QRectF bounds = path.boundingRect();
-            QLinearGradient gradient(bounds.bottomLeft(), bounds.topRight());
+            QLinearGradient gradient = gradientAt45Degrees(path.boundingRect());
             gradient.setColorAt(0, colorOf(slice.fill->from));
             gradient.setColorAt(1, colorOf(slice.fill->to));
             painter.fillPath(path, gradient);

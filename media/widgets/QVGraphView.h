@@ -4,6 +4,8 @@
 
 #include <vector>
 
+class QPainter;
+
 namespace vantrell
 {
 
@@ -24,6 +26,9 @@ public:
     void refresh() { update(); }
 
     QSize sizeHint() const override;
+
+    /// Draws the chart for an area of that size, which begins in the painter's origin.
+    void drawRect(QPainter &painter, const QRectF &area) const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -81,7 +81,8 @@ AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &desc
     QWidget *const window = windowOf(parent);
     auto *const box = new QMessageBox(window);
     box->setWindowTitle(QCoreApplication::applicationName());
-    box->setIcon(QMessageBox::Warning);
+    const bool asks = !description.value(AlertKey::AlternateButtonTitle).isEmpty();
+    box->setIcon(asks ? QMessageBox::Question : QMessageBox::Warning);
     setTexts(*box, description);
     const auto answers = addButtons(*box, description);
     addSuppression(*box, description.value(AlertKey::SuppressionBinding));

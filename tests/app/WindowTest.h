@@ -8,8 +8,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include <functional>
@@ -63,6 +65,25 @@ inline void pressLater(const QString &title)
             timer->deleteLater();
     });
     timer->start(5);
+}
+
+/// Saves, to another place when one is named, and waits for the end of it.
+inline bool saves(DocumentWindow &window, const QString &path = QString())
+{
+    QSignalSpy saved(&window, &DocumentWindow::saved);
+    window.saveTo(path.isEmpty() ? window.path() : path);
+    const bool hasEnded = !saved.isEmpty() || saved.wait(30000);
+    return hasEnded && saved.at(0).at(0).toBool();
+}
+
+/// The line below the table of markers.
+inline QString statusOf(const DocumentWindow &window)
+{
+    for (const QLabel *const label : window.pane(Tab::Markers).findChildren<QLabel *>()) {
+        if (label->isVisible() && label->text().contains(QStringLiteral("marker")))
+            return label->text();
+    }
+    return QString();
 }
 
 /// The texts of a column, from the top.

@@ -7,6 +7,7 @@
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentDisposal.h"
+#include "markers/MarkerKeys.h"
 #include "support/PropertyList.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -207,26 +208,59 @@ private Q_SLOTS:
         }
     }
 
+    void importsAndExportsMarkerLists_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QByteArray>("list");
+        QTest::addColumn<QByteArray>("exported"); // a line; empty where there is no export
+        QTest::newRow("fcp") << "Final Cut Pro Markers…"
+                             << QByteArray("Header\nA\tClip\tCue\tNew\t01:00:20:00\t00:00:00:00\tGreen\n")
+                             << QByteArray("\tSequence\tCue\tNew\t01:00:20:00\t00:00:00:00\tGreen\n");
+        QTest::newRow("avid") << "Avid Locators…" << QByteArray("Cue\t01:00:20:00\tV1\tred\tNew\n")
+                              << QByteArray("Cue\t01:00:20:00\tV1\tred\tNew\n");
+        QTest::newRow("fcpx") << "Final Cut Pro X Markers…"
+                              << QByteArray("<fcpxml><resources><format id=\"r1\" frameDuration=\"1/25s\"/>"
+                                            "</resources><project><sequence format=\"r1\" tcStart=\"3600s\">"
+                                            "<spine><gap start=\"3600s\" offset=\"3600s\" duration=\"40s\">"
+                                            "<marker start=\"3620s\" value=\"Cue\"/></gap></spine></sequence>"
+                                            "</project></fcpxml>")
+                              << QByteArray();
+    }
     void importsAndExportsMarkerLists()
     {
+        QFETCH(QString, format);
+        QFETCH(QByteArray, list);
+        QFETCH(QByteArray, exported);
         start();
         m_controller->applicationOpenFile(m_path);
         DocumentWindow *const window = m_controller->currentWindow();
         QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
-        const QString list =
-            m_home->addFile(QStringLiteral("project/list.txt"), "Cue\t01:00:20:00\tV1\tred\tNew\n");
-        window->importAvidLocators();
+        const QString suffix = exported.isEmpty() ? QStringLiteral("fcpxml") : QStringLiteral("txt");
+        const QString path = m_home->addFile(QStringLiteral("project/list.") + suffix, list);
+        QVERIFY(trigger(*window, format, QStringLiteral("Import")));
         QVERIFY(visiblePanel());
         QCOMPARE(visiblePanel()->fileMode(), QFileDialog::ExistingFiles);
-        choose(list);
+        choose(path);
         QTRY_COMPARE(window->document()->markerArray().size(), std::size_t(25));
+        QCOMPARE(window->document()->markerArray().back()->get(MarkerKey::name), QStringLiteral("Cue"));
         QVERIFY(window->isWindowModified());
-        window->exportAvidLocators();
-        QVERIFY(visiblePanel());
+        QTRY_VERIFY(!window->isBusy());
+        QCOMPARE(trigger(*window, format, QStringLiteral("Export")), !exported.isEmpty());
+        if (exported.isEmpty())
+            return;
+        QTRY_VERIFY(visiblePanel());
         choose(m_home->path(QStringLiteral("project/out")));
         QTRY_VERIFY(QFile::exists(m_home->path(QStringLiteral("project/out.txt"))));
-        QVERIFY(contentOf(m_home->path(QStringLiteral("project/out.txt")))
-                    .contains("Cue\t01:00:20:00\tV1\tred\tNew\n"));
+        QVERIFY(contentOf(m_home->path(QStringLiteral("project/out.txt"))).endsWith(exported));
+        // A folder stands in the file's place.
+        QVERIFY(QDir().mkpath(m_home->path(QStringLiteral("project/taken.txt/inside"))));
+        QString told;
+        QTimer::singleShot(200, window, [&told] {
+            told = visibleBox() ? visibleBox()->text() : QString();
+            pressLater(QStringLiteral("OK"));
+        });
+        window->exportMarkerList(m_home->path(QStringLiteral("project/taken.txt")), MarkerListFormat::fcp);
+        QCOMPARE(told, QStringLiteral("Error saving marker list"));
     }
 
     void quittingAsksAboutChanges()
@@ -330,9 +364,12 @@ private:
         return actions;
     }
     /// Triggers the menu's command; false when it is disabled.
-    static bool trigger(const QMainWindow &window, const QString &title)
+    static bool trigger(const QMainWindow &window, const QString &title, const QString &menu = QString())
     {
         for (QAction *const action : actionsOf(window)) {
+            const auto *const parent = qobject_cast<QMenu *>(action->parent());
+            if (!menu.isEmpty() && (!parent || parent->title().remove(QLatin1Char('&')) != menu))
+                continue;
             if (action->text().remove(QLatin1Char('&')) == title && action->isEnabled()) {
                 action->trigger();
                 return true;

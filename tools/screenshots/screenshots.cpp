@@ -60,6 +60,7 @@ bool take(QWidget &window, const QString &path)
 bool takeAll(const QString &project, const QString &folder, const QString &theme)
 {
     UserDefaults defaults(QString(), UserDefaults::Access::Volatile);
+    AppController::startLog();
     AppController controller(defaults);
     controller.openFiles({project});
     DocumentWindow *const window = controller.currentWindow();

@@ -1,0 +1,77 @@
+// The saving side of MyDocument.
+
+#include "document/MyDocument.h"
+
+#include "support/QVAlert.h"
+
+#include <QFileInfo>
+
+namespace vantrell
+{
+
+Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
+{
+    const Result<void> mayWrite = prepareSaving(url, typeName);
+    return mayWrite ? noteSaved(m_xmlDoc->save(url.toLocalFile())) : mayWrite;
+}
+
+void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
+                                   std::function<void(const Result<void> &)> done)
+{
+    const Result<void> mayWrite = prepareSaving(url, typeName);
+    if (!mayWrite) {
+        done(mayWrite);
+        return;
+    }
+    m_isSaving = true;
+    m_savingCancelled = false;
+    m_saver = std::thread([this, path = url.toLocalFile(), done = std::move(done)] {
+        const Result<void> saved = m_xmlDoc->save(path, &m_savingCancelled);
+        const bool isCancelled = !saved && m_savingCancelled;
+        m_mainThread->post([this, done, outcome = isCancelled ? Failure{SaveFailure::cancelled} : saved] {
+            m_saver.join();
+            m_isSaving = false;
+            done(noteSaved(outcome));
+        });
+    });
+}
+
+Result<void> MyDocument::prepareSaving(const QUrl &url, const QString &typeName)
+{
+    if (m_isSaving)
+        return Failure{QStringLiteral("The project is being saved already.")};
+    if (typeName == DocumentType::finalCutProProject) {
+        if (m_services.sendToFCP)
+            m_services.sendToFCP(*this);
+        return Failure{QStringLiteral("The project was sent to Final Cut Pro instead of being saved.")};
+    }
+    if (!m_xmlDoc)
+        return Failure{QStringLiteral("There is no project to save.")};
+    if (!confirmSavingRepaired(url.toLocalFile()))
+        return Failure{SaveFailure::notOverwritten};
+    return {};
+}
+
+Result<void> MyDocument::noteSaved(Result<void> saved)
+{
+    if (saved) {
+        m_isFCPProject = false;
+        m_isPremiereProject = false;
+    }
+    return saved;
+}
+
+bool MyDocument::confirmSavingRepaired(const QString &path)
+{
+    const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
+    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs || !overItself || !QFileInfo::exists(path))
+        return true;
+    const int answer = QVAlert::alertSheetWithMessageText(
+        QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),
+        QStringLiteral("Cancel"), QString(),
+        QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?"),
+        m_interface.alertParent(), true);
+    return answer == AlertAnswer::Default;
+}
+
+} // namespace vantrell

@@ -1,0 +1,92 @@
+#include "document/widgets/MarkerListImport.h"
+
+#include "document/TableUpdates.h"
+#include "document/widgets/DocumentDisposal.h"
+#include "interchange/MarkerListImporter.h"
+#include "support/QVException.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// How long a few markers may take to be added: the window answers in between.
+constexpr std::chrono::milliseconds slice{15};
+
+} // namespace
+
+MarkerListImport::MarkerListImport(MyDocument &document, const MarkerListImporter &importer,
+                                   const QStringList &paths, const QString &format, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_importer(importer)
+    , m_paths(paths)
+    , m_format(format)
+{
+}
+
+MarkerListImport::~MarkerListImport()
+{
+    *m_isWanted = false;
+}
+
+void MarkerListImport::start()
+{
+    const auto gate = m_document.mainThread();
+    DocumentDisposal::runBeside([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
+        auto rows = std::make_shared<RowList>();
+        guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
+                [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });
+        gate->post([this, isWanted, rows] {
+            if (*isWanted)
+                add(std::move(*rows));
+        });
+    });
+}
+
+void MarkerListImport::cancel()
+{
+    if (!*m_isWanted || m_updates)
+        return;
+    *m_isWanted = false;
+    Q_EMIT ended(0);
+}
+
+void MarkerListImport::add(RowList rows)
+{
+    if (rows.empty()) {
+        Q_EMIT ended(0);
+        m_importer.tellNothingToImport();
+        return;
+    }
+    m_rows = std::move(rows);
+    m_updates = std::make_unique<TableUpdates>(m_document);
+    addSome();
+}
+
+void MarkerListImport::addSome()
+{
+    // An alert on the way takes its answer here: the next few wait for it.
+    m_added = m_importer.addMarkers(m_rows, m_added, slice);
+    if (m_document.isClosing() || m_document.mainThread()->isClosed())
+        return;
+    Q_EMIT progressed(m_added, m_rows.size());
+    if (m_added < m_rows.size())
+        QTimer::singleShot(0, this, &MarkerListImport::addSome);
+    else
+        end();
+}
+
+void MarkerListImport::end()
+{
+    m_updates.reset(); // the table shows them all at once
+    Q_EMIT ended(m_added);
+}
+
+} // namespace vantrell
