@@ -18,6 +18,7 @@ namespace vantrell
 
 class DocumentWindowInterface;
 class MyDocument;
+class MarkersPane;
 class NoticeBar;
 class ProgressSheet;
 class TabPane;
@@ -86,6 +87,10 @@ public Q_SLOTS:
     void exportFCPMarkers();
     void exportAvidLocators();
 
+    /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
+    void showMarkerFieldsDialog();
+    void showMarkerPresetDialog();
+
     // The edit menu, for the pane that shows
     void copySelection();
     void selectAllRows();
@@ -119,6 +124,7 @@ private:
     void setEditingEnabled(bool enabled);
     void setPath(const QString &path);
     void showPane(Tab tab);
+    MarkersPane &markersPane() const;
     void applyDefaultsChange(const QString &key);
 
     bool respondsTo(const QString &selector) const override;
