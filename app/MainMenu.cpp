@@ -119,6 +119,11 @@ void MainMenu::makeEditMenu()
     menu->addSeparator();
     m_remove = add(menu, tr("&Remove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
                    &DocumentWindow::removeSelection);
+    menu->addSeparator();
+    m_documentActions << add(menu, tr("Marker &Fields…"), {}, m_document,
+                             &DocumentWindow::showMarkerFieldsDialog)
+                      << add(menu, tr("Create Marker &Preset…"), {}, m_document,
+                             &DocumentWindow::showMarkerPresetDialog);
 }
 
 void MainMenu::makeViewMenu()

@@ -27,6 +27,10 @@ public:
     void addMarkerColumn(const QString &identifier, const QString &title) override;
     void removeMarkerColumn(const QString &identifier) override;
     void moveMarkerColumn(const QString &identifier, int index) override;
+    void setMarkerPresetMenu(const QStringList &, int) override {}
+    void setMarkerLabels(const QStringList &) override {}
+    void showMarkerPresetSheet() override {}
+    void hideMarkerPresetSheet() override {}
     void setMediaChart(const std::vector<double> &values) override { m_chart = values; }
     void startProgress() override {}
     void updateProgressLabel(const QString &) override {}

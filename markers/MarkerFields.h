@@ -3,6 +3,7 @@
 #include "support/PropertyListValue.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -31,14 +32,22 @@ public:
 
     const std::vector<MarkerField> &markerFieldArray() const { return m_markerFieldArray; }
 
-    /// Loads the definitions and brings the columns of the marker table in line with them.
+    /// Loads the definitions and brings the columns of the marker table in line with them. Left until the
+    /// sheet closes while that is open.
     void setupMarkerFields();
+    /// The stored definitions changed: the same, unless it was this document that stored them.
+    void definitionsChanged();
 
     /// The identifier that a text gives: in upper case, without the first character that is no letter
     /// from A to Z and no underscore, with "QVCUSTOM_" in front.
     static QString formatMarkerFieldName(const QString &name);
 
-    // The sheet's edits change only the definitions here, until storeAndSetup().
+    // The sheet's edits change only the definitions here, until it closes.
+
+    /// The sheet opens, over what is stored.
+    void showMarkerFieldsDialog();
+    /// It closes: stores its definitions and applies them.
+    void hideMarkerFieldsDialog();
 
     /// Appends a definition without an identifier, titled "Untitled".
     void markerFieldAdd();
@@ -46,19 +55,20 @@ public:
     void markerFieldRemove(std::size_t row);
     /// The cell of the column "title" or "identifier". Nothing happens for another one.
     void setObjectValue(const QString &text, const QString &column, std::size_t row);
-    /// Stores the definitions and applies them; for when the sheet closes.
-    void storeAndSetup();
 
     /// The user moved a column of the marker table: a custom field keeps its new place.
     void columnMoved(const QString &identifier, int newIndex);
 
 private:
+    QStringList placedColumns(QStringList columns) const;
     void load();
     void store();
 
     MyDocument &m_document;
     UserDefaults *m_defaults;
     std::vector<MarkerField> m_markerFieldArray;
+    bool m_sheetIsOpen = false;
+    bool m_isStoring = false;
 };
 
 } // namespace vantrell

@@ -6,6 +6,7 @@ namespace vantrell
 Workbench::Workbench(DocumentInterface &interface, Inventories inventories, UserDefaults *defaults)
     : m_document(interface, services(inventories))
     , m_markerFields(m_document, defaults)
+    , m_markerPresets(m_document, defaults)
 {
 }
 

@@ -8,6 +8,7 @@
 #include "markers/MarkerEditor.h"
 #include "markers/MarkerFields.h"
 #include "markers/MarkerInventory.h"
+#include "markers/MarkerPresets.h"
 #include "media/MediaFilter.h"
 #include "media/MediaInventory.h"
 
@@ -35,6 +36,7 @@ public:
     EffectInventory &effectInventory() { return m_effectInventory; }
     EffectEditor &effectEditor() { return m_effectEditor; }
     MarkerFields &markerFields() { return m_markerFields; }
+    MarkerPresets &markerPresets() { return m_markerPresets; }
     MarkerInventory &markerInventory() { return m_markerInventory; }
     MarkerEditor &markerEditor() { return m_markerEditor; }
     const MarkerListImporter &markerListImporter() const { return m_markerListImporter; }
@@ -55,6 +57,7 @@ private:
     EffectInventory m_effectInventory{m_document};
     EffectEditor m_effectEditor{m_document, m_effectInventory};
     MarkerFields m_markerFields;
+    MarkerPresets m_markerPresets;
     MarkerInventory m_markerInventory{m_document, m_markerFields};
     MarkerEditor m_markerEditor{m_document, m_markerInventory};
     MarkerListImporter m_markerListImporter{m_document, m_markerEditor};

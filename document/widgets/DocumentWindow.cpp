@@ -41,7 +41,6 @@ namespace
 {
 
 const QString placeKey = QStringLiteral("documentWindowPlace");
-const QString markerFieldsKey = QStringLiteral("customMarkerFields");
 
 constexpr int redrawMs = 50;
 constexpr int progressDelayMs = 400; // what is over sooner shows no sheet
@@ -182,7 +181,10 @@ bool DocumentWindow::open(const QString &path)
         showFailure(tr("The file is of no type that can be opened."));
         return false;
     }
+    const QPointer<DocumentWindow> self(this);
     toolbarMedia();
+    if (self && m_workbench && !m_closing)
+        m_workbench->markerPresets().populateMarkerPresets();
     return true;
 }
 
@@ -403,8 +405,25 @@ void DocumentWindow::showPane(Tab tab)
 
 void DocumentWindow::applyDefaultsChange(const QString &key)
 {
-    if (key == markerFieldsKey && m_workbench && !m_closing)
-        m_workbench->markerFields().setupMarkerFields();
+    if (m_panes[std::size_t(Tab::Markers)] && !m_closing)
+        markersPane().applyDefaultsChange(key);
+}
+
+MarkersPane &DocumentWindow::markersPane() const
+{
+    return static_cast<MarkersPane &>(pane(Tab::Markers));
+}
+
+void DocumentWindow::showMarkerFieldsDialog()
+{
+    toolbarMarkers();
+    markersPane().showMarkerFieldsDialog();
+}
+
+void DocumentWindow::showMarkerPresetDialog()
+{
+    toolbarMarkers();
+    markersPane().showMarkerPresetDialog();
 }
 
 QString DocumentWindow::folder() const
@@ -450,7 +469,7 @@ void DocumentWindow::removeSelection()
     if (selectedTab() == Tab::Effects)
         static_cast<EffectsPane &>(pane(Tab::Effects)).removeEffects();
     else if (selectedTab() == Tab::Markers)
-        static_cast<MarkersPane &>(pane(Tab::Markers)).removeMarkers();
+        markersPane().removeMarkers();
 }
 
 void DocumentWindow::restorePlace()

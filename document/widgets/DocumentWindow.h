@@ -22,6 +22,7 @@ namespace vantrell
 
 class DocumentWindowInterface;
 class MyDocument;
+class MarkersPane;
 class NoticeBar;
 class ProgressSheet;
 class TabPane;
@@ -99,6 +100,10 @@ public Q_SLOTS:
     /// What the save panel ends with.
     void exportMarkerList(const QString &path, const QString &format);
 
+    /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
+    void showMarkerFieldsDialog();
+    void showMarkerPresetDialog();
+
     // The edit menu, for the pane that shows
     void copySelection();
     void selectAllRows();
@@ -149,6 +154,7 @@ private:
     void tellOfImport(std::size_t imported, const QStringList &paths);
     void setPath(const QString &path);
     void showPane(Tab tab);
+    MarkersPane &markersPane() const;
     void applyDefaultsChange(const QString &key);
 
     bool respondsTo(const QString &selector) const override;

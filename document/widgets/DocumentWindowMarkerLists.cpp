@@ -74,7 +74,7 @@ void DocumentWindow::tellOfImport(std::size_t imported, const QStringList &paths
     const QString count = imported == 1
                               ? tr("1 marker imported")
                               : tr("%1 markers imported").arg(QLocale().toString(qulonglong(imported)));
-    static_cast<MarkersPane &>(pane(Tab::Markers)).showMessage(count + QLatin1Char(' ') + source);
+    markersPane().showMessage(count + QLatin1Char(' ') + source);
 }
 
 void DocumentWindow::runSavePanel(const QString &format)
@@ -95,10 +95,9 @@ void DocumentWindow::exportMarkerList(const QString &path, const QString &format
     if (!exporter.markerSaveDialogDidEnd(path, MarkerListPanel::accepted, format) || m_closing)
         return;
     const QString name = QFileInfo(path).fileName();
-    static_cast<MarkersPane &>(pane(Tab::Markers))
-        .showMessage(
-            count == 1 ? tr("1 marker exported to “%1”").arg(name)
-                       : tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name));
+    markersPane().showMessage(
+        count == 1 ? tr("1 marker exported to “%1”").arg(name)
+                   : tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name));
 }
 
 void DocumentWindow::importFCPMarkers()

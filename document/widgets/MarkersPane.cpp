@@ -1,14 +1,19 @@
 #include "document/widgets/MarkersPane.h"
 
+#include "document/widgets/ControlPopUp.h"
+#include "document/widgets/MarkerFieldsSheet.h"
 #include "document/widgets/MarkerOffsetSheet.h"
+#include "document/widgets/MarkerPresetPopUp.h"
+#include "document/widgets/MarkerPresetSheet.h"
 #include "document/widgets/MarkerTableModel.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableIcons.h"
 #include "markers/MarkerTableValues.h"
+#include "support/FolderWatcher.h"
 #include "workbench/Workbench.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -23,28 +28,41 @@ namespace
 
 constexpr int messageMs = 30000;
 
+/// A sheet that was closed stays until events are dispatched.
+bool isOpen(const QDialog *sheet)
+{
+    return sheet && sheet->isVisible();
+}
+
 } // namespace
 
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
               MarkerTableValues::sortValueOfColumn, parent)
-    , m_filter(new QComboBox(this))
+    , m_filter(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
     , m_remove(new QPushButton(tr("Re&move…"), this))
     , m_offset(new QPushButton(tr("&Offset…"), this))
+    , m_markerPresetPopUp(new MarkerPresetPopUp(this))
+    , m_fields(new QPushButton(tr("Fie&lds…"), this))
     , m_status(new QLabel(this))
     , m_messageTime(new QTimer(this))
 {
     m_filter->addItem(tr("All Colors"));
     for (int i = 0; i < markerModel().colorLabels().size(); ++i)
         m_filter->addItem(TableIcons::marker(i), markerModel().colorLabels()[i]);
-    m_filter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_filter->setAccessibleName(tr("Color of markers"));
     m_filter->setToolTip(tr("Show markers of one color only"));
     m_add->setToolTip(tr("Add a marker to the first sequence"));
     m_remove->setToolTip(tr("Remove the selected markers from the project"));
     m_offset->setToolTip(tr("Move the in points of the selected markers"));
-    addControls({m_filter, m_add, m_remove, m_offset});
+    auto *const preset = new QLabel(tr("&Preset:"), this);
+    preset->setBuddy(m_markerPresetPopUp);
+    m_markerPresetPopUp->setAccessibleName(tr("Marker preset"));
+    m_markerPresetPopUp->setToolTip(tr("Choose labels of your own for the colors"));
+    m_fields->setToolTip(tr("Define columns of your own for the markers"));
+    addControls(
+        {m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_remove, m_offset, nullptr, m_fields});
     footer().addWidget(m_status);
     m_status->setTextFormat(Qt::PlainText);
     m_messageTime->setSingleShot(true);
@@ -69,12 +87,38 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
             table().edit(index);
     });
+    makeMenus();
+    updateControls();
+
+    connect(m_markerPresetPopUp, &MarkerPresetPopUp::presetChosen, this,
+            [this](int item) { this->workbench().markerPresets().changeMarkerPreset(item); });
+    connect(m_markerPresetPopUp, &MarkerPresetPopUp::createRequested, this,
+            &MarkersPane::showMarkerPresetDialog);
+    connect(m_fields, &QPushButton::clicked, this, &MarkersPane::showMarkerFieldsDialog);
+    auto *const presetFiles = new FolderWatcher(MarkerPresets::folder(), this);
+    connect(presetFiles, &FolderWatcher::changed, this,
+            [this] { this->workbench().markerPresets().refreshMarkerPresets(); });
+}
+
+MarkersPane::~MarkersPane()
+{
+    if (m_fieldsSheet)
+        m_fieldsSheet->done(QDialog::Accepted);
+}
+
+void MarkersPane::makeMenus()
+{
     auto *menu = new QMenu(this);
     menu->addAction(tr("Offset…"), this, &MarkersPane::showMarkerOffsetWindow);
     menu->addAction(tr("Remove…"), this, &MarkersPane::removeMarkers);
     menu->addAction(tr("Copy"), this, &TabPane::copySelection);
     table().setMenu(menu);
-    updateControls();
+    QHeaderView *const header = table().horizontalHeader();
+    header->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(header->addAction(tr("Marker Fields…")), &QAction::triggered, this,
+            &MarkersPane::showMarkerFieldsDialog);
+    connect(header->addAction(tr("Create Marker Preset…")), &QAction::triggered, this,
+            &MarkersPane::showMarkerPresetDialog);
 }
 
 MarkerTableModel &MarkersPane::markerModel() const
@@ -87,8 +131,15 @@ void MarkersPane::setSequenceMenu(const MenuPtr &)
     markerModel().sequenceMenuChanged();
 }
 
-void MarkersPane::setColorLabels(const QStringList &labels)
+void MarkersPane::setMarkerPresetMenu(const QStringList &titles, int selected)
 {
+    m_markerPresetPopUp->setMenu(titles, selected);
+}
+
+void MarkersPane::setMarkerLabels(const QStringList &labels)
+{
+    if (labels == markerModel().colorLabels())
+        return;
     markerModel().setColorLabels(labels);
     for (int i = 0; i < labels.size() && i + 1 < m_filter->count(); ++i)
         m_filter->setItemText(i + 1, labels[i]);
@@ -131,6 +182,42 @@ void MarkersPane::showMarkerOffsetWindow()
         model().rowsChanged(0, model().rowCount() - 1);
     });
     sheet->open();
+}
+
+void MarkersPane::showMarkerPresetDialog()
+{
+    if (!isOpen(m_presetSheet))
+        workbench().markerPresets().showMarkerPresetDialog();
+}
+
+void MarkersPane::showMarkerPresetSheet()
+{
+    m_presetSheet = new MarkerPresetSheet(workbench().markerPresets(), this);
+    m_presetSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_presetSheet->open();
+}
+
+void MarkersPane::hideMarkerPresetSheet()
+{
+    if (m_presetSheet)
+        m_presetSheet->done(QDialog::Accepted);
+}
+
+void MarkersPane::showMarkerFieldsDialog()
+{
+    if (isOpen(m_fieldsSheet))
+        return;
+    m_fieldsSheet = new MarkerFieldsSheet(workbench().markerFields(), this);
+    m_fieldsSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_fieldsSheet->open();
+}
+
+void MarkersPane::applyDefaultsChange(const QString &key)
+{
+    if (key == QStringLiteral("customMarkerFields"))
+        workbench().markerFields().definitionsChanged();
+    else if (key == QStringLiteral("selectedPreset"))
+        workbench().markerPresets().refreshMarkerPresets();
 }
 
 void MarkersPane::commitEdit(int, const QString &column, const QString &text)

@@ -2,11 +2,15 @@
 
 #include "document/widgets/TabPane.h"
 
+#include <QPointer>
+
 class QComboBox;
+class QDialog;
 
 namespace vantrell
 {
 
+class MarkerPresetPopUp;
 class MarkerTableModel;
 
 /// The markers of the project, where they are edited.
@@ -16,12 +20,18 @@ class MarkersPane : public TabPane
 
 public:
     MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent = nullptr);
+    /// Closes the sheet of the fields.
+    ~MarkersPane() override;
 
     void setSequenceMenu(const MenuPtr &menu) override;
+    void setMarkerPresetMenu(const QStringList &titles, int selected) override;
+    void setMarkerLabels(const QStringList &labels) override;
+    void showMarkerPresetSheet() override;
+    void hideMarkerPresetSheet() override;
     void setEditingEnabled(bool enabled) override;
 
-    /// The eight labels that the colour filter and the colour cells show, by colour index.
-    void setColorLabels(const QStringList &labels);
+    /// A setting that all documents share changed.
+    void applyDefaultsChange(const QString &key);
 
     /// Shows in the status line, for a while, what was done.
     void showMessage(const QString &text);
@@ -32,6 +42,10 @@ public Q_SLOTS:
     void removeMarkers();
     /// Opens the sheet that offsets the in points of the selected markers.
     void showMarkerOffsetWindow();
+    /// Opens the sheet that defines the custom fields.
+    void showMarkerFieldsDialog();
+    /// Opens the sheet that makes a preset.
+    void showMarkerPresetDialog();
     void editCurrentCell();
 
 protected:
@@ -44,14 +58,19 @@ protected:
 
 private:
     MarkerTableModel &markerModel() const;
+    void makeMenus();
 
     QComboBox *m_filter;
     QPushButton *m_add;
     QPushButton *m_remove;
     QPushButton *m_offset;
+    MarkerPresetPopUp *m_markerPresetPopUp;
+    QPushButton *m_fields;
     QLabel *m_status;
     QString m_message;
     QTimer *m_messageTime;
+    QPointer<QDialog> m_presetSheet;
+    QPointer<QDialog> m_fieldsSheet;
 };
 
 } // namespace vantrell

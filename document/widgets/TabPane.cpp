@@ -398,6 +398,10 @@ void TabPane::addControls(std::initializer_list<QWidget *> controls)
 {
     QWidget *previous = nullptr;
     for (QWidget *control : controls) {
+        if (!control) {
+            m_controls->addSpacing(fontMetrics().averageCharWidth() * 3);
+            continue;
+        }
         m_controls->addWidget(control);
         if (previous)
             setTabOrder(previous, control);

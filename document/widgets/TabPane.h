@@ -55,6 +55,10 @@ public:
     /// Labels of other panes are passed over.
     virtual void setLabel(Label label, const QString &text);
     virtual void setSequenceMenu(const MenuPtr &) {}
+    virtual void setMarkerPresetMenu(const QStringList &, int) {}
+    virtual void setMarkerLabels(const QStringList &) {}
+    virtual void showMarkerPresetSheet() {}
+    virtual void hideMarkerPresetSheet() {}
     virtual void setMediaChart(const std::vector<double> &) {}
 
     /// Places among the rows on show, ascending; empty while another tab's rows are on show.
@@ -99,8 +103,8 @@ protected:
             QWidget *parent);
 
     Workbench &workbench() const { return m_workbench; }
-    /// Puts the controls above the table, from the left; the keyboard reaches them in this order, then the
-    /// table.
+    /// Puts the controls above the table, from the left, with a gap where one is null; the keyboard reaches
+    /// them in this order, then the table.
     void addControls(std::initializer_list<QWidget *> controls);
     /// Below the table.
     QVBoxLayout &footer() const { return *m_footer; }

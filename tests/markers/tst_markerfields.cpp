@@ -51,7 +51,7 @@ private Q_SLOTS:
         fields.setObjectValue(QStringLiteral("Take 2"), QStringLiteral("title"), 0);
         fields.setObjectValue(QStringLiteral("none"), QStringLiteral("title"), 9);
         QCOMPARE(columns(project), QStringLiteral("name in QVCUSTOM_OLD"));
-        fields.storeAndSetup();
+        fields.hideMarkerFieldsDialog();
         QCOMPARE(columns(project), QStringLiteral("name in QVCUSTOM_TAKE QVCUSTOM_CAMERA"));
 
         fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 0);
@@ -65,7 +65,7 @@ private Q_SLOTS:
         other.fields.markerFieldRemove(0);
         other.fields.markerFieldRemove(7);
         other.fields.setObjectValue(QStringLiteral("lens"), QStringLiteral("identifier"), 0);
-        other.fields.storeAndSetup();
+        other.fields.hideMarkerFieldsDialog();
         QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
         other.fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 2); // no such place: it stays
         other.fields.setupMarkerFields();

@@ -16,6 +16,14 @@ public:
     void tableWillReload() override { events.append(QStringLiteral("will reload")); }
     void tableDidReload() override { events.append(QStringLiteral("did reload")); }
     void setSequenceMenu(const MenuPtr &menu) override { sequenceMenu = menu; }
+    void setMarkerPresetMenu(const QStringList &titles, int selected) override
+    {
+        presetMenu = titles;
+        selectedPreset = selected;
+    }
+    void setMarkerLabels(const QStringList &labels) override { markerLabels = labels; }
+    void showMarkerPresetSheet() override { events.append(QStringLiteral("show preset sheet")); }
+    void hideMarkerPresetSheet() override { events.append(QStringLiteral("hide preset sheet")); }
     void startProgress() override { events.append(QStringLiteral("start progress")); }
     void updateProgressLabel(const QString &text) override
     {
@@ -34,6 +42,9 @@ public:
 
     QStringList events;
     MenuPtr sequenceMenu;
+    QStringList presetMenu;
+    int selectedPreset = -1; ///< its place in the menu
+    QStringList markerLabels;
     bool loaded = false;
     bool ended = false; ///< loading is over: every inventory has ended, or it failed
     bool edited = false;

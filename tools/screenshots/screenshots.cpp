@@ -1,4 +1,5 @@
-// Takes the pictures of the README: the start window and each tab of a project, light and dark.
+// Takes the pictures of the README: the start window, each tab of a project and the sheets of the Markers
+// tab, light and dark.
 //
 // usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen
 
@@ -9,14 +10,18 @@
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/TabPane.h"
 #include "support/UserDefaults.h"
+#include "workbench/Workbench.h"
 
+#include <QDialog>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace vantrell;
@@ -57,6 +62,16 @@ bool take(QWidget &window, const QString &path)
     return false;
 }
 
+QDialog *visibleSheet(const QWidget &window)
+{
+    const auto dialogs = window.findChildren<QDialog *>();
+    const auto found = std::find_if(dialogs.begin(), dialogs.end(),
+                                    [](const QDialog *dialog) { return dialog->isVisible(); });
+    if (found == dialogs.end())
+        qFatal("The window has no sheet.");
+    return *found;
+}
+
 bool takeAll(const QString &project, const QString &folder, const QString &theme)
 {
     UserDefaults defaults(QString(), UserDefaults::Access::Volatile);
@@ -77,6 +92,26 @@ bool takeAll(const QString &project, const QString &folder, const QString &theme
     window->toolbarMarkers();
     window->pane(Tab::Markers).selectRows({16});
     taken = taken && take(*window, picture(QStringLiteral("markers")));
+    PropertyListValue::Array fields;
+    for (const char *title : {"Take", "Camera"})
+        fields.emplace_back(PropertyListDictionary{
+            {QStringLiteral("identifier"), MarkerFields::formatMarkerFieldName(QLatin1String(title))},
+            {QStringLiteral("title"), QString::fromLatin1(title)}});
+    defaults.setValue(QStringLiteral("customMarkerFields"), fields);
+    window->showMarkerFieldsDialog();
+    QDialog *sheet = visibleSheet(*window);
+    taken = taken && take(*sheet, picture(QStringLiteral("fields-sheet")));
+    sheet->close();
+    window->showMarkerPresetDialog();
+    sheet = visibleSheet(*window);
+    sheet->findChild<QLineEdit *>()->setText(QStringLiteral("Online"));
+    MarkerPresets &presets = window->workbench().markerPresets();
+    const QStringList labels{QStringLiteral("Fix Audio"), QStringLiteral("Effects"), QStringLiteral("Grade"),
+                             QStringLiteral("Chapter")};
+    for (int row = 0; row < labels.size(); ++row)
+        presets.setObjectValue(labels.at(row), QStringLiteral("label"), std::size_t(row));
+    taken = taken && take(*sheet, picture(QStringLiteral("preset-sheet")));
+    sheet->close();
     window->close();
     return taken && take(controller.startWindow(), picture(QStringLiteral("start")));
 }

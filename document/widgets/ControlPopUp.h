@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace vantrell
+{
+
+/// A pop-up above a table whose items the user has named: it keeps to a width and shortens the title that
+/// does not fit, while its list shows the whole of them.
+class ControlPopUp : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ControlPopUp(QWidget *parent);
+
+    void showPopup() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace vantrell

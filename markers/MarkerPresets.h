@@ -1,0 +1,78 @@
+#pragma once
+
+#include "support/PropertyListValue.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace vantrell
+{
+
+class MyDocument;
+class UserDefaults;
+
+/// One row of the sheet that makes a preset.
+struct MarkerPresetRow {
+    QString icon; ///< name of the colour's image
+    QString label;
+};
+
+/// The marker presets of a document: property lists in a folder of the user's, each of which gives the
+/// eight marker colours labels of its own. The chosen one's name is kept in the user defaults
+/// "selectedPreset", which all documents share. Main thread.
+class MarkerPresets
+{
+public:
+    /// The document outlives this object, as do the defaults; without them (null) there are no presets, and
+    /// nothing is read or stored.
+    MarkerPresets(MyDocument &document, UserDefaults *defaults);
+
+    /// Where the preset files are; it need not be there.
+    static QString folder();
+
+    /// Builds the items of the preset pop-up and applies the preset that the defaults name; "None" when it
+    /// is not there any more.
+    void populateMarkerPresets();
+    /// Another document or process changed the presets or the choice: shows what holds now and stores
+    /// nothing, so that a choice is never replaced by an older one.
+    void refreshMarkerPresets();
+
+    /// The user chose that item of the pop-up: "None" or a preset. One whose file cannot be read leaves the
+    /// colours their default labels.
+    void changeMarkerPreset(int item);
+
+    /// The last item of the pop-up: fills the rows of the sheet and shows it.
+    void showMarkerPresetDialog();
+    void cancelMarkerPresetDialog();
+    /// Saves the rows as the preset of that name, chooses it and ends the sheet. False when the sheet stays:
+    /// the user has been told why, or did not want to replace a preset.
+    bool addMarkerPreset(const QString &name);
+
+    const std::vector<MarkerPresetRow> &markerPresetTableDataArray() const { return m_rows; }
+    /// The cell of the column "label". Nothing happens for another one.
+    void setObjectValue(const QString &text, const QString &column, std::size_t row);
+
+    /// The chosen preset by default label; nothing for "None" and while its file cannot be read.
+    const std::optional<PropertyListDictionary> &markerLabelDict() const { return m_markerLabelDict; }
+
+private:
+    void findPresets();
+    int rememberedItem() const;
+    void showMenu();
+    void apply();
+    void storeChoice();
+    bool mayWrite(const QString &path);
+
+    MyDocument &m_document;
+    UserDefaults *m_defaults;
+    QStringList m_items; // "None" and the presets, as in the pop-up
+    int m_selected = 0;
+    bool m_isStoring = false;
+    std::optional<PropertyListDictionary> m_markerLabelDict;
+    std::vector<MarkerPresetRow> m_rows;
+};
+
+} // namespace vantrell

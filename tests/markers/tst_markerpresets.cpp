@@ -1,0 +1,308 @@
+#include "markers/MarkerPresets.h"
+#include "support/PropertyList.h"
+#include "support/QVAlert.h"
+#include "support/QVLog.h"
+#include "support/UserDefaults.h"
+#include "tests/support/LoadedProject.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace vantrell;
+
+namespace
+{
+
+const QString defaultLabels = QStringLiteral("Red Orange Yellow Green Turquoise Blue Purple Pink");
+const QString selectedPreset = QStringLiteral("selectedPreset");
+const QString presetFolder = QStringLiteral(".local/share/Orvandel/Halvex/Vantrell/Marker Presets");
+
+/// A preset that changes the labels of these colours, as "Green=Chapter Blue=" says.
+QByteArray preset(const QString &changes, const QString &without = QString())
+{
+    PropertyListDictionary labels;
+    for (const QString &label : defaultLabels.split(QLatin1Char(' '))) {
+        if (label != without)
+            labels.insert(label, label);
+    }
+    for (const QString &change : changes.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        labels.insert(change.section(QLatin1Char('='), 0, 0), change.section(QLatin1Char('='), 1));
+    return PropertyList::toBytes(labels, PropertyList::Format::Xml).value();
+}
+
+} // namespace
+
+class MarkerPresetsTest : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::shared_ptr<ScriptedAlertPresenter> m_alerts;
+
+    QString pathOf(const QString &name) const { return m_home->path(presetFolder + QLatin1Char('/') + name); }
+    void addPreset(const QString &name, const QByteArray &content) const
+    {
+        m_home->addFile(presetFolder + QLatin1Char('/') + name + QStringLiteral(".markerpreset"), content);
+    }
+    QStringList files() const
+    {
+        return QDir(m_home->path(presetFolder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+    QString selected() const { return m_defaults->string(selectedPreset); }
+
+    /// The pop-up's items with a star behind the chosen one, and "-" for the separator.
+    static QString menu(const ScriptedDocumentInterface &world)
+    {
+        QStringList items;
+        for (int i = 0; i < world.presetMenu.size(); ++i) {
+            const QString &title = world.presetMenu.at(i);
+            items.append((title.isNull() ? QStringLiteral("-") : title) +
+                         (i == world.selectedPreset ? QStringLiteral("*") : QString()));
+        }
+        return items.join(QLatin1Char('|'));
+    }
+    static QString labels(const ScriptedDocumentInterface &world)
+    {
+        return world.markerLabels.join(QLatin1Char(' '));
+    }
+
+private Q_SLOTS:
+    void initTestCase() { QVLog::createNewLog(QStringLiteral("markers"), true); }
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_alerts = std::make_shared<ScriptedAlertPresenter>();
+        QVAlert::setPresenter(m_alerts);
+    }
+    void cleanup()
+    {
+        QVAlert::setPresenter(nullptr);
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void withoutFolder()
+    {
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
+        QCOMPARE(labels(project.world), defaultLabels);
+        QVERIFY(!presets.markerLabelDict());
+        QVERIFY(!QFile::exists(m_home->path(QStringLiteral(".local"))));
+    }
+
+    void choosing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("expected");
+        const QString broken = defaultLabels;
+        QTest::newRow("labels") << preset(QStringLiteral("Green=Chapter Pink="))
+                                << QStringLiteral("Red Orange Yellow Chapter Turquoise Blue Purple ");
+        QTest::newRow("without Blue") << preset(QString(), QStringLiteral("Blue"))
+                                      << QStringLiteral("Red Orange Yellow Green Turquoise  Purple Pink");
+        QTest::newRow("no dictionary") << QByteArray("<plist><array/></plist>") << broken;
+        QTest::newRow("damaged") << preset(QString()).left(200) << broken;
+        QTest::newRow("empty") << QByteArray() << broken;
+    }
+    void choosing()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, expected);
+        addPreset(QStringLiteral("Cut 10"), preset(QString()));
+        addPreset(QStringLiteral("Cut 9"), content);
+        m_home->addFile(presetFolder + QStringLiteral("/notes.txt"), "");
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        QStringList items = project.world.presetMenu;
+        items.sort();
+        QCOMPARE(items.join(QLatin1Char('|')), QStringLiteral("|Create preset...|Cut 10|Cut 9|None"));
+        const int item = int(project.world.presetMenu.indexOf(QStringLiteral("Cut 9")));
+        presets.changeMarkerPreset(item);
+        QCOMPARE(project.world.selectedPreset, item);
+        QCOMPARE(labels(project.world), expected);
+        QCOMPARE(presets.markerLabelDict().has_value(), expected != defaultLabels);
+        QCOMPARE(selected(), QStringLiteral("Cut 9"));
+
+        // The next document begins with it.
+        LoadedProject next;
+        MarkerPresets nextPresets(next.document, m_defaults.get());
+        nextPresets.populateMarkerPresets();
+        QCOMPARE(next.world.selectedPreset, item);
+        QCOMPARE(labels(next.world), expected);
+        nextPresets.changeMarkerPreset(0);
+        QCOMPARE(labels(next.world), defaultLabels);
+        QVERIFY(!nextPresets.markerLabelDict());
+        QCOMPARE(selected(), QStringLiteral("None"));
+    }
+
+    void strangeFiles()
+    {
+        m_home->addFile(presetFolder + QStringLiteral("/Loud.MarkerPreset"), preset(QString()));
+        QDir().mkpath(pathOf(QStringLiteral("Folder.markerpreset")));
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        m_defaults->setValue(selectedPreset, QStringLiteral("Loud"));
+        presets.populateMarkerPresets(); // listed by whatever case, read by one
+        QCOMPARE(menu(project.world), QStringLiteral("None|Folder|Loud*|-|Create preset..."));
+        QVERIFY(!presets.markerLabelDict());
+        presets.changeMarkerPreset(1);
+        QVERIFY(!presets.markerLabelDict());
+        QCOMPARE(labels(project.world), defaultLabels);
+        presets.changeMarkerPreset(4);
+        QCOMPARE(selected(), QStringLiteral("Folder"));
+    }
+
+    void aLostPresetIsNone()
+    {
+        m_defaults->setValue(selectedPreset, QStringLiteral("Create preset..."));
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
+        QCOMPARE(selected(), QStringLiteral("None"));
+    }
+
+    void saving_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("file"); // without its extension
+        QTest::addColumn<QString>("alert");
+        const QString unable = QStringLiteral("Unable to create preset");
+        QTest::newRow("plain") << QStringLiteral("Cut") << QStringLiteral("Cut") << QString();
+        QTest::newRow("dot and name") << QStringLiteral(".hidden") << QStringLiteral("hidden") << QString();
+        QTest::newRow("dots and name") << QStringLiteral("..rc") << QStringLiteral(".rc") << QString();
+        QTest::newRow("dot") << QStringLiteral(".") << QStringLiteral(".") << QString();
+        QTest::newRow("two dots") << QStringLiteral("..") << QStringLiteral(".") << QString();
+        QTest::newRow("umlaut") << QStringLiteral("Schnitt für 2 %@") << QStringLiteral("Schnitt für 2 %@")
+                                << QString();
+        QTest::newRow("empty") << QString() << QString() << QStringLiteral("No name specified");
+        QTest::newRow("slash") << QStringLiteral("../Cut") << QString() << unable;
+        QTest::newRow("up") << QStringLiteral(".../../x") << QString() << unable;
+        QTest::newRow("nul") << QStringLiteral("a") + QChar(u'\0') << QString() << unable;
+        QTest::newRow("too long") << QString(300, QLatin1Char('n')) << QString() << unable;
+    }
+    void saving()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, file);
+        QFETCH(QString, alert);
+        m_alerts->queueAnswer(AlertAnswer::Default);
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        presets.showMarkerPresetDialog();
+        QCOMPARE(presets.markerPresetTableDataArray().at(4).icon, QStringLiteral("marker-turquoise"));
+        presets.setObjectValue(QStringLiteral("Fix"), QStringLiteral("label"), 4);
+        presets.setObjectValue(QStringLiteral("no"), QStringLiteral("icon"), 4);
+        presets.setObjectValue(QString(), QStringLiteral("label"), 7);
+        QCOMPARE(presets.addMarkerPreset(name), alert.isEmpty());
+        QStringList events{QStringLiteral("show preset sheet")};
+        if (alert.isEmpty()) {
+            events.append(QStringLiteral("hide preset sheet"));
+            QCOMPARE(files(), QStringList(file + QStringLiteral(".markerpreset")));
+            QCOMPARE(menu(project.world), QStringLiteral("None|%1*|-|Create preset...").arg(file));
+            QCOMPARE(labels(project.world), QStringLiteral("Red Orange Yellow Green Fix Blue Purple "));
+            QCOMPARE(presets.markerLabelDict()->value(QStringLiteral("Turquoise")).toString(),
+                     QStringLiteral("Fix"));
+            QCOMPARE(selected(), file);
+            QVERIFY(m_alerts->shown().empty());
+        } else {
+            QCOMPARE(files(), QStringList());
+            QVERIFY(!QFile::exists(pathOf(QStringLiteral("../Cut.markerpreset"))));
+            QCOMPARE(m_alerts->shown().at(0).text(AlertKey::MessageText), alert);
+            QCOMPARE(selected(), QStringLiteral("None"));
+        }
+        QCOMPARE(project.world.events, events);
+    }
+
+    void overwriting_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("overwrites");
+        QTest::newRow("overwrite") << AlertAnswer::Default << true;
+        QTest::newRow("cancel") << AlertAnswer::Alternate << false;
+        QTest::newRow("window closed") << AlertAnswer::Other << false;
+    }
+    void overwriting()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, overwrites);
+        const QByteArray before = preset(QStringLiteral("Red=Old"));
+        addPreset(QStringLiteral("Cut"), before);
+        m_alerts->queueAnswer(answer);
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        presets.showMarkerPresetDialog();
+        QCOMPARE(presets.addMarkerPreset(QStringLiteral("Cut")), overwrites);
+        QCOMPARE(contentOf(pathOf(QStringLiteral("Cut.markerpreset"))) == before, !overwrites);
+        QCOMPARE(selected(), overwrites ? QStringLiteral("Cut") : QStringLiteral("None"));
+        const ScriptedAlertPresenter::Shown &question = m_alerts->shown().at(0);
+        QCOMPARE(question.text(AlertKey::MessageText), QStringLiteral("This preset already exists"));
+        QCOMPARE(question.text(AlertKey::InformativeText), QStringLiteral("Would you like to overwrite it?"));
+        QCOMPARE(question.text(AlertKey::DefaultButtonTitle), QStringLiteral("Overwrite"));
+        QCOMPARE(question.text(AlertKey::AlternateButtonTitle), QStringLiteral("Cancel"));
+    }
+
+    void whereNothingCanBeWritten()
+    {
+        const QString file = m_home->addFile(presetFolder, "a file");
+        m_alerts->queueAnswer(AlertAnswer::Default);
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
+        presets.showMarkerPresetDialog();
+        QVERIFY(!presets.addMarkerPreset(QStringLiteral("Cut")));
+        QCOMPARE(m_alerts->shown().at(0).text(AlertKey::InformativeText),
+                 QStringLiteral("Please ensure your permissions are correct for the directory ") + file);
+        QCOMPARE(contentOf(file), QByteArray("a file"));
+        presets.cancelMarkerPresetDialog();
+        QCOMPARE(project.world.events.last(), QStringLiteral("hide preset sheet"));
+    }
+
+    void changesFromElsewhere()
+    {
+        addPreset(QStringLiteral("A"), preset(QStringLiteral("Red=a")));
+        LoadedProject project;
+        MarkerPresets presets(project.document, m_defaults.get());
+        presets.populateMarkerPresets();
+        presets.changeMarkerPreset(1);
+        addPreset(QStringLiteral("B"), preset(QStringLiteral("Red=b")));
+        m_defaults->setValue(selectedPreset, QStringLiteral("B"));
+        presets.refreshMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None|A|B*|-|Create preset..."));
+        QCOMPARE(project.world.markerLabels.first(), QStringLiteral("b"));
+        // While its file is away the choice is not given up.
+        QVERIFY(QFile::rename(pathOf(QStringLiteral("B.markerpreset")), pathOf(QStringLiteral("away"))));
+        presets.refreshMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None*|A|-|Create preset..."));
+        QCOMPARE(labels(project.world), defaultLabels);
+        QCOMPARE(selected(), QStringLiteral("B"));
+        addPreset(QStringLiteral("B"), preset(QStringLiteral("Red=again")));
+        presets.refreshMarkerPresets();
+        QCOMPARE(project.world.markerLabels.first(), QStringLiteral("again"));
+    }
+
+    void withoutDefaultsNothingIsReadOrStored()
+    {
+        addPreset(QStringLiteral("A"), preset(QStringLiteral("Red=a")));
+        LoadedProject project;
+        MarkerPresets presets(project.document, nullptr);
+        presets.populateMarkerPresets();
+        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
+        presets.showMarkerPresetDialog();
+        QVERIFY(!presets.addMarkerPreset(QStringLiteral("B")));
+        QCOMPARE(files(), QStringList(QStringLiteral("A.markerpreset")));
+        QVERIFY(!presets.markerLabelDict());
+    }
+};
+
+QTEST_GUILESS_MAIN(MarkerPresetsTest)
+#include "tst_markerpresets.moc"
