@@ -10,7 +10,7 @@ build_packages=(
 window_packages=(libqt6svg6 qt6-wayland)
 
 # What making the Debian package takes beyond building.
-packaging_packages=(dpkg-dev file gzip)
+packaging_packages=(dpkg-dev file)
 
 # What checking takes beyond that: the formatter; the parser that the benchmark measures against; the
 # validators of what is installed, of the package and of the manual pages; the shells that complete; and
