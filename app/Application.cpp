@@ -23,7 +23,8 @@ Application::Application(int &argc, char **argv)
     setApplicationVersion(QStringLiteral(VANTRELL_VERSION));
     setOrganizationName(QStringLiteral("Orvandel"));
     setDesktopFileName(QStringLiteral("vantrell"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/vantrell.svg")));
+    setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("vantrell"), QIcon(QStringLiteral(":/icons/vantrell.svg"))));
     setQuitOnLastWindowClosed(false); // the controller decides
 }
 

@@ -26,8 +26,13 @@ bool answerOption(const char *option)
         return true;
     }
     if (std::strcmp(option, "--help") == 0 || std::strcmp(option, "-h") == 0) {
-        std::puts("Usage: vantrell [FILE...]\n\nShows the media, effects and markers of each project FILE.\n"
-                  "Without a display use vantrell-cli.");
+        std::puts("Usage: vantrell [OPTION...] [FILE...]\n\n"
+                  "Shows the media, effects and markers of each project FILE.\n"
+                  "Without a display use vantrell-cli.\n\nOptions:\n"
+                  "  -h, --help      Print this help and exit\n"
+                  "  --version       Print the version and exit\n"
+                  "  -platform NAME  Show the windows through another platform plug-in of Qt\n"
+                  "  -style NAME     Draw with another style");
         return true;
     }
     return false;

@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test, which set `root` to the folder of the project: quiet builds of the presets.
+# Sourced by ./run, ./test and tools/package, which set `root` to the folder of the project: quiet builds of the presets.
 
 # Cached objects are good for every clone, wherever it lies; without a folder to keep them in, the
 # builds go without a cache.

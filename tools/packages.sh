@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: which Debian packages each purpose needs, and their installation.
+# Sourced by ./run, ./test and tools/package: which Debian packages each purpose needs, and their installation.
 
 # What building the core, the command line, the desktop program and their tests takes.
 build_packages=(
@@ -9,8 +9,18 @@ build_packages=(
 # What the desktop program takes beyond that to run: its icons, and sessions without an X server.
 window_packages=(libqt6svg6 qt6-wayland)
 
-# What checking takes beyond that: the formatter, and the parser that the benchmark measures against.
-check_packages=(clang-format libxml2-utils)
+# What making the Debian package takes beyond building.
+packaging_packages=(dpkg-dev file)
+
+# What checking takes beyond that: the formatter; the parser that the benchmark measures against; the
+# validators of what is installed, of the package and of the manual pages; the shells that complete; and
+# a display to start the program on.
+check_packages=(
+    clang-format libxml2-utils
+    appstream desktop-file-utils fakeroot libglib2.0-bin lintian mandoc shared-mime-info
+    bash-completion zsh
+    x11-utils xvfb
+)
 
 # missing_packages NAME...: prints those that are not installed, one a line.
 missing_packages() {

@@ -1,0 +1,51 @@
+# The Debian package: `cpack` in the build folder makes one of an optimised build with the window. Its
+# revision, and the time stamp of the files in it, are those of packaging/debian/changelog.
+
+set(changelog "${PROJECT_SOURCE_DIR}/packaging/debian/changelog")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${changelog}")
+file(STRINGS "${changelog}" version_line LIMIT_COUNT 1)
+if(NOT version_line MATCHES "^vantrell \\(([0-9.]+)-([0-9]+)\\) " OR NOT CMAKE_MATCH_1 STREQUAL PROJECT_VERSION)
+    message(FATAL_ERROR "${changelog} does not begin with version ${PROJECT_VERSION}, but with: ${version_line}")
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME vantrell)
+set(CPACK_PACKAGE_VENDOR Orvandel)
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_DEBIAN_PACKAGE_RELEASE "${CMAKE_MATCH_2}")
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Orvandel <support@orvandel.example>")
+set(CPACK_DEBIAN_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "media, effects and markers of editing projects")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [[
+Vantrell shows film and video editors what an editing project holds: the
+media that its clips use, the effects on them and the markers set in them. It
+reads xmeml projects, the XML that editing systems exchange, repairs damaged
+ones as far as that goes, and writes what was changed back.
+
+ * Media: kind, size, date, use, and which files are missing.
+ * Effects: filters and generators, to be found, switched off and removed.
+ * Markers: edited in place, moved in time, added, removed, and exchanged with
+   the marker lists of other systems.
+
+The package holds the desktop program, vantrell, and the command line,
+vantrell-cli, which works without a window system.]])
+
+# The libraries come by themselves. The icons need a plug-in that is loaded by name, as does a session
+# without an X server, and files are opened through xdg-open.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+
+set(CPACK_COMPONENTS_ALL cli desktop debian)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_PROJECT_CONFIG_FILE "${PROJECT_SOURCE_DIR}/cmake/PackagingTime.cmake")
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/PackagingModes.cmake")
+set(CPACK_VANTRELL_CHANGELOG "${changelog}")
+include(CPack)
