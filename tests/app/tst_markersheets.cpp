@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(columns().mid(10), QStringList({take, lens}));
         QCOMPARE(header(take), QStringLiteral("Take"));
         QVERIFY(editCell(*m_window, Tab::Markers, 0, take, QStringLiteral("3")));
-        QVERIFY(m_window->save());
+        QVERIFY(saves(*m_window));
 
         // A field keeps the identifier of its first title, and its column the title it was made with.
         sheet = openFields(m_window);
