@@ -61,27 +61,25 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
 
 bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
 {
-    QString problem;
     auto parsed = [&]() -> std::optional<Result<std::unique_ptr<XmlDocument>>> {
         if (typeName != DocumentType::finalCutProProject)
             return XmlDocument::fromFile(url.toLocalFile(), {true, &m_closing});
         if (Workspace::applicationPathForBundleIdentifier(QStringLiteral("com.apple.FinalCutPro"))
                 .isEmpty()) {
-            problem = QStringLiteral("Final Cut Pro 7 is not installed on this system.");
-            QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to load project"), problem,
-                                               m_interface.alertParent());
+            QVAlert::alertSheetWithMessageText(
+                QStringLiteral("Unable to load project"),
+                QStringLiteral("Final Cut Pro 7 is not installed on this system."),
+                m_interface.alertParent());
             return std::nullopt;
         }
         const std::optional<QByteArray> data =
             m_services.projectXMLData ? m_services.projectXMLData(url.toLocalFile()) : std::nullopt;
-        if (!data) {
-            problem = QStringLiteral("Final Cut Pro gave no project for this file.");
+        if (!data)
             return std::nullopt;
-        }
         return XmlDocument::fromData(*data, {false, &m_closing});
     }();
     if (!parsed) {
-        failLoading(problem);
+        failLoading(QString());
         return false;
     }
     m_isFCPProject = typeName == DocumentType::finalCutProProject;

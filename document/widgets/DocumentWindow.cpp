@@ -254,7 +254,11 @@ void DocumentWindow::showFailure(const QString &message)
     m_state = State::Failed;
     m_toolBar->setEnabled(false);
     m_failure->setText(tr("“%1” could not be opened.").arg(QFileInfo(m_path).fileName()));
-    m_failureReason->setText(message);
+    // Without a message the user has been asked for something that is not there.
+    m_failureReason->setText(message.isEmpty()
+                                 ? tr("Project files are read by way of Final Cut Pro 7, which gave "
+                                      "no project. An XML export of it opens without.")
+                                 : message);
     m_content->setCurrentWidget(m_failure->parentWidget());
     Q_EMIT menusChanged();
     Q_EMIT loadFailed(m_path);

@@ -218,13 +218,13 @@ private Q_SLOTS:
                              << QByteArray("\tSequence\tCue\tNew\t01:00:20:00\t00:00:00:00\tGreen\n");
         QTest::newRow("avid") << "Avid Locators…" << QByteArray("Cue\t01:00:20:00\tV1\tred\tNew\n")
                               << QByteArray("Cue\t01:00:20:00\tV1\tred\tNew\n");
-        QTest::newRow("fcpx") << "Final Cut Pro X Markers…"
-                              << QByteArray("<fcpxml><resources><format id=\"r1\" frameDuration=\"1/25s\"/>"
-                                            "</resources><project><sequence format=\"r1\" tcStart=\"3600s\">"
-                                            "<spine><gap start=\"3600s\" offset=\"3600s\" duration=\"40s\">"
-                                            "<marker start=\"3620s\" value=\"Cue\"/></gap></spine></sequence>"
-                                            "</project></fcpxml>")
-                              << QByteArray();
+        QTest::newRow("fcpx")
+            << "Final Cut Pro X Markers…"
+            << QByteArray("<fcpxml><resources><format frameDuration='1/25s'/></resources><library><event>"
+                          "<project><sequence tcStart='3600s' tcFormat='NDF'><spine>"
+                          "<gap duration='40s'><marker start='20s' value='Cue'/></gap>"
+                          "</spine></sequence></project></event></library></fcpxml>")
+            << QByteArray();
     }
     void importsAndExportsMarkerLists()
     {
@@ -351,6 +351,7 @@ private Q_SLOTS:
 private:
     void start()
     {
+        AppController::startLog();
         m_controller = std::make_unique<AppController>(*m_defaults);
         if (m_defaults->value(showOpenDialogKey).toInteger() == 1)
             m_controller->startWindow().show();
