@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEventLoop>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -58,6 +60,17 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     return answers;
 }
 
+/// The program's own icon: questions, news and warnings look alike, and the texts tell them apart.
+void setIcon(QMessageBox &box)
+{
+    constexpr int side = 48;
+    const QIcon icon = QGuiApplication::windowIcon();
+    if (icon.isNull())
+        box.setIcon(QMessageBox::Warning);
+    else
+        box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
+}
+
 /// Both texts as they stand, whatever characters they hold.
 void setTexts(QMessageBox &box, const AlertDescription &description)
 {
@@ -81,8 +94,7 @@ AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &desc
     QWidget *const window = windowOf(parent);
     auto *const box = new QMessageBox(window);
     box->setWindowTitle(QCoreApplication::applicationName());
-    const bool asks = !description.value(AlertKey::AlternateButtonTitle).isEmpty();
-    box->setIcon(asks ? QMessageBox::Question : QMessageBox::Warning);
+    setIcon(*box);
     setTexts(*box, description);
     const auto answers = addButtons(*box, description);
     addSuppression(*box, description.value(AlertKey::SuppressionBinding));

@@ -1,5 +1,5 @@
-// Takes the pictures of the README: the start window, each tab of a project and the sheets of the Markers
-// tab, light and dark.
+// Takes a picture of each tab of a project, each sheet, the start window and a project that cannot be opened,
+// light and dark.
 //
 // usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen
 
@@ -8,7 +8,8 @@
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "document/widgets/DocumentWindow.h"
-#include "document/widgets/TabPane.h"
+#include "document/widgets/MarkersPane.h"
+#include "document/widgets/ProgressSheet.h"
 #include "support/UserDefaults.h"
 #include "workbench/Workbench.h"
 
@@ -53,15 +54,6 @@ QPalette darkPalette()
     return palette;
 }
 
-bool take(QWidget &window, const QString &path)
-{
-    wait(300);
-    if (window.grab().save(path))
-        return true;
-    std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
-    return false;
-}
-
 QDialog *visibleSheet(const QWidget &window)
 {
     const auto dialogs = window.findChildren<QDialog *>();
@@ -72,49 +64,98 @@ QDialog *visibleSheet(const QWidget &window)
     return *found;
 }
 
-bool takeAll(const QString &project, const QString &folder, const QString &theme)
+/// Takes one theme's pictures into a folder.
+class Photographer
 {
-    UserDefaults defaults(QString(), UserDefaults::Access::Volatile);
-    AppController::startLog();
-    AppController controller(defaults);
-    controller.openFiles({project});
-    DocumentWindow *const window = controller.currentWindow();
-    window->resize(1180, 660);
-    while (window->state() == DocumentWindow::State::Loading)
-        wait(50);
-    bool taken = window->state() == DocumentWindow::State::Ready;
-    const auto picture = [&](const QString &name) {
-        return QStringLiteral("%1/%2-%3.png").arg(folder, name, theme);
-    };
-    taken = taken && take(*window, picture(QStringLiteral("media")));
-    window->toolbarEffects();
-    taken = taken && take(*window, picture(QStringLiteral("effects")));
-    window->toolbarMarkers();
-    window->pane(Tab::Markers).selectRows({16});
-    taken = taken && take(*window, picture(QStringLiteral("markers")));
-    PropertyListValue::Array fields;
-    for (const char *title : {"Take", "Camera"})
-        fields.emplace_back(PropertyListDictionary{
-            {QStringLiteral("identifier"), MarkerFields::formatMarkerFieldName(QLatin1String(title))},
-            {QStringLiteral("title"), QString::fromLatin1(title)}});
-    defaults.setValue(QStringLiteral("customMarkerFields"), fields);
-    window->showMarkerFieldsDialog();
-    QDialog *sheet = visibleSheet(*window);
-    taken = taken && take(*sheet, picture(QStringLiteral("fields-sheet")));
-    sheet->close();
-    window->showMarkerPresetDialog();
-    sheet = visibleSheet(*window);
-    sheet->findChild<QLineEdit *>()->setText(QStringLiteral("Online"));
-    MarkerPresets &presets = window->workbench().markerPresets();
-    const QStringList labels{QStringLiteral("Fix Audio"), QStringLiteral("Effects"), QStringLiteral("Grade"),
-                             QStringLiteral("Chapter")};
-    for (int row = 0; row < labels.size(); ++row)
-        presets.setObjectValue(labels.at(row), QStringLiteral("label"), std::size_t(row));
-    taken = taken && take(*sheet, picture(QStringLiteral("preset-sheet")));
-    sheet->close();
-    window->close();
-    return taken && take(controller.startWindow(), picture(QStringLiteral("start")));
-}
+public:
+    Photographer(const QString &folder, const QString &theme)
+        : m_folder(folder)
+        , m_theme(theme)
+    {
+    }
+
+    bool takeAll(const QString &project)
+    {
+        m_controller.openFiles({project});
+        DocumentWindow &window = *m_controller.currentWindow();
+        window.resize(1180, 660);
+        while (window.state() == DocumentWindow::State::Loading)
+            wait(50);
+        take(window, "media");
+        window.toolbarEffects();
+        take(window, "effects");
+        window.toolbarMarkers();
+        window.pane(Tab::Markers).selectRows({16});
+        take(window, "markers");
+        takeSheets(window);
+        window.close();
+        m_controller.openFiles({project + QStringLiteral(".missing")});
+        take(*m_controller.currentWindow(), "failure");
+        m_controller.currentWindow()->close();
+        take(m_controller.startWindow(), "start");
+        return m_isTaken;
+    }
+
+private:
+    void takeSheets(DocumentWindow &window)
+    {
+        PropertyListValue::Array fields;
+        for (const char *title : {"Take", "Camera"})
+            fields.emplace_back(PropertyListDictionary{
+                {QStringLiteral("identifier"), MarkerFields::formatMarkerFieldName(QLatin1String(title))},
+                {QStringLiteral("title"), QString::fromLatin1(title)}});
+        m_defaults.setValue(QStringLiteral("customMarkerFields"), fields);
+        window.showMarkerFieldsDialog();
+        takeSheet(window, "fields-sheet");
+
+        window.showMarkerPresetDialog();
+        visibleSheet(window)->findChild<QLineEdit *>()->setText(QStringLiteral("Online"));
+        const QStringList labels{QStringLiteral("Fix Audio"), QStringLiteral("Effects"),
+                                 QStringLiteral("Grade"), QStringLiteral("Chapter")};
+        for (int row = 0; row < labels.size(); ++row)
+            window.workbench().markerPresets().setObjectValue(labels.at(row), QStringLiteral("label"),
+                                                              std::size_t(row));
+        takeSheet(window, "preset-sheet");
+
+        static_cast<MarkersPane &>(window.pane(Tab::Markers)).showMarkerOffsetWindow();
+        visibleSheet(window)->findChild<QLineEdit *>()->setText(QStringLiteral("-1:00"));
+        takeSheet(window, "offset-sheet");
+
+        window.pane(Tab::Markers).selectRows({3, 4});
+        QTimer::singleShot(0, &window, [&] { takeSheet(window, "question"); });
+        window.removeSelection();
+
+        auto *const progress = window.findChild<ProgressSheet *>();
+        progress->updateProgressLabel(QStringLiteral("Adding markers…"));
+        progress->startProgress();
+        progress->setProgress(2, 3);
+        take(*progress, "progress-sheet");
+        progress->endProgress();
+    }
+
+    void takeSheet(const QWidget &window, const char *name)
+    {
+        QDialog *const sheet = visibleSheet(window);
+        take(*sheet, name);
+        sheet->reject();
+    }
+
+    void take(QWidget &window, const char *name)
+    {
+        wait(300);
+        const QString path = QStringLiteral("%1/%2-%3.png").arg(m_folder, QLatin1String(name), m_theme);
+        if (window.grab().save(path))
+            return;
+        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
+        m_isTaken = false;
+    }
+
+    const QString m_folder;
+    const QString m_theme;
+    bool m_isTaken = true;
+    UserDefaults m_defaults{QString(), UserDefaults::Access::Volatile};
+    AppController m_controller{m_defaults};
+};
 
 } // namespace
 
@@ -129,7 +170,8 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette light = QApplication::style()->standardPalette();
     QApplication::setPalette(light);
-    const bool taken = takeAll(arguments.at(1), arguments.at(2), QStringLiteral("light"));
+    AppController::startLog();
+    const bool taken = Photographer(arguments.at(2), QStringLiteral("light")).takeAll(arguments.at(1));
     QApplication::setPalette(darkPalette());
-    return taken && takeAll(arguments.at(1), arguments.at(2), QStringLiteral("dark")) ? 0 : 1;
+    return taken && Photographer(arguments.at(2), QStringLiteral("dark")).takeAll(arguments.at(1)) ? 0 : 1;
 }
