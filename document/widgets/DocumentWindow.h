@@ -2,6 +2,7 @@
 
 #include "document/DocumentInterface.h"
 #include "support/QVAlert.h"
+#include "support/Result.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -149,6 +150,7 @@ private:
     void showProgress();
     void setCancellable(bool cancellable);
     void cancelProgress();
+    void writeEnded(const QString &path, bool isProject, const Result<void> &written);
     void tellOfFailedSave(const QString &path, const QString &reason);
     void saveEnded(const QString &path, bool isSaved);
     void tellOfImport(std::size_t imported, const QStringList &paths);

@@ -37,21 +37,29 @@ void DocumentWindow::saveTo(const QString &path)
         return;
     }
     const bool isProject = loaded->isFCPProject() || loaded->isPremiereProject();
-    beginBusy(tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [loaded] { loaded->cancelWriting(); });
-    loaded->writeInBackground(QUrl::fromLocalFile(path),
-                              isProject ? DocumentType::finalCutProProject : DocumentType::finalCutProXMLFile,
-                              [this, path, isProject, self = QPointer(this)](const Result<void> &written) {
-                                  if (!self || m_closing) // the user closed it while asked whether to save
-                                      return;
-                                  endBusy();
-                                  if (isProject) { // sent instead, which clears the changes when it succeeds
-                                      saveEnded(path, !m_workbench->document().isEdited());
-                                      return;
-                                  }
-                                  if (!written)
-                                      tellOfFailedSave(path, written.message());
-                                  saveEnded(path, written.isOk());
+    const QString type = isProject ? DocumentType::finalCutProProject : DocumentType::finalCutProXMLFile;
+    const QPointer self(this);
+    loaded->writeInBackground(QUrl::fromLocalFile(path), type,
+                              [this, path, isProject, self](const Result<void> &written) {
+                                  if (self && !m_closing) // else the user closed it while asked a question
+                                      writeEnded(path, isProject, written);
                               });
+    // A question whether to replace a damaged file has been answered by now.
+    if (self && !m_closing && loaded->isSaving())
+        beginBusy(tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [loaded] { loaded->cancelWriting(); });
+}
+
+void DocumentWindow::writeEnded(const QString &path, bool isProject, const Result<void> &written)
+{
+    if (m_isBusy)
+        endBusy();
+    if (isProject) { // sent instead, which clears the changes when it succeeds
+        saveEnded(path, !m_workbench->document().isEdited());
+        return;
+    }
+    if (!written)
+        tellOfFailedSave(path, written.message());
+    saveEnded(path, written.isOk());
 }
 
 void DocumentWindow::tellOfFailedSave(const QString &path, const QString &reason)
