@@ -46,54 +46,65 @@ public:
     /// Gives the text a number of its own.
     quint64 add(const QString &text)
     {
-        const auto [entry, isNew] = m_numbers.try_emplace(text, m_texts.size());
+        const auto [entry, isNew] = m_numbers.try_emplace(text, quint32(m_texts.size()));
         if (isNew)
-            m_texts.push_back({0, text.toCaseFolded(), text, entry->second});
+            m_texts.push_back({text, text.toCaseFolded()});
         return entry->second;
     }
 
     /// The ranks by the numbers of the texts.
-    std::vector<quint64> ranks()
+    std::vector<quint64> ranks() const
     {
-        for (Text &text : m_texts)
-            text.beginning = beginningOf(text.folded);
-        std::sort(m_texts.begin(), m_texts.end());
-        std::vector<quint64> ranks(m_texts.size());
-        for (std::size_t rank = 0; rank < m_texts.size(); ++rank)
-            ranks[m_texts[rank].number] = rank;
+        std::vector<Order> order;
+        order.reserve(m_texts.size());
+        for (const Text &text : m_texts)
+            order.push_back({beginningOf(text.folded), quint32(order.size())});
+        std::sort(order.begin(), order.end(), [this](const Order &a, const Order &b) {
+            return a.beginning != b.beginning ? a.beginning < b.beginning : comesBefore(a.number, b.number);
+        });
+        std::vector<quint64> ranks(order.size());
+        for (std::size_t rank = 0; rank < order.size(); ++rank)
+            ranks[order[rank].number] = rank;
         return ranks;
     }
 
 private:
     struct Text {
-        quint64 beginning; // of the folded text
-        QString folded;
         QString text;
-        std::size_t number;
-
-        bool operator<(const Text &other) const
-        {
-            if (beginning != other.beginning)
-                return beginning < other.beginning;
-            const int comparison = folded.compare(other.folded);
-            return comparison != 0 ? comparison < 0 : text < other.text;
-        }
+        QString folded;
     };
-
-    /// The first four code units, the first one counting most.
-    static quint64 beginningOf(const QString &text)
-    {
-        quint64 beginning = 0;
-        for (qsizetype i = 0; i < 4; ++i)
-            beginning = beginning << 16 | (i < text.size() ? text[i].unicode() : 0U);
-        return beginning;
-    }
-
+    struct Order {
+        quint64 beginning;
+        quint32 number;
+    };
     struct Hash {
         std::size_t operator()(const QString &text) const { return qHash(text); }
     };
 
-    std::unordered_map<QString, std::size_t, Hash> m_numbers;
+    bool comesBefore(quint32 a, quint32 b) const
+    {
+        const int comparison = m_texts[a].folded.compare(m_texts[b].folded);
+        return comparison != 0 ? comparison < 0 : m_texts[a].text < m_texts[b].text;
+    }
+
+    /// The first eight code units, the first one counting most, or those up to the first that takes more
+    /// than a byte: of two different beginnings the smaller one belongs to the text that comes first.
+    static quint64 beginningOf(const QString &text)
+    {
+        constexpr int units = 8;
+        constexpr quint64 large = 0xff;
+        quint64 beginning = 0;
+        int taken = 0;
+        for (; taken < units && taken < text.size(); ++taken) {
+            const quint64 unit = std::min<quint64>(text[taken].unicode(), large);
+            beginning |= unit << 8 * (units - 1 - taken);
+            if (unit == large)
+                break;
+        }
+        return beginning;
+    }
+
+    std::unordered_map<QString, quint32, Hash> m_numbers;
     std::vector<Text> m_texts;
 };
 

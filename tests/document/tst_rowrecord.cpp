@@ -1,7 +1,11 @@
 #include "document/RowRecord.h"
 #include "document/RowSort.h"
 
+#include <QRandomGenerator>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
 
 #include <thread>
 
@@ -114,6 +118,44 @@ private Q_SLOTS:
                                                                       : QStringLiteral("-")));
         }
         QTEST(order.join(QLatin1Char(' ')), "order");
+    }
+
+    void sortsTextsOfAnyLength()
+    {
+        const QString letters = QString::fromUtf8("aaaAbB éÉþÿŸāĀżЖж\0", -1) + QChar(0xfe) + QChar(0xff);
+        QRandomGenerator random(20);
+        RowList rows;
+        for (int i = 0; i < 3000; ++i) {
+            QString text;
+            for (int length = random.bounded(12); length > 0; --length)
+                text += letters[random.bounded(int(letters.size()))];
+            rows.push_back(row(text, i));
+        }
+        for (const bool descending : {false, true}) {
+            RowList expected = rows;
+            std::stable_sort(expected.begin(), expected.end(), [&](const auto &a, const auto &b) {
+                const QString first = (descending ? b : a)->get(name);
+                const QString second = (descending ? a : b)->get(name);
+                const int folded = first.toCaseFolded().compare(second.toCaseFolded());
+                return folded != 0 ? folded < 0 : first < second;
+            });
+            QVERIFY(sortedRows(rows, {{QStringLiteral("name"), descending}}) == expected);
+        }
+    }
+
+    void sortsNumbersByValue()
+    {
+        const TypedKey<double> size(u"size");
+        RowList rows;
+        for (const double value : {2.5, -1e300, 0.0, -2.5, 1e-9, -0.0, 1e300}) {
+            rows.push_back(std::make_shared<RowRecord>());
+            rows.back()->set(size, value);
+        }
+        std::vector<double> sorted;
+        for (const RowRecordPtr &record : sortedRows(rows, {{QStringLiteral("size"), false}}))
+            sorted.push_back(record->get(size));
+        QCOMPARE(sorted, (std::vector<double>{-1e300, -2.5, 0.0, -0.0, 1e-9, 2.5, 1e300}));
+        QVERIFY(!std::signbit(sorted[2])); // equal to the other zero, and first as before
     }
 };
 
