@@ -10,6 +10,7 @@
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/SymbolIcon.h"
+#include "document/widgets/SymbolView.h"
 #include "support/QVException.h"
 #include "support/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
@@ -152,8 +153,7 @@ void DocumentWindow::makeContent()
 QWidget *DocumentWindow::makeFailurePage()
 {
     auto *const page = new QWidget(m_content);
-    auto *const icon = new QLabel(page);
-    icon->setPixmap(symbolIcon(QStringLiteral(":/icons/warning.svg")).pixmap(48, 48));
+    auto *const icon = new SymbolView(symbolIcon(QStringLiteral(":/icons/warning.svg")), 48, page);
     m_failure = new QLabel(page);
     QFont font = m_failure->font();
     font.setPointSizeF(font.pointSizeF() * 1.3);
@@ -163,7 +163,8 @@ QWidget *DocumentWindow::makeFailurePage()
     layout->setContentsMargins(60, 20, 60, 20);
     layout->setSpacing(12);
     layout->addStretch(1);
-    for (QLabel *const label : {icon, m_failure, m_failureReason}) {
+    layout->addWidget(icon, 0, Qt::AlignHCenter);
+    for (QLabel *const label : {m_failure, m_failureReason}) {
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);

@@ -1,7 +1,9 @@
 #include "document/widgets/NoticeBar.h"
 
 #include "document/widgets/SymbolIcon.h"
+#include "document/widgets/SymbolView.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -17,10 +19,9 @@ NoticeBar::NoticeBar(QWidget *parent)
     setBackgroundRole(QPalette::AlternateBase);
     setAutoFillBackground(true);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    auto *const icon = new QLabel(this);
-    icon->setPixmap(
-        themeIcon({QStringLiteral("dialog-warning-symbolic")}, QStringLiteral(":/icons/warning.svg"))
-            .pixmap(side, side));
+    auto *const icon = new SymbolView(
+        themeIcon({QStringLiteral("dialog-warning-symbolic")}, QStringLiteral(":/icons/warning.svg")), side,
+        this);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -42,6 +43,10 @@ void NoticeBar::setNotice(const QString &text)
 {
     m_text->setText(text);
     setVisible(!text.isEmpty());
+    if (isVisible()) {
+        QAccessibleEvent event(m_text, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 QString NoticeBar::notice() const
