@@ -57,6 +57,18 @@ void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
     painter->restore();
 }
 
+/// The mark of the current cell around all of it.
+void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
+{
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(cell);
+    focus.rect = rect;
+    focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+    focus.backgroundColor = cell.palette.color(
+        cell.state.testFlag(QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
+    styleOf(cell).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, cell.widget);
+}
+
 /// Names whose beginning and end both tell them apart.
 bool isLeaf(const QString &column)
 {
@@ -124,7 +136,11 @@ void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &op
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
     cell.rect.adjust(0, 0, -(arrow + 2 * margin), 0);
     cell.backgroundBrush = QBrush();
+    const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
+    cell.state &= ~QStyle::State_HasFocus;
     style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    if (hasFocus)
+        paintFocus(painter, cell, whole);
     const bool hasChoices = !cell.text.isEmpty() || !cell.icon.isNull();
     if (!hasChoices || !index.flags().testFlag(Qt::ItemIsEditable))
         return;

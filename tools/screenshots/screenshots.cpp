@@ -81,6 +81,10 @@ public:
         window.resize(1180, 660);
         while (window.state() == DocumentWindow::State::Loading)
             wait(50);
+        if (window.state() != DocumentWindow::State::Ready) {
+            std::fprintf(stderr, "%s\n", qPrintable(window.message()));
+            return false;
+        }
         take(window, "media");
         window.toolbarEffects();
         take(window, "effects");
