@@ -138,7 +138,8 @@ bool AppController::applicationOpenFile(const QString &path)
 {
     const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
     if (DocumentWindow *const open = windowOf(absolute)) {
-        open->showNormal();
+        open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
+        open->show();
         open->raise();
         open->activateWindow();
         return true;

@@ -239,8 +239,11 @@ void MainMenu::validateFileMenu()
         m_send->setEnabled(false);
         m_send->setToolTip(tr("This version cannot send to an editing application yet."));
     }
-    m_importMenu->setEnabled(m_document != nullptr);
-    m_exportMenu->setEnabled(m_document != nullptr);
+    const bool isBusy = m_document && m_document->isBusy();
+    for (QAction *const action : {m_save, m_saveAs, m_revert, m_send})
+        action->setEnabled(action->isEnabled() && !isBusy);
+    m_importMenu->setEnabled(m_document && !isBusy);
+    m_exportMenu->setEnabled(m_document && !isBusy);
 }
 
 } // namespace vantrell

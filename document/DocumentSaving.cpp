@@ -6,8 +6,17 @@
 
 #include <QFileInfo>
 
+#include <system_error>
+
 namespace vantrell
 {
+
+namespace
+{
+
+const QString alreadySaving = QStringLiteral("The project is being saved already.");
+
+} // namespace
 
 Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
 {
@@ -25,21 +34,27 @@ void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
     }
     m_isSaving = true;
     m_savingCancelled = false;
-    m_saver = std::thread([this, path = url.toLocalFile(), done = std::move(done)] {
+    const auto write = [this, path = url.toLocalFile(), done = std::move(done)] {
         const Result<void> saved = m_xmlDoc->save(path, &m_savingCancelled);
         const bool isCancelled = !saved && m_savingCancelled;
         m_mainThread->post([this, done, outcome = isCancelled ? Failure{SaveFailure::cancelled} : saved] {
-            m_saver.join();
+            if (m_saver.joinable())
+                m_saver.join();
             m_isSaving = false;
             done(noteSaved(outcome));
         });
-    });
+    };
+    try {
+        m_saver = std::thread(write);
+    } catch (const std::system_error &) {
+        write(); // no thread to be had
+    }
 }
 
 Result<void> MyDocument::prepareSaving(const QUrl &url, const QString &typeName)
 {
     if (m_isSaving)
-        return Failure{QStringLiteral("The project is being saved already.")};
+        return Failure{alreadySaving};
     if (typeName == DocumentType::finalCutProProject) {
         if (m_services.sendToFCP)
             m_services.sendToFCP(*this);
@@ -49,6 +64,8 @@ Result<void> MyDocument::prepareSaving(const QUrl &url, const QString &typeName)
         return Failure{QStringLiteral("There is no project to save.")};
     if (!confirmSavingRepaired(url.toLocalFile()))
         return Failure{SaveFailure::notOverwritten};
+    if (m_isSaving) // since the question was raised
+        return Failure{alreadySaving};
     return {};
 }
 
@@ -63,8 +80,10 @@ Result<void> MyDocument::noteSaved(Result<void> saved)
 
 bool MyDocument::confirmSavingRepaired(const QString &path)
 {
+    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs)
+        return true;
     const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
-    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs || !overItself || !QFileInfo::exists(path))
+    if (!overItself || !QFileInfo::exists(path))
         return true;
     const int answer = QVAlert::alertSheetWithMessageText(
         QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),

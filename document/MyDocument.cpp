@@ -136,7 +136,13 @@ void MyDocument::appendToTableArray(RowRecordPtr row)
 
 void MyDocument::endTableUpdates()
 {
-    if (--m_tableUpdates > 0 || m_waitingTableRows.empty())
+    if (--m_tableUpdates == 0)
+        showWaitingRows();
+}
+
+void MyDocument::showWaitingRows()
+{
+    if (m_waitingTableRows.empty())
         return;
     m_interface.tableWillReload();
     m_tableArray.insert(m_tableArray.end(), m_waitingTableRows.begin(), m_waitingTableRows.end());

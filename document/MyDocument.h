@@ -187,6 +187,8 @@ public:
     /// announced once. Rows that were exchanged meanwhile take the place of those that wait.
     void beginTableUpdates() { ++m_tableUpdates; }
     void endTableUpdates();
+    /// Shows the rows that wait.
+    void showWaitingRows();
 
     ViewState &viewState() { return m_viewState; }
 

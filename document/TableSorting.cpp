@@ -59,6 +59,7 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
         const bool newDescending = isSortedColumn && !m_defaults.boolean(key(descendingFormat));
         std::vector<SortDescriptor> descriptors{{column, newDescending}};
         if (m_document.tableTab() == m_tab) {
+            m_document.showWaitingRows();
             RowList rows = m_document.tableArray();
             if (isReversedWhole(column)) {
                 rows = sortedRows(std::move(rows), {{column, false}}, m_valueOfColumn);

@@ -95,7 +95,8 @@ void EffectEditor::removeEffects()
                        isOne ? u"" : u"s"),
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
-        if (answer != AlertAnswer::Default)
+        // The answer may come while the project is being saved, which began since.
+        if (answer != AlertAnswer::Default || m_document.isSaving())
             return;
         for (const RowRecordPtr &effect : selected)
             removeXMLEffect(effect);

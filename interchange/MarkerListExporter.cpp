@@ -106,13 +106,17 @@ bool MarkerListExporter::markerSaveDialogDidEnd(const QString &path, int returnC
     guarded("-[MyDocument markerSaveDialogDidEnd:returnCode:contextInfo:]", [&] {
         const Result<void> written = FileUtilities::writeAtomically(path, textOfMarkerList(format).toUtf8());
         isWritten = written.isOk();
-        if (isWritten)
-            return;
-        QVLog::appendLog(u"Error saving %@ marker list: %@", format, written.message());
-        QVAlert::alertSheetWithMessageText(QStringLiteral("Error saving marker list"), written.message(),
-                                           m_document.interface().alertParent());
+        if (!isWritten)
+            tellOfFailure(format, written.message());
     });
     return isWritten;
+}
+
+void MarkerListExporter::tellOfFailure(const QString &format, const QString &reason) const
+{
+    QVLog::appendLog(u"Error saving %@ marker list: %@", format, reason);
+    QVAlert::alertSheetWithMessageText(QStringLiteral("Error saving marker list"), reason,
+                                       m_document.interface().alertParent());
 }
 
 QString MarkerListExporter::textOfMarkerList(const QString &format) const

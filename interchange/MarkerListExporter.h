@@ -28,6 +28,9 @@ public:
     /// The list as text: "fcp" or "avid"; empty for any other format.
     QString textOfMarkerList(const QString &format) const;
 
+    /// A line in the log and an alert: the list could not be written.
+    void tellOfFailure(const QString &format, const QString &reason) const;
+
 private:
     MyDocument &m_document;
 };

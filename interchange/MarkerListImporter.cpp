@@ -54,7 +54,7 @@ bool MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int re
         hasRows = !rows.empty();
         if (hasRows) {
             const TableUpdates updates(m_document);
-            addMarkers(rows, 0);
+            addMarkers(rows, {});
         } else {
             tellNothingToImport();
         }
@@ -80,25 +80,26 @@ void MarkerListImporter::tellNothingToImport() const
         m_document.interface().alertParent());
 }
 
-std::size_t MarkerListImporter::addMarkers(const RowList &rows, std::size_t first,
-                                           std::optional<std::chrono::milliseconds> limit) const
+MarkerListImporter::Progress
+MarkerListImporter::addMarkers(const RowList &rows, Progress progress,
+                               std::optional<std::chrono::milliseconds> limit) const
 {
     const auto start = std::chrono::steady_clock::now();
-    std::size_t next = first;
     guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
         // An alert on the way lets the user close the window.
-        while (next < rows.size() && !m_document.isClosing()) {
-            const RowRecord &row = *rows[next++];
+        while (progress.next < rows.size() && !m_document.isClosing()) {
+            const RowRecord &row = *rows[progress.next++];
             // The name of a parent is no item of the sequence menu, so that none is chosen.
-            m_editor.addMarkerWithName(
+            const RowRecordPtr added = m_editor.addMarkerWithName(
                 row.text(ImportedMarkerKey::name), row.text(ImportedMarkerKey::startTimecode),
                 row.text(ImportedMarkerKey::durationTimecode), row.text(ImportedMarkerKey::comment),
                 row.text(ImportedMarkerKey::color), nullptr);
+            progress.added += added ? 1 : 0;
             if (limit && std::chrono::steady_clock::now() - start >= *limit)
                 break;
         }
     });
-    return next;
+    return progress;
 }
 
 } // namespace vantrell

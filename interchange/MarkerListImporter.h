@@ -44,10 +44,15 @@ public:
     /// The rows of all files, in their order. Any thread.
     static RowList rowsOfFiles(const QStringList &paths, const QString &format);
     void tellNothingToImport() const;
-    /// Adds the markers from the place `first` on, until all are there or the time is over, at least one.
-    /// Returns the place of the next. Stops when the document is being closed.
-    std::size_t addMarkers(const RowList &rows, std::size_t first,
-                           std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
+    /// How far adding has come.
+    struct Progress {
+        std::size_t next = 0;  ///< place of the row that comes next
+        std::size_t added = 0; ///< markers that came of the rows before it
+    };
+    /// Adds the markers of the rows from `progress` on, until all are there or the time is over, at least
+    /// one. Stops when the document is being closed.
+    Progress addMarkers(const RowList &rows, Progress progress,
+                        std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
 
 private:
     MyDocument &m_document;

@@ -162,7 +162,8 @@ void MarkerEditor::removeMarkers()
                        one ? u"" : u"s"),
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
-        if (answer != AlertAnswer::Default)
+        // The answer may come while the project is being saved, which began since.
+        if (answer != AlertAnswer::Default || m_document.isSaving())
             return;
         removeRows(rows);
         m_inventory.populateFilteredMarkerData();

@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QDialog>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -34,6 +35,8 @@
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace vantrell
 {
@@ -220,7 +223,7 @@ void DocumentWindow::endSession()
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
     m_interface->disconnectFromWindow();
-    qDeleteAll(findChildren<MarkerListImport *>());
+    forgetBusiness();
     m_progress->endProgress();
     for (TabPane *&pane : m_panes) {
         pane->saveLayout();
@@ -290,6 +293,7 @@ void DocumentWindow::beginBusy(const QString &text, std::function<void()> cancel
     m_progress->updateProgressLabel(text);
     m_progressDelay->start();
     updateEditing();
+    m_focusMeanwhile = focusWidget();
     Q_EMIT menusChanged();
 }
 
@@ -301,15 +305,34 @@ void DocumentWindow::endBusy()
     m_cancelBusy = nullptr;
     updateEditing();
     // Controls that were out of use meanwhile lost the focus.
-    if (m_focusBefore && m_focusBefore->isVisible())
+    const bool isUnmoved = !focusWidget() || focusWidget() == m_focusMeanwhile;
+    if (isUnmoved && m_focusBefore && m_focusBefore != focusWidget() && m_focusBefore->isVisible())
         m_focusBefore->setFocus();
     Q_EMIT menusChanged();
     if (std::exchange(m_closesWhenIdle, false))
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
+/// What goes on ends with its document, without a word.
+void DocumentWindow::forgetBusiness()
+{
+    qDeleteAll(findChildren<MarkerListImport *>());
+    m_progressDelay->stop();
+    m_isBusy = m_givesUpForClosing = m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = false;
+    m_cancelBusy = nullptr;
+}
+
 void DocumentWindow::showProgress()
 {
+    // Over an alert the sheet would keep the user from answering it.
+    const auto dialogs = findChildren<QDialog *>();
+    const bool carriesSheet = std::any_of(dialogs.begin(), dialogs.end(), [this](const QDialog *dialog) {
+        return dialog != m_progress && dialog->isVisible();
+    });
+    if (carriesSheet) {
+        m_progressDelay->start();
+        return;
+    }
     m_progress->startProgress();
     m_progress->setCancellable(m_isCancellable);
 }

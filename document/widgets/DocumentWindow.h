@@ -118,8 +118,9 @@ Q_SIGNALS:
     void loaded(const QString &path);
     /// A save is over; why it failed the user has been told.
     void saved(bool isSaved);
-    /// An import is over; 0 when it was cancelled or there was nothing to import.
+    /// An import is over; 0 when it was cancelled or no marker came of it.
     void markersImported(std::size_t count);
+    void markersExported(bool isWritten);
     void loadFailed(const QString &path);
     /// The user wants these files opened.
     void filesDropped(const QStringList &paths);
@@ -147,13 +148,17 @@ private:
     void toolbar(Tab tab);
     void beginBusy(const QString &text, std::function<void()> cancel);
     void endBusy();
+    void forgetBusiness();
     void showProgress();
     void setCancellable(bool cancellable);
     void cancelProgress();
     void writeEnded(const QString &path, bool isProject, const Result<void> &written);
     void tellOfFailedSave(const QString &path, const QString &reason);
     void saveEnded(const QString &path, bool isSaved);
-    void tellOfImport(std::size_t imported, const QStringList &paths);
+    void tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths);
+    void exportEnded(const QString &path, const QString &format, std::size_t count,
+                     const Result<void> &written);
+    void tellInMarkers(const QString &text);
     void setPath(const QString &path);
     void showPane(Tab tab);
     MarkersPane &markersPane() const;
@@ -188,6 +193,8 @@ private:
     std::function<void()> m_cancelBusy;
     QTimer *m_progressDelay;
     QPointer<QWidget> m_focusBefore;
+    QPointer<QWidget> m_focusMeanwhile;
+    bool m_revertsWhenUnwound = false;
 
     QToolBar *m_toolBar = nullptr;
     QActionGroup *m_toolBarItems = nullptr;

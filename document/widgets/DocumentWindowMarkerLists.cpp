@@ -2,15 +2,19 @@
 
 #include "document/widgets/DocumentWindow.h"
 
+#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/MarkerListImport.h"
 #include "document/widgets/MarkerListPanels.h"
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
+#include "support/FileUtilities.h"
 #include "workbench/Workbench.h"
 
 #include <QFileInfo>
 #include <QLocale>
+
+#include <memory>
 
 namespace vantrell
 {
@@ -52,13 +56,14 @@ void DocumentWindow::importMarkerLists(const QStringList &paths, const QString &
         m_givesUpForClosing = false;
         setCancellable(false);
     });
-    connect(import, &MarkerListImport::ended, this, [this, import, paths](std::size_t imported) {
-        import->deleteLater();
-        endBusy();
-        if (imported > 0)
-            tellOfImport(imported, paths);
-        Q_EMIT markersImported(imported);
-    });
+    connect(import, &MarkerListImport::ended, this,
+            [this, import, paths](std::size_t imported, std::size_t total) {
+                import->deleteLater();
+                endBusy();
+                if (total > 0)
+                    tellOfImport(imported, total, paths);
+                Q_EMIT markersImported(imported);
+            });
     const QString name = QFileInfo(paths.value(0)).fileName();
     beginBusy(paths.size() == 1 ? tr("Reading “%1”…").arg(name)
                                 : tr("Reading %1 marker lists…").arg(paths.size()),
@@ -67,14 +72,27 @@ void DocumentWindow::importMarkerLists(const QStringList &paths, const QString &
     import->start();
 }
 
-void DocumentWindow::tellOfImport(std::size_t imported, const QStringList &paths)
+void DocumentWindow::tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths)
 {
-    const QString source = paths.size() == 1 ? tr("from “%1”").arg(QFileInfo(paths.constFirst()).fileName())
-                                             : tr("from %1 files").arg(paths.size());
-    const QString count = imported == 1
-                              ? tr("1 marker imported")
-                              : tr("%1 markers imported").arg(QLocale().toString(qulonglong(imported)));
-    markersPane().showMessage(count + QLatin1Char(' ') + source);
+    const QLocale locale;
+    const QString count = locale.toString(qulonglong(imported));
+    const QString name = QFileInfo(paths.value(0)).fileName();
+    const QString files = locale.toString(qlonglong(paths.size()));
+    if (imported < total)
+        tellInMarkers(tr("%1 of %2 markers imported").arg(count, locale.toString(qulonglong(total))));
+    else if (paths.size() > 1)
+        tellInMarkers(tr("%1 markers imported from %2 files").arg(count, files));
+    else if (imported == 1)
+        tellInMarkers(tr("1 marker imported from “%1”").arg(name));
+    else
+        tellInMarkers(tr("%1 markers imported from “%2”").arg(count, name));
+}
+
+void DocumentWindow::tellInMarkers(const QString &text)
+{
+    if (selectedTab() != Tab::Markers)
+        toolbarMarkers();
+    markersPane().showMessage(text);
 }
 
 void DocumentWindow::runSavePanel(const QString &format)
@@ -90,14 +108,39 @@ void DocumentWindow::runSavePanel(const QString &format)
 
 void DocumentWindow::exportMarkerList(const QString &path, const QString &format)
 {
-    const MarkerListExporter &exporter = m_workbench->markerListExporter();
-    const std::size_t count = m_workbench->document().markerArray().size();
-    if (!exporter.markerSaveDialogDidEnd(path, MarkerListPanel::accepted, format) || m_closing)
+    if (m_isBusy || m_closing)
         return;
+    const QByteArray list = m_workbench->markerListExporter().textOfMarkerList(format).toUtf8();
+    const std::size_t count = m_workbench->document().markerArray().size();
+    const auto isWaited = std::make_shared<bool>(true);
+    beginBusy(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [this, isWaited] {
+        *isWaited = false;
+        endBusy();
+    });
+    m_givesUpForClosing = true;
+    const auto gate = m_workbench->document().mainThread();
+    DocumentDisposal::runBeside([this, gate, isWaited, path, format, count, list] {
+        const Result<void> written = FileUtilities::writeAtomically(path, list);
+        gate->post([this, isWaited, path, format, count, written] {
+            if (*isWaited)
+                exportEnded(path, format, count, written);
+        });
+    });
+}
+
+void DocumentWindow::exportEnded(const QString &path, const QString &format, std::size_t count,
+                                 const Result<void> &written)
+{
+    endBusy();
     const QString name = QFileInfo(path).fileName();
-    markersPane().showMessage(
-        count == 1 ? tr("1 marker exported to “%1”").arg(name)
-                   : tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name));
+    if (!written)
+        m_workbench->markerListExporter().tellOfFailure(format, written.message());
+    else if (count == 1)
+        tellInMarkers(tr("1 marker exported to “%1”").arg(name));
+    else
+        tellInMarkers(tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name));
+    if (!m_closing)
+        Q_EMIT markersExported(written.isOk());
 }
 
 void DocumentWindow::importFCPMarkers()

@@ -4,6 +4,7 @@
 
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
+#include "media/AnswerWithin.h"
 #include "support/widgets/NestedEvents.h"
 #include "workbench/Workbench.h"
 
@@ -12,6 +13,9 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <chrono>
+#include <utility>
+
 namespace vantrell
 {
 
@@ -19,6 +23,7 @@ namespace
 {
 
 const QString closeQuestion = QStringLiteral("closeQuestionDidEnd:returnCode:contextInfo:");
+constexpr std::chrono::milliseconds patience{500}; // with a volume that may have gone
 const QString revertQuestion = QStringLiteral("revertQuestionDidEnd:returnCode:contextInfo:");
 
 } // namespace
@@ -54,6 +59,8 @@ void DocumentWindow::writeEnded(const QString &path, bool isProject, const Resul
     if (m_isBusy)
         endBusy();
     if (isProject) { // sent instead, which clears the changes when it succeeds
+        if (!m_workbench->document().canSend())
+            tellOfFailedSave(path, tr("This version cannot send to an editing application yet."));
         saveEnded(path, !m_workbench->document().isEdited());
         return;
     }
@@ -127,11 +134,22 @@ void DocumentWindow::revert()
 
 void DocumentWindow::revertWithoutQuestion()
 {
+    if (m_isBusy)
+        return;
+    // Until an operation in another window has been answered nothing may be changed that would be lost.
+    m_revertsWhenUnwound = true;
+    beginBusy(tr("Waiting for the question in another window…"), [this] {
+        m_revertsWhenUnwound = false;
+        endBusy();
+    });
+    m_givesUpForClosing = true;
     NestedEvents::whenUnwound(this, [this] {
-        if (m_closing || !m_workbench)
+        if (m_closing || !std::exchange(m_revertsWhenUnwound, false))
             return;
+        endBusy();
         // What is open is all there is of a project whose file has gone.
-        if (!QFileInfo(m_path).isReadable()) {
+        const auto isReadable = [path = m_path] { return QFileInfo(path).isReadable(); };
+        if (!answerWithin<bool>(patience, isReadable).value_or(false)) {
             QVAlert::alertSheetWithMessageText(
                 tr("“%1” cannot be read any more.").arg(QFileInfo(m_path).fileName()), QString(), QString(),
                 QString(), tr("The project stays open as it is. You can save it to another place."),

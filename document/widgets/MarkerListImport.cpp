@@ -2,9 +2,9 @@
 
 #include "document/TableUpdates.h"
 #include "document/widgets/DocumentDisposal.h"
-#include "interchange/MarkerListImporter.h"
 #include "support/QVException.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <chrono>
@@ -55,14 +55,15 @@ void MarkerListImport::cancel()
     if (!*m_isWanted || m_updates)
         return;
     *m_isWanted = false;
-    Q_EMIT ended(0);
+    Q_EMIT ended(0, 0);
 }
 
 void MarkerListImport::add(RowList rows)
 {
     if (rows.empty()) {
-        Q_EMIT ended(0);
-        m_importer.tellNothingToImport();
+        const MarkerListImporter &importer = m_importer;
+        Q_EMIT ended(0, 0);
+        importer.tellNothingToImport();
         return;
     }
     m_rows = std::move(rows);
@@ -73,20 +74,18 @@ void MarkerListImport::add(RowList rows)
 void MarkerListImport::addSome()
 {
     // An alert on the way takes its answer here: the next few wait for it.
-    m_added = m_importer.addMarkers(m_rows, m_added, slice);
-    if (m_document.isClosing() || m_document.mainThread()->isClosed())
+    const QPointer self(this);
+    const MarkerListImporter::Progress progress = m_importer.addMarkers(m_rows, m_progress, slice);
+    if (!self || m_document.isClosing() || m_document.mainThread()->isClosed())
         return;
-    Q_EMIT progressed(m_added, m_rows.size());
-    if (m_added < m_rows.size())
+    m_progress = progress;
+    Q_EMIT progressed(progress.next, m_rows.size());
+    if (progress.next < m_rows.size()) {
         QTimer::singleShot(0, this, &MarkerListImport::addSome);
-    else
-        end();
-}
-
-void MarkerListImport::end()
-{
+        return;
+    }
     m_updates.reset(); // the table shows them all at once
-    Q_EMIT ended(m_added);
+    Q_EMIT ended(progress.added, m_rows.size());
 }
 
 } // namespace vantrell

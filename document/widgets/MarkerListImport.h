@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/RowRecord.h"
+#include "interchange/MarkerListImporter.h"
 
 #include <QObject>
 #include <QStringList>
@@ -12,7 +12,6 @@
 namespace vantrell
 {
 
-class MarkerListImporter;
 class TableUpdates;
 class MyDocument;
 
@@ -35,14 +34,13 @@ public:
 Q_SIGNALS:
     /// So many of the markers have been added.
     void progressed(std::size_t done, std::size_t total);
-    /// The import is over, with so many markers added; 0 when it was cancelled and, after an alert, when
-    /// the files hold none.
-    void ended(std::size_t imported);
+    /// The import is over, with so many markers added of so many that the files hold; both are 0 when it
+    /// was cancelled and, before an alert, when the files hold none.
+    void ended(std::size_t imported, std::size_t total);
 
 private:
     void add(RowList rows);
     void addSome();
-    void end();
 
     MyDocument &m_document;
     const MarkerListImporter &m_importer;
@@ -50,7 +48,7 @@ private:
     const QString m_format;
     std::shared_ptr<bool> m_isWanted = std::make_shared<bool>(true); // what the reading looks at when it ends
     RowList m_rows;
-    std::size_t m_added = 0;
+    MarkerListImporter::Progress m_progress;
     std::unique_ptr<TableUpdates> m_updates; // while markers are being added
 };
 

@@ -20,7 +20,10 @@ QString filterOf(const MarkerListPanel &panel)
 {
     const QString kind =
         panel.format == MarkerListFormat::fcpx ? text("Final Cut Pro X XML files") : text("Marker lists");
-    return QStringLiteral("%1 (*.%2 *.%3)").arg(kind, panel.extension, panel.extension.toUpper());
+    const QString filter =
+        QStringLiteral("%1 (*.%2 *.%3)").arg(kind, panel.extension, panel.extension.toUpper());
+    // Text is text, whatever its name ends in.
+    return panel.typeIdentifier.isNull() ? filter : filter + QStringLiteral(";;") + text("All files (*)");
 }
 
 QFileDialog *makeDialog(const MarkerListPanel &panel, QWidget *window, const QString &folder)

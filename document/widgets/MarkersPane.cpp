@@ -73,6 +73,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     });
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
+        table().commitEditing();
         this->workbench().document().viewState().markerFilter = item;
         this->workbench().markerInventory().changeMarkerFilter();
     });
@@ -175,9 +176,11 @@ void MarkersPane::showMarkerOffsetWindow()
 {
     if (!isEditingEnabled())
         return;
-    auto *sheet = new MarkerOffsetSheet(window());
+    auto *sheet = new MarkerOffsetSheet(this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        if (!isEditingEnabled())
+            return;
         workbench().markerEditor().offsetMarkers(sheet->text());
         model().rowsChanged(0, model().rowCount() - 1);
     });

@@ -274,6 +274,7 @@ void TabPane::copySelection()
 
 void TabPane::sortBy(const QString &identifier)
 {
+    m_table->commitEditing(); // what is being typed counts in the order
     m_sorting.tableViewDidClickTableColumn(identifier);
     showSortIndicator();
 }
@@ -321,6 +322,7 @@ void TabPane::removeColumn(const QString &identifier)
     const int column = m_model->columnOf(identifier);
     if (column < 0)
         return;
+    m_table->commitEditing();
     m_storedWidths.insert(identifier, m_table->columnWidth(column));
     m_model->removeColumn(identifier);
     showSortIndicator();

@@ -155,7 +155,7 @@ void WindowAlertPresenter::bringToFront(AlertParent *parent)
     if (!window || !window->isVisible())
         return;
     if (window->isMinimized())
-        window->showNormal();
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->raise();
     window->activateWindow();
 }

@@ -259,7 +259,10 @@ private Q_SLOTS:
             told = visibleBox() ? visibleBox()->text() : QString();
             pressLater(QStringLiteral("OK"));
         });
+        QTRY_VERIFY(!window->isBusy());
+        QSignalSpy ended(window, &DocumentWindow::markersExported);
         window->exportMarkerList(m_home->path(QStringLiteral("project/taken.txt")), MarkerListFormat::fcp);
+        QTRY_COMPARE(ended.count(), 1);
         QCOMPARE(told, QStringLiteral("Error saving marker list"));
     }
 

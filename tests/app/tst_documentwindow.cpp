@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 
+#include "document/TableUpdates.h"
 #include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/QVTableView.h"
@@ -409,6 +410,72 @@ private Q_SLOTS:
         QTRY_COMPARE(imported.count(), 3);
         QTRY_COMPARE(told, QStringLiteral("No markers to import"));
         QCOMPARE(model.rowCount(), 30024);
+    }
+
+    void anImportIsAskedAboutBadRows()
+    {
+        openSample(); // its markers are not on show
+        const QString list =
+            m_home->addFile(QStringLiteral("list.txt"), "One\t01:00:20:00\tV1\tred\tNew\n"
+                                                        "cut < 3s\t01:00:21:00\tV1\tred\tNew\n"
+                                                        "Two\t01:00:22:00\tV1\tred\tNew\n");
+        auto *const sheet = m_window->findChild<ProgressSheet *>();
+        bool isSheetOver = true;
+        QString told;
+        QTimer::singleShot(900, m_window, [&] {
+            isSheetOver = sheet->isVisible();
+            told = visibleBox() ? visibleBox()->text() : QString();
+            pressLater(QStringLiteral("OK"));
+        });
+        QSignalSpy imported(m_window, &DocumentWindow::markersImported);
+        m_window->importMarkerLists({list}, MarkerListFormat::avid);
+        QTRY_COMPARE(imported.count(), 1);
+        QCOMPARE(told, QStringLiteral("Unable to create marker"));
+        QVERIFY(!isSheetOver);
+        QCOMPARE(imported.at(0).at(0).value<std::size_t>(), std::size_t(2));
+        QCOMPARE(m_window->selectedTab(), Tab::Markers);
+        QCOMPARE(statusOf(*m_window), QStringLiteral("26 markers. 2 of 3 markers imported."));
+        QVERIFY(!m_window->isBusy());
+    }
+
+    void sortsWhatAnImportHasAdded()
+    {
+        openSample();
+        m_window->toolbarMarkers();
+        MyDocument &document = *m_window->document();
+        {
+            const TableUpdates updates(document);
+            m_window->workbench().markerEditor().addMarkerWithName(QStringLiteral("AAA"), 7, -1, QString(),
+                                                                   QStringLiteral("red"));
+            m_window->pane(Tab::Markers).sortBy(QStringLiteral("name"));
+        }
+        QCOMPARE(columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).value(0),
+                 QStringLiteral("AAA"));
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 25);
+    }
+
+    void aRevertThatWaitsKeepsTheWindowBusy()
+    {
+        openSample();
+        m_window->toolbarMarkers();
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed")));
+        DocumentWindow other(*m_defaults);
+        other.show();
+        other.open(copySample(m_home->path(QStringLiteral("other"))));
+        QTRY_COMPARE(other.state(), DocumentWindow::State::Ready);
+        other.toolbarMarkers();
+        other.pane(Tab::Markers).selectRows({0});
+        bool wasBusy = false;
+        QTimer::singleShot(100, m_window, [&] { m_window->revertWithoutQuestion(); });
+        QTimer::singleShot(400, m_window, [&] {
+            wasBusy = m_window->isBusy() && m_window->isWindowModified() &&
+                      !editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Lost"));
+            pressLater(QStringLiteral("Cancel"));
+        });
+        other.removeSelection();
+        QVERIFY(wasBusy);
+        QTRY_VERIFY(!m_window->isBusy() && !m_window->isWindowModified());
+        QTRY_VERIFY(m_window->mayEdit());
     }
 
     void closingGivesAnImportUp()
