@@ -580,7 +580,7 @@ private:
     {
         make();
         m_window->open(m_path);
-        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 60000);
     }
     void reopen()
     {

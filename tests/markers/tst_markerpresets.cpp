@@ -70,7 +70,11 @@ class MarkerPresetsTest : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase() { QVLog::createNewLog(QStringLiteral("markers"), true); }
+    void initTestCase()
+    {
+        const TemporaryHome home; // the log keeps its file open, the tests' homes stay without it
+        QVLog::createNewLog(QStringLiteral("markers"), true);
+    }
     void init()
     {
         m_home = std::make_unique<TemporaryHome>();
