@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
@@ -15,6 +16,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 namespace vantrell
 {
@@ -63,6 +65,24 @@ inline void pressLater(const QString &title)
         QMessageBox *const box = visibleBox();
         if (box && press(box, title))
             timer->deleteLater();
+    });
+    timer->start(5);
+}
+
+/// Calls `look` once an alert has stood for that many milliseconds, from within the operation that raises it.
+inline void whenAsked(int milliseconds, const std::function<void(QMessageBox *)> &look)
+{
+    auto *const timer = new QTimer(qApp);
+    const auto since = std::make_shared<QElapsedTimer>();
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, since, milliseconds, look] {
+        QMessageBox *const box = visibleBox();
+        if (box && !since->isValid())
+            since->start();
+        if (!box || since->elapsed() < milliseconds)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        look(box);
     });
     timer->start(5);
 }

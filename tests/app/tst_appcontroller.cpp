@@ -255,9 +255,9 @@ private Q_SLOTS:
         // A folder stands in the file's place.
         QVERIFY(QDir().mkpath(m_home->path(QStringLiteral("project/taken.txt/inside"))));
         QString told;
-        QTimer::singleShot(200, window, [&told] {
-            told = visibleBox() ? visibleBox()->text() : QString();
-            pressLater(QStringLiteral("OK"));
+        whenAsked(0, [&told](QMessageBox *box) {
+            told = box->text();
+            press(box, QStringLiteral("OK"));
         });
         QTRY_VERIFY(!window->isBusy());
         QSignalSpy ended(window, &DocumentWindow::markersExported);

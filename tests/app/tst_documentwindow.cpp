@@ -238,9 +238,9 @@ private Q_SLOTS:
         m_window->toolbarMarkers();
         editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Renamed"));
         bool isSheetOnly = false;
-        QTimer::singleShot(700, m_window, [&] {
-            isSheetOnly = visibleBox() && !m_window->findChild<ProgressSheet *>()->isVisible();
-            pressLater(QStringLiteral("Cancel"));
+        whenAsked(700, [&](QMessageBox *box) {
+            isSheetOnly = !m_window->findChild<ProgressSheet *>()->isVisible();
+            press(box, QStringLiteral("Cancel"));
         });
         QVERIFY(!saves(*m_window));
         QVERIFY(isSheetOnly);
@@ -422,10 +422,10 @@ private Q_SLOTS:
         auto *const sheet = m_window->findChild<ProgressSheet *>();
         bool isSheetOver = true;
         QString told;
-        QTimer::singleShot(900, m_window, [&] {
+        whenAsked(900, [&](QMessageBox *box) {
             isSheetOver = sheet->isVisible();
-            told = visibleBox() ? visibleBox()->text() : QString();
-            pressLater(QStringLiteral("OK"));
+            told = box->text();
+            press(box, QStringLiteral("OK"));
         });
         QSignalSpy imported(m_window, &DocumentWindow::markersImported);
         m_window->importMarkerLists({list}, MarkerListFormat::avid);
@@ -466,11 +466,14 @@ private Q_SLOTS:
         other.toolbarMarkers();
         other.pane(Tab::Markers).selectRows({0});
         bool wasBusy = false;
-        QTimer::singleShot(100, m_window, [&] { m_window->revertWithoutQuestion(); });
-        QTimer::singleShot(400, m_window, [&] {
-            wasBusy = m_window->isBusy() && m_window->isWindowModified() &&
-                      !editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Lost"));
-            pressLater(QStringLiteral("Cancel"));
+        whenAsked(0, [&](QMessageBox *box) {
+            m_window->revertWithoutQuestion();
+            QTimer::singleShot(300, box, [&, box] {
+                wasBusy =
+                    m_window->isBusy() && m_window->isWindowModified() &&
+                    !editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Lost"));
+                press(box, QStringLiteral("Cancel"));
+            });
         });
         other.removeSelection();
         QVERIFY(wasBusy);
