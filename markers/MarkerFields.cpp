@@ -49,10 +49,12 @@ void MarkerFields::setupMarkerFields()
         if (column.startsWith(MarkerKey::customPrefix) && !identifiers.contains(column))
             interface.removeMarkerColumn(column);
     }
-    const QStringList order = placedColumns(interface.markerColumns());
-    for (int place = 0; place < order.size(); ++place) {
-        if (interface.markerColumns().at(place) != order.at(place))
-            interface.moveMarkerColumn(order.at(place), place);
+    const qint64 count = interface.markerColumns().size();
+    for (const MarkerField &field : m_markerFieldArray) {
+        const bool placed =
+            !field.identifier.isEmpty() && field.colIndex && *field.colIndex >= 0 && *field.colIndex < count;
+        if (placed)
+            interface.moveMarkerColumn(field.identifier, int(*field.colIndex));
     }
     if (m_document.tableTab() == Tab::Markers) {
         interface.tableWillReload();
@@ -131,28 +133,6 @@ void MarkerFields::columnMoved(const QString &identifier, int newIndex)
     moved->colIndex = newIndex;
     std::rotate(moved, moved + 1, m_markerFieldArray.end());
     store();
-}
-
-/// The columns with those of the fields where the user moved them, one after the other. That begins with
-/// them at the end, as in a new window, so that doing it again moves nothing.
-QStringList MarkerFields::placedColumns(QStringList columns) const
-{
-    const auto isPlaced = [count = qint64(columns.size())](const MarkerField &field) {
-        return field.colIndex && *field.colIndex >= 0 && *field.colIndex < count;
-    };
-    if (std::none_of(m_markerFieldArray.begin(), m_markerFieldArray.end(), isPlaced))
-        return columns;
-    const auto move = [&columns](const QString &column, qsizetype place) {
-        if (const qsizetype from = columns.indexOf(column); from >= 0)
-            columns.move(from, place);
-    };
-    for (const MarkerField &field : m_markerFieldArray)
-        move(field.identifier, columns.size() - 1);
-    for (const MarkerField &field : m_markerFieldArray) {
-        if (isPlaced(field))
-            move(field.identifier, qsizetype(*field.colIndex));
-    }
-    return columns;
 }
 
 void MarkerFields::load()

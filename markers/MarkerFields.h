@@ -3,7 +3,6 @@
 #include "support/PropertyListValue.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -60,7 +59,6 @@ public:
     void columnMoved(const QString &identifier, int newIndex);
 
 private:
-    QStringList placedColumns(QStringList columns) const;
     void load();
     void store();
 

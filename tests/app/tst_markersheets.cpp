@@ -191,8 +191,9 @@ private Q_SLOTS:
         QCOMPARE(columns(), moved);
         m_other = open(QStringLiteral("b"));
         QCOMPARE(m_other->pane(Tab::Markers).columns().mid(0, 4), moved.mid(0, 4));
+        // Places are applied one after the other, the column that was moved last coming last.
         openFields(m_window)->close();
-        QCOMPARE(columns(), moved);
+        QCOMPARE(columns().mid(0, 4), QStringList({lens, crew, take, QStringLiteral("color")}));
         // The other document follows.
         move(take, 7);
         QCOMPARE(m_other->pane(Tab::Markers).columns().indexOf(take), 7);
