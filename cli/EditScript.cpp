@@ -4,6 +4,8 @@
 #include "markers/MarkerColumns.h"
 #include "support/FileUtilities.h"
 
+#include <nlohmann/json.hpp>
+
 #include <QFile>
 
 #include <limits>

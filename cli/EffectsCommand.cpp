@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
@@ -6,6 +7,8 @@
 #include "cli/TextTable.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -88,22 +91,19 @@ int effects(const EffectsOptions &options)
 
 } // namespace
 
-void addEffectsCommand(CLI::App &program, int &status)
+void addEffectsCommand(CommandLine &program)
 {
     auto options = std::make_shared<EffectsOptions>();
-    CLI::App *command = program.add_subcommand("effects", "List the filters and generators of a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command
-        ->add_option("--type", options->type,
-                     "Only these: all, filter, video-filter, audio-filter, generator or transition")
-        ->check(CLI::IsMember(typeNames));
-    command->add_option("--search", options->search, "Only effects with this text in their name");
-    command->add_flag("--show-defaults", options->showDefaults,
-                      "Also the effects that every clip has, such as Opacity");
-    command->add_option("--sort", options->sort,
-                        "Sort by a column, ID or ID:desc: " + sortChoices(effectColumns));
-    command->add_flag("--json", options->json, "Print one JSON document, with the status text");
-    command->callback([options, &status] { status = effects(*options); });
+    Subcommand command = program.add("effects", "List the filters and generators of a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--type", options->type, typeNames,
+                   "Only these: all, filter, video-filter, audio-filter, generator or transition");
+    command.value("--search", options->search, "Only effects with this text in their name");
+    command.flag("--show-defaults", options->showDefaults,
+                 "Also the effects that every clip has, such as Opacity");
+    command.value("--sort", options->sort, "Sort by a column, ID or ID:desc: " + sortChoices(effectColumns));
+    command.flag("--json", options->json, "Print one JSON document, with the status text");
+    command.onRun([options] { return effects(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,9 +1,12 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlLocationPaths.h"
+
+#include <nlohmann/json.hpp>
 
 #include <memory>
 
@@ -88,13 +91,13 @@ int info(const InfoOptions &options)
 
 } // namespace
 
-void addInfoCommand(CLI::App &program, int &status)
+void addInfoCommand(CommandLine &program)
 {
     auto options = std::make_shared<InfoOptions>();
-    CLI::App *command = program.add_subcommand("info", "List the sequences of a project and their clips");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, &status] { status = info(*options); });
+    Subcommand command = program.add("info", "List the sequences of a project and their clips");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options] { return info(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,5 +1,7 @@
 #include "cli/JsonText.h"
 
+#include <nlohmann/json.hpp>
+
 namespace vantrell::cli
 {
 

@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
@@ -104,28 +105,26 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
 
 } // namespace
 
-void addMarkerListCommand(CLI::App &program, int &status)
+void addMarkerListCommand(CommandLine &program)
 {
     auto options = std::make_shared<MarkerListOptions>();
-    CLI::App *command =
-        program.add_subcommand("marker-list", "List the markers of another system's marker list file");
-    command->add_option("LIST", options->file, "The marker list")->required();
-    command->add_option("--format", options->format, "fcp, avid or fcpx")
-        ->required()
-        ->check(CLI::IsMember({"fcp", "avid", "fcpx"}));
-    const std::vector<const CLI::Option *> ofFcpx = {
-        command->add_flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)"),
-        command->add_flag("--strip-duplicates", options->stripDuplicates,
-                          "Only the first of the markers at one place (fcpx)"),
-        command->add_flag("--all-storylines", options->allStorylines,
-                          "Connected clips and secondary storylines too (fcpx)"),
-        command->add_option("--relative-hour", options->relativeHour,
-                            "The hour that becomes 0; lower ones are raised by it (fcpx)")};
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, ofFcpx, &status] {
-        const bool hasOptionsOfFcpx = std::any_of(
-            ofFcpx.begin(), ofFcpx.end(), [](const CLI::Option *option) { return option->count() > 0; });
-        status = markerList(*options, hasOptionsOfFcpx);
+    Subcommand command = program.add("marker-list", "List the markers of another system's marker list file");
+    command.value("LIST", options->file, "The marker list", Subcommand::Need::Required);
+    command.choice("--format", options->format, {"fcp", "avid", "fcpx"}, "fcp, avid or fcpx",
+                   Subcommand::Need::Required);
+    command.flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)");
+    command.flag("--strip-duplicates", options->stripDuplicates,
+                 "Only the first of the markers at one place (fcpx)");
+    command.flag("--all-storylines", options->allStorylines,
+                 "Connected clips and secondary storylines too (fcpx)");
+    command.value("--relative-hour", options->relativeHour,
+                  "The hour that becomes 0; lower ones are raised by it (fcpx)");
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options, command] {
+        const bool hasOptionsOfFcpx = command.isGiven("--seconds") || command.isGiven("--strip-duplicates") ||
+                                      command.isGiven("--all-storylines") ||
+                                      command.isGiven("--relative-hour");
+        return markerList(*options, hasOptionsOfFcpx);
     });
 }
 

@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
@@ -7,6 +8,8 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
+
+#include <nlohmann/json.hpp>
 
 #include <memory>
 #include <unordered_set>
@@ -140,20 +143,20 @@ int markers(const MarkersOptions &options)
 
 } // namespace
 
-void addMarkersCommand(CLI::App &program, int &status)
+void addMarkersCommand(CommandLine &program)
 {
     auto options = std::make_shared<MarkersOptions>();
-    CLI::App *command = program.add_subcommand("markers", "List the markers of a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--color", options->color,
-                        "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
-                        "pink, or 0 to 7");
-    command->add_option("--sort", options->sort,
-                        "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
-                        "come in document order. Columns: " +
-                            sortChoices(markerColumns) + ", QVCUSTOM_...");
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, &status] { status = markers(*options); });
+    Subcommand command = program.add("markers", "List the markers of a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.value("--color", options->color,
+                  "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
+                  "pink, or 0 to 7");
+    command.value("--sort", options->sort,
+                  "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
+                  "come in document order. Columns: " +
+                      sortChoices(markerColumns) + ", QVCUSTOM_...");
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options] { return markers(*options); });
 }
 
 } // namespace vantrell::cli

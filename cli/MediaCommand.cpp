@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
@@ -7,6 +8,8 @@
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+
+#include <nlohmann/json.hpp>
 
 #include <array>
 #include <memory>
@@ -108,19 +111,18 @@ int media(const MediaOptions &options)
 
 } // namespace
 
-void addMediaCommand(CLI::App &program, int &status)
+void addMediaCommand(CommandLine &program)
 {
     auto options = std::make_shared<MediaOptions>();
-    CLI::App *command = program.add_subcommand("media", "List the media files that the clips use");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--kind", options->kind, "Only files of this kind: movie, audio or image")
-        ->check(CLI::IsMember({"movie", "audio", "image"}));
-    command->add_option("--drive", options->drive,
-                        "Only files below this folder; / stands for all that is on no mounted volume");
-    command->add_option("--sort", options->sort,
-                        "Sort by a column, ID or ID:desc: " + sortChoices(mediaColumns));
-    command->add_flag("--json", options->json, "Print one JSON document, with statistics and label texts");
-    command->callback([options, &status] { status = media(*options); });
+    Subcommand command = program.add("media", "List the media files that the clips use");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--kind", options->kind, {"movie", "audio", "image"},
+                   "Only files of this kind: movie, audio or image");
+    command.value("--drive", options->drive,
+                  "Only files below this folder; / stands for all that is on no mounted volume");
+    command.value("--sort", options->sort, "Sort by a column, ID or ID:desc: " + sortChoices(mediaColumns));
+    command.flag("--json", options->json, "Print one JSON document, with statistics and label texts");
+    command.onRun([options] { return media(*options); });
 }
 
 } // namespace vantrell::cli

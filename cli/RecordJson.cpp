@@ -1,5 +1,7 @@
 #include "cli/RecordJson.h"
 
+#include <nlohmann/json.hpp>
+
 namespace vantrell::cli
 {
 

@@ -28,11 +28,19 @@ if(VANTRELL_SANITIZER_FLAGS)
     target_compile_definitions(vantrell_common INTERFACE VANTRELL_SANITIZED)
 endif()
 
-# vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...])
-# makes the static library vantrell_<folder> from the files of the calling folder.
+# vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...] [PRECOMPILED set])
+# makes the static library vantrell_<folder> from the files of the calling folder. Its set of precompiled
+# headers is `window` where its headers need Qt Widgets, else `core`.
 function(vantrell_library folder)
-    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    if(NOT ARG_PRECOMPILED)
+        set(ARG_PRECOMPILED core)
+        if("Qt6::Widgets" IN_LIST ARG_PUBLIC)
+            set(ARG_PRECOMPILED window)
+        endif()
+    endif()
     add_library(vantrell_${folder} STATIC ${ARG_SOURCES})
+    target_precompile_headers(vantrell_${folder} REUSE_FROM vantrell_precompiled_${ARG_PRECOMPILED})
     target_link_libraries(vantrell_${folder} PUBLIC vantrell_common ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
