@@ -32,7 +32,7 @@ struct EffectsOptions {
 const std::vector<std::string> typeNames{"all",          "filter",    "video-filter",
                                          "audio-filter", "generator", "transition"};
 
-QString cellText(const RowRecord &effect, const TableColumn &column)
+QString effectsCellText(const RowRecord &effect, const TableColumn &column)
 {
     const RecordKey key(column.identifier);
     const RecordValue *value = effect.find(key);
@@ -43,7 +43,7 @@ QString cellText(const RowRecord &effect, const TableColumn &column)
     return valueText(*value);
 }
 
-QByteArray asTable(const RowList &effects)
+QByteArray effectsAsTable(const RowList &effects)
 {
     QStringList titles;
     for (const TableColumn &column : effectColumns)
@@ -52,13 +52,13 @@ QByteArray asTable(const RowList &effects)
     for (const RowRecordPtr &effect : effects) {
         QStringList cells;
         for (const TableColumn &column : effectColumns)
-            cells.append(cellText(*effect, column));
+            cells.append(effectsCellText(*effect, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(ProjectSession &session)
+QByteArray effectsAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     return toBytes(Json{{"effects", recordsToJson(session.document().rowsOnShow(Tab::Effects), paths)},
@@ -85,7 +85,7 @@ int effects(const EffectsOptions &options)
     view.effectSearch = withoutMark(fromArgument(options.search));
     session.workbench().effectInventory().populateFilteredEffectData();
     const QByteArray output =
-        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Effects));
+        options.json ? effectsAsJson(session) : effectsAsTable(session.document().rowsOnShow(Tab::Effects));
     return print(output) ? Done : Failed;
 }
 

@@ -44,7 +44,7 @@ std::vector<SequenceInfo> collect(MyDocument &document)
     return sequences;
 }
 
-QByteArray asJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequences)
+QByteArray infoAsJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequences)
 {
     Json list = Json::array();
     for (const SequenceInfo &sequence : sequences) {
@@ -63,7 +63,7 @@ QByteArray asJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequenc
     return toBytes(Json{{"xmlType", xmlType}, {"sequences", std::move(list)}});
 }
 
-QByteArray asTable(const std::vector<SequenceInfo> &sequences)
+QByteArray infoAsTable(const std::vector<SequenceInfo> &sequences)
 {
     TextTable table({QStringLiteral("Sequence"), QStringLiteral("Clip"), QStringLiteral("Name"),
                      QStringLiteral("UUID or ID")});
@@ -85,7 +85,7 @@ int info(const InfoOptions &options)
         return Failed;
     const std::vector<SequenceInfo> sequences = collect(session.document());
     const QByteArray output =
-        options.json ? asJson(session.document().xmlType(), sequences) : asTable(sequences);
+        options.json ? infoAsJson(session.document().xmlType(), sequences) : infoAsTable(sequences);
     return print(output) ? Done : Failed;
 }
 

@@ -27,13 +27,13 @@ struct MarkerListOptions {
     bool json = false;
 };
 
-QByteArray asJson(const RowList &rows)
+QByteArray listAsJson(const RowList &rows)
 {
     XmlLocationPaths paths;
     return toBytes(recordsToJson(rows, paths));
 }
 
-std::vector<RecordKey> columnsOf(const MarkerListOptions &options)
+std::vector<RecordKey> listColumns(const MarkerListOptions &options)
 {
     using namespace ImportedMarkerKey;
     if (options.format == "fcp")
@@ -45,7 +45,7 @@ std::vector<RecordKey> columnsOf(const MarkerListOptions &options)
     return {name, startTimecode};
 }
 
-QByteArray asTable(const RowList &rows, const std::vector<RecordKey> &columns)
+QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &columns)
 {
     QStringList titles;
     for (const RecordKey column : columns)
@@ -100,7 +100,7 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
     const std::optional<RowList> rows = read(fromArgument(options.file), options, qint64(*hour));
     if (!rows)
         return Failed;
-    return print(options.json ? asJson(*rows) : asTable(*rows, columnsOf(options))) ? Done : Failed;
+    return print(options.json ? listAsJson(*rows) : listAsTable(*rows, listColumns(options))) ? Done : Failed;
 }
 
 } // namespace

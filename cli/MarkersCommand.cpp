@@ -40,7 +40,7 @@ QString yesOrEmpty(const RowRecord &marker, TypedKey<std::int64_t> flag)
     return marker.get(flag) == 1 ? QStringLiteral("yes") : QString();
 }
 
-QString cellText(const RowRecord &marker, RecordKey key)
+QString markersCellText(const RowRecord &marker, RecordKey key)
 {
     if (key == MarkerKey::color) {
         const std::int64_t color = marker.get(MarkerKey::color);
@@ -78,7 +78,7 @@ QStringList customFieldsOf(const RowList &markers)
     return fields;
 }
 
-QByteArray asTable(const RowList &markers)
+QByteArray markersAsTable(const RowList &markers)
 {
     std::vector<RecordKey> columns;
     QStringList titles;
@@ -94,13 +94,13 @@ QByteArray asTable(const RowList &markers)
     for (const RowRecordPtr &marker : markers) {
         QStringList cells;
         for (const RecordKey column : columns)
-            cells.append(cellText(*marker, column));
+            cells.append(markersCellText(*marker, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(const RowList &markers)
+QByteArray markersAsJson(const RowList &markers)
 {
     XmlLocationPaths paths;
     Json list = Json::array();
@@ -138,7 +138,7 @@ int markers(const MarkersOptions &options)
     view.markerFilter = color ? *color + 1 : 0;
     session.workbench().markerInventory().populateFilteredMarkerData();
     const RowList &rows = session.document().rowsOnShow(Tab::Markers);
-    return print(options.json ? asJson(rows) : asTable(rows)) ? Done : Failed;
+    return print(options.json ? markersAsJson(rows) : markersAsTable(rows)) ? Done : Failed;
 }
 
 } // namespace

@@ -47,7 +47,7 @@ QString driveOf(const std::string &argument)
     return drive.isEmpty() ? QString() : drive;
 }
 
-QString cellText(const RowRecord &file, const TableColumn &column)
+QString mediaCellText(const RowRecord &file, const TableColumn &column)
 {
     const RecordKey key(column.identifier);
     const RecordValue *value = file.find(key);
@@ -60,7 +60,7 @@ QString cellText(const RowRecord &file, const TableColumn &column)
     return valueText(*value);
 }
 
-QByteArray asTable(const RowList &files)
+QByteArray mediaAsTable(const RowList &files)
 {
     QStringList titles;
     for (const TableColumn &column : mediaColumns)
@@ -69,13 +69,13 @@ QByteArray asTable(const RowList &files)
     for (const RowRecordPtr &file : files) {
         QStringList cells;
         for (const TableColumn &column : mediaColumns)
-            cells.append(cellText(*file, column));
+            cells.append(mediaCellText(*file, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(ProjectSession &session)
+QByteArray mediaAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     Json texts = Json::array();
@@ -105,7 +105,7 @@ int media(const MediaOptions &options)
     view.mediaDrive = driveOf(options.drive);
     session.workbench().mediaFilter().populateFilteredMediaData();
     const QByteArray output =
-        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Media));
+        options.json ? mediaAsJson(session) : mediaAsTable(session.document().rowsOnShow(Tab::Media));
     return print(output) ? Done : Failed;
 }
 

@@ -39,6 +39,6 @@ if(BUILD_TESTING)
     foreach(set ${test_sets})
         set_target_properties(vantrell_precompiled_${set} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
         target_compile_options(vantrell_precompiled_${set} PRIVATE
-            ${CMAKE_CXX_COMPILE_OPTIONS_PIE} $<$<CONFIG:Release>:-O1>)
+            ${CMAKE_CXX_COMPILE_OPTIONS_PIE} ${VANTRELL_TEST_OPTIMISATION})
     endforeach()
 endif()

@@ -22,7 +22,10 @@ elseif(VANTRELL_SANITIZER STREQUAL "thread")
 else()
     message(FATAL_ERROR "VANTRELL_SANITIZER is \"${VANTRELL_SANITIZER}\"; known are \"\", \"address\" and \"thread\".")
 endif()
+# Tests run for as long as they take to compile: no build spends time on optimising them.
+set(VANTRELL_TEST_OPTIMISATION $<$<CONFIG:Release>:-O1>)
 if(VANTRELL_SANITIZER_FLAGS)
+    set(VANTRELL_TEST_OPTIMISATION -O0)
     target_compile_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
     target_compile_definitions(vantrell_common INTERFACE VANTRELL_SANITIZED)
@@ -48,6 +51,7 @@ endfunction()
 function(vantrell_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
     target_link_libraries(${name} PRIVATE vantrell_common ${ARG_LIBRARIES})
 endfunction()
 
@@ -62,7 +66,7 @@ endfunction()
 
 # vantrell_test(<folder> <name> [LIBRARIES ...]) makes the Qt Test program tst_<name> from
 # tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
-# what LIBRARIES adds. Optimised builds spend no time on optimising tests.
+# what LIBRARIES adds.
 function(vantrell_test folder name)
     cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
     set(set test)
@@ -72,8 +76,9 @@ function(vantrell_test folder name)
     endif()
     set(source "${PROJECT_SOURCE_DIR}/tests/${folder}/tst_${name}.cpp")
     add_executable(tst_${name} "${source}")
+    set_target_properties(tst_${name} PROPERTIES UNITY_BUILD OFF)
     vantrell_moc(tst_${name} "${source}" tst_${name}.moc)
-    target_compile_options(tst_${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+    target_compile_options(tst_${name} PRIVATE ${VANTRELL_TEST_OPTIMISATION})
     target_precompile_headers(tst_${name} REUSE_FROM vantrell_precompiled_${set})
     target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test ${ARG_LIBRARIES})
     add_test(NAME ${folder}/${name} COMMAND tst_${name})
