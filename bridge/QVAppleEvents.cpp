@@ -89,9 +89,11 @@ QString QVAppleEvents::escapeCharactersInXMLString(const QString &text)
     return escaped;
 }
 
-QByteArray QVAppleEvents::formatData(const QByteArray &data)
+QByteArray QVAppleEvents::formatData(QByteArray data)
 {
-    return data.endsWith('\0') ? data.chopped(1) : data;
+    if (data.endsWith('\0'))
+        data.chop(1);
+    return data;
 }
 
 } // namespace vantrell

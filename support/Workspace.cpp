@@ -3,6 +3,7 @@
 #include "support/ApplicationBundle.h"
 #include "support/FileBrowser.h"
 #include "support/QVLog.h"
+#include "support/StandardFolders.h"
 #include "support/TaskRunner.h"
 #include "support/UserDefaults.h"
 #include "support/UserProcess.h"
@@ -172,10 +173,8 @@ std::vector<Workspace::RunningApplication> Workspace::runningApplications()
 
 QString Workspace::eventSocketPath(const QString &signature)
 {
-    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (runtimeFolder.isEmpty())
-        return {};
-    return runtimeFolder + QStringLiteral("/vantrell/") + signature;
+    const QString folder = StandardFolders::runtime();
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + signature;
 }
 
 bool Workspace::revealFile(const QString &path)
