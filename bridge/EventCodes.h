@@ -46,3 +46,20 @@ inline constexpr FourCharCode List{"list"};
 inline constexpr FourCharCode Record{"reco"};
 
 } // namespace vantrell::EventCode
+
+/// The error numbers of events: what a reply reports and what a failed step has.
+namespace vantrell::EventError
+{
+
+inline constexpr std::int32_t FileNotFound = -43;
+inline constexpr std::int32_t BadParameter = -50;
+inline constexpr std::int32_t OutOfMemory = -108;
+inline constexpr std::int32_t Cancelled = -128;
+inline constexpr std::int32_t ProcessNotFound = -600;   ///< nobody takes events there
+inline constexpr std::int32_t ConnectionInvalid = -609; ///< it ended before the reply
+inline constexpr std::int32_t CorruptData = -1702;      ///< the bytes are no event
+inline constexpr std::int32_t EventNotHandled = -1708;  ///< the application does not know it
+inline constexpr std::int32_t TimedOut = -1712;
+inline constexpr std::int32_t NotPermitted = -10004; ///< the application is another user's
+
+} // namespace vantrell::EventError

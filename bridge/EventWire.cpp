@@ -357,15 +357,23 @@ private:
 
 } // namespace
 
+Result<qsizetype> size(const EventRecord &record)
+{
+    const Result<qsizetype> body = Measure().bodySize(record);
+    if (!body)
+        return body;
+    return PrefixSize + body.value();
+}
+
 Result<std::vector<QByteArray>> pieces(const EventRecord &record)
 {
-    const Result<qsizetype> size = Measure().bodySize(record);
-    if (!size)
-        return size.failure();
+    const Result<qsizetype> body = Measure().bodySize(record);
+    if (!body)
+        return body.failure();
     Writer writer;
     writer.code(Magic);
     writer.number(Version);
-    writer.count(static_cast<std::size_t>(size.value()));
+    writer.count(static_cast<std::size_t>(body.value()));
     writer.code(record.eventClass);
     writer.code(record.identifier);
     for (const std::int32_t field :

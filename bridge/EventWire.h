@@ -30,6 +30,9 @@ inline constexpr int maximumDepth = 16;
 /// Values of a record, those in lists and records included.
 inline constexpr int maximumValues = 65536;
 
+/// Bytes of the record; a failure says why it cannot be written.
+Result<qsizetype> size(const EventRecord &record);
+
 /// The record in pieces to be written one after the other. Large texts are shared, not copied.
 Result<std::vector<QByteArray>> pieces(const EventRecord &record);
 

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 #include <cstdint>
 #include <memory>
@@ -31,6 +32,8 @@ class QVAppleEvents
 public:
     QVAppleEvents() = delete;
 
+    /// The bundle identifier.
+    static QString finalCutProIdentifier();
     static bool isFCPRunning();
 
     /// The projects that are open, possibly none; nothing when Final Cut Pro is not running.
@@ -107,6 +110,8 @@ public:
     /// The text with each UTF-16 unit from 160 on and each carriage return as a decimal reference. Markup
     /// stays as it is.
     static QString escapeCharactersInXMLString(const QString &text);
+    /// The same text as UTF-8.
+    static QByteArray escapedXml(QStringView text);
 
     /// The bytes without one zero at their end.
     static QByteArray formatData(QByteArray data);

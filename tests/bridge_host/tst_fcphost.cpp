@@ -642,9 +642,8 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(Workspace::isRunning(identifier), Patience);
         QCOMPARE(openProjects(socketPath), QStringList{a});
         QVERIFY(Workspace::openWithApplication(identifier, b));
-        // The file is still on its way when its project is asked for.
+        QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), (QStringList{a, b}), Patience);
         QCOMPARE(xmlOf(ask(socketPath, madeEvent(EventCode::ExportProjectXml, {project(b)}))), Project);
-        QCOMPARE(openProjects(socketPath), (QStringList{a, b}));
         QCOMPARE(
             errorOf(ask(socketPath, madeEvent(EventCode::ImportXml, {project(a), xmlData(binNamed("5"))}))),
             -10000);
@@ -652,6 +651,38 @@ private Q_SLOTS:
 
         QCOMPARE(::kill(Connection(socketPath).peer(), SIGTERM), 0);
         QTRY_VERIFY_WITH_TIMEOUT(!Workspace::isRunning(identifier), Patience);
+        UserDefaults::standard().removeValue(latin("applicationsFolder"));
+    }
+
+    void worksWithTheProgramsOwnEnd()
+    {
+        UserDefaults::standard().setValue(latin("applicationsFolder"), path("apps"));
+        QCOMPARE(QProcess::execute(Host::program(), {latin("--install-bundle"), path("apps")}), 0);
+        const QString file = addProject("a.xml");
+        const QString other =
+            addProject("a folder with a name that is longer than a reference has room for/b.xml");
+        QVERIFY(!QVAppleEvents::getProjectXMLData(file, false));
+        QCOMPARE(QVAppleEvents::getProjectXMLData(file, true), Project); // starts it
+        const pid_t host = Connection(Workspace::eventSocketPath(latin("KeyG"))).peer();
+        QCOMPARE(QVAppleEvents::getProjectXMLData(other, true, true),
+                 Project); // opens it there and closes it
+        QCOMPARE(QVAppleEvents::listOfOpenFCPProjects(), QStringList{file});
+        QVERIFY(QVAppleEvents::sendXMLToFCP(QString::fromUtf8(binNamed("Küste 😀")), file));
+        QVERIFY(contentOf(file).contains("<name>Küste 😀</name>"));
+        const auto sequences = QVAppleEvents::sequencesInProject(other);
+        QVERIFY(sequences);
+        QCOMPARE(sequences->sequences.size(), std::size_t(1));
+        QCOMPARE(sequences->sequences.front().attribute("id"), latin("Cut"));
+        QVERIFY(QFile::remove(other));
+        m_home->addFile(QDir(m_home->path()).relativeFilePath(other), "old");
+        QVERIFY(QVAppleEvents::saveProject(other));
+        QCOMPARE(contentOf(other), Project);
+        QVAppleEvents::closeProject(other, false);
+        QCOMPARE(QVAppleEvents::listOfOpenFCPProjects(), QStringList{file});
+
+        QCOMPARE(::kill(host, SIGTERM), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!QVAppleEvents::isFCPRunning(), Patience);
+        QVERIFY(!QVAppleEvents::listOfOpenFCPProjects());
         UserDefaults::standard().removeValue(latin("applicationsFolder"));
     }
 
