@@ -116,8 +116,18 @@ Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *can
 
 Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled, Layout layout) const
 {
+    return writeEncoded(device, reinterpret_cast<const char *>(treeOf(node())->encoding), cancelled, layout);
+}
+
+Result<void> XmlDocument::writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled) const
+{
+    return writeEncoded(device, nullptr, cancelled, Layout::Indented);
+}
+
+Result<void> XmlDocument::writeEncoded(QIODevice &device, const char *encoding,
+                                       const std::atomic<bool> *cancelled, Layout layout) const
+{
     XmlOutput output{device, cancelled};
-    const char *encoding = reinterpret_cast<const char *>(treeOf(node())->encoding);
     const int options = XML_SAVE_AS_XML | (layout == Layout::Indented ? XML_SAVE_FORMAT : 0);
     XmlSavePointer save;
     if (encoding)
@@ -136,9 +146,7 @@ QString XmlDocument::textOfElement(XmlNode element)
         return QString();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    if (!XmlElementWriter::write(element, buffer))
-        return QString();
-    return QString::fromUtf8(buffer.data());
+    return XmlElementWriter::write(element, buffer) ? QString::fromUtf8(buffer.data()) : QString();
 }
 
 Result<XmlNode> XmlDocument::elementFromText(const QString &xml)

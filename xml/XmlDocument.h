@@ -61,6 +61,8 @@ public:
                       Layout layout = Layout::Indented) const;
     Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr,
                        Layout layout = Layout::Indented) const;
+    /// Indented, in UTF-8 whatever the declared encoding is.
+    Result<void> writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
     /// The element as XML text, without a declaration and without added white space.
     static QString textOfElement(XmlNode element);
 
@@ -90,6 +92,8 @@ public:
 private:
     XmlDocument() = default;
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);
+    Result<void> writeEncoded(QIODevice &device, const char *encoding,
+                              const std::atomic<bool> *cancelled, Layout layout) const;
     void park(XmlNode element);
 
     std::unique_ptr<TreeMemory::Arena> m_arena; // dies after the tree
