@@ -1,0 +1,80 @@
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/EditRun.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectSession.h"
+#include "support/QVAlert.h"
+
+#include <QEventLoop>
+
+#include <memory>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct SendOptions {
+    std::string file;
+    std::string script;
+    bool toPremiere = false;
+    bool yes = false;
+};
+
+/// Sends as the window does and waits for the end of it. What the window would show stands on standard
+/// error then.
+bool sendAndWait(ProjectSender &sender)
+{
+    auto outcome = ProjectSender::Outcome::Failed;
+    QEventLoop loop;
+    const bool isStarted = sender.start([&](ProjectSender::Outcome reached) {
+        outcome = reached;
+        loop.quit();
+    });
+    if (isStarted)
+        loop.exec();
+    return outcome == ProjectSender::Outcome::Sent;
+}
+
+int send(const SendOptions &options)
+{
+    const auto presenter = std::make_shared<HeadlessAlertPresenter>(options.yes);
+    QVAlert::setPresenter(presenter);
+    EditScript operations;
+    if (!options.script.empty()) {
+        Result<EditScript> script = readEditScriptFile(withoutMark(fromArgument(options.script)));
+        if (!script) {
+            complain(script.message());
+            return Failed;
+        }
+        operations = std::move(script.value());
+    }
+    const QString file = withoutMark(fromArgument(options.file));
+    const auto inventories = operations.empty() ? Workbench::Inventories::None : Workbench::Inventories::All;
+    ProjectSession session(inventories);
+    if (!session.open(file, Workbench::typeNameToSend(file)))
+        return Failed;
+    if (options.toPremiere)
+        session.document().setPremiereProject(true);
+    if (!EditRun(session, *presenter).apply(operations))
+        return Failed;
+    return sendAndWait(session.workbench().projectSender()) ? Done : Failed;
+}
+
+} // namespace
+
+void addSendCommand(CommandLine &program)
+{
+    auto options = std::make_shared<SendOptions>();
+    Subcommand command = program.add("send", "Send the changes of a project to its editing application");
+    command.value("FILE", options->file, "The project; it may be open in the application",
+                  Subcommand::Need::Required);
+    command.value("--script", options->script,
+                  "Operations to apply first, a JSON file; \"-\" is standard input");
+    command.flag("--premiere", options->toPremiere, "Send the whole project to Premiere Pro");
+    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.onRun([options] { return send(*options); });
+}
+
+} // namespace vantrell::cli
