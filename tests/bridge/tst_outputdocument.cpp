@@ -225,7 +225,8 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
         const QString source =
-            m_home.addFile(QStringLiteral("p.xml"), "<xmeml>" + sequence("é", "<uuid>U</uuid>") + "</xmeml>");
+            m_home.addFile(QStringLiteral("p.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?><xmeml>" +
+                                                        sequence("é", "<uuid>U</uuid>") + "</xmeml>");
         document.readFromURL(QUrl::fromLocalFile(source), DocumentType::publicXML);
         MainThread::drainUntil([&world] { return world.ended; });
         document.addModifiedSequenceUUID(QStringLiteral("U"));
