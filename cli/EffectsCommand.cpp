@@ -5,6 +5,7 @@
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
 
@@ -40,7 +41,7 @@ QString effectsCellText(const RowRecord &effect, const TableColumn &column)
         return QString();
     if (key == EffectKey::enabled)
         return effect.get(EffectKey::enabled) != 0 ? QStringLiteral("yes") : QStringLiteral("no");
-    return valueText(*value);
+    return plainText(*value);
 }
 
 QByteArray effectsAsTable(const RowList &effects)

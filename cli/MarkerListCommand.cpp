@@ -3,6 +3,7 @@
 #include "cli/Numbers.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
@@ -55,7 +56,7 @@ QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &column
         QStringList cells;
         for (const RecordKey column : columns) {
             const RecordValue *value = row->find(column);
-            cells.append(value ? valueText(*value) : QString());
+            cells.append(value ? plainText(*value) : QString());
         }
         table.addRow(cells);
     }

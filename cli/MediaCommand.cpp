@@ -5,6 +5,7 @@
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
@@ -57,7 +58,7 @@ QString mediaCellText(const RowRecord &file, const TableColumn &column)
         return MediaFile::formatFileSize(double(file.get(MediaKey::filesize)));
     if (key == MediaKey::missing)
         return QStringLiteral("missing");
-    return valueText(*value);
+    return plainText(*value);
 }
 
 QByteArray mediaAsTable(const RowList &files)

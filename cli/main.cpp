@@ -28,6 +28,7 @@ int runProgram(int argc, char **argv)
     cli::addImportCommand(program);
     cli::addMarkersCommand(program);
     cli::addEditCommand(program);
+    cli::addReportCommand(program);
     cli::addSendCommand(program);
     cli::addTimecodeCommand(program);
     return program.run(cli::markNegativeValues({argv + 1, argv + argc}));
