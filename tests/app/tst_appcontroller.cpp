@@ -6,8 +6,8 @@
 #include "app/Troubleshooting.h"
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
-#include "document/widgets/DocumentDisposal.h"
 #include "markers/MarkerKeys.h"
+#include "support/BackgroundWork.h"
 #include "support/PropertyList.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -60,7 +60,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_controller.reset();
-        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(20)));
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
         QVLog::willTerminate();
         m_defaults.reset();
         m_home.reset();
