@@ -8,6 +8,11 @@
 #include <QStringList>
 #include <QUuid>
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+
 namespace vantrell
 {
 
@@ -17,7 +22,7 @@ namespace
 QString applicationPath()
 {
     const QString folder = Workspace::applicationsFolder();
-    QString path = Workspace::applicationPathForBundleIdentifier(QStringLiteral("com.apple.FinalCutPro"));
+    QString path = Workspace::applicationPathForBundleIdentifier(QVAppleEvents::finalCutProIdentifier());
     if (path.isEmpty())
         path = folder + QStringLiteral("/Final Cut Studio/Final Cut Pro.app");
     if (!QFileInfo::exists(path))
@@ -25,7 +30,33 @@ QString applicationPath()
     return path;
 }
 
+bool isEscaped(QChar unit)
+{
+    return unit.unicode() >= 160 || unit == QLatin1Char('\r');
+}
+
+/// A decimal reference to one UTF-16 unit.
+struct Reference {
+    std::array<char, 8> text{'&', '#'};
+    std::ptrdiff_t size;
+};
+
+Reference referenceTo(QChar unit)
+{
+    Reference reference;
+    char *const end =
+        std::to_chars(reference.text.data() + 2, reference.text.data() + 7, unsigned(unit.unicode())).ptr;
+    *end = ';';
+    reference.size = end + 1 - reference.text.data();
+    return reference;
+}
+
 } // namespace
+
+QString QVAppleEvents::finalCutProIdentifier()
+{
+    return QStringLiteral("com.apple.FinalCutPro");
+}
 
 QString QVAppleEvents::generateUUID()
 {
@@ -78,20 +109,36 @@ std::int64_t QVAppleEvents::maximumXMEMLVersionOf(const QString &version)
 
 QString QVAppleEvents::escapeCharactersInXMLString(const QString &text)
 {
-    QString escaped;
-    escaped.reserve(text.size());
+    return QString::fromUtf8(escapedXml(text));
+}
+
+QByteArray QVAppleEvents::escapedXml(QStringView text)
+{
+    qsizetype size = 0;
+    for (const QChar unit : text)
+        size += isEscaped(unit) ? referenceTo(unit).size : unit.unicode() < 0x80 ? 1 : 2;
+    QByteArray escaped(size, Qt::Uninitialized);
+    char *to = escaped.data();
     for (const QChar unit : text) {
-        if (unit.unicode() >= 160 || unit == QLatin1Char('\r'))
-            escaped += QStringLiteral("&#%1;").arg(int(unit.unicode()));
-        else
-            escaped += unit;
+        const char16_t code = unit.unicode();
+        if (isEscaped(unit)) {
+            const Reference reference = referenceTo(unit);
+            to = std::copy_n(reference.text.data(), reference.size, to);
+        } else if (code < 0x80) {
+            *to++ = char(code);
+        } else { // below 160: two bytes of UTF-8
+            *to++ = char(0xc0 | code >> 6);
+            *to++ = char(0x80 | (code & 0x3f));
+        }
     }
     return escaped;
 }
 
-QByteArray QVAppleEvents::formatData(const QByteArray &data)
+QByteArray QVAppleEvents::formatData(QByteArray data)
 {
-    return data.endsWith('\0') ? data.chopped(1) : data;
+    if (data.endsWith('\0'))
+        data.chop(1);
+    return data;
 }
 
 } // namespace vantrell

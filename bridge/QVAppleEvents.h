@@ -1,19 +1,96 @@
 #pragma once
 
+#include "bridge/EventCancel.h"
+#include "xml/XmlDocument.h"
+
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+#include <QStringView>
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 
 namespace vantrell
 {
 
-/// What the program knows of the installed Final Cut Pro, and the text utilities of the exchange with it.
-/// Stateless; any thread.
+/// Sequences of a project, and the tree that they stand in.
+struct ProjectSequences {
+    std::unique_ptr<XmlDocument> document;
+    XmlNodeList sequences; ///< valid as long as the document
+};
+
+/// The exchange with a running Final Cut Pro, what the program knows of the installed one, and the text
+/// utilities of the exchange. Stateless; any thread.
+///
+/// The operations that talk to it block until it has answered or the time-out has passed, one minute each
+/// and ten for an import; cancelling ends them at once. What fails is written to the system log, its cause
+/// to the log, and the operation gives back nothing or false. Paths are file paths.
 class QVAppleEvents
 {
 public:
     QVAppleEvents() = delete;
+
+    /// The bundle identifier.
+    static QString finalCutProIdentifier();
+    static bool isFCPRunning();
+
+    /// The projects that are open, possibly none; nothing when Final Cut Pro is not running.
+    static std::optional<QStringList> listOfOpenFCPProjects(const EventCancel &cancel = {});
+
+    /// Has the xmeml text imported, into the project if its path is not empty and such a file exists.
+    /// Whether Final Cut Pro took it.
+    static bool sendXMLToFCP(const QString &xml, const QString &projectPath, const EventCancel &cancel = {});
+
+    /// The xmeml text of a project as the bytes that came, without a zero at their end. With `launchFCP`
+    /// the project is opened first if need be, and waited for; without, it must be open. With
+    /// `closeProject` a project that was not open before is closed afterwards, its changes saved.
+    /// A character beyond the basic plane may come as two references (xml/XmlReferences.h).
+    static std::optional<QByteArray> getProjectXMLData(const QString &path, bool launchFCP, bool closeProject,
+                                                       const EventCancel &cancel = {});
+    static std::optional<QByteArray> getProjectXMLData(const QString &path, bool launchFCP,
+                                                       const EventCancel &cancel = {});
+    static std::optional<QString> getProjectXML(const QString &path, bool launchFCP, bool closeProject,
+                                                const EventCancel &cancel = {});
+    static std::optional<QString> getProjectXML(const QString &path, bool launchFCP,
+                                                const EventCancel &cancel = {});
+    static std::optional<QString> getProjectXML(const QString &path, const EventCancel &cancel = {});
+
+    /// The same for one item of a project, by its identifier.
+    static std::optional<QByteArray> getItemXMLData(const QString &item, const QString &project,
+                                                    bool launchFCP, bool closeProject,
+                                                    const EventCancel &cancel = {});
+    static std::optional<QByteArray> getItemXMLData(const QString &item, const QString &project,
+                                                    bool launchFCP, const EventCancel &cancel = {});
+    static std::optional<QString> getItemXML(const QString &item, const QString &project, bool launchFCP,
+                                             bool closeProject, const EventCancel &cancel = {});
+    static std::optional<QString> getItemXML(const QString &item, const QString &project, bool launchFCP,
+                                             const EventCancel &cancel = {});
+    static std::optional<QString> getItemXML(const QString &item, const QString &project,
+                                             const EventCancel &cancel = {});
+
+    /// The XML listing of a project's items. With `launchFCP` the project is opened first if need be.
+    static std::optional<QByteArray> getTOCData(const QString &path, bool launchFCP,
+                                                const EventCancel &cancel = {});
+    static std::optional<QString> getTOC(const QString &path, bool launchFCP, const EventCancel &cancel = {});
+    static std::optional<QString> getTOC(const QString &path, const EventCancel &cancel = {});
+
+    /// The sequences with a name, from the project's XML before version 7, else from its table of contents;
+    /// the project is opened if need be. Nothing without data or when it cannot be parsed.
+    static std::optional<ProjectSequences> sequencesInProject(const QString &path,
+                                                              const EventCancel &cancel = {});
+
+    /// Opens an item of a project, by its identifier. With `launchFCP` the project is opened when Final
+    /// Cut Pro is not running.
+    static void openItem(const QString &item, const QString &project, bool launchFCP,
+                         const EventCancel &cancel = {});
+
+    /// Has the project saved over its file. Whether Final Cut Pro did.
+    static bool saveProject(const QString &path, const EventCancel &cancel = {});
+
+    /// Has the project closed; its changes are saved or discarded.
+    static void closeProject(const QString &path, bool saveChanges, const EventCancel &cancel = {});
 
     /// A new random UUID: 36 characters, upper case.
     static QString generateUUID();
@@ -33,9 +110,11 @@ public:
     /// The text with each UTF-16 unit from 160 on and each carriage return as a decimal reference. Markup
     /// stays as it is.
     static QString escapeCharactersInXMLString(const QString &text);
+    /// The same text as UTF-8.
+    static QByteArray escapedXml(QStringView text);
 
     /// The bytes without one zero at their end.
-    static QByteArray formatData(const QByteArray &data);
+    static QByteArray formatData(QByteArray data);
 };
 
 } // namespace vantrell

@@ -126,6 +126,12 @@ QString desktop()
     return userFolder("XDG_DESKTOP_DIR", QStringLiteral("/Desktop"));
 }
 
+QString runtime()
+{
+    const QString folder = environmentFolder("XDG_RUNTIME_DIR");
+    return folder.isEmpty() ? QString() : folder + QStringLiteral("/vantrell");
+}
+
 QStringList volumesFolders()
 {
     {

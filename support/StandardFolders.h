@@ -35,6 +35,10 @@ QString documents();
 /// preferences folder, else ~/Desktop.
 QString desktop();
 
+/// Where this user's programs meet while the user is logged in: the folder "vantrell" in XDG_RUNTIME_DIR.
+/// Empty without that variable.
+QString runtime();
+
 /// The folders that hold the mounted volumes: the one that setVolumesFolder() gave; else /Volumes
 /// alone if it exists; else those that exist of /run/media/$USER, /media/$USER and /mnt.
 QStringList volumesFolders();

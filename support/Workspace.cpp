@@ -3,19 +3,18 @@
 #include "support/ApplicationBundle.h"
 #include "support/FileBrowser.h"
 #include "support/QVLog.h"
+#include "support/SocketAddress.h"
+#include "support/StandardFolders.h"
 #include "support/TaskRunner.h"
 #include "support/UserDefaults.h"
 #include "support/UserProcess.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <mutex>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace vantrell
@@ -42,16 +41,13 @@ constexpr EventReceiver EventReceivers[] = {{QLatin1String("com.apple.FinalCutPr
 /// Whether somebody listens on the socket. Never waits.
 bool socketAnswers(const QString &path)
 {
-    const QByteArray name = QFile::encodeName(path);
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof(address.sun_path))
+    const auto address = socketAddress(path);
+    if (!address)
         return false;
-    std::memcpy(address.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
     const int handle = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (handle < 0)
         return false;
-    const int result = ::connect(handle, reinterpret_cast<const sockaddr *>(&address), sizeof(address));
+    const int result = ::connect(handle, reinterpret_cast<const sockaddr *>(&*address), sizeof(*address));
     const bool isListening = result == 0 || errno == EAGAIN; // EAGAIN: it has many callers already
     ::close(handle);
     return isListening;
@@ -172,10 +168,8 @@ std::vector<Workspace::RunningApplication> Workspace::runningApplications()
 
 QString Workspace::eventSocketPath(const QString &signature)
 {
-    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (runtimeFolder.isEmpty())
-        return {};
-    return runtimeFolder + QStringLiteral("/vantrell/") + signature;
+    const QString folder = StandardFolders::runtime();
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + signature;
 }
 
 bool Workspace::revealFile(const QString &path)

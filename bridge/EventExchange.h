@@ -1,0 +1,58 @@
+#pragma once
+
+#include "bridge/AppleEventTransport.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <memory>
+#include <optional>
+
+namespace vantrell
+{
+
+/// Writes what failed to the system log, and together with its cause, if one is given, to the log.
+void reportEventFailure(const QString &message, const QString &cause = {});
+
+/// One event to Final Cut Pro, from its making to its reply. The first step that fails is reported; the
+/// steps behind it then do nothing. One thread.
+class EventExchange
+{
+public:
+    /// What the steps that all events have in common say when they fail; "%ld" is the error's number.
+    struct Messages {
+        QStringView address = u"Error creating app description";
+        QStringView event = u"Error creating AppleEvent";
+        QStringView sending = u"Error sending AppleEvent";
+    };
+
+    EventExchange(FourCharCode identifier, const EventCancel &cancel);
+    EventExchange(FourCharCode identifier, const EventCancel &cancel, const Messages &messages);
+
+    /// Adds a parameter; the message is for its failure.
+    void add(FourCharCode keyword, EventDescriptor value, QStringView message);
+    enum class Unreferred { Fails, IsLeftOut };
+    /// Adds the reference to a file; what happens without one, the last argument says.
+    void addFile(FourCharCode keyword, const QString &path, QStringView message,
+                 Unreferred unreferred = Unreferred::Fails);
+
+    void setTimeout(std::int32_t ticks) { m_event.timeout = ticks; }
+
+    /// The reply; nothing when this or an earlier step failed. A reply that reports an error is a failure.
+    std::optional<EventRecord> send();
+
+    /// Says nothing about failures from now on.
+    void silence() { m_isSilent = true; }
+
+private:
+    void fail(QStringView message, const EventFailure &failure);
+
+    const Messages m_messages;
+    const EventCancel m_cancel;
+    const std::shared_ptr<AppleEventTransport> m_transport;
+    EventRecord m_event;
+    bool m_hasFailed = false;
+    bool m_isSilent = false;
+};
+
+} // namespace vantrell

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "bridge/AppleEventTransport.h"
+
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace vantrell
+{
+
+/// Events over the Unix-domain socket of the application that they are addressed to
+/// (Workspace::eventSocketPath()): one connection each, one flattened record each way. The time-out is that
+/// of the whole exchange. Large texts are neither copied nor held twice.
+class SocketEventTransport : public AppleEventTransport
+{
+public:
+    /// Speaks with programs of that user alone.
+    explicit SocketEventTransport(std::chrono::milliseconds systemTimeout = std::chrono::minutes(1),
+                                  uid_t user = ::geteuid());
+
+    EventResult<EventRecord> send(const EventRecord &event, const EventCancel &cancel) override;
+
+private:
+    const uid_t m_user;
+};
+
+} // namespace vantrell
