@@ -134,8 +134,18 @@ Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *can
 
 Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled) const
 {
+    return writeEncoded(device, reinterpret_cast<const char *>(treeOf(node())->encoding), cancelled);
+}
+
+Result<void> XmlDocument::writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled) const
+{
+    return writeEncoded(device, nullptr, cancelled);
+}
+
+Result<void> XmlDocument::writeEncoded(QIODevice &device, const char *encoding,
+                                       const std::atomic<bool> *cancelled) const
+{
     Output output{device, cancelled};
-    const char *encoding = reinterpret_cast<const char *>(treeOf(node())->encoding);
     SavePointer save;
     if (encoding)
         save.reset(xmlSaveToIO(writeOutput, nullptr, &output, encoding, XML_SAVE_FORMAT | XML_SAVE_AS_XML));
@@ -149,18 +159,19 @@ Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *canc
 
 QString XmlDocument::textOfElement(XmlNode element)
 {
-    if (!element.isElement())
-        return QString();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    {
-        Output output{buffer, nullptr};
-        const SavePointer save(
-            xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
-        if (!save || xmlSaveTree(save.get(), element.handle()) < 0)
-            return QString();
-    }
-    return QString::fromUtf8(buffer.data());
+    return writeElement(element, buffer) ? QString::fromUtf8(buffer.data()) : QString();
+}
+
+bool XmlDocument::writeElement(XmlNode element, QIODevice &device)
+{
+    if (!element.isElement())
+        return false;
+    Output output{device, nullptr};
+    const SavePointer save(
+        xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
+    return save && xmlSaveTree(save.get(), element.handle()) >= 0 && xmlSaveFlush(save.get()) >= 0;
 }
 
 Result<XmlNode> XmlDocument::elementFromText(const QString &xml)

@@ -56,8 +56,12 @@ public:
     /// fails. Any thread.
     Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr) const;
     Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
+    /// The same in UTF-8, whatever the declared encoding is.
+    Result<void> writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
     /// The element as XML text, without a declaration and without added white space.
     static QString textOfElement(XmlNode element);
+    /// Writes that text in UTF-8; false when the device takes no more or there is no element.
+    static bool writeElement(XmlNode element, QIODevice &device);
 
     /// Parses the text of one element; well-formed text only. The element belongs to this document and
     /// stands outside its tree until it is appended somewhere. The failure is the parser's description.
@@ -85,6 +89,8 @@ public:
 private:
     XmlDocument() = default;
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);
+    Result<void> writeEncoded(QIODevice &device, const char *encoding,
+                              const std::atomic<bool> *cancelled) const;
     void park(XmlNode element);
 
     std::unique_ptr<TreeMemory::Arena> m_arena; // dies after the tree

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "bridge/EventRecord.h"
+
+/// The codes of what every application understands.
+namespace vantrell::HostCode
+{
+
+inline constexpr FourCharCode OpenDocuments{"odoc"}; ///< of class `aevt`: files to open
+inline constexpr FourCharCode DirectObject{"----"};  ///< its list of file references
+inline constexpr FourCharCode ErrorText{"errs"};     ///< of a reply: what went wrong, as `utf8`
+
+} // namespace vantrell::HostCode

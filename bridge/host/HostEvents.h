@@ -1,0 +1,70 @@
+#pragma once
+
+#include "bridge/EventRecord.h"
+#include "bridge/host/HostProjects.h"
+
+#include <QString>
+
+#include <atomic>
+#include <cstdint>
+
+namespace vantrell
+{
+
+/// Numbers of the errors that the host replies with.
+namespace HostError
+{
+inline constexpr std::int32_t fileNotSaved = -36;
+inline constexpr std::int32_t fileExists = -48;
+inline constexpr std::int32_t missingParameter = -1701;
+inline constexpr std::int32_t unknownEvent = -1708;
+inline constexpr std::int32_t noSuchObject = -1728; ///< no such project, or not open; no such item in it
+inline constexpr std::int32_t failed = -10000;
+} // namespace HostError
+
+/// Does what an event asks for and makes its reply. What goes wrong is told on standard error, and is the
+/// number `errn` and the text `errs` of the reply. Any thread.
+class HostEvents
+{
+public:
+    /// The projects outlive this object. Imports may be of a version up to \a maximumXmemlVersion.
+    HostEvents(HostProjects &projects, std::int64_t maximumXmemlVersion)
+        : m_projects(projects)
+        , m_maximumVersion(maximumXmemlVersion)
+    {
+    }
+
+    /// From now on the event with that identifier is answered with an error; empty for none.
+    void setFailingEvent(const QString &identifier) { m_failingEvent = identifier; }
+    /// Makes exports fail that take or wait long. Any thread.
+    void cancel();
+
+    EventRecord replyTo(const EventRecord &event);
+
+private:
+    struct Handler;
+    EventRecord handle(const EventRecord &event);
+    EventRecord listOpenProjects(const EventRecord &event);
+    EventRecord importXml(const EventRecord &event);
+    EventRecord exportProject(const EventRecord &event);
+    EventRecord exportItem(const EventRecord &event);
+    EventRecord exportContents(const EventRecord &event);
+    EventRecord openItem(const EventRecord &event);
+    EventRecord saveProject(const EventRecord &event);
+    EventRecord closeProject(const EventRecord &event);
+    EventRecord openDocuments(const EventRecord &event);
+
+    /// The path that `fcpP` refers to; empty when it refers to none.
+    static QString projectPathIn(const EventRecord &event);
+    /// The open project of that path; null when there is none.
+    std::shared_ptr<HostProject> openProjectOf(const EventRecord &event) const;
+    /// The same, waiting a little for one to be opened.
+    std::shared_ptr<HostProject> projectOf(const EventRecord &event) const;
+
+    HostProjects &m_projects;
+    const std::int64_t m_maximumVersion;
+    QString m_failingEvent; // set before there are threads
+    std::atomic<bool> m_cancelled = false;
+};
+
+} // namespace vantrell

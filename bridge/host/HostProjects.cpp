@@ -1,0 +1,130 @@
+#include "bridge/host/HostProjects.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The file's path with links resolved; as it is when there is no such file.
+QString resolved(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+} // namespace
+
+HostProjects::HostProjects(const QString &folder)
+    : m_folder(folder)
+{
+}
+
+Result<void> HostProjects::open(const QString &path)
+{
+    const std::shared_ptr<HostProject> project = at(path);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_opening.push_back(project);
+    }
+    const Result<void> opened = project->open();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_opening.erase(std::find(m_opening.begin(), m_opening.end(), project));
+    }
+    m_changed.notify_all();
+    return opened;
+}
+
+std::shared_ptr<HostProject> HostProjects::openAt(const QString &path) const
+{
+    return awaitOpenAt(path, std::chrono::milliseconds(-1));
+}
+
+std::shared_ptr<HostProject> HostProjects::awaitOpenAt(const QString &path,
+                                                       std::chrono::milliseconds grace) const
+{
+    const auto end = std::chrono::steady_clock::now() + grace;
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        const std::shared_ptr<HostProject> known = find(path);
+        if (known && known->isOpen())
+            return known;
+        if (m_isCancelled || grace.count() < 0)
+            return nullptr;
+        if (known && std::find(m_opening.begin(), m_opening.end(), known) != m_opening.end())
+            m_changed.wait(lock);
+        else if (m_changed.wait_until(lock, end) == std::cv_status::timeout)
+            grace = std::chrono::milliseconds(-1); // one more look
+    }
+}
+
+void HostProjects::cancelWaiting()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isCancelled = true;
+    }
+    m_changed.notify_all();
+}
+
+std::vector<std::shared_ptr<HostProject>> HostProjects::allOpen() const
+{
+    const std::lock_guard lock(m_mutex);
+    std::vector<std::shared_ptr<HostProject>> projects;
+    std::copy_if(m_projects.begin(), m_projects.end(), std::back_inserter(projects),
+                 [](const auto &project) { return project->isOpen(); });
+    return projects;
+}
+
+Result<std::shared_ptr<HostProject>> HostProjects::makeNew(std::int64_t xmemlVersion)
+{
+    const std::lock_guard lock(m_mutex);
+    const QString folder = m_projects.empty() ? m_folder : QFileInfo(m_projects.front()->path()).path();
+    QFile file(folder + QStringLiteral("/Vantrell.xml"));
+    for (int number = 2; find(file.fileName()) || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+         ++number) {
+        // What is there, or is an open project whose file is gone, keeps its name.
+        if (!find(file.fileName()) && !QFileInfo::exists(file.fileName())) {
+            return Failure{QStringLiteral("The file \"%1\" could not be made: %2.")
+                               .arg(file.fileName(), file.errorString())};
+        }
+        file.setFileName(folder + QStringLiteral("/Vantrell %1.xml").arg(number));
+    }
+    auto project = std::make_shared<HostProject>(file.fileName());
+    project->openEmpty(xmemlVersion);
+    m_projects.push_back(project);
+    return project;
+}
+
+void HostProjects::discard(const std::shared_ptr<HostProject> &project)
+{
+    const std::lock_guard lock(m_mutex);
+    std::erase(m_projects, project);
+    QFile::remove(project->path());
+}
+
+std::shared_ptr<HostProject> HostProjects::at(const QString &path)
+{
+    const std::lock_guard lock(m_mutex);
+    if (auto known = find(path))
+        return known;
+    return m_projects.emplace_back(std::make_shared<HostProject>(path));
+}
+
+std::shared_ptr<HostProject> HostProjects::find(const QString &path) const
+{
+    const QString wanted = resolved(path);
+    const auto found = std::find_if(m_projects.begin(), m_projects.end(), [&](const auto &project) {
+        return project->path() == path || resolved(project->path()) == wanted;
+    });
+    return found == m_projects.end() ? nullptr : *found;
+}
+
+} // namespace vantrell

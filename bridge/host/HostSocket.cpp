@@ -1,0 +1,135 @@
+#include "bridge/host/HostSocket.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <optional>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The address of a socket; none when its path is longer than one can be.
+std::optional<sockaddr_un> addressOf(const QByteArray &path)
+{
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    if (path.isEmpty() || std::size_t(path.size()) >= sizeof(address.sun_path))
+        return std::nullopt;
+    std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
+    return address;
+}
+
+/// A connection to whoever listens there; not open, with errno set, when there is none.
+Descriptor connectTo(const QString &path, int flags)
+{
+    const std::optional<sockaddr_un> address = addressOf(QFile::encodeName(path));
+    if (!address) {
+        errno = ENAMETOOLONG;
+        return Descriptor();
+    }
+    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
+    if (socket.isOpen() &&
+        ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
+        const int error = errno;
+        socket.close();
+        errno = error;
+    }
+    return socket;
+}
+
+Failure folderFailure(const QString &folder, int error)
+{
+    return Failure{
+        QStringLiteral("The folder \"%1\" cannot be used: %2.").arg(folder, qt_error_string(error))};
+}
+
+} // namespace
+
+HostSocket::~HostSocket()
+{
+    const QByteArray name = QFile::encodeName(path());
+    struct stat present = {};
+    if (m_listener.isOpen() && ::lstat(name.constData(), &present) == 0 &&
+        present.st_dev == m_identity.st_dev && present.st_ino == m_identity.st_ino)
+        ::unlink(name.constData());
+}
+
+QString HostSocket::path() const
+{
+    return m_folder + QStringLiteral("/KeyG");
+}
+
+Result<HostSocket::Claim> HostSocket::claim()
+{
+    const QByteArray name = QFile::encodeName(m_folder);
+    if (!QDir().mkpath(QFileInfo(m_folder).path()))
+        return folderFailure(m_folder, errno);
+    if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
+        return folderFailure(m_folder, errno);
+    Descriptor folder(::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct stat status = {};
+    if (!folder.isOpen() || ::fstat(folder.number(), &status) != 0)
+        return folderFailure(m_folder, errno);
+    if (status.st_uid != ::geteuid())
+        return folderFailure(m_folder, EPERM);
+    // File systems without locks leave it at the question whether somebody answers.
+    if (::flock(folder.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return Claim::Taken;
+    if (isAnswered())
+        return Claim::Taken;
+    m_lock = std::move(folder);
+    return Claim::Own;
+}
+
+Result<void> HostSocket::listen()
+{
+    const auto failure = [this](int error) {
+        return Failure{
+            QStringLiteral("The socket \"%1\" cannot be made: %2.").arg(path(), qt_error_string(error))};
+    };
+    // It gets its name when it listens and others are shut out: there is no moment when it refuses.
+    const QByteArray name = QFile::encodeName(path());
+    const QByteArray unfinished = QFile::encodeName(m_folder + QStringLiteral("/.KeyG"));
+    const std::optional<sockaddr_un> address = addressOf(unfinished);
+    if (!address)
+        return failure(ENAMETOOLONG);
+    Descriptor listener(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    ::unlink(unfinished.constData());
+    if (!listener.isOpen() ||
+        ::bind(listener.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0)
+        return failure(errno);
+    if (::chmod(unfinished.constData(), 0600) != 0 || ::listen(listener.number(), SOMAXCONN) != 0 ||
+        ::lstat(unfinished.constData(), &m_identity) != 0 ||
+        std::rename(unfinished.constData(), name.constData()) != 0) {
+        const int error = errno;
+        ::unlink(unfinished.constData());
+        return failure(error);
+    }
+    m_listener = std::move(listener);
+    return {};
+}
+
+Descriptor HostSocket::connect() const
+{
+    return connectTo(path(), 0);
+}
+
+bool HostSocket::isAnswered() const
+{
+    return connectTo(path(), SOCK_NONBLOCK).isOpen() ||
+           errno == EAGAIN; // EAGAIN: it has many callers already
+}
+
+} // namespace vantrell

@@ -1,0 +1,101 @@
+#include "bridge/host/ProjectItems.h"
+
+#include "xml/QVXMLParser.h"
+#include "xml/XmlEdit.h"
+#include "xml/XmlQuery.h"
+
+#include <QBuffer>
+
+#include <initializer_list>
+#include <string_view>
+
+namespace vantrell::ProjectItems
+{
+
+namespace
+{
+
+/// Appends what lies directly in the container, and in the bins there, in document order.
+void appendItems(XmlNode container, XmlNodeList &items)
+{
+    for (XmlNode item = container.firstChildElement(); item; item = item.nextSiblingElement()) {
+        if (!item.isElement("project"))
+            items.push_back(item);
+        appendItems(item.childElement("children"), items);
+    }
+}
+
+bool hasId(XmlNode item, const QString &identifier)
+{
+    return item.attribute("id") == identifier || QVXMLParser::idAttributeForNode(item) == identifier;
+}
+
+XmlNode find(const XmlNodeList &items, const QString &identifier)
+{
+    for (const XmlNode item : items) {
+        if (item.childElement("uuid").stringValue() == identifier)
+            return item;
+    }
+    for (const XmlNode item : items) {
+        if (hasId(item, identifier))
+            return item;
+    }
+    return XmlNode();
+}
+
+/// Appends to the listing what the container lists of the project, and that of its bins.
+void listItems(XmlNode container, XmlNode listing)
+{
+    for (XmlNode item = container.firstChildElement(); item; item = item.nextSiblingElement()) {
+        const bool isContainer = item.isElement("project") || item.isElement("bin");
+        if (!isContainer && !item.isElement("sequence"))
+            continue;
+        const XmlNode entry = XmlEdit::appendElement(listing, item.name(), QString());
+        if (const QString id = item.attribute("id"); !id.isNull())
+            XmlEdit::setOnlyAttribute(entry, QStringLiteral("id"), id);
+        for (const std::string_view name : {"uuid", "name"}) {
+            if (const XmlNode child = item.childElement(name))
+                XmlEdit::appendElement(entry, child.name(), child.stringValue());
+        }
+        if (const XmlNode children = item.childElement("children"); children && isContainer)
+            listItems(children, XmlEdit::appendElement(entry, children.name(), QString()));
+    }
+}
+
+} // namespace
+
+XmlNode container(XmlNode root)
+{
+    const XmlNode project = root.childElement("project");
+    if (!project)
+        return root;
+    const XmlNode children = project.childElement("children");
+    return children ? children : XmlEdit::appendElement(project, QStringLiteral("children"), QString());
+}
+
+XmlNode find(XmlNode root, const QString &identifier)
+{
+    if (identifier.isEmpty())
+        return XmlNode();
+    XmlNodeList items;
+    appendItems(root, items);
+    if (const XmlNode item = find(items, identifier))
+        return item;
+    static const XmlQuery sequences(QStringLiteral(".//sequence"));
+    return find(sequences.evaluate(root).nodes, identifier);
+}
+
+QByteArray tableOfContents(XmlNode root)
+{
+    const auto listing = XmlDocument::fromData("<!DOCTYPE xmeml><xmeml/>", {});
+    if (!listing)
+        return QByteArray();
+    if (const QString version = root.attribute("version"); !version.isNull())
+        XmlEdit::setOnlyAttribute(listing.value()->rootElement(), QStringLiteral("version"), version);
+    listItems(root, listing.value()->rootElement());
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return listing.value()->writeUtf8(buffer) ? buffer.data() : QByteArray();
+}
+
+} // namespace vantrell::ProjectItems

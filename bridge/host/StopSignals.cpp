@@ -1,0 +1,43 @@
+#include "bridge/host/StopSignals.h"
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <unistd.h>
+
+namespace vantrell
+{
+
+namespace
+{
+
+// For the signal handler: where it writes.
+std::atomic<int> s_writeEnd = -1;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+void tell(int)
+{
+    const int savedError = errno;
+    [[maybe_unused]] const ssize_t written = ::write(s_writeEnd, "", 1);
+    errno = savedError;
+}
+
+} // namespace
+
+StopSignals::StopSignals()
+    : m_pipe(Pipe::make())
+{
+    s_writeEnd = m_pipe.writeEnd.number();
+    struct sigaction action = {};
+    action.sa_handler = tell;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction present = {};
+        // What the caller has the process ignore stays ignored.
+        if (::sigaction(number, nullptr, &present) == 0 && present.sa_handler != SIG_IGN)
+            ::sigaction(number, &action, nullptr);
+    }
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+} // namespace vantrell

@@ -1,0 +1,125 @@
+#include "bridge/QVAppleEvents.h"
+#include "bridge/host/HandOver.h"
+#include "bridge/host/HostBundle.h"
+#include "bridge/host/HostEvents.h"
+#include "bridge/host/HostLog.h"
+#include "bridge/host/HostMessages.h"
+#include "bridge/host/HostOptions.h"
+#include "bridge/host/HostServer.h"
+#include "bridge/host/HostSocket.h"
+#include "bridge/host/StopSignals.h"
+#include "support/QVLog.h"
+#include "support/UserDefaults.h"
+#include "support/Workspace.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace
+{
+
+using namespace vantrell;
+
+enum ExitStatus { Done = 0, Failed = 1 };
+
+int fail(const QString &message)
+{
+    hostMessage(message);
+    return Failed;
+}
+
+int installBundle(const HostOptions &options)
+{
+    const Result<QString> bundle =
+        HostBundle::install(options.bundleFolder, options.version, QCoreApplication::applicationFilePath(),
+                            options.bundleArguments());
+    if (!bundle)
+        return fail(bundle.message());
+    hostMessage(QStringLiteral("wrote \"%1\"").arg(bundle.value()));
+    return Done;
+}
+
+/// Opens the files and gets to know those that stay closed.
+Result<void> takeUp(const HostOptions &options, HostProjects &projects)
+{
+    for (const QString &file : options.files) {
+        if (Result<void> opened = projects.open(file); !opened)
+            return opened;
+    }
+    for (const QString &file : options.closedFiles) {
+        if (!QFileInfo(file).isFile())
+            return Failure{QStringLiteral("The file \"%1\" is not there.").arg(file)};
+        projects.add(file);
+    }
+    return {};
+}
+
+/// Whether this process is to play the application; otherwise how it ends.
+bool claimSocket(const HostOptions &options, HostSocket &socket, int stop, int &status)
+{
+    if (options.handsOver) {
+        const Result<HandOver::Outcome> outcome = HandOver::run(socket, options.files, stop);
+        status = outcome ? Done : fail(outcome.message());
+        return outcome && outcome.value() == HandOver::Outcome::Nobody;
+    }
+    const Result<HostSocket::Claim> claim = socket.claim();
+    if (!claim)
+        status = fail(claim.message());
+    else if (claim.value() == HostSocket::Claim::Taken)
+        status = fail(QStringLiteral("another host listens on \"%1\" already.").arg(socket.path()));
+    return claim && claim.value() == HostSocket::Claim::Own;
+}
+
+int run(const HostOptions &options)
+{
+    if (!options.bundleFolder.isEmpty())
+        return installBundle(options);
+    QString folder = options.socketFolder;
+    if (folder.isEmpty())
+        folder = QFileInfo(Workspace::eventSocketPath(QStringLiteral("KeyG"))).path();
+    if (folder.isEmpty() || !folder.startsWith(QLatin1Char('/')))
+        return fail(QStringLiteral("XDG_RUNTIME_DIR names no folder; give one with --socket-dir."));
+
+    const StopSignals signals;
+    HostSocket socket(folder);
+    int status = Done;
+    if (!claimSocket(options, socket, signals.descriptor(), status))
+        return status;
+    HostLog log;
+    if (!options.logPath.isEmpty()) {
+        Result<HostLog> opened = HostLog::open(options.logPath);
+        if (!opened)
+            return fail(opened.message());
+        log = std::move(opened.value());
+    }
+    // It listens while it still reads the files, so that whoever calls meanwhile is answered after that.
+    if (const Result<void> listening = socket.listen(); !listening)
+        return fail(listening.message());
+    HostProjects projects(folder);
+    if (const Result<void> takenUp = takeUp(options, projects); !takenUp)
+        return fail(takenUp.message());
+    HostEvents events(projects, QVAppleEvents::maximumXMEMLVersionOf(options.version));
+    events.setFailingEvent(options.failingEvent);
+    HostServer server(events, log, {options.delay, options.truncates});
+    hostMessage(QStringLiteral("listening on %1").arg(socket.path()));
+    server.serve(socket.descriptor(), signals.descriptor());
+    return Done;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("fcp-host"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VANTRELL_VERSION));
+    vantrell::UserDefaults::setStandardAccess(vantrell::UserDefaults::Access::ReadOnly);
+    int status = Done;
+    const auto options = vantrell::HostOptions::read(argc, argv, status);
+    if (!options)
+        return status;
+    vantrell::QVLog::createNewLog(QStringLiteral("fcp-host"), true);
+    status = run(*options);
+    vantrell::QVLog::willTerminate();
+    return status;
+}
