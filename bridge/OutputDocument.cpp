@@ -1,12 +1,15 @@
 #include "bridge/OutputDocument.h"
 
 #include "bridge/QVAppleEvents.h"
+#include "support/FileUtilities.h"
 #include "support/QVLog.h"
 #include "support/TextFormat.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlEdit.h"
+#include "xml/XmlElementWriter.h"
 #include "xml/XmlQuery.h"
 
+#include <QBuffer>
 #include <QHash>
 
 #include <algorithm>
@@ -67,6 +70,28 @@ private:
     QHash<QString, XmlNode> m_elements;
 };
 
+const QString idAttribute = QStringLiteral("id");
+
+QString processedID(XmlNode sequence)
+{
+    return sequence.attribute("id") + QStringLiteral("-Processed");
+}
+
+XmlNode nameOf(XmlNode sequence)
+{
+    return QVXMLParser::nodeForQuery(QStringLiteral("./name[1]"), sequence);
+}
+
+XmlNode uuidOf(XmlNode sequence)
+{
+    return QVXMLParser::nodeForQuery(QStringLiteral("./uuid[1]"), sequence);
+}
+
+QStringList changedSequences(const MyDocument &document)
+{
+    return document.modifiedSequenceUUIDs().value_or(QStringList());
+}
+
 /// The sequence around the node, or the node itself when it is one.
 XmlNode sequenceOf(XmlNode node)
 {
@@ -77,36 +102,59 @@ XmlNode sequenceOf(XmlNode node)
 
 QString OutputDocument::generateXMLOutput()
 {
-    QString output =
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!write(changedSequences(m_document), buffer))
+        return QString();
+    return QString::fromUtf8(buffer.data());
+}
+
+Result<void> OutputDocument::writeChangedSequences(const QString &path)
+{
+    return FileUtilities::writeAtomically(
+        path, [this](QIODevice &device) { return write(changedSequences(m_document), device); });
+}
+
+Result<void> OutputDocument::write(const QStringList &modifiedUUIDs, QIODevice &device,
+                                   const std::atomic<bool> *cancelled)
+{
+    device.write(
         formatText(u"<?xml version=\"1.0\" encoding=\"UTF-8\"?><!DOCTYPE xmeml><xmeml version=\"%i\">"
                    u"<bin><uuid>%@</uuid><updatebehavior>add</updatebehavior><name>Vantrell</name>"
                    u"<children>",
-                   QVAppleEvents::maximumXMEMLVersion(), QVAppleEvents::generateUUID());
-    const QStringList uuids = m_document.modifiedSequenceUUIDs().value_or(QStringList());
-    QVLog::appendLog(u"Modified sequence UUIDs: %@", uuids);
+                   QVAppleEvents::maximumXMEMLVersion(), QVAppleEvents::generateUUID())
+            .toUtf8());
+    QVLog::appendLog(u"Modified sequence UUIDs: %@", modifiedUUIDs);
     UuidIndex current(m_document.xmlNode(), QStringLiteral(".//sequence/uuid"));
     UuidIndex history(m_document.xmlNode(), QStringLiteral(".//sequence/itemhistory/uuid"));
-    for (const QString &uuid : uuids) {
+    for (const QString &uuid : modifiedUUIDs) {
         XmlNode found = current.find(uuid);
         if (!found)
             found = history.find(uuid);
         const XmlNode sequence = sequenceOf(found);
         if (!sequence)
             continue;
-        const XmlNode copy = m_document.xmlDoc()->copyOfElement(sequence);
-        output += XmlDocument::textOfElement(renameSequence(copy));
-        m_document.xmlDoc()->discardCopy(copy);
+        const Result<void> written = XmlElementWriter::writeChanged(
+            sequence,
+            {idAttribute,
+             processedID(sequence),
+             {{nameOf(sequence), processedID(sequence)}, {uuidOf(sequence), QVAppleEvents::generateUUID()}}},
+            device, cancelled);
+        if (!written)
+            return written;
     }
-    return output + QStringLiteral("</children></bin></xmeml>");
+    const QByteArray tail("</children></bin></xmeml>");
+    if (device.write(tail) != tail.size())
+        return Failure{device.errorString()};
+    return {};
 }
 
 XmlNode OutputDocument::renameSequence(XmlNode sequence)
 {
-    const QString processed = sequence.attribute("id") + QStringLiteral("-Processed");
-    XmlEdit::setOnlyAttribute(sequence, QStringLiteral("id"), processed);
-    XmlEdit::setText(QVXMLParser::nodeForQuery(QStringLiteral("./name[1]"), sequence), processed);
-    XmlEdit::setText(QVXMLParser::nodeForQuery(QStringLiteral("./uuid[1]"), sequence),
-                     QVAppleEvents::generateUUID());
+    const QString processed = processedID(sequence);
+    XmlEdit::setOnlyAttribute(sequence, idAttribute, processed);
+    XmlEdit::setText(nameOf(sequence), processed);
+    XmlEdit::setText(uuidOf(sequence), QVAppleEvents::generateUUID());
     return sequence;
 }
 

@@ -1,12 +1,21 @@
 #pragma once
 
 #include "document/MyDocument.h"
+#include "support/Result.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+
+class QIODevice;
 
 namespace vantrell
 {
 
 /// The document of a project's changed sequences that goes back to the editing application: one bin that
-/// holds a renamed copy of each. Main thread.
+/// holds a renamed copy of each. The project's tree is only read. Main thread, unless a member says
+/// otherwise.
 class OutputDocument
 {
 public:
@@ -16,9 +25,16 @@ public:
     {
     }
 
-    /// The text of the output document; an empty bin when no sequence was changed. The project's tree is
-    /// left as it is.
+    /// The text of the output document; an empty bin when no sequence was changed.
     QString generateXMLOutput();
+
+    /// Writes it as UTF-8 in place of a file, or to a new one, whole or not at all.
+    Result<void> writeChangedSequences(const QString &path);
+
+    /// Writes it as UTF-8 for these UUIDs, in their order. Any thread, while nobody edits the tree. Once
+    /// `cancelled` is set (null for never) writing fails.
+    Result<void> write(const QStringList &modifiedUUIDs, QIODevice &device,
+                       const std::atomic<bool> *cancelled = nullptr);
 
     /// Gives the sequence its id with "-Processed" as its only attribute and as its name, and a new
     /// UUID; name and UUID only where it has such a child. Returns the element.

@@ -42,6 +42,9 @@ public:
     /// Has the xmeml text imported, into the project if its path is not empty and such a file exists.
     /// Whether Final Cut Pro took it.
     static bool sendXMLToFCP(const QString &xml, const QString &projectPath, const EventCancel &cancel = {});
+    /// The same with what escapedXml() makes of the text.
+    static bool sendEscapedXMLToFCP(QByteArray escapedXml, const QString &projectPath,
+                                    const EventCancel &cancel = {});
 
     /// The xmeml text of a project as the bytes that came, without a zero at their end. With `launchFCP`
     /// the project is opened first if need be, and waited for; without, it must be open. With

@@ -170,7 +170,7 @@ std::optional<QString> textOf(const std::optional<QByteArray> &data)
     return QString::fromUtf8(*data);
 }
 
-bool importXml(const QString &xml, const QString &projectPath, const EventCancel &cancel)
+bool importXml(QByteArray escapedXml, const QString &projectPath, const EventCancel &cancel)
 {
     EventExchange exchange(EventCode::ImportXml, cancel,
                            {u"Error creating AEDescription: %ld", u"Error creating AppleEvent: %ld",
@@ -178,7 +178,7 @@ bool importXml(const QString &xml, const QString &projectPath, const EventCancel
     exchange.setTimeout(ImportTimeout);
     exchange.addFile(EventCode::Project, projectPath, u"Error creating project FSRef: %ld",
                      EventExchange::Unreferred::IsLeftOut);
-    exchange.add(EventCode::XmlData, EventDescriptor::fromUtf8(QVAppleEvents::escapedXml(xml)),
+    exchange.add(EventCode::XmlData, EventDescriptor::fromUtf8(std::move(escapedXml)),
                  u"Error adding XML data to event: %ld");
     return exchange.send().has_value();
 }
@@ -231,7 +231,17 @@ std::optional<QStringList> QVAppleEvents::listOfOpenFCPProjects(const EventCance
 bool QVAppleEvents::sendXMLToFCP(const QString &xml, const QString &projectPath, const EventCancel &cancel)
 {
     bool wasSent = false;
-    guarded("QVAppleEvents::sendXMLToFCP", [&] { wasSent = importXml(xml, projectPath, cancel); });
+    guarded("QVAppleEvents::sendXMLToFCP",
+            [&] { wasSent = importXml(escapedXml(xml), projectPath, cancel); });
+    return wasSent;
+}
+
+bool QVAppleEvents::sendEscapedXMLToFCP(QByteArray escapedXml, const QString &projectPath,
+                                        const EventCancel &cancel)
+{
+    bool wasSent = false;
+    guarded("QVAppleEvents::sendEscapedXMLToFCP",
+            [&] { wasSent = importXml(std::move(escapedXml), projectPath, cancel); });
     return wasSent;
 }
 

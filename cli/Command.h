@@ -25,6 +25,7 @@ void addExportCommand(CLI::App &program, int &status);
 void addImportCommand(CLI::App &program, int &status);
 void addMarkersCommand(CLI::App &program, int &status);
 void addEditCommand(CLI::App &program, int &status);
+void addSendCommand(CLI::App &program, int &status);
 void addTimecodeCommand(CLI::App &program, int &status);
 
 /// Writes to standard output; false, with a message, when it cannot be written.

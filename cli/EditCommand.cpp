@@ -4,7 +4,6 @@
 #include "cli/Numbers.h"
 #include "cli/ProjectOutput.h"
 #include "cli/RecordJson.h"
-#include "support/FileUtilities.h"
 #include "support/QVAlert.h"
 
 #include <QFileInfo>
@@ -47,11 +46,12 @@ QByteArray resultOf(MyDocument &document)
                         {"effects", recordsToJson(document.effectArray(), paths)}});
 }
 
-bool writeBin(const QByteArray &bin, const QString &path)
+bool writeBin(MyDocument &document, const QString &path)
 {
+    OutputDocument bin(document);
     if (path == standardStream)
-        return print(bin);
-    const Result<void> written = FileUtilities::writeAtomically(path, bin);
+        return print(bin.generateXMLOutput().toUtf8());
+    const Result<void> written = bin.writeChangedSequences(path);
     if (!written)
         complain(written.message());
     return written.isOk();
@@ -76,12 +76,9 @@ int edit(const EditOptions &options)
     ProjectSession session(Workbench::Inventories::All);
     if (!session.open(file) || !EditRun(session, *presenter).apply(script.value()))
         return Failed;
-    QByteArray bin;
-    if (!outputBin.isEmpty())
-        bin = OutputDocument(session.document()).generateXMLOutput().toUtf8();
     if (!output.isEmpty() && !writeProject(session.document(), output))
         return Failed;
-    if (!outputBin.isEmpty() && !writeBin(bin, outputBin))
+    if (!outputBin.isEmpty() && !writeBin(session.document(), outputBin))
         return Failed;
     const bool silent = options.quiet || output == standardStream || outputBin == standardStream;
     return silent || print(resultOf(session.document())) ? Done : Failed;

@@ -20,7 +20,12 @@ ProjectSession::~ProjectSession()
 
 bool ProjectSession::open(const QString &path)
 {
-    if (!m_workbench->open(path)) {
+    return open(path, Workbench::typeNameForPath(path));
+}
+
+bool ProjectSession::open(const QString &path, const QString &typeName)
+{
+    if (!m_workbench->open(path, typeName)) {
         complain(QStringLiteral("The file \"%1\" is of no type that can be opened.").arg(path));
         return false;
     }

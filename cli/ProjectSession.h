@@ -23,6 +23,8 @@ public:
     /// Loads the file and waits for it, inventories included. False, with a message on standard error,
     /// when there is no project then; a file that had to be repaired is opened with a message.
     bool open(const QString &path);
+    /// The same as a document of that type, whatever the file's name.
+    bool open(const QString &path, const QString &typeName);
 
     Workbench &workbench() { return *m_workbench; }
     MyDocument &document() { return m_workbench->document(); }

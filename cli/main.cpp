@@ -30,6 +30,7 @@ int runProgram(int argc, char **argv)
     cli::addImportCommand(program, status);
     cli::addMarkersCommand(program, status);
     cli::addEditCommand(program, status);
+    cli::addSendCommand(program, status);
     cli::addTimecodeCommand(program, status);
     try {
         std::vector<std::string> arguments = cli::markNegativeValues({argv + 1, argv + argc});

@@ -29,8 +29,9 @@ ones as far as that goes, and writes what was changed back.
  * Markers: edited in place, moved in time, added, removed, and exchanged with
    the marker lists of other systems.
 
-The package holds the desktop program, vantrell, and the command line,
-vantrell-cli, which works without a window system.]])
+The package holds the desktop program, vantrell, the command line,
+vantrell-cli, which works without a window system, and fcp-host, which stands
+in for the editing application.]])
 
 # The libraries come by themselves. The icons need a plug-in that is loaded by name, as does a session
 # without an X server, and files are opened through xdg-open.

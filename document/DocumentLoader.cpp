@@ -2,11 +2,11 @@
 
 #include "document/MyDocument.h"
 
-#include "support/QVAlert.h"
 #include "support/QVException.h"
 #include "support/QVLog.h"
 #include "support/Workspace.h"
 #include "xml/XmlQuery.h"
+#include "xml/XmlReferences.h"
 
 namespace vantrell
 {
@@ -22,7 +22,10 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
     }
     m_fileURL = url;
     m_loader = std::thread([this, typeName, url] {
-        guarded("-[MyDocument loadProjectWithSettings:]", [&] { loadProjectWithSettings(typeName, url); });
+        const bool ended = guarded("-[MyDocument loadProjectWithSettings:]",
+                                   [&] { loadProjectWithSettings(typeName, url); });
+        if (!ended)
+            failLoading(QStringLiteral("An internal error ended the loading; the log tells more."));
     });
     return true;
 }
@@ -61,37 +64,38 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
 
 bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
 {
-    auto parsed = [&]() -> std::optional<Result<std::unique_ptr<XmlDocument>>> {
-        if (typeName != DocumentType::finalCutProProject)
-            return XmlDocument::fromFile(url.toLocalFile(), {true, &m_closing});
+    const bool isProject = typeName == DocumentType::finalCutProProject;
+    std::optional<QByteArray> data;
+    if (isProject) {
         if (Workspace::applicationPathForBundleIdentifier(QStringLiteral("com.apple.FinalCutPro"))
                 .isEmpty()) {
-            QVAlert::alertSheetWithMessageText(
-                QStringLiteral("Unable to load project"),
-                QStringLiteral("Final Cut Pro 7 is not installed on this system."),
-                m_interface.alertParent());
-            return std::nullopt;
+            showAlert(QStringLiteral("Unable to load project"),
+                      QStringLiteral("Final Cut Pro 7 is not installed on this system."));
+            failLoading(QString());
+            return false;
         }
-        const std::optional<QByteArray> data =
-            m_services.projectXMLData ? m_services.projectXMLData(url.toLocalFile()) : std::nullopt;
-        if (!data)
-            return std::nullopt;
-        return XmlDocument::fromData(*data, {false, &m_closing});
-    }();
-    if (!parsed) {
-        failLoading(QString());
-        return false;
+        if (m_services.projectXMLData)
+            data = m_services.projectXMLData(url.toLocalFile());
+        if (!data) {
+            failLoading(LoadFailure::noProject);
+            return false;
+        }
     }
-    m_isFCPProject = typeName == DocumentType::finalCutProProject;
+    m_isFCPProject = isProject;
     m_isPremiereProject = false;
-    if (!*parsed) {
+    // A character beyond the basic plane comes as two references.
+    Result<std::unique_ptr<XmlDocument>> parsed =
+        isProject
+            ? XmlDocument::fromData(XmlReferences::joinedSurrogates(*std::move(data)), {false, &m_closing})
+            : XmlDocument::fromFile(url.toLocalFile(), {true, &m_closing});
+    if (!parsed) {
         if (!isClosing())
-            QVLog::appendLogAndPrint(u"Error loading document: %@", parsed->message());
+            QVLog::appendLogAndPrint(u"Error loading document: %@", parsed.message());
         m_xmlDoc.reset();
-        failLoading(parsed->message());
+        failLoading(parsed.message());
         return false;
     }
-    m_xmlDoc = std::move(parsed->value());
+    m_xmlDoc = std::move(parsed.value());
     return true;
 }
 

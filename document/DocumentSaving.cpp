@@ -15,23 +15,29 @@ namespace
 {
 
 const QString alreadySaving = QStringLiteral("The project is being saved already.");
+const Failure sentInstead{QStringLiteral("The project is sent to Final Cut Pro instead of being saved.")};
 
 } // namespace
 
 Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
 {
-    const Result<void> mayWrite = prepareSaving(url, typeName);
+    if (typeName == DocumentType::finalCutProProject) {
+        const Result<void> started = startSending({});
+        return started ? sentInstead : started;
+    }
+    const Result<void> mayWrite = prepareSaving(url);
     return mayWrite ? noteSaved(m_xmlDoc->save(url.toLocalFile())) : mayWrite;
 }
 
 void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
                                    std::function<void(const Result<void> &)> done)
 {
-    const Result<void> mayWrite = prepareSaving(url, typeName);
-    if (!mayWrite) {
-        done(mayWrite);
+    const bool isSent = typeName == DocumentType::finalCutProProject;
+    const Result<void> started = isSent ? startSending([done] { done(sentInstead); }) : prepareSaving(url);
+    if (!started)
+        done(started);
+    if (!started || isSent)
         return;
-    }
     m_isSaving = true;
     m_savingCancelled = false;
     const auto write = [this, path = url.toLocalFile(), done = std::move(done)] {
@@ -51,20 +57,27 @@ void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
     }
 }
 
-Result<void> MyDocument::prepareSaving(const QUrl &url, const QString &typeName)
+/// Starts sending the document in place of saving it; a failure says why not.
+Result<void> MyDocument::startSending(std::function<void()> ended)
 {
-    if (m_isSaving)
+    if (isSaving())
         return Failure{alreadySaving};
-    if (typeName == DocumentType::finalCutProProject) {
-        if (m_services.sendToFCP)
-            m_services.sendToFCP(*this);
-        return Failure{QStringLiteral("The project was sent to Final Cut Pro instead of being saved.")};
-    }
+    if (!m_services.sendToFCP)
+        return sentInstead;
+    if (!m_services.sendToFCP(*this, std::move(ended)))
+        return Failure{QStringLiteral("The project is being sent already.")};
+    return {};
+}
+
+Result<void> MyDocument::prepareSaving(const QUrl &url)
+{
+    if (isSaving())
+        return Failure{alreadySaving};
     if (!m_xmlDoc)
         return Failure{QStringLiteral("There is no project to save.")};
     if (!confirmSavingRepaired(url.toLocalFile()))
         return Failure{SaveFailure::notOverwritten};
-    if (m_isSaving) // since the question was raised
+    if (isSaving()) // since the question was raised
         return Failure{alreadySaving};
     return {};
 }

@@ -1,12 +1,11 @@
 #include "document/MyDocument.h"
 
-#include "support/QVAlert.h"
-#include "support/QVLog.h"
+#include "support/AlertUntil.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
-#include <QFileInfo>
+#include <utility>
 
 namespace vantrell
 {
@@ -26,8 +25,10 @@ MyDocument::~MyDocument()
 
 void MyDocument::close()
 {
-    m_closing = true;
+    const bool isFirstCall = !m_closing.exchange(true);
     m_mainThread->close();
+    if (isFirstCall && m_services.closing)
+        m_services.closing();
     if (m_loader.joinable())
         m_loader.join();
     for (std::thread &inventory : m_inventories) {
@@ -162,6 +163,8 @@ void MyDocument::clearModifiedSequenceUUIDs()
 {
     m_modifiedSequenceUUIDs.reset();
     m_modifiedSet.clear();
+    if (m_sending)
+        m_sending->sequences = 0;
 }
 
 void MyDocument::updateChangeCount()
@@ -174,7 +177,46 @@ void MyDocument::updateChangeCount()
 void MyDocument::clearChangeCount()
 {
     m_changeCount = 0;
+    if (m_sending)
+        m_sending->changes = 0;
     m_interface.setEdited(false);
+}
+
+void MyDocument::beginSending()
+{
+    m_sending = {m_changeCount, m_modifiedSequenceUUIDs ? m_modifiedSequenceUUIDs->size() : 0};
+    m_isReadToBeSent = true;
+    m_modifiedSet.clear(); // so that a sequence that is changed again is added again
+}
+
+void MyDocument::endSending(SendResult result)
+{
+    const std::optional<Sending> sent = std::exchange(m_sending, std::nullopt);
+    m_isReadToBeSent = false;
+    if (!sent)
+        return;
+    if (result != SendResult::Failed) {
+        m_changeCount -= sent->changes;
+        if (m_changeCount == 0)
+            m_interface.setEdited(false);
+    }
+    const QStringList all = m_modifiedSequenceUUIDs.value_or(QStringList());
+    const qsizetype count = sent->sequences;
+    QStringList kept = result == SendResult::SequencesSent ? QStringList() : all.first(count);
+    m_modifiedSet = QSet<QString>(kept.begin(), kept.end());
+    for (const QString &uuid : all.sliced(count)) {
+        if (!m_modifiedSet.contains(uuid))
+            kept.append(uuid);
+        m_modifiedSet.insert(uuid);
+    }
+    m_modifiedSequenceUUIDs = kept.isEmpty() ? std::nullopt : std::optional(kept);
+}
+
+void MyDocument::showAlert(const QString &messageText, const QString &informativeText)
+{
+    AlertParent *parentWindow = nullptr;
+    if (m_mainThread->runAndWait([&] { parentWindow = m_interface.alertParent(); }))
+        showAlertUntil(messageText, informativeText, parentWindow, m_mainThread);
 }
 
 void MyDocument::startProgress()

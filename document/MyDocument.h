@@ -43,6 +43,13 @@ inline const TypedKey<std::int64_t> timebase(u"timebase");
 inline const TypedKey<std::int64_t> startFrame(u"startFrame");
 } // namespace TimecodeKey
 
+/// Why loading failed, where the program must know it.
+namespace LoadFailure
+{
+/// The editing application was asked and gave nothing.
+inline const QString noProject = QStringLiteral("Final Cut Pro gave no XML of the project.");
+} // namespace LoadFailure
+
 /// Why saving failed, where the program must know it.
 namespace SaveFailure
 {
@@ -79,8 +86,13 @@ public:
         /// The XML of a project that the editing application holds, launching it when needed; nothing
         /// when there is none. Called on the loader thread.
         std::function<std::optional<QByteArray>(const QString &projectPath)> projectXMLData;
-        /// Sends the changed sequences to the editing application.
-        std::function<void(MyDocument &)> sendToFCP;
+        /// Starts sending the document to the editing application. `ended` may be empty; it is called on
+        /// the main thread when that is over, and not at all when the document is closed before. False
+        /// when the document is being sent already.
+        std::function<bool(MyDocument &, std::function<void()> ended)> sendToFCP;
+        /// The document is being closed: ends what the two above wait for. Called once, by close(), on
+        /// its thread.
+        std::function<void()> closing = {};
     };
 
     MyDocument(DocumentInterface &interface, Services services);
@@ -97,16 +109,18 @@ public:
     /// The loader. On its own thread.
     void loadProjectWithSettings(const QString &typeName, const QUrl &url);
     /// Saves a plain XML document, pretty-printed, whole or not at all. A document of the editing
-    /// application is sent instead, which counts as not saved.
+    /// application is sent instead, which counts as not saved; the call does not wait for its end.
     Result<void> writeToURL(const QUrl &url, const QString &typeName);
     /// The same with the writing done on a thread of its own, while which the tree may be read but not
-    /// changed. `done` is told the outcome, in the call itself when there is nothing to write, and not at
-    /// all when the document is closed before. Refused while another one runs.
+    /// changed. `done` is told the outcome, in the call itself when there is nothing to write, when a
+    /// document that is sent has been sent or not, and not at all when the document is closed before.
+    /// Refused while another one runs.
     void writeInBackground(const QUrl &url, const QString &typeName,
                            std::function<void(const Result<void> &)> done);
     /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.
     void cancelWriting() { m_savingCancelled = true; }
-    bool isSaving() const { return m_isSaving; }
+    /// Whether the tree may only be read, for it is being saved, or read to be sent.
+    bool isSaving() const { return m_isSaving || m_isReadToBeSent; }
 
     /// Ends everything that runs for the document: waiting calls return, workers stop at their next unit
     /// of work. The document stays as it is. Called twice, nothing happens.
@@ -197,7 +211,8 @@ public:
     const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_modifiedSequenceUUIDs; }
     /// Appends without a check: the same UUID may stand several times.
     void addModifiedSequenceUUID(const QString &uuid);
-    /// Whether the UUID stands in the list. In constant time.
+    /// Whether the UUID stands in the list; while the document is being sent, in what was added since
+    /// that began. In constant time.
     bool isSequenceModified(const QString &uuid) const { return m_modifiedSet.contains(uuid); }
     /// Makes the list absent.
     void clearModifiedSequenceUUIDs();
@@ -207,6 +222,25 @@ public:
     void updateChangeCount();
     void clearChangeCount();
     bool isEdited() const { return m_changeCount > 0; }
+
+    // Sending: what is changed while the changes so far are on their way still counts as changed after.
+
+    /// The tree is about to be read to be sent as it is now.
+    void beginSending();
+    /// It has been read and may be changed again.
+    void endReadingToSend() { m_isReadToBeSent = false; }
+    /// What became of the changes that were there when the sending began.
+    enum class SendResult {
+        Failed,        ///< nothing arrived: they count as before
+        ProjectSent,   ///< they arrived with the whole project; the list of modified sequences stays
+        SequencesSent, ///< they arrived, and are taken from the list
+    };
+    void endSending(SendResult result);
+    bool isSending() const { return m_sending.has_value(); }
+
+    /// Shows an alert with one button on the document's window and waits for its answer or for the
+    /// closing of the document. Any thread.
+    void showAlert(const QString &messageText, const QString &informativeText);
 
     // The progress sheet. Any thread; each waits for the main thread.
 
@@ -220,7 +254,8 @@ private:
     bool loadTree(const QString &typeName, const QUrl &url);
     void failLoading(const QString &message);
     void runInventories();
-    Result<void> prepareSaving(const QUrl &url, const QString &typeName);
+    Result<void> prepareSaving(const QUrl &url);
+    Result<void> startSending(std::function<void()> ended);
     Result<void> noteSaved(Result<void> saved);
     bool confirmSavingRepaired(const QString &path);
 
@@ -252,6 +287,13 @@ private:
     std::optional<QStringList> m_modifiedSequenceUUIDs;
     QSet<QString> m_modifiedSet;
     int m_changeCount = 0;
+    /// How many changes and modified sequences are being sent.
+    struct Sending {
+        int changes;
+        qsizetype sequences;
+    };
+    std::optional<Sending> m_sending;
+    bool m_isReadToBeSent = false;
 
     std::atomic<int> m_runningInventories = 0;
     std::thread m_loader;

@@ -342,6 +342,20 @@ QString uniqueFilePath(const QString &path)
     }
 }
 
+Result<QString> makeUniqueFile(const QString &path)
+{
+    for (;;) {
+        const QString candidate = uniqueFilePath(path);
+        const Descriptor file(
+            ::open(QFile::encodeName(candidate).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file.number() >= 0)
+            return candidate;
+        // A link to nothing is no file that exists, and yet in the way.
+        if (errno != EEXIST || !QFileInfo::exists(candidate))
+            return writeFailure(candidate, errno);
+    }
+}
+
 QString pathExtension(const QString &path)
 {
     const QString trimmed = withoutTrailingSlashes(path);

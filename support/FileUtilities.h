@@ -31,6 +31,9 @@ Result<QByteArray> readFile(const QString &path);
 /// "name 3.ext" and so on.
 QString uniqueFilePath(const QString &path);
 
+/// Makes an empty file at uniqueFilePath() and gives its path, which nobody else who asks is given then.
+Result<QString> makeUniqueFile(const QString &path);
+
 /// What stands behind the last dot of a path's last component; empty when there is none, when the
 /// name ends in its dot, or when only its first character is a dot.
 QString pathExtension(const QString &path);

@@ -133,8 +133,10 @@ int remainingMs(const QDeadlineTimer &deadline)
 } // namespace
 
 Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QStringList &arguments,
-                                           int timeoutMs, const QByteArray &input)
+                                           int timeoutMs, const QByteArray &input,
+                                           const std::function<bool()> &isCancelled)
 {
+    const auto givesUp = [&isCancelled] { return isCancelled && isCancelled(); };
     const QDeadlineTimer deadline(std::max(timeoutMs, 0));
     const BlockedPipeSignal blocked;
     Pipe toChild = Pipe::make();
@@ -157,7 +159,7 @@ Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QString
 
     Streams streams(std::move(toChild.writeEnd), std::move(fromChild.readEnd),
                     std::move(errorsFromChild.readEnd), input);
-    while (!process.hasEnded() && !deadline.hasExpired()) {
+    while (!process.hasEnded() && !deadline.hasExpired() && !givesUp()) {
         const int waitMs = std::min(remainingMs(deadline), EndLookMs);
         if (streams.isAnyOpen())
             streams.exchange(waitMs);
@@ -168,6 +170,8 @@ Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QString
         process.killGroup();
         if (!process.waitForEnd(KillTimeMs))
             process.abandon(); // it hangs in the kernel
+        if (!deadline.hasExpired())
+            return Failure{QStringLiteral("%1 was given up.").arg(program)};
         return Failure{QStringLiteral("%1 did not finish within %2 seconds.")
                            .arg(program, QString::number(timeoutMs / 1000.0))};
     }

@@ -1,5 +1,11 @@
 #include "workbench/Workbench.h"
 
+#include "bridge/QVAppleEvents.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -17,7 +23,15 @@ Workbench::~Workbench()
 
 bool Workbench::open(const QString &path)
 {
-    return m_document.readFromURL(QUrl::fromLocalFile(path), typeNameForPath(path));
+    return open(path, typeNameForPath(path));
+}
+
+bool Workbench::open(const QString &path, const QString &typeName)
+{
+    // Another program is told the path of a project.
+    const bool isProject = typeName == DocumentType::finalCutProProject;
+    const QString told = isProject ? QFileInfo(path).absoluteFilePath() : path;
+    return m_document.readFromURL(QUrl::fromLocalFile(told), typeName);
 }
 
 QString Workbench::typeNameForPath(const QString &path)
@@ -27,6 +41,18 @@ QString Workbench::typeNameForPath(const QString &path)
     if (path.endsWith(QStringLiteral(".xml"), Qt::CaseInsensitive))
         return DocumentType::finalCutProXMLFile;
     return DocumentType::publicXML;
+}
+
+QString Workbench::typeNameToSend(const QString &path)
+{
+    const QString typeName = typeNameForPath(path);
+    if (typeName == DocumentType::finalCutProProject || !QVAppleEvents::isFCPRunning())
+        return typeName;
+    const QStringList open = QVAppleEvents::listOfOpenFCPProjects().value_or(QStringList());
+    const QFileInfo file(path);
+    const bool isOpen = std::any_of(open.begin(), open.end(),
+                                    [&](const QString &project) { return QFileInfo(project) == file; });
+    return isOpen ? DocumentType::finalCutProProject : typeName;
 }
 
 MyDocument::Services Workbench::services(Inventories inventories)
@@ -39,6 +65,19 @@ MyDocument::Services Workbench::services(Inventories inventories)
     }
     if (inventories != Inventories::None)
         builders.push_back([this](MyDocument &) { m_markerInventory.populateMarkerData(); });
+    services.projectXMLData = [this](const QString &path) {
+        return QVAppleEvents::getProjectXMLData(path, true, m_fetchCancel);
+    };
+    services.sendToFCP = [this](MyDocument &, std::function<void()> ended) {
+        return m_projectSender.start([ended = std::move(ended)](ProjectSender::Outcome) {
+            if (ended)
+                ended();
+        });
+    };
+    services.closing = [this] {
+        m_fetchCancel.cancel();
+        m_projectSender.close();
+    };
     return services;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bridge/EventCancel.h"
+#include "bridge/ProjectSender.h"
 #include "document/MyDocument.h"
 #include "effects/EffectEditor.h"
 #include "effects/EffectInventory.h"
@@ -39,19 +41,27 @@ public:
     MarkerPresets &markerPresets() { return m_markerPresets; }
     MarkerInventory &markerInventory() { return m_markerInventory; }
     MarkerEditor &markerEditor() { return m_markerEditor; }
+    ProjectSender &projectSender() { return m_projectSender; }
     const MarkerListImporter &markerListImporter() const { return m_markerListImporter; }
     const MarkerListExporter &markerListExporter() const { return m_markerListExporter; }
 
     /// Starts loading a file; its end is told to the interface. False when the file cannot even be tried.
     bool open(const QString &path);
+    /// The same as a document of that type, whatever the file's name.
+    bool open(const QString &path, const QString &typeName);
 
     /// The document type that stands for a file by its name.
     static QString typeNameForPath(const QString &path);
+    /// The same, but a project of the editing application also when that has the file open under another
+    /// name. Waits for the application where one runs, for a minute at most. Any thread.
+    static QString typeNameToSend(const QString &path);
 
 private:
     MyDocument::Services services(Inventories inventories);
 
+    EventCancel m_fetchCancel;
     MyDocument m_document;
+    ProjectSender m_projectSender{m_document};
     MediaFilter m_mediaFilter{m_document};
     MediaInventory m_mediaInventory{m_document, m_mediaFilter};
     EffectInventory m_effectInventory{m_document};

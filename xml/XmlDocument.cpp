@@ -2,11 +2,12 @@
 
 #include "support/FileUtilities.h"
 #include "xml/TreeMemory.h"
+#include "xml/XmlElementWriter.h"
 #include "xml/XmlFile.h"
+#include "xml/XmlOutput.h"
 #include "xml/XmlParse.h"
 
 #include <libxml/parser.h>
-#include <libxml/xmlsave.h>
 
 #include <QBuffer>
 
@@ -23,25 +24,6 @@ xmlDoc *treeOf(XmlNode document)
 {
     return reinterpret_cast<xmlDoc *>(document.handle());
 }
-
-/// Where the library's output goes.
-struct Output {
-    QIODevice &device;
-    const std::atomic<bool> *cancelled; // null: never
-};
-
-int writeOutput(void *context, const char *buffer, int length)
-{
-    const auto &output = *static_cast<Output *>(context);
-    if (output.cancelled && *output.cancelled)
-        return -1;
-    return output.device.write(buffer, length) == length ? length : -1;
-}
-
-struct SaveDeleter {
-    void operator()(xmlSaveCtxt *context) const { xmlSaveClose(context); }
-};
-using SavePointer = std::unique_ptr<xmlSaveCtxt, SaveDeleter>;
 
 QString faultText(const ParseOutcome &outcome)
 {
@@ -126,31 +108,32 @@ XmlNode XmlDocument::rootElement() const
     return m_tree ? XmlNode(xmlDocGetRootElement(treeOf(node()))) : XmlNode();
 }
 
-Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled) const
+Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled, Layout layout) const
 {
     return FileUtilities::writeAtomically(
-        path, [this, cancelled](QIODevice &device) { return write(device, cancelled); });
+        path, [this, cancelled, layout](QIODevice &device) { return write(device, cancelled, layout); });
 }
 
-Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled) const
+Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled, Layout layout) const
 {
-    return writeEncoded(device, reinterpret_cast<const char *>(treeOf(node())->encoding), cancelled);
+    return writeEncoded(device, reinterpret_cast<const char *>(treeOf(node())->encoding), cancelled, layout);
 }
 
 Result<void> XmlDocument::writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled) const
 {
-    return writeEncoded(device, nullptr, cancelled);
+    return writeEncoded(device, nullptr, cancelled, Layout::Indented);
 }
 
 Result<void> XmlDocument::writeEncoded(QIODevice &device, const char *encoding,
-                                       const std::atomic<bool> *cancelled) const
+                                       const std::atomic<bool> *cancelled, Layout layout) const
 {
-    Output output{device, cancelled};
-    SavePointer save;
+    XmlOutput output{device, cancelled};
+    const int options = XML_SAVE_AS_XML | (layout == Layout::Indented ? XML_SAVE_FORMAT : 0);
+    XmlSavePointer save;
     if (encoding)
-        save.reset(xmlSaveToIO(writeOutput, nullptr, &output, encoding, XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+        save = openXmlOutput(output, encoding, options);
     if (!save)
-        save.reset(xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_FORMAT | XML_SAVE_AS_XML));
+        save = openXmlOutput(output, "UTF-8", options);
     const bool saved = save && xmlSaveDoc(save.get(), treeOf(node())) >= 0 && xmlSaveFlush(save.get()) >= 0;
     if (!saved)
         return Failure{device.errorString()};
@@ -159,19 +142,11 @@ Result<void> XmlDocument::writeEncoded(QIODevice &device, const char *encoding,
 
 QString XmlDocument::textOfElement(XmlNode element)
 {
+    if (!element.isElement())
+        return QString();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    return writeElement(element, buffer) ? QString::fromUtf8(buffer.data()) : QString();
-}
-
-bool XmlDocument::writeElement(XmlNode element, QIODevice &device)
-{
-    if (!element.isElement())
-        return false;
-    Output output{device, nullptr};
-    const SavePointer save(
-        xmlSaveToIO(writeOutput, nullptr, &output, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
-    return save && xmlSaveTree(save.get(), element.handle()) >= 0 && xmlSaveFlush(save.get()) >= 0;
+    return XmlElementWriter::write(element, buffer) ? QString::fromUtf8(buffer.data()) : QString();
 }
 
 Result<XmlNode> XmlDocument::elementFromText(const QString &xml)

@@ -34,6 +34,10 @@ public:
         const std::atomic<bool> *cancelled = nullptr;
     };
 
+    /// What stands between the elements of a written tree: line ends and two blanks for each level, or
+    /// nothing.
+    enum class Layout { Indented, Compact };
+
     /// Reads a file as it is at the moment of opening; it is never written or mapped. The failure says
     /// what is wrong with it: missing, a folder, empty, no XML, no root element, nested too deeply.
     static Result<std::unique_ptr<XmlDocument>> fromFile(const QString &path, const LoadOptions &options);
@@ -51,17 +55,16 @@ public:
     bool wasRepaired() const { return m_repaired; }
     const QString &firstFault() const { return m_firstFault; }
 
-    /// Writes the tree, pretty-printed, in its declared encoding (UTF-8 when it has none), whole or not
-    /// at all. Nothing may change the tree meanwhile. Once `cancelled` is set (null for never) writing
-    /// fails. Any thread.
-    Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr) const;
-    Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
-    /// The same in UTF-8, whatever the declared encoding is.
+    /// Writes the tree in its declared encoding (UTF-8 when it has none), whole or not at all. Nothing
+    /// may change the tree meanwhile. Once `cancelled` is set (null for never) writing fails. Any thread.
+    Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr,
+                      Layout layout = Layout::Indented) const;
+    Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr,
+                       Layout layout = Layout::Indented) const;
+    /// Indented, in UTF-8 whatever the declared encoding is.
     Result<void> writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
     /// The element as XML text, without a declaration and without added white space.
     static QString textOfElement(XmlNode element);
-    /// Writes that text in UTF-8; false when the device takes no more or there is no element.
-    static bool writeElement(XmlNode element, QIODevice &device);
 
     /// Parses the text of one element; well-formed text only. The element belongs to this document and
     /// stands outside its tree until it is appended somewhere. The failure is the parser's description.
@@ -90,7 +93,7 @@ private:
     XmlDocument() = default;
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);
     Result<void> writeEncoded(QIODevice &device, const char *encoding,
-                              const std::atomic<bool> *cancelled) const;
+                              const std::atomic<bool> *cancelled, Layout layout) const;
     void park(XmlNode element);
 
     std::unique_ptr<TreeMemory::Arena> m_arena; // dies after the tree

@@ -10,7 +10,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 
 namespace vantrell
@@ -18,9 +17,6 @@ namespace vantrell
 
 namespace
 {
-
-/// Who asks for a project may have had it opened just before, by a process that is still starting.
-constexpr std::chrono::seconds openingGrace(5);
 
 EventRecord refusal(std::int32_t number, const QString &message)
 {
@@ -87,12 +83,6 @@ QString pathOf(const EventDescriptor &value)
 
 } // namespace
 
-void HostEvents::cancel()
-{
-    m_cancelled = true;
-    m_projects.cancelWaiting();
-}
-
 EventRecord HostEvents::replyTo(const EventRecord &event)
 {
     EventRecord reply = !m_failingEvent.isEmpty() && event.identifier.text() == m_failingEvent
@@ -126,8 +116,8 @@ EventRecord HostEvents::handle(const EventRecord &event)
     });
     if (handler != std::end(handlers))
         return (this->*handler->handle)(event);
-    return refusal(HostError::unknownEvent, QStringLiteral("There is no event \"%1\" of class \"%2\".")
-                                                .arg(event.identifier.text(), event.eventClass.text()));
+    return refusal(EventError::EventNotHandled, QStringLiteral("There is no event \"%1\" of class \"%2\".")
+                                                    .arg(event.identifier.text(), event.eventClass.text()));
 }
 
 EventRecord HostEvents::listOpenProjects(const EventRecord &)
@@ -154,7 +144,7 @@ EventRecord HostEvents::importXml(const EventRecord &event)
     if (!imported)
         return refusal(HostError::failed, imported.message());
 
-    std::shared_ptr<HostProject> project = openProjectOf(event);
+    std::shared_ptr<HostProject> project = projectOf(event);
     const bool isNew = !project;
     if (isNew) {
         const auto made = m_projects.makeNew(m_maximumVersion);
@@ -210,7 +200,7 @@ EventRecord HostEvents::openItem(const EventRecord &event)
 
 EventRecord HostEvents::saveProject(const EventRecord &event)
 {
-    const auto project = openProjectOf(event);
+    const auto project = projectOf(event);
     if (!project)
         return notOpen();
     const QString target = targetOf(event, *project);
@@ -226,7 +216,7 @@ EventRecord HostEvents::saveProject(const EventRecord &event)
 
 EventRecord HostEvents::closeProject(const EventRecord &event)
 {
-    const auto project = openProjectOf(event);
+    const auto project = projectOf(event);
     if (!project)
         return notOpen();
     const EventDescriptor *discard = event.parameter(EventCode::DiscardChanges);
@@ -257,22 +247,11 @@ EventRecord HostEvents::openDocuments(const EventRecord &event)
     return reply;
 }
 
-QString HostEvents::projectPathIn(const EventRecord &event)
-{
-    const EventDescriptor *value = event.parameter(EventCode::Project);
-    return value ? pathOf(*value) : QString();
-}
-
-std::shared_ptr<HostProject> HostEvents::openProjectOf(const EventRecord &event) const
-{
-    const QString path = projectPathIn(event);
-    return path.isEmpty() ? nullptr : m_projects.openAt(path);
-}
-
 std::shared_ptr<HostProject> HostEvents::projectOf(const EventRecord &event) const
 {
-    const QString path = projectPathIn(event);
-    return path.isEmpty() ? nullptr : m_projects.awaitOpenAt(path, openingGrace);
+    const EventDescriptor *value = event.parameter(EventCode::Project);
+    const QString path = value ? pathOf(*value) : QString();
+    return path.isEmpty() ? nullptr : m_projects.openAt(path);
 }
 
 } // namespace vantrell

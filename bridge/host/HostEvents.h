@@ -11,13 +11,12 @@
 namespace vantrell
 {
 
-/// Numbers of the errors that the host replies with.
+/// Numbers of the errors that the host replies with, beside those of EventError.
 namespace HostError
 {
 inline constexpr std::int32_t fileNotSaved = -36;
 inline constexpr std::int32_t fileExists = -48;
 inline constexpr std::int32_t missingParameter = -1701;
-inline constexpr std::int32_t unknownEvent = -1708;
 inline constexpr std::int32_t noSuchObject = -1728; ///< no such project, or not open; no such item in it
 inline constexpr std::int32_t failed = -10000;
 } // namespace HostError
@@ -36,8 +35,8 @@ public:
 
     /// From now on the event with that identifier is answered with an error; empty for none.
     void setFailingEvent(const QString &identifier) { m_failingEvent = identifier; }
-    /// Makes exports fail that take or wait long. Any thread.
-    void cancel();
+    /// Makes exports fail that take long. Any thread.
+    void cancel() { m_cancelled = true; }
 
     EventRecord replyTo(const EventRecord &event);
 
@@ -54,11 +53,7 @@ private:
     EventRecord closeProject(const EventRecord &event);
     EventRecord openDocuments(const EventRecord &event);
 
-    /// The path that `fcpP` refers to; empty when it refers to none.
-    static QString projectPathIn(const EventRecord &event);
-    /// The open project of that path; null when there is none.
-    std::shared_ptr<HostProject> openProjectOf(const EventRecord &event) const;
-    /// The same, waiting a little for one to be opened.
+    /// The open project that `fcpP` refers to; null when there is none.
     std::shared_ptr<HostProject> projectOf(const EventRecord &event) const;
 
     HostProjects &m_projects;

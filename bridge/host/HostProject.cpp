@@ -4,6 +4,7 @@
 #include "support/FileUtilities.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlEdit.h"
+#include "xml/XmlElementWriter.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -91,7 +92,7 @@ Result<QByteArray> HostProject::itemXml(const QString &identifier) const
     if (!version.isEmpty())
         buffer.write(" version=\"" + version.toUtf8() + '"');
     buffer.write(">");
-    if (!XmlDocument::writeElement(found.value(), buffer))
+    if (!XmlElementWriter::write(found.value(), buffer))
         return Failure{QStringLiteral("The item \"%1\" cannot be written.").arg(identifier)};
     buffer.write("</xmeml>\n");
     return buffer.data();

@@ -28,50 +28,14 @@ HostProjects::HostProjects(const QString &folder)
 
 Result<void> HostProjects::open(const QString &path)
 {
-    const std::shared_ptr<HostProject> project = at(path);
-    {
-        const std::lock_guard lock(m_mutex);
-        m_opening.push_back(project);
-    }
-    const Result<void> opened = project->open();
-    {
-        const std::lock_guard lock(m_mutex);
-        m_opening.erase(std::find(m_opening.begin(), m_opening.end(), project));
-    }
-    m_changed.notify_all();
-    return opened;
+    return at(path)->open();
 }
 
 std::shared_ptr<HostProject> HostProjects::openAt(const QString &path) const
 {
-    return awaitOpenAt(path, std::chrono::milliseconds(-1));
-}
-
-std::shared_ptr<HostProject> HostProjects::awaitOpenAt(const QString &path,
-                                                       std::chrono::milliseconds grace) const
-{
-    const auto end = std::chrono::steady_clock::now() + grace;
-    std::unique_lock lock(m_mutex);
-    for (;;) {
-        const std::shared_ptr<HostProject> known = find(path);
-        if (known && known->isOpen())
-            return known;
-        if (m_isCancelled || grace.count() < 0)
-            return nullptr;
-        if (known && std::find(m_opening.begin(), m_opening.end(), known) != m_opening.end())
-            m_changed.wait(lock);
-        else if (m_changed.wait_until(lock, end) == std::cv_status::timeout)
-            grace = std::chrono::milliseconds(-1); // one more look
-    }
-}
-
-void HostProjects::cancelWaiting()
-{
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isCancelled = true;
-    }
-    m_changed.notify_all();
+    const std::lock_guard lock(m_mutex);
+    auto known = find(path);
+    return known && known->isOpen() ? known : nullptr;
 }
 
 std::vector<std::shared_ptr<HostProject>> HostProjects::allOpen() const

@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <chrono>
-#include <condition_variable>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -15,7 +13,7 @@ namespace vantrell
 {
 
 /// The projects that the host knows, open or closed, in the order in which it came to know them. Any
-/// thread; unless a member says otherwise it waits for no operation on a project.
+/// thread; nothing but open() waits for an operation on a project.
 class HostProjects
 {
 public:
@@ -28,11 +26,6 @@ public:
     Result<void> open(const QString &path);
     /// The open project of that file; null when there is none.
     std::shared_ptr<HostProject> openAt(const QString &path) const;
-    /// The same, but one that is being opened is waited for, and for one that nobody has asked to be opened
-    /// yet the \a grace.
-    std::shared_ptr<HostProject> awaitOpenAt(const QString &path, std::chrono::milliseconds grace) const;
-    /// Ends the waiting, now and from now on.
-    void cancelWaiting();
     std::vector<std::shared_ptr<HostProject>> allOpen() const;
 
     /// A new empty open project "Vantrell.xml", "Vantrell 2.xml" and so on. Its file is made, still empty.
@@ -45,11 +38,8 @@ private:
     std::shared_ptr<HostProject> find(const QString &path) const; // with the mutex held
 
     const QString m_folder;
-    mutable std::mutex m_mutex; // guards the members below
-    mutable std::condition_variable m_changed;
+    mutable std::mutex m_mutex; // guards the list
     std::vector<std::shared_ptr<HostProject>> m_projects;
-    std::vector<std::shared_ptr<HostProject>> m_opening; // once for each call that opens one
-    bool m_isCancelled = false;
 };
 
 } // namespace vantrell

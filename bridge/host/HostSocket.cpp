@@ -1,17 +1,17 @@
 #include "bridge/host/HostSocket.h"
 
+#include "support/SocketAddress.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <optional>
 #include <sys/file.h>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace vantrell
@@ -20,21 +20,10 @@ namespace vantrell
 namespace
 {
 
-/// The address of a socket; none when its path is longer than one can be.
-std::optional<sockaddr_un> addressOf(const QByteArray &path)
-{
-    sockaddr_un address = {};
-    address.sun_family = AF_UNIX;
-    if (path.isEmpty() || std::size_t(path.size()) >= sizeof(address.sun_path))
-        return std::nullopt;
-    std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
-    return address;
-}
-
 /// A connection to whoever listens there; not open, with errno set, when there is none.
 Descriptor connectTo(const QString &path, int flags)
 {
-    const std::optional<sockaddr_un> address = addressOf(QFile::encodeName(path));
+    const std::optional<sockaddr_un> address = socketAddress(path);
     if (!address) {
         errno = ENAMETOOLONG;
         return Descriptor();
@@ -100,9 +89,10 @@ Result<void> HostSocket::listen()
             QStringLiteral("The socket \"%1\" cannot be made: %2.").arg(path(), qt_error_string(error))};
     };
     // It gets its name when it listens and others are shut out: there is no moment when it refuses.
+    const QString unfinishedPath = m_folder + QStringLiteral("/.KeyG");
     const QByteArray name = QFile::encodeName(path());
-    const QByteArray unfinished = QFile::encodeName(m_folder + QStringLiteral("/.KeyG"));
-    const std::optional<sockaddr_un> address = addressOf(unfinished);
+    const QByteArray unfinished = QFile::encodeName(unfinishedPath);
+    const std::optional<sockaddr_un> address = socketAddress(unfinishedPath);
     if (!address)
         return failure(ENAMETOOLONG);
     Descriptor listener(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));

@@ -1,14 +1,14 @@
 #include "bridge/host/ImportedXml.h"
 
 #include "support/TextNumbers.h"
-#include "xml/SurrogateReferences.h"
+#include "xml/XmlReferences.h"
 
 namespace vantrell
 {
 
 Result<ImportedXml> ImportedXml::read(const QByteArray &xml, std::int64_t maximumVersion)
 {
-    auto document = XmlDocument::fromData(joinSurrogateReferences(xml), {.tolerant = false});
+    auto document = XmlDocument::fromData(XmlReferences::joinedSurrogates(xml), {.tolerant = false});
     if (!document)
         return Failure{QStringLiteral("The document cannot be imported: %1").arg(document.message())};
     const XmlNode root = document.value()->rootElement();

@@ -1,3 +1,4 @@
+#include "bridge/EscapedXmlBuffer.h"
 #include "bridge/OutputDocument.h"
 #include "bridge/QVAppleEvents.h"
 #include "support/StandardFolders.h"
@@ -185,6 +186,56 @@ private Q_SLOTS:
         const QString uuid = QVAppleEvents::generateUUID();
         QVERIFY(QRegularExpression(QRegularExpression::anchoredPattern(newUuid)).match(uuid).hasMatch());
         QVERIFY(uuid != QVAppleEvents::generateUUID());
+    }
+
+    /// As bytes the text becomes the same, wherever the writes are cut.
+    void escapedBytes_data()
+    {
+        QTest::addColumn<QByteArray>("utf8");
+        QTest::addColumn<QByteArray>("escaped");
+        QTest::newRow("empty") << QByteArray("") << QByteArray("");
+        QTest::newRow("markup") << QByteArray("<a b=\"c\">&amp;</a>\r\n")
+                                << QByteArray("<a b=\"c\">&amp;</a>&#13;\n");
+        // The last that is copied and the first that is not, then two, three and four bytes.
+        QTest::newRow("characters") << QByteArray("\x7f\xC2\x9f\xC2\xA0\xC3\xA9\xE7\x89\x87\xF0\x9F\x8E\xAC.")
+                                    << QByteArray("\x7f\xC2\x9f&#160;&#233;&#29255;&#55356;&#57260;.");
+        QTest::newRow("the last character")
+            << QByteArray("\xF4\x8F\xBF\xBF") << QByteArray("&#56319;&#57343;");
+        QTest::newRow("what is no UTF-8")
+            << QByteArray("a\xC3<b\x80\xFF>") << QByteArray("a&#65533;<b&#65533;&#65533;>");
+    }
+    void escapedBytes()
+    {
+        QFETCH(QByteArray, utf8);
+        QFETCH(QByteArray, escaped);
+        for (qsizetype first = 0; first <= utf8.size(); ++first) {
+            for (qsizetype second = first; second <= utf8.size(); ++second) {
+                EscapedXmlBuffer buffer;
+                for (const QByteArray &part :
+                     {utf8.first(first), utf8.sliced(first, second - first), utf8.sliced(second)})
+                    QCOMPARE(buffer.write(part), part.size());
+                QCOMPARE(buffer.take(), escaped);
+            }
+        }
+        QCOMPARE(QVAppleEvents::escapeCharactersInXMLString(QString::fromUtf8(utf8)).toUtf8(), escaped);
+    }
+
+    void writtenToAFile()
+    {
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        const QString source =
+            m_home.addFile(QStringLiteral("p.xml"), "<xmeml>" + sequence("é", "<uuid>U</uuid>") + "</xmeml>");
+        document.readFromURL(QUrl::fromLocalFile(source), DocumentType::publicXML);
+        MainThread::drainUntil([&world] { return world.ended; });
+        document.addModifiedSequenceUUID(QStringLiteral("U"));
+        const QString target = m_home.addFile(QStringLiteral("bin.xml"), "old");
+        QVERIFY(OutputDocument(document).writeChangedSequences(target));
+        const QByteArray written = contentOf(target);
+        QVERIFY2(written.contains("<sequence id=\"é-Processed\"><name>é-Processed</name>"),
+                 written.constData());
+        QVERIFY(written.endsWith("</children></bin></xmeml>"));
+        QVERIFY(!OutputDocument(document).writeChangedSequences(m_home.path(QStringLiteral("none/bin.xml"))));
     }
 
     void sequenceWithoutIdNameOrUuid()

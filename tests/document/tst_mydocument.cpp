@@ -1,5 +1,6 @@
 #include "document/MyDocument.h"
 #include "support/QVAlert.h"
+#include "support/UserDefaults.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
@@ -10,10 +11,15 @@
 #include <QFile>
 #include <QTest>
 
+#include <future>
+#include <stdexcept>
+
 using namespace vantrell;
 
 namespace
 {
+
+const QString applicationsFolder = QStringLiteral("applicationsFolder");
 
 QString titles(const MenuPtr &menu)
 {
@@ -46,7 +52,22 @@ class MyDocumentTest : public QObject
         QVERIFY(MainThread::drainUntil([&world] { return world.ended; }, std::chrono::seconds(60)));
     }
 
+    /// An editing application is installed until the end of the test function.
+    void installEditor()
+    {
+        m_home.addFile(QStringLiteral("apps/F.app/Contents/Info.plist"),
+                       "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
+                       "<string>com.apple.FinalCutPro</string></dict></plist>");
+        UserDefaults::standard().setValue(applicationsFolder, m_home.path(QStringLiteral("apps")));
+    }
+
 private Q_SLOTS:
+    void cleanup()
+    {
+        UserDefaults::standard().removeValue(applicationsFolder);
+        QVAlert::setPresenter(nullptr);
+    }
+
     void sequences_data()
     {
         QTest::addColumn<QByteArray>("xml");
@@ -155,6 +176,92 @@ private Q_SLOTS:
         }
     }
 
+    void projectsComeFromTheEditingApplication_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("message");
+        const QString none;
+        const auto named = [](const QByteArray &name) {
+            return "<xmeml><sequence><name>" + name + "</name></sequence></xmeml>";
+        };
+        QTest::newRow("project") << named("A") << QStringLiteral("A") << none;
+        QTest::newRow("beyond the basic plane") // the clapper board, once in each notation
+            << named("x&#55356;&#57260;&#xD83C;&#xDFAC;y") << QStringLiteral("x\U0001F3AC\U0001F3ACy")
+            << none;
+        QTest::newRow("half a pair") << named("x&#55356;y") << none << QStringLiteral("not well-formed");
+        QTest::newRow("not repaired")
+            << QByteArray("<xmeml><sequence>") << none << QStringLiteral("not well-formed");
+        QTest::newRow("empty") << QByteArray("") << none << QStringLiteral("not well-formed");
+        QTest::newRow("nothing") << QByteArray() << none << LoadFailure::noProject;
+        QTest::newRow("a source that throws")
+            << QByteArray("throw") << none << QStringLiteral("An internal error ended the loading");
+    }
+    void projectsComeFromTheEditingApplication()
+    {
+        installEditor();
+        QFETCH(QByteArray, xml);
+        QString asked;
+        const auto source = [&](const QString &path) -> std::optional<QByteArray> {
+            asked = path;
+            if (xml == "throw")
+                throw std::runtime_error("out of order");
+            return xml.isNull() ? std::nullopt : std::optional(xml);
+        };
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {{}, source, {}});
+        document.setPremiereProject(true);
+        load(document, world, "not looked at", DocumentType::finalCutProProject);
+        QCOMPARE(asked, m_home.path(QStringLiteral("p/project.xml")));
+        QFETCH(QString, message);
+        QCOMPARE(world.loaded, message.isEmpty());
+        QVERIFY2(world.message.contains(message), qPrintable(world.message));
+        QCOMPARE(world.message.isEmpty(), message.isEmpty());
+        QCOMPARE(bool(document.xmlDoc()), message.isEmpty());
+        QCOMPARE(document.isPopulating(Tab::Markers), !message.isEmpty());
+        const bool isFetched = !xml.isNull() && xml != "throw";
+        QCOMPARE(document.isFCPProject(), isFetched);
+        QCOMPARE(document.isPremiereProject(), !isFetched);
+        if (message.isEmpty())
+            QTEST(document.sequenceMenu()->at(1).title, "name");
+    }
+
+    void closingEndsAFetchAndAnAlert()
+    {
+        // Nobody answers the alert that there is no editing application.
+        const auto alerts = std::make_shared<ScriptedAlertPresenter>();
+        QVAlert::setPresenter(alerts);
+        {
+            ScriptedDocumentInterface world;
+            MyDocument document(world, {});
+            QVERIFY(
+                document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
+            QVERIFY(
+                MainThread::drainUntil([&] { return alerts->openCount() == 1; }, std::chrono::seconds(60)));
+            document.close();
+        }
+        QVERIFY(MainThread::drainUntil([&] { return alerts->openCount() == 0; }, std::chrono::seconds(60)));
+
+        installEditor();
+        std::atomic<bool> isAsked = false;
+        std::promise<void> closed;
+        MyDocument::Services services;
+        services.projectXMLData = [&](const QString &) -> std::optional<QByteArray> {
+            isAsked = true;
+            MainThread::wake();
+            closed.get_future().wait();
+            return std::nullopt;
+        };
+        services.closing = [&] { closed.set_value(); };
+        ScriptedDocumentInterface world;
+        MyDocument document(world, services);
+        QVERIFY(document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
+        QVERIFY(MainThread::drainUntil([&] { return isAsked.load(); }, std::chrono::seconds(60)));
+        document.close();
+        document.close(); // tells only once
+        QVERIFY(!world.ended);
+    }
+
     void anUnknownTypeIsRefused()
     {
         ScriptedDocumentInterface world;
@@ -205,11 +312,27 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         int sent = 0;
-        MyDocument document(world, {{}, {}, [&sent](MyDocument &) { ++sent; }});
+        std::function<void()> end;
+        bool isStarted = true;
+        MyDocument document(world, {{}, {}, [&](MyDocument &, std::function<void()> ended) {
+                                        ++sent;
+                                        end = std::move(ended);
+                                        return isStarted;
+                                    }});
         load(document, world, sequence("<video>\n<track/>\n</video>"));
         const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/out.xml")));
         QVERIFY(!document.writeToURL(target, DocumentType::finalCutProProject));
         QCOMPARE(sent, 1);
+        int told = 0;
+        const auto done = [&told](const Result<void> &outcome) { told += outcome ? 100 : 1; };
+        document.writeInBackground(target, DocumentType::finalCutProProject, done);
+        QCOMPARE(told, 0); // until the sending is over
+        end();
+        QCOMPARE(told, 1);
+        isStarted = false; // one is under way
+        document.writeInBackground(target, DocumentType::finalCutProProject, done);
+        QCOMPARE(told, 2);
+        QCOMPARE(sent, 3);
         QVERIFY(!QFile::exists(target.toLocalFile()));
         document.setPremiereProject(true);
         QVERIFY(!document.writeToURL(QUrl::fromLocalFile(m_home.path(QStringLiteral("none/out.xml"))),
@@ -223,6 +346,64 @@ private Q_SLOTS:
                 "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xmeml version=\"5\">\n  <sequence id=\"s\">\n"
                 "    <name>S</name>\n    <media>\n      <video>\n        <track/>\n      </video>\n"
                 "    </media>\n  </sequence>\n</xmeml>\n"));
+    }
+
+    /// The UUIDs changed before and during a send, each when its sequence is not marked as changed, as
+    /// the editors do it, and what is left after it.
+    void changesDuringASendAreKept_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("during");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<bool>("isEdited");
+        const int failed = int(MyDocument::SendResult::Failed);
+        const int project = int(MyDocument::SendResult::ProjectSent);
+        const int sequences = int(MyDocument::SendResult::SequencesSent);
+        QTest::newRow("sent") << "A B"
+                              << "" << sequences << "" << false;
+        QTest::newRow("sent, the same again") << "A B"
+                                              << "B B" << sequences << "B" << true;
+        QTest::newRow("sent, another one") << "A"
+                                           << "C" << sequences << "C" << true;
+        QTest::newRow("failed") << "A B"
+                                << "" << failed << "A B" << true;
+        QTest::newRow("failed, changed meanwhile") << "A B"
+                                                   << "B C B" << failed << "A B C" << true;
+        QTest::newRow("to the other application") << "A"
+                                                  << "" << project << "A" << false;
+        QTest::newRow("the same, changed meanwhile") << "A"
+                                                     << "A C" << project << "A C" << true;
+        QTest::newRow("the same, nothing before") << ""
+                                                  << "" << project << "" << false;
+    }
+    void changesDuringASendAreKept()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, during);
+        QFETCH(int, result);
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        const auto change = [&document](const QString &uuids) {
+            for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+                if (!document.isSequenceModified(uuid))
+                    document.addModifiedSequenceUUID(uuid);
+                document.updateChangeCount();
+            }
+        };
+        change(before);
+        document.beginSending();
+        QVERIFY(document.isSaving());
+        document.endReadingToSend();
+        QVERIFY(!document.isSaving());
+        change(during);
+        document.endSending(MyDocument::SendResult(result));
+        QTEST(document.modifiedSequenceUUIDs().value_or(QStringList()).join(QLatin1Char(' ')), "after");
+        QTEST(document.isEdited(), "isEdited");
+        QTEST(world.edited, "isEdited");
+        for (const QString &uuid : document.modifiedSequenceUUIDs().value_or(QStringList()))
+            QVERIFY(document.isSequenceModified(uuid));
+        QVERIFY(document.modifiedSequenceUUIDs() != QStringList()); // absent, not empty
     }
 
     void aRepairedFileIsOverwrittenOnlyWhenAsked()
@@ -242,7 +423,6 @@ private Q_SLOTS:
         QVERIFY(document.writeToURL(document.fileURL(), DocumentType::publicXML));
         QVERIFY(contentOf(document.fileURL().toLocalFile()).endsWith("</xmeml>\n"));
         QCOMPARE(alerts->shown().size(), std::size_t(2));
-        QVAlert::setPresenter(nullptr);
     }
 
     void timecodesByTheRecord()

@@ -63,11 +63,12 @@ options_of() {
     "$root/usr/bin/$1" "${@:2}" --help | sed -n 's/, -/,-/; s/^  \(-[^ ]*\).*/\1/p' | tr ',' '\n' | sort
 }
 
-# choices_of OPTION SUBCOMMAND...: the values that the help allows for the option, one a line, sorted.
+# choices_of OPTION PROGRAM [SUBCOMMAND...]: the values that its help allows for the option, one a line,
+# sorted.
 choices_of() {
     local option=$1
     shift
-    "$root/usr/bin/vantrell-cli" "$@" --help | sed -n "s/^  $option TEXT:{\([^}]*\)}.*/\1/p" |
+    "$root/usr/bin/$1" "${@:2}" --help | sed -n "s/^  $option TEXT:{\([^}]*\)}.*/\1/p" |
         tr ',' '\n' | sort
 }
 

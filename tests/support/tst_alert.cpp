@@ -1,3 +1,4 @@
+#include "support/AlertUntil.h"
 #include "support/HeadlessAlertPresenter.h"
 #include "support/MainThread.h"
 #include "support/QVAlert.h"
@@ -286,6 +287,46 @@ private Q_SLOTS:
         QCOMPARE(m_presenter->openCount(), 0);
         m_presenter->queueEvent([] { QVAlert::closeAll(); });
         QCOMPARE(ask(nullptr), -1); // closed while the main thread itself waits
+    }
+
+    void aWaitThatCanBeGivenUp()
+    {
+        AlertParent parent;
+        const auto gate = std::make_shared<MainThreadGate>();
+        const auto raise = [&](const std::function<bool()> &isGivenUp) {
+            return [&parent, gate, isGivenUp] {
+                showAlertUntil(text("M"), text("I"), &parent, gate, isGivenUp);
+                return 1;
+            };
+        };
+        {
+            Raised raised(raise({}));
+            QVERIFY(waitUntilShown(1));
+            QVERIFY(!raised.hasReturned());
+            QCOMPARE(m_presenter->shown()[0].parent, &parent);
+            m_presenter->answerOpenAlert(1);
+            QCOMPARE(raised.code(), 1);
+        }
+        {
+            std::atomic<bool> isGivenUp = false;
+            Raised raised(raise([&isGivenUp] { return isGivenUp.load(); }));
+            QVERIFY(waitUntilShown(2));
+            isGivenUp = true;
+        } // the main thread waits for it and does nothing else
+        MainThread::drain();
+        QCOMPARE(m_presenter->openCount(), 0);
+        m_presenter->queueAnswer(1);
+        raise({})(); // on the main thread
+        QCOMPARE(m_presenter->shown().size(), std::size_t(3));
+        {
+            Raised raised(raise({}));
+            QVERIFY(waitUntilShown(4));
+            gate->close();
+        }
+        MainThread::drain();
+        QCOMPARE(m_presenter->openCount(), 0);
+        raise({})(); // not shown any more
+        QCOMPARE(m_presenter->shown().size(), std::size_t(4));
     }
 
     void alertThatCannotBeShownAnswersAtOnce()

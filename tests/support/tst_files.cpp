@@ -2,6 +2,7 @@
 
 #include "support/FileUtilities.h"
 #include "support/StandardFolders.h"
+#include "support/TransientFile.h"
 
 #include <QtTest>
 
@@ -193,6 +194,30 @@ private Q_SLOTS:
         for (const QString &file : existing)
             home.addFile(file, "");
         QCOMPARE(FileUtilities::uniqueFilePath(home.path(name)), home.path(expected));
+    }
+
+    void filesForAWhile()
+    {
+        const TemporaryHome home;
+        const QString path = home.path(QStringLiteral("while/A.txt"));
+        QVERIFY(TransientFile::make(path).message().contains(QStringLiteral("while/A.txt")));
+        QDir().mkpath(home.path(QStringLiteral("while")));
+        QString second;
+        {
+            const auto one = TransientFile::make(path);
+            const auto two = TransientFile::make(path);
+            QCOMPARE(one.value().path(), path);
+            second = two.value().path();
+            QCOMPARE(second, home.path(QStringLiteral("while/A 2.txt")));
+            QVERIFY(QFile::exists(path) && QFile::exists(second));
+        }
+        QVERIFY(!QFile::exists(path) && !QFile::exists(second));
+        auto gone = TransientFile::make(path);
+        QVERIFY(QFile::remove(path));
+        QVERIFY(!gone.value().remove());
+        // A link to nothing stands in the way without being a file.
+        QVERIFY(QFile::link(home.path(QStringLiteral("nowhere")), path));
+        QVERIFY(!TransientFile::make(path));
     }
 
     void folders()

@@ -106,6 +106,18 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(hasEnded(child), 2000);
     }
 
+    void isGivenUpOnRequest()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        int looks = 0;
+        const auto result =
+            TaskRunner::run(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("sleep 60")},
+                            60000, {}, [&looks] { return ++looks > 3; });
+        QVERIFY(result.message().contains(QStringLiteral("given up")));
+        QVERIFY(timer.elapsed() < 20000);
+    }
+
     void runsOnManyThreadsAtOnce()
     {
         std::atomic<int> right = 0;
