@@ -1,6 +1,6 @@
 #include "app/Troubleshooting.h"
 
-#include "document/widgets/DocumentDisposal.h"
+#include "support/BackgroundWork.h"
 #include "support/FileUtilities.h"
 #include "support/MainThread.h"
 #include "support/QVAlert.h"
@@ -101,7 +101,7 @@ void gatherLogsForAppWithName(const QString &name, const QString &folder, QObjec
                               const std::function<void(const Result<QString> &)> &ended)
 {
     const QPointer<QObject> guard(context);
-    DocumentDisposal::runBeside([name, folder, guard, ended] {
+    BackgroundWork::run([name, folder, guard, ended] {
         const auto result = std::make_shared<Result<QString>>(Failure{text("The logs cannot be read.")});
         guarded("gatherLogsForAppWithName", [&] { *result = archive(name, folder); });
         MainThread::post([guard, ended, result] {

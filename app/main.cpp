@@ -1,6 +1,6 @@
 #include "app/AppController.h"
 #include "app/Application.h"
-#include "document/widgets/DocumentDisposal.h"
+#include "support/BackgroundWork.h"
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
 
@@ -89,7 +89,7 @@ int main(int argc, char **argv)
 
     const int status = run(application);
     // Taking a large project apart is no reason to keep the process.
-    if (!vantrell::DocumentDisposal::waitForAll(patienceAtEnd)) {
+    if (!vantrell::BackgroundWork::waitForAll(patienceAtEnd)) {
         vantrell::QVLog::willTerminate();
         std::_Exit(status);
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <memory>
 
 namespace vantrell
@@ -19,14 +17,6 @@ public:
     /// Takes a document that nobody uses any more but its own workers. `world` is what they may still ask
     /// for, the document's interface foremost; it is let go on the main thread, after the document.
     static void dispose(std::unique_ptr<Workbench> workbench, std::shared_ptr<void> world);
-
-    /// Runs `work` on a thread of its own that nobody waits for but waitForAll(): it holds nothing of a
-    /// document, and what it hands to the main thread looks whether somebody still wants it.
-    static void runBeside(std::function<void()> work);
-
-    /// Waits until nothing is left of the documents disposed of so far and of the work beside them; false
-    /// when that takes longer.
-    static bool waitForAll(std::chrono::milliseconds limit);
 };
 
 } // namespace vantrell

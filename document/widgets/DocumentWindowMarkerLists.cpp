@@ -2,12 +2,12 @@
 
 #include "document/widgets/DocumentWindow.h"
 
-#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/MarkerListImport.h"
 #include "document/widgets/MarkerListPanels.h"
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
+#include "support/BackgroundWork.h"
 #include "support/FileUtilities.h"
 #include "workbench/Workbench.h"
 
@@ -119,7 +119,7 @@ void DocumentWindow::exportMarkerList(const QString &path, const QString &format
     });
     m_givesUpForClosing = true;
     const auto gate = m_workbench->document().mainThread();
-    DocumentDisposal::runBeside([this, gate, isWaited, path, format, count, list] {
+    BackgroundWork::run([this, gate, isWaited, path, format, count, list] {
         const Result<void> written = FileUtilities::writeAtomically(path, list);
         gate->post([this, isWaited, path, format, count, written] {
             if (*isWaited)

@@ -1,7 +1,7 @@
 #include "document/widgets/MarkerListImport.h"
 
 #include "document/TableUpdates.h"
-#include "document/widgets/DocumentDisposal.h"
+#include "support/BackgroundWork.h"
 #include "support/QVException.h"
 
 #include <QPointer>
@@ -39,7 +39,7 @@ MarkerListImport::~MarkerListImport()
 void MarkerListImport::start()
 {
     const auto gate = m_document.mainThread();
-    DocumentDisposal::runBeside([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
+    BackgroundWork::run([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
         auto rows = std::make_shared<RowList>();
         guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
                 [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });

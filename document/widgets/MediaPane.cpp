@@ -1,11 +1,11 @@
 #include "document/widgets/MediaPane.h"
 
-#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/MediaTableModel.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableIcons.h"
 #include "media/MediaFile.h"
 #include "media/widgets/QVGraphView.h"
+#include "support/BackgroundWork.h"
 #include "support/MainThread.h"
 #include "workbench/Workbench.h"
 
@@ -93,7 +93,7 @@ void MediaPane::makeFooter()
 void MediaPane::prepareToShow()
 {
     // A volume that does not answer must not hold up the window.
-    DocumentDisposal::runBeside([pane = QPointer(this), count = ++m_driveLookups] {
+    BackgroundWork::run([pane = QPointer(this), count = ++m_driveLookups] {
         auto drives = std::make_shared<std::vector<DriveItem>>();
         MediaFilter::populateDrivePopUp(*drives);
         MainThread::post([pane, drives, count] {

@@ -1,10 +1,10 @@
 #include "WindowTest.h"
 
 #include "document/TableUpdates.h"
-#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/QVTableView.h"
 #include "markers/MarkerKeys.h"
+#include "support/BackgroundWork.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
@@ -39,7 +39,7 @@ private Q_SLOTS:
     {
         delete m_window;
         QVAlert::closeAll();
-        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(20)));
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
         QVAlert::setPresenter(nullptr);
         QVLog::willTerminate();
         m_defaults.reset();
@@ -533,7 +533,7 @@ private Q_SLOTS:
         m_window->close();
         QTRY_VERIFY(!m_window);
         QVERIFY(!visibleBox());
-        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(5)));
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(5)));
     }
 
     void closesWhileAnOperationAsks()

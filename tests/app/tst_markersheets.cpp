@@ -1,12 +1,12 @@
 #include "WindowTest.h"
 
-#include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/MarkerFieldsSheet.h"
 #include "document/widgets/MarkerPresetPopUp.h"
 #include "document/widgets/MarkerPresetSheet.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/SheetTable.h"
 #include "markers/MarkerPresets.h"
+#include "support/BackgroundWork.h"
 #include "support/PropertyList.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -103,7 +103,7 @@ private Q_SLOTS:
         delete m_window;
         delete m_other;
         QVAlert::closeAll();
-        QVERIFY(DocumentDisposal::waitForAll(std::chrono::seconds(20)));
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
         QVAlert::setPresenter(nullptr);
         QVLog::willTerminate();
         m_defaults.reset();
