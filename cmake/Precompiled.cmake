@@ -29,11 +29,13 @@ vantrell_precompile(json LIBRARIES Qt6::Core nlohmann_json::nlohmann_json
 if(VANTRELL_WINDOW)
     vantrell_precompile(window LIBRARIES Qt6::Widgets HEADERS ${vantrell_precompiled_window})
 endif()
+# Qt Test's header depends on which modules a program is compiled for, so all tests are for the same ones.
 if(BUILD_TESTING)
-    vantrell_precompile(test LIBRARIES Qt6::Test HEADERS ${vantrell_precompiled_core} <QTest>)
+    vantrell_precompile(test LIBRARIES Qt6::Test Qt6::Network HEADERS ${vantrell_precompiled_core} <QTest>)
     set(test_sets test)
     if(VANTRELL_WINDOW)
-        vantrell_precompile(window_test LIBRARIES Qt6::Widgets Qt6::Test HEADERS ${vantrell_precompiled_window} <QTest>)
+        vantrell_precompile(window_test LIBRARIES Qt6::Widgets Qt6::Test Qt6::Network
+            HEADERS ${vantrell_precompiled_window} <QTest>)
         list(APPEND test_sets window_test)
     endif()
     foreach(set ${test_sets})

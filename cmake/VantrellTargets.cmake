@@ -80,7 +80,8 @@ function(vantrell_test folder name)
     vantrell_moc(tst_${name} "${source}" tst_${name}.moc)
     target_compile_options(tst_${name} PRIVATE ${VANTRELL_TEST_OPTIMISATION})
     target_precompile_headers(tst_${name} REUSE_FROM vantrell_precompiled_${set})
-    target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test ${ARG_LIBRARIES})
+    target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test Qt6::Network
+        ${ARG_LIBRARIES})
     add_test(NAME ${folder}/${name} COMMAND tst_${name})
     set_tests_properties(${folder}/${name} PROPERTIES
         TIMEOUT 600
