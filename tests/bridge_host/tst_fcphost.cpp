@@ -333,7 +333,7 @@ private Q_SLOTS:
         const QString first = addProject("films/first.xml");
         const QString second = addProject("second.xml", "<xmeml><sequence id=\"s\"/></xmeml>");
         const QString closed = addProject("closed.xml");
-        Host running = host({first, second, latin("--closed"), closed});
+        Host running = host({latin("--closed"), closed, latin("--closed"), closed, first, second});
         QVERIFY(running.isReady());
         const auto import = [&](std::vector<EventParameter> parameters) {
             EventRecord record = madeEvent(EventCode::ImportXml, std::move(parameters));
