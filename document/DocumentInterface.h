@@ -92,6 +92,9 @@ public:
     /// Every inventory of a loaded project has ended; from now on the tree belongs to the main thread.
     virtual void inventoriesFinished() = 0;
 
+    /// The tree is read to be sent and may not be edited, or may be edited again; see MyDocument::isSaving().
+    virtual void editingAllowedChanged() = 0;
+
     /// The document has changes that were not saved or sent, or has none any more.
     virtual void setEdited(bool edited) = 0;
 };

@@ -3,10 +3,13 @@
 #include "document/MyDocument.h"
 
 #include "support/QVAlert.h"
+#include "support/QVException.h"
 
 #include <QFileInfo>
 
+#include <memory>
 #include <system_error>
+#include <utility>
 
 namespace vantrell
 {
@@ -14,6 +17,7 @@ namespace vantrell
 namespace
 {
 
+const QString notWritten = QStringLiteral("The project could not be written.");
 const QString alreadySaving = QStringLiteral("The project is being saved already.");
 const Failure sentInstead{QStringLiteral("The project is sent to Final Cut Pro instead of being saved.")};
 
@@ -38,23 +42,39 @@ void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
         done(started);
     if (!started || isSent)
         return;
-    m_isSaving = true;
     m_savingCancelled = false;
-    const auto write = [this, path = url.toLocalFile(), done = std::move(done)] {
-        const Result<void> saved = m_xmlDoc->save(path, &m_savingCancelled);
-        const bool isCancelled = !saved && m_savingCancelled;
-        m_mainThread->post([this, done, outcome = isCancelled ? Failure{SaveFailure::cancelled} : saved] {
+    const auto outcome = std::make_shared<Result<void>>(Failure{notWritten});
+    const auto write = [this, outcome, path = url.toLocalFile()] {
+        *outcome = m_xmlDoc->save(path, &m_savingCancelled);
+    };
+    const auto ended = [this, outcome, done = std::move(done)] {
+        if (!*outcome && m_savingCancelled)
+            *outcome = Failure{SaveFailure::cancelled};
+        done(noteSaved(*outcome));
+    };
+    runInBackground(write, ended);
+}
+
+bool MyDocument::runInBackground(std::function<void()> work, std::function<void()> done)
+{
+    if (isSaving())
+        return false;
+    m_isSaving = true;
+    const auto run = [this, work = std::move(work), done = std::move(done)] {
+        guarded("MyDocument::runInBackground", work);
+        m_mainThread->post([this, done] {
             if (m_saver.joinable())
                 m_saver.join();
             m_isSaving = false;
-            done(noteSaved(outcome));
+            done();
         });
     };
     try {
-        m_saver = std::thread(write);
+        m_saver = std::thread(run);
     } catch (const std::system_error &) {
-        write(); // no thread to be had
+        run(); // no thread to be had
     }
+    return true;
 }
 
 /// Starts sending the document in place of saving it; a failure says why not.

@@ -37,6 +37,7 @@ public:
     void endProgress() override {}
     void loadFinished(bool, const QString &, const QString &) override {}
     void inventoriesFinished() override {}
+    void editingAllowedChanged() override {}
     void setEdited(bool) override {}
 
     /// The text that the label was last given; empty before.

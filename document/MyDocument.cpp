@@ -187,12 +187,19 @@ void MyDocument::beginSending()
     m_sending = {m_changeCount, m_modifiedSequenceUUIDs ? m_modifiedSequenceUUIDs->size() : 0};
     m_isReadToBeSent = true;
     m_modifiedSet.clear(); // so that a sequence that is changed again is added again
+    m_interface.editingAllowedChanged();
+}
+
+void MyDocument::endReadingToSend()
+{
+    if (std::exchange(m_isReadToBeSent, false))
+        m_interface.editingAllowedChanged();
 }
 
 void MyDocument::endSending(SendResult result)
 {
     const std::optional<Sending> sent = std::exchange(m_sending, std::nullopt);
-    m_isReadToBeSent = false;
+    endReadingToSend();
     if (!sent)
         return;
     if (result != SendResult::Failed) {

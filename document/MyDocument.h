@@ -119,6 +119,9 @@ public:
                            std::function<void(const Result<void> &)> done);
     /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.
     void cancelWriting() { m_savingCancelled = true; }
+    /// Runs `work` on a thread of its own, while which isSaving() holds, then `done` here; not when the
+    /// document is closed before, which waits for the work. False, and nothing runs, while isSaving().
+    bool runInBackground(std::function<void()> work, std::function<void()> done);
     /// Whether the tree may only be read, for it is being saved, or read to be sent.
     bool isSaving() const { return m_isSaving || m_isReadToBeSent; }
 
@@ -228,7 +231,7 @@ public:
     /// The tree is about to be read to be sent as it is now.
     void beginSending();
     /// It has been read and may be changed again.
-    void endReadingToSend() { m_isReadToBeSent = false; }
+    void endReadingToSend();
     /// What became of the changes that were there when the sending began.
     enum class SendResult {
         Failed,        ///< nothing arrived: they count as before
@@ -298,7 +301,7 @@ private:
     std::atomic<int> m_runningInventories = 0;
     std::thread m_loader;
     std::vector<std::thread> m_inventories; // made by the loader, joined after it
-    std::thread m_saver;
+    std::thread m_saver;                    // what runs in the background
     bool m_isSaving = false;
     std::atomic<bool> m_savingCancelled = false;
 };

@@ -162,6 +162,11 @@ void DocumentWindowInterface::inventoriesFinished()
     Q_EMIT inventoriesEnded();
 }
 
+void DocumentWindowInterface::editingAllowedChanged()
+{
+    Q_EMIT mayEditChanged();
+}
+
 void DocumentWindowInterface::setEdited(bool edited)
 {
     Q_EMIT editedChanged(edited);

@@ -58,11 +58,13 @@ public:
     void endProgress() override;
     void loadFinished(bool loaded, const QString &message, const QString &notice) override;
     void inventoriesFinished() override;
+    void editingAllowedChanged() override;
     void setEdited(bool edited) override;
 
 Q_SIGNALS:
     void loadEnded(bool loaded, const QString &message, const QString &notice);
     void inventoriesEnded();
+    void mayEditChanged();
     void editedChanged(bool edited);
 
 private:
