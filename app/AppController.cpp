@@ -1,12 +1,16 @@
 #include "app/AppController.h"
 
 #include "app/AboutPanel.h"
+#include "app/ApplicationWatch.h"
 #include "app/MainMenu.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
 #include "app/WebPages.h"
+#include "bridge/QVAppleEvents.h"
+#include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
+#include "document/widgets/TableIcons.h"
 #include "support/PropertyList.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -14,6 +18,7 @@
 #include "support/UserDefaults.h"
 #include "support/Workspace.h"
 #include "support/widgets/WindowAlertPresenter.h"
+#include "workbench/Workbench.h"
 
 #include <QApplication>
 #include <QDir>
@@ -64,10 +69,13 @@ AppController::AppController(UserDefaults &defaults)
     m_defaults.registerDefaults(registered);
 
     m_recentFiles = std::make_unique<RecentFiles>(m_defaults);
+    m_finalCutPro = std::make_unique<ApplicationWatch>(QVAppleEvents::finalCutProIdentifier());
     m_startWindow = std::make_unique<StartWindow>(*m_recentFiles);
     new MainMenu(*this, *m_startWindow, nullptr);
     connect(m_startWindow.get(), &StartWindow::openRequested, this, &AppController::openFile);
     connect(m_startWindow.get(), &StartWindow::filesChosen, this, &AppController::openFiles,
+            Qt::QueuedConnection);
+    connect(m_startWindow.get(), &StartWindow::recentFileChosen, this, &AppController::openRecentFile,
             Qt::QueuedConnection);
     connect(m_startWindow.get(), &StartWindow::closed, this, &AppController::quit);
 }
@@ -134,10 +142,44 @@ void AppController::openFiles(const QStringList &paths)
         applicationOpenFile(path);
 }
 
+void AppController::openRecentFile(const QString &path)
+{
+    if (m_recentFiles->isFCPProject(path))
+        openDocument(path, DocumentType::finalCutProProject);
+    else
+        applicationOpenFile(path);
+}
+
+void AppController::openFCPProject()
+{
+    if (m_projectLoader) {
+        m_projectLoader->raise();
+        m_projectLoader->activateWindow();
+        return;
+    }
+    const QVFCPProjectLoader::Services services{[this](const QString &path) { return openProject(path); },
+                                                TableIcons::file};
+    m_projectLoader = QVFCPProjectLoader::showOpenDialog(services, QApplication::activeWindow());
+}
+
+/// What Final Cut Pro holds is one of its projects, whatever the file's name says.
+Result<void> AppController::openProject(const QString &path)
+{
+    if (!openDocument(path, DocumentType::finalCutProProject))
+        return Failure{tr("“%1” could not be opened.").arg(QFileInfo(path).fileName())};
+    return {};
+}
+
 bool AppController::applicationOpenFile(const QString &path)
 {
+    return openDocument(path, Workbench::typeNameForPath(path));
+}
+
+/// The same file may be open twice, once as it is on the disk and once as Final Cut Pro holds it.
+bool AppController::openDocument(const QString &path, const QString &typeName)
+{
     const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
-    if (DocumentWindow *const open = windowOf(absolute)) {
+    if (DocumentWindow *const open = windowOf(absolute, typeName)) {
         open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
         open->show();
         open->raise();
@@ -147,7 +189,7 @@ bool AppController::applicationOpenFile(const QString &path)
     auto *const window = new DocumentWindow(m_defaults);
     m_windows.emplace_back(window);
     new MainMenu(*this, *window, window);
-    connect(window, &DocumentWindow::loaded, m_recentFiles.get(), &RecentFiles::add);
+    connect(window, &DocumentWindow::loaded, this, [this, window] { noteLoaded(*window); });
     connect(window, &DocumentWindow::loadFailed, m_recentFiles.get(), &RecentFiles::forgetIfGone);
     connect(window, &DocumentWindow::filesDropped, this, &AppController::openFiles, Qt::QueuedConnection);
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
@@ -155,13 +197,21 @@ bool AppController::applicationOpenFile(const QString &path)
     placeWindow(*window);
     window->show();
     m_startWindow->hide();
-    return window->open(absolute);
+    return window->open(absolute, typeName);
 }
 
-DocumentWindow *AppController::windowOf(const QString &path) const
+void AppController::noteLoaded(DocumentWindow &window)
 {
+    m_recentFiles->add(window.path(), window.typeName() == DocumentType::finalCutProProject);
+}
+
+DocumentWindow *AppController::windowOf(const QString &path, const QString &typeName) const
+{
+    const bool isProject = typeName == DocumentType::finalCutProProject;
     for (DocumentWindow *const window : documentWindows()) {
-        if (window->path() == path && window->state() != DocumentWindow::State::Failed)
+        const bool isOpenAsProject = window->typeName() == DocumentType::finalCutProProject;
+        if (window->path() == path && isOpenAsProject == isProject &&
+            window->state() != DocumentWindow::State::Failed)
             return window;
     }
     return nullptr;

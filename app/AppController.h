@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Result.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -14,7 +16,9 @@ namespace vantrell
 {
 
 class AboutPanel;
+class ApplicationWatch;
 class DocumentWindow;
+class QVFCPProjectLoader;
 class RecentFiles;
 class StartWindow;
 class UserDefaults;
@@ -42,6 +46,8 @@ public:
     /// that could be tried; what is wrong with the file its window says.
     bool applicationOpenFile(const QString &path);
     void openFiles(const QStringList &paths);
+    /// Opens a file of the list of recent ones as what it was opened as.
+    void openRecentFile(const QString &path);
     /// Performs the start-up action; the program makes no untitled documents, so this is false.
     bool applicationShouldOpenUntitledFile();
 
@@ -51,12 +57,16 @@ public:
     DocumentWindow *currentWindow() const;
     StartWindow &startWindow() const { return *m_startWindow; }
     RecentFiles &recentFiles() const { return *m_recentFiles; }
+    /// Whether Final Cut Pro runs.
+    ApplicationWatch &finalCutPro() const { return *m_finalCutPro; }
     /// Whether quality-control logging is switched on.
     static bool isQCLogging();
 
 public Q_SLOTS:
     /// The open panel.
     void openFile();
+    /// The list of the projects that are open in Final Cut Pro.
+    void openFCPProject();
     void sendToFCP();
     /// Closes every window, with the questions that this takes, and ends the program.
     void quit();
@@ -74,7 +84,10 @@ public Q_SLOTS:
     void gatherLogs();
 
 private:
-    DocumentWindow *windowOf(const QString &path) const;
+    bool openDocument(const QString &path, const QString &typeName);
+    Result<void> openProject(const QString &path);
+    void noteLoaded(DocumentWindow &window);
+    DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
     void placeWindow(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();
@@ -83,10 +96,12 @@ private:
 
     UserDefaults &m_defaults;
     std::unique_ptr<RecentFiles> m_recentFiles;
+    std::unique_ptr<ApplicationWatch> m_finalCutPro;
     std::unique_ptr<StartWindow> m_startWindow;
     std::vector<QPointer<DocumentWindow>> m_windows; // those that close among them
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;
+    QPointer<QVFCPProjectLoader> m_projectLoader;
     bool m_quitting = false;
 };
 

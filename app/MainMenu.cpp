@@ -1,6 +1,7 @@
 #include "app/MainMenu.h"
 
 #include "app/AppController.h"
+#include "app/ApplicationWatch.h"
 #include "app/RecentFiles.h"
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
@@ -14,6 +15,8 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <utility>
 
 namespace vantrell
 {
@@ -46,6 +49,10 @@ MainMenu::MainMenu(AppController &controller, QMainWindow &window, DocumentWindo
     makeHelpMenu();
     connect(&m_controller.recentFiles(), &RecentFiles::changed, this, &MainMenu::fillRecentMenu);
     fillRecentMenu();
+    ApplicationWatch *const finalCutPro = &m_controller.finalCutPro();
+    connect(finalCutPro, &ApplicationWatch::looked, this, &MainMenu::validateOpenFCPProject);
+    connect(m_fileMenu, &QMenu::aboutToShow, finalCutPro, &ApplicationWatch::look);
+    finalCutPro->look();
     if (m_document)
         connect(m_document, &DocumentWindow::menusChanged, this, &MainMenu::validate);
     validate();
@@ -76,7 +83,8 @@ void MainMenu::makeFileMenu()
     add(m_fileMenu, tr("&Open…"), QKeySequence::Open, &m_controller, &AppController::openFile);
     m_recentMenu = m_fileMenu->addMenu(tr("Open &Recent"));
     m_recentMenu->setToolTipsVisible(true);
-    m_openFCPProject = m_fileMenu->addAction(tr("Open &Final Cut Pro Project…"));
+    m_openFCPProject = add(m_fileMenu, tr("Open &Final Cut Pro Project…"), {}, &m_controller,
+                           &AppController::openFCPProject);
     m_fileMenu->addSeparator();
     m_close = add(m_fileMenu, tr("&Close"), QKeySequence::Close, &m_window, &QWidget::close);
     m_save = add(m_fileMenu, tr("&Save"), QKeySequence::Save, m_document, &DocumentWindow::save);
@@ -85,6 +93,8 @@ void MainMenu::makeFileMenu()
     m_revert = add(m_fileMenu, tr("Re&vert to Saved"), {}, m_document, &DocumentWindow::revert);
     m_fileMenu->addSeparator();
     makeMarkerListMenus();
+    m_exportSequences = add(m_fileMenu, tr("Export C&hanged Sequences…"), {}, m_document,
+                            &DocumentWindow::exportChangedSequences);
     m_send = add(m_fileMenu, QString(), {}, m_document, &DocumentWindow::sendToFCP);
     m_fileMenu->addSeparator();
     QAction *const print = m_fileMenu->addAction(tr("&Print…"));
@@ -199,7 +209,7 @@ void MainMenu::fillRecentMenu()
         QAction *const action = m_recentMenu->addAction(title);
         action->setToolTip(path);
         connect(action, &QAction::triggered, &m_controller,
-                [this, path] { m_controller.applicationOpenFile(path); });
+                [this, path] { m_controller.openRecentFile(path); });
     }
     m_recentMenu->setEnabled(!paths.isEmpty());
     m_recentMenu->addSeparator();
@@ -228,22 +238,38 @@ void MainMenu::validate()
 void MainMenu::validateFileMenu()
 {
     const MyDocument *const document = m_document ? m_document->document() : nullptr;
-    m_openFCPProject->setEnabled(false);
-    m_openFCPProject->setToolTip(tr("This version opens project files; the list of the projects that are "
-                                    "open in Final Cut Pro comes with a later one."));
-    apply(validateUserInterfaceItem(DocumentCommand::Save, document), m_save);
-    apply(validateUserInterfaceItem(DocumentCommand::SaveAs, document), m_saveAs);
-    apply(validateUserInterfaceItem(DocumentCommand::Revert, document), m_revert);
-    apply(validateUserInterfaceItem(DocumentCommand::Send, document), m_send);
-    if (document && m_send->isVisible() && !document->canSend()) {
-        m_send->setEnabled(false);
-        m_send->setToolTip(tr("This version cannot send to an editing application yet."));
-    }
+    validateOpenFCPProject();
+    const std::pair<DocumentCommand, QAction *> commands[] = {
+        {DocumentCommand::Save, m_save},
+        {DocumentCommand::SaveAs, m_saveAs},
+        {DocumentCommand::Revert, m_revert},
+        {DocumentCommand::Send, m_send},
+        {DocumentCommand::ExportChangedSequences, m_exportSequences}};
     const bool isBusy = m_document && m_document->isBusy();
-    for (QAction *const action : {m_save, m_saveAs, m_revert, m_send})
+    for (const auto &[command, action] : commands) {
+        apply(validateUserInterfaceItem(command, document, m_controller.finalCutPro().isRunning()), action);
         action->setEnabled(action->isEnabled() && !isBusy);
+    }
+    if (m_document && m_document->isSending()) {
+        m_send->setEnabled(false);
+        m_exportSequences->setEnabled(false);
+    }
+    m_exportSequences->setToolTip(m_exportSequences->isEnabled()
+                                      ? QString()
+                                      : tr("No sequence has been changed since the project was opened."));
     m_importMenu->setEnabled(m_document && !isBusy);
     m_exportMenu->setEnabled(m_document && !isBusy);
+}
+
+void MainMenu::validateOpenFCPProject()
+{
+    apply(validateUserInterfaceItem(DocumentCommand::OpenFCPProject, nullptr,
+                                    m_controller.finalCutPro().isRunning()),
+          m_openFCPProject);
+    m_openFCPProject->setToolTip(
+        m_openFCPProject->isEnabled()
+            ? tr("Choose from the projects that are open in Final Cut Pro")
+            : tr("Final Cut Pro is not running. Start it and open a project in it first."));
 }
 
 } // namespace vantrell

@@ -39,6 +39,7 @@ private:
     void fillSortMenu();
     void validate();
     void validateFileMenu();
+    void validateOpenFCPProject();
 
     AppController &m_controller;
     QMainWindow &m_window;
@@ -56,6 +57,7 @@ private:
     QAction *m_saveAs = nullptr;
     QAction *m_revert = nullptr;
     QAction *m_send = nullptr;
+    QAction *m_exportSequences = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_qcLogging = nullptr;
     QList<QAction *> m_documentActions; // need a document that shows its panes

@@ -11,6 +11,7 @@ namespace
 {
 
 const QString recentFilesKey = QStringLiteral("recentFiles");
+const QString recentProjectsKey = QStringLiteral("recentFCPProjects"); // some of the recent files
 
 } // namespace
 
@@ -18,7 +19,7 @@ RecentFiles::RecentFiles(UserDefaults &defaults)
     : m_defaults(defaults)
 {
     connect(&m_defaults, &UserDefaults::changed, this, [this](const QString &key) {
-        if (key == recentFilesKey)
+        if (key == recentFilesKey || key == recentProjectsKey)
             Q_EMIT changed();
     });
 }
@@ -28,14 +29,40 @@ QStringList RecentFiles::paths() const
     return m_defaults.value(recentFilesKey).toStringList().mid(0, maximum);
 }
 
-void RecentFiles::add(const QString &path)
+QStringList RecentFiles::projects() const
+{
+    return m_defaults.value(recentProjectsKey).toStringList();
+}
+
+bool RecentFiles::isFCPProject(const QString &path) const
+{
+    return projects().contains(path);
+}
+
+void RecentFiles::add(const QString &path, bool isFCPProject)
 {
     QStringList list = paths();
-    if (list.value(0) == path)
-        return;
+    QStringList fetched = projects();
     list.removeAll(path);
     list.prepend(path);
-    m_defaults.setValue(recentFilesKey, PropertyListValue(list.mid(0, maximum)));
+    fetched.removeAll(path);
+    if (isFCPProject)
+        fetched.append(path);
+    store(list.mid(0, maximum), fetched);
+}
+
+/// Each only where it is another than before: every window hears of a change.
+void RecentFiles::store(const QStringList &paths, const QStringList &projects)
+{
+    QStringList listed;
+    for (const QString &path : projects) {
+        if (paths.contains(path))
+            listed.append(path);
+    }
+    if (listed != this->projects())
+        m_defaults.setValue(recentProjectsKey, PropertyListValue(listed));
+    if (paths != this->paths())
+        m_defaults.setValue(recentFilesKey, PropertyListValue(paths));
 }
 
 void RecentFiles::forgetIfGone(const QString &path)
@@ -45,11 +72,12 @@ void RecentFiles::forgetIfGone(const QString &path)
         return;
     QStringList list = paths();
     if (list.removeAll(path) > 0)
-        m_defaults.setValue(recentFilesKey, PropertyListValue(list));
+        store(list, projects());
 }
 
 void RecentFiles::clear()
 {
+    m_defaults.removeValue(recentProjectsKey);
     m_defaults.removeValue(recentFilesKey);
 }
 

@@ -128,7 +128,7 @@ QWidget *StartWindow::makeRecentList()
     connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
         const QString path = item->data(Qt::UserRole).toString();
         if (!path.isEmpty())
-            Q_EMIT filesChosen({path});
+            Q_EMIT recentFileChosen(path);
     });
     auto *const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -142,8 +142,11 @@ void StartWindow::fillRecentList()
     m_list->clear();
     const QIcon icon = themeIcon({QStringLiteral("text-xml")}, QStringLiteral(":/icons/open.svg"));
     for (const QString &path : m_recentFiles.paths()) {
-        auto *const item = new QListWidgetItem(
-            icon, QFileInfo(path).fileName() + QLatin1Char('\n') + shownFolder(path), m_list);
+        const QString folder = m_recentFiles.isFCPProject(path)
+                                   ? tr("%1, in Final Cut Pro").arg(shownFolder(path))
+                                   : shownFolder(path);
+        auto *const item =
+            new QListWidgetItem(icon, QFileInfo(path).fileName() + QLatin1Char('\n') + folder, m_list);
         item->setData(Qt::UserRole, path);
         item->setToolTip(path);
     }

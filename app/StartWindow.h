@@ -22,7 +22,9 @@ public:
 
 Q_SIGNALS:
     void openRequested();
+    /// The user dropped these files, or wants one of the recent ones again.
     void filesChosen(const QStringList &paths);
+    void recentFileChosen(const QString &path);
     void closed();
 
 protected:

@@ -1,7 +1,6 @@
 #include "document/widgets/CommandValidation.h"
 
 #include "document/MyDocument.h"
-#include "support/Workspace.h"
 
 #include <QCoreApplication>
 
@@ -24,13 +23,14 @@ CommandState sendState(const MyDocument *document, bool isProject)
 
 } // namespace
 
-CommandState validateUserInterfaceItem(DocumentCommand command, const MyDocument *document)
+CommandState validateUserInterfaceItem(DocumentCommand command, const MyDocument *document,
+                                       bool isFinalCutProRunning)
 {
     const bool isProject = document && (document->isFCPProject() || document->isPremiereProject());
     CommandState state;
     switch (command) {
     case DocumentCommand::OpenFCPProject:
-        state.isEnabled = Workspace::isRunning(QStringLiteral("com.apple.FinalCutPro"));
+        state.isEnabled = isFinalCutProRunning;
         break;
     case DocumentCommand::Save:
         state.shortcut = isProject ? QKeySequence() : QKeySequence(QKeySequence::Save);
@@ -42,6 +42,9 @@ CommandState validateUserInterfaceItem(DocumentCommand command, const MyDocument
         break;
     case DocumentCommand::Send:
         return sendState(document, isProject);
+    case DocumentCommand::ExportChangedSequences:
+        state.isEnabled = document && !document->modifiedSequenceUUIDs().value_or(QStringList()).isEmpty();
+        break;
     }
     return state;
 }

@@ -178,10 +178,10 @@ QWidget *DocumentWindow::makeFailurePage()
     return page;
 }
 
-bool DocumentWindow::open(const QString &path)
+bool DocumentWindow::open(const QString &path, const QString &typeName)
 {
-    startSession(path);
-    if (!m_workbench->open(path)) {
+    startSession(path, typeName.isNull() ? Workbench::typeNameForPath(path) : typeName);
+    if (!m_workbench->open(path, m_typeName)) {
         showFailure(tr("The file is of no type that can be opened."));
         return false;
     }
@@ -192,8 +192,9 @@ bool DocumentWindow::open(const QString &path)
     return true;
 }
 
-void DocumentWindow::startSession(const QString &path)
+void DocumentWindow::startSession(const QString &path, const QString &typeName)
 {
+    m_typeName = typeName;
     m_interface = std::make_shared<DocumentWindowInterface>(this);
     m_workbench = std::make_unique<Workbench>(*m_interface, Workbench::Inventories::All, &m_defaults);
     m_panes = {new MediaPane(*m_workbench, m_defaults), new EffectsPane(*m_workbench, m_defaults),
@@ -204,6 +205,8 @@ void DocumentWindow::startSession(const QString &path)
     connect(m_interface.get(), &DocumentWindowInterface::loadEnded, this, &DocumentWindow::loadEnded);
     connect(m_interface.get(), &DocumentWindowInterface::inventoriesEnded, this,
             &DocumentWindow::inventoriesEnded);
+    connect(m_interface.get(), &DocumentWindowInterface::mayEditChanged, this,
+            &DocumentWindow::updateEditing);
     connect(m_interface.get(), &DocumentWindowInterface::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
         Q_EMIT menusChanged();
@@ -258,14 +261,19 @@ void DocumentWindow::showFailure(const QString &message)
     m_state = State::Failed;
     m_toolBar->setEnabled(false);
     m_failure->setText(tr("“%1” could not be opened.").arg(QFileInfo(m_path).fileName()));
-    // Without a message the user has been asked for something that is not there.
-    m_failureReason->setText(message.isEmpty()
+    // Without a message the user has been told that there is no Final Cut Pro.
+    m_failureReason->setText(message.isEmpty() || message == LoadFailure::noProject
                                  ? tr("Project files are read by way of Final Cut Pro 7, which gave "
                                       "no project. An XML export of it opens without.")
                                  : message);
     m_content->setCurrentWidget(m_failure->parentWidget());
     Q_EMIT menusChanged();
     Q_EMIT loadFailed(m_path);
+}
+
+bool DocumentWindow::mayEdit() const
+{
+    return m_state == State::Ready && !m_isBusy && !m_workbench->document().isSaving();
 }
 
 void DocumentWindow::updateEditing()
@@ -290,6 +298,7 @@ void DocumentWindow::beginBusy(const QString &text, std::function<void()> cancel
     m_givesUpForClosing = false;
     m_cancelBusy = std::move(cancel);
     m_focusBefore = focusWidget();
+    m_progress->setCancelTitle(QString());
     m_progress->updateProgressLabel(text);
     m_progressDelay->start();
     updateEditing();
@@ -318,7 +327,9 @@ void DocumentWindow::forgetBusiness()
 {
     qDeleteAll(findChildren<MarkerListImport *>());
     m_progressDelay->stop();
-    m_isBusy = m_givesUpForClosing = m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = false;
+    m_isBusy = m_isSending = m_givesUpForClosing = false;
+    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = false;
+    m_noticeBefore.reset();
     m_cancelBusy = nullptr;
 }
 
@@ -348,8 +359,8 @@ void DocumentWindow::cancelProgress()
     if (m_isBusy) {
         const auto cancel = m_cancelBusy;
         cancel();
-    } else if (m_workbench) {
-        m_workbench->document().cancelProgress();
+    } else if (m_isSending) {
+        hideSending();
     }
 }
 
@@ -357,7 +368,11 @@ void DocumentWindow::setPath(const QString &path)
 {
     m_path = path;
     setWindowFilePath(path);
-    setWindowTitle(QFileInfo(path).fileName() + QStringLiteral("[*]"));
+    const QString name = QFileInfo(path).fileName();
+    // The file itself may be open in another window.
+    const bool isFetched = m_typeName == DocumentType::finalCutProProject &&
+                           Workbench::typeNameForPath(path) != DocumentType::finalCutProProject;
+    setWindowTitle(isFetched ? tr("%1[*] in Final Cut Pro").arg(name) : name + QStringLiteral("[*]"));
 }
 
 MyDocument *DocumentWindow::document() const

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QActionGroup;
 class QLabel;
@@ -45,17 +46,22 @@ public:
     explicit DocumentWindow(UserDefaults &defaults);
     ~DocumentWindow() override;
 
-    /// Starts loading the file and shows the media pane; once. False, with the reason in the window, when
-    /// it cannot even be tried.
-    bool open(const QString &path);
+    /// Starts loading the file and shows the media pane; once. It is of that document type, or of the one
+    /// that its name tells when that is null. False, with the reason in the window, when it cannot even be
+    /// tried.
+    bool open(const QString &path, const QString &typeName = QString());
 
-    /// The file that the window stands for.
+    /// The file that the window stands for, and the document type as which it was opened or saved last.
     QString path() const { return m_path; }
+    QString typeName() const { return m_typeName; }
     State state() const { return m_state; }
     /// Whether something long has the project to itself, which nobody may change meanwhile.
     bool isBusy() const { return m_isBusy; }
+    /// Whether the changes are on their way to the editing application; the project may be changed
+    /// meanwhile, and be neither saved nor sent.
+    bool isSending() const { return m_isSending; }
     /// Whether the user may change the project now.
-    bool mayEdit() const { return m_state == State::Ready && !m_isBusy; }
+    bool mayEdit() const;
     /// Whether the window is on its way out: nothing of its document may be used any more.
     bool isClosing() const { return m_closing; }
     /// The document as far as menus go: null until it has loaded, and from the beginning of the end.
@@ -78,7 +84,8 @@ public Q_SLOTS:
     void toolbarEffects();
     void toolbarMarkers();
 
-    /// Writes the document to its file. This goes on beside the window; saved() tells the end of it.
+    /// Writes the document to its file, or sends it when it is a project of an editing application. This
+    /// goes on beside the window; saved() tells the end of it.
     void save();
     /// Asks where to, then writes there; from then on the window stands for that file.
     void saveAs();
@@ -87,7 +94,8 @@ public Q_SLOTS:
     void revert();
     void revertWithoutQuestion();
 
-    /// Hands the changes to the editing application.
+    /// Hands the changes to the editing application. This goes on beside the window; saved() tells the end
+    /// of it.
     void sendToFCP();
 
     void importFCPMarkers();
@@ -95,11 +103,14 @@ public Q_SLOTS:
     void importFCPXMarkers();
     void exportFCPMarkers();
     void exportAvidLocators();
+    /// Asks where to, then writes the changed sequences there as the editing application would get them.
+    void exportChangedSequences();
     /// What the open panel ends with: adds the markers of the files, beside the window; markersImported()
     /// tells the end of it.
     void importMarkerLists(const QStringList &paths, const QString &format);
     /// What the save panel ends with.
     void exportMarkerList(const QString &path, const QString &format);
+    void exportChangedSequencesTo(const QString &path);
 
     /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
     void showMarkerFieldsDialog();
@@ -116,11 +127,13 @@ Q_SIGNALS:
     /// What the menus depend on is another than before.
     void menusChanged();
     void loaded(const QString &path);
-    /// A save is over; why it failed the user has been told.
+    /// A save is over; why it failed the user has been told. A send counts as one: it is over once the user
+    /// has been told the outcome, and has saved when no changes are left.
     void saved(bool isSaved);
     /// An import is over; 0 when it was cancelled or no marker came of it.
     void markersImported(std::size_t count);
     void markersExported(bool isWritten);
+    void changedSequencesExported(bool isWritten);
     void loadFailed(const QString &path);
     /// The user wants these files opened.
     void filesDropped(const QStringList &paths);
@@ -138,7 +151,7 @@ private:
     void makeToolBar();
     void makeContent();
     QWidget *makeFailurePage();
-    void startSession(const QString &path);
+    void startSession(const QString &path, const QString &typeName);
     void endSession();
     void showFailure(const QString &message);
     void loadEnded(bool loaded, const QString &message, const QString &notice);
@@ -152,9 +165,14 @@ private:
     void showProgress();
     void setCancellable(bool cancellable);
     void cancelProgress();
-    void writeEnded(const QString &path, bool isProject, const Result<void> &written);
+    void writeEnded(const QString &path, const Result<void> &written);
     void tellOfFailedSave(const QString &path, const QString &reason);
     void saveEnded(const QString &path, bool isSaved);
+    void closeAfterSave(bool isSaved);
+    bool isProject() const;
+    void hideSending();
+    void sendEnded();
+    void sequencesExported(const QString &path, const Result<void> &written, bool isCancelled);
     void tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths);
     void exportEnded(const QString &path, const QString &format, std::size_t count,
                      const Result<void> &written);
@@ -179,6 +197,7 @@ private:
 
     UserDefaults &m_defaults;
     QString m_path;
+    QString m_typeName;
     State m_state = State::Loading;
     bool m_treeLoaded = false;
     bool m_closing = false;
@@ -195,6 +214,9 @@ private:
     QPointer<QWidget> m_focusBefore;
     QPointer<QWidget> m_focusMeanwhile;
     bool m_revertsWhenUnwound = false;
+
+    bool m_isSending = false;
+    std::optional<QString> m_noticeBefore; // while the notice tells of a hidden send
 
     QToolBar *m_toolBar = nullptr;
     QActionGroup *m_toolBarItems = nullptr;

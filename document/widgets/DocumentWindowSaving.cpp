@@ -35,35 +35,31 @@ void DocumentWindow::save()
 
 void DocumentWindow::saveTo(const QString &path)
 {
+    if (document() && isProject()) {
+        sendToFCP();
+        return;
+    }
     commitEditing();
     MyDocument *const loaded = document();
-    if (!loaded || m_isBusy) {
+    if (!loaded || m_isBusy || m_isSending) {
         saveEnded(path, false);
         return;
     }
-    const bool isProject = loaded->isFCPProject() || loaded->isPremiereProject();
-    const QString type = isProject ? DocumentType::finalCutProProject : DocumentType::finalCutProXMLFile;
     const QPointer self(this);
-    loaded->writeInBackground(QUrl::fromLocalFile(path), type,
-                              [this, path, isProject, self](const Result<void> &written) {
+    loaded->writeInBackground(QUrl::fromLocalFile(path), DocumentType::finalCutProXMLFile,
+                              [this, path, self](const Result<void> &written) {
                                   if (self && !m_closing) // else the user closed it while asked a question
-                                      writeEnded(path, isProject, written);
+                                      writeEnded(path, written);
                               });
     // A question whether to replace a damaged file has been answered by now.
     if (self && !m_closing && loaded->isSaving())
         beginBusy(tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [loaded] { loaded->cancelWriting(); });
 }
 
-void DocumentWindow::writeEnded(const QString &path, bool isProject, const Result<void> &written)
+void DocumentWindow::writeEnded(const QString &path, const Result<void> &written)
 {
     if (m_isBusy)
         endBusy();
-    if (isProject) { // sent instead, which clears the changes when it succeeds
-        if (!m_workbench->document().canSend())
-            tellOfFailedSave(path, tr("This version cannot send to an editing application yet."));
-        saveEnded(path, !m_workbench->document().isEdited());
-        return;
-    }
     if (!written)
         tellOfFailedSave(path, written.message());
     saveEnded(path, written.isOk());
@@ -81,17 +77,23 @@ void DocumentWindow::tellOfFailedSave(const QString &path, const QString &reason
 void DocumentWindow::saveEnded(const QString &path, bool isSaved)
 {
     MyDocument *const loaded = document();
-    if (isSaved && loaded && !loaded->isFCPProject() && !loaded->isPremiereProject()) {
+    if (isSaved && loaded) {
         loaded->setFileURL(QUrl::fromLocalFile(path));
         loaded->clearChangeCount();
         m_notice->setNotice(QString());
+        m_typeName = DocumentType::finalCutProXMLFile;
         setPath(path);
         Q_EMIT this->loaded(path);
     }
     Q_EMIT saved(isSaved);
-    if (!m_closesWhenSaved)
+    closeAfterSave(isSaved);
+}
+
+/// Closes the window when that is what the save was for.
+void DocumentWindow::closeAfterSave(bool isSaved)
+{
+    if (!std::exchange(m_closesWhenSaved, false))
         return;
-    m_closesWhenSaved = false;
     if (isSaved)
         shutDown();
     else
@@ -158,21 +160,10 @@ void DocumentWindow::revertWithoutQuestion()
         }
         const Tab tab = selectedTab();
         endSession();
-        open(m_path);
+        open(m_path, m_typeName);
         if (m_state != State::Failed && !m_closing && tab != Tab::Media)
             toolbar(tab);
     });
-}
-
-void DocumentWindow::sendToFCP()
-{
-    commitEditing();
-    MyDocument *const loaded = document();
-    if (!loaded || m_isBusy)
-        return;
-    const Result<void> sent =
-        loaded->writeToURL(QUrl::fromLocalFile(m_path), DocumentType::finalCutProProject);
-    Q_UNUSED(sent) // which tells its outcome itself
 }
 
 void DocumentWindow::closeEvent(QCloseEvent *event)
@@ -204,12 +195,14 @@ void DocumentWindow::askBeforeClosing()
     if (m_asksBeforeClosing)
         return;
     m_asksBeforeClosing = true;
-    const bool isProject = document()->isFCPProject() || document()->isPremiereProject();
+    if (m_isSending)
+        hideSending(); // or the question could not be the window's sheet
     QVAlert::alertSheetWithMessageText(
         tr("Do you want to save the changes made to “%1”?").arg(QFileInfo(m_path).fileName()),
-        isProject ? tr("Send") : tr("Save"), tr("Don’t Save"), tr("Cancel"),
-        tr("Your changes will be lost if you don’t save them."), m_interface->alertParent(), this,
-        closeQuestion, false, nullptr);
+        isProject() ? tr("Send") : tr("Save"), tr("Don’t Save"), tr("Cancel"),
+        m_isSending ? tr("They are being sent. Your changes may be lost if you don’t wait for that.")
+                    : tr("Your changes will be lost if you don’t save them."),
+        m_interface->alertParent(), this, closeQuestion, false, nullptr);
 }
 
 bool DocumentWindow::respondsTo(const QString &selector) const
@@ -230,9 +223,12 @@ void DocumentWindow::perform(const QString &selector, QVAlert *, int code)
 void DocumentWindow::closeQuestionEnded(int code)
 {
     m_asksBeforeClosing = false;
-    if (code == AlertAnswer::Default) {
+    if (code == AlertAnswer::Default && !document()->isEdited()) {
+        shutDown(); // sent while the question stood
+    } else if (code == AlertAnswer::Default) {
         m_closesWhenSaved = true;
-        save();
+        if (!m_isSending)
+            save();
     } else if (code == AlertAnswer::Alternate) {
         shutDown();
     } else {

@@ -18,15 +18,12 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
-#include <QTimer>
 
 namespace vantrell
 {
 
 namespace
 {
-
-constexpr int messageMs = 30000;
 
 /// A sheet that was closed stays until events are dispatched.
 bool isOpen(const QDialog *sheet)
@@ -46,7 +43,6 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_markerPresetPopUp(new MarkerPresetPopUp(this))
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
     , m_status(new QLabel(this))
-    , m_messageTime(new QTimer(this))
 {
     m_filter->addItem(tr("All Colors"));
     for (int i = 0; i < markerModel().colorLabels().size(); ++i)
@@ -65,12 +61,6 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         {m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_remove, m_offset, nullptr, m_fields});
     footer().addWidget(m_status);
     m_status->setTextFormat(Qt::PlainText);
-    m_messageTime->setSingleShot(true);
-    m_messageTime->setInterval(messageMs);
-    connect(m_messageTime, &QTimer::timeout, this, [this] {
-        m_message.clear();
-        updateControls();
-    });
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         table().commitEditing();
@@ -146,10 +136,9 @@ void MarkersPane::setMarkerLabels(const QStringList &labels)
         m_filter->setItemText(i + 1, labels[i]);
 }
 
-void MarkersPane::showMessage(const QString &text)
+void MarkersPane::setMessage(const QString &text)
 {
     m_message = text;
-    m_messageTime->start();
     updateControls();
 }
 

@@ -33,9 +33,6 @@ public:
     /// A setting that all documents share changed.
     void applyDefaultsChange(const QString &key);
 
-    /// Shows in the status line, for a while, what was done.
-    void showMessage(const QString &text);
-
 public Q_SLOTS:
     void addMarker();
     /// Removes the selected markers after a question.
@@ -51,6 +48,7 @@ public Q_SLOTS:
 protected:
     void commitEdit(int row, const QString &column, const QString &text) override;
     void columnMoved(const QString &identifier, int index) override;
+    void setMessage(const QString &text) override;
     void updateControls() override;
     QString loadingText(std::size_t found) const override;
     QString emptyText() const override;
@@ -68,7 +66,6 @@ private:
     QPushButton *m_fields;
     QLabel *m_status;
     QString m_message;
-    QTimer *m_messageTime;
     QPointer<QDialog> m_presetSheet;
     QPointer<QDialog> m_fieldsSheet;
 };

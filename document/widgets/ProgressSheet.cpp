@@ -56,6 +56,11 @@ void ProgressSheet::setCancellable(bool cancellable)
     m_cancel->setEnabled(cancellable);
 }
 
+void ProgressSheet::setCancelTitle(const QString &title)
+{
+    m_cancel->setText(title.isNull() ? tr("Cancel") : title);
+}
+
 void ProgressSheet::reject()
 {
     if (m_cancel->isEnabled())

@@ -26,6 +26,8 @@ public:
     void setProgress(std::size_t done, std::size_t total);
     /// Whether the Cancel button can be pressed; it can when the sheet is shown.
     void setCancellable(bool cancellable);
+    /// What the Cancel button says; "Cancel" when it is null.
+    void setCancelTitle(const QString &title);
     void endProgress();
 
 Q_SIGNALS:

@@ -29,6 +29,7 @@ namespace
 {
 
 constexpr int busyInterval = 150; // milliseconds
+constexpr int messageMs = 30000;
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 
@@ -77,6 +78,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_busy(new QProgressBar(this))
     , m_busyText(new QLabel(this))
     , m_busyTimer(new QTimer(this))
+    , m_message(new QLabel(this))
+    , m_messageTime(new QTimer(this))
 {
     m_model->setParent(this);
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
@@ -104,6 +107,10 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_busy->hide();
     m_busyText->hide();
     m_busyTimer->setInterval(busyInterval);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->hide();
+    m_messageTime->setSingleShot(true);
+    m_messageTime->setInterval(messageMs);
 
     auto *top = new QHBoxLayout;
     top->addLayout(m_controls);
@@ -114,6 +121,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     layout->addLayout(top);
     layout->addWidget(m_table, 1);
     layout->addLayout(m_footer);
+    layout->addWidget(m_message);
 
     QHeaderView *header = m_table->horizontalHeader();
     connect(header, &QHeaderView::sectionClicked, this, &TabPane::clickHeader);
@@ -122,6 +130,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
             &TabPane::noteSelectionChange);
     connect(m_table, &QVTableView::copyRequested, this, &TabPane::copySelection);
     connect(m_busyTimer, &QTimer::timeout, this, &TabPane::updateBusy);
+    connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
@@ -394,6 +403,18 @@ void TabPane::setEditingEnabled(bool enabled)
     m_editingEnabled = enabled;
     m_model->setEditingEnabled(enabled);
     updateControls();
+}
+
+void TabPane::showMessage(const QString &text)
+{
+    setMessage(text);
+    m_messageTime->start();
+}
+
+void TabPane::setMessage(const QString &text)
+{
+    m_message->setText(text.isEmpty() ? text : text + QLatin1Char('.'));
+    m_message->setVisible(!text.isEmpty());
 }
 
 void TabPane::addControls(std::initializer_list<QWidget *> controls)

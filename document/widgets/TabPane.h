@@ -82,6 +82,9 @@ public:
     /// Whether the project may be changed; false until all its inventories are there.
     virtual void setEditingEnabled(bool enabled);
 
+    /// Shows below the table, for a while, what was done.
+    void showMessage(const QString &text);
+
     /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout". They are restored
     /// by the constructor.
     void saveLayout();
@@ -117,6 +120,9 @@ protected:
     virtual void commitEdit(int row, const QString &column, const QString &text);
     /// The user moved a column; the index is its new place.
     virtual void columnMoved(const QString &, int) {}
+    /// What showMessage() shows, for a pane with a line of text of its own; empty once it has stood long
+    /// enough.
+    virtual void setMessage(const QString &text);
     /// The selection or the rows changed.
     virtual void updateControls() {}
     /// What stands in a table without rows: while all is read, and when the list is empty.
@@ -145,6 +151,8 @@ private:
     QProgressBar *m_busy;
     QLabel *m_busyText;
     QTimer *m_busyTimer;
+    QLabel *m_message;
+    QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
     QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
 

@@ -4,12 +4,16 @@
 #include "document/widgets/TabPane.h"
 #include "document/widgets/TableModel.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -85,6 +89,57 @@ inline void whenAsked(int milliseconds, const std::function<void(QMessageBox *)>
         look(box);
     });
     timer->start(5);
+}
+
+/// The visible open or save panel; null when there is none.
+inline QFileDialog *visiblePanel()
+{
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        auto *const panel = qobject_cast<QFileDialog *>(widget);
+        if (panel && panel->isVisible())
+            return panel;
+    }
+    return nullptr;
+}
+
+/// Ends the visible panel with that path.
+inline void choosePath(const QString &path)
+{
+    QFileDialog *const panel = visiblePanel();
+    panel->selectFile(path);
+    QMetaObject::invokeMethod(panel, "accept");
+}
+
+/// The commands of all menus of the window.
+inline QList<QAction *> actionsOf(const QMainWindow &window)
+{
+    QList<QAction *> actions;
+    for (const QMenu *const menu : window.menuBar()->findChildren<QMenu *>())
+        actions += menu->actions();
+    return actions;
+}
+
+/// The command with that title, in the menu with that title when it is given; null when there is none.
+inline QAction *commandOf(const QMainWindow &window, const QString &title, const QString &menu = QString())
+{
+    for (QAction *const action : actionsOf(window)) {
+        const auto *const parent = qobject_cast<QMenu *>(action->parent());
+        if (!menu.isEmpty() && (!parent || parent->title().remove(QLatin1Char('&')) != menu))
+            continue;
+        if (action->text().remove(QLatin1Char('&')) == title)
+            return action;
+    }
+    return nullptr;
+}
+
+/// Triggers the menu's command; false when it is disabled.
+inline bool trigger(const QMainWindow &window, const QString &title, const QString &menu = QString())
+{
+    QAction *const action = commandOf(window, title, menu);
+    if (!action || !action->isEnabled())
+        return false;
+    action->trigger();
+    return true;
 }
 
 /// Saves, to another place when one is named, and waits for the end of it.

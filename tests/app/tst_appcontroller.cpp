@@ -30,16 +30,6 @@ namespace
 
 const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 
-QFileDialog *visiblePanel()
-{
-    for (QWidget *const widget : QApplication::topLevelWidgets()) {
-        auto *const panel = qobject_cast<QFileDialog *>(widget);
-        if (panel && panel->isVisible())
-            return panel;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class TestAppController : public QObject
@@ -123,7 +113,7 @@ private Q_SLOTS:
         m_controller->performStartupAction(); // as the default says
         QVERIFY(visiblePanel());
         visiblePanel()->close();
-        m_controller->recentFiles().add(m_path);
+        m_controller->recentFiles().add(m_path, false);
         QCOMPARE(contentOf(path + QStringLiteral(".damaged")), QByteArray("<plist><dict><key>oops"));
         QVERIFY(PropertyList::fromFile(path).isOk());
     }
@@ -133,8 +123,8 @@ private Q_SLOTS:
         start();
         RecentFiles &recent = m_controller->recentFiles();
         for (int i = 0; i < 12; ++i)
-            recent.add(QStringLiteral("/p/%1.xml").arg(i));
-        recent.add(QStringLiteral("/p/5.xml"));
+            recent.add(QStringLiteral("/p/%1.xml").arg(i), i % 2 == 1);
+        recent.add(QStringLiteral("/p/5.xml"), false);
         QStringList expected{QStringLiteral("/p/5.xml")};
         for (const int i : {11, 10, 9, 8, 7, 6, 4, 3, 2})
             expected.append(QStringLiteral("/p/%1.xml").arg(i));
@@ -143,6 +133,15 @@ private Q_SLOTS:
                      .value(QStringLiteral("recentFiles"))
                      .toStringList(),
                  expected);
+        // Each is what it was last; those that have left the list are forgotten.
+        QStringList projects;
+        for (int i = 0; i < 12; ++i) {
+            if (recent.isFCPProject(QStringLiteral("/p/%1.xml").arg(i)))
+                projects.append(QString::number(i));
+        }
+        QCOMPARE(projects.join(QLatin1Char(' ')), QStringLiteral("3 7 9 11"));
+        recent.clear();
+        QVERIFY(!recent.isFCPProject(QStringLiteral("/p/3.xml")));
     }
 
     void commandsFollowTheKindOfDocument_data()
@@ -173,19 +172,23 @@ private Q_SLOTS:
         }
         for (const DocumentCommand command :
              {DocumentCommand::Save, DocumentCommand::SaveAs, DocumentCommand::Revert}) {
-            const CommandState state = validateUserInterfaceItem(command, document);
+            const CommandState state = validateUserInterfaceItem(command, document, false);
             QCOMPARE(state.isVisible, savesVisible);
             QCOMPARE(state.isEnabled, savesEnabled);
         }
-        const CommandState save = validateUserInterfaceItem(DocumentCommand::Save, document);
-        const CommandState send = validateUserInterfaceItem(DocumentCommand::Send, document);
+        const CommandState save = validateUserInterfaceItem(DocumentCommand::Save, document, false);
+        const CommandState send = validateUserInterfaceItem(DocumentCommand::Send, document, false);
         QCOMPARE(send.isVisible, sends);
         QCOMPARE(send.isEnabled, sends);
         QTEST(send.title, "title");
         const QKeySequence key(Qt::CTRL | Qt::Key_S);
         QCOMPARE(*save.shortcut, sends ? QKeySequence() : key);
         QCOMPARE(*send.shortcut, sends ? key : QKeySequence());
-        QVERIFY(!validateUserInterfaceItem(DocumentCommand::OpenFCPProject, document).isEnabled);
+        for (const bool isRunning : {false, true}) {
+            QCOMPARE(
+                validateUserInterfaceItem(DocumentCommand::OpenFCPProject, document, isRunning).isEnabled,
+                isRunning);
+        }
     }
 
     void menuCommandsWork()
@@ -240,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(trigger(*window, format, QStringLiteral("Import")));
         QVERIFY(visiblePanel());
         QCOMPARE(visiblePanel()->fileMode(), QFileDialog::ExistingFiles);
-        choose(path);
+        choosePath(path);
         QTRY_COMPARE(window->document()->markerArray().size(), std::size_t(25));
         QCOMPARE(window->document()->markerArray().back()->get(MarkerKey::name), QStringLiteral("Cue"));
         QVERIFY(window->isWindowModified());
@@ -249,7 +252,7 @@ private Q_SLOTS:
         if (exported.isEmpty())
             return;
         QTRY_VERIFY(visiblePanel());
-        choose(m_home->path(QStringLiteral("project/out")));
+        choosePath(m_home->path(QStringLiteral("project/out")));
         QTRY_VERIFY(QFile::exists(m_home->path(QStringLiteral("project/out.txt"))));
         QVERIFY(contentOf(m_home->path(QStringLiteral("project/out.txt"))).endsWith(exported));
         // A folder stands in the file's place.
@@ -358,34 +361,6 @@ private:
         m_controller = std::make_unique<AppController>(*m_defaults);
         if (m_defaults->value(showOpenDialogKey).toInteger() == 1)
             m_controller->startWindow().show();
-    }
-
-    static QList<QAction *> actionsOf(const QMainWindow &window)
-    {
-        QList<QAction *> actions;
-        for (const QMenu *const menu : window.menuBar()->findChildren<QMenu *>())
-            actions += menu->actions();
-        return actions;
-    }
-    /// Triggers the menu's command; false when it is disabled.
-    static bool trigger(const QMainWindow &window, const QString &title, const QString &menu = QString())
-    {
-        for (QAction *const action : actionsOf(window)) {
-            const auto *const parent = qobject_cast<QMenu *>(action->parent());
-            if (!menu.isEmpty() && (!parent || parent->title().remove(QLatin1Char('&')) != menu))
-                continue;
-            if (action->text().remove(QLatin1Char('&')) == title && action->isEnabled()) {
-                action->trigger();
-                return true;
-            }
-        }
-        return false;
-    }
-    static void choose(const QString &path)
-    {
-        QFileDialog *const panel = visiblePanel();
-        panel->selectFile(path);
-        QMetaObject::invokeMethod(panel, "accept");
     }
 
     std::unique_ptr<TemporaryHome> m_home;
