@@ -248,7 +248,7 @@ private Q_SLOTS:
         QTRY_VERIFY(sheet->isVisible());
         Q_EMIT sheet->cancelled();
         QTRY_VERIFY(m_window->mayEdit());
-        QVERIFY(editCell(*m_window, Tab::Markers, 0, text("name"), text("Twice")));
+        QVERIFY(editCell(*m_window, Tab::Markers, rowOf(text("Renamed")), text("name"), text("Twice")));
         m_host->goOn();
         QCOMPARE(answerAlert(), text("Changes successfully sent to Final Cut Pro"));
         QTRY_COMPARE(saved.count(), 1);
@@ -314,10 +314,15 @@ private:
         m_window = m_controller->currentWindow();
         QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, patience);
     }
+    int rowOf(const QString &marker) const
+    {
+        return int(columnTexts(*m_window, Tab::Markers, text("name")).indexOf(marker));
+    }
+    /// Renames a marker of a sequence.
     void change()
     {
         m_window->toolbarMarkers();
-        QVERIFY(editCell(*m_window, Tab::Markers, 0, text("name"), text("Renamed")));
+        QVERIFY(editCell(*m_window, Tab::Markers, rowOf(text("Opening")), text("name"), text("Renamed")));
         QVERIFY(m_window->isWindowModified());
     }
     /// Waits for an alert and presses its button; gives what it said.
