@@ -640,7 +640,8 @@ private Q_SLOTS:
         const QString socketPath = Workspace::eventSocketPath(latin("KeyG"));
         QVERIFY(Workspace::openWithApplication(identifier, a));
         QTRY_VERIFY_WITH_TIMEOUT(Workspace::isRunning(identifier), Patience);
-        QCOMPARE(openProjects(socketPath), QStringList{a});
+        QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), QStringList{a},
+                                  Patience); // it may not listen yet
         QVERIFY(Workspace::openWithApplication(identifier, b));
         QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), (QStringList{a, b}), Patience);
         QCOMPARE(xmlOf(ask(socketPath, madeEvent(EventCode::ExportProjectXml, {project(b)}))), Project);
