@@ -47,6 +47,13 @@ function(vantrell_library folder)
     target_link_libraries(vantrell_${folder} PUBLIC vantrell_common ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
+# vantrell_argument_parser(<source>): a file that includes CLI11's header, whose code takes longer to optimise than
+# to run. Compiled by itself.
+function(vantrell_argument_parser source)
+    set_source_files_properties("${source}" PROPERTIES
+        COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # vantrell_program(<name> SOURCES ... LIBRARIES ...)
 function(vantrell_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
