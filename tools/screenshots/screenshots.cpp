@@ -1,15 +1,18 @@
-// Takes a picture of each tab of a project, each sheet, the start window and a project that cannot be opened,
-// light and dark.
+// Takes a picture of each tab of a project, each sheet, the start window, a project that cannot be opened,
+// and of the way to Final Cut Pro and back, light and dark.
 //
-// usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen
+// usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen, while fcp-host holds the
+// project and takes a moment for each answer
 
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
+#include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
+#include "document/widgets/TableModel.h"
 #include "support/UserDefaults.h"
 #include "workbench/Workbench.h"
 
@@ -24,6 +27,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 using namespace vantrell;
 
@@ -35,6 +39,18 @@ void wait(int milliseconds)
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+/// Waits for what is sure to come.
+void waitFor(const char *what, const std::function<bool()> &isThere)
+{
+    constexpr int interval = 20;
+    constexpr int longest = 60000;
+    for (int waited = 0; !isThere(); waited += interval) {
+        if (waited > longest)
+            qFatal("There is no %s.", what);
+        wait(interval);
+    }
 }
 
 QPalette darkPalette()
@@ -59,9 +75,7 @@ QDialog *visibleSheet(const QWidget &window)
     const auto dialogs = window.findChildren<QDialog *>();
     const auto found = std::find_if(dialogs.begin(), dialogs.end(),
                                     [](const QDialog *dialog) { return dialog->isVisible(); });
-    if (found == dialogs.end())
-        qFatal("The window has no sheet.");
-    return *found;
+    return found == dialogs.end() ? nullptr : *found;
 }
 
 /// Takes one theme's pictures into a folder.
@@ -96,6 +110,7 @@ public:
         m_controller.openFiles({project + QStringLiteral(".missing")});
         take(*m_controller.currentWindow(), "failure");
         m_controller.currentWindow()->close();
+        takeRoundTrip();
         take(m_controller.startWindow(), "start");
         return m_isTaken;
     }
@@ -137,9 +152,39 @@ private:
         progress->endProgress();
     }
 
+    /// A project is fetched from Final Cut Pro, changed and sent back.
+    void takeRoundTrip()
+    {
+        m_controller.openFCPProject();
+        QVFCPProjectLoader *loader = nullptr;
+        for (QWidget *const widget : QApplication::topLevelWidgets())
+            loader = loader ? loader : qobject_cast<QVFCPProjectLoader *>(widget);
+        if (!loader)
+            qFatal("The list of projects has not come up.");
+        waitFor("list of projects", [loader] { return !loader->isReading(); });
+        take(*loader, "fcp-projects");
+        loader->openProject();
+        DocumentWindow &window = *m_controller.currentWindow();
+        waitFor("project", [&window] { return window.state() != DocumentWindow::State::Loading; });
+        window.toolbarMarkers();
+        TableModel &markers = window.pane(Tab::Markers).model();
+        markers.setData(markers.index(16, markers.columnOf(QStringLiteral("name"))),
+                        QStringLiteral("Regrade sky"));
+        window.sendToFCP();
+        const auto *const progress = window.findChild<ProgressSheet *>();
+        waitFor("progress sheet", [progress] { return progress->isVisible(); });
+        take(*window.findChild<ProgressSheet *>(), "sending");
+        waitFor("alert", [&window, progress] { return visibleSheet(window) && !progress->isVisible(); });
+        takeSheet(window, "sent");
+        waitFor("end of the send", [&window] { return !window.isSending(); });
+        window.close();
+    }
+
     void takeSheet(const QWidget &window, const char *name)
     {
         QDialog *const sheet = visibleSheet(window);
+        if (!sheet)
+            qFatal("The window has no sheet.");
         take(*sheet, name);
         sheet->reject();
     }
