@@ -180,6 +180,17 @@ std::optional<QByteArray> storedPath(const QByteArray &reference)
     return registry.path(reference.mid(PathAt, HashSize));
 }
 
+/// The same after a check of who made the reference; nothing for bytes that are none.
+std::optional<QByteArray> checkedPath(const QByteArray &reference)
+{
+    if (reference.size() != fileReferenceSize ||
+        std::memcmp(reference.constData(), Magic.data(), Magic.size()) != 0 ||
+        numberAt<quint32>(reference, UserAt) != quint32(::geteuid()))
+        return {};
+    const auto path = storedPath(reference);
+    return path && path->startsWith('/') ? path : std::nullopt;
+}
+
 } // namespace
 
 std::optional<QByteArray> fileReferenceForPath(const QString &path)
@@ -209,18 +220,20 @@ std::optional<QByteArray> fileReferenceForPath(const QString &path)
 
 std::optional<QString> pathForFileReference(const QByteArray &reference)
 {
-    if (reference.size() != fileReferenceSize ||
-        std::memcmp(reference.constData(), Magic.data(), Magic.size()) != 0 ||
-        numberAt<quint32>(reference, UserAt) != quint32(::geteuid()))
-        return {};
-    const auto path = storedPath(reference);
-    if (!path || !path->startsWith('/'))
+    const auto path = checkedPath(reference);
+    if (!path)
         return {};
     const auto status = regularFile(*path);
     if (!status || numberAt<quint64>(reference, DeviceAt) != quint64(status->st_dev) ||
         numberAt<quint64>(reference, FileNumberAt) != quint64(status->st_ino))
         return {};
     return QFile::decodeName(*path);
+}
+
+std::optional<QString> pathInFileReference(const QByteArray &reference)
+{
+    const auto path = checkedPath(reference);
+    return path ? std::optional(QFile::decodeName(*path)) : std::nullopt;
 }
 
 } // namespace vantrell

@@ -23,4 +23,8 @@ std::optional<QByteArray> fileReferenceForPath(const QString &path);
 /// thread.
 std::optional<QString> pathForFileReference(const QByteArray &reference);
 
+/// The absolute path that the reference was made for, whatever stands there by now. Nothing when another
+/// user made it, and for bytes that are none. Any thread.
+std::optional<QString> pathInFileReference(const QByteArray &reference);
+
 } // namespace vantrell

@@ -1,10 +1,13 @@
 #include "bridge/OutputDocument.h"
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/EditRun.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectOutput.h"
 #include "cli/RecordJson.h"
 #include "support/QVAlert.h"
+
+#include <nlohmann/json.hpp>
 
 #include <QFileInfo>
 
@@ -86,19 +89,19 @@ int edit(const EditOptions &options)
 
 } // namespace
 
-void addEditCommand(CLI::App &program, int &status)
+void addEditCommand(CommandLine &program)
 {
     auto options = std::make_shared<EditOptions>();
-    CLI::App *command = program.add_subcommand("edit", "Change the markers and effects of a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--script", options->script, "The operations, a JSON file; \"-\" is standard input")
-        ->required();
-    command->add_option("-o", options->output, "The project to write; \"-\" is standard output");
-    command->add_option("--output-bin", options->outputBin,
-                        "The document of the changed sequences to write; \"-\" is standard output");
-    command->add_flag("--yes", options->yes, "Answer questions with their default button");
-    command->add_flag("--quiet", options->quiet, "Print no result");
-    command->callback([options, &status] { status = edit(*options); });
+    Subcommand command = program.add("edit", "Change the markers and effects of a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.value("--script", options->script, "The operations, a JSON file; \"-\" is standard input",
+                  Subcommand::Need::Required);
+    command.value("-o", options->output, "The project to write; \"-\" is standard output");
+    command.value("--output-bin", options->outputBin,
+                  "The document of the changed sequences to write; \"-\" is standard output");
+    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--quiet", options->quiet, "Print no result");
+    command.onRun([options] { return edit(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,6 +1,6 @@
 #include "cli/EditRun.h"
 
-#include "cli/Command.h"
+#include "cli/Console.h"
 
 namespace vantrell::cli
 {

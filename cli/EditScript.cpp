@@ -4,6 +4,8 @@
 #include "markers/MarkerColumns.h"
 #include "support/FileUtilities.h"
 
+#include <nlohmann/json.hpp>
+
 #include <QFile>
 
 #include <limits>
@@ -193,7 +195,7 @@ Result<EditOperation> readOperation(const Json &object)
 
 Result<EditScript> readEditScript(const QByteArray &bytes)
 {
-    const Json json = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    const Json json = parseJson(bytes);
     if (json.is_discarded())
         return Failure{QStringLiteral("The script is no JSON.")};
     if (!json.is_array())

@@ -1,11 +1,15 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -29,7 +33,7 @@ struct EffectsOptions {
 const std::vector<std::string> typeNames{"all",          "filter",    "video-filter",
                                          "audio-filter", "generator", "transition"};
 
-QString cellText(const RowRecord &effect, const TableColumn &column)
+QString effectsCellText(const RowRecord &effect, const TableColumn &column)
 {
     const RecordKey key(column.identifier);
     const RecordValue *value = effect.find(key);
@@ -37,10 +41,10 @@ QString cellText(const RowRecord &effect, const TableColumn &column)
         return QString();
     if (key == EffectKey::enabled)
         return effect.get(EffectKey::enabled) != 0 ? QStringLiteral("yes") : QStringLiteral("no");
-    return valueText(*value);
+    return plainText(*value);
 }
 
-QByteArray asTable(const RowList &effects)
+QByteArray effectsAsTable(const RowList &effects)
 {
     QStringList titles;
     for (const TableColumn &column : effectColumns)
@@ -49,13 +53,13 @@ QByteArray asTable(const RowList &effects)
     for (const RowRecordPtr &effect : effects) {
         QStringList cells;
         for (const TableColumn &column : effectColumns)
-            cells.append(cellText(*effect, column));
+            cells.append(effectsCellText(*effect, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(ProjectSession &session)
+QByteArray effectsAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     return toBytes(Json{{"effects", recordsToJson(session.document().rowsOnShow(Tab::Effects), paths)},
@@ -82,28 +86,25 @@ int effects(const EffectsOptions &options)
     view.effectSearch = withoutMark(fromArgument(options.search));
     session.workbench().effectInventory().populateFilteredEffectData();
     const QByteArray output =
-        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Effects));
+        options.json ? effectsAsJson(session) : effectsAsTable(session.document().rowsOnShow(Tab::Effects));
     return print(output) ? Done : Failed;
 }
 
 } // namespace
 
-void addEffectsCommand(CLI::App &program, int &status)
+void addEffectsCommand(CommandLine &program)
 {
     auto options = std::make_shared<EffectsOptions>();
-    CLI::App *command = program.add_subcommand("effects", "List the filters and generators of a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command
-        ->add_option("--type", options->type,
-                     "Only these: all, filter, video-filter, audio-filter, generator or transition")
-        ->check(CLI::IsMember(typeNames));
-    command->add_option("--search", options->search, "Only effects with this text in their name");
-    command->add_flag("--show-defaults", options->showDefaults,
-                      "Also the effects that every clip has, such as Opacity");
-    command->add_option("--sort", options->sort,
-                        "Sort by a column, ID or ID:desc: " + sortChoices(effectColumns));
-    command->add_flag("--json", options->json, "Print one JSON document, with the status text");
-    command->callback([options, &status] { status = effects(*options); });
+    Subcommand command = program.add("effects", "List the filters and generators of a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--type", options->type, typeNames,
+                   "Only these: all, filter, video-filter, audio-filter, generator or transition");
+    command.value("--search", options->search, "Only effects with this text in their name");
+    command.flag("--show-defaults", options->showDefaults,
+                 "Also the effects that every clip has, such as Opacity");
+    command.value("--sort", options->sort, "Sort by a column, ID or ID:desc: " + sortChoices(effectColumns));
+    command.flag("--json", options->json, "Print one JSON document, with the status text");
+    command.onRun([options] { return effects(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/ProjectSession.h"
 
 #include <memory>
@@ -33,17 +34,14 @@ int exportMarkers(const ExportOptions &options)
 
 } // namespace
 
-void addExportCommand(CLI::App &program, int &status)
+void addExportCommand(CommandLine &program)
 {
     auto options = std::make_shared<ExportOptions>();
-    CLI::App *command =
-        program.add_subcommand("export", "Write a project's markers as another system's marker list");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--format", options->format, "fcp or avid")
-        ->required()
-        ->check(CLI::IsMember({"fcp", "avid"}));
-    command->add_option("-o", options->output, "The marker list; standard output unless given or for \"-\"");
-    command->callback([options, &status] { status = exportMarkers(*options); });
+    Subcommand command = program.add("export", "Write a project's markers as another system's marker list");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--format", options->format, {"fcp", "avid"}, "fcp or avid", Subcommand::Need::Required);
+    command.value("-o", options->output, "The marker list; standard output unless given or for \"-\"");
+    command.onRun([options] { return exportMarkers(*options); });
 }
 
 } // namespace vantrell::cli

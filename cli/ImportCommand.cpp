@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/HeadlessAlertPresenter.h"
@@ -39,19 +40,18 @@ int importMarkers(const ImportOptions &options)
 
 } // namespace
 
-void addImportCommand(CLI::App &program, int &status)
+void addImportCommand(CommandLine &program)
 {
     auto options = std::make_shared<ImportOptions>();
-    CLI::App *command =
-        program.add_subcommand("import", "Add the markers of other systems' marker lists to a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("LIST", options->lists, "The marker lists")->required();
-    command->add_option("--format", options->format, "fcp, avid or fcpx")
-        ->required()
-        ->check(CLI::IsMember({"fcp", "avid", "fcpx"}));
-    command->add_option("-o", options->output, "The project to write; \"-\" is standard output")->required();
-    command->add_flag("--yes", options->yes, "Answer questions with their default button");
-    command->callback([options, &status] { status = importMarkers(*options); });
+    Subcommand command = program.add("import", "Add the markers of other systems' marker lists to a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.values("LIST", options->lists, "The marker lists", Subcommand::Need::Required);
+    command.choice("--format", options->format, {"fcp", "avid", "fcpx"}, "fcp, avid or fcpx",
+                   Subcommand::Need::Required);
+    command.value("-o", options->output, "The project to write; \"-\" is standard output",
+                  Subcommand::Need::Required);
+    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.onRun([options] { return importMarkers(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,9 +1,12 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlLocationPaths.h"
+
+#include <nlohmann/json.hpp>
 
 #include <memory>
 
@@ -41,7 +44,7 @@ std::vector<SequenceInfo> collect(MyDocument &document)
     return sequences;
 }
 
-QByteArray asJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequences)
+QByteArray infoAsJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequences)
 {
     Json list = Json::array();
     for (const SequenceInfo &sequence : sequences) {
@@ -60,7 +63,7 @@ QByteArray asJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequenc
     return toBytes(Json{{"xmlType", xmlType}, {"sequences", std::move(list)}});
 }
 
-QByteArray asTable(const std::vector<SequenceInfo> &sequences)
+QByteArray infoAsTable(const std::vector<SequenceInfo> &sequences)
 {
     TextTable table({QStringLiteral("Sequence"), QStringLiteral("Clip"), QStringLiteral("Name"),
                      QStringLiteral("UUID or ID")});
@@ -82,19 +85,19 @@ int info(const InfoOptions &options)
         return Failed;
     const std::vector<SequenceInfo> sequences = collect(session.document());
     const QByteArray output =
-        options.json ? asJson(session.document().xmlType(), sequences) : asTable(sequences);
+        options.json ? infoAsJson(session.document().xmlType(), sequences) : infoAsTable(sequences);
     return print(output) ? Done : Failed;
 }
 
 } // namespace
 
-void addInfoCommand(CLI::App &program, int &status)
+void addInfoCommand(CommandLine &program)
 {
     auto options = std::make_shared<InfoOptions>();
-    CLI::App *command = program.add_subcommand("info", "List the sequences of a project and their clips");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, &status] { status = info(*options); });
+    Subcommand command = program.add("info", "List the sequences of a project and their clips");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options] { return info(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,11 +1,18 @@
 #include "cli/JsonText.h"
 
+#include <nlohmann/json.hpp>
+
 namespace vantrell::cli
 {
 
 std::string jsonText(const QString &text)
 {
     return text.toUtf8().toStdString();
+}
+
+Json parseJson(const QByteArray &text)
+{
+    return Json::parse(text.begin(), text.end(), nullptr, false);
 }
 
 QByteArray toBytes(const Json &json)

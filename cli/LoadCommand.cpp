@@ -1,6 +1,9 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
+
+#include <nlohmann/json.hpp>
 
 #include <memory>
 
@@ -35,14 +38,13 @@ int load(const LoadOptions &options)
 
 } // namespace
 
-void addLoadCommand(CLI::App &program, int &status)
+void addLoadCommand(CommandLine &program)
 {
     auto options = std::make_shared<LoadOptions>();
-    CLI::App *command = program.add_subcommand("load", "Load a project and print what it holds, in numbers");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_flag("--no-inventories", options->noInventories,
-                      "Only parse the file and list its sequences");
-    command->callback([options, &status] { status = load(*options); });
+    Subcommand command = program.add("load", "Load a project and print what it holds, in numbers");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.flag("--no-inventories", options->noInventories, "Only parse the file and list its sequences");
+    command.onRun([options] { return load(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,7 +1,9 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
@@ -26,13 +28,13 @@ struct MarkerListOptions {
     bool json = false;
 };
 
-QByteArray asJson(const RowList &rows)
+QByteArray listAsJson(const RowList &rows)
 {
     XmlLocationPaths paths;
     return toBytes(recordsToJson(rows, paths));
 }
 
-std::vector<RecordKey> columnsOf(const MarkerListOptions &options)
+std::vector<RecordKey> listColumns(const MarkerListOptions &options)
 {
     using namespace ImportedMarkerKey;
     if (options.format == "fcp")
@@ -44,7 +46,7 @@ std::vector<RecordKey> columnsOf(const MarkerListOptions &options)
     return {name, startTimecode};
 }
 
-QByteArray asTable(const RowList &rows, const std::vector<RecordKey> &columns)
+QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &columns)
 {
     QStringList titles;
     for (const RecordKey column : columns)
@@ -54,7 +56,7 @@ QByteArray asTable(const RowList &rows, const std::vector<RecordKey> &columns)
         QStringList cells;
         for (const RecordKey column : columns) {
             const RecordValue *value = row->find(column);
-            cells.append(value ? valueText(*value) : QString());
+            cells.append(value ? plainText(*value) : QString());
         }
         table.addRow(cells);
     }
@@ -99,33 +101,31 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
     const std::optional<RowList> rows = read(fromArgument(options.file), options, qint64(*hour));
     if (!rows)
         return Failed;
-    return print(options.json ? asJson(*rows) : asTable(*rows, columnsOf(options))) ? Done : Failed;
+    return print(options.json ? listAsJson(*rows) : listAsTable(*rows, listColumns(options))) ? Done : Failed;
 }
 
 } // namespace
 
-void addMarkerListCommand(CLI::App &program, int &status)
+void addMarkerListCommand(CommandLine &program)
 {
     auto options = std::make_shared<MarkerListOptions>();
-    CLI::App *command =
-        program.add_subcommand("marker-list", "List the markers of another system's marker list file");
-    command->add_option("LIST", options->file, "The marker list")->required();
-    command->add_option("--format", options->format, "fcp, avid or fcpx")
-        ->required()
-        ->check(CLI::IsMember({"fcp", "avid", "fcpx"}));
-    const std::vector<const CLI::Option *> ofFcpx = {
-        command->add_flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)"),
-        command->add_flag("--strip-duplicates", options->stripDuplicates,
-                          "Only the first of the markers at one place (fcpx)"),
-        command->add_flag("--all-storylines", options->allStorylines,
-                          "Connected clips and secondary storylines too (fcpx)"),
-        command->add_option("--relative-hour", options->relativeHour,
-                            "The hour that becomes 0; lower ones are raised by it (fcpx)")};
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, ofFcpx, &status] {
-        const bool hasOptionsOfFcpx = std::any_of(
-            ofFcpx.begin(), ofFcpx.end(), [](const CLI::Option *option) { return option->count() > 0; });
-        status = markerList(*options, hasOptionsOfFcpx);
+    Subcommand command = program.add("marker-list", "List the markers of another system's marker list file");
+    command.value("LIST", options->file, "The marker list", Subcommand::Need::Required);
+    command.choice("--format", options->format, {"fcp", "avid", "fcpx"}, "fcp, avid or fcpx",
+                   Subcommand::Need::Required);
+    command.flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)");
+    command.flag("--strip-duplicates", options->stripDuplicates,
+                 "Only the first of the markers at one place (fcpx)");
+    command.flag("--all-storylines", options->allStorylines,
+                 "Connected clips and secondary storylines too (fcpx)");
+    command.value("--relative-hour", options->relativeHour,
+                  "The hour that becomes 0; lower ones are raised by it (fcpx)");
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options, command] {
+        const bool hasOptionsOfFcpx = command.isGiven("--seconds") || command.isGiven("--strip-duplicates") ||
+                                      command.isGiven("--all-storylines") ||
+                                      command.isGiven("--relative-hour");
+        return markerList(*options, hasOptionsOfFcpx);
     });
 }
 

@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
@@ -7,6 +8,8 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
+
+#include <nlohmann/json.hpp>
 
 #include <memory>
 #include <unordered_set>
@@ -37,7 +40,7 @@ QString yesOrEmpty(const RowRecord &marker, TypedKey<std::int64_t> flag)
     return marker.get(flag) == 1 ? QStringLiteral("yes") : QString();
 }
 
-QString cellText(const RowRecord &marker, RecordKey key)
+QString markersCellText(const RowRecord &marker, RecordKey key)
 {
     if (key == MarkerKey::color) {
         const std::int64_t color = marker.get(MarkerKey::color);
@@ -75,7 +78,7 @@ QStringList customFieldsOf(const RowList &markers)
     return fields;
 }
 
-QByteArray asTable(const RowList &markers)
+QByteArray markersAsTable(const RowList &markers)
 {
     std::vector<RecordKey> columns;
     QStringList titles;
@@ -91,13 +94,13 @@ QByteArray asTable(const RowList &markers)
     for (const RowRecordPtr &marker : markers) {
         QStringList cells;
         for (const RecordKey column : columns)
-            cells.append(cellText(*marker, column));
+            cells.append(markersCellText(*marker, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(const RowList &markers)
+QByteArray markersAsJson(const RowList &markers)
 {
     XmlLocationPaths paths;
     Json list = Json::array();
@@ -135,25 +138,25 @@ int markers(const MarkersOptions &options)
     view.markerFilter = color ? *color + 1 : 0;
     session.workbench().markerInventory().populateFilteredMarkerData();
     const RowList &rows = session.document().rowsOnShow(Tab::Markers);
-    return print(options.json ? asJson(rows) : asTable(rows)) ? Done : Failed;
+    return print(options.json ? markersAsJson(rows) : markersAsTable(rows)) ? Done : Failed;
 }
 
 } // namespace
 
-void addMarkersCommand(CLI::App &program, int &status)
+void addMarkersCommand(CommandLine &program)
 {
     auto options = std::make_shared<MarkersOptions>();
-    CLI::App *command = program.add_subcommand("markers", "List the markers of a project");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--color", options->color,
-                        "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
-                        "pink, or 0 to 7");
-    command->add_option("--sort", options->sort,
-                        "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
-                        "come in document order. Columns: " +
-                            sortChoices(markerColumns) + ", QVCUSTOM_...");
-    command->add_flag("--json", options->json, "Print one JSON document");
-    command->callback([options, &status] { status = markers(*options); });
+    Subcommand command = program.add("markers", "List the markers of a project");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.value("--color", options->color,
+                  "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
+                  "pink, or 0 to 7");
+    command.value("--sort", options->sort,
+                  "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
+                  "come in document order. Columns: " +
+                      sortChoices(markerColumns) + ", QVCUSTOM_...");
+    command.flag("--json", options->json, "Print one JSON document");
+    command.onRun([options] { return markers(*options); });
 }
 
 } // namespace vantrell::cli

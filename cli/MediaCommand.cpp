@@ -1,12 +1,16 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
+#include "document/RecordText.h"
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+
+#include <nlohmann/json.hpp>
 
 #include <array>
 #include <memory>
@@ -44,7 +48,7 @@ QString driveOf(const std::string &argument)
     return drive.isEmpty() ? QString() : drive;
 }
 
-QString cellText(const RowRecord &file, const TableColumn &column)
+QString mediaCellText(const RowRecord &file, const TableColumn &column)
 {
     const RecordKey key(column.identifier);
     const RecordValue *value = file.find(key);
@@ -54,10 +58,10 @@ QString cellText(const RowRecord &file, const TableColumn &column)
         return MediaFile::formatFileSize(double(file.get(MediaKey::filesize)));
     if (key == MediaKey::missing)
         return QStringLiteral("missing");
-    return valueText(*value);
+    return plainText(*value);
 }
 
-QByteArray asTable(const RowList &files)
+QByteArray mediaAsTable(const RowList &files)
 {
     QStringList titles;
     for (const TableColumn &column : mediaColumns)
@@ -66,13 +70,13 @@ QByteArray asTable(const RowList &files)
     for (const RowRecordPtr &file : files) {
         QStringList cells;
         for (const TableColumn &column : mediaColumns)
-            cells.append(cellText(*file, column));
+            cells.append(mediaCellText(*file, column));
         table.addRow(cells);
     }
     return table.toBytes();
 }
 
-QByteArray asJson(ProjectSession &session)
+QByteArray mediaAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     Json texts = Json::array();
@@ -102,25 +106,24 @@ int media(const MediaOptions &options)
     view.mediaDrive = driveOf(options.drive);
     session.workbench().mediaFilter().populateFilteredMediaData();
     const QByteArray output =
-        options.json ? asJson(session) : asTable(session.document().rowsOnShow(Tab::Media));
+        options.json ? mediaAsJson(session) : mediaAsTable(session.document().rowsOnShow(Tab::Media));
     return print(output) ? Done : Failed;
 }
 
 } // namespace
 
-void addMediaCommand(CLI::App &program, int &status)
+void addMediaCommand(CommandLine &program)
 {
     auto options = std::make_shared<MediaOptions>();
-    CLI::App *command = program.add_subcommand("media", "List the media files that the clips use");
-    command->add_option("FILE", options->file, "The project")->required();
-    command->add_option("--kind", options->kind, "Only files of this kind: movie, audio or image")
-        ->check(CLI::IsMember({"movie", "audio", "image"}));
-    command->add_option("--drive", options->drive,
-                        "Only files below this folder; / stands for all that is on no mounted volume");
-    command->add_option("--sort", options->sort,
-                        "Sort by a column, ID or ID:desc: " + sortChoices(mediaColumns));
-    command->add_flag("--json", options->json, "Print one JSON document, with statistics and label texts");
-    command->callback([options, &status] { status = media(*options); });
+    Subcommand command = program.add("media", "List the media files that the clips use");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--kind", options->kind, {"movie", "audio", "image"},
+                   "Only files of this kind: movie, audio or image");
+    command.value("--drive", options->drive,
+                  "Only files below this folder; / stands for all that is on no mounted volume");
+    command.value("--sort", options->sort, "Sort by a column, ID or ID:desc: " + sortChoices(mediaColumns));
+    command.flag("--json", options->json, "Print one JSON document, with statistics and label texts");
+    command.onRun([options] { return media(*options); });
 }
 
 } // namespace vantrell::cli

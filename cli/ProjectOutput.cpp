@@ -1,6 +1,6 @@
 #include "cli/ProjectOutput.h"
 
-#include "cli/Command.h"
+#include "cli/Console.h"
 
 #include <QFile>
 

@@ -1,15 +1,14 @@
 #include "cli/RecordJson.h"
 
+#include "document/RecordText.h"
+
+#include <nlohmann/json.hpp>
+
 namespace vantrell::cli
 {
 
 namespace
 {
-
-QString dateText(const QDateTime &date)
-{
-    return date.toUTC().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")) + QLatin1Char('Z');
-}
 
 struct ToJson {
     XmlLocationPaths &paths;
@@ -18,21 +17,12 @@ struct ToJson {
     Json operator()(double number) const { return number; }
     Json operator()(bool flag) const { return flag; }
     Json operator()(const QString &text) const { return jsonText(text); }
-    Json operator()(const QDateTime &date) const { return jsonText(dateText(date)); }
+    Json operator()(const QDateTime &date) const { return jsonText(isoText(date)); }
     Json operator()(XmlNode node) const
     {
         const QString path = paths.pathOf(node);
         return path.isNull() ? Json() : Json(jsonText(path));
     }
-};
-
-struct ToText {
-    QString operator()(std::int64_t integer) const { return QString::number(integer); }
-    QString operator()(double number) const { return QString::number(number); }
-    QString operator()(bool flag) const { return flag ? QStringLiteral("1") : QStringLiteral("0"); }
-    QString operator()(const QString &text) const { return text; }
-    QString operator()(const QDateTime &date) const { return dateText(date); }
-    QString operator()(XmlNode node) const { return node.locationPath(); }
 };
 
 } // namespace
@@ -52,11 +42,6 @@ Json recordsToJson(const RowList &records, XmlLocationPaths &paths)
     for (const RowRecordPtr &record : records)
         list.push_back(recordToJson(*record, paths));
     return list;
-}
-
-QString valueText(const RecordValue &value)
-{
-    return std::visit(ToText(), value);
 }
 
 } // namespace vantrell::cli

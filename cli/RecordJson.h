@@ -12,7 +12,4 @@ namespace vantrell::cli
 Json recordToJson(const RowRecord &record, XmlLocationPaths &paths);
 Json recordsToJson(const RowList &records, XmlLocationPaths &paths);
 
-/// The text that a table shows for a value without a form of its own.
-QString valueText(const RecordValue &value);
-
 } // namespace vantrell::cli

@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/EditRun.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
@@ -63,17 +64,17 @@ int send(const SendOptions &options)
 
 } // namespace
 
-void addSendCommand(CLI::App &program, int &status)
+void addSendCommand(CommandLine &program)
 {
     auto options = std::make_shared<SendOptions>();
-    CLI::App *command =
-        program.add_subcommand("send", "Send the changes of a project to its editing application");
-    command->add_option("FILE", options->file, "The project; it may be open in the application")->required();
-    command->add_option("--script", options->script,
-                        "Operations to apply first, a JSON file; \"-\" is standard input");
-    command->add_flag("--premiere", options->toPremiere, "Send the whole project to Premiere Pro");
-    command->add_flag("--yes", options->yes, "Answer questions with their default button");
-    command->callback([options, &status] { status = send(*options); });
+    Subcommand command = program.add("send", "Send the changes of a project to its editing application");
+    command.value("FILE", options->file, "The project; it may be open in the application",
+                  Subcommand::Need::Required);
+    command.value("--script", options->script,
+                  "Operations to apply first, a JSON file; \"-\" is standard input");
+    command.flag("--premiere", options->toPremiere, "Send the whole project to Premiere Pro");
+    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.onRun([options] { return send(*options); });
 }
 
 } // namespace vantrell::cli

@@ -1,6 +1,6 @@
 #include "cli/SortOption.h"
 
-#include "cli/Command.h"
+#include "cli/Console.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-#include "cli/Command.h"
-
+#include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Numbers.h"
 #include "timecode/QVTimecode.h"
 
@@ -124,50 +124,38 @@ struct Operation {
     Printer printer;
 };
 
-void addOperation(CLI::App &timecode, const Operation &operation, int &status)
+void addOperation(Subcommand &timecode, const Operation &operation)
 {
     auto options = std::make_shared<TimecodeOptions>();
-    CLI::App *command = timecode.add_subcommand(operation.name, operation.description);
-    command->add_option(operation.valueName, options->values,
-                        "Values; read from standard input when none is given");
+    Subcommand command = timecode.add(operation.name, operation.description);
+    command.values(operation.valueName, options->values,
+                   "Values; read from standard input when none is given");
     if (operation.counts) {
-        command->add_option("--timebase", options->timebase, "Frames per second, 30 unless given");
-        command->add_flag("--ntsc", options->ntsc, "The real rate is timebase x 1000/1001");
+        command.value("--timebase", options->timebase, "Frames per second, 30 unless given");
+        command.flag("--ntsc", options->ntsc, "The real rate is timebase x 1000/1001");
     }
-    command->add_flag("--drop-frame", options->dropFrame, "Count in drop frame");
+    command.flag("--drop-frame", options->dropFrame, "Count in drop frame");
     if (operation.startHelp)
-        command->add_option("--start", options->start, operation.startHelp);
-    command->callback([options, operation, &status] {
-        status = run(*options, operation.startIsTimecode, operation.printer);
-    });
+        command.value("--start", options->start, operation.startHelp);
+    command.onRun(
+        [options, operation] { return run(*options, operation.startIsTimecode, operation.printer); });
 }
 
 } // namespace
 
-void addTimecodeCommand(CLI::App &program, int &status)
+void addTimecodeCommand(CommandLine &program)
 {
-    CLI::App *timecode = program.add_subcommand("timecode", "Convert and calculate timecodes");
-    timecode->require_subcommand(1);
-    addOperation(*timecode,
-                 {"format", "Frame counts to timecodes", "FRAMES", true, "Frame number of the first frame",
-                  false, formatFrames},
-                 status);
-    addOperation(*timecode,
-                 {"parse", "Timecodes to frame counts", "TC", true, "Frame number of the first frame", false,
-                  parseTimecodes},
-                 status);
-    addOperation(*timecode,
-                 {"expand", "Expand what users type into timecode fields", "TEXT", false,
-                  "Timecode whose right-hand end is replaced", true, expandTexts},
-                 status);
-    addOperation(
-        *timecode,
-        {"add", "The sum of two timecodes", "TC", true, nullptr, false, combining(&QVTimecode::addTimecode)},
-        status);
-    addOperation(*timecode,
-                 {"subtract", "The second timecode minus the first", "TC", true, nullptr, false,
-                  combining(&QVTimecode::subtractTimecode)},
-                 status);
+    Subcommand timecode = program.add("timecode", "Convert and calculate timecodes");
+    addOperation(timecode, {"format", "Frame counts to timecodes", "FRAMES", true,
+                            "Frame number of the first frame", false, formatFrames});
+    addOperation(timecode, {"parse", "Timecodes to frame counts", "TC", true,
+                            "Frame number of the first frame", false, parseTimecodes});
+    addOperation(timecode, {"expand", "Expand what users type into timecode fields", "TEXT", false,
+                            "Timecode whose right-hand end is replaced", true, expandTexts});
+    addOperation(timecode, {"add", "The sum of two timecodes", "TC", true, nullptr, false,
+                            combining(&QVTimecode::addTimecode)});
+    addOperation(timecode, {"subtract", "The second timecode minus the first", "TC", true, nullptr, false,
+                            combining(&QVTimecode::subtractTimecode)});
 }
 
 } // namespace vantrell::cli

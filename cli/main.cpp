@@ -1,4 +1,4 @@
-#include "cli/Command.h"
+#include "cli/Commands.h"
 #include "cli/Numbers.h"
 #include "support/HeadlessAlertPresenter.h"
 #include "support/QVAlert.h"
@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
+#include <memory>
 
 namespace
 {
@@ -17,32 +17,21 @@ using namespace vantrell;
 
 int runProgram(int argc, char **argv)
 {
-    CLI::App program("Media, effects and markers of an editing project", "vantrell-cli");
-    program.set_version_flag("--version", "vantrell-cli " VANTRELL_VERSION);
-    program.require_subcommand(1);
-    int status = cli::Done;
-    cli::addLoadCommand(program, status);
-    cli::addInfoCommand(program, status);
-    cli::addMediaCommand(program, status);
-    cli::addEffectsCommand(program, status);
-    cli::addMarkerListCommand(program, status);
-    cli::addExportCommand(program, status);
-    cli::addImportCommand(program, status);
-    cli::addMarkersCommand(program, status);
-    cli::addEditCommand(program, status);
-    cli::addSendCommand(program, status);
-    cli::addTimecodeCommand(program, status);
-    try {
-        std::vector<std::string> arguments = cli::markNegativeValues({argv + 1, argv + argc});
-        std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
-        program.parse(arguments);
-    } catch (const CLI::ParseError &error) {
-        return program.exit(error) == 0 ? cli::Done : cli::WrongUsage;
-    } catch (const std::exception &error) {
-        cli::complain(QString::fromLocal8Bit(error.what()));
-        return cli::Failed;
-    }
-    return status;
+    cli::CommandLine program("Media, effects and markers of an editing project", "vantrell-cli",
+                             VANTRELL_VERSION);
+    cli::addLoadCommand(program);
+    cli::addInfoCommand(program);
+    cli::addMediaCommand(program);
+    cli::addEffectsCommand(program);
+    cli::addMarkerListCommand(program);
+    cli::addExportCommand(program);
+    cli::addImportCommand(program);
+    cli::addMarkersCommand(program);
+    cli::addEditCommand(program);
+    cli::addReportCommand(program);
+    cli::addSendCommand(program);
+    cli::addTimecodeCommand(program);
+    return program.run(cli::markNegativeValues({argv + 1, argv + argc}));
 }
 
 } // namespace

@@ -11,6 +11,7 @@ namespace vantrell
 struct TableColumn {
     QString identifier;
     QString title;
+    bool isCheckBox = false; ///< its cells are check boxes
 };
 
 using TableColumns = std::vector<TableColumn>;

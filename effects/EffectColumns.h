@@ -7,7 +7,7 @@ namespace vantrell
 
 /// The columns of the effects table, in order.
 inline const TableColumns effectColumns{
-    {QStringLiteral("enabled"), QStringLiteral("Enabled")},
+    {QStringLiteral("enabled"), QStringLiteral("Enabled"), true},
     {QStringLiteral("name"), QStringLiteral("Name")},
     {QStringLiteral("effectType"), QStringLiteral("Type")},
     {QStringLiteral("mediaType"), QStringLiteral("Media")},

@@ -17,9 +17,9 @@ inline const TableColumns markerColumns{
     {QStringLiteral("out"), QStringLiteral("Duration")},
     {QStringLiteral("sequence"), QStringLiteral("Sequence")},
     {QStringLiteral("clip"), QStringLiteral("Clip")},
-    {QStringLiteral("chapter"), QStringLiteral("Chapter")},
-    {QStringLiteral("compression"), QStringLiteral("Compression")},
-    {QStringLiteral("scoring"), QStringLiteral("Scoring")},
+    {QStringLiteral("chapter"), QStringLiteral("Chapter"), true},
+    {QStringLiteral("compression"), QStringLiteral("Compression"), true},
+    {QStringLiteral("scoring"), QStringLiteral("Scoring"), true},
 };
 
 /// Whether the identifier is one of those or a custom field's.

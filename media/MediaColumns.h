@@ -12,7 +12,7 @@ inline const TableColumns mediaColumns{
     {QStringLiteral("filesize"), QStringLiteral("Size")},
     {QStringLiteral("modDate"), QStringLiteral("Date Modified")},
     {QStringLiteral("usageCount"), QStringLiteral("Usage")},
-    {QStringLiteral("missing"), QStringLiteral("Missing")},
+    {QStringLiteral("missing"), QStringLiteral("Missing"), true},
     {QStringLiteral("directory"), QStringLiteral("Folder")},
 };
 

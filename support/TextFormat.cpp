@@ -1,5 +1,7 @@
 #include "support/TextFormat.h"
 
+#include "support/TextNumbers.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -25,11 +27,6 @@ struct Conversion {
     char16_t letter = 0;
     qsizetype end = 0; ///< index behind the conversion
 };
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
 
 int readNumber(QStringView format, qsizetype &position)
 {

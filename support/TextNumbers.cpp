@@ -8,11 +8,6 @@ namespace vantrell
 namespace
 {
 
-bool isDigit(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
-
 bool isSign(QChar character)
 {
     return character == QLatin1Char('-') || character == QLatin1Char('+');
@@ -35,6 +30,11 @@ qsizetype endOfDigits(QStringView text, qsizetype start)
 }
 
 } // namespace
+
+bool isDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
 
 qint64 integerValue(QStringView text)
 {

@@ -5,6 +5,9 @@
 namespace vantrell
 {
 
+/// Whether the character is one of the digits 0 to 9. Any thread.
+bool isDigit(QChar character);
+
 /// The integer that a text begins with: leading white space, a sign, decimal digits (0 to 9); what
 /// follows is ignored. 0 when there are no digits or no text; beyond 64 bits it stays at the
 /// smallest or largest value. Any thread.

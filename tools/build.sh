@@ -1,9 +1,8 @@
 # Sourced by ./run, ./test and tools/package, which set `root` to the folder of the project: quiet builds of the presets.
 
-# Cached objects are good for every clone, wherever it lies; without a folder to keep them in, the
-# builds go without a cache.
+# Without a folder to keep compiled objects in, the builds go without a cache.
 [ -n "${HOME:-}" ] || HOME=$(unset HOME && printf '%s' ~)
-export HOME CCACHE_BASEDIR="$root" CCACHE_NOHASHDIR=1
+export HOME
 if ! mkdir -p "${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}" 2>/dev/null; then
     export CCACHE_DISABLE=1
 fi
@@ -31,7 +30,30 @@ configure() {
     quietly "$folder/build.log" cmake "${fresh[@]}" -S "$root" --preset "$preset" "$@"
 }
 
-# build PRESET [TARGET]: builds a configured preset, by default all of it.
+# build PRESET [TARGET...]: builds a configured preset, by default all of it. Reports on standard error how far
+# it is: in place on a terminal, else every half minute.
 build() {
-    quietly "$root/build/$1/build.log" cmake --build "$root/build/$1" ${2:+--target "$2"}
+    local preset=$1 log="$root/build/$1/build.log" builder status=0 waited=0
+    shift
+    quietly "$log" cmake --build "$root/build/$preset" ${1:+--target "$@"} &
+    builder=$!
+    while kill -0 "$builder" 2>/dev/null; do
+        sleep 0.5
+        waited=$((waited + 1))
+        if [ -t 2 ]; then
+            printf '\r   %s: %s ' "$preset" "$(steps_done "$log")" >&2
+        elif [ $((waited % 60)) = 0 ]; then
+            printf '   %s: %s, %d s\n' "$preset" "$(steps_done "$log")" $((waited / 2)) >&2
+        fi
+    done
+    [ ! -t 2 ] || printf '\r\033[K' >&2
+    wait "$builder" || status=$?
+    return "$status"
+}
+
+# steps_done LOG: the last "[done/all]" in the log of a build.
+steps_done() {
+    local steps
+    steps=$(tail -c 4096 -- "$1" | grep -oE '^\[[0-9]+/[0-9]+\]' | tail -n 1)
+    printf '%s' "${steps:-starting}"
 }

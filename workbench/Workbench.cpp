@@ -1,6 +1,7 @@
 #include "workbench/Workbench.h"
 
 #include "bridge/QVAppleEvents.h"
+#include "report/ReportImages.h"
 
 #include <QFileInfo>
 
@@ -13,6 +14,7 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     : m_document(interface, services(inventories))
     , m_markerFields(m_document, defaults)
     , m_markerPresets(m_document, defaults)
+    , m_reportGenerator(m_document, m_markerPresets, defaults, ReportImages::standardFolder())
 {
 }
 

@@ -13,6 +13,7 @@
 #include "markers/MarkerPresets.h"
 #include "media/MediaFilter.h"
 #include "media/MediaInventory.h"
+#include "report/ReportGenerator.h"
 
 namespace vantrell
 {
@@ -42,6 +43,7 @@ public:
     MarkerInventory &markerInventory() { return m_markerInventory; }
     MarkerEditor &markerEditor() { return m_markerEditor; }
     ProjectSender &projectSender() { return m_projectSender; }
+    ReportGenerator &reportGenerator() { return m_reportGenerator; }
     const MarkerListImporter &markerListImporter() const { return m_markerListImporter; }
     const MarkerListExporter &markerListExporter() const { return m_markerListExporter; }
 
@@ -70,6 +72,7 @@ private:
     MarkerPresets m_markerPresets;
     MarkerInventory m_markerInventory{m_document, m_markerFields};
     MarkerEditor m_markerEditor{m_document, m_markerInventory};
+    ReportGenerator m_reportGenerator;
     MarkerListImporter m_markerListImporter{m_document, m_markerEditor};
     MarkerListExporter m_markerListExporter{m_document};
 };

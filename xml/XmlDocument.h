@@ -92,8 +92,8 @@ public:
 private:
     XmlDocument() = default;
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);
-    Result<void> writeEncoded(QIODevice &device, const char *encoding,
-                              const std::atomic<bool> *cancelled, Layout layout) const;
+    Result<void> writeEncoded(QIODevice &device, const char *encoding, const std::atomic<bool> *cancelled,
+                              Layout layout) const;
     void park(XmlNode element);
 
     std::unique_ptr<TreeMemory::Arena> m_arena; // dies after the tree

@@ -250,8 +250,10 @@ EventRecord HostEvents::openDocuments(const EventRecord &event)
 std::shared_ptr<HostProject> HostEvents::projectOf(const EventRecord &event) const
 {
     const EventDescriptor *value = event.parameter(EventCode::Project);
-    const QString path = value ? pathOf(*value) : QString();
-    return path.isEmpty() ? nullptr : m_projects.openAt(path);
+    const auto reference = value ? value->toFileReference() : std::nullopt;
+    // The import of another sender may have replaced the file since; the project is the same.
+    const auto path = reference ? pathInFileReference(*reference) : std::nullopt;
+    return path ? m_projects.openAt(*path) : nullptr;
 }
 
 } // namespace vantrell

@@ -64,8 +64,7 @@ std::optional<HostOptions> HostOptions::read(int argc, char **argv, int &status)
     program.set_version_flag("--program-version", "fcp-host " VANTRELL_VERSION);
     program.add_option("FILE", files, "xmeml files that are open from the start");
     program.add_option("--closed", closedFiles, "An xmeml file that is known and not open; may be repeated")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+        ->allow_extra_args(false);
     program.add_option("--socket-dir", socketFolder,
                        "Folder of the socket; $XDG_RUNTIME_DIR/vantrell unless given");
     program.add_option("--version", version, "Version of the application, 7.0.3 unless given");

@@ -333,7 +333,7 @@ private Q_SLOTS:
         const QString first = addProject("films/first.xml");
         const QString second = addProject("second.xml", "<xmeml><sequence id=\"s\"/></xmeml>");
         const QString closed = addProject("closed.xml");
-        Host running = host({first, second, latin("--closed"), closed});
+        Host running = host({latin("--closed"), closed, latin("--closed"), closed, first, second});
         QVERIFY(running.isReady());
         const auto import = [&](std::vector<EventParameter> parameters) {
             EventRecord record = madeEvent(EventCode::ImportXml, std::move(parameters));
@@ -640,7 +640,8 @@ private Q_SLOTS:
         const QString socketPath = Workspace::eventSocketPath(latin("KeyG"));
         QVERIFY(Workspace::openWithApplication(identifier, a));
         QTRY_VERIFY_WITH_TIMEOUT(Workspace::isRunning(identifier), Patience);
-        QCOMPARE(openProjects(socketPath), QStringList{a});
+        QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), QStringList{a},
+                                  Patience); // it may not listen yet
         QVERIFY(Workspace::openWithApplication(identifier, b));
         QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), (QStringList{a, b}), Patience);
         QCOMPARE(xmlOf(ask(socketPath, madeEvent(EventCode::ExportProjectXml, {project(b)}))), Project);

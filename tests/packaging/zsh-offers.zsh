@@ -6,10 +6,13 @@ zmodload zsh/zpty zsh/zselect
 export OFFERS_FOLDER=$1 OFFERS_ANSWERS=$2 TERM=dumb
 shift 2
 
-# wait_for FILE: fails when it is not there within ten seconds.
+# wait_for FILE: fails when it is not there within ten seconds. Reads what the terminal shows, for a shell
+# stops when nobody does.
 wait_for() {
   local -i attempt
+  local shown
   for attempt in {1..1000}; do
+    while zpty -r -t terminal shown; do :; done
     [[ -e $1 ]] && return
     zselect -t 1
   done

@@ -7,8 +7,14 @@ namespace vantrell
 
 CliRun runCli(const QStringList &arguments, const QByteArray &input)
 {
+    return runProgram(qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell-cli"), arguments,
+                      input);
+}
+
+CliRun runProgram(const QString &program, const QStringList &arguments, const QByteArray &input)
+{
     QProcess process;
-    process.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell-cli"), arguments);
+    process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
     CliRun run;

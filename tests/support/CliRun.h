@@ -16,4 +16,8 @@ struct CliRun {
 /// Runs vantrell-cli with the arguments and the standard input given.
 CliRun runCli(const QStringList &arguments, const QByteArray &input = QByteArray());
 
+/// The same with a copy of it at that path.
+CliRun runProgram(const QString &program, const QStringList &arguments,
+                  const QByteArray &input = QByteArray());
+
 } // namespace vantrell

@@ -1,4 +1,6 @@
-#include "cli/Command.h"
+#include "cli/Console.h"
+
+#include "cli/CommandLine.h"
 
 #include <QFile>
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <vector>
+
+namespace vantrell::cli
+{
+
+/// Writes to standard output; false, with a message, when it cannot be written.
+bool print(const QByteArray &bytes);
+/// Writes "vantrell-cli: …" and a line end to standard error.
+void complain(const QString &message);
+/// The message on standard error and the status for wrong usage.
+int refuseUsage(const QString &message);
+
+QString fromArgument(const std::string &argument);
+QStringList fromArguments(const std::vector<std::string> &arguments);
+
+/// The lines of standard input without their line ends.
+QStringList readLines();
+
+} // namespace vantrell::cli

@@ -1,0 +1,195 @@
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/Numbers.h"
+#include "cli/ProjectSession.h"
+#include "effects/EffectColumns.h"
+#include "markers/MarkerColumns.h"
+#include "media/MediaColumns.h"
+#include "report/PrintHelper.h"
+#include "report/ReportGenerator.h"
+#include "report/ReportImages.h"
+#include "support/FileUtilities.h"
+#include "support/UserDefaults.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <memory>
+#include <set>
+
+namespace vantrell::cli
+{
+
+namespace
+{
+
+struct ReportOptions {
+    std::string file;
+    std::string tab;
+    std::optional<std::string> columns;
+    std::optional<std::string> rows;
+    std::optional<std::string> title;
+    std::string output;
+    bool colorLabels = false;
+    bool body = false;
+};
+
+/// The table that the report is of, and what of it.
+struct ReportChoice {
+    Tab tab = Tab::Media;
+    TableColumns columns;                ///< of the table
+    std::optional<QStringList> selected; ///< identifiers; nothing for the first columns
+    std::vector<std::size_t> rows;       ///< ascending; empty for all
+};
+
+QString argumentOf(const std::string &argument)
+{
+    return withoutMark(fromArgument(argument));
+}
+
+void setTable(ReportChoice &choice, const std::string &tab)
+{
+    choice.tab = tab == "media" ? Tab::Media : tab == "effects" ? Tab::Effects : Tab::Markers;
+    choice.columns = choice.tab == Tab::Media     ? mediaColumns
+                     : choice.tab == Tab::Effects ? effectColumns
+                                                  : markerColumns;
+}
+
+/// False for a column that no report of the table has. Custom fields become columns at the table's end, in
+/// the order in which they come.
+bool setColumns(ReportChoice &choice, const QString &list)
+{
+    choice.selected = list.split(QLatin1Char(','));
+    for (const QString &id : *choice.selected) {
+        const bool isColumn =
+            std::any_of(choice.columns.begin(), choice.columns.end(), [&id](const TableColumn &column) {
+                return column.identifier == id && !column.title.isEmpty();
+            });
+        if (isColumn)
+            continue;
+        if (choice.tab != Tab::Markers || !id.startsWith(MarkerKey::customPrefix))
+            return false;
+        choice.columns.push_back({id, id});
+    }
+    return true;
+}
+
+/// False for what is no whole number. A negative one is beyond every list.
+bool setRows(ReportChoice &choice, const QString &list)
+{
+    std::set<quint64> rows;
+    for (const QString &text : list.split(QLatin1Char(','))) {
+        const std::optional<quint64> row = wholeNumber(text);
+        if (!row)
+            return false;
+        rows.insert(*row);
+    }
+    choice.rows.assign(rows.begin(), rows.end());
+    return true;
+}
+
+/// Shows the whole list of the tab, in its own order, with the chosen rows selected. False when one of them
+/// is not there.
+bool showRows(ProjectSession &session, const ReportChoice &choice)
+{
+    MyDocument &document = session.document();
+    const RowList &list = document.listOf(choice.tab);
+    if (!choice.rows.empty() && choice.rows.back() >= list.size())
+        return false;
+    document.viewState().selectedTab = choice.tab;
+    document.setTableArray(choice.tab, list);
+    session.selectRows(choice.tab, choice.rows);
+    return true;
+}
+
+void selectColumns(ReportGenerator &report, const ReportChoice &choice)
+{
+    report.setPrintTable(choice.tab, choice.columns);
+    if (!choice.selected)
+        return;
+    const PrintColumns &columns = report.printColumnArray();
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        report.setColumnSelected(i, choice.selected->contains(columns[i].id));
+}
+
+Result<void> writeReport(const ReportGenerator &report, bool wholeDocument, const QString &output,
+                         const QString &printHelper)
+{
+    const auto writer = [&](QIODevice &device) { return report.writeHTML(device, wholeDocument); };
+    if (!printHelper.isEmpty())
+        return PrintHelper::writePDF(printHelper, writer, ReportImages::standardFolder(), output);
+    if (output != QLatin1String("-"))
+        return FileUtilities::writeAtomically(output, writer);
+    QFile standardOutput;
+    if (!standardOutput.open(stdout, QIODevice::WriteOnly))
+        return Failure{standardOutput.errorString()};
+    const Result<void> written = writer(standardOutput);
+    if (written && !standardOutput.flush())
+        return Failure{standardOutput.errorString()};
+    return written;
+}
+
+int fail(const QString &message)
+{
+    complain(message);
+    return Failed;
+}
+
+int report(const ReportOptions &options)
+{
+    ReportChoice choice;
+    setTable(choice, options.tab);
+    if (options.columns && !setColumns(choice, argumentOf(*options.columns)))
+        return refuseUsage(QStringLiteral("--columns: the report has no such column."));
+    if (options.rows && !setRows(choice, argumentOf(*options.rows)))
+        return refuseUsage(QStringLiteral("--rows: the rows are whole numbers, separated by commas."));
+    const QString output = argumentOf(options.output);
+    QString printHelper;
+    if (output.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+        printHelper = PrintHelper::find();
+        if (printHelper.isEmpty())
+            return fail(PrintHelper::missingMessage());
+    }
+
+    ProjectSession session(choice.tab == Tab::Markers ? Workbench::Inventories::Markers
+                                                      : Workbench::Inventories::All);
+    if (!session.open(argumentOf(options.file)))
+        return Failed;
+    if (!showRows(session, choice))
+        return fail(QStringLiteral("--rows: there is no such row."));
+    UserDefaults settings(QString(), UserDefaults::Access::Volatile);
+    if (options.title)
+        settings.setValue(QStringLiteral("projectTitle"), argumentOf(*options.title));
+    settings.setValue(QStringLiteral("printColorLabels"), options.colorLabels ? 1 : 0);
+    ReportGenerator generator(session.document(), session.workbench().markerPresets(), &settings,
+                              ReportImages::standardFolder());
+    selectColumns(generator, choice);
+    const Result<void> written = writeReport(generator, !options.body, output, printHelper);
+    return written ? Done : fail(written.message());
+}
+
+} // namespace
+
+void addReportCommand(CommandLine &program)
+{
+    auto options = std::make_shared<ReportOptions>();
+    Subcommand command = program.add("report", "Write a report of a project as HTML or PDF");
+    command.value("FILE", options->file, "The project", Subcommand::Need::Required);
+    command.choice("--tab", options->tab, {"media", "effects", "markers"},
+                   "What to report: media, effects or markers", Subcommand::Need::Required);
+    command.value("--columns", options->columns,
+                  "The columns, ID,ID,...; they come in the table's order. The first three unless given");
+    command.value("--rows", options->rows,
+                  "The rows, N,N,..., counted from 0 in the list of all. All unless given");
+    command.value("--title", options->title,
+                  "The report's title; the file's name without its extension unless given");
+    command.flag("--print-color-labels", options->colorLabels,
+                 "The colour of each marker behind its name, in words");
+    command.flag("--body", options->body, "Only what stands in the body of the document");
+    command.value("-o", options->output,
+                  "The report to write, a PDF when its name ends in .pdf; \"-\" is standard output",
+                  Subcommand::Need::Required);
+    command.onRun([options] { return report(*options); });
+}
+
+} // namespace vantrell::cli

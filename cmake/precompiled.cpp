@@ -1,0 +1,1 @@
+// The sets of precompiled headers need a source file.

@@ -1,0 +1,118 @@
+#include "report/PrintHelper.h"
+
+#include "support/TaskRunner.h"
+#include "support/UnfinishedFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+#include <array>
+
+namespace vantrell::PrintHelper
+{
+
+namespace
+{
+
+constexpr int timeoutMs = 60 * 60 * 1000;
+
+/// A file with a name of its own that also an interrupt removes.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const QString &extension)
+        : m_file(QDir::tempPath() + QStringLiteral("/vantrell-report-XXXXXX.") + extension)
+    {
+        if (m_file.open())
+            UnfinishedFiles::add(QFile::encodeName(path()));
+    }
+    ~TemporaryFile()
+    {
+        const QByteArray name = QFile::encodeName(path());
+        m_file.remove();
+        UnfinishedFiles::remove(name);
+    }
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    QFile &file() { return m_file; }
+    QString path() const { return m_file.fileName(); }
+
+private:
+    QTemporaryFile m_file;
+};
+
+Failure unwritable(const QFile &file)
+{
+    return Failure{QStringLiteral("A temporary file could not be written: %1.").arg(file.errorString())};
+}
+
+Result<void> copy(const QString &from, QIODevice &to)
+{
+    QFile source(from);
+    if (!source.open(QIODevice::ReadOnly))
+        return Failure{source.errorString()};
+    std::array<char, 64 * 1024> block;
+    for (;;) {
+        const qint64 size = source.read(block.data(), qint64(block.size()));
+        if (size < 0)
+            return Failure{source.errorString()};
+        if (size == 0)
+            return {};
+        if (to.write(block.data(), size) != size)
+            return Failure{to.errorString()};
+    }
+}
+
+} // namespace
+
+QString find()
+{
+    const QDir folder(QCoreApplication::applicationDirPath());
+    for (const char *place : {"vantrell-print-pdf", "../libexec/vantrell/vantrell-print-pdf"}) {
+        const QFileInfo program(folder.filePath(QString::fromLatin1(place)));
+        if (program.isFile() && program.isExecutable())
+            return program.canonicalFilePath();
+    }
+    return QString();
+}
+
+QString missingMessage()
+{
+    return QStringLiteral("A PDF needs the package \"vantrell-print\", which is not installed.");
+}
+
+Result<void> writePDF(const QString &program, const FileUtilities::Writer &html, const QString &imageFolder,
+                      const QString &output)
+{
+    TemporaryFile text(QStringLiteral("html"));
+    TemporaryFile pdf(QStringLiteral("pdf"));
+    for (TemporaryFile *temporary : {&text, &pdf}) {
+        if (!temporary->file().isOpen())
+            return unwritable(temporary->file());
+    }
+    const Result<void> written = html(text.file());
+    if (!written)
+        return written;
+    if (!text.file().flush())
+        return unwritable(text.file());
+    const Result<TaskRunner::Output> run =
+        TaskRunner::run(program,
+                        {QStringLiteral("--html"), text.path(), QStringLiteral("--images"), imageFolder,
+                         QStringLiteral("-o"), pdf.path()},
+                        timeoutMs);
+    if (!run)
+        return run.failure();
+    const bool isDone = run.value().exitCode == 0 && QFileInfo(pdf.path()).size() > 0;
+    if (!isDone) {
+        const QString reason = QString::fromUtf8(run.value().standardError).trimmed();
+        return Failure{reason.isEmpty() ? QStringLiteral("The PDF could not be made.") : reason};
+    }
+    return FileUtilities::writeAtomically(output,
+                                          [&pdf](QIODevice &device) { return copy(pdf.path(), device); });
+}
+
+} // namespace vantrell::PrintHelper
