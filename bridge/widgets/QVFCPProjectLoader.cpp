@@ -54,7 +54,7 @@ QVFCPProjectLoader::QVFCPProjectLoader(const Services &services, QWidget *parent
     setWindowModality(Qt::ApplicationModal);
     setWindowTitle(tr("Open Final Cut Pro Project"));
     makeContent();
-    resize(fontMetrics().averageCharWidth() * 84, fontMetrics().height() * 18);
+    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 18);
 }
 
 QVFCPProjectLoader::~QVFCPProjectLoader()
