@@ -42,8 +42,9 @@ Reference referenceAtStart(std::string_view text)
     return {at + 1, character};
 }
 
-/// Where the text goes on behind what starts with "<" and holds no references, or behind the "<" itself.
-std::size_t behindMarkup(std::string_view text, std::size_t at)
+/// The length of what starts at the place and holds no references, up to the text's end when it has none;
+/// 0 when nothing such starts there.
+std::size_t lengthWithoutReferences(std::string_view text, std::size_t at)
 {
     struct Span {
         std::string_view start;
@@ -54,58 +55,89 @@ std::size_t behindMarkup(std::string_view text, std::size_t at)
         if (!text.substr(at).starts_with(span.start))
             continue;
         const std::size_t end = text.find(span.end, at + span.start.size());
-        return end == std::string_view::npos ? text.size() : end + span.end.size();
+        return end == std::string_view::npos ? text.size() - at : end + span.end.size() - at;
     }
-    return at + 1;
+    return 0;
 }
 
 /// A surrogate pair written as two references.
 struct Pair {
-    std::size_t at;
-    std::size_t length; ///< 0: there is none any more
-    char32_t character;
+    std::size_t at = 0;
+    std::size_t length = 0; ///< 0: there is none any more
+    char32_t character = 0;
 };
 
-Pair nextPair(std::string_view text, std::size_t at)
+/// Finds the pairs of a text one after the other. Most texts have none, so what holds no references is only
+/// looked for before a pair. What lies before a pair that was found is not looked at again.
+class PairFinder
 {
-    while (at < text.size()) {
-        if (text[at] != '&' && text[at] != '<') {
-            ++at;
-            continue;
-        }
-        if (text[at] == '<') {
-            at = behindMarkup(text, at);
-            continue;
-        }
-        const Reference high = referenceAtStart(text.substr(at));
-        if (high.length > 0 && QChar::isHighSurrogate(high.character)) {
-            const Reference low = referenceAtStart(text.substr(at + high.length));
-            if (low.length > 0 && QChar::isLowSurrogate(low.character))
-                return {at, high.length + low.length,
-                        QChar::surrogateToUcs4(char16_t(high.character), char16_t(low.character))};
-        }
-        at += std::max<std::size_t>(high.length, 1);
+public:
+    explicit PairFinder(std::string_view text)
+        : m_text(text)
+    {
     }
-    return {text.size(), 0, 0};
-}
+
+    Pair next()
+    {
+        while ((m_at = m_text.find('&', m_at)) != std::string_view::npos) {
+            const Reference high = referenceAtStart(m_text.substr(m_at));
+            if (high.length == 0 || !QChar::isHighSurrogate(high.character)) {
+                ++m_at;
+                continue;
+            }
+            const Reference low = referenceAtStart(m_text.substr(m_at + high.length));
+            if (low.length == 0 || !QChar::isLowSurrogate(low.character)) {
+                m_at += high.length;
+                continue;
+            }
+            if (const std::size_t end = endOfSpanAround(m_at); end > 0) {
+                m_at = end;
+                continue;
+            }
+            const Pair pair{m_at, high.length + low.length,
+                            QChar::surrogateToUcs4(char16_t(high.character), char16_t(low.character))};
+            m_at = m_checked = pair.at + pair.length;
+            return pair;
+        }
+        m_at = m_text.size();
+        return {m_at, 0, 0};
+    }
+
+private:
+    /// Where what holds no references and has begun before the place ends; 0 when there is nothing such.
+    std::size_t endOfSpanAround(std::size_t place)
+    {
+        while (m_checked < place) {
+            const std::size_t markup = m_text.substr(0, place).find('<', m_checked);
+            if (markup == std::string_view::npos)
+                return 0;
+            m_checked = markup + std::max<std::size_t>(lengthWithoutReferences(m_text, markup), 1);
+        }
+        return m_checked > place ? m_checked : 0;
+    }
+
+    std::string_view m_text;
+    std::size_t m_at = 0;
+    std::size_t m_checked = 0; ///< nothing that begins before it and holds no references goes on behind it
+};
 
 } // namespace
 
 QByteArray joinedSurrogates(QByteArray xml)
 {
-    Pair pair = nextPair({xml.constData(), std::size_t(xml.size())}, 0);
-    if (pair.length == 0)
+    if (PairFinder({xml.constData(), std::size_t(xml.size())}).next().length == 0)
         return xml;
     // What is joined is shorter than the pair, so the text moves towards its start.
     char *const bytes = xml.data();
-    const std::string_view text(bytes, std::size_t(xml.size()));
+    PairFinder pairs({bytes, std::size_t(xml.size())});
+    Pair pair = pairs.next();
     std::size_t to = pair.at;
     while (pair.length > 0) {
         const QByteArray joined = "&#" + QByteArray::number(uint(pair.character)) + ';';
         std::memcpy(bytes + to, joined.constData(), std::size_t(joined.size()));
         to += std::size_t(joined.size());
         const std::size_t from = pair.at + pair.length;
-        pair = nextPair(text, from);
+        pair = pairs.next();
         std::memmove(bytes + to, bytes + from, pair.at - from);
         to += pair.at - from;
     }
