@@ -102,7 +102,6 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
     const XmlNode sequence = parentSequence(parentItem);
     if (!sequence) {
         sequences().didChange();
-        tree->discardCopy(marker);
         return nullptr;
     }
     tree->moveTo(marker, sequence);

@@ -1,18 +1,17 @@
 #include "xml/XmlDocument.h"
 
 #include "support/FileUtilities.h"
-#include "xml/TreeMemory.h"
 #include "xml/XmlElementWriter.h"
 #include "xml/XmlFile.h"
-#include "xml/XmlOutput.h"
 #include "xml/XmlParse.h"
-
-#include <libxml/parser.h>
+#include "xml/XmlWriter.h"
 
 #include <QBuffer>
+#include <QLocale>
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace vantrell
 {
@@ -20,22 +19,59 @@ namespace vantrell
 namespace
 {
 
-xmlDoc *treeOf(XmlNode document)
-{
-    return reinterpret_cast<xmlDoc *>(document.handle());
-}
+const QString noMemory = QStringLiteral("there is not enough memory to read it.");
 
 QString faultText(const ParseOutcome &outcome)
 {
     return outcome.firstError.isEmpty() ? QStringLiteral("nothing in it can be read") : outcome.firstError;
 }
 
+/// Digits in groups of three.
+QString grouped(std::int64_t number)
+{
+    return QLocale(QLocale::English).toString(qlonglong(number));
+}
+
+QString lossText(const XmlLoss &loss)
+{
+    if (!loss.isLoss())
+        return QString();
+    const bool readAll = loss.bytesRead >= loss.bytesTotal;
+    const QString bytes = readAll ? QStringLiteral("all %1 bytes could be read").arg(grouped(loss.bytesTotal))
+                                  : QStringLiteral("%1 of %2 bytes could be read")
+                                        .arg(grouped(loss.bytesRead), grouped(loss.bytesTotal));
+    if (loss.droppedElements > 0) {
+        const QString elements = loss.droppedElements == 1
+                                     ? QStringLiteral("1 element")
+                                     : QStringLiteral("%1 elements").arg(grouped(loss.droppedElements));
+        return QStringLiteral("Content is missing: %1, and %2 behind that were left out.")
+            .arg(bytes, elements);
+    }
+    return readAll ? QStringLiteral("Content is missing: %1, but the file ends in the middle of an element.")
+                         .arg(bytes)
+                   : QStringLiteral("Content is missing: %1.").arg(bytes);
+}
+
+XmlSource sourceOf(const QByteArray &data)
+{
+    const auto position = std::make_shared<qsizetype>(0);
+    const auto read = [&data, position](char *buffer, int length) {
+        const qsizetype count = std::min<qsizetype>(length, data.size() - *position);
+        std::memcpy(buffer, data.constData() + *position, std::size_t(count));
+        *position += count;
+        return int(count);
+    };
+    return {read, data.size()};
+}
+
 } // namespace
 
-void XmlDocument::TreeDeleter::operator()(_xmlNode *document) const
+XmlDocument::XmlDocument()
+    : m_tree(std::make_unique<XmlTree>(this))
 {
-    xmlFreeDoc(reinterpret_cast<xmlDoc *>(document));
 }
+
+XmlDocument::~XmlDocument() = default;
 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, const LoadOptions &options)
 {
@@ -43,7 +79,10 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, 
     if (!file)
         return file.failure();
     ParseRequest request;
-    request.read = [input = file.value()](char *buffer, int length) { return input->read(buffer, length); };
+    request.source.read = [input = file.value()](char *buffer, int length) {
+        return input->read(buffer, length);
+    };
+    request.source.size = file.value()->size();
     request.tolerant = options.tolerant;
     request.cancelled = options.cancelled;
     Result<std::unique_ptr<XmlDocument>> document = parse(request);
@@ -56,13 +95,7 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::fromData(const QByteArray &data, const LoadOptions &options)
 {
     ParseRequest request;
-    qsizetype position = 0;
-    request.read = [&](char *buffer, int length) {
-        const qsizetype count = std::min<qsizetype>(length, data.size() - position);
-        std::memcpy(buffer, data.constData() + position, std::size_t(count));
-        position += count;
-        return int(count);
-    };
+    request.source = sourceOf(data);
     request.tolerant = options.tolerant;
     request.cancelled = options.cancelled;
     return parse(request);
@@ -70,42 +103,40 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromData(const QByteArray &dat
 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &request)
 {
-    std::unique_ptr<XmlDocument> document(new XmlDocument);
-    document->m_arena = std::make_unique<TreeMemory::Arena>();
-    const ParseOutcome outcome = parseXml(request, *document->m_arena);
-    document->m_tree.reset(reinterpret_cast<xmlNode *>(outcome.tree));
-    if (outcome.tree)
-        outcome.tree->_private = document.get();
-    document->m_repaired = outcome.repaired;
-    document->m_firstFault = outcome.firstError;
-    if (outcome.cancelled)
-        return Failure{QStringLiteral("loading was cancelled.")};
-    if (outcome.readFailed)
-        return Failure{QStringLiteral("reading it failed before its end.")};
-    if (outcome.tooDeep) {
-        return Failure{QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
+    try {
+        std::unique_ptr<XmlDocument> document(new XmlDocument);
+        const ParseOutcome outcome = parseXml(request, *document->m_tree);
+        document->m_repaired = outcome.repaired;
+        document->m_firstFault = outcome.firstError;
+        document->m_loss = lossText(outcome.loss);
+        if (outcome.cancelled)
+            return Failure{QStringLiteral("loading was cancelled.")};
+        if (outcome.outOfMemory)
+            return Failure{noMemory};
+        if (outcome.readFailed)
+            return Failure{QStringLiteral("reading it failed before its end.")};
+        if (outcome.tooDeep) {
+            return Failure{
+                QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
+        }
+        if (!outcome.hasTree)
+            return Failure{QStringLiteral("it is not well-formed XML (%1).").arg(faultText(outcome))};
+        if (!document->rootElement())
+            return Failure{QStringLiteral("it holds no XML root element (%1).").arg(faultText(outcome))};
+        return document;
+    } catch (const std::bad_alloc &) {
+        return Failure{noMemory};
     }
-    if (!outcome.tree)
-        return Failure{QStringLiteral("it is not well-formed XML (%1).").arg(faultText(outcome))};
-    if (!document->rootElement())
-        return Failure{QStringLiteral("it holds no XML root element (%1).").arg(faultText(outcome))};
-    return document;
-}
-
-XmlDocument::~XmlDocument()
-{
-    for (const XmlNode parked : m_parked)
-        xmlFreeNode(parked.handle());
 }
 
 XmlNode XmlDocument::node() const
 {
-    return XmlNode(m_tree.get());
+    return XmlNode(m_tree.get(), XmlTree::documentId);
 }
 
 XmlNode XmlDocument::rootElement() const
 {
-    return m_tree ? XmlNode(xmlDocGetRootElement(treeOf(node()))) : XmlNode();
+    return node().firstChildElement();
 }
 
 Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled, Layout layout) const
@@ -116,28 +147,28 @@ Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *can
 
 Result<void> XmlDocument::write(QIODevice &device, const std::atomic<bool> *cancelled, Layout layout) const
 {
-    return writeEncoded(device, reinterpret_cast<const char *>(treeOf(node())->encoding), cancelled, layout);
+    return writeEncoded(device, m_tree->encoding, cancelled, layout);
 }
 
 Result<void> XmlDocument::writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled) const
 {
-    return writeEncoded(device, nullptr, cancelled, Layout::Indented);
+    return writeEncoded(device, QByteArray(), cancelled, Layout::Indented);
 }
 
-Result<void> XmlDocument::writeEncoded(QIODevice &device, const char *encoding,
+Result<void> XmlDocument::writeEncoded(QIODevice &device, const QByteArray &encoding,
                                        const std::atomic<bool> *cancelled, Layout layout) const
 {
-    XmlOutput output{device, cancelled};
-    const int options = XML_SAVE_AS_XML | (layout == Layout::Indented ? XML_SAVE_FORMAT : 0);
-    XmlSavePointer save;
-    if (encoding)
-        save = openXmlOutput(output, encoding, options);
-    if (!save)
-        save = openXmlOutput(output, "UTF-8", options);
-    const bool saved = save && xmlSaveDoc(save.get(), treeOf(node())) >= 0 && xmlSaveFlush(save.get()) >= 0;
-    if (!saved)
+    try {
+        XmlOutput output(device, cancelled);
+        const bool isKnown = !encoding.isEmpty() && output.setEncoding(encoding);
+        XmlWriter writer(*m_tree, output, layout == Layout::Indented, false);
+        writer.writeDocument(isKnown ? encoding.toStdString() : "UTF-8");
+        if (output.flush())
+            return {};
         return Failure{device.errorString()};
-    return {};
+    } catch (const std::bad_alloc &) {
+        return Failure{QStringLiteral("There is not enough memory.")};
+    }
 }
 
 QString XmlDocument::textOfElement(XmlNode element)
@@ -152,39 +183,23 @@ QString XmlDocument::textOfElement(XmlNode element)
 Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
 {
     const QByteArray utf8 = xml.toUtf8();
-    const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt *)> context(xmlNewParserCtxt(),
-                                                                            xmlFreeParserCtxt);
-    if (!context)
-        return Failure{QStringLiteral("There is not enough memory.")};
-    const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> parsed(
-        xmlCtxtReadMemory(context.get(), utf8.constData(), int(utf8.size()), nullptr, "UTF-8",
-                          XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
-        xmlFreeDoc);
-    const xmlNode *root = parsed ? xmlDocGetRootElement(parsed.get()) : nullptr;
-    if (!root) {
-        const xmlError *error = xmlCtxtGetLastError(context.get());
-        const QString text =
-            error && error->message ? QString::fromUtf8(error->message).simplified() : QString();
-        return Failure{text.isEmpty() ? QStringLiteral("The text is no XML element.") : text};
+    ParseRequest request;
+    request.source = sourceOf(utf8);
+    request.tolerant = false;
+    request.keepsSpace = true;
+    XmlTree tree(nullptr);
+    const ParseOutcome outcome = parseXml(request, tree);
+    const XmlNode root = XmlNode(&tree, XmlTree::documentId).firstChildElement();
+    if (!outcome.hasTree || outcome.tooDeep || outcome.outOfMemory || !root) {
+        return Failure{outcome.lastError.isEmpty() ? QStringLiteral("The text is no XML element.")
+                                                   : outcome.lastError};
     }
-    const XmlNode copy(xmlDocCopyNode(const_cast<xmlNode *>(root), treeOf(node()), 1));
-    park(copy);
-    return copy;
+    return m_tree->handle(m_tree->copy(tree, root.id()));
 }
 
 XmlNode XmlDocument::copyOfElement(XmlNode element)
 {
-    if (!element.isElement())
-        return XmlNode();
-    const XmlNode copy(xmlDocCopyNode(element.handle(), treeOf(node()), 1));
-    park(copy);
-    return copy;
-}
-
-void XmlDocument::discardCopy(XmlNode copy)
-{
-    if (m_parked.erase(copy) > 0)
-        xmlFreeNode(copy.handle());
+    return element.isElement() ? m_tree->handle(m_tree->copy(*element.tree(), element.id())) : XmlNode();
 }
 
 void XmlDocument::remove(XmlNode element)
@@ -192,35 +207,28 @@ void XmlDocument::remove(XmlNode element)
     if (!element.isElement() || !element.parent())
         return;
     noteChange();
-    xmlUnlinkNode(element.handle());
-    park(element);
+    m_tree->unlink(element.id());
 }
 
 bool XmlDocument::moveTo(XmlNode element, XmlNode parent)
 {
-    if (!element.isElement() || !parent.isElement())
+    if (!element.isElement() || !parent.isElement() || element.tree() != m_tree.get() ||
+        parent.tree() != m_tree.get())
         return false;
     for (XmlNode up = parent; up; up = up.parent()) {
         if (up == element)
             return false;
     }
     noteChange();
-    xmlUnlinkNode(element.handle());
-    m_parked.erase(element);
-    xmlAddChild(parent.handle(), element.handle());
+    if (element.parent())
+        m_tree->unlink(element.id());
+    m_tree->append(parent.id(), element.id());
     return true;
 }
 
 XmlDocument *XmlDocument::owning(XmlNode node)
 {
-    const xmlDoc *tree = node ? node.handle()->doc : nullptr;
-    return tree ? static_cast<XmlDocument *>(tree->_private) : nullptr;
-}
-
-void XmlDocument::park(XmlNode element)
-{
-    if (element)
-        m_parked.insert(element);
+    return node ? node.tree()->owner() : nullptr;
 }
 
 } // namespace vantrell

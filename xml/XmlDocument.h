@@ -9,21 +9,18 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
-#include <unordered_set>
 
 class QIODevice;
 
 namespace vantrell
 {
 
-namespace TreeMemory
-{
-class Arena;
-}
+class XmlTree;
 
-/// One tree and everything that was ever part of it. Elements that are removed are kept, out of the
-/// tree, until the document dies: records, menus and caches may go on pointing at them, and edits on
-/// them do no harm. Not thread-safe: several threads may read while none edits.
+/// One tree and everything that was ever part of it. Elements that are removed, and copies that are not
+/// used, are kept out of the tree until the document dies: records, menus and caches may go on pointing at
+/// them, and edits on them do no harm. Not thread-safe: several threads may read while none edits. Where
+/// memory runs out, edits throw std::bad_alloc; loading and saving fail.
 class XmlDocument
 {
 public:
@@ -54,6 +51,8 @@ public:
     /// Whether the input was malformed and had to be repaired, and the first fault found in it.
     bool wasRepaired() const { return m_repaired; }
     const QString &firstFault() const { return m_firstFault; }
+    /// How much of a malformed input is missing from the tree, as a sentence; empty when all of it is there.
+    const QString &loss() const { return m_loss; }
 
     /// Writes the tree in its declared encoding (UTF-8 when it has none), whole or not at all. Nothing
     /// may change the tree meanwhile. Once `cancelled` is set (null for never) writing fails. Any thread.
@@ -72,9 +71,6 @@ public:
     /// A deep copy of the element, standing outside the tree.
     XmlNode copyOfElement(XmlNode element);
 
-    /// Frees a copy that copyOfElement() made, stands outside the tree and nobody points at any more.
-    void discardCopy(XmlNode copy);
-
     /// Takes the element out of the tree and keeps it. Nothing happens to one that is out already.
     void remove(XmlNode element);
     /// Makes the element the last child of the parent, wherever it was before. False, and nothing
@@ -90,21 +86,16 @@ public:
     static XmlDocument *owning(XmlNode node);
 
 private:
-    XmlDocument() = default;
+    XmlDocument();
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);
-    Result<void> writeEncoded(QIODevice &device, const char *encoding, const std::atomic<bool> *cancelled,
-                              Layout layout) const;
-    void park(XmlNode element);
+    Result<void> writeEncoded(QIODevice &device, const QByteArray &encoding,
+                              const std::atomic<bool> *cancelled, Layout layout) const;
 
-    std::unique_ptr<TreeMemory::Arena> m_arena; // dies after the tree
-    struct TreeDeleter {
-        void operator()(_xmlNode *document) const;
-    };
-    std::unique_ptr<_xmlNode, TreeDeleter> m_tree; // the document node
-    std::unordered_set<XmlNode> m_parked;          // roots of what stands outside the tree
+    const std::unique_ptr<XmlTree> m_tree;
     std::uint64_t m_revision = 0;
     bool m_repaired = false;
     QString m_firstFault;
+    QString m_loss;
 };
 
 } // namespace vantrell

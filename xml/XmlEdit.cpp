@@ -2,6 +2,7 @@
 
 #include "xml/XmlDocument.h"
 #include "xml/XmlText.h"
+#include "xml/XmlTree.h"
 
 #include <libxml/tree.h>
 
@@ -11,9 +12,17 @@ namespace vantrell::XmlEdit
 namespace
 {
 
-const xmlChar *bytes(const QByteArray &text)
+using Kind = XmlTree::Kind;
+
+std::string_view viewOf(const QByteArray &text)
 {
-    return reinterpret_cast<const xmlChar *>(text.constData());
+    return {text.constData(), std::size_t(text.size())};
+}
+
+/// The tree that the node is part of. Handles only read; whoever may edit has a way to the document.
+XmlTree &treeOf(XmlNode node)
+{
+    return const_cast<XmlTree &>(*node.tree());
 }
 
 } // namespace
@@ -22,44 +31,41 @@ void setText(XmlNode element, const QString &text)
 {
     if (!element.isElement())
         return;
-    xmlNode *node = element.handle();
-    XmlDocument *document = XmlDocument::owning(element);
-    if (document)
-        document->noteChange();
-    while (xmlNode *child = node->children) {
-        if (child->type == XML_ELEMENT_NODE && document) {
-            document->remove(XmlNode(child));
-        } else {
-            xmlUnlinkNode(child);
-            xmlFreeNode(child);
-        }
-    }
+    XmlTree &tree = treeOf(element);
+    if (tree.owner())
+        tree.owner()->noteChange();
     const QByteArray utf8 = XmlText::toUtf8(text);
-    if (!utf8.isEmpty())
-        xmlAddChild(node, xmlNewDocTextLen(node->doc, bytes(utf8), int(utf8.size())));
+    const XmlNodeId made = utf8.isEmpty() ? 0 : tree.makeText(Kind::Text, viewOf(utf8));
+    while (const XmlNodeId child = tree.node(element.id()).firstChild)
+        tree.unlink(child);
+    if (made)
+        tree.append(element.id(), made);
 }
 
 XmlNode appendElement(XmlNode parent, const QString &name, const QString &text)
 {
     const QByteArray utf8 = XmlText::toUtf8(name);
-    if (!parent.isElement() || xmlValidateNCName(bytes(utf8), 0) != 0)
+    const bool isName = xmlValidateNCName(reinterpret_cast<const xmlChar *>(utf8.constData()), 0) == 0;
+    if (!parent.isElement() || !isName)
         return XmlNode();
-    xmlNode *node = parent.handle();
-    const XmlNode element(xmlAddChild(node, xmlNewDocNode(node->doc, nullptr, bytes(utf8), nullptr)));
-    setText(element, text);
-    return element;
+    XmlTree &tree = treeOf(parent);
+    const XmlNodeId element = tree.make(Kind::Element, tree.intern({}, viewOf(utf8), {}));
+    tree.append(parent.id(), element);
+    setText(tree.handle(element), text);
+    return tree.handle(element);
 }
 
 void setOnlyAttribute(XmlNode element, const QString &name, const QString &value)
 {
     if (!element.isElement())
         return;
-    if (XmlDocument *document = XmlDocument::owning(element))
-        document->noteChange();
-    xmlNode *node = element.handle();
-    while (node->properties)
-        xmlRemoveProp(node->properties);
-    xmlSetProp(node, bytes(XmlText::toUtf8(name)), bytes(XmlText::toUtf8(value)));
+    XmlTree &tree = treeOf(element);
+    if (tree.owner())
+        tree.owner()->noteChange();
+    const XmlNodeId made = tree.makeText(Kind::Attribute, viewOf(XmlText::toUtf8(value)));
+    tree.node(made).name = tree.intern({}, viewOf(XmlText::toUtf8(name)), {});
+    tree.removeAttributes(element.id());
+    tree.appendAttribute(element.id(), made);
 }
 
 } // namespace vantrell::XmlEdit

@@ -1,13 +1,9 @@
 #include "xml/XmlElementWriter.h"
 
-#include "xml/XmlOutput.h"
 #include "xml/XmlText.h"
+#include "xml/XmlWriter.h"
 
-#include <libxml/tree.h>
-
-#include <QBuffer>
-
-#include <memory>
+#include <QIODevice>
 
 namespace vantrell::XmlElementWriter
 {
@@ -15,151 +11,67 @@ namespace vantrell::XmlElementWriter
 namespace
 {
 
-const xmlChar *bytes(const QByteArray &text)
+using Kind = XmlTree::Kind;
+
+std::string_view viewOf(const QByteArray &text)
 {
-    return reinterpret_cast<const xmlChar *>(text.constData());
+    return {text.constData(), std::size_t(text.size())};
 }
 
-/// A document of our own that copies of a tree's nodes are made in, so that the tree's own, its
-/// dictionary included, is left alone.
-class Scratch
+/// How attributes are written depends on whether the document declares its encoding.
+XmlWriter writerOf(const XmlTree &tree, XmlOutput &output)
 {
-public:
-    explicit Scratch(const xmlNode *node)
-        : m_document(xmlNewDoc(nullptr))
-    {
-        // How attributes are written depends on it.
-        if (m_document && node->doc->encoding)
-            m_document->encoding = xmlStrdup(node->doc->encoding);
-    }
-
-    /// A copy with attributes and namespaces, and with what it holds when `deep`; null without memory.
-    xmlNode *copy(xmlNode *node, bool deep)
-    {
-        if (!m_document)
-            return nullptr;
-        xmlNode *made = xmlDocCopyNode(node, m_document.get(), deep ? 1 : 2);
-        if (made)
-            m_copies.emplace_back(made);
-        return made;
-    }
-
-private:
-    struct DocumentDeleter {
-        void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
-    };
-    struct NodeDeleter {
-        void operator()(xmlNode *node) const { xmlFreeNode(node); }
-    };
-
-    std::unique_ptr<xmlDoc, DocumentDeleter> m_document;
-    std::vector<std::unique_ptr<xmlNode, NodeDeleter>> m_copies; // die before the document
-};
-
-bool inheritsNamespaces(const xmlNode *element)
-{
-    for (const xmlNode *up = element->parent; up && up->type == XML_ELEMENT_NODE; up = up->parent) {
-        if (up->nsDef)
-            return true;
-    }
-    return false;
+    return XmlWriter(tree, output, false, tree.encoding.isEmpty());
 }
 
-void setOnlyAttribute(xmlNode *element, const Changes &changes)
+Result<void> outcome(XmlOutput &output, const QIODevice &device)
 {
-    while (element->properties)
-        xmlRemoveProp(element->properties);
-    xmlSetProp(element, bytes(XmlText::toUtf8(changes.attribute)), bytes(XmlText::toUtf8(changes.value)));
-}
-
-void setText(xmlNode *element, const QString &text)
-{
-    xmlFreeNodeList(element->children);
-    element->children = element->last = nullptr;
-    const QByteArray utf8 = XmlText::toUtf8(text);
-    if (!utf8.isEmpty())
-        xmlAddChild(element, xmlNewDocTextLen(element->doc, bytes(utf8), int(utf8.size())));
+    if (output.flush())
+        return {};
+    return Failure{device.errorString()};
 }
 
 /// The new text of a child; null when it keeps what it holds.
-const QString *newTextOf(const xmlNode *child, const Changes &changes)
+const QString *newTextOf(XmlNode child, const Changes &changes)
 {
     for (const auto &[node, text] : changes.texts) {
-        if (node.handle() == child)
+        if (node == child)
             return &text;
     }
     return nullptr;
 }
 
-bool writeNode(xmlNode *node, QIODevice &device, const std::atomic<bool> *cancelled)
+void writeChild(const XmlTree &tree, XmlNodeId child, const Changes &changes, XmlOutput &output,
+                XmlWriter &writer)
 {
-    XmlOutput output{device, cancelled};
-    const XmlSavePointer save = openXmlOutput(output, "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML);
-    return save && xmlSaveTree(save.get(), node) >= 0 && xmlSaveFlush(save.get()) >= 0;
-}
-
-/// The changed element as a whole; what it holds may name namespaces that are declared above it.
-bool writeChangedCopy(xmlNode *element, const Changes &changes, QIODevice &device,
-                      const std::atomic<bool> *cancelled)
-{
-    Scratch scratch(element);
-    xmlNode *const copy = scratch.copy(element, true);
-    if (!copy)
-        return false;
-    setOnlyAttribute(copy, changes);
-    const xmlNode *original = element->children;
-    for (xmlNode *child = copy->children; child && original; child = child->next, original = original->next) {
-        if (const QString *text = newTextOf(original, changes))
-            setText(child, *text);
+    const QString *const text =
+        tree.node(child).isElement() ? newTextOf(tree.handle(child), changes) : nullptr;
+    if (!text) {
+        writer.writeNode(child);
+        return;
     }
-    return writeNode(copy, device, cancelled);
-}
-
-/// The changed element's tags around its children, each as it stands in the tree or changed.
-bool writeTagsAndChildren(xmlNode *element, const Changes &changes, QIODevice &device,
-                          const std::atomic<bool> *cancelled)
-{
-    Scratch scratch(element);
-    xmlNode *const shell = scratch.copy(element, false);
-    if (!shell)
-        return false;
-    setOnlyAttribute(shell, changes);
-    if (!element->children)
-        return writeNode(shell, device, cancelled);
-    xmlAddChild(shell, xmlNewDocText(shell->doc, bytes("")));
-    QBuffer tags;
-    tags.open(QIODevice::WriteOnly);
-    if (!writeNode(shell, tags, nullptr))
-        return false;
-    const QByteArray &both = tags.data();
-    const qsizetype endTag = both.lastIndexOf("</");
-    if (device.write(both.constData(), endTag) != endTag)
-        return false;
-    for (xmlNode *child = element->children; child; child = child->next) {
-        const QString *const text = newTextOf(child, changes);
-        xmlNode *const written = text ? scratch.copy(child, false) : child;
-        if (!written)
-            return false;
-        if (text)
-            setText(written, *text);
-        if (!writeNode(written, device, cancelled))
-            return false;
+    const QByteArray utf8 = XmlText::toUtf8(*text);
+    output.write('<');
+    writer.writeName(tree.node(child).name);
+    writer.writeNamespaces(child);
+    writer.writeAttributes(child);
+    if (utf8.isEmpty()) {
+        output.write("/>");
+        return;
     }
-    return device.write(both.constData() + endTag, both.size() - endTag) == both.size() - endTag;
-}
-
-Result<void> outcome(bool written, const QIODevice &device)
-{
-    if (written)
-        return {};
-    return Failure{device.errorString()};
+    output.write('>');
+    writer.writeText(viewOf(utf8));
+    writer.writeEndTag(child);
 }
 
 } // namespace
 
 Result<void> write(XmlNode element, QIODevice &device, const std::atomic<bool> *cancelled)
 {
-    return outcome(!element.isElement() || writeNode(element.handle(), device, cancelled), device);
+    XmlOutput output(device, cancelled);
+    if (element.isElement())
+        writerOf(*element.tree(), output).writeNode(element.id());
+    return outcome(output, device);
 }
 
 Result<void> writeChanged(XmlNode element, const Changes &changes, QIODevice &device,
@@ -167,9 +79,25 @@ Result<void> writeChanged(XmlNode element, const Changes &changes, QIODevice &de
 {
     if (!element.isElement())
         return {};
-    xmlNode *const node = element.handle();
-    const auto writer = inheritsNamespaces(node) ? writeChangedCopy : writeTagsAndChildren;
-    return outcome(writer(node, changes, device, cancelled), device);
+    const XmlTree &tree = *element.tree();
+    const XmlTree::Node &node = tree.node(element.id());
+    XmlOutput output(device, cancelled);
+    XmlWriter writer = writerOf(tree, output);
+    output.write('<');
+    writer.writeName(node.name);
+    writer.writeNamespaces(element.id());
+    for (const XmlNameId inherited : tree.inheritedNamespaces(element.id()))
+        writer.writeNamespace(tree.prefix(inherited), tree.uri(tree.name(inherited).uri));
+    writer.writeAttribute(viewOf(XmlText::toUtf8(changes.attribute)), viewOf(XmlText::toUtf8(changes.value)));
+    if (node.firstChild == 0) {
+        output.write("/>");
+        return outcome(output, device);
+    }
+    output.write('>');
+    for (XmlNodeId child = node.firstChild; child && !output.hasFailed(); child = tree.node(child).next)
+        writeChild(tree, child, changes, output, writer);
+    writer.writeEndTag(element.id());
+    return outcome(output, device);
 }
 
 } // namespace vantrell::XmlElementWriter

@@ -32,7 +32,7 @@ Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path)
     if (S_ISREG(status.st_mode)) {
         if (status.st_size == 0)
             return Failure{QStringLiteral("The file \"%1\" is empty.").arg(path)};
-        file->m_remaining = status.st_size;
+        file->m_size = file->m_remaining = status.st_size;
 #ifdef POSIX_FADV_SEQUENTIAL
         posix_fadvise(file->m_descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
 #endif

@@ -24,10 +24,14 @@ public:
     /// Up to \a length bytes; 0 at the end, -1 on a failed read.
     int read(char *buffer, int length);
 
+    /// Bytes when it was opened; -1 for what has no size, such as a pipe.
+    long long size() const { return m_size; }
+
 private:
     XmlFile() = default;
 
     int m_descriptor = -1;
+    long long m_size = -1;
     long long m_remaining = -1; ///< bytes; -1 for what has no size, such as a pipe
 };
 

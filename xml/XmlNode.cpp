@@ -1,8 +1,7 @@
 #include "xml/XmlNode.h"
 
 #include "xml/XmlText.h"
-
-#include <libxml/tree.h>
+#include "xml/XmlTree.h"
 
 #include <QStringList>
 
@@ -12,134 +11,120 @@ namespace vantrell
 namespace
 {
 
-bool isElementNode(const xmlNode *node)
+using Kind = XmlTree::Kind;
+
+/// The node behind the handle; for a null handle one of no kind that has anything.
+const XmlTree::Node &nodeOf(XmlNode handle)
 {
-    return node && node->type == XML_ELEMENT_NODE;
+    static constexpr XmlTree::Node none = {0, 0, 0, {0}, 0, 0, std::uint32_t(Kind::Doctype)};
+    return handle ? handle.tree()->node(handle.id()) : none;
 }
 
-bool isTextNode(const xmlNode *node)
+bool hasNameOfItsOwn(const XmlTree::Node &node)
 {
-    return node && (node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE);
+    return node.isElement() || node.kind() == Kind::Attribute;
 }
 
-bool hasTree(const xmlNode *node)
+/// Prefix included, UTF-8; empty for nodes without one.
+std::string_view qualifiedName(XmlNode handle)
 {
-    return node && (node->type == XML_ELEMENT_NODE || node->type == XML_DOCUMENT_NODE);
-}
-
-bool sameQualifiedName(const xmlNode *a, const xmlNode *b)
-{
-    if (!xmlStrEqual(a->name, b->name))
-        return false;
-    const xmlChar *prefixA = a->ns ? a->ns->prefix : nullptr;
-    const xmlChar *prefixB = b->ns ? b->ns->prefix : nullptr;
-    return xmlStrEqual(prefixA, prefixB);
+    const XmlTree::Node &node = nodeOf(handle);
+    return hasNameOfItsOwn(node) ? std::string_view(handle.tree()->name(node.name).qualified)
+                                 : std::string_view();
 }
 
 /// The 1-based place of the element among its like-named siblings.
-int indexAmongSiblings(const xmlNode *node)
+int indexAmongSiblings(XmlNode element)
 {
     int index = 1;
-    for (const xmlNode *sibling = node->prev; sibling; sibling = sibling->prev) {
-        if (isElementNode(sibling) && sameQualifiedName(sibling, node))
+    const std::string_view name = qualifiedName(element);
+    for (XmlNode sibling = element.previousSibling(); sibling; sibling = sibling.previousSibling()) {
+        if (sibling.isElement() && qualifiedName(sibling) == name)
             ++index;
     }
     return index;
-}
-
-void appendText(const xmlNode *node, QByteArray &text)
-{
-    for (const xmlNode *child = node->children; child; child = child->next) {
-        if (isTextNode(child))
-            text += reinterpret_cast<const char *>(child->content);
-        else if (isElementNode(child))
-            appendText(child, text);
-    }
 }
 
 } // namespace
 
 bool XmlNode::isElement() const
 {
-    return isElementNode(m_node);
+    return nodeOf(*this).isElement();
 }
 
 bool XmlNode::isAttribute() const
 {
-    return m_node && m_node->type == XML_ATTRIBUTE_NODE;
+    return nodeOf(*this).kind() == Kind::Attribute;
 }
 
 bool XmlNode::isText() const
 {
-    return isTextNode(m_node);
+    return nodeOf(*this).isText();
 }
 
 QString XmlNode::name() const
 {
-    if (!isElement() && !isAttribute())
-        return QString();
-    const QString local = XmlText::fromUtf8(m_node->name);
-    if (m_node->ns && m_node->ns->prefix)
-        return XmlText::fromUtf8(m_node->ns->prefix) + QLatin1Char(':') + local;
-    return local;
+    const XmlTree::Node &node = nodeOf(*this);
+    return hasNameOfItsOwn(node) ? m_tree->name(node.name).text : QString();
 }
 
 bool XmlNode::hasName(std::string_view name) const
 {
-    if (!isElement() && !isAttribute())
-        return false;
-    if (m_node->ns && m_node->ns->prefix)
-        return this->name().toStdString() == name;
-    return name == reinterpret_cast<const char *>(m_node->name);
+    return hasNameOfItsOwn(nodeOf(*this)) && qualifiedName(*this) == name;
 }
 
 bool XmlNode::isPlainElement(std::string_view name) const
 {
-    return isElement() && !m_node->ns && name == reinterpret_cast<const char *>(m_node->name);
+    const XmlTree::Node &node = nodeOf(*this);
+    if (!node.isElement())
+        return false;
+    const XmlTree::Name &own = m_tree->name(node.name);
+    return own.uri == 0 && own.qualified == name;
+}
+
+QString XmlNode::namespaceUri() const
+{
+    const XmlTree::Node &node = nodeOf(*this);
+    const std::uint32_t uri = hasNameOfItsOwn(node) ? m_tree->name(node.name).uri : 0;
+    return uri == 0 ? QString() : QString::fromStdString(m_tree->uri(uri));
 }
 
 bool XmlNode::nameStartsWith(std::string_view text) const
 {
-    if (!isElement() && !isAttribute())
-        return false;
-    if (m_node->ns && m_node->ns->prefix)
-        return name().toStdString().starts_with(text);
-    return std::string_view(reinterpret_cast<const char *>(m_node->name)).starts_with(text);
+    return hasNameOfItsOwn(nodeOf(*this)) && qualifiedName(*this).starts_with(text);
 }
 
 bool XmlNode::nameContains(std::string_view text) const
 {
-    if (!isElement() && !isAttribute())
-        return false;
-    if (m_node->ns && m_node->ns->prefix)
-        return name().toStdString().find(text) != std::string::npos;
-    return std::string_view(reinterpret_cast<const char *>(m_node->name)).find(text) !=
-           std::string_view::npos;
+    return hasNameOfItsOwn(nodeOf(*this)) && qualifiedName(*this).find(text) != std::string_view::npos;
 }
 
 XmlNode XmlNode::parent() const
 {
-    return XmlNode(m_node ? m_node->parent : nullptr);
+    const XmlNodeId parent = nodeOf(*this).parent;
+    return parent ? XmlNode(m_tree, parent) : XmlNode();
 }
 
 XmlNode XmlNode::previousSibling() const
 {
-    return XmlNode(m_node ? m_node->prev : nullptr);
+    return m_id ? m_tree->handle(m_tree->previousSibling(m_id)) : XmlNode();
 }
 
 XmlNode XmlNode::nextSibling() const
 {
-    return XmlNode(m_node ? m_node->next : nullptr);
+    const XmlNodeId next = nodeOf(*this).next;
+    return next ? XmlNode(m_tree, next) : XmlNode();
 }
 
 XmlNode XmlNode::firstChild() const
 {
-    return XmlNode(hasTree(m_node) ? m_node->children : nullptr);
+    const XmlTree::Node &node = nodeOf(*this);
+    return node.hasChildren() && node.firstChild ? XmlNode(m_tree, node.firstChild) : XmlNode();
 }
 
 XmlNode XmlNode::lastChild() const
 {
-    return XmlNode(hasTree(m_node) ? m_node->last : nullptr);
+    return m_id ? m_tree->handle(m_tree->lastChild(m_id)) : XmlNode();
 }
 
 XmlNode XmlNode::firstChildElement() const
@@ -150,10 +135,10 @@ XmlNode XmlNode::firstChildElement() const
 
 XmlNode XmlNode::nextSiblingElement() const
 {
-    xmlNode *sibling = m_node ? m_node->next : nullptr;
-    while (sibling && sibling->type != XML_ELEMENT_NODE)
-        sibling = sibling->next;
-    return XmlNode(sibling);
+    XmlNodeId sibling = nodeOf(*this).next;
+    while (sibling && !m_tree->node(sibling).isElement())
+        sibling = m_tree->node(sibling).next;
+    return sibling ? XmlNode(m_tree, sibling) : XmlNode();
 }
 
 XmlNode XmlNode::childElement(std::string_view name) const
@@ -166,57 +151,57 @@ XmlNode XmlNode::childElement(std::string_view name) const
 
 QString XmlNode::stringValue() const
 {
-    if (!m_node)
+    if (!m_id)
         return QString();
-    if (isTextNode(m_node))
-        return XmlText::fromUtf8(m_node->content);
-    if (m_node->type == XML_ATTRIBUTE_NODE || hasTree(m_node)) {
-        if (m_node->children && !m_node->children->next && isTextNode(m_node->children))
-            return XmlText::fromUtf8(m_node->children->content);
-        QByteArray text("");
-        appendText(m_node, text);
-        return XmlText::fromUtf8(reinterpret_cast<const xmlChar *>(text.constData()));
+    const XmlTree::Node &node = m_tree->node(m_id);
+    if (!node.hasChildren())
+        return node.text ? XmlText::fromUtf8(m_tree->text(node.text)) : QString();
+    const XmlNodeId first = node.firstChild;
+    if (first && m_tree->node(first).isText() && m_tree->node(first).next == 0)
+        return XmlText::fromUtf8(m_tree->text(m_tree->node(first).text));
+    std::string text;
+    for (XmlNodeId at = m_tree->following(m_id, m_id); at; at = m_tree->following(at, m_id)) {
+        if (m_tree->node(at).isText())
+            text += m_tree->text(m_tree->node(at).text);
     }
-    return XmlText::fromUtf8(m_node->content);
+    return XmlText::fromUtf8(text);
 }
 
 QString XmlNode::attribute(std::string_view name) const
 {
     if (!isElement())
         return QString();
-    for (xmlAttr *attribute = m_node->properties; attribute; attribute = attribute->next) {
-        const XmlNode node(reinterpret_cast<xmlNode *>(attribute));
-        if (node.hasName(name))
-            return node.stringValue();
+    for (XmlNodeId id = nodeOf(*this).firstAttribute; id; id = m_tree->node(id).next) {
+        const XmlNode attribute(m_tree, id);
+        if (attribute.hasName(name))
+            return attribute.stringValue();
     }
     return QString();
 }
 
 XmlNode XmlNode::root() const
 {
-    xmlNode *node = m_node;
-    while (node && node->parent)
-        node = node->parent;
-    return XmlNode(node);
+    XmlNode top = *this;
+    while (const XmlNode up = top.parent())
+        top = up;
+    return top;
 }
 
 bool XmlNode::isAttached() const
 {
-    const XmlNode top = root();
-    return top && top.m_node->type == XML_DOCUMENT_NODE;
+    return root().id() == XmlTree::documentId;
 }
 
 QString XmlNode::locationPath() const
 {
-    if (!m_node)
+    if (!m_id)
         return QString();
     QStringList components{QString()};
-    for (const xmlNode *node = m_node; node && node->type != XML_DOCUMENT_NODE; node = node->parent) {
-        const XmlNode handle(const_cast<xmlNode *>(node));
-        if (handle.isAttribute())
-            components.insert(1, QLatin1Char('@') + handle.name());
-        else if (handle.isElement())
-            components.insert(1, QStringLiteral("%1[%2]").arg(handle.name()).arg(indexAmongSiblings(node)));
+    for (XmlNode node = *this; node && node.id() != XmlTree::documentId; node = node.parent()) {
+        if (node.isAttribute())
+            components.insert(1, QLatin1Char('@') + node.name());
+        else if (node.isElement())
+            components.insert(1, QStringLiteral("%1[%2]").arg(node.name()).arg(indexAmongSiblings(node)));
         else
             components.insert(1, QStringLiteral("text()"));
     }

@@ -3,14 +3,15 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string_view>
 #include <vector>
 
-struct _xmlNode;
-
 namespace vantrell
 {
+
+class XmlTree;
 
 /// A reference to one node of a tree: the document itself, an element, an attribute, a text, …
 /// It does not own: it is valid as long as the XmlDocument that the node came from lives, also after
@@ -21,16 +22,19 @@ class XmlNode
 {
 public:
     XmlNode() = default;
-    explicit XmlNode(_xmlNode *node)
-        : m_node(node)
+    /// For use inside xml/ only: a node of the tree by its number.
+    XmlNode(const XmlTree *tree, std::uint32_t id)
+        : m_tree(tree)
+        , m_id(id)
     {
     }
 
-    explicit operator bool() const { return m_node != nullptr; }
-    friend bool operator==(XmlNode a, XmlNode b) { return a.m_node == b.m_node; }
+    explicit operator bool() const { return m_id != 0; }
+    friend bool operator==(XmlNode a, XmlNode b) { return a.m_id == b.m_id && a.m_tree == b.m_tree; }
 
-    /// The library's node, for use inside xml/ only.
-    _xmlNode *handle() const { return m_node; }
+    /// For use inside xml/ only.
+    const XmlTree *tree() const { return m_tree; }
+    std::uint32_t id() const { return m_id; }
 
     bool isElement() const;
     bool isAttribute() const;
@@ -44,6 +48,8 @@ public:
     bool isElement(std::string_view name) const { return isElement() && hasName(name); }
     /// An element of that name in no namespace: what the name in a query finds.
     bool isPlainElement(std::string_view name) const;
+    /// The URI of the namespace that the element or attribute is in; null for none.
+    QString namespaceUri() const;
     /// Whether the name, prefix included, begins with or contains the text.
     bool nameStartsWith(std::string_view text) const;
     bool nameContains(std::string_view text) const;
@@ -75,7 +81,8 @@ public:
     QString locationPath() const;
 
 private:
-    _xmlNode *m_node = nullptr;
+    const XmlTree *m_tree = nullptr;
+    std::uint32_t m_id = 0;
 };
 
 using XmlNodeList = std::vector<XmlNode>;
@@ -86,6 +93,6 @@ template <>
 struct std::hash<vantrell::XmlNode> {
     std::size_t operator()(vantrell::XmlNode node) const noexcept
     {
-        return std::hash<const void *>()(node.handle());
+        return std::hash<const void *>()(node.tree()) ^ (std::size_t(node.id()) * 0x9E3779B97F4A7C15u);
     }
 };

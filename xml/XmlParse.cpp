@@ -1,14 +1,15 @@
 #include "xml/XmlParse.h"
 
+#include "xml/XmlLibrary.h"
+#include "xml/XmlTreeBuilder.h"
+
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <memory>
-#include <vector>
+#include <new>
 
 namespace vantrell
 {
@@ -20,32 +21,36 @@ struct ContextDeleter {
     void operator()(xmlParserCtxt *context) const { xmlFreeParserCtxt(context); }
 };
 
-/// White space met in an element that may turn out to stand between elements only.
-struct PendingBlank {
-    xmlNode *after;      ///< the child that it follows; null at the element's start
-    const xmlChar *text; ///< in the parser's dictionary
-    int length;          ///< bytes
+struct DocumentDeleter {
+    void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-struct OpenElement {
-    xmlNode *node;
-    std::size_t firstBlank; ///< its first one in the list of pending blanks
-    bool keepsBlanks;       ///< it holds text, CDATA or a reference, or asks for its space to be kept
-    bool hasElements;
-};
+std::string_view viewOf(const xmlChar *text)
+{
+    return text ? std::string_view(reinterpret_cast<const char *>(text)) : std::string_view();
+}
 
-/// The builder's state, reached from the parser's callbacks through its private pointer.
-class TreeBuilder
+std::string_view viewOf(const xmlChar *text, std::ptrdiff_t length)
+{
+    return {reinterpret_cast<const char *>(text), std::size_t(length)};
+}
+
+/// One parse: what the parser's callbacks, which reach it through the parser's private pointer, hand to the
+/// builder of the tree. The library builds a document of its own as well, that holds the DTD alone.
+class Parse
 {
 public:
-    TreeBuilder(xmlParserCtxt *context, const ParseRequest &request, TreeMemory::Arena &arena)
+    Parse(xmlParserCtxt *context, const ParseRequest &request, XmlTree &tree)
         : m_context(context)
         , m_request(request)
-        , m_arena(arena)
+        , m_input(request.source, !request.tolerant, request.cancelled)
+        , m_tree(tree)
+        , m_builder(tree, request.keepsSpace)
     {
         context->_private = this;
         xmlSAXHandler *sax = context->sax;
-        sax->startDocument = startDocument;
+        sax->internalSubset = internalSubset;
+        sax->externalSubset = externalSubset;
         sax->startElementNs = startElement;
         sax->endElementNs = endElement;
         sax->characters = characters;
@@ -57,263 +62,241 @@ public:
         sax->entityDecl = [](void *, const xmlChar *, int, const xmlChar *, const xmlChar *, xmlChar *) {};
         sax->unparsedEntityDecl = [](void *, const xmlChar *, const xmlChar *, const xmlChar *,
                                      const xmlChar *) {};
-        sax->externalSubset = [](void *, const xmlChar *, const xmlChar *, const xmlChar *) {};
         sax->serror = error;
     }
 
-    static int read(void *builder, char *buffer, int length)
+    ParseOutcome run()
     {
-        auto *self = static_cast<TreeBuilder *>(builder);
-        // Read ahead in large steps: the parser asks for a few thousand bytes at a time.
-        if (self->m_readPosition == self->m_readEnd) {
-            const int got = self->m_request.read(self->m_readAhead.data(), int(self->m_readAhead.size()));
-            if (got < 0)
-                self->m_readFailed = true;
-            if (got <= 0)
-                return got;
-            self->m_readPosition = 0;
-            self->m_readEnd = got;
-        }
-        const int count = std::min(length, self->m_readEnd - self->m_readPosition);
-        std::copy_n(self->m_readAhead.data() + self->m_readPosition, count, buffer);
-        self->m_readPosition += count;
-        return count;
-    }
-
-    void finish(ParseOutcome &outcome)
-    {
-        // Elements that the input's end left open.
-        while (outcome.tree && !m_open.empty())
-            settleBlanks();
-        outcome.repaired = m_repaired || !m_context->wellFormed;
+        int options = XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_IGNORE_ENC |
+                      XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+        if (m_request.tolerant)
+            options |= XML_PARSE_RECOVER;
+        const std::unique_ptr<xmlDoc, DocumentDeleter> document(
+            xmlCtxtReadIO(m_context, read, nullptr, this, nullptr, nullptr, options));
+        ParseOutcome outcome;
+        guard([&] { finish(document.get(), outcome); });
+        outcome.hasTree = document != nullptr && !m_input.isUnreadable() &&
+                          (m_request.tolerant || m_input.fault().isEmpty());
+        outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.readFailed = m_readFailed;
-        outcome.cancelled = m_cancelled;
-        outcome.firstError = m_firstError;
+        outcome.readFailed = m_input.failed();
+        outcome.cancelled = m_cancelled || m_input.wasCancelled();
+        outcome.outOfMemory = m_outOfMemory;
+        const bool hasFault = !m_input.fault().isEmpty();
+        const bool inputIsFirst =
+            m_firstError.isEmpty() || m_input.isUnreadable() || m_input.faultLine() <= m_firstErrorLine;
+        outcome.firstError = hasFault && inputIsFirst ? m_input.fault() : m_firstError;
+        outcome.lastError = hasFault && !m_request.tolerant ? m_input.fault() : m_lastError;
+        return outcome;
     }
 
 private:
-    static TreeBuilder *of(void *context) { return static_cast<TreeBuilder *>(contextOf(context)->_private); }
     static xmlParserCtxt *contextOf(void *context) { return static_cast<xmlParserCtxt *>(context); }
+    static Parse *of(void *context) { return static_cast<Parse *>(contextOf(context)->_private); }
 
-    static void startDocument(void *context)
+    /// Runs what a callback does; no exception may pass through the library.
+    template <typename Action>
+    void guard(const Action &action)
     {
-        // Nodes keep no line numbers; their memory has no place for them.
-        contextOf(context)->linenumbers = 0;
-        xmlSAX2StartDocument(context);
+        try {
+            action();
+        } catch (const std::bad_alloc &) {
+            m_outOfMemory = true;
+            xmlStopParser(m_context);
+        }
+    }
+
+    static int read(void *parse, char *buffer, int length)
+    {
+        Parse *const self = static_cast<Parse *>(parse);
+        int count = 0;
+        self->guard([&] { count = self->m_input.read(buffer, length); });
+        return count;
+    }
+
+    static void internalSubset(void *context, const xmlChar *name, const xmlChar *externalId,
+                               const xmlChar *systemId)
+    {
+        Parse *const self = of(context);
+        xmlSAX2InternalSubset(context, name, externalId, systemId);
+        self->m_inSubset = true;
+        self->guard([&] { self->m_builder.addDoctype(); });
+    }
+
+    /// Comes when the internal subset has been read. There is no external one: nothing is fetched.
+    static void externalSubset(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
+    {
+        of(context)->m_inSubset = false;
     }
 
     static void startElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
                              int namespaces, const xmlChar **namespaceList, int attributes, int defaulted,
                              const xmlChar **attributeList)
     {
-        of(context)->onStartElement(name, prefix, uri, namespaces, namespaceList, attributes - defaulted,
-                                    attributeList);
+        Parse *const self = of(context);
+        self->guard([&] {
+            self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
+                                 attributeList);
+        });
     }
 
-    static void endElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri)
+    static void endElement(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
-        of(context)->settleBlanks();
-        xmlSAX2EndElementNs(context, name, prefix, uri);
+        Parse *const self = of(context);
+        self->guard([&] { self->m_builder.endElement(); });
     }
 
     static void characters(void *context, const xmlChar *text, int length)
     {
-        of(context)->onCharacters(text, length);
+        Parse *const self = of(context);
+        self->guard([&] { self->m_builder.addText(viewOf(text, length)); });
     }
 
     static void cdata(void *context, const xmlChar *text, int length)
     {
-        TreeBuilder *self = of(context);
-        self->keepBlanks();
-        const TreeMemory::Scope scope(&self->m_arena);
-        xmlSAX2CDataBlock(context, text, length);
+        Parse *const self = of(context);
+        self->guard([&] { self->m_builder.addCData(viewOf(text, length)); });
     }
 
     static void comment(void *context, const xmlChar *text)
     {
-        const TreeMemory::Scope scope(&of(context)->m_arena);
-        xmlSAX2Comment(context, text);
+        Parse *const self = of(context);
+        if (self->m_inSubset)
+            xmlSAX2Comment(context, text);
+        else
+            self->guard([&] { self->m_builder.addComment(viewOf(text)); });
     }
 
     static void processingInstruction(void *context, const xmlChar *target, const xmlChar *data)
     {
-        const TreeMemory::Scope scope(&of(context)->m_arena);
-        xmlSAX2ProcessingInstruction(context, target, data);
+        Parse *const self = of(context);
+        if (self->m_inSubset)
+            xmlSAX2ProcessingInstruction(context, target, data);
+        else
+            self->guard(
+                [&] { self->m_builder.addInstruction(viewOf(target), viewOf(data), data != nullptr); });
     }
 
     /// A reference to an entity that nothing declares: it is left out, what stands beside it is text.
     static void reference(void *context, const xmlChar *)
     {
-        of(context)->m_repaired = true;
-        of(context)->keepBlanks();
+        Parse *const self = of(context);
+        self->m_repaired = true;
+        self->guard([&] { self->m_builder.keepSpace(); });
     }
 
-    static void error(void *context, xmlErrorPtr problem)
+    static void error(void *context, XmlLibrary::ErrorPointer problem)
     {
-        TreeBuilder *self = of(context);
-        const bool undeclaredEntity = problem->code == XML_WAR_UNDECLARED_ENTITY;
-        if (problem->domain == XML_FROM_NAMESPACE || problem->domain == XML_FROM_VALID)
+        Parse *const self = of(context);
+        self->guard([&] { self->onError(*problem); });
+    }
+
+    void onError(const xmlError &problem)
+    {
+        const bool undeclaredEntity = problem.code == XML_WAR_UNDECLARED_ENTITY;
+        const QString text = QString::fromUtf8(problem.message).simplified();
+        m_lastError = text;
+        if (problem.domain == XML_FROM_NAMESPACE || problem.domain == XML_FROM_VALID)
             return;
-        if (problem->level < XML_ERR_ERROR && !undeclaredEntity)
+        if (problem.level < XML_ERR_ERROR && !undeclaredEntity)
             return;
-        self->m_repaired = true;
-        const bool inContent = self->m_context->instate != XML_PARSER_ATTRIBUTE_VALUE;
-        if ((problem->code == XML_ERR_UNDECLARED_ENTITY || undeclaredEntity) && inContent)
-            self->keepBlanks();
-        if (self->m_firstError.isEmpty()) {
-            const QString text = QString::fromUtf8(problem->message).simplified();
-            self->m_firstError =
-                problem->line > 0 ? QStringLiteral("line %1: %2").arg(problem->line).arg(text) : text;
+        m_repaired = true;
+        m_errorAt = std::max(m_errorAt, xmlByteConsumed(m_context));
+        m_outOfMemory = m_outOfMemory || problem.code == XML_ERR_NO_MEMORY;
+        const bool inContent = m_context->instate != XML_PARSER_ATTRIBUTE_VALUE;
+        if ((problem.code == XML_ERR_UNDECLARED_ENTITY || undeclaredEntity) && inContent)
+            m_builder.keepSpace();
+        if (m_firstError.isEmpty()) {
+            m_firstErrorLine = problem.line;
+            m_firstError =
+                problem.line > 0 ? QStringLiteral("line %1: %2").arg(problem.line).arg(text) : text;
         }
     }
 
-    void onStartElement(const xmlChar *name, const xmlChar *prefix, const xmlChar *uri, int namespaces,
-                        const xmlChar **namespaceList, int attributes, const xmlChar **attributeList)
+    void onStartElement(const XmlTreeBuilder::RawName &name, int namespaces, const xmlChar **namespaceList,
+                        int attributes, const xmlChar **attributeList)
     {
+        m_inSubset = false;
         if (m_request.cancelled && m_request.cancelled->load(std::memory_order_relaxed)) {
             m_cancelled = true;
             xmlStopParser(m_context);
             return;
         }
-        if (int(m_open.size()) >= maximumElementDepth) {
+        if (m_builder.depth() >= maximumElementDepth) {
             m_tooDeep = true;
             xmlStopParser(m_context);
             return;
         }
-        if (!m_open.empty())
-            m_open.back().hasElements = true;
-        {
-            const TreeMemory::Scope scope(&m_arena);
-            xmlSAX2StartElementNs(m_context, name, prefix, uri, namespaces, namespaceList, attributes, 0,
-                                  attributeList);
+        m_builder.startElement(name);
+        for (int i = 0; i < namespaces; ++i)
+            m_builder.addNamespace(viewOf(namespaceList[2 * i]), viewOf(namespaceList[2 * i + 1]));
+        for (int i = 0; i < attributes; ++i) {
+            // Local name, prefix, URI, begin and end of the value.
+            const xmlChar **const parts = attributeList + std::ptrdiff_t(5) * i;
+            m_builder.addAttribute({parts[0], parts[1], parts[2]}, viewOf(parts[3], parts[4] - parts[3]));
         }
-        const bool preserved = m_context->space && *m_context->space == 1;
-        m_open.push_back({m_context->node, m_blanks.size(), preserved, false});
     }
 
-    void onCharacters(const xmlChar *text, int length)
+    void finish(xmlDoc *document, ParseOutcome &outcome)
     {
-        if (m_open.empty() || m_open.back().node != m_context->node)
-            return;
-        if (!m_open.back().keepsBlanks) {
-            if (const xmlChar *blank = keptBlank(text, length)) {
-                m_blanks.push_back({m_context->node->last, blank, length});
-                return;
-            }
-            keepBlanks();
+        outcome.loss.bytesTotal = m_request.source.size;
+        outcome.loss.isCutOff = m_builder.depth() > 0;
+        // A parser that gave up has lost its place; the error tells it.
+        const long consumed = std::max(xmlByteConsumed(m_context), m_errorAt);
+        const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
+        if (document && !stops && !m_context->wellFormed && consumed >= 0) {
+            outcome.loss.bytesRead = m_input.sourceOffset(consumed);
+            outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
+            if (outcome.loss.bytesTotal < 0)
+                outcome.loss.bytesTotal = m_input.bytesRead();
         }
-        const TreeMemory::Scope scope(&m_arena);
-        xmlSAX2Characters(m_context, text, length);
-    }
-
-    /// The text in the parser's dictionary when it is white space alone, else null. Indentation repeats:
-    /// the last text of each length is looked at first.
-    const xmlChar *keptBlank(const xmlChar *text, int length)
-    {
-        const auto bytes = std::size_t(length);
-        const xmlChar *last = bytes < m_lastBlanks.size() ? m_lastBlanks[bytes] : nullptr;
-        if (last && std::memcmp(last, text, bytes) == 0)
-            return last;
-        const bool blank = std::all_of(
-            text, text + length, [](xmlChar c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
-        if (!blank)
-            return nullptr;
-        const xmlChar *kept = xmlDictLookup(m_context->dict, text, length);
-        if (bytes < m_lastBlanks.size())
-            m_lastBlanks[bytes] = kept;
-        return kept;
-    }
-
-    /// The open element turns out to hold text: its white space is data, that met so far included.
-    void keepBlanks()
-    {
-        if (m_open.empty() || m_open.back().keepsBlanks)
+        m_builder.finish();
+        if (!document)
             return;
-        OpenElement &element = m_open.back();
-        element.keepsBlanks = true;
-        const TreeMemory::Scope scope(&m_arena);
-        std::size_t i = element.firstBlank;
-        while (i < m_blanks.size()) {
-            xmlNode *after = m_blanks[i].after;
-            if (after == element.node->last && element.node == m_context->node) {
-                // At the end so far, where text that follows joins it.
-                for (; i < m_blanks.size(); ++i)
-                    xmlSAX2Characters(m_context, m_blanks[i].text, m_blanks[i].length);
-                break;
-            }
-            xmlNode *text = xmlNewDocText(m_context->myDoc, nullptr);
-            if (!text)
-                break;
-            for (; i < m_blanks.size() && m_blanks[i].after == after; ++i)
-                xmlNodeAddContentLen(text, m_blanks[i].text, m_blanks[i].length);
-            insertAfter(element.node, after, text);
-        }
-        m_blanks.resize(element.firstBlank);
+        m_tree.version = QByteArray(reinterpret_cast<const char *>(document->version));
+        m_tree.isStandalone = document->standalone;
+        m_tree.encoding = m_input.declaredEncoding();
+        xmlDtd *const doctype = xmlGetIntSubset(document);
+        m_builder.setDoctype(doctype ? textOfDoctype(document, doctype) : std::string());
     }
 
-    static void insertAfter(xmlNode *parent, xmlNode *after, xmlNode *text)
+    static std::string textOfDoctype(xmlDoc *document, xmlDtd *doctype)
     {
-        text->parent = parent;
-        text->prev = after;
-        text->next = after ? after->next : parent->children;
-        if (after)
-            after->next = text;
-        else
-            parent->children = text;
-        if (text->next)
-            text->next->prev = text;
-        else
-            parent->last = text;
-    }
-
-    /// The open element ends: white space between elements goes, white space that is all stays.
-    void settleBlanks()
-    {
-        if (m_open.empty())
-            return;
-        if (m_blanks.size() > m_open.back().firstBlank && !m_open.back().hasElements)
-            keepBlanks();
-        m_blanks.resize(m_open.back().firstBlank);
-        m_open.pop_back();
+        const std::unique_ptr<xmlBuffer, void (*)(xmlBuffer *)> buffer(xmlBufferCreate(), xmlBufferFree);
+        if (!buffer)
+            throw std::bad_alloc();
+        xmlNodeDump(buffer.get(), document, reinterpret_cast<xmlNode *>(doctype), 0, 0);
+        return std::string(viewOf(xmlBufferContent(buffer.get())));
     }
 
     xmlParserCtxt *m_context;
     const ParseRequest &m_request;
-    TreeMemory::Arena &m_arena;
-    std::vector<OpenElement> m_open;
-    std::vector<PendingBlank> m_blanks;
-    std::array<const xmlChar *, 128> m_lastBlanks = {};
-    std::vector<char> m_readAhead = std::vector<char>(std::size_t(1) << 18);
-    int m_readPosition = 0;
-    int m_readEnd = 0;
+    XmlInput m_input;
+    XmlTree &m_tree;
+    XmlTreeBuilder m_builder;
+    bool m_inSubset = false;
     bool m_repaired = false;
     bool m_tooDeep = false;
-    bool m_readFailed = false;
     bool m_cancelled = false;
+    bool m_outOfMemory = false;
+    long m_errorAt = 0; // bytes of the text
     QString m_firstError;
+    std::int64_t m_firstErrorLine = 0;
+    QString m_lastError;
 };
 
 } // namespace
 
-ParseOutcome parseXml(const ParseRequest &request, TreeMemory::Arena &arena)
+ParseOutcome parseXml(const ParseRequest &request, XmlTree &tree)
 {
-    TreeMemory::install();
-    ParseOutcome outcome;
+    XmlLibrary::prepare();
     const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(xmlNewParserCtxt());
     if (!context) {
-        outcome.firstError = QStringLiteral("There is not enough memory to read it.");
+        ParseOutcome outcome;
+        outcome.outOfMemory = true;
         return outcome;
     }
-    TreeBuilder builder(context.get(), request, arena);
-    int options =
-        XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    if (request.tolerant)
-        options |= XML_PARSE_RECOVER;
-    outcome.tree =
-        xmlCtxtReadIO(context.get(), TreeBuilder::read, nullptr, &builder, nullptr, nullptr, options);
-    builder.finish(outcome);
-    return outcome;
+    return Parse(context.get(), request, tree).run();
 }
 
 } // namespace vantrell

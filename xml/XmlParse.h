@@ -1,43 +1,57 @@
 #pragma once
 
-// For use inside xml/ only: it speaks the XML library's types.
+// For use inside xml/ only.
 
-#include "xml/TreeMemory.h"
-
-#include <libxml/tree.h>
+#include "xml/XmlInput.h"
+#include "xml/XmlTree.h"
 
 #include <QString>
 
 #include <atomic>
-#include <functional>
+#include <cstdint>
 
 namespace vantrell
 {
 
-/// Elements may stand in one another this deep; copying a tree and searching it recurse.
+/// Elements may stand in one another this deep; copying a tree recurses.
 constexpr int maximumElementDepth = 1000;
 
 struct ParseRequest {
-    /// Fills the buffer with up to the given number of bytes; 0 at the end, -1 on a failed read.
-    std::function<int(char *, int)> read;
+    XmlSource source;
     /// Repair what is malformed. Off, the first fatal error ends the parse.
     bool tolerant = true;
+    /// Keep all white space, also what stands between elements.
+    bool keepsSpace = false;
     /// Looked at now and then; once true, the parse ends without a tree. May be null.
     const std::atomic<bool> *cancelled = nullptr;
 };
 
+/// How much of an input is missing from its tree.
+struct XmlLoss {
+    bool isCutOff = false;            ///< the input ends inside of elements
+    std::int64_t droppedElements = 0; ///< that come after the end of the root element
+    std::int64_t bytesRead = 0;       ///< of the input, up to where the tree ends
+    std::int64_t bytesTotal = -1;     ///< -1 when it is not known
+
+    bool isLoss() const { return isCutOff || droppedElements > 0; }
+};
+
 struct ParseOutcome {
-    xmlDoc *tree = nullptr; ///< owned by the caller; null when nothing could be made of the input
-    bool repaired = false;  ///< the input was not well-formed
+    bool hasTree = false;  ///< whether anything could be made of the input
+    bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
     bool readFailed = false;
     bool cancelled = false;
-    QString firstError; ///< of the parser, with its line; empty when there was none
+    bool outOfMemory = false;
+    QString firstError; ///< with its line; empty when there was none
+    QString lastError;  ///< without
+    XmlLoss loss;
 };
 
-/// Parses into the arena's memory. White space between elements is left out; white space that is all
-/// an element holds, or that stands beside text, CDATA or a repaired reference in one element, stays.
-/// Nothing is fetched, no entity is declared or expanded, no attribute gets a default. Any thread.
-ParseOutcome parseXml(const ParseRequest &request, TreeMemory::Arena &arena);
+/// Parses into an empty tree. White space between elements is left out; white space that is all an element
+/// holds, or that stands beside text, CDATA or a repaired reference in one element, stays. Nothing is
+/// fetched, no entity is declared or expanded, no attribute gets a default. What is written of the tree is
+/// well-formed, whatever was repaired. Any thread.
+ParseOutcome parseXml(const ParseRequest &request, XmlTree &tree);
 
 } // namespace vantrell

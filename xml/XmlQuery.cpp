@@ -2,10 +2,7 @@
 
 #include "xml/XmlQueryFallback.h"
 #include "xml/XmlQueryParse.h"
-
-#include <libxml/tree.h>
-
-#include <libxml/dict.h>
+#include "xml/XmlTree.h"
 
 #include <QHash>
 
@@ -23,29 +20,30 @@ namespace vantrell
 class XmlQueryWalk
 {
 public:
-    XmlQueryWalk(const std::vector<XmlQuery::Path> &paths, std::size_t limit, const xmlDoc *document,
+    XmlQueryWalk(const std::vector<XmlQuery::Path> &paths, std::size_t limit, const XmlTree &tree,
                  XmlNodeList &found)
-        : m_limit(limit)
+        : m_tree(tree)
+        , m_limit(limit)
         , m_found(found)
     {
         for (const XmlQuery::Path &path : paths) {
             m_start |= bit(m_steps.size());
             for (const XmlQuery::Step &step : path.steps)
-                addStep(step, &step == &path.steps.back(), document->dict);
+                addStep(step, &step == &path.steps.back());
         }
     }
 
     /// How many [n] predicates one evaluation can count at a time.
     static constexpr std::size_t maximumPositions = 16;
 
-    void run(xmlNode *context) { visit(context, m_start); }
+    void run(XmlNodeId context) { visit(context, m_start); }
 
 private:
     struct StepState {
         const XmlQuery::Step *step;
         std::size_t firstPosition; ///< of its [n] predicates among all
         bool last;
-        std::vector<const xmlChar *> names; ///< as the document keeps them; what it has not is left out
+        std::vector<XmlNameId> names; ///< in the tree; what it has not is left out
     };
     using Counters = std::array<std::int64_t, maximumPositions>;
 
@@ -53,7 +51,7 @@ private:
 
     bool isFull() const { return m_limit && m_found.size() >= m_limit; }
 
-    void addStep(const XmlQuery::Step &step, bool last, xmlDict *dictionary)
+    void addStep(const XmlQuery::Step &step, bool last)
     {
         const std::uint64_t self = bit(m_steps.size());
         if (step.anywhere)
@@ -64,27 +62,29 @@ private:
             m_otherNodes |= self;
         StepState state{&step, m_positions, last, {}};
         for (const std::string &name : step.names) {
-            const auto *text = reinterpret_cast<const xmlChar *>(name.c_str());
-            if (const xmlChar *kept = xmlDictExists(dictionary, text, int(name.size())))
-                state.names.push_back(kept);
+            if (const XmlNameId id = m_tree.find(name, 0, XmlTree::hashOf(name)))
+                state.names.push_back(id);
         }
         for (const XmlQuery::Predicate &predicate : step.predicates)
             m_positions += predicate.kind == XmlQuery::Predicate::Kind::Position;
         m_steps.push_back(std::move(state));
     }
 
-    void visit(xmlNode *node, std::uint64_t contexts)
+    void visit(XmlNodeId id, std::uint64_t contexts)
     {
+        const XmlTree::Node &node = m_tree.node(id);
         for (std::uint64_t rest = contexts & m_attributes; rest; rest &= rest - 1)
             visitAttributes(node, *m_steps[std::size_t(std::countr_zero(rest))].step);
-        if (node->type != XML_ELEMENT_NODE && node->type != XML_DOCUMENT_NODE)
+        if (!node.hasChildren())
             return;
         const std::uint64_t everywhere = contexts & m_anywhere;
         std::uint64_t childSteps = contexts & ~m_attributes;
         Counters counters;
         std::fill_n(counters.begin(), m_positions, 0);
-        for (xmlNode *child = node->children; child && !isFull(); child = child->next) {
-            const bool element = child->type == XML_ELEMENT_NODE;
+        XmlNodeId childId = node.firstChild;
+        while (childId && !isFull()) {
+            const XmlTree::Node &child = m_tree.node(childId);
+            const bool element = child.isElement();
             std::uint64_t next = element ? everywhere : 0;
             bool wanted = false;
             for (std::uint64_t rest = element ? childSteps : childSteps & m_otherNodes; rest;
@@ -104,31 +104,33 @@ private:
                     childSteps &= ~bit(i);
             }
             if (wanted)
-                m_found.push_back(XmlNode(child));
+                m_found.push_back(m_tree.handle(childId));
             if (next && holdsCandidates(child, next) && !isFull())
-                visit(child, next);
+                visit(childId, next);
             if (!everywhere && childSteps == 0)
                 break;
+            childId = child.next;
         }
     }
 
     /// Whether anything in the node can match a step that it is a context of. Most elements of a project
     /// hold one text and nothing else.
-    bool holdsCandidates(const xmlNode *node, std::uint64_t contexts) const
+    bool holdsCandidates(const XmlTree::Node &node, std::uint64_t contexts) const
     {
         if (contexts & (m_attributes | m_otherNodes))
             return true;
-        const xmlNode *child = node->children;
-        return child && (child->type == XML_ELEMENT_NODE || child->next);
+        if (!node.hasChildren() || node.firstChild == 0)
+            return false;
+        const XmlTree::Node &child = m_tree.node(node.firstChild);
+        return child.isElement() || child.next;
     }
 
-    void visitAttributes(xmlNode *node, const XmlQuery::Step &step)
+    void visitAttributes(const XmlTree::Node &node, const XmlQuery::Step &step)
     {
-        if (node->type != XML_ELEMENT_NODE)
+        if (!node.isElement())
             return;
-        for (xmlAttr *attribute = node->properties; attribute && !isFull(); attribute = attribute->next) {
-            const XmlNode handle(reinterpret_cast<xmlNode *>(attribute));
-            if (!handle.hasName(step.names.front()))
+        for (XmlNodeId id = node.firstAttribute; id && !isFull(); id = m_tree.node(id).next) {
+            if (!isAttributeNamed(id, step.names.front()))
                 continue;
             // An element has each attribute once: the only position is 1.
             const bool passes = std::all_of(
@@ -136,30 +138,36 @@ private:
                     return predicate.kind == XmlQuery::Predicate::Kind::Position && predicate.position == 1;
                 });
             if (passes)
-                m_found.push_back(handle);
+                m_found.push_back(m_tree.handle(id));
         }
     }
 
-    static bool matchesTest(const xmlNode *node, const StepState &state)
+    bool isAttributeNamed(XmlNodeId id, const std::string &name) const
+    {
+        const XmlTree::Node &node = m_tree.node(id);
+        return node.kind() == XmlTree::Kind::Attribute && m_tree.name(node.name).qualified == name;
+    }
+
+    static bool matchesTest(const XmlTree::Node &node, const StepState &state)
     {
         switch (state.step->test) {
         case XmlQuery::Test::AnyNode:
             return true;
         case XmlQuery::Test::Text:
-            return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE;
+            return node.isText();
         case XmlQuery::Test::AnyElement:
-            return node->type == XML_ELEMENT_NODE;
+            return node.isElement();
         case XmlQuery::Test::Name:
             break;
         }
-        if (node->type != XML_ELEMENT_NODE || node->ns)
-            return false;
-        // A document keeps each name once, also those of elements that are made later.
-        return std::find(state.names.begin(), state.names.end(), node->name) != state.names.end();
+        // A tree keeps each name once, also those of elements that are made later.
+        return node.isElement() &&
+               std::find(state.names.begin(), state.names.end(), node.name) != state.names.end();
     }
 
     /// \a more becomes false once no later sibling can pass.
-    static bool passesPredicates(const xmlNode *node, const StepState &state, Counters &counters, bool &more)
+    bool passesPredicates(const XmlTree::Node &node, const StepState &state, Counters &counters,
+                          bool &more) const
     {
         std::size_t position = state.firstPosition;
         for (const XmlQuery::Predicate &predicate : state.step->predicates) {
@@ -185,30 +193,30 @@ private:
         return true;
     }
 
-    static bool attributeEquals(const xmlNode *node, const XmlQuery::Predicate &predicate)
+    bool attributeEquals(const XmlTree::Node &node, const XmlQuery::Predicate &predicate) const
     {
-        if (node->type != XML_ELEMENT_NODE)
+        if (!node.isElement())
             return false;
-        for (xmlAttr *attribute = node->properties; attribute; attribute = attribute->next) {
-            const XmlNode handle(reinterpret_cast<xmlNode *>(attribute));
-            if (handle.hasName(predicate.name))
-                return handle.stringValue().toUtf8() == predicate.literal.c_str();
+        for (XmlNodeId id = node.firstAttribute; id; id = m_tree.node(id).next) {
+            if (isAttributeNamed(id, predicate.name))
+                return m_tree.text(m_tree.node(id).text) == predicate.literal;
         }
         return false;
     }
 
-    static bool textEquals(const xmlNode *node, const std::string &literal)
+    bool textEquals(const XmlTree::Node &node, const std::string &literal) const
     {
-        if (node->type != XML_ELEMENT_NODE)
+        if (!node.isElement())
             return false;
-        for (const xmlNode *child = node->children; child; child = child->next) {
-            const bool text = child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE;
-            if (text && literal == reinterpret_cast<const char *>(child->content))
+        for (XmlNodeId id = node.firstChild; id; id = m_tree.node(id).next) {
+            const XmlTree::Node &child = m_tree.node(id);
+            if (child.isText() && m_tree.text(child.text) == literal)
                 return true;
         }
         return false;
     }
 
+    const XmlTree &m_tree;
     std::vector<StepState> m_steps;
     std::uint64_t m_start = 0;      // the first step of each path
     std::uint64_t m_anywhere = 0;   // steps reached by "//"
@@ -299,7 +307,7 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
     }
     const Path &path = m_paths.front();
     if (path.absolute)
-        context = XmlNode(reinterpret_cast<xmlNode *>(context.handle()->doc));
+        context = XmlNode(context.tree(), XmlTree::documentId);
     for (int i = 0; i < path.parents; ++i)
         context = context.parent();
     if (!context)
@@ -308,8 +316,7 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
         answer.nodes.push_back(context);
         return answer;
     }
-    XmlQueryWalk(m_paths, path.trailingParents ? 0 : limit, context.handle()->doc, answer.nodes)
-        .run(context.handle());
+    XmlQueryWalk(m_paths, path.trailingParents ? 0 : limit, *context.tree(), answer.nodes).run(context.id());
     if (path.trailingParents > 0) {
         for (XmlNode &node : answer.nodes) {
             for (int i = 0; i < path.trailingParents; ++i)

@@ -1,6 +1,7 @@
 #include "xml/XmlQueryFallback.h"
 
-#include "xml/TreeMemory.h"
+#include "xml/XmlConversion.h"
+#include "xml/XmlLibrary.h"
 
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
@@ -9,12 +10,15 @@
 #include <QStringList>
 
 #include <memory>
+#include <new>
 
 namespace vantrell
 {
 
 namespace
 {
+
+const QString noMemory = QStringLiteral("There is not enough memory to evaluate it.");
 
 struct XPathDeleter {
     void operator()(xmlXPathContext *context) const { xmlXPathFreeContext(context); }
@@ -23,7 +27,7 @@ struct XPathDeleter {
 using ContextPointer = std::unique_ptr<xmlXPathContext, XPathDeleter>;
 using ObjectPointer = std::unique_ptr<xmlXPathObject, XPathDeleter>;
 
-void keepError(void *error, xmlErrorPtr problem)
+void keepError(void *error, XmlLibrary::ErrorPointer problem)
 {
     *static_cast<QString *>(error) = QString::fromUtf8(problem->message).trimmed();
 }
@@ -47,10 +51,10 @@ QString XmlQueryFallback::withoutParenthesisedSteps(const QString &text)
 
 XmlQueryFallback::XmlQueryFallback(const QString &text)
 {
-    TreeMemory::install();
+    XmlLibrary::prepare();
     const ContextPointer context(xmlXPathNewContext(nullptr));
     if (!context) {
-        m_error = QStringLiteral("There is not enough memory to evaluate it.");
+        m_error = noMemory;
         return;
     }
     context->error = keepError;
@@ -74,29 +78,39 @@ XmlQuery::Answer XmlQueryFallback::evaluate(XmlNode context) const
         answer.error = m_error;
         return answer;
     }
-    const std::lock_guard lock(m_mutex);
-    const ContextPointer evaluation(xmlXPathNewContext(context.handle()->doc));
-    if (!evaluation) {
-        answer.error = QStringLiteral("There is not enough memory to evaluate it.");
-        return answer;
+    XmlLibrary::prepare();
+    try {
+        evaluateOn(XmlConversion(context), answer);
+    } catch (const std::bad_alloc &) {
+        answer.error = noMemory;
     }
+    return answer;
+}
+
+void XmlQueryFallback::evaluateOn(const XmlConversion &tree, XmlQuery::Answer &answer) const
+{
+    if (!tree.node())
+        return;
+    const std::lock_guard lock(m_mutex);
+    const ContextPointer evaluation(xmlXPathNewContext(tree.document()));
+    if (!evaluation)
+        throw std::bad_alloc();
     evaluation->error = keepError;
     evaluation->userData = &answer.error;
-    evaluation->node = context.handle();
+    evaluation->node = tree.node();
     const ObjectPointer result(xmlXPathCompiledEval(m_expression, evaluation.get()));
     if (!result) {
         if (answer.error.isEmpty())
             answer.error = QStringLiteral("Invalid expression");
-        return answer;
+        return;
     }
     if (result->type == XPATH_NODESET && result->nodesetval) {
         xmlXPathNodeSetSort(result->nodesetval);
         for (int i = 0; i < result->nodesetval->nodeNr; ++i) {
-            if (result->nodesetval->nodeTab[i]->type != XML_NAMESPACE_DECL)
-                answer.nodes.push_back(XmlNode(result->nodesetval->nodeTab[i]));
+            if (const XmlNode found = tree.original(result->nodesetval->nodeTab[i]))
+                answer.nodes.push_back(found);
         }
     }
-    return answer;
 }
 
 } // namespace vantrell

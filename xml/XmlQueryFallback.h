@@ -9,8 +9,9 @@ struct _xmlXPathCompExpr;
 namespace vantrell
 {
 
-/// A query that the XML library evaluates: compiled once, evaluated by one thread at a time. A
-/// parenthesised step of names, which XPath 1.0 lacks, is rewritten as the union of the full paths.
+/// A query that the XML library evaluates on a copy of the tree: compiled once, evaluated by one thread at a
+/// time. An evaluation takes time and memory in step with the whole tree. A parenthesised step of names,
+/// which XPath 1.0 lacks, is rewritten as the union of the full paths.
 class XmlQueryFallback
 {
 public:
@@ -25,6 +26,8 @@ public:
     static QString withoutParenthesisedSteps(const QString &text);
 
 private:
+    void evaluateOn(const class XmlConversion &tree, XmlQuery::Answer &answer) const;
+
     mutable std::mutex m_mutex; // guards the compiled expression during an evaluation
     _xmlXPathCompExpr *m_expression = nullptr;
     QString m_error;

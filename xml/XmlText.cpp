@@ -3,7 +3,6 @@
 #include "support/QVLog.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace vantrell::XmlText
 {
@@ -53,12 +52,9 @@ qsizetype firstOf(QStringView text, char16_t c)
 
 } // namespace
 
-QString fromUtf8(const unsigned char *text)
+QString fromUtf8(std::string_view text)
 {
-    if (!text)
-        return QString();
-    const char *bytes = reinterpret_cast<const char *>(text);
-    return *bytes ? QString::fromUtf8(bytes) : QStringLiteral("");
+    return text.empty() ? QStringLiteral("") : QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
 QByteArray toUtf8(const QString &text)

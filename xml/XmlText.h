@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string_view>
+
 namespace vantrell
 {
 
@@ -10,8 +12,8 @@ namespace vantrell
 namespace XmlText
 {
 
-/// The tree's text as a string; null for null, never null otherwise.
-QString fromUtf8(const unsigned char *text);
+/// The tree's text as a string, never null.
+QString fromUtf8(std::string_view text);
 
 /// The string as the tree takes it. Characters that XML forbids are dropped and logged; an unpaired
 /// surrogate is one of them. Any thread.

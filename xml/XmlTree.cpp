@@ -1,0 +1,370 @@
+#include "xml/XmlTree.h"
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <new>
+#include <type_traits>
+
+namespace vantrell
+{
+
+static_assert(sizeof(XmlTree::Node) == 24);
+static_assert(std::is_trivially_default_constructible_v<XmlTree::Node>);
+
+XmlTree::XmlTree(XmlDocument *owner)
+    : m_owner(owner)
+    , m_uris(1)
+    , m_nameTable(256)
+{
+    m_names.emplace_back();
+    make(Kind::Document); // 0, which stands for no node
+    make(Kind::Document);
+}
+
+// Names ------------------------------------------------------------------------------------------
+
+std::size_t XmlTree::hashOf(std::string_view qualified)
+{
+    return std::hash<std::string_view>()(qualified);
+}
+
+XmlNameId XmlTree::find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const
+{
+    const std::size_t mask = m_nameTable.size() - 1;
+    for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
+        const XmlNameId id = m_nameTable[place];
+        if (id == noName || (m_names[id].uri == uri && m_names[id].qualified == qualified))
+            return id;
+    }
+}
+
+XmlNameId XmlTree::intern(std::string_view prefix, std::string_view local, std::string_view uri)
+{
+    std::string qualified(prefix);
+    if (!prefix.empty())
+        qualified += ':';
+    qualified += local;
+    const std::uint32_t uriNumber = internUri(uri);
+    const std::size_t hash = hashOf(qualified);
+    if (const XmlNameId known = find(qualified, uriNumber, hash))
+        return known;
+    if (m_names.size() >= std::size_t(1) << 28)
+        throw std::bad_alloc();
+    if (m_names.size() * 2 > m_nameTable.size())
+        growNameTable();
+    const auto id = XmlNameId(m_names.size());
+    const auto localAt = std::uint32_t(qualified.size() - local.size());
+    const QString text = QString::fromUtf8(qualified.data(), qsizetype(qualified.size()));
+    m_names.push_back({std::move(qualified), localAt, uriNumber, text});
+    const std::size_t mask = m_nameTable.size() - 1;
+    std::size_t place = hash & mask;
+    while (m_nameTable[place] != noName)
+        place = (place + 1) & mask;
+    m_nameTable[place] = id;
+    return id;
+}
+
+void XmlTree::growNameTable()
+{
+    std::vector<XmlNameId> larger(m_nameTable.size() * 2);
+    const std::size_t mask = larger.size() - 1;
+    for (XmlNameId id = 1; id < m_names.size(); ++id) {
+        std::size_t place = hashOf(m_names[id].qualified) & mask;
+        while (larger[place] != noName)
+            place = (place + 1) & mask;
+        larger[place] = id;
+    }
+    m_nameTable = std::move(larger);
+}
+
+/// Projects have none or a few.
+std::uint32_t XmlTree::internUri(std::string_view uri)
+{
+    if (uri.empty())
+        return 0;
+    const auto number = std::uint32_t(std::find(m_uris.begin() + 1, m_uris.end(), uri) - m_uris.begin());
+    if (number == m_uris.size())
+        m_uris.emplace_back(uri);
+    return number;
+}
+
+std::string_view XmlTree::prefix(XmlNameId id) const
+{
+    const Name &known = m_names[id];
+    return std::string_view(known.qualified).substr(0, known.localAt ? known.localAt - 1 : 0);
+}
+
+// Texts ------------------------------------------------------------------------------------------
+
+/// Room for that many bytes, which a small one shares with others.
+char *XmlTree::newText(std::size_t size, XmlTextId &id)
+{
+    const std::size_t rounded = (size + textUnit - 1) / textUnit * textUnit;
+    const bool isFirst = m_texts.empty();
+    if (m_textUsed + rounded > textChunkSize) {
+        const std::size_t room = rounded + (isFirst ? textUnit : 0); // place 0 is none
+        const std::size_t chunks = (room + textChunkSize - 1) / textChunkSize;
+        if (m_texts.size() + chunks > std::size_t(1) << (32 - textBits))
+            throw std::bad_alloc();
+        m_textMemory.emplace_back(new char[chunks * textChunkSize]);
+        for (std::size_t i = 0; i < chunks; ++i)
+            m_texts.push_back(m_textMemory.back().get() + i * textChunkSize);
+        // What a text of several chunks leaves of its last one is not used.
+        id = XmlTextId((m_texts.size() - chunks) << textBits) + (isFirst ? 1 : 0);
+        m_textUsed = chunks > 1 ? textChunkSize : room;
+    } else {
+        id = XmlTextId(((m_texts.size() - 1) << textBits) + m_textUsed / textUnit);
+        m_textUsed += rounded;
+    }
+    return m_texts[id >> textBits] + std::size_t(id & ((1u << textBits) - 1)) * textUnit;
+}
+
+XmlTextId XmlTree::addText(std::string_view text)
+{
+    if (text.size() > std::numeric_limits<std::uint32_t>::max())
+        throw std::bad_alloc();
+    const auto size = std::uint32_t(text.size());
+    XmlTextId id = 0;
+    char *const place = newText(sizeof size + text.size(), id);
+    std::memcpy(place, &size, sizeof size);
+    if (size > 0)
+        std::memcpy(place + sizeof size, text.data(), text.size());
+    return id;
+}
+
+std::string_view XmlTree::text(XmlTextId id) const
+{
+    if (id == 0)
+        return {};
+    const char *const place = textAt(id);
+    std::uint32_t size;
+    std::memcpy(&size, place, sizeof size);
+    return {place + sizeof size, size};
+}
+
+// Structure --------------------------------------------------------------------------------------
+
+XmlNodeId XmlTree::make(Kind kind, XmlNameId name)
+{
+    if (m_nodeCount == std::numeric_limits<XmlNodeId>::max())
+        throw std::bad_alloc();
+    if ((m_nodeCount & (nodesPerChunk - 1)) == 0)
+        m_nodes.emplace_back(new Node[nodesPerChunk]);
+    const XmlNodeId id = m_nodeCount++;
+    Node &made = node(id);
+    made.parent = made.next = made.previous = made.firstChild = made.firstAttribute = 0;
+    made.name = name;
+    made.kindNumber = std::uint32_t(kind);
+    return id;
+}
+
+XmlNodeId XmlTree::makeText(Kind kind, std::string_view text)
+{
+    const XmlTextId stored = addText(text);
+    const XmlNodeId id = make(kind);
+    node(id).text = stored;
+    return id;
+}
+
+void XmlTree::append(XmlNodeId parent, XmlNodeId child)
+{
+    Node &above = node(parent);
+    Node &added = node(child);
+    added.parent = parent;
+    added.next = 0;
+    if (above.firstChild == 0) {
+        above.firstChild = added.previous = child;
+        return;
+    }
+    XmlNodeId &last = node(above.firstChild).previous;
+    node(last).next = child;
+    added.previous = last;
+    last = child;
+}
+
+void XmlTree::insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child)
+{
+    Node &above = node(parent);
+    const XmlNodeId next = previous ? node(previous).next : above.firstChild;
+    if (next == 0) {
+        append(parent, child);
+        return;
+    }
+    Node &added = node(child);
+    added.parent = parent;
+    added.next = next;
+    added.previous = node(next).previous; // the last one when it comes in front
+    node(next).previous = child;
+    if (previous)
+        node(previous).next = child;
+    else
+        above.firstChild = child;
+}
+
+void XmlTree::appendAttribute(XmlNodeId element, XmlNodeId attribute)
+{
+    Node &owner = node(element);
+    Node &added = node(attribute);
+    added.parent = element;
+    added.next = 0;
+    if (owner.firstAttribute == 0) {
+        owner.firstAttribute = added.previous = attribute;
+        return;
+    }
+    XmlNodeId &last = node(owner.firstAttribute).previous;
+    node(last).next = attribute;
+    added.previous = last;
+    last = attribute;
+}
+
+void XmlTree::removeAttributes(XmlNodeId element)
+{
+    Node &owner = node(element);
+    XmlNodeId lastKept = 0;
+    XmlNodeId id = owner.firstAttribute;
+    for (; id && node(id).kind() == Kind::Namespace; id = node(id).next)
+        lastKept = id;
+    if (lastKept == 0) {
+        owner.firstAttribute = 0;
+    } else {
+        node(lastKept).next = 0;
+        node(owner.firstAttribute).previous = lastKept;
+    }
+    while (id) {
+        Node &taken = node(id);
+        id = taken.next;
+        taken.parent = taken.next = taken.previous = 0;
+    }
+}
+
+void XmlTree::unlink(XmlNodeId child)
+{
+    Node &taken = node(child);
+    Node &above = node(taken.parent);
+    const XmlNodeId first = above.firstChild;
+    if (first == child)
+        above.firstChild = taken.next;
+    else
+        node(taken.previous).next = taken.next;
+    if (taken.next)
+        node(taken.next).previous = taken.previous;
+    else if (first != child)
+        node(first).previous = taken.previous;
+    taken.parent = taken.next = taken.previous = 0;
+}
+
+XmlNodeId XmlTree::previousSibling(XmlNodeId id) const
+{
+    const Node &self = node(id);
+    return self.previous == 0 || node(self.previous).next == 0 ? 0 : self.previous;
+}
+
+XmlNodeId XmlTree::lastChild(XmlNodeId id) const
+{
+    const Node &self = node(id);
+    return self.hasChildren() && self.firstChild ? node(self.firstChild).previous : 0;
+}
+
+XmlNodeId XmlTree::following(XmlNodeId id, XmlNodeId top) const
+{
+    const Node &self = node(id);
+    if (self.hasChildren() && self.firstChild)
+        return self.firstChild;
+    for (XmlNodeId up = id; up && up != top; up = node(up).parent) {
+        if (node(up).next)
+            return node(up).next;
+    }
+    return 0;
+}
+
+// Copies -----------------------------------------------------------------------------------------
+
+XmlNameId XmlTree::copyName(const XmlTree &from, XmlNameId id)
+{
+    if (&from == this || id == noName)
+        return id;
+    const Name &known = from.name(id);
+    return intern(from.prefix(id), std::string_view(known.qualified).substr(known.localAt),
+                  from.uri(known.uri));
+}
+
+/// The node by itself: an element with its attributes, others with their text.
+XmlNodeId XmlTree::copyShallow(const XmlTree &from, XmlNodeId id, const std::vector<XmlNameId> &declared)
+{
+    const Node &original = from.node(id);
+    const XmlNodeId made = make(original.kind(), copyName(from, original.name));
+    if (!original.hasChildren()) {
+        // Texts never change, so that copies within a tree share them.
+        const bool isShared = &from == this || original.text == 0;
+        const XmlTextId text = isShared ? original.text : addText(from.text(original.text));
+        node(made).text = text;
+        return made;
+    }
+    XmlNodeId attribute = original.firstAttribute;
+    for (; attribute && from.node(attribute).kind() == Kind::Namespace; attribute = from.node(attribute).next)
+        appendAttribute(made, copyShallow(from, attribute, {}));
+    for (const XmlNameId used : declared) {
+        const XmlTextId uri = addText(from.uri(from.name(used).uri));
+        const XmlNodeId declaration = make(Kind::Namespace, intern({}, from.prefix(used), {}));
+        node(declaration).text = uri;
+        appendAttribute(made, declaration);
+    }
+    for (; attribute; attribute = from.node(attribute).next)
+        appendAttribute(made, copyShallow(from, attribute, {}));
+    return made;
+}
+
+void XmlTree::copyChildren(const XmlTree &from, XmlNodeId original, XmlNodeId made)
+{
+    for (XmlNodeId child = from.node(original).firstChild; child; child = from.node(child).next) {
+        const XmlNodeId added = copyShallow(from, child, {});
+        append(made, added);
+        if (from.node(child).isElement())
+            copyChildren(from, child, added);
+    }
+}
+
+XmlNodeId XmlTree::copy(const XmlTree &from, XmlNodeId element)
+{
+    const XmlNodeId made = copyShallow(from, element, from.inheritedNamespaces(element));
+    copyChildren(from, element, made);
+    return made;
+}
+
+std::vector<XmlNameId> XmlTree::inheritedNamespaces(XmlNodeId element) const
+{
+    std::vector<XmlNameId> found;
+    if (m_uris.size() == 1)
+        return found;
+    const auto isDeclared = [&](XmlNodeId at, std::string_view prefix) {
+        for (;; at = node(at).parent) {
+            for (XmlNodeId i = node(at).firstAttribute; i && node(i).kind() == Kind::Namespace;
+                 i = node(i).next) {
+                if (name(node(i).name).qualified == prefix)
+                    return true;
+            }
+            if (at == element)
+                break;
+        }
+        return std::any_of(found.begin(), found.end(),
+                           [&](XmlNameId other) { return this->prefix(other) == prefix; });
+    };
+    const auto look = [&](XmlNodeId at, XmlNameId used) {
+        if (name(used).uri != 0 && prefix(used) != "xml" && !isDeclared(at, prefix(used)))
+            found.push_back(used);
+    };
+    for (XmlNodeId at = element; at; at = following(at, element)) {
+        if (!node(at).isElement())
+            continue;
+        look(at, node(at).name);
+        for (XmlNodeId i = node(at).firstAttribute; i; i = node(i).next) {
+            if (node(i).kind() == Kind::Attribute)
+                look(at, node(i).name);
+        }
+    }
+    return found;
+}
+
+} // namespace vantrell

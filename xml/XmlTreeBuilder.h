@@ -1,0 +1,95 @@
+#pragma once
+
+// For use inside xml/ only.
+
+#include "xml/XmlTree.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrell
+{
+
+/// Builds a tree from the events of a parser. Text is gathered until something else comes, so that a text
+/// that arrives in many parts costs no more than one in one part.
+class XmlTreeBuilder
+{
+public:
+    /// A name as a parser hands it over: zero-terminated UTF-8; prefix and URI are null when there is none.
+    struct RawName {
+        const unsigned char *local;
+        const unsigned char *prefix;
+        const unsigned char *uri;
+    };
+
+    /// \a keepsSpace: white space between elements is kept as well.
+    XmlTreeBuilder(XmlTree &tree, bool keepsSpace);
+
+    /// How many elements are open.
+    int depth() const { return int(m_open.size()); }
+
+    void startElement(const RawName &name);
+    void addNamespace(std::string_view prefix, std::string_view uri); ///< of the element just started
+    /// Of the element just started; one of a name that it has already is passed over.
+    void addAttribute(const RawName &name, std::string_view value);
+    void endElement();
+    void addText(std::string_view text);
+    void addCData(std::string_view text);
+    void addComment(std::string_view text);
+    void addInstruction(std::string_view target, std::string_view data, bool hasData);
+    void addDoctype();
+    /// The open element turns out to hold text: its white space is data, that met so far included.
+    void keepSpace();
+
+    /// Closes what is open.
+    void finish();
+    /// The document type declaration as it is written. One that no parser would take is left out.
+    void setDoctype(const std::string &text);
+
+private:
+    struct OpenElement {
+        XmlNodeId node;
+        std::uint32_t firstBlank; ///< its first one in the list of pending blanks
+        bool keepsSpace;          ///< it holds text, CDATA or a reference, or asks for its space to be kept
+        bool asksForSpace;        ///< by xml:space
+        bool hasElements;
+    };
+
+    /// White space met in an element that may turn out to stand between elements only.
+    struct PendingBlank {
+        XmlNodeId after; ///< the child that it follows; 0 at the element's start
+        std::uint32_t at;
+        std::uint32_t length;
+    };
+
+    /// A name met before, by the addresses of its parts; their content is compared all the same.
+    struct KnownName {
+        RawName raw = {nullptr, nullptr, nullptr};
+        XmlNameId id = XmlTree::noName;
+    };
+
+    enum class Run { None, Text, CData };
+
+    XmlNodeId parent() const { return m_open.empty() ? XmlTree::documentId : m_open.back().node; }
+    XmlNameId nameOf(const RawName &raw);
+    XmlNameId internedName(const RawName &raw);
+    void endRun();
+    void addRun(std::string_view text, Run kind);
+    bool keepBlank();
+
+    XmlTree &m_tree;
+    const bool m_keepsSpace;
+    std::vector<OpenElement> m_open;
+    std::string m_run; // of text or CDATA, not in the tree yet
+    Run m_runKind = Run::None;
+    std::vector<PendingBlank> m_blanks;
+    std::string m_blankBytes;
+    std::array<std::uint32_t, 128> m_lastBlanks = {}; // by length: where the last one is, plus 1
+    std::array<KnownName, 1024> m_knownNames;
+    XmlNodeId m_doctype = 0;
+};
+
+} // namespace vantrell
