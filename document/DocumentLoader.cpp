@@ -8,8 +8,30 @@
 #include "xml/XmlQuery.h"
 #include "xml/XmlReferences.h"
 
+#include <system_error>
+
 namespace vantrell
 {
+
+namespace
+{
+
+/// Why nothing of a project can be found under that root; empty for a project's.
+QString whyNoProject(XmlNode root)
+{
+    const QString xmeml = QStringLiteral("xmeml");
+    if (root.name().section(QLatin1Char(':'), -1) == xmeml && !root.namespaceUri().isNull()) {
+        return QStringLiteral(
+                   "its root element \"%1\" is in the namespace \"%2\", while those of a project are "
+                   "in none")
+            .arg(root.name(), root.namespaceUri());
+    }
+    if (root.name() != xmeml)
+        return QStringLiteral("its root element is \"%1\" instead of \"xmeml\"").arg(root.name());
+    return QString();
+}
+
+} // namespace
 
 bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
 {
@@ -21,12 +43,19 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
         return false;
     }
     m_fileURL = url;
-    m_loader = std::thread([this, typeName, url] {
+    m_loadIsReported = false;
+    const auto load = [this, typeName, url] {
         const bool ended = guarded("-[MyDocument loadProjectWithSettings:]",
                                    [&] { loadProjectWithSettings(typeName, url); });
         if (!ended)
             failLoading(QStringLiteral("An internal error ended the loading; the log tells more."));
-    });
+    };
+    try {
+        m_loader = std::thread(load);
+    } catch (const std::system_error &) {
+        QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
+        m_mainThread->post(load);
+    }
     return true;
 }
 
@@ -49,16 +78,17 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
     if (m_xmlDoc->wasRepaired()) {
         notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
                      .arg(url.toLocalFile(), m_xmlDoc->firstFault());
+        if (!m_xmlDoc->loss().isEmpty())
+            notice += QLatin1Char(' ') + m_xmlDoc->loss();
         QVLog::appendLog(u"%@", notice);
     }
-    const QString root = m_xmlDoc->rootElement().name();
-    if (root != QStringLiteral("xmeml")) {
+    const QString reason = whyNoProject(m_xmlDoc->rootElement());
+    if (!reason.isEmpty()) {
         notice += notice.isEmpty() ? QString() : QStringLiteral("\n");
-        notice += QStringLiteral("The file \"%1\" is no editing project: its root element is \"%2\" instead "
-                                 "of \"xmeml\". Nothing in it can be shown.")
-                      .arg(url.toLocalFile(), root);
+        notice += QStringLiteral("The file \"%1\" is no editing project: %2. Nothing in it can be shown.")
+                      .arg(url.toLocalFile(), reason);
     }
-    m_mainThread->runAndWait([this, &notice] { m_interface.loadFinished(true, QString(), notice); });
+    reportLoad(true, QString(), notice);
     runInventories();
 }
 
@@ -101,7 +131,15 @@ bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
 
 void MyDocument::failLoading(const QString &message)
 {
-    m_mainThread->runAndWait([this, &message] { m_interface.loadFinished(false, message, QString()); });
+    reportLoad(false, message, QString());
+}
+
+/// Tells the outcome, once for each load.
+void MyDocument::reportLoad(bool loaded, const QString &message, const QString &notice)
+{
+    if (m_loadIsReported.exchange(true))
+        return;
+    m_mainThread->runAndWait([&] { m_interface.loadFinished(loaded, message, notice); });
 }
 
 void MyDocument::runInventories()
@@ -113,13 +151,19 @@ void MyDocument::runInventories()
         m_mainThread->post([this] { m_interface.inventoriesFinished(); });
         return;
     }
+    m_inventories.reserve(m_services.inventoryBuilders.size());
     for (const auto &builder : m_services.inventoryBuilders) {
-        m_inventories.emplace_back([this, &builder] {
+        const auto run = [this, &builder] {
             if (!isClosing())
                 guarded("inventory", [&] { builder(*this); });
             if (--m_runningInventories == 0)
                 m_mainThread->post([this] { m_interface.inventoriesFinished(); });
-        });
+        };
+        try {
+            m_inventories.emplace_back(run);
+        } catch (const std::system_error &) {
+            run(); // no thread to be had
+        }
     }
 }
 

@@ -30,7 +30,11 @@ Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
         return started ? sentInstead : started;
     }
     const Result<void> mayWrite = prepareSaving(url);
-    return mayWrite ? noteSaved(m_xmlDoc->save(url.toLocalFile())) : mayWrite;
+    if (!mayWrite)
+        return mayWrite;
+    Result<void> outcome = Failure{notWritten};
+    guarded("-[MyDocument writeToURL:ofType:error:]", [&] { outcome = m_xmlDoc->save(url.toLocalFile()); });
+    return noteSaved(std::move(outcome));
 }
 
 void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
@@ -118,11 +122,13 @@ bool MyDocument::confirmSavingRepaired(const QString &path)
     const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
     if (!overItself || !QFileInfo::exists(path))
         return true;
+    QString question =
+        QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?");
+    if (!m_xmlDoc->loss().isEmpty())
+        question.prepend(m_xmlDoc->loss() + QLatin1Char(' '));
     const int answer = QVAlert::alertSheetWithMessageText(
         QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),
-        QStringLiteral("Cancel"), QString(),
-        QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?"),
-        m_interface.alertParent(), true);
+        QStringLiteral("Cancel"), QString(), question, m_interface.alertParent(), true);
     return answer == AlertAnswer::Default;
 }
 

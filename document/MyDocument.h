@@ -256,6 +256,7 @@ public:
 private:
     bool loadTree(const QString &typeName, const QUrl &url);
     void failLoading(const QString &message);
+    void reportLoad(bool loaded, const QString &message, const QString &notice);
     void runInventories();
     Result<void> prepareSaving(const QUrl &url);
     Result<void> startSending(std::function<void()> ended);
@@ -298,6 +299,7 @@ private:
     std::optional<Sending> m_sending;
     bool m_isReadToBeSent = false;
 
+    std::atomic<bool> m_loadIsReported = false;
     std::atomic<int> m_runningInventories = 0;
     std::thread m_loader;
     std::vector<std::thread> m_inventories; // made by the loader, joined after it

@@ -85,42 +85,48 @@ void EffectReader::lookAround(XmlNode parent)
         return;
     const Surroundings around = surroundingsAt(parent);
     m_parent = parent;
-    m_sequence = ownerOf(around.sequence);
-    m_clip = ownerOf(around.clipItem ? around.clipItem : around.clip);
+    m_sequence = ownerOf(around.sequence, m_lastSequence);
+    m_clip = ownerOf(around.clipItem ? around.clipItem : around.clip, m_lastClip);
 }
 
 EffectReader::Surroundings EffectReader::surroundingsAt(XmlNode element)
 {
     XmlNodeList unknown; // upwards
-    while (element && !m_surroundings.contains(element)) {
-        unknown.push_back(element);
-        element = element.parent();
-    }
-    Surroundings around = element ? m_surroundings[element] : Surroundings();
+    for (XmlNode up = element.parent(); up && !m_surroundings.contains(up); up = up.parent())
+        unknown.push_back(up);
+    const XmlNode known = unknown.empty() ? element.parent() : unknown.back().parent();
+    Surroundings around = known ? m_surroundings[known] : Surroundings();
     for (auto below = unknown.rbegin(); below != unknown.rend(); ++below) {
-        if (below->isElement("sequence"))
-            around.sequence = *below;
-        else if (below->isElement("clipitem"))
-            around.clipItem = *below;
-        else if (below->isElement("clip"))
-            around.clip = *below;
+        enter(*below, around);
         m_surroundings.emplace(*below, around);
     }
+    // Effects stand side by side, so that this one is not asked for again: it needs no place in the table.
+    enter(element, around);
     return around;
 }
 
+void EffectReader::enter(XmlNode element, Surroundings &around)
+{
+    if (element.isElement("sequence"))
+        around.sequence = element;
+    else if (element.isElement("clipitem"))
+        around.clipItem = element;
+    else if (element.isElement("clip"))
+        around.clip = element;
+}
+
 /// Null for a null element.
-const EffectReader::Owner *EffectReader::ownerOf(XmlNode element)
+const EffectReader::Owner *EffectReader::ownerOf(XmlNode element, LastOwner &last)
 {
     static const XmlQuery id(QStringLiteral("./@id[1]"));
     if (!element)
         return nullptr;
-    const auto known = m_owners.find(element);
-    if (known != m_owners.end())
-        return &known->second;
-    const Owner owner{shared(QVXMLParser::nameForNode(element)), shared(QVXMLParser::uuidForNode(element)),
+    if (last.element != element) {
+        last.element = element;
+        last.owner = {shared(QVXMLParser::nameForNode(element)), shared(QVXMLParser::uuidForNode(element)),
                       shared(id.firstText(element))};
-    return &m_owners.emplace(element, owner).first->second;
+    }
+    return &last.owner;
 }
 
 /// The text in the one copy that all records hold.

@@ -40,13 +40,20 @@ private:
         XmlNode clip;
     };
 
+    struct LastOwner {
+        XmlNode element;
+        Owner owner;
+    };
+
     void lookAround(XmlNode parent);
     Surroundings surroundingsAt(XmlNode element);
-    const Owner *ownerOf(XmlNode element);
+    static void enter(XmlNode element, Surroundings &around);
+    const Owner *ownerOf(XmlNode element, LastOwner &last);
     std::optional<QString> shared(const std::optional<QString> &text);
 
     std::unordered_map<XmlNode, Surroundings> m_surroundings; // by the element that they are seen from
-    std::unordered_map<XmlNode, Owner> m_owners;
+    LastOwner m_lastSequence;
+    LastOwner m_lastClip;
 
     XmlNode m_parent; // of the effect that was read last: most have several
     const Owner *m_sequence = nullptr;

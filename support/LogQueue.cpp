@@ -1,5 +1,6 @@
 #include "support/LogQueue.h"
 
+#include <exception>
 #include <system_error>
 #include <utility>
 
@@ -125,8 +126,12 @@ bool LogQueue::handleNext()
         m_batch.swap(m_incoming);
     }
     const QString text = std::exchange(m_batch[m_next++], QString());
-    if (!m_cancelled.load())
-        m_handler(text);
+    try {
+        if (!m_cancelled.load())
+            m_handler(text);
+    } catch (const std::exception &) {
+        // The log cannot tell why it cannot be written.
+    }
     ++m_done;
     if (m_waiting.load() > 0) {
         const std::lock_guard lock(m_mutex);

@@ -36,7 +36,11 @@ bool guarded(const char *method, Operation &&operation)
         std::forward<Operation>(operation)();
         return true;
     } catch (...) {
-        QVException::logCurrentException(method);
+        try {
+            QVException::logCurrentException(method);
+        } catch (...) {
+            // There is no memory to tell it with.
+        }
         return false;
     }
 }

@@ -2,8 +2,8 @@
 
 #include <array>
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
+#include <mutex>
 
 #include <csignal>
 #include <unistd.h>
@@ -14,16 +14,22 @@ namespace vantrell::UnfinishedFiles
 namespace
 {
 
-// What a signal handler may read: paths as plain text behind lock-free pointers. A file beyond the last
-// place is written all the same and would outlive an interrupt.
-std::array<std::atomic<char *>, 16> paths = {};
-static_assert(std::atomic<char *>::is_always_lock_free);
+/// A file's path where a signal handler may read it. A file beyond the last place, or with a longer path, is
+/// written all the same and would outlive an interrupt.
+struct Place {
+    std::atomic<bool> isTaken = false; ///< the path is whole
+    std::array<char, 4096> path = {};  ///< ends with 0
+};
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+std::array<Place, 16> places;
+std::mutex placesMutex; // guards the paths against each other's changes
 
 void removeAndEnd(int number)
 {
-    for (std::atomic<char *> &path : paths) {
-        if (const char *text = path.load())
-            ::unlink(text);
+    for (const Place &place : places) {
+        if (place.isTaken)
+            ::unlink(place.path.data());
     }
     std::signal(number, SIG_DFL);
     std::raise(number);
@@ -33,21 +39,22 @@ void removeAndEnd(int number)
 
 void add(const QByteArray &path)
 {
-    char *copy = ::strdup(path.constData());
-    for (std::atomic<char *> &place : paths) {
-        char *none = nullptr;
-        if (place.compare_exchange_strong(none, copy))
-            return;
+    const std::lock_guard lock(placesMutex);
+    for (Place &place : places) {
+        if (place.isTaken || std::size_t(path.size()) >= place.path.size())
+            continue;
+        std::memcpy(place.path.data(), path.constData(), std::size_t(path.size()) + 1);
+        place.isTaken = true;
+        return;
     }
-    std::free(copy);
 }
 
 void remove(const QByteArray &path)
 {
-    for (std::atomic<char *> &place : paths) {
-        char *text = place.load();
-        if (text && path == text && place.compare_exchange_strong(text, nullptr)) {
-            std::free(text);
+    const std::lock_guard lock(placesMutex);
+    for (Place &place : places) {
+        if (place.isTaken && path == place.path.data()) {
+            place.isTaken = false;
             return;
         }
     }

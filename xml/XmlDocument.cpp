@@ -42,10 +42,9 @@ QString lossText(const XmlLoss &loss)
                                         .arg(grouped(loss.bytesRead), grouped(loss.bytesTotal));
     if (loss.droppedElements > 0) {
         const QString elements = loss.droppedElements == 1
-                                     ? QStringLiteral("1 element")
-                                     : QStringLiteral("%1 elements").arg(grouped(loss.droppedElements));
-        return QStringLiteral("Content is missing: %1, and %2 behind that were left out.")
-            .arg(bytes, elements);
+                                     ? QStringLiteral("1 element was")
+                                     : QStringLiteral("%1 elements were").arg(grouped(loss.droppedElements));
+        return QStringLiteral("Content is missing: %1, and %2 left out behind that.").arg(bytes, elements);
     }
     return readAll ? QStringLiteral("Content is missing: %1, but the file ends in the middle of an element.")
                          .arg(bytes)

@@ -90,26 +90,44 @@ int unitOf(const QByteArray &upperName)
     return upperName.contains("UTF-32") || upperName.contains("UTF32") || upperName.contains("UCS-4") ? 4 : 1;
 }
 
-/// Bytes that need a look: those of characters beyond ASCII, and the control characters.
-bool needsLook(char c)
+/// Whether the byte is of a character beyond ASCII or a control character. Without branches, so that it
+/// runs on vectors.
+unsigned char needsLook(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
-    return byte >= 0x80 || (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r');
+    return static_cast<unsigned char>((byte >= 0x80) |
+                                      ((byte < 0x20) & (byte != '\t') & (byte != '\n') & (byte != '\r')));
 }
 
 /// The place of the first byte that needs a look.
 const char *firstToLookAt(const char *at, const char *end)
 {
-    constexpr std::ptrdiff_t group = 64; // the inner loop has no branch, so that it runs on vectors
+    constexpr std::ptrdiff_t group = 64;
     while (end - at >= group) {
-        unsigned found = 0;
+        unsigned char found = 0;
         for (std::ptrdiff_t i = 0; i < group; ++i)
-            found |= unsigned(needsLook(at[i]));
+            found |= needsLook(at[i]);
         if (found)
             break;
         at += group;
     }
-    return std::find_if(at, end, needsLook);
+    while (at != end && !needsLook(*at))
+        ++at;
+    return at;
+}
+
+/// Line ends in the text. In groups so small that their number fits into a byte, so that it runs on vectors.
+std::int64_t lineEnds(std::string_view text)
+{
+    constexpr std::size_t group = 128;
+    std::int64_t count = 0;
+    for (; text.size() >= group; text.remove_prefix(group)) {
+        unsigned char inGroup = 0;
+        for (std::size_t i = 0; i < group; ++i)
+            inGroup = static_cast<unsigned char>(inGroup + (text[i] == '\n'));
+        count += inGroup;
+    }
+    return count + std::count(text.begin(), text.end(), '\n');
 }
 
 struct Character {
@@ -391,14 +409,14 @@ void XmlInput::keepValid(bool atEnd)
     if (!m_ended)
         m_rest.assign(at, end);
     text.resize(std::size_t(to - begin));
-    m_line += std::count(text.begin(), text.end(), '\n');
+    m_line += lineEnds({text.data(), text.size()});
 }
 
 /// The first one is what counts. \a before: what of the block stands before the fault.
 void XmlInput::addFault(std::string_view before, const QString &text)
 {
     if (m_fault.isEmpty()) {
-        m_faultLine = m_line + std::count(before.begin(), before.end(), '\n');
+        m_faultLine = m_line + lineEnds(before);
         m_fault = QStringLiteral("line %1: %2").arg(m_faultLine).arg(text);
     }
     m_ended = m_ended || m_stopsAtFaults;
@@ -414,6 +432,18 @@ std::int64_t XmlInput::sourceOffset(std::int64_t textOffset) const
     if (size == 0 || inBlock * 2 >= size)
         return block.sourceEnd - (size == 0 ? 0 : (size - inBlock) * sourceSize / size);
     return block.sourceStart + inBlock * sourceSize / size;
+}
+
+bool XmlInput::endsWith(std::string_view end) const
+{
+    std::string text;
+    for (const Block *block : {&m_lastBlock, &m_block}) {
+        const std::size_t wanted = std::min(block->text.size(), end.size() + 256);
+        text.append(block->text.end() - std::ptrdiff_t(wanted), block->text.end());
+    }
+    while (!text.empty() && isXmlSpace(text.back()))
+        text.pop_back();
+    return m_ended && text.ends_with(end);
 }
 
 std::int64_t XmlInput::startTagsFrom(std::int64_t textOffset)

@@ -55,6 +55,8 @@ public:
     std::int64_t sourceOffset(std::int64_t textOffset) const;
     /// Reads on to the end, and counts the start tags from that place of the text on.
     std::int64_t startTagsFrom(std::int64_t textOffset);
+    /// Whether the text, of which all was read, ends with those bytes, white space apart.
+    bool endsWith(std::string_view end) const;
     /// Bytes of the source that were read so far.
     std::int64_t bytesRead() const { return m_sourceEnd; }
 

@@ -240,7 +240,7 @@ private:
     void finish(xmlDoc *document, ParseOutcome &outcome)
     {
         outcome.loss.bytesTotal = m_request.source.size;
-        outcome.loss.isCutOff = m_builder.depth() > 0;
+        const bool isOpen = m_builder.depth() > 0;
         // A parser that gave up has lost its place; the error tells it.
         const long consumed = std::max(xmlByteConsumed(m_context), m_errorAt);
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
@@ -249,15 +249,26 @@ private:
             outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
             if (outcome.loss.bytesTotal < 0)
                 outcome.loss.bytesTotal = m_input.bytesRead();
+            // Where only end tags are missing the last one is there.
+            outcome.loss.isCutOff = isOpen && !m_input.endsWith("</" + rootName() + '>');
         }
         m_builder.finish();
         if (!document)
             return;
-        m_tree.version = QByteArray(reinterpret_cast<const char *>(document->version));
+        // Parsers refuse versions other than 1.
+        const QByteArray version(reinterpret_cast<const char *>(document->version));
+        if (version.startsWith("1."))
+            m_tree.version = version;
         m_tree.isStandalone = document->standalone;
         m_tree.encoding = m_input.declaredEncoding();
         xmlDtd *const doctype = xmlGetIntSubset(document);
         m_builder.setDoctype(doctype ? textOfDoctype(document, doctype) : std::string());
+    }
+
+    std::string rootName() const
+    {
+        const XmlNode root = m_tree.handle(XmlTree::documentId).firstChildElement();
+        return root ? m_tree.name(m_tree.node(root.id()).name).qualified : std::string();
     }
 
     static std::string textOfDoctype(xmlDoc *document, xmlDtd *doctype)

@@ -31,12 +31,23 @@ public:
             for (const XmlQuery::Step &step : path.steps)
                 addStep(step, &step == &path.steps.back());
         }
+        if (m_anywhere && limit == 0 && tree.isInOrder())
+            findScannedSteps();
     }
 
     /// How many [n] predicates one evaluation can count at a time.
     static constexpr std::size_t maximumPositions = 16;
 
-    void run(XmlNodeId context) { visit(context, m_start); }
+    void run(XmlNodeId context)
+    {
+        visit(context, m_start);
+        if (!m_isScanned)
+            return;
+        const auto isBefore = [](XmlNode a, XmlNode b) { return a.id() < b.id(); };
+        if (!std::is_sorted(m_found.begin(), m_found.end(), isBefore))
+            std::sort(m_found.begin(), m_found.end(), isBefore);
+        m_found.erase(std::unique(m_found.begin(), m_found.end()), m_found.end());
+    }
 
 private:
     struct StepState {
@@ -78,6 +89,10 @@ private:
         if (!node.hasChildren())
             return;
         const std::uint64_t everywhere = contexts & m_anywhere;
+        if (contexts && (contexts & ~m_scanned) == 0 && id < m_tree.orderedEnd()) {
+            scan(id, contexts);
+            return;
+        }
         std::uint64_t childSteps = contexts & ~m_attributes;
         Counters counters;
         std::fill_n(counters.begin(), m_positions, 0);
@@ -111,6 +126,67 @@ private:
                 break;
             childId = child.next;
         }
+    }
+
+    /// The steps to elements of some names anywhere below, whose paths go on with children alone: while the
+    /// tree's numbers are in document order such elements are found by passing over the numbers.
+    void findScannedSteps()
+    {
+        if ((m_otherNodes | m_attributes) && !m_tree.isTextInOrder())
+            return;
+        bool isAlone = true; // no other step to anywhere behind, up to the path's end
+        for (std::size_t i = m_steps.size(); i-- > 0;) {
+            const XmlQuery::Step &step = *m_steps[i].step;
+            isAlone = isAlone || m_steps[i].last;
+            const bool hasName = step.axis == XmlQuery::Axis::Child && step.test == XmlQuery::Test::Name;
+            if (step.anywhere && isAlone && hasName && step.predicates.empty())
+                m_scanned |= bit(i);
+            isAlone = isAlone && !step.anywhere;
+        }
+    }
+
+    /// What visit() does where all steps are scanned ones. The nodes are put into order when all are found.
+    void scan(XmlNodeId id, std::uint64_t contexts)
+    {
+        m_isScanned = true;
+        std::vector<char> marked(m_tree.nameCount());
+        std::uint64_t lastChildren = 0; // steps that lead to the last one: it is looked for itself
+        for (std::uint64_t rest = contexts; rest; rest &= rest - 1) {
+            const auto i = std::size_t(std::countr_zero(rest));
+            const bool leads = !m_steps[i].last && isPlainLastChild(m_steps[i + 1]);
+            if (leads)
+                lastChildren |= bit(i);
+            for (const XmlNameId name : m_steps[leads ? i + 1 : i].names)
+                marked[name] = true;
+        }
+        m_tree.findElements(id + 1, m_tree.endOfElementsIn(id), marked, [&](XmlNodeId element) {
+            const XmlTree::Node &node = m_tree.node(element);
+            std::uint64_t next = 0;
+            bool wanted = false;
+            for (std::uint64_t rest = contexts; rest; rest &= rest - 1) {
+                const auto i = std::size_t(std::countr_zero(rest));
+                if (lastChildren & bit(i)) {
+                    wanted = wanted || (node.parent != id && matchesTest(node, m_steps[i + 1]) &&
+                                        matchesTest(m_tree.node(node.parent), m_steps[i]));
+                } else if (matchesTest(node, m_steps[i])) {
+                    if (m_steps[i].last)
+                        wanted = true;
+                    else
+                        next |= bit(i + 1);
+                }
+            }
+            if (wanted)
+                m_found.push_back(m_tree.handle(element));
+            if (next)
+                visit(element, next);
+        });
+    }
+
+    static bool isPlainLastChild(const StepState &state)
+    {
+        const XmlQuery::Step &step = *state.step;
+        return state.last && step.axis == XmlQuery::Axis::Child && step.test == XmlQuery::Test::Name &&
+               step.predicates.empty();
     }
 
     /// Whether anything in the node can match a step that it is a context of. Most elements of a project
@@ -218,8 +294,10 @@ private:
 
     const XmlTree &m_tree;
     std::vector<StepState> m_steps;
-    std::uint64_t m_start = 0;      // the first step of each path
-    std::uint64_t m_anywhere = 0;   // steps reached by "//"
+    std::uint64_t m_start = 0;    // the first step of each path
+    std::uint64_t m_anywhere = 0; // steps reached by "//"
+    std::uint64_t m_scanned = 0;  // those of them that scan() answers
+    bool m_isScanned = false;
     std::uint64_t m_attributes = 0; // steps to attributes
     std::uint64_t m_otherNodes = 0; // steps to children that need not be elements
     std::size_t m_positions = 0;
@@ -273,6 +351,11 @@ XmlQuery::XmlQuery(const QString &text)
         m_paths = std::move(*paths);
     else
         m_fallback = std::make_shared<XmlQueryFallback>(text);
+    for (Path &path : m_paths) {
+        for (Step &step : path.steps)
+            step.nameHash = step.names.empty() ? 0 : XmlTree::hashOf(step.names.front());
+    }
+    m_form = formOf();
 }
 
 std::shared_ptr<const XmlQuery> XmlQuery::compiled(const QString &text)
@@ -294,6 +377,17 @@ std::shared_ptr<const XmlQuery> XmlQuery::compiled(const QString &text)
     return query;
 }
 
+/// Where the paths' steps begin; null when there is nothing.
+XmlNode XmlQuery::contextOf(XmlNode context) const
+{
+    const Path &path = m_paths.front();
+    if (context && path.absolute)
+        context = XmlNode(context.tree(), XmlTree::documentId);
+    for (int i = 0; i < path.parents; ++i)
+        context = context.parent();
+    return context;
+}
+
 XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
 {
     Answer answer;
@@ -306,10 +400,7 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
         return answer;
     }
     const Path &path = m_paths.front();
-    if (path.absolute)
-        context = XmlNode(context.tree(), XmlTree::documentId);
-    for (int i = 0; i < path.parents; ++i)
-        context = context.parent();
+    context = contextOf(context);
     if (!context)
         return answer;
     if (path.steps.empty()) {
@@ -330,7 +421,111 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
     return answer;
 }
 
+/// The first node found by a path of children alone, from one of its steps on. Their cost is what most
+/// queries have; it takes no memory.
+XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_t place) const
+{
+    const std::vector<Step> &steps = m_paths.front().steps;
+    const Step &step = steps[place];
+    const XmlTree::Node &above = tree.node(parent);
+    if (!above.hasChildren())
+        return 0;
+    XmlNameId name = XmlTree::noName;
+    if (step.test == Test::Name) {
+        name = tree.find(step.names.front(), 0, step.nameHash);
+        if (name == XmlTree::noName)
+            return 0;
+    }
+    std::int64_t position = 0;
+    for (XmlNodeId id = above.firstChild; id; id = tree.node(id).next) {
+        const XmlTree::Node &child = tree.node(id);
+        const bool matches = step.test == Test::Name   ? child.isElement() && child.name == name
+                             : step.test == Test::Text ? child.isText()
+                                                       : child.isElement();
+        if (!matches)
+            continue;
+        ++position;
+        if (!step.predicates.empty() && step.predicates.front().position != position)
+            continue;
+        const XmlNodeId found = place + 1 == steps.size() ? id : firstBelow(tree, id, place + 1);
+        if (found || !step.predicates.empty())
+            return found;
+    }
+    return 0;
+}
+
+/// The first node found by a query of the form .//a, .//a[1] or the same with /text(), by passing over the
+/// numbers of a tree that is in order; nothing where it takes a walk to tell.
+std::optional<XmlNodeId> XmlQuery::firstAnywhere(const XmlTree &tree, XmlNodeId context) const
+{
+    const std::vector<Step> &steps = m_paths.front().steps;
+    const XmlNameId name = tree.find(steps.front().names.front(), 0, steps.front().nameHash);
+    if (name == XmlTree::noName)
+        return 0;
+    const XmlNodeId end = tree.endOfElementsIn(context);
+    for (XmlNodeId id = tree.firstElementNamed(name, context + 1, end); id;
+         id = tree.firstElementNamed(name, id + 1, end)) {
+        bool isWanted = true;
+        if (!steps.front().predicates.empty()) {
+            XmlNodeId before = tree.previousSibling(id);
+            while (before && !(tree.node(before).isElement() && tree.node(before).name == name))
+                before = tree.previousSibling(before);
+            isWanted = before == 0;
+        }
+        if (!isWanted)
+            continue;
+        const XmlNodeId child = tree.node(id).firstChild;
+        if (steps.size() == 1)
+            return id;
+        if (child && tree.node(child).isText())
+            return child;
+        if (child)
+            return std::nullopt;
+    }
+    return 0;
+}
+
+/// What it takes to answer first() in a simpler way.
+XmlQuery::Form XmlQuery::formOf() const
+{
+    if (m_paths.size() != 1 || m_paths.front().steps.empty() || m_paths.front().trailingParents > 0)
+        return Form::Any;
+    const std::vector<Step> &steps = m_paths.front().steps;
+    const auto isNarrow = [](const Step &step) {
+        const std::vector<Predicate> &predicates = step.predicates;
+        const bool hasPosition =
+            predicates.size() == 1 && predicates.front().kind == Predicate::Kind::Position;
+        return step.axis == Axis::Child && step.test != Test::AnyNode && step.names.size() <= 1 &&
+               (predicates.empty() || hasPosition);
+    };
+    if (!std::all_of(steps.begin(), steps.end(), isNarrow))
+        return Form::Any;
+    if (std::none_of(steps.begin(), steps.end(), [](const Step &step) { return step.anywhere; }))
+        return Form::Children;
+    const Step &start = steps.front();
+    const bool isFirst = start.predicates.empty() || start.predicates.front().position == 1;
+    const bool endsInText = steps.size() == 2 && steps.back().test == Test::Text && !steps.back().anywhere &&
+                            steps.back().predicates.empty();
+    const bool isAnywhere = start.anywhere && start.test == Test::Name && isFirst;
+    return isAnywhere && (steps.size() == 1 || endsInText) ? Form::Anywhere : Form::Any;
+}
+
 XmlNode XmlQuery::first(XmlNode context) const
+{
+    if (!context || m_form == Form::Any)
+        return firstOfAnswer(context);
+    const XmlNode start = contextOf(context);
+    if (!start)
+        return XmlNode();
+    const XmlTree &tree = *start.tree();
+    if (m_form == Form::Children)
+        return tree.handle(firstBelow(tree, start.id(), 0));
+    const bool isInOrder = tree.isInOrder() && start.id() < tree.orderedEnd();
+    const std::optional<XmlNodeId> found = isInOrder ? firstAnywhere(tree, start.id()) : std::nullopt;
+    return found ? tree.handle(*found) : firstOfAnswer(context);
+}
+
+XmlNode XmlQuery::firstOfAnswer(XmlNode context) const
 {
     const Answer answer = evaluate(context, 1);
     return answer.nodes.empty() ? XmlNode() : answer.nodes.front();

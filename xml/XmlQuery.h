@@ -62,6 +62,7 @@ private:
         Axis axis = Axis::Child;
         Test test = Test::Name;
         std::vector<std::string> names;
+        std::size_t nameHash = 0; ///< of the first
         std::vector<Predicate> predicates;
     };
 
@@ -72,6 +73,16 @@ private:
         int trailingParents = 0; ///< ".." steps at the end
     };
 
+    /// Queries that first() answers in a simpler way: children alone, and elements of one name anywhere.
+    enum class Form { Any, Children, Anywhere };
+
+    Form formOf() const;
+    XmlNode contextOf(XmlNode context) const;
+    XmlNode firstOfAnswer(XmlNode context) const;
+    std::uint32_t firstBelow(const XmlTree &tree, std::uint32_t parent, std::size_t place) const;
+    std::optional<std::uint32_t> firstAnywhere(const XmlTree &tree, std::uint32_t context) const;
+
+    Form m_form = Form::Any;
     std::vector<Path> m_paths;                                ///< when the walk can answer it
     std::shared_ptr<const class XmlQueryFallback> m_fallback; ///< when it cannot
 };

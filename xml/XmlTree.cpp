@@ -98,66 +98,37 @@ std::string_view XmlTree::prefix(XmlNameId id) const
 
 // Texts ------------------------------------------------------------------------------------------
 
-/// Room for that many bytes, which a small one shares with others.
-char *XmlTree::newText(std::size_t size, XmlTextId &id)
+/// A new region, to which the open text moves, with room for so many bytes more.
+void XmlTree::makeRegion(std::size_t wanted)
 {
-    const std::size_t rounded = (size + textUnit - 1) / textUnit * textUnit;
     const bool isFirst = m_texts.empty();
-    if (m_textUsed + rounded > textChunkSize) {
-        const std::size_t room = rounded + (isFirst ? textUnit : 0); // place 0 is none
-        const std::size_t chunks = (room + textChunkSize - 1) / textChunkSize;
-        if (m_texts.size() + chunks > std::size_t(1) << (32 - textBits))
-            throw std::bad_alloc();
-        m_textMemory.emplace_back(new char[chunks * textChunkSize]);
-        for (std::size_t i = 0; i < chunks; ++i)
-            m_texts.push_back(m_textMemory.back().get() + i * textChunkSize);
-        // What a text of several chunks leaves of its last one is not used.
-        id = XmlTextId((m_texts.size() - chunks) << textBits) + (isFirst ? 1 : 0);
-        m_textUsed = chunks > 1 ? textChunkSize : room;
-    } else {
-        id = XmlTextId(((m_texts.size() - 1) << textBits) + m_textUsed / textUnit);
-        m_textUsed += rounded;
-    }
-    return m_texts[id >> textBits] + std::size_t(id & ((1u << textBits) - 1)) * textUnit;
-}
-
-XmlTextId XmlTree::addText(std::string_view text)
-{
-    if (text.size() > std::numeric_limits<std::uint32_t>::max())
+    const std::size_t start = isFirst ? textUnit : 0; // place 0 stands for no text
+    const std::size_t size = headerSize + m_openSize + wanted;
+    // A text that grows out of one region will go on growing.
+    const std::size_t room = start + (m_openSize > 0 ? 2 * size : size);
+    const std::size_t chunks = (room + textChunkSize - 1) / textChunkSize;
+    const bool isTooMuch = m_texts.size() + chunks > std::size_t(1) << (32 - textBits);
+    if (isTooMuch || size > std::numeric_limits<std::uint32_t>::max())
         throw std::bad_alloc();
-    const auto size = std::uint32_t(text.size());
-    XmlTextId id = 0;
-    char *const place = newText(sizeof size + text.size(), id);
-    std::memcpy(place, &size, sizeof size);
-    if (size > 0)
-        std::memcpy(place + sizeof size, text.data(), text.size());
-    return id;
-}
-
-std::string_view XmlTree::text(XmlTextId id) const
-{
-    if (id == 0)
-        return {};
-    const char *const place = textAt(id);
-    std::uint32_t size;
-    std::memcpy(&size, place, sizeof size);
-    return {place + sizeof size, size};
+    std::unique_ptr<char[]> memory(new char[chunks * textChunkSize]);
+    if (m_openSize > 0)
+        std::memcpy(memory.get() + start + headerSize, openedText().data(), m_openSize);
+    m_firstUnit = m_texts.size() << textBits;
+    m_region = memory.get();
+    m_regionSize = chunks * textChunkSize;
+    m_textUsed = start;
+    m_textMemory.push_back(std::move(memory));
+    for (std::size_t i = 0; i < chunks; ++i)
+        m_texts.push_back(m_region + i * textChunkSize);
 }
 
 // Structure --------------------------------------------------------------------------------------
 
-XmlNodeId XmlTree::make(Kind kind, XmlNameId name)
+void XmlTree::makeChunk()
 {
-    if (m_nodeCount == std::numeric_limits<XmlNodeId>::max())
+    if (m_nodeCount > std::numeric_limits<XmlNodeId>::max() - nodesPerChunk)
         throw std::bad_alloc();
-    if ((m_nodeCount & (nodesPerChunk - 1)) == 0)
-        m_nodes.emplace_back(new Node[nodesPerChunk]);
-    const XmlNodeId id = m_nodeCount++;
-    Node &made = node(id);
-    made.parent = made.next = made.previous = made.firstChild = made.firstAttribute = 0;
-    made.name = name;
-    made.kindNumber = std::uint32_t(kind);
-    return id;
+    m_nodes.emplace_back(new Node[nodesPerChunk]);
 }
 
 XmlNodeId XmlTree::makeText(Kind kind, std::string_view text)
@@ -172,6 +143,7 @@ void XmlTree::append(XmlNodeId parent, XmlNodeId child)
 {
     Node &above = node(parent);
     Node &added = node(child);
+    noteChange(added);
     added.parent = parent;
     added.next = 0;
     if (above.firstChild == 0) {
@@ -207,6 +179,7 @@ void XmlTree::appendAttribute(XmlNodeId element, XmlNodeId attribute)
 {
     Node &owner = node(element);
     Node &added = node(attribute);
+    m_isTextInOrder = false;
     added.parent = element;
     added.next = 0;
     if (owner.firstAttribute == 0) {
@@ -243,6 +216,7 @@ void XmlTree::unlink(XmlNodeId child)
 {
     Node &taken = node(child);
     Node &above = node(taken.parent);
+    noteChange(taken);
     const XmlNodeId first = above.firstChild;
     if (first == child)
         above.firstChild = taken.next;
@@ -277,6 +251,33 @@ XmlNodeId XmlTree::following(XmlNodeId id, XmlNodeId top) const
             return node(up).next;
     }
     return 0;
+}
+
+// Order ------------------------------------------------------------------------------------------
+
+void XmlTree::setInOrder(bool textToo)
+{
+    m_orderedEnd = m_nodeCount;
+    m_isTextInOrder = textToo;
+}
+
+/// A node is linked or unlinked. Where text is changed, elements are in order still.
+void XmlTree::noteChange(const Node &changed)
+{
+    m_isTextInOrder = false;
+    if (changed.isElement())
+        m_orderedEnd = 0;
+}
+
+XmlNodeId XmlTree::endOfElementsIn(XmlNodeId id) const
+{
+    for (XmlNodeId up = id; up; up = node(up).parent) {
+        for (XmlNodeId next = node(up).next; next; next = node(next).next) {
+            if (node(next).isElement())
+                return next;
+        }
+    }
+    return m_orderedEnd;
 }
 
 // Copies -----------------------------------------------------------------------------------------

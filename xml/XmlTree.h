@@ -7,8 +7,10 @@
 #include <QByteArray>
 #include <QString>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <deque>
 #include <memory>
 #include <string>
@@ -99,13 +101,61 @@ public:
 
     // Texts
 
-    XmlTextId addText(std::string_view text);
+    XmlTextId addText(std::string_view text)
+    {
+        openText();
+        extendText(text);
+        return closeText();
+    }
+    /// A text that comes in parts: open, extend, and close or leave it. No other text may be added meanwhile.
+    void openText()
+    {
+        m_openSize = 0;
+        if (m_textUsed + headerSize > m_regionSize)
+            makeRegion(0);
+    }
+    void extendText(std::string_view part)
+    {
+        if (part.empty())
+            return;
+        if (part.size() > m_regionSize - (m_textUsed + headerSize + m_openSize))
+            makeRegion(part.size());
+        std::memcpy(m_region + m_textUsed + headerSize + m_openSize, part.data(), part.size());
+        m_openSize += part.size();
+    }
+    std::string_view openedText() const { return {m_region + m_textUsed + headerSize, m_openSize}; }
+    XmlTextId closeText()
+    {
+        const auto size = std::uint32_t(m_openSize);
+        std::memcpy(m_region + m_textUsed, &size, headerSize);
+        const auto id = XmlTextId(m_firstUnit + m_textUsed / textUnit);
+        m_textUsed += (headerSize + m_openSize + textUnit - 1) / textUnit * textUnit;
+        return id;
+    }
     /// UTF-8; empty for none.
-    std::string_view text(XmlTextId id) const;
+    std::string_view text(XmlTextId id) const
+    {
+        if (id == 0)
+            return {};
+        const char *const place = m_texts[id >> textBits] + std::size_t(id % (1u << textBits)) * textUnit;
+        std::uint32_t size;
+        std::memcpy(&size, place, headerSize);
+        return {place + headerSize, size};
+    }
 
     // Structure
 
-    XmlNodeId make(Kind kind, XmlNameId name = noName);
+    XmlNodeId make(Kind kind, XmlNameId name = noName)
+    {
+        if ((m_nodeCount & (nodesPerChunk - 1)) == 0)
+            makeChunk();
+        const XmlNodeId id = m_nodeCount++;
+        Node &made = node(id);
+        made.parent = made.next = made.previous = made.firstChild = made.firstAttribute = 0;
+        made.name = name;
+        made.kindNumber = std::uint32_t(kind);
+        return id;
+    }
     XmlNodeId makeText(Kind kind, std::string_view text);
     void append(XmlNodeId parent, XmlNodeId child);
     void insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child); ///< previous 0: in front
@@ -127,6 +177,43 @@ public:
     /// them, one for each prefix, in the order of their first use.
     std::vector<XmlNameId> inheritedNamespaces(XmlNodeId element) const;
 
+    // Order
+
+    /// From now on, until an element is moved, added or taken out, the elements of the document are numbered
+    /// in document order, and so is all else but white space that was added late.
+    void setInOrder(bool textToo);
+    bool isInOrder() const { return m_orderedEnd > 0; }
+    bool isTextInOrder() const { return m_orderedEnd > 0 && m_isTextInOrder; }
+    /// The number behind those of all elements that the node holds, while isInOrder().
+    XmlNodeId endOfElementsIn(XmlNodeId id) const;
+    /// Calls \a found with the number of each element from \a begin to before \a end whose name is marked.
+    template <typename Found>
+    void findElements(XmlNodeId begin, XmlNodeId end, const std::vector<char> &marked, Found found) const
+    {
+        for (XmlNodeId id = begin; id < end;) {
+            const Node *const chunk = m_nodes[id >> nodeBits].get();
+            const auto last =
+                XmlNodeId(std::min<std::uint64_t>(end, ((id >> nodeBits) + std::uint64_t(1)) << nodeBits));
+            for (; id < last; ++id) {
+                const Node &at = chunk[id & (nodesPerChunk - 1)];
+                if (at.isElement() && marked[at.name])
+                    found(id);
+            }
+        }
+    }
+    /// The first of them with that name; 0 for none.
+    XmlNodeId firstElementNamed(XmlNameId name, XmlNodeId begin, XmlNodeId end) const
+    {
+        for (XmlNodeId id = begin; id < end; ++id) {
+            if (node(id).name == name && node(id).isElement())
+                return id;
+        }
+        return 0;
+    }
+    /// The number behind those of all that was parsed, while isInOrder().
+    XmlNodeId orderedEnd() const { return m_orderedEnd; }
+    std::size_t nameCount() const { return m_names.size(); }
+
     // What the declaration of the document said
 
     QByteArray version = QByteArrayLiteral("1.0");
@@ -136,15 +223,14 @@ public:
 private:
     static constexpr unsigned nodeBits = 14;
     static constexpr std::size_t nodesPerChunk = std::size_t(1) << nodeBits;
-    static constexpr unsigned textBits = 18; ///< of a place within a chunk, in units
+    static constexpr unsigned textBits = 18; ///< of a text's place within a chunk, in units
     static constexpr std::size_t textUnit = 4;
     static constexpr std::size_t textChunkSize = textUnit << textBits;
+    static constexpr std::size_t headerSize = sizeof(std::uint32_t); ///< a text's length, in front of it
 
-    const char *textAt(XmlTextId id) const
-    {
-        return m_texts[id >> textBits] + std::size_t(id & ((1u << textBits) - 1)) * textUnit;
-    }
-    char *newText(std::size_t size, XmlTextId &id);
+    void noteChange(const Node &changed);
+    void makeChunk();
+    void makeRegion(std::size_t wanted);
     std::uint32_t internUri(std::string_view uri);
     void growNameTable();
     XmlNameId copyName(const XmlTree &from, XmlNameId id);
@@ -154,9 +240,15 @@ private:
     XmlDocument *m_owner;
     std::vector<std::unique_ptr<Node[]>> m_nodes;
     XmlNodeId m_nodeCount = 0;
+    XmlNodeId m_orderedEnd = 0; // 0: not in order
+    bool m_isTextInOrder = false;
     std::vector<std::unique_ptr<char[]>> m_textMemory;
-    std::vector<char *> m_texts;            // by the upper part of a text's place; a large text takes several
-    std::size_t m_textUsed = textChunkSize; // bytes of the last chunk
+    std::vector<char *> m_texts;  // by the upper part of a text's place
+    char *m_region = nullptr;     // what new texts are put into: a chunk, or several in a row
+    std::size_t m_regionSize = 0; // bytes
+    std::size_t m_firstUnit = 0;  // the place of its first byte
+    std::size_t m_textUsed = 0;   // bytes of it
+    std::size_t m_openSize = 0;   // of the open text
     std::deque<Name> m_names;
     std::vector<std::string> m_uris;
     std::vector<XmlNameId> m_nameTable; // open addressing, a power of two; noName: free

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <utility>
 
 namespace vantrell
 {
@@ -63,14 +64,13 @@ XmlNameId XmlTreeBuilder::nameOf(const RawName &raw)
     // Parsers keep each name once, so that most have the address that they had before.
     const auto address = reinterpret_cast<std::uintptr_t>(raw.local);
     KnownName &known = m_knownNames[(address ^ address >> 10) % m_knownNames.size()];
-    const bool isKnown = known.raw.local == raw.local && !raw.prefix && !raw.uri &&
-                         m_tree.name(known.id).qualified == chars(raw.local);
-    if (isKnown)
-        return known.id;
-    const XmlNameId id = internedName(raw);
-    if (!raw.prefix && !raw.uri)
-        known = {raw, id};
-    return id;
+    if (raw.prefix || raw.uri)
+        return internedName(raw);
+    if (known.local != raw.local || std::strcmp(known.text, chars(raw.local)) != 0) {
+        const XmlNameId id = internedName(raw);
+        known = {raw.local, m_tree.name(id).qualified.c_str(), id};
+    }
+    return known.id;
 }
 
 XmlNameId XmlTreeBuilder::internedName(const RawName &raw)
@@ -83,17 +83,42 @@ XmlNameId XmlTreeBuilder::internedName(const RawName &raw)
 
 // Elements ---------------------------------------------------------------------------------------
 
+void XmlTreeBuilder::append(XmlNodeId child)
+{
+    if (m_open.empty()) {
+        m_tree.append(XmlTree::documentId, child);
+        return;
+    }
+    OpenElement &element = m_open.back();
+    XmlTree::Node &added = m_tree.node(child);
+    added.parent = element.node;
+    added.previous = element.lastChild;
+    if (element.lastChild)
+        m_tree.node(element.lastChild).next = child;
+    else
+        m_tree.node(element.node).firstChild = child;
+    element.lastChild = child;
+}
+
+/// Tells the tree the open element's last child.
+void XmlTreeBuilder::setLastChild()
+{
+    const OpenElement &element = m_open.back();
+    if (element.lastChild)
+        m_tree.node(m_tree.node(element.node).firstChild).previous = element.lastChild;
+}
+
 void XmlTreeBuilder::startElement(const RawName &name)
 {
     endRun();
     const XmlNodeId element = m_tree.make(Kind::Element, nameOf(name));
-    m_tree.append(parent(), element);
+    append(element);
     bool asksForSpace = m_keepsSpace;
     if (!m_open.empty()) {
         m_open.back().hasElements = true;
         asksForSpace = m_open.back().asksForSpace;
     }
-    m_open.push_back({element, std::uint32_t(m_blanks.size()), asksForSpace, asksForSpace, false});
+    m_open.push_back({element, 0, std::uint32_t(m_blanks.size()), asksForSpace, asksForSpace, false});
 }
 
 void XmlTreeBuilder::addNamespace(std::string_view prefix, std::string_view uri)
@@ -130,6 +155,7 @@ void XmlTreeBuilder::endElement()
             keepSpace();
         m_blanks.resize(m_open.back().firstBlank);
     }
+    setLastChild();
     m_open.pop_back();
 }
 
@@ -137,72 +163,102 @@ void XmlTreeBuilder::finish()
 {
     while (!m_open.empty())
         endElement();
+    m_tree.setInOrder(!m_hasLateBlanks);
 }
 
 // Text -------------------------------------------------------------------------------------------
 
 void XmlTreeBuilder::addText(std::string_view text)
 {
-    addRun(text, Run::Text);
+    if (m_run == Run::CData)
+        endRun();
+    if (m_run == Run::None) {
+        if (m_open.empty())
+            return;
+        if (isKnownBlank(text)) {
+            m_run = Run::Blank;
+            return;
+        }
+        m_tree.openText();
+    } else if (m_run == Run::Blank) {
+        m_tree.openText();
+        m_tree.extendText(textOf(m_blank));
+    }
+    m_run = Run::Text;
+    m_tree.extendText(text);
 }
 
 void XmlTreeBuilder::addCData(std::string_view text)
 {
-    addRun(text, Run::CData);
-}
-
-void XmlTreeBuilder::addRun(std::string_view text, Run kind)
-{
-    if (m_runKind != kind)
+    if (m_run != Run::CData) {
         endRun();
-    m_run += text;
-    m_runKind = kind;
+        m_tree.openText();
+    }
+    m_run = Run::CData;
+    m_tree.extendText(text);
 }
 
-void XmlTreeBuilder::endRun()
+void XmlTreeBuilder::storeRun()
 {
-    if (m_runKind == Run::None)
+    const Run run = std::exchange(m_run, Run::None);
+    OpenElement &element = m_open.back();
+    const bool isBlank =
+        !element.keepsSpace && (run == Run::Blank || (run == Run::Text && storeAsBlank(m_tree.openedText())));
+    if (isBlank) {
+        m_blank.after = element.lastChild;
+        m_blanks.push_back(m_blank);
         return;
-    const Kind kind = m_runKind == Run::Text ? Kind::Text : Kind::CData;
-    m_runKind = Run::None;
-    const bool isShown = !m_open.empty() && (kind == Kind::CData || m_open.back().keepsSpace || !keepBlank());
-    if (isShown) {
-        keepSpace();
-        m_tree.append(parent(), m_tree.makeText(kind, m_run));
     }
-    m_run.clear();
+    const XmlTextId text = run == Run::Blank ? m_tree.addText(textOf(m_blank)) : m_tree.closeText();
+    keepSpace();
+    const XmlNodeId made = m_tree.make(run == Run::CData ? Kind::CData : Kind::Text);
+    m_tree.node(made).text = text;
+    append(made);
 }
 
-/// Puts a run of white space among the pending blanks; false when the run is not that. Indentation repeats:
-/// the last blank of each length is looked at first.
-bool XmlTreeBuilder::keepBlank()
+/// Whether the text is the last white space of its length; indentation repeats. It then is what m_blank
+/// stands for.
+bool XmlTreeBuilder::isKnownBlank(std::string_view text)
 {
-    const std::size_t length = m_run.size();
-    std::uint32_t at = length < m_lastBlanks.size() ? m_lastBlanks[length] : 0;
-    const bool isLast = at > 0 && std::memcmp(m_blankBytes.data() + (at - 1), m_run.data(), length) == 0;
-    if (!isLast) {
-        if (!isBlank(m_run))
-            return false;
-        at = std::uint32_t(m_blankBytes.size()) + 1;
-        m_blankBytes += m_run;
-        if (length < m_lastBlanks.size())
-            m_lastBlanks[length] = at;
-    }
-    m_blanks.push_back({m_tree.lastChild(parent()), at - 1, std::uint32_t(length)});
+    const std::uint32_t last = text.size() < m_lastBlanks.size() ? m_lastBlanks[text.size()] : 0;
+    if (last == 0 || std::memcmp(m_blankBytes.data() + (last - 1), text.data(), text.size()) != 0)
+        return false;
+    m_blank = {0, last - 1, std::uint32_t(text.size())};
+    return true;
+}
+
+/// Remembers the text as m_blank when it is white space alone, else false.
+bool XmlTreeBuilder::storeAsBlank(std::string_view text)
+{
+    if (!isBlank(text))
+        return false;
+    m_blank = {0, std::uint32_t(m_blankBytes.size()), std::uint32_t(text.size())};
+    m_blankBytes += text;
+    if (text.size() < m_lastBlanks.size())
+        m_lastBlanks[text.size()] = m_blank.at + 1;
     return true;
 }
 
 void XmlTreeBuilder::keepSpace()
 {
-    if (m_open.empty() || m_open.back().keepsSpace)
+    if (m_open.empty())
         return;
+    m_open.back().keepsSpace = true;
+    // While a text is open, its end does the rest.
+    const bool isOpen = m_run == Run::Text || m_run == Run::CData;
+    if (!isOpen && m_blanks.size() > m_open.back().firstBlank)
+        addBlanks();
+}
+
+/// Puts the open element's pending blanks into the tree.
+void XmlTreeBuilder::addBlanks()
+{
     OpenElement &element = m_open.back();
-    element.keepsSpace = true;
-    for (std::size_t i = element.firstBlank; i < m_blanks.size(); ++i) {
-        const PendingBlank &blank = m_blanks[i];
-        const std::string_view text(m_blankBytes.data() + blank.at, blank.length);
-        m_tree.insertAfter(element.node, blank.after, m_tree.makeText(Kind::Text, text));
-    }
+    m_hasLateBlanks = m_hasLateBlanks || element.hasElements;
+    setLastChild();
+    for (std::size_t i = element.firstBlank; i < m_blanks.size(); ++i)
+        m_tree.insertAfter(element.node, m_blanks[i].after, m_tree.makeText(Kind::Text, textOf(m_blanks[i])));
+    element.lastChild = m_tree.lastChild(element.node);
     m_blanks.resize(element.firstBlank);
 }
 
@@ -214,7 +270,7 @@ void XmlTreeBuilder::addComment(std::string_view text)
     const bool isAllowed = text.find("--") == std::string_view::npos && !text.ends_with('-');
     const XmlNodeId made =
         isAllowed ? m_tree.makeText(Kind::Comment, text) : m_tree.makeText(Kind::Comment, commentText(text));
-    m_tree.append(parent(), made);
+    append(made);
 }
 
 void XmlTreeBuilder::addInstruction(std::string_view target, std::string_view data, bool hasData)
@@ -226,7 +282,7 @@ void XmlTreeBuilder::addInstruction(std::string_view target, std::string_view da
     const XmlTextId text = hasData ? m_tree.addText(data) : 0;
     const XmlNodeId made = m_tree.make(Kind::Instruction, m_tree.intern({}, target, {}));
     m_tree.node(made).text = text;
-    m_tree.append(parent(), made);
+    append(made);
 }
 
 void XmlTreeBuilder::addDoctype()

@@ -52,6 +52,7 @@ public:
 private:
     struct OpenElement {
         XmlNodeId node;
+        XmlNodeId lastChild;      ///< which the tree learns at the element's end
         std::uint32_t firstBlank; ///< its first one in the list of pending blanks
         bool keepsSpace;          ///< it holds text, CDATA or a reference, or asks for its space to be kept
         bool asksForSpace;        ///< by xml:space
@@ -67,29 +68,44 @@ private:
 
     /// A name met before, by the addresses of its parts; their content is compared all the same.
     struct KnownName {
-        RawName raw = {nullptr, nullptr, nullptr};
+        const unsigned char *local = nullptr;
+        const char *text = "";
         XmlNameId id = XmlTree::noName;
     };
 
-    enum class Run { None, Text, CData };
+    /// What has come since the last event of another kind. Text and CDATA are the tree's open text.
+    enum class Run { None, Blank, Text, CData };
 
     XmlNodeId parent() const { return m_open.empty() ? XmlTree::documentId : m_open.back().node; }
     XmlNameId nameOf(const RawName &raw);
     XmlNameId internedName(const RawName &raw);
-    void endRun();
-    void addRun(std::string_view text, Run kind);
-    bool keepBlank();
+    void append(XmlNodeId child);
+    void setLastChild();
+    void endRun()
+    {
+        if (m_run != Run::None)
+            storeRun();
+    }
+    void storeRun();
+    bool isKnownBlank(std::string_view text);
+    bool storeAsBlank(std::string_view text);
+    void addBlanks();
+    std::string_view textOf(const PendingBlank &blank) const
+    {
+        return {m_blankBytes.data() + blank.at, blank.length};
+    }
 
     XmlTree &m_tree;
     const bool m_keepsSpace;
     std::vector<OpenElement> m_open;
-    std::string m_run; // of text or CDATA, not in the tree yet
-    Run m_runKind = Run::None;
+    Run m_run = Run::None;
+    PendingBlank m_blank = {}; // the run, when it is one
     std::vector<PendingBlank> m_blanks;
     std::string m_blankBytes;
     std::array<std::uint32_t, 128> m_lastBlanks = {}; // by length: where the last one is, plus 1
     std::array<KnownName, 1024> m_knownNames;
     XmlNodeId m_doctype = 0;
+    bool m_hasLateBlanks = false;
 };
 
 } // namespace vantrell

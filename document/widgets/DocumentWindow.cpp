@@ -244,7 +244,9 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         return;
     }
     m_treeLoaded = true;
-    m_notice->setNotice(notice);
+    const XmlDocument *const tree = m_workbench->document().xmlDoc();
+    const bool hasLoss = tree && !tree->loss().isEmpty();
+    m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
     Q_EMIT this->loaded(m_path);
     Q_EMIT menusChanged();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
+#include "document/widgets/NoticeBar.h"
 #include "support/QVAlert.h"
 #include "support/Result.h"
 
@@ -25,7 +26,6 @@ namespace vantrell
 class DocumentWindowInterface;
 class MyDocument;
 class MarkersPane;
-class NoticeBar;
 class ProgressSheet;
 class TabPane;
 class UserDefaults;
@@ -216,7 +216,8 @@ private:
     bool m_revertsWhenUnwound = false;
 
     bool m_isSending = false;
-    std::optional<QString> m_noticeBefore; // while the notice tells of a hidden send
+    std::optional<std::pair<QString, NoticeBar::Kind>>
+        m_noticeBefore; // while the notice tells of a hidden send
 
     QToolBar *m_toolBar = nullptr;
     QActionGroup *m_toolBarItems = nullptr;

@@ -49,7 +49,7 @@ void DocumentWindow::hideSending()
     if (!m_progress->isVisible())
         return;
     m_workbench->document().cancelProgress();
-    m_noticeBefore = m_notice->notice();
+    m_noticeBefore.emplace(m_notice->notice(), m_notice->kind());
     m_notice->setNotice(tr("The changes are still being sent."));
 }
 
@@ -58,7 +58,7 @@ void DocumentWindow::sendEnded()
     if (m_closing)
         return;
     if (const auto before = std::exchange(m_noticeBefore, std::nullopt))
-        m_notice->setNotice(*before);
+        m_notice->setNotice(before->first, before->second);
     m_isSending = false;
     Q_EMIT menusChanged();
     const bool isSent = !m_workbench->document().isEdited();

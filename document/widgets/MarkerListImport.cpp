@@ -75,10 +75,17 @@ void MarkerListImport::addSome()
 {
     // An alert on the way takes its answer here: the next few wait for it.
     const QPointer self(this);
-    const MarkerListImporter::Progress progress = m_importer.addMarkers(m_rows, m_progress, slice);
+    MarkerListImporter::Progress progress = m_progress;
+    const bool goesOn = guarded("MarkerListImport::addSome",
+                                [&] { progress = m_importer.addMarkers(m_rows, m_progress, slice); });
     if (!self || m_document.isClosing() || m_document.mainThread()->isClosed())
         return;
     m_progress = progress;
+    if (!goesOn) {
+        m_updates.reset();
+        Q_EMIT ended(m_progress.added, m_rows.size());
+        return;
+    }
     Q_EMIT progressed(progress.next, m_rows.size());
     if (progress.next < m_rows.size()) {
         QTimer::singleShot(0, this, &MarkerListImport::addSome);

@@ -15,6 +15,7 @@ namespace vantrell
 NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent)
     , m_text(new QLabel(this))
+    , m_dismiss(new QToolButton(this))
 {
     setBackgroundRole(QPalette::AlternateBase);
     setAutoFillBackground(true);
@@ -25,23 +26,24 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    auto *const dismiss = new QToolButton(this);
-    dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    dismiss->setAutoRaise(true);
-    dismiss->setToolTip(tr("Dismiss"));
-    dismiss->setAccessibleName(tr("Dismiss notice"));
-    connect(dismiss, &QToolButton::clicked, this, &QWidget::hide);
+    m_dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_dismiss->setAutoRaise(true);
+    m_dismiss->setToolTip(tr("Dismiss"));
+    m_dismiss->setAccessibleName(tr("Dismiss notice"));
+    connect(m_dismiss, &QToolButton::clicked, this, &QWidget::hide);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 5, 6, 5);
     layout->addWidget(icon);
     layout->addWidget(m_text, 1);
-    layout->addWidget(dismiss);
+    layout->addWidget(m_dismiss);
     hide();
 }
 
-void NoticeBar::setNotice(const QString &text)
+void NoticeBar::setNotice(const QString &text, Kind kind)
 {
+    m_kind = kind;
     m_text->setText(text);
+    m_dismiss->setVisible(kind == Kind::Dismissible);
     setVisible(!text.isEmpty());
     if (isVisible()) {
         QAccessibleEvent event(m_text, QAccessible::Alert);

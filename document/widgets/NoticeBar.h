@@ -3,11 +3,13 @@
 #include <QFrame>
 
 class QLabel;
+class QToolButton;
 
 namespace vantrell
 {
 
-/// A line across the top of a window that tells something about its file, until the user puts it away.
+/// A line across the top of a window that tells something about its file, until the user puts it away
+/// or, where it must not be overlooked, until it no longer holds.
 /// Hidden while it has nothing to tell.
 class NoticeBar final : public QFrame
 {
@@ -16,12 +18,20 @@ class NoticeBar final : public QFrame
 public:
     explicit NoticeBar(QWidget *parent);
 
+    enum class Kind {
+        Dismissible,
+        Lasting, ///< stays until another notice takes its place
+    };
+
     /// An empty text hides the bar.
-    void setNotice(const QString &text);
+    void setNotice(const QString &text, Kind kind = Kind::Dismissible);
     QString notice() const;
+    Kind kind() const { return m_kind; }
 
 private:
     QLabel *m_text;
+    QToolButton *m_dismiss;
+    Kind m_kind = Kind::Dismissible;
 };
 
 } // namespace vantrell

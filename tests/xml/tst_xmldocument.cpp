@@ -10,6 +10,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <chrono>
+#include <string>
+#include <thread>
+
 using namespace vantrell;
 
 namespace
@@ -197,6 +201,156 @@ private Q_SLOTS:
         QCOMPARE(bool(parsed(xml, false)), !repaired);
     }
 
+    void invalidCharactersCostThemselvesAlone_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("fault");
+        const auto add = [](const char *name, const QByteArray &xml, const char *text, const char *fault) {
+            QTest::newRow(name) << xml << QString::fromUtf8(text) << QString::fromUtf8(fault);
+        };
+        const QByteArray nul("\0", 1);
+        add("NUL", "<a>x" + nul + "y<b/></a>", "<a>xy<b/></a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("control characters everywhere",
+            "<a c=\"1\x01\">\n<!--\x02z--><![CDATA[\x03]]><b\x04/>\x1F<?p \x0Cq?></a>",
+            "<a c=\"1\">\n<!--z--><![CDATA[]]><b/><?p q?></a>",
+            "line 1: the character U+0001, which XML forbids");
+        add("no character", "<a>\n\xEF\xBF\xBE<b/></a>", "<a><b/></a>",
+            "line 2: the character U+FFFE, which XML forbids");
+        add("no UTF-8", "<a>caf\xE9<b>\xC3\xA9\xE2\x82</b>\xC0\x80\xED\xA0\x80</a>", "<a>caf<b>é</b></a>",
+            "line 1: the byte 0xE9, which is no UTF-8");
+        add("UTF-8 cut off at the end", "<a/>\n\xC3", "<a/>", "line 2: the byte 0xC3, which is no UTF-8");
+        add("undefined in the encoding",
+            "<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<a>\x81\x80<b/></a>", "<a>€<b/></a>",
+            "line 2: bytes that are no windows-1252");
+        add("beyond ASCII", "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><a>x\xE9y<b/></a>", "<a>xy<b/></a>",
+            "line 1: bytes that are no US-ASCII");
+        QByteArray utf16;
+        for (const char16_t unit : std::u16string(u"\uFEFF<a>é\xD83C!\xDFAC<b/>\xD83C\xDFAC</a>")) {
+            utf16 += char(unit & 0xFF);
+            utf16 += char(unit >> 8);
+        }
+        add("lone surrogates", utf16, "<a>é!<b/>\U0001F3AC</a>", "line 1: bytes that are no UTF-16LE");
+        add("labelled wrongly", "<?xml version=\"1.0\" encoding=\"UTF-16\"?><a>é</a>", "<a>é</a>",
+            "line 1: Document labelled UTF-16 but has UTF-8 content");
+    }
+    void invalidCharactersCostThemselvesAlone()
+    {
+        QFETCH(QByteArray, xml);
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QTEST(XmlDocument::textOfElement(document->rootElement()), "text");
+        QTEST(document->firstFault(), "fault");
+        QVERIFY(document->wasRepaired());
+        QCOMPARE(document->loss(), QString());
+        QVERIFY(!parsed(xml, false));
+        QVERIFY(parsed(saved(*document), false));
+        // Wherever the blocks that are read end.
+        const QByteArray blank(256 * 1024 - 8 - xml.indexOf("<a"), ' ');
+        if (xml.startsWith('<') && !xml.startsWith("<?xml"))
+            QTEST(rootText(QByteArray(xml).replace("<a", "<!--" + blank + "--><a")), "text");
+    }
+
+    void lossIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("loss");
+        QTest::newRow("none") << QByteArray("<a>x & y<b></a>") << QString();
+        QTest::newRow("text behind the end") << QByteArray("<a/>more") << QString();
+        QTest::newRow("cut off") << QByteArray("<a><b>x</b><c>")
+                                 << QStringLiteral(
+                                        "Content is missing: all 14 bytes could be read, but the file "
+                                        "ends in the middle of an element.");
+        const QByteArray many = QByteArray("<d>1</d>\n").repeated(2000);
+        QTest::newRow("stray end tag")
+            << "<a><b></b></b>" + many + "</a>"
+            << QStringLiteral("Content is missing: 14 of 18,018 bytes could be read, and 2,000 elements were "
+                              "left out behind that.");
+        QTest::newRow("one element") << QByteArray("<a></a><b></b>")
+                                     << QStringLiteral(
+                                            "Content is missing: 7 of 14 bytes could be read, and 1 "
+                                            "element was left out behind that.");
+    }
+    void lossIsTold()
+    {
+        QFETCH(QByteArray, xml);
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QTEST(document->loss(), "loss");
+        QVERIFY(parsed(saved(*document), false));
+    }
+
+    void savedFilesParseAgain_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("attributes twice")
+            << QByteArray("<a b=\"1\" c=\"2\" b=\"3\"/>") << QStringLiteral("<a b=\"1\" c=\"2\"/>");
+        QTest::newRow("late declaration")
+            << QByteArray("\n <?xml version=\"1.0\"?><a><?XML x?><b/></a>") << QStringLiteral("<a><b/></a>");
+        QTest::newRow("hyphens") << QByteArray("<a><b/><!-- x -- y --></a>")
+                                 << QStringLiteral("<a><b/><!-- x - - y --></a>");
+        QTest::newRow("odd names") << QByteArray("<a><b:1/><:c/><d::e f:=\"1\"/></a>")
+                                   << QStringLiteral("<a><b:1/><:c/><d::e f:=\"1\"/></a>");
+        QTest::newRow("odd version") << QByteArray("<?xml version=\"2.0\"?><a/>") << QStringLiteral("<a/>");
+        QTest::newRow("odd doctype") << QByteArray("<!DOCTYPE><a/>") << QStringLiteral("<a/>");
+        QTest::newRow("encoding that is no superset of ASCII")
+            << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-7\"?><a>+AOk-</a>")
+            << QStringLiteral("<a>é</a>");
+        QTest::newRow("namespaces") << QByteArray("<p:a xmlns:p=\"&lt;&amp;&quot;'\"/>")
+                                    << QStringLiteral("<p:a xmlns:p=\"&lt;&#38;&quot;'\"/>");
+    }
+    void savedFilesParseAgain()
+    {
+        QFETCH(QByteArray, xml);
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QTEST(XmlDocument::textOfElement(document->rootElement()), "text");
+        const auto again = parsed(saved(*document), false);
+        QVERIFY2(again, saved(*document).constData());
+        QTEST(XmlDocument::textOfElement(again->rootElement()), "text");
+    }
+
+    void encodingsAreKept_data()
+    {
+        QTest::addColumn<QByteArray>("encoding");
+        QTest::addColumn<QByteArray>("content"); // of <a b="ü">ü片</a>
+        QTest::newRow("one byte each")
+            << QByteArray("ISO-8859-1") << QByteArray("<a b=\"\xFC\">\xFC&#29255;</a>");
+        QTest::newRow("ASCII") << QByteArray("US-ASCII") << QByteArray("<a b=\"&#252;\">&#252;&#29255;</a>");
+        QTest::newRow("UTF-8") << QByteArray("utf-8") << QByteArray("<a b=\"ü\">ü片</a>");
+    }
+    void encodingsAreKept()
+    {
+        QFETCH(QByteArray, encoding);
+        const QByteArray start = "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>\n";
+        const auto document = parsed(start + "<a b=\"&#252;\">&#xFC;&#x7247;</a>");
+        QFETCH(QByteArray, content);
+        QCOMPARE(saved(*document), start + content + "\n");
+    }
+
+    void everythingIsCarriedThrough()
+    {
+        const QByteArray xml = "<?xml version=\"1.0\" encoding=\"UTF-8\" "
+                               "standalone=\"yes\"?>\n<!--1-->\n<!DOCTYPE a PUBLIC \"p\" "
+                               "\"s\" [\n<!ELEMENT a ANY>\n<!--i-->]>\n<?q?>\n<a xmlns:p=\"u\" "
+                               "p:c=\"&quot;&#9;&#10;&lt;&gt;'\">\n  "
+                               "<p:b/>\n  <c>x<d/> ]]&gt;&#13;</c>\n  <e><![CDATA[<&>]]></e>\n  <?q r ?>\n  "
+                               "<!--2-->\n</a>\n<!--3-->\n";
+        const auto document = parsed(xml);
+        QVERIFY(document);
+        QVERIFY(!document->wasRepaired());
+        QCOMPARE(saved(*document), xml);
+    }
+
+    void referencesInARowCostNoMore()
+    {
+        // Each comes as a text of its own: their memory once grew with the square of their number.
+        const auto document = parsed("<a>" + QByteArray("&#66;").repeated(400'000) + "</a>");
+        QCOMPARE(document->rootElement().stringValue(), QString(400'000, QLatin1Char('B')));
+    }
+
     void entitiesNeitherGrowNorReadFiles()
     {
         QByteArray bomb("<!DOCTYPE a [<!ENTITY e0 \"0123456789\">");
@@ -337,6 +491,26 @@ private Q_SLOTS:
         QCOMPARE(XmlDocument::textOfElement(again->rootElement()), xml);
         const XmlNode copy = document->copyOfElement(document->rootElement());
         QCOMPARE(XmlDocument::textOfElement(copy), xml);
+    }
+
+    void cancellingEndsALongText()
+    {
+        // One text, so that nothing but the reading comes by.
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p.xml"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<a>" + QByteArray(64 << 20, 'x'));
+        file.close();
+        std::atomic<bool> cancelled = false;
+        std::thread canceller([&cancelled] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+            cancelled = true;
+        });
+        const auto document = XmlDocument::fromFile(path, {true, &cancelled});
+        canceller.join();
+        QVERIFY(!document);
+        QVERIFY2(document.message().contains(QStringLiteral("cancelled")), qPrintable(document.message()));
     }
 
     void aCancelledParseGivesNothing()
