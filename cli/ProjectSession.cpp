@@ -10,13 +10,7 @@ ProjectSession::ProjectSession(Workbench::Inventories inventories)
 {
 }
 
-ProjectSession::~ProjectSession()
-{
-    m_workbench->document().close();
-#ifndef VANTRELL_SANITIZED
-    m_workbench.release();
-#endif
-}
+ProjectSession::~ProjectSession() = default;
 
 bool ProjectSession::open(const QString &path)
 {

@@ -16,8 +16,6 @@ class ProjectSession : private HeadlessDocumentInterface
 {
 public:
     explicit ProjectSession(Workbench::Inventories inventories);
-    /// Ends what runs for the project and leaves its memory to the end of the process, which is near:
-    /// taking a large tree apart would only cost time.
     ~ProjectSession() override;
 
     /// Loads the file and waits for it, inventories included. False, with a message on standard error,

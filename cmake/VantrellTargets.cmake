@@ -28,7 +28,6 @@ if(VANTRELL_SANITIZER_FLAGS)
     set(VANTRELL_TEST_OPTIMISATION -O0)
     target_compile_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
-    target_compile_definitions(vantrell_common INTERFACE VANTRELL_SANITIZED)
 endif()
 
 # vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...] [PRECOMPILED set])

@@ -1,6 +1,8 @@
 #include "xml/XmlParse.h"
 
+#include "xml/XmlEvents.h"
 #include "xml/XmlLibrary.h"
+#include "xml/XmlNames.h"
 #include "xml/XmlTreeBuilder.h"
 
 #include <libxml/SAX2.h>
@@ -35,6 +37,12 @@ std::string_view viewOf(const xmlChar *text, std::ptrdiff_t length)
     return {reinterpret_cast<const char *>(text), std::size_t(length)};
 }
 
+bool isXmlTarget(std::string_view target)
+{
+    return target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' &&
+           (target[2] | 0x20) == 'l';
+}
+
 /// One parse: what the parser's callbacks, which reach it through the parser's private pointer, hand to the
 /// builder of the tree. The library builds a document of its own as well, that holds the DTD alone.
 class Parse
@@ -45,7 +53,9 @@ public:
         , m_request(request)
         , m_input(request.source, !request.tolerant, request.cancelled)
         , m_tree(tree)
+        , m_names(tree)
         , m_builder(tree, request.keepsSpace)
+        , m_events(m_builder)
     {
         context->_private = this;
         xmlSAXHandler *sax = context->sax;
@@ -120,7 +130,7 @@ private:
         Parse *const self = of(context);
         xmlSAX2InternalSubset(context, name, externalId, systemId);
         self->m_inSubset = true;
-        self->guard([&] { self->m_builder.addDoctype(); });
+        self->guard([&] { self->m_events.addDoctype(); });
     }
 
     /// Comes when the internal subset has been read. There is no external one: nothing is fetched.
@@ -143,19 +153,19 @@ private:
     static void endElement(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
         Parse *const self = of(context);
-        self->guard([&] { self->m_builder.endElement(); });
+        self->guard([&] { self->onEndElement(); });
     }
 
     static void characters(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
-        self->guard([&] { self->m_builder.addText(viewOf(text, length)); });
+        self->guard([&] { self->m_events.addText(viewOf(text, length)); });
     }
 
     static void cdata(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
-        self->guard([&] { self->m_builder.addCData(viewOf(text, length)); });
+        self->guard([&] { self->m_events.addCData(viewOf(text, length)); });
     }
 
     static void comment(void *context, const xmlChar *text)
@@ -164,7 +174,7 @@ private:
         if (self->m_inSubset)
             xmlSAX2Comment(context, text);
         else
-            self->guard([&] { self->m_builder.addComment(viewOf(text)); });
+            self->guard([&] { self->m_events.addComment(viewOf(text)); });
     }
 
     static void processingInstruction(void *context, const xmlChar *target, const xmlChar *data)
@@ -173,8 +183,7 @@ private:
         if (self->m_inSubset)
             xmlSAX2ProcessingInstruction(context, target, data);
         else
-            self->guard(
-                [&] { self->m_builder.addInstruction(viewOf(target), viewOf(data), data != nullptr); });
+            self->guard([&] { self->onInstruction(viewOf(target), data); });
     }
 
     /// A reference to an entity that nothing declares: it is left out, what stands beside it is text.
@@ -182,7 +191,7 @@ private:
     {
         Parse *const self = of(context);
         self->m_repaired = true;
-        self->guard([&] { self->m_builder.keepSpace(); });
+        self->guard([&] { self->m_events.keepSpace(); });
     }
 
     static void error(void *context, XmlLibrary::ErrorPointer problem)
@@ -205,7 +214,7 @@ private:
         m_outOfMemory = m_outOfMemory || problem.code == XML_ERR_NO_MEMORY;
         const bool inContent = m_context->instate != XML_PARSER_ATTRIBUTE_VALUE;
         if ((problem.code == XML_ERR_UNDECLARED_ENTITY || undeclaredEntity) && inContent)
-            m_builder.keepSpace();
+            m_events.keepSpace();
         if (m_firstError.isEmpty()) {
             m_firstErrorLine = problem.line;
             m_firstError =
@@ -213,7 +222,7 @@ private:
         }
     }
 
-    void onStartElement(const XmlTreeBuilder::RawName &name, int namespaces, const xmlChar **namespaceList,
+    void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
                         int attributes, const xmlChar **attributeList)
     {
         m_inSubset = false;
@@ -222,25 +231,50 @@ private:
             xmlStopParser(m_context);
             return;
         }
-        if (m_builder.depth() >= maximumElementDepth) {
+        if (m_depth >= maximumElementDepth) {
             m_tooDeep = true;
             xmlStopParser(m_context);
             return;
         }
-        m_builder.startElement(name);
+        ++m_depth;
+        m_events.startElement(m_names.idOf(name));
         for (int i = 0; i < namespaces; ++i)
-            m_builder.addNamespace(viewOf(namespaceList[2 * i]), viewOf(namespaceList[2 * i + 1]));
+            m_events.addNamespace(m_names.idOf(viewOf(namespaceList[2 * i])),
+                                  viewOf(namespaceList[2 * i + 1]));
         for (int i = 0; i < attributes; ++i) {
             // Local name, prefix, URI, begin and end of the value.
             const xmlChar **const parts = attributeList + std::ptrdiff_t(5) * i;
-            m_builder.addAttribute({parts[0], parts[1], parts[2]}, viewOf(parts[3], parts[4] - parts[3]));
+            const std::string_view value = viewOf(parts[3], parts[4] - parts[3]);
+            m_events.addAttribute(m_names.idOf({parts[0], parts[1], parts[2]}), value);
+            const bool isSpace = parts[1] && viewOf(parts[1]) == "xml" && viewOf(parts[0]) == "space";
+            if (isSpace && (value == "preserve" || value == "default"))
+                m_events.setSpace(value == "preserve");
         }
+    }
+
+    void onEndElement()
+    {
+        --m_depth;
+        m_events.endElement();
+    }
+
+    void onInstruction(std::string_view target, const xmlChar *data)
+    {
+        // A declaration of XML that stands elsewhere than at the start is none.
+        if (isXmlTarget(target))
+            return;
+        const XmlNameId name = m_names.idOf(target);
+        if (data)
+            m_events.addInstruction(name, viewOf(data));
+        else
+            m_events.addInstruction(name);
     }
 
     void finish(xmlDoc *document, ParseOutcome &outcome)
     {
+        m_events.finish();
         outcome.loss.bytesTotal = m_request.source.size;
-        const bool isOpen = m_builder.depth() > 0;
+        const bool isOpen = m_depth > 0;
         // A parser that gave up has lost its place; the error tells it.
         const long consumed = std::max(xmlByteConsumed(m_context), m_errorAt);
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
@@ -284,7 +318,10 @@ private:
     const ParseRequest &m_request;
     XmlInput m_input;
     XmlTree &m_tree;
+    XmlNames m_names;
     XmlTreeBuilder m_builder;
+    XmlEvents m_events; // ends before the builder
+    int m_depth = 0;
     bool m_inSubset = false;
     bool m_repaired = false;
     bool m_tooDeep = false;

@@ -15,16 +15,6 @@ namespace
 
 using Kind = XmlTree::Kind;
 
-const char *chars(const unsigned char *text)
-{
-    return reinterpret_cast<const char *>(text);
-}
-
-std::string_view viewOf(const unsigned char *text)
-{
-    return text ? std::string_view(chars(text)) : std::string_view();
-}
-
 bool isBlank(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(),
@@ -43,42 +33,12 @@ std::string commentText(std::string_view text)
     return parted;
 }
 
-bool isXmlTarget(std::string_view target)
-{
-    return target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' &&
-           (target[2] | 0x20) == 'l';
-}
-
 } // namespace
 
 XmlTreeBuilder::XmlTreeBuilder(XmlTree &tree, bool keepsSpace)
     : m_tree(tree)
     , m_keepsSpace(keepsSpace)
 {
-}
-
-// Names ------------------------------------------------------------------------------------------
-
-XmlNameId XmlTreeBuilder::nameOf(const RawName &raw)
-{
-    // Parsers keep each name once, so that most have the address that they had before.
-    const auto address = reinterpret_cast<std::uintptr_t>(raw.local);
-    KnownName &known = m_knownNames[(address ^ address >> 10) % m_knownNames.size()];
-    if (raw.prefix || raw.uri)
-        return internedName(raw);
-    if (known.local != raw.local || std::strcmp(known.text, chars(raw.local)) != 0) {
-        const XmlNameId id = internedName(raw);
-        known = {raw.local, m_tree.name(id).qualified.c_str(), id};
-    }
-    return known.id;
-}
-
-XmlNameId XmlTreeBuilder::internedName(const RawName &raw)
-{
-    // A prefix that nothing declares is a part of the name.
-    if (raw.prefix && !raw.uri)
-        return m_tree.intern({}, std::string(viewOf(raw.prefix)) + ':' + chars(raw.local), {});
-    return m_tree.intern(viewOf(raw.prefix), viewOf(raw.local), viewOf(raw.uri));
 }
 
 // Elements ---------------------------------------------------------------------------------------
@@ -108,10 +68,10 @@ void XmlTreeBuilder::setLastChild()
         m_tree.node(m_tree.node(element.node).firstChild).previous = element.lastChild;
 }
 
-void XmlTreeBuilder::startElement(const RawName &name)
+void XmlTreeBuilder::startElement(XmlNameId name)
 {
     endRun();
-    const XmlNodeId element = m_tree.make(Kind::Element, nameOf(name));
+    const XmlNodeId element = m_tree.make(Kind::Element, name);
     append(element);
     bool asksForSpace = m_keepsSpace;
     if (!m_open.empty()) {
@@ -121,27 +81,29 @@ void XmlTreeBuilder::startElement(const RawName &name)
     m_open.push_back({element, 0, std::uint32_t(m_blanks.size()), asksForSpace, asksForSpace, false});
 }
 
-void XmlTreeBuilder::addNamespace(std::string_view prefix, std::string_view uri)
+void XmlTreeBuilder::addNamespace(XmlNameId prefix, std::string_view uri)
 {
     const XmlNodeId declaration = m_tree.makeText(Kind::Namespace, uri);
-    m_tree.node(declaration).name = m_tree.intern({}, prefix, {});
+    m_tree.node(declaration).name = prefix;
     m_tree.appendAttribute(parent(), declaration);
 }
 
-void XmlTreeBuilder::addAttribute(const RawName &name, std::string_view value)
+void XmlTreeBuilder::addAttribute(XmlNameId name, std::string_view value)
 {
-    const XmlNameId id = nameOf(name);
     const XmlNodeId element = parent();
     for (XmlNodeId other = m_tree.node(element).firstAttribute; other; other = m_tree.node(other).next) {
-        const bool isSame = m_tree.node(other).kind() == Kind::Attribute && m_tree.node(other).name == id;
+        const bool isSame = m_tree.node(other).kind() == Kind::Attribute && m_tree.node(other).name == name;
         if (isSame)
             return;
     }
     const XmlNodeId attribute = m_tree.makeText(Kind::Attribute, value);
-    m_tree.node(attribute).name = id;
+    m_tree.node(attribute).name = name;
     m_tree.appendAttribute(element, attribute);
-    if (m_tree.name(id).qualified == "xml:space" && (value == "preserve" || value == "default"))
-        m_open.back().keepsSpace = m_open.back().asksForSpace = m_keepsSpace || value == "preserve";
+}
+
+void XmlTreeBuilder::setSpace(bool isKept)
+{
+    m_open.back().keepsSpace = m_open.back().asksForSpace = m_keepsSpace || isKept;
 }
 
 void XmlTreeBuilder::endElement()
@@ -273,16 +235,17 @@ void XmlTreeBuilder::addComment(std::string_view text)
     append(made);
 }
 
-void XmlTreeBuilder::addInstruction(std::string_view target, std::string_view data, bool hasData)
+void XmlTreeBuilder::addInstruction(XmlNameId target)
 {
     endRun();
-    // A declaration of XML that stands elsewhere than at the start is none.
-    if (isXmlTarget(target))
-        return;
-    const XmlTextId text = hasData ? m_tree.addText(data) : 0;
-    const XmlNodeId made = m_tree.make(Kind::Instruction, m_tree.intern({}, target, {}));
-    m_tree.node(made).text = text;
-    append(made);
+    append(m_tree.make(Kind::Instruction, target));
+}
+
+void XmlTreeBuilder::addInstruction(XmlNameId target, std::string_view data)
+{
+    addInstruction(target);
+    const XmlTextId text = m_tree.addText(data);
+    m_tree.node(m_open.empty() ? m_tree.lastChild(XmlTree::documentId) : m_open.back().lastChild).text = text;
 }
 
 void XmlTreeBuilder::addDoctype()

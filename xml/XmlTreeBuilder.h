@@ -13,33 +13,26 @@
 namespace vantrell
 {
 
-/// Builds a tree from the events of a parser. Text is gathered until something else comes, so that a text
-/// that arrives in many parts costs no more than one in one part.
+/// Builds a tree from the events of a parser; names belong to the parser's side (XmlNames). Text is gathered
+/// until something else comes, so that a text that arrives in many parts costs no more than one in one part.
 class XmlTreeBuilder
 {
 public:
-    /// A name as a parser hands it over: zero-terminated UTF-8; prefix and URI are null when there is none.
-    struct RawName {
-        const unsigned char *local;
-        const unsigned char *prefix;
-        const unsigned char *uri;
-    };
-
     /// \a keepsSpace: white space between elements is kept as well.
     XmlTreeBuilder(XmlTree &tree, bool keepsSpace);
 
-    /// How many elements are open.
-    int depth() const { return int(m_open.size()); }
-
-    void startElement(const RawName &name);
-    void addNamespace(std::string_view prefix, std::string_view uri); ///< of the element just started
+    void startElement(XmlNameId name);
+    void addNamespace(XmlNameId prefix, std::string_view uri); ///< of the element just started
     /// Of the element just started; one of a name that it has already is passed over.
-    void addAttribute(const RawName &name, std::string_view value);
+    void addAttribute(XmlNameId name, std::string_view value);
+    /// Whether the element just started asks for its white space to be kept.
+    void setSpace(bool isKept);
     void endElement();
     void addText(std::string_view text);
     void addCData(std::string_view text);
     void addComment(std::string_view text);
-    void addInstruction(std::string_view target, std::string_view data, bool hasData);
+    void addInstruction(XmlNameId target);
+    void addInstruction(XmlNameId target, std::string_view data);
     void addDoctype();
     /// The open element turns out to hold text: its white space is data, that met so far included.
     void keepSpace();
@@ -66,19 +59,10 @@ private:
         std::uint32_t length;
     };
 
-    /// A name met before, by the addresses of its parts; their content is compared all the same.
-    struct KnownName {
-        const unsigned char *local = nullptr;
-        const char *text = "";
-        XmlNameId id = XmlTree::noName;
-    };
-
     /// What has come since the last event of another kind. Text and CDATA are the tree's open text.
     enum class Run { None, Blank, Text, CData };
 
     XmlNodeId parent() const { return m_open.empty() ? XmlTree::documentId : m_open.back().node; }
-    XmlNameId nameOf(const RawName &raw);
-    XmlNameId internedName(const RawName &raw);
     void append(XmlNodeId child);
     void setLastChild();
     void endRun()
@@ -103,7 +87,6 @@ private:
     std::vector<PendingBlank> m_blanks;
     std::string m_blankBytes;
     std::array<std::uint32_t, 128> m_lastBlanks = {}; // by length: where the last one is, plus 1
-    std::array<KnownName, 1024> m_knownNames;
     XmlNodeId m_doctype = 0;
     bool m_hasLateBlanks = false;
 };

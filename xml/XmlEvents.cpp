@@ -1,0 +1,176 @@
+#include "xml/XmlEvents.h"
+
+#include <new>
+#include <system_error>
+#include <utility>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr std::size_t blockSize = std::size_t(1) << 17;
+constexpr std::size_t mostFilled = 8; // then the parser waits
+
+} // namespace
+
+XmlEvents::XmlEvents(XmlTreeBuilder &builder)
+    : m_builder(builder)
+    , m_block(blockSize)
+{
+}
+
+XmlEvents::~XmlEvents()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ended = true;
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+/// Makes the block one that has that much room.
+void XmlEvents::nextBlock(std::size_t size)
+{
+    handOver();
+    if (m_block.size() < std::max(size, blockSize))
+        m_block.resize(std::max(size, blockSize));
+}
+
+/// Hands the block to the thread; the next one may have another size, none included.
+void XmlEvents::handOver()
+{
+    if (!m_thread.joinable() && !m_hasNoThread) {
+        try {
+            m_thread = std::thread([this] { work(); });
+        } catch (const std::system_error &) {
+            m_hasNoThread = true;
+        }
+    }
+    const std::size_t used = std::exchange(m_used, 0);
+    if (m_hasNoThread) {
+        replay(m_block, used);
+        return;
+    }
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_filled.size() < mostFilled; });
+        m_filled.push_back({std::move(m_block), used});
+        m_block.clear();
+        if (!m_spare.empty()) {
+            m_block = std::move(m_spare.back());
+            m_spare.pop_back();
+        }
+    }
+    m_changed.notify_all();
+    if (m_failed)
+        throw std::bad_alloc();
+}
+
+void XmlEvents::finish()
+{
+    if (!m_thread.joinable()) {
+        replay(m_block, std::exchange(m_used, 0));
+        return;
+    }
+    handOver();
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_filled.empty() && !m_isWorking; });
+    if (m_failed)
+        throw std::bad_alloc();
+}
+
+/// The builder's thread.
+void XmlEvents::work()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return m_ended || !m_filled.empty(); });
+        if (m_ended)
+            return;
+        Filled filled = std::move(m_filled.front());
+        m_filled.pop_front();
+        m_isWorking = true;
+        lock.unlock();
+        m_changed.notify_all();
+        try {
+            if (!m_failed)
+                replay(filled.block, filled.used);
+        } catch (const std::bad_alloc &) {
+            m_failed = true;
+        }
+        lock.lock();
+        m_isWorking = false;
+        if (m_spare.size() < mostFilled && filled.block.size() == blockSize && !m_failed)
+            m_spare.push_back(std::move(filled.block));
+        m_changed.notify_all();
+    }
+}
+
+void XmlEvents::replay(const Block &block, std::size_t used)
+{
+    const char *at = block.data();
+    const char *const end = at + used;
+    while (at != end) {
+        Event event;
+        std::memcpy(&event, at, sizeof event);
+        at += sizeof event;
+        std::uint64_t size = 0;
+        const bool hasText = Kind(event.kind) == Kind::Text || Kind(event.kind) == Kind::CData ||
+                             Kind(event.kind) == Kind::Attribute || Kind(event.kind) == Kind::Namespace ||
+                             Kind(event.kind) == Kind::Comment || Kind(event.kind) == Kind::Instruction;
+        if (hasText) {
+            std::memcpy(&size, at, sizeof size);
+            at += sizeof size;
+        }
+        tell(event, {at, std::size_t(size)});
+        at += size;
+    }
+}
+
+void XmlEvents::tell(const Event &event, std::string_view text)
+{
+    switch (Kind(event.kind)) {
+    case Kind::StartElement:
+        m_builder.startElement(event.number);
+        break;
+    case Kind::EndElement:
+        m_builder.endElement();
+        break;
+    case Kind::Namespace:
+        m_builder.addNamespace(event.number, text);
+        break;
+    case Kind::Attribute:
+        m_builder.addAttribute(event.number, text);
+        break;
+    case Kind::Space:
+        m_builder.setSpace(event.number != 0);
+        break;
+    case Kind::Text:
+        m_builder.addText(text);
+        break;
+    case Kind::CData:
+        m_builder.addCData(text);
+        break;
+    case Kind::Comment:
+        m_builder.addComment(text);
+        break;
+    case Kind::BareInstruction:
+        m_builder.addInstruction(event.number);
+        break;
+    case Kind::Instruction:
+        m_builder.addInstruction(event.number, text);
+        break;
+    case Kind::Doctype:
+        m_builder.addDoctype();
+        break;
+    case Kind::KeepSpace:
+        m_builder.keepSpace();
+        break;
+    }
+}
+
+} // namespace vantrell

@@ -1,0 +1,44 @@
+#include "xml/XmlNames.h"
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+namespace vantrell
+{
+
+namespace
+{
+
+std::string_view viewOf(const unsigned char *text)
+{
+    return text ? std::string_view(reinterpret_cast<const char *>(text)) : std::string_view();
+}
+
+} // namespace
+
+XmlNameId XmlNames::idOf(const Raw &raw)
+{
+    if (raw.prefix || raw.uri)
+        return interned(raw);
+    // Parsers keep each name once, so that most have the address that they had before.
+    const auto address = reinterpret_cast<std::uintptr_t>(raw.local);
+    Known &known = m_known[(address ^ address >> 10) % m_known.size()];
+    if (known.local != raw.local || std::strcmp(known.text, reinterpret_cast<const char *>(raw.local)) != 0) {
+        const XmlNameId id = interned(raw);
+        known = {raw.local, m_tree.name(id).qualified.c_str(), id};
+    }
+    return known.id;
+}
+
+XmlNameId XmlNames::interned(const Raw &raw)
+{
+    // A prefix that nothing declares is a part of the name.
+    if (raw.prefix && !raw.uri) {
+        const std::string name = std::string(viewOf(raw.prefix)) + ':' + std::string(viewOf(raw.local));
+        return m_tree.intern({}, name, {});
+    }
+    return m_tree.intern(viewOf(raw.prefix), viewOf(raw.local), viewOf(raw.uri));
+}
+
+} // namespace vantrell

@@ -1,0 +1,48 @@
+#pragma once
+
+// For use inside xml/ only.
+
+#include "xml/XmlTree.h"
+
+#include <array>
+#include <string_view>
+
+namespace vantrell
+{
+
+/// The names of a tree that is being parsed. While it is built no other part of it is touched, so that this
+/// may be on another thread than the builder.
+class XmlNames
+{
+public:
+    /// A name as a parser hands it over: zero-terminated UTF-8; prefix and URI are null when there is none.
+    struct Raw {
+        const unsigned char *local;
+        const unsigned char *prefix;
+        const unsigned char *uri;
+    };
+
+    explicit XmlNames(XmlTree &tree)
+        : m_tree(tree)
+    {
+    }
+
+    XmlNameId idOf(const Raw &raw);
+    /// A name in no namespace.
+    XmlNameId idOf(std::string_view name) { return m_tree.intern({}, name, {}); }
+
+private:
+    /// A name met before, by its address; its content is compared all the same.
+    struct Known {
+        const unsigned char *local = nullptr;
+        const char *text = "";
+        XmlNameId id = XmlTree::noName;
+    };
+
+    XmlNameId interned(const Raw &raw);
+
+    XmlTree &m_tree;
+    std::array<Known, 1024> m_known;
+};
+
+} // namespace vantrell
