@@ -43,6 +43,10 @@ void ProjectSession::loadFinished(bool loaded, const QString &message, const QSt
 
 void ProjectSession::inventoriesFinished()
 {
+    if (document().isIncomplete()) {
+        complain(incompleteLists);
+        m_loaded = false;
+    }
     m_ended = true;
     m_loop.quit();
 }

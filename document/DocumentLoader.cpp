@@ -154,8 +154,8 @@ void MyDocument::runInventories()
     m_inventories.reserve(m_services.inventoryBuilders.size());
     for (const auto &builder : m_services.inventoryBuilders) {
         const auto run = [this, &builder] {
-            if (!isClosing())
-                guarded("inventory", [&] { builder(*this); });
+            if (!isClosing() && !guarded("inventory", [&] { builder(*this); }))
+                noteIncomplete();
             if (--m_runningInventories == 0)
                 m_mainThread->post([this] { m_interface.inventoriesFinished(); });
         };

@@ -50,6 +50,10 @@ namespace LoadFailure
 inline const QString noProject = QStringLiteral("Final Cut Pro gave no XML of the project.");
 } // namespace LoadFailure
 
+/// What is told when an inventory has ended before its time.
+inline const QString incompleteLists =
+    QStringLiteral("Not all that the project holds could be listed; the log tells why.");
+
 /// Why saving failed, where the program must know it.
 namespace SaveFailure
 {
@@ -152,6 +156,12 @@ public:
     /// The object value of the first node that the query finds under the element; nothing when it finds
     /// none. Any thread.
     static std::optional<QString> valueForXPath(const QString &query, XmlNode parentNode);
+
+    /// An inventory ended by an exception, such as for want of memory, so that its list is not whole. Any
+    /// thread.
+    void noteIncomplete() { m_isIncomplete = true; }
+    /// Whether one did. Any thread.
+    bool isIncomplete() const { return m_isIncomplete; }
 
     // Sequences and clips
 
@@ -300,6 +310,7 @@ private:
     bool m_isReadToBeSent = false;
 
     std::atomic<bool> m_loadIsReported = false;
+    std::atomic<bool> m_isIncomplete = false;
     std::atomic<int> m_runningInventories = 0;
     std::thread m_loader;
     std::vector<std::thread> m_inventories; // made by the loader, joined after it

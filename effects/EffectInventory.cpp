@@ -67,7 +67,8 @@ EffectInventory::EffectInventory(MyDocument &document)
 
 void EffectInventory::populateEffectData()
 {
-    guarded("-[MyDocument populateEffectData]", [this] { build(); });
+    if (!guarded("-[MyDocument populateEffectData]", [this] { build(); }))
+        m_document.noteIncomplete();
     m_document.setPopulating(Tab::Effects, false);
     bool isShowing = false;
     m_document.mainThread()->runAndWait([&] {

@@ -97,7 +97,7 @@ void MarkerInventory::populateMarkerData()
     QVLog::appendLog(u"Populating markers...");
     m_document.setPopulating(Tab::Markers, true);
     mainThread.runAndWait([this] { m_document.interface().startSpinner(Tab::Markers); });
-    guarded("-[MyDocument populateMarkerData]", [&] {
+    const bool isWhole = guarded("-[MyDocument populateMarkerData]", [&] {
         std::optional<RowList> rows = extract();
         if (!rows)
             return;
@@ -107,6 +107,8 @@ void MarkerInventory::populateMarkerData()
             m_fields.setupMarkerFields();
         });
     });
+    if (!isWhole)
+        m_document.noteIncomplete();
     m_document.setPopulating(Tab::Markers, false);
     mainThread.runAndWait([this] { m_document.interface().stopSpinner(Tab::Markers); });
     QVLog::appendLog(u"Finished populating markers");

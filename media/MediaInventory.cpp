@@ -63,7 +63,8 @@ void MediaInventory::setFileCheck(const FileChecks::Check &check, std::chrono::m
 
 void MediaInventory::populateMediaData()
 {
-    guarded("-[MyDocument populateMediaData]", [this] { build(); });
+    if (!guarded("-[MyDocument populateMediaData]", [this] { build(); }))
+        m_document.noteIncomplete();
     m_document.setPopulating(Tab::Media, false);
     bool isShowing = false;
     m_document.mainThread()->runAndWait([&] {

@@ -19,7 +19,7 @@ namespace vantrell
 namespace
 {
 
-const QString noMemory = QStringLiteral("there is not enough memory to read it.");
+const QString noMemoryToRead = QStringLiteral("there is not enough memory to read it.");
 
 QString faultText(const ParseOutcome &outcome)
 {
@@ -111,7 +111,7 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
         if (outcome.cancelled)
             return Failure{QStringLiteral("loading was cancelled.")};
         if (outcome.outOfMemory)
-            return Failure{noMemory};
+            return Failure{noMemoryToRead};
         if (outcome.readFailed)
             return Failure{QStringLiteral("reading it failed before its end.")};
         if (outcome.tooDeep) {
@@ -124,7 +124,7 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
             return Failure{QStringLiteral("it holds no XML root element (%1).").arg(faultText(outcome))};
         return document;
     } catch (const std::bad_alloc &) {
-        return Failure{noMemory};
+        return Failure{noMemoryToRead};
     }
 }
 

@@ -3,6 +3,7 @@
 #include "xml/XmlDocument.h"
 #include "xml/XmlText.h"
 #include "xml/XmlTree.h"
+#include "xml/XmlViews.h"
 
 #include <libxml/tree.h>
 
@@ -13,11 +14,6 @@ namespace
 {
 
 using Kind = XmlTree::Kind;
-
-std::string_view viewOf(const QByteArray &text)
-{
-    return {text.constData(), std::size_t(text.size())};
-}
 
 /// The tree that the node is part of. Handles only read; whoever may edit has a way to the document.
 XmlTree &treeOf(XmlNode node)

@@ -1,6 +1,7 @@
 #include "xml/XmlElementWriter.h"
 
 #include "xml/XmlText.h"
+#include "xml/XmlViews.h"
 #include "xml/XmlWriter.h"
 
 #include <QIODevice>
@@ -12,11 +13,6 @@ namespace
 {
 
 using Kind = XmlTree::Kind;
-
-std::string_view viewOf(const QByteArray &text)
-{
-    return {text.constData(), std::size_t(text.size())};
-}
 
 /// How attributes are written depends on whether the document declares its encoding.
 XmlWriter writerOf(const XmlTree &tree, XmlOutput &output)

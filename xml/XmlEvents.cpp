@@ -10,14 +10,14 @@ namespace vantrell
 namespace
 {
 
-constexpr std::size_t blockSize = std::size_t(1) << 17;
+constexpr std::size_t eventBlockSize = std::size_t(1) << 17;
 constexpr std::size_t mostFilled = 8; // then the parser waits
 
 } // namespace
 
 XmlEvents::XmlEvents(XmlTreeBuilder &builder)
     : m_builder(builder)
-    , m_block(blockSize)
+    , m_block(eventBlockSize)
 {
 }
 
@@ -36,8 +36,8 @@ XmlEvents::~XmlEvents()
 void XmlEvents::nextBlock(std::size_t size)
 {
     handOver();
-    if (m_block.size() < std::max(size, blockSize))
-        m_block.resize(std::max(size, blockSize));
+    if (m_block.size() < std::max(size, eventBlockSize))
+        m_block.resize(std::max(size, eventBlockSize));
 }
 
 /// Hands the block to the thread; the next one may have another size, none included.
@@ -104,7 +104,7 @@ void XmlEvents::work()
         }
         lock.lock();
         m_isWorking = false;
-        if (m_spare.size() < mostFilled && filled.block.size() == blockSize && !m_failed)
+        if (m_spare.size() < mostFilled && filled.block.size() == eventBlockSize && !m_failed)
             m_spare.push_back(std::move(filled.block));
         m_changed.notify_all();
     }

@@ -13,7 +13,7 @@ namespace vantrell
 namespace
 {
 
-constexpr std::size_t blockSize = std::size_t(1) << 18;
+constexpr std::size_t inputBlockSize = std::size_t(1) << 18;
 constexpr std::size_t declarationSize = 4096; // at least so much is looked at for the declaration
 
 /// What the first bytes say of the encoding.
@@ -40,7 +40,7 @@ bool isXmlSpace(char c)
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-bool isNameStart(char c)
+bool startsName(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
            static_cast<unsigned char>(c) >= 0x80;
@@ -161,7 +161,7 @@ Character characterAt(std::string_view bytes)
     return {length, code, true, false};
 }
 
-bool isAllowed(char32_t code)
+bool isXmlCharacter(char32_t code)
 {
     return (code >= 0x20 && code != 0xFFFE && code != 0xFFFF) || code == '\t' || code == '\n' || code == '\r';
 }
@@ -259,7 +259,7 @@ bool XmlInput::fill()
     m_block.text.assign(m_rest.begin(), m_rest.end());
     m_rest.clear();
     m_handedOut = 0;
-    const std::size_t missing = blockSize - std::min(blockSize, m_raw.size());
+    const std::size_t missing = inputBlockSize - std::min(inputBlockSize, m_raw.size());
     const bool atEnd = readSource(std::max<std::size_t>(missing, 1)) == 0;
     if (!m_started)
         chooseEncoding();
@@ -387,7 +387,7 @@ void XmlInput::keepValid(bool atEnd)
         const Character character = characterAt({at, std::size_t(end - at)});
         if (character.isCutOff && !atEnd)
             break;
-        if (character.isValid && isAllowed(character.code)) {
+        if (character.isValid && isXmlCharacter(character.code)) {
             at += character.length;
         } else {
             keepUpTo(at);
@@ -453,7 +453,7 @@ std::int64_t XmlInput::startTagsFrom(std::int64_t textOffset)
     const auto look = [&](const Block &block) {
         const std::int64_t from = std::max<std::int64_t>(textOffset - block.start, 0);
         for (auto i = std::size_t(from); i < block.text.size(); ++i) {
-            count += previous == '<' && isNameStart(block.text[i]);
+            count += previous == '<' && startsName(block.text[i]);
             previous = block.text[i];
         }
     };

@@ -1,21 +1,13 @@
 #include "xml/XmlNames.h"
 
+#include "xml/XmlViews.h"
+
 #include <cstdint>
 #include <cstring>
 #include <string>
 
 namespace vantrell
 {
-
-namespace
-{
-
-std::string_view viewOf(const unsigned char *text)
-{
-    return text ? std::string_view(reinterpret_cast<const char *>(text)) : std::string_view();
-}
-
-} // namespace
 
 XmlNameId XmlNames::idOf(const Raw &raw)
 {

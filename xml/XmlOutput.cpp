@@ -10,7 +10,7 @@ namespace vantrell
 namespace
 {
 
-const iconv_t none = iconv_t(-1);
+const iconv_t noConverter = iconv_t(-1);
 
 /// The character that well-formed UTF-8 starts with, and its length.
 char32_t firstCharacter(const char *utf8, std::size_t &length)
@@ -28,14 +28,14 @@ char32_t firstCharacter(const char *utf8, std::size_t &length)
 XmlOutput::XmlOutput(QIODevice &device, const std::atomic<bool> *cancelled)
     : m_device(device)
     , m_cancelled(cancelled)
-    , m_converter(none)
+    , m_converter(noConverter)
 {
     m_text.reserve(flushSize + 4096);
 }
 
 XmlOutput::~XmlOutput()
 {
-    if (m_converter != none)
+    if (m_converter != noConverter)
         iconv_close(m_converter);
 }
 
@@ -45,11 +45,11 @@ bool XmlOutput::setEncoding(const QByteArray &name)
     if (upper == "UTF-8" || upper == "UTF8")
         return true;
     m_converter = iconv_open(name.constData(), "UTF-8");
-    if (m_converter != none && !upper.startsWith("UTF-16") && !keepsMarkup()) {
+    if (m_converter != noConverter && !upper.startsWith("UTF-16") && !keepsMarkup()) {
         iconv_close(m_converter);
-        m_converter = none;
+        m_converter = noConverter;
     }
-    return m_converter != none;
+    return m_converter != noConverter;
 }
 
 /// Whether the characters of markup are what they are in ASCII, so that a parser finds the declaration.
@@ -68,9 +68,9 @@ bool XmlOutput::flush()
 {
     if (m_cancelled && *m_cancelled)
         m_failed = true;
-    if (m_converter != none && !m_failed)
+    if (m_converter != noConverter && !m_failed)
         convert();
-    const std::string &bytes = m_converter != none ? m_converted : m_text;
+    const std::string &bytes = m_converter != noConverter ? m_converted : m_text;
     if (!m_failed) {
         const auto size = qint64(bytes.size());
         m_failed = m_device.write(bytes.data(), size) != size;

@@ -4,6 +4,7 @@
 #include "xml/XmlLibrary.h"
 #include "xml/XmlNames.h"
 #include "xml/XmlTreeBuilder.h"
+#include "xml/XmlViews.h"
 
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
@@ -26,16 +27,6 @@ struct ContextDeleter {
 struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
-
-std::string_view viewOf(const xmlChar *text)
-{
-    return text ? std::string_view(reinterpret_cast<const char *>(text)) : std::string_view();
-}
-
-std::string_view viewOf(const xmlChar *text, std::ptrdiff_t length)
-{
-    return {reinterpret_cast<const char *>(text), std::size_t(length)};
-}
 
 bool isXmlTarget(std::string_view target)
 {

@@ -18,7 +18,7 @@ namespace vantrell
 namespace
 {
 
-const QString noMemory = QStringLiteral("There is not enough memory to evaluate it.");
+const QString noMemoryToEvaluate = QStringLiteral("There is not enough memory to evaluate it.");
 
 struct XPathDeleter {
     void operator()(xmlXPathContext *context) const { xmlXPathFreeContext(context); }
@@ -54,7 +54,7 @@ XmlQueryFallback::XmlQueryFallback(const QString &text)
     XmlLibrary::prepare();
     const ContextPointer context(xmlXPathNewContext(nullptr));
     if (!context) {
-        m_error = noMemory;
+        m_error = noMemoryToEvaluate;
         return;
     }
     context->error = keepError;
@@ -82,7 +82,7 @@ XmlQuery::Answer XmlQueryFallback::evaluate(XmlNode context) const
     try {
         evaluateOn(XmlConversion(context), answer);
     } catch (const std::bad_alloc &) {
-        answer.error = noMemory;
+        answer.error = noMemoryToEvaluate;
     }
     return answer;
 }

@@ -254,6 +254,11 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
 void DocumentWindow::inventoriesEnded()
 {
     m_state = State::Ready;
+    if (m_workbench->document().isIncomplete()) {
+        const QString before = m_notice->notice();
+        m_notice->setNotice(before + (before.isEmpty() ? QString() : QStringLiteral("\n")) + incompleteLists,
+                            NoticeBar::Kind::Lasting);
+    }
     updateEditing();
     Q_EMIT menusChanged();
 }

@@ -415,14 +415,40 @@ private Q_SLOTS:
         const QByteArray damaged("<xmeml><project><name>A & B</name>");
         load(document, world, damaged);
         QVERIFY(world.notice.contains(QStringLiteral("repaired")));
+        const QString loss = QStringLiteral("all 34 bytes could be read");
+        QVERIFY(world.notice.contains(loss));
         QVERIFY(document.writeToURL(QUrl::fromLocalFile(m_home.path(QStringLiteral("p/other.xml"))),
                                     DocumentType::publicXML));
         QVERIFY(alerts->shown().empty());
         QVERIFY(!document.writeToURL(document.fileURL(), DocumentType::publicXML));
         QCOMPARE(contentOf(document.fileURL().toLocalFile()), damaged);
+        QVERIFY(alerts->shown().back().text(AlertKey::InformativeText).contains(loss));
         QVERIFY(document.writeToURL(document.fileURL(), DocumentType::publicXML));
         QVERIFY(contentOf(document.fileURL().toLocalFile()).endsWith("</xmeml>\n"));
         QCOMPARE(alerts->shown().size(), std::size_t(2));
+    }
+
+    void aRootInANamespaceIsTold()
+    {
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        load(document, world, "<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>");
+        QVERIFY(world.loaded);
+        QCOMPARE(titles(document.sequenceMenu()), QStringLiteral("(none)"));
+        QVERIFY2(world.notice.contains(QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"")),
+                 qPrintable(world.notice));
+    }
+
+    void anInventoryThatThrowsIsTold()
+    {
+        ScriptedDocumentInterface world;
+        int others = 0;
+        const auto fails = [](MyDocument &) { throw std::bad_alloc(); };
+        MyDocument document(world, {{fails, [&others](MyDocument &) { ++others; }}, {}, {}});
+        load(document, world, sequence(""));
+        QVERIFY(world.loaded && world.ended);
+        QCOMPARE(others, 1);
+        QVERIFY(document.isIncomplete());
     }
 
     void timecodesByTheRecord()

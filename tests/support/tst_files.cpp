@@ -6,10 +6,13 @@
 
 #include <QtTest>
 
+#include <atomic>
 #include <csignal>
 #include <stdexcept>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
+#include <vector>
 
 using namespace vantrell;
 
@@ -245,6 +248,25 @@ private Q_SLOTS:
         QCOMPARE(StandardFolders::volumesFolders(), QStringList(home.path()));
         StandardFolders::setVolumesFolder(QString());
         QVERIFY(StandardFolders::volumesFolder() != home.path());
+    }
+
+    void manyAtATime()
+    {
+        QTemporaryDir folder;
+        std::atomic<int> written = 0;
+        std::vector<std::thread> threads;
+        for (int i = 0; i < 6; ++i) {
+            threads.emplace_back([&, i] {
+                for (int n = 0; n < 40; ++n) {
+                    const QString path = folder.filePath(QStringLiteral("%1-%2").arg(i).arg(n % 3));
+                    written += FileUtilities::writeAtomically(path, QByteArray::number(n)).isOk();
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(written.load(), 240);
+        QCOMPARE(namesIn(folder.path()).size(), 18);
     }
 };
 

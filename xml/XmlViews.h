@@ -1,0 +1,30 @@
+#pragma once
+
+// For use inside xml/ only.
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <string_view>
+
+namespace vantrell
+{
+
+/// Bytes of other kinds as the tree takes them. What is seen must live on meanwhile.
+inline std::string_view viewOf(const QByteArray &text)
+{
+    return {text.constData(), std::size_t(text.size())};
+}
+
+/// Zero-terminated; empty for null.
+inline std::string_view viewOf(const unsigned char *text)
+{
+    return text ? std::string_view(reinterpret_cast<const char *>(text)) : std::string_view();
+}
+
+inline std::string_view viewOf(const unsigned char *text, std::ptrdiff_t length)
+{
+    return {reinterpret_cast<const char *>(text), std::size_t(length)};
+}
+
+} // namespace vantrell
