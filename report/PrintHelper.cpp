@@ -74,6 +74,8 @@ QStringList argumentsFor(const Pages &pages)
         arguments << QStringLiteral("--paper") << pages.paper;
     if (pages.isLandscape)
         arguments << QStringLiteral("--landscape");
+    if (!pages.withNumbers)
+        arguments << QStringLiteral("--no-numbers");
     return arguments;
 }
 

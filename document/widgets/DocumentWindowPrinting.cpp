@@ -206,8 +206,7 @@ void DocumentWindow::exportReportTo(const QString &path, ReportFormat format)
     beginBusy(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [isCancelled] { *isCancelled = true; });
     m_givesUpForClosing = true;
     const PrintInfo info(m_defaults.value(printSettingsKey).toDictionary());
-    const PrintHelper::Pages pages{info.paper(), info.layout.orientation() == QPageLayout::Landscape,
-                                   info.margin()};
+    const PrintHelper::Pages pages = info.pages();
     const auto gate = m_workbench->document().mainThread();
     BackgroundWork::run([this, gate, path, format, helper, pages, isCancelled, bytes = text.data()] {
         const FileUtilities::Writer write = [&](QIODevice &device) {

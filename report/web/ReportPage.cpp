@@ -25,11 +25,12 @@ constexpr quint32 ownWorld = QWebEngineScript::ApplicationWorld;
 /// Forbids the page, before any of it is read, what the filter of requests forbids it too, and beyond that
 /// what it could take out of its own text. The policy holds from when it is inserted; its element goes again.
 const QString policyScript = QStringLiteral(
-    "(() => { const head = document.createElement('head'), meta = document.createElement('meta');"
+    "(() => { const root = document.appendChild(document.createElement('html')),"
+    "meta = document.createElement('meta');"
     "meta.httpEquiv = 'Content-Security-Policy';"
     "meta.content = \"default-src 'none'; img-src file:; style-src 'unsafe-inline'; base-uri 'none'; "
     "form-action 'none'\";"
-    "document.documentElement.appendChild(head).appendChild(meta); head.remove(); })();");
+    "root.appendChild(document.createElement('head')).appendChild(meta); root.remove(); })();");
 
 QWebEngineScript script(const QString &name, const QString &source, QWebEngineScript::InjectionPoint when)
 {

@@ -1,12 +1,9 @@
 #include "report/web/ReportView.h"
 
-#include "report/web/PdfPages.h"
 #include "report/web/ReportPage.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
-#include <QThreadPool>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineView>
 
@@ -39,8 +36,7 @@ ReportView::ReportView(const QString &imageFolder)
 
 ReportView::~ReportView()
 {
-    if (m_view)
-        delete m_view->page();
+    delete m_page; // before the view, which would be told of its end
 }
 
 QWidget *ReportView::widget()
@@ -57,13 +53,9 @@ void ReportView::makePage()
         if (isCurrent && info.status() != QWebEngineLoadingInfo::LoadStartedStatus)
             loadEnded(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
     });
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, [this] {
-        loadEnded(false);
-        endPdf(Failure{tr("The web engine ended too soon.")});
-    });
-    QWebEnginePage *const before = m_view->page();
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &ReportView::processEnded,
+            Qt::QueuedConnection);
     m_view->setPage(m_page);
-    delete before;
 }
 
 void ReportView::load(const QString &html, Loaded loaded)
@@ -135,51 +127,12 @@ bool ReportView::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void ReportView::makePdf(const QPageLayout &paper, const QString &title, bool withNumbers, PdfMade made)
+/// The page is gone with its process; a new one shows it again, unless it cannot.
+void ReportView::processEnded()
 {
-    ++m_pdf;
-    m_pdfMade = std::move(made);
-    m_pdfTitle = title;
-    m_pdfWithNumbers = withNumbers;
-    const double lowerMargin = paper.margins(QPageLayout::Point).bottom();
-    m_page->makePdf(paper, [this, pdf = m_pdf, lowerMargin](const QByteArray &pages) {
-        if (pdf == m_pdf && m_pdfMade)
-            pagesMade(pages, lowerMargin);
-    });
-}
-
-void ReportView::pagesMade(const QByteArray &pages, double lowerMargin)
-{
-    if (pages.isEmpty()) {
-        endPdf(Failure{tr("The web engine made no pages of the report.")});
-        return;
-    }
-    const auto finish = [self = QPointer(this), pdf = m_pdf, pages, title = m_pdfTitle,
-                         withNumbers = m_pdfWithNumbers, lowerMargin] {
-        const Result<QByteArray> result = PdfPages::finish(pages, title, withNumbers, lowerMargin);
-        QMetaObject::invokeMethod(qApp, [self, pdf, result] {
-            if (self && self->m_pdf == pdf)
-                self->endPdf(result);
-        });
-    };
-    QThreadPool::globalInstance()->start(finish);
-}
-
-void ReportView::endPdf(const Result<QByteArray> &pdf)
-{
-    if (const PdfMade made = std::exchange(m_pdfMade, nullptr))
-        made(pdf);
-}
-
-/// The engine cannot be asked to stop, but ends with its page.
-void ReportView::cancelPdf()
-{
-    if (!m_pdfMade)
-        return;
-    ++m_pdf;
-    m_pdfMade = nullptr;
-    makePage();
-    if (m_file > 0)
+    if (m_loaded)
+        loadEnded(false);
+    else if (m_file > 0)
         m_page->loadReport(m_folder.filePath(QStringLiteral("%1.html").arg(m_file)));
 }
 

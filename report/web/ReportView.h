@@ -28,8 +28,6 @@ public:
     void replaceBody(const QString &script, std::function<void()> replaced) override;
     void run(const QString &script, std::function<void(const QVariant &)> use) override;
     void setPaper(const QPageLayout &paper) override;
-    void makePdf(const QPageLayout &paper, const QString &title, bool withNumbers, PdfMade made) override;
-    void cancelPdf() override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -38,23 +36,16 @@ private:
     void makePage();
     void loadEnded(bool isLoaded);
     void fitToPaper();
-    void pagesMade(const QByteArray &pages, double lowerMargin);
-    void endPdf(const Result<QByteArray> &pdf);
+    void processEnded();
 
     const QString m_imageFolder;
     QTemporaryDir m_folder; // of what is shown
     int m_file = 0;
     QPointer<QWebEngineView> m_view;
-    QPointer<ReportPage> m_page; // the view's
+    QPointer<ReportPage> m_page;
     Loaded m_loaded;
     QString m_bodyScript; // what replaced the body since the load
     QPageLayout m_paper;
-
-    // The PDF that is being made
-    quint64 m_pdf = 0; // its number
-    PdfMade m_pdfMade;
-    QString m_pdfTitle;
-    bool m_pdfWithNumbers = false;
 };
 
 } // namespace vantrell

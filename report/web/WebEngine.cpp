@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <cerrno>
 #include <cstdio>
@@ -58,6 +59,7 @@ Result<void> prepare()
     if (qEnvironmentVariableIsSet(flagsName))
         flagsBefore = qgetenv(flagsName);
     qputenv(flagsName, flags);
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false")); // how it was started
     isPrepared = true;
     return {};
 }

@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLoggingCategory>
 #include <QPageLayout>
 
 #include <algorithm>
@@ -20,6 +19,7 @@
 #include <cstring>
 #include <optional>
 #include <sys/prctl.h>
+#include <utility>
 
 using namespace vantrell;
 
@@ -36,6 +36,7 @@ struct Order {
     QString images;
     QString output;
     QPageLayout layout;
+    bool withNumbers = true;
 };
 
 void complain(const QString &message)
@@ -73,7 +74,9 @@ std::optional<Order> orderOf(const QStringList &arguments)
     const QCommandLineOption margin(QStringLiteral("margin"),
                                     QStringLiteral("The margins in millimetres; 15 unless given."),
                                     QStringLiteral("MM"), QString::number(standardMargin));
-    parser.addOptions({html, images, output, paper, landscape, margin});
+    const QCommandLineOption noNumbers(QStringLiteral("no-numbers"),
+                                       QStringLiteral("Leaves the pages without numbers."));
+    parser.addOptions({html, images, output, paper, landscape, margin, noNumbers});
     if (!parser.parse(arguments)) {
         complain(parser.errorText());
         return std::nullopt;
@@ -95,7 +98,8 @@ std::optional<Order> orderOf(const QStringList &arguments)
                      QFileInfo(parser.value(output)).absoluteFilePath(),
                      QPageLayout(*pageSize,
                                  parser.isSet(landscape) ? QPageLayout::Landscape : QPageLayout::Portrait,
-                                 QMarginsF(width, width, width, width), QPageLayout::Millimeter)};
+                                 QMarginsF(width, width, width, width), QPageLayout::Millimeter),
+                     !parser.isSet(noNumbers)};
     }
     return std::nullopt;
 }
@@ -117,6 +121,8 @@ public:
         , m_page(m_order.images)
     {
         QObject::connect(&m_page, &QWebEnginePage::loadFinished, &m_page, [this](bool isLoaded) {
+            if (std::exchange(m_hasLoaded, true))
+                return; // where the page tried to go to
             if (isLoaded)
                 readTitle();
             else
@@ -142,7 +148,7 @@ private:
                 return;
             }
             const double margin = m_order.layout.margins(QPageLayout::Point).bottom();
-            const Result<QByteArray> pdf = PdfPages::finish(pages, title, true, margin);
+            const Result<QByteArray> pdf = PdfPages::finish(pages, title, m_order.withNumbers, margin);
             end(pdf ? write(m_order.output, pdf.value()) : Result<void>(pdf.failure()));
         });
     }
@@ -156,6 +162,7 @@ private:
 
     const Order m_order;
     ReportPage m_page;
+    bool m_hasLoaded = false;
 };
 
 bool isOneOf(const char *argument, std::initializer_list<const char *> options)
@@ -183,7 +190,8 @@ bool answerOption(const char *option)
             "  -o OUTPUT       The PDF\n"
             "  --paper NAME    A4, Letter, ...; what the country uses unless given\n"
             "  --landscape     Turn the pages on their side\n"
-            "  --margin MM     The margins in millimetres, 15 unless given");
+            "  --margin MM     The margins in millimetres, 15 unless given\n"
+            "  --no-numbers    Leave the pages without numbers");
         return true;
     }
     return false;
@@ -212,7 +220,6 @@ int main(int argc, char **argv)
         complain(prepared.message());
         return failed;
     }
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false")); // how it was started
     int count = 1; // the application would look for options of its own among the others
     const QGuiApplication application(count, argv);
     const Printing printing(std::move(*order));

@@ -65,6 +65,11 @@ PropertyListDictionary PrintInfo::settings() const
     return settings;
 }
 
+PrintHelper::Pages PrintInfo::pages() const
+{
+    return {paper(), layout.orientation() == QPageLayout::Landscape, margin(), headerAndFooter};
+}
+
 QStringList PrintInfo::papers()
 {
     return {QStringLiteral("A4"),     QStringLiteral("A3"),    QStringLiteral("A5"),

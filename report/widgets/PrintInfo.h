@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/PrintHelper.h"
 #include "support/PropertyListValue.h"
 
 #include <QMarginsF>
@@ -29,6 +30,9 @@ struct PrintInfo {
 
     /// The dictionary that makes the same settings, whatever the file.
     PropertyListDictionary settings() const;
+
+    /// The same for the program that makes PDF files.
+    PrintHelper::Pages pages() const;
 
     /// The names of the papers that there are to choose from, those of the printing system too.
     static QStringList papers();

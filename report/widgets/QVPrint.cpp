@@ -1,7 +1,7 @@
 #include "report/widgets/QVPrint.h"
 
+#include "report/PrintHelper.h"
 #include "report/ReportHTML.h"
-#include "report/widgets/PrintOperation.h"
 #include "report/widgets/PrintPlugin.h"
 #include "report/widgets/PrintProgress.h"
 #include "report/widgets/QVPrintViewController.h"
@@ -9,6 +9,7 @@
 #include "support/widgets/NestedEvents.h"
 
 #include <QEventLoop>
+#include <QIODevice>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -53,13 +54,26 @@ Result<QVPrint *> QVPrint::sharedController(const QString &imageFolder)
     Result<std::unique_ptr<WebView>> webView = plugin.value()->makeWebView(imageFolder);
     if (!webView)
         return webView.failure();
-    shared = new QVPrint(std::move(webView.value()));
+    shared =
+        new QVPrint(std::move(webView.value()),
+                    [imageFolder](const QByteArray &html, const QString &output,
+                                  const PrintHelper::Pages &pages, const std::function<bool()> &isCancelled) {
+                        const QString program = PrintHelper::find();
+                        if (program.isNull())
+                            return Result<void>(Failure{PrintHelper::missingMessage()});
+                        const auto write = [&html](QIODevice &device) {
+                            device.write(html); // whoever opened it looks at its errors
+                            return Result<void>();
+                        };
+                        return PrintHelper::writePDF(program, write, imageFolder, output, pages, isCancelled);
+                    });
     return shared;
 }
 
-QVPrint::QVPrint(std::unique_ptr<WebView> webView)
+QVPrint::QVPrint(std::unique_ptr<WebView> webView, PrintOperation::PdfMaker makePdf)
     : m_window(std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint))
     , m_webView(std::move(webView))
+    , m_makePdf(std::move(makePdf))
 {
     m_window->setGeometry(0, 0, windowSize, windowSize);
     auto *const layout = new QVBoxLayout(m_window.get());
@@ -168,7 +182,7 @@ void QVPrint::setPaper(const PrintInfo &info)
 
 PrintOperation *QVPrint::printOperationWithPrintInfo(const PrintInfo &info, QObject *parent)
 {
-    return new PrintOperation(*m_webView, info, parent);
+    return new PrintOperation(*m_webView, m_makePdf, info, parent);
 }
 
 PrintOperation *QVPrint::printOperationWithSettings(const PropertyListDictionary &settings, QObject *parent)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report/widgets/PrintInfo.h"
+#include "report/widgets/PrintOperation.h"
 #include "support/Result.h"
 
 #include <QObject>
@@ -14,7 +15,6 @@ class QWidget;
 namespace vantrell
 {
 
-class PrintOperation;
 class QVPrintViewController;
 class WebView;
 
@@ -31,7 +31,7 @@ public:
     static Result<QVPrint *> sharedController(const QString &imageFolder);
 
     /// Prints with that view; for those who want one of their own.
-    explicit QVPrint(std::unique_ptr<WebView> webView);
+    QVPrint(std::unique_ptr<WebView> webView, PrintOperation::PdfMaker makePdf);
     ~QVPrint() override;
 
     /// The one whose preview follows the page; null for none.
@@ -81,6 +81,7 @@ private:
 
     std::unique_ptr<QWidget> m_window; // off the screen
     std::unique_ptr<WebView> m_webView;
+    PrintOperation::PdfMaker m_makePdf;
     QPointer<QVPrintViewController> m_printViewController;
     quint64 m_generation = 0; // of the page
     int m_loads = 0;

@@ -2,7 +2,6 @@
 
 #include "support/Result.h"
 
-#include <QByteArray>
 #include <QPageLayout>
 #include <QString>
 #include <QVariant>
@@ -23,7 +22,6 @@ class WebView
 {
 public:
     using Loaded = std::function<void(bool isLoaded)>;
-    using PdfMade = std::function<void(const Result<QByteArray> &pdf)>;
 
     virtual ~WebView() = default;
 
@@ -38,12 +36,6 @@ public:
     virtual void run(const QString &script, std::function<void(const QVariant &)> use) = 0;
     /// Shows the page as wide as it is on paper, with the margins.
     virtual void setPaper(const QPageLayout &paper) = 0;
-
-    /// Makes a PDF of what is shown, titled, and on wish with the number at the foot of each page. One at a
-    /// time.
-    virtual void makePdf(const QPageLayout &paper, const QString &title, bool withNumbers, PdfMade made) = 0;
-    /// Gives up the PDF that is being made, whose callback does not come then; what is shown comes back.
-    virtual void cancelPdf() = 0;
 };
 
 /// What the plug-in of the package vantrell-print holds.
