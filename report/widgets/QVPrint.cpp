@@ -4,7 +4,6 @@
 #include "report/ReportHTML.h"
 #include "report/widgets/PrintPlugin.h"
 #include "report/widgets/PrintProgress.h"
-#include "report/widgets/QVPrintViewController.h"
 #include "report/widgets/WebView.h"
 #include "support/widgets/NestedEvents.h"
 

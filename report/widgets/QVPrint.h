@@ -2,6 +2,7 @@
 
 #include "report/widgets/PrintInfo.h"
 #include "report/widgets/PrintOperation.h"
+#include "report/widgets/QVPrintViewController.h"
 #include "support/Result.h"
 
 #include <QObject>
@@ -15,7 +16,6 @@ class QWidget;
 namespace vantrell
 {
 
-class QVPrintViewController;
 class WebView;
 
 /// Shows HTML in a web view and prints it. The view waits in a window off the screen; a print panel takes it
