@@ -119,10 +119,11 @@ const RowList &MyDocument::rowsOnShow(Tab tab) const
     return tab == m_tableTab ? m_tableArray : none;
 }
 
-void MyDocument::setTableArray(Tab tab, RowList rows)
+void MyDocument::setTableArray(Tab tab, RowList rows, RowOrder order)
 {
     m_interface.tableWillReload();
     m_tableTab = tab;
+    m_tableOrder = order;
     m_tableArray = std::move(rows);
     m_waitingTableRows.clear();
     m_interface.tableDidReload();

@@ -196,8 +196,12 @@ public:
     const RowList &tableArray() const { return m_tableArray; }
     Tab tableTab() const { return m_tableTab; }
     const RowList &rowsOnShow(Tab tab) const;
+    /// How the rows on show are ordered: as the project has them, or by what their table is sorted by.
+    enum class RowOrder { Document, Sorted };
     /// Exchanges the rows on show, announcing it before and after.
-    void setTableArray(Tab tab, RowList rows);
+    void setTableArray(Tab tab, RowList rows, RowOrder order = RowOrder::Sorted);
+    /// That of the rows that were exchanged last; rows that were added since stand at their end.
+    RowOrder tableOrder() const { return m_tableOrder; }
     /// Adds one row to those on show, announced the same way.
     void appendToTableArray(RowRecordPtr row);
     /// Between these two, which may be nested, rows that are added wait: they come at the outer end,
@@ -283,6 +287,7 @@ private:
     std::array<std::atomic<std::size_t>, 3> m_found = {};
     RowList m_tableArray;
     Tab m_tableTab = Tab::Media;
+    RowOrder m_tableOrder = RowOrder::Document;
     int m_tableUpdates = 0;
     RowList m_waitingTableRows;
     ViewState m_viewState;

@@ -90,6 +90,9 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         const bool isSelected = moves
                                     ? !selected.empty() && selected.front() == std::size_t(row)
                                     : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
+        const bool isOneRow = moves || !isSelected;
+        if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
+            return;
         if (!isSelected)
             selectRows({std::size_t(row)});
         commitEdit(row, column, text);
@@ -158,6 +161,7 @@ void TabPane::tableDidReload()
     m_isFilled = m_workbench.document().tableTab() == tab();
     if (m_isFilled)
         restoreRows();
+    showSortIndicator();
     updatePlaceholder();
     updateControls();
     Q_EMIT selectionChanged();
@@ -239,6 +243,18 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
     noteSelectionChange();
 }
 
+/// Whether the pop-up cells of all these rows show the item already.
+bool TabPane::showsChoice(const std::vector<std::size_t> &rows, const QString &column,
+                          const QString &item) const
+{
+    const int place = m_model->columnOf(column);
+    if (place < 0 || m_model->cellOf(place) != TableModel::Cell::PopUp)
+        return false;
+    return std::all_of(rows.begin(), rows.end(), [&](std::size_t row) {
+        return m_model->index(int(row), place).data(Qt::EditRole).toString() == item;
+    });
+}
+
 void TabPane::editCell(std::size_t row, const QString &column)
 {
     const int place = m_model->columnOf(column);
@@ -293,13 +309,21 @@ void TabPane::clickHeader(int section)
     sortBy(m_model->identifierOf(section));
 }
 
+std::optional<SortDescriptor> TabPane::shownSort() const
+{
+    const MyDocument &document = m_workbench.document();
+    const bool isSorted =
+        document.tableTab() == tab() && document.tableOrder() == MyDocument::RowOrder::Sorted;
+    const auto &descriptors = m_sorting.descriptors();
+    return isSorted && !descriptors.empty() ? std::optional(descriptors.front()) : std::nullopt;
+}
+
 void TabPane::showSortIndicator()
 {
-    const auto &descriptors = m_sorting.descriptors();
-    const int section = descriptors.empty() ? -1 : m_model->columnOf(descriptors.front().column);
-    const bool isDescending = !descriptors.empty() && descriptors.front().descending;
-    m_table->horizontalHeader()->setSortIndicator(section,
-                                                  isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    const std::optional<SortDescriptor> sort = shownSort();
+    const int section = sort ? m_model->columnOf(sort->column) : -1;
+    m_table->horizontalHeader()->setSortIndicator(section, sort && sort->descending ? Qt::DescendingOrder
+                                                                                    : Qt::AscendingOrder);
 }
 
 // Columns

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <initializer_list>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -67,6 +68,9 @@ public:
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
     const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
+    /// What the rows on show are sorted by, which the arrow in the header tells; nothing while they stand as
+    /// the project has them.
+    std::optional<SortDescriptor> shownSort() const;
     /// As a click on the column's title: sorts by it, and the other way round when it is sorted by it.
     void sortBy(const QString &identifier);
 
@@ -132,6 +136,7 @@ protected:
     virtual QString filteredText() const = 0;
 
 private:
+    bool showsChoice(const std::vector<std::size_t> &rows, const QString &column, const QString &item) const;
     void clickHeader(int section);
     void showSortIndicator();
     void moveSection(int section, int from, int to);
