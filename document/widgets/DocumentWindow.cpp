@@ -448,8 +448,10 @@ void DocumentWindow::showPane(Tab tab)
 
 void DocumentWindow::applyDefaultsChange(const QString &key)
 {
-    if (m_panes[std::size_t(Tab::Markers)] && !m_closing)
-        markersPane().applyDefaultsChange(key);
+    for (TabPane *const pane : m_panes) {
+        if (pane && !m_closing)
+            pane->applyDefaultsChange(key);
+    }
 }
 
 MarkersPane &DocumentWindow::markersPane() const

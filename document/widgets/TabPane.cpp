@@ -344,9 +344,14 @@ void TabPane::addColumn(const QString &identifier, const QString &title)
         return;
     }
     m_model->addColumn(identifier, title);
-    const int width =
-        m_storedWidths.value(identifier, defaultWidth(identifier) * fontMetrics().averageCharWidth());
-    m_table->setColumnWidth(m_model->columnOf(identifier), width);
+    m_table->setColumnWidth(m_model->columnOf(identifier),
+                            m_storedWidths.value(identifier, usualWidth(identifier)));
+    if (storedOrder().contains(identifier)) {
+        restoreOrder();
+    } else {
+        saveLayout(); // or it would stand elsewhere in a window that gets its columns in another order
+        m_newColumns.insert(identifier);
+    }
     showSortIndicator();
 }
 
@@ -363,48 +368,96 @@ void TabPane::removeColumn(const QString &identifier)
 
 void TabPane::moveColumn(const QString &identifier, int index)
 {
+    if (!m_newColumns.remove(identifier))
+        return;
+    placeColumn(identifier, index);
+    saveLayout();
+}
+
+void TabPane::placeColumn(const QString &identifier, int index)
+{
     QHeaderView *header = m_table->horizontalHeader();
     const int column = m_model->columnOf(identifier);
     if (column < 0 || index < 0 || index >= header->count())
         return;
-    m_movesColumns = true;
+    const QScopedValueRollback<bool> moves(m_movesColumns, true);
     header->moveSection(header->visualIndex(column), index);
-    m_movesColumns = false;
 }
 
 void TabPane::moveSection(int section, int, int to)
 {
-    if (!m_movesColumns)
-        columnMoved(m_model->identifierOf(section), to);
+    if (m_movesColumns)
+        return;
+    m_newColumns.clear();
+    saveLayout(); // at once: other windows follow
+    columnMoved(m_model->identifierOf(section), to);
 }
 
 void TabPane::saveLayout()
 {
+    // Columns that are not there now, but may come back, stay behind those that they stood behind.
+    QStringList order = columns();
+    qsizetype place = 0;
+    for (const QString &identifier : storedOrder()) {
+        const qsizetype present = order.indexOf(identifier);
+        if (present < 0)
+            order.insert(place++, identifier);
+        else
+            place = present + 1;
+    }
     PropertyListValue::Array layout;
-    for (const QString &identifier : columns()) {
+    for (const QString &identifier : order) {
+        const int present = m_model->columnOf(identifier);
         PropertyListDictionary column;
         column.insert(identifierKey, identifier);
-        column.insert(widthKey, m_table->columnWidth(m_model->columnOf(identifier)));
+        column.insert(widthKey, present >= 0 ? m_table->columnWidth(present)
+                                             : m_storedWidths.value(identifier, usualWidth(identifier)));
         layout.emplace_back(column);
     }
-    // Columns that are not there now may come back.
-    for (auto stored = m_storedWidths.cbegin(); stored != m_storedWidths.cend(); ++stored) {
-        if (m_model->columnOf(stored.key()) >= 0)
-            continue;
-        PropertyListDictionary column;
-        column.insert(identifierKey, stored.key());
-        column.insert(widthKey, stored.value());
-        layout.emplace_back(column);
-    }
+    const QScopedValueRollback<bool> stores(m_storesLayout, true);
     m_defaults.setValue(layoutKey(tab()), layout);
+}
+
+QStringList TabPane::storedOrder() const
+{
+    QStringList order;
+    const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
+    for (const PropertyListValue &entry : stored.toArray()) {
+        const QString identifier = entry.toDictionary().value(identifierKey).toString();
+        if (!identifier.isEmpty() && !order.contains(identifier))
+            order.append(identifier);
+    }
+    return order;
+}
+
+/// Columns that the stored order does not know come last, as they stand.
+void TabPane::restoreOrder()
+{
+    int place = 0;
+    for (const QString &identifier : storedOrder()) {
+        if (m_model->columnOf(identifier) >= 0)
+            placeColumn(identifier, place++);
+    }
+}
+
+void TabPane::applyDefaultsChange(const QString &key)
+{
+    if (key != layoutKey(tab()) || m_storesLayout)
+        return;
+    m_newColumns.clear();
+    restoreOrder();
+}
+
+/// In pixels.
+int TabPane::usualWidth(const QString &column) const
+{
+    return defaultWidth(column) * fontMetrics().averageCharWidth();
 }
 
 void TabPane::restoreLayout()
 {
-    const int character = fontMetrics().averageCharWidth();
     for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, defaultWidth(m_model->identifierOf(column)) * character);
-    int place = 0;
+        m_table->setColumnWidth(column, usualWidth(m_model->identifierOf(column)));
     const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
     for (const PropertyListValue &entry : stored.toArray()) {
         const QString identifier = entry.toDictionary().value(identifierKey).toString();
@@ -415,9 +468,8 @@ void TabPane::restoreLayout()
             if (column >= 0)
                 m_table->setColumnWidth(column, int(width));
         }
-        if (column >= 0)
-            moveColumn(identifier, place++);
     }
+    restoreOrder();
 }
 
 // What else the document and the window ask

@@ -478,10 +478,7 @@ void TestTables::moveColumns()
     project().markers.saveLayout();
     MarkersPane next(project().bench, project().defaults);
     next.addColumn(take, QStringLiteral("Take"));
-    QStringList expected = project().markers.columns();
-    expected.removeAll(take);
-    expected.append(take);
-    QCOMPARE(next.columns(), expected);
+    QCOMPARE(next.columns(), project().markers.columns());
     QCOMPARE(next.table().columnWidth(next.model().columnOf(QStringLiteral("comment"))), 333);
 }
 
