@@ -43,6 +43,8 @@ void MyDocument::setFileURL(const QUrl &url)
 {
     m_fileURL = url;
     m_fileIsOurs = true;
+    if (m_written.path == url.toLocalFile())
+        m_knownFile->note(m_written.path, m_written.stamp);
 }
 
 std::optional<QString> MyDocument::valueForXPath(const QString &query, XmlNode parentNode)

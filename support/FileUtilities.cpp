@@ -270,6 +270,12 @@ Result<void> writeAtomically(const QString &path, const QByteArray &content)
 
 Result<void> writeAtomically(const QString &path, const Writer &writer)
 {
+    return writeAtomically(path, writer, BeforeReplacing());
+}
+
+Result<void> writeAtomically(const QString &path, const Writer &writer,
+                             const BeforeReplacing &beforeReplacing)
+{
     if (path.isEmpty() || path.contains(QChar(u'\0')))
         return writeFailure(path, ENOENT);
     struct stat old = {};
@@ -301,11 +307,25 @@ Result<void> writeAtomically(const QString &path, const Writer &writer)
     }
     if (::fsync(file.descriptor()) != 0 && errno != EINVAL)
         return writeFailure(path, errno);
+    if (beforeReplacing) {
+        const Result<void> mayReplace = beforeReplacing(file.descriptor());
+        if (!mayReplace)
+            return mayReplace;
+    }
     if (!file.close() || ::rename(file.path().constData(), encodedTarget.constData()) != 0)
         return writeFailure(path, errno);
     file.keep();
     syncFolder(info.path());
     return {};
+}
+
+bool isSameFile(const QString &a, const QString &b)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(b).constData(), &second) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
 }
 
 Result<QByteArray> readFile(const QString &path)

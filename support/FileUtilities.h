@@ -24,6 +24,15 @@ using Writer = std::function<Result<void>(QIODevice &)>;
 Result<void> writeAtomically(const QString &path, const QByteArray &content);
 Result<void> writeAtomically(const QString &path, const Writer &writer);
 
+/// The last word before the old file is replaced, with the descriptor of the new one, which is whole and on
+/// the disk: a Failure leaves the old file. It has none where a file is written to directly.
+using BeforeReplacing = std::function<Result<void>(int descriptor)>;
+Result<void> writeAtomically(const QString &path, const Writer &writer,
+                             const BeforeReplacing &beforeReplacing);
+
+/// Whether both paths lead to the same file, links followed. False when either leads to none.
+bool isSameFile(const QString &a, const QString &b);
+
 /// The whole content of a file.
 Result<QByteArray> readFile(const QString &path);
 
