@@ -109,7 +109,9 @@ void SingleInstance::accept()
             socket->flush();
             if (!token.isEmpty())
                 qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // lets a window come to the front
-            Q_EMIT filesPassed(paths);
+            // Later: opening a window dispatches events, among them that the other process has gone.
+            QMetaObject::invokeMethod(
+                this, [this, paths] { Q_EMIT filesPassed(paths); }, Qt::QueuedConnection);
         };
         connect(socket, &QLocalSocket::readyRead, this, read);
         read();

@@ -397,6 +397,7 @@ private Q_SLOTS:
         start();
         connect(&first, &SingleInstance::filesPassed, m_controller.get(), &AppController::startedAgain);
         QSignalSpy passed(&first, &SingleInstance::filesPassed);
+        connect(&first, &SingleInstance::filesPassed, this, [] { QTest::qWait(300); }); // as windows do
         QProcess second;
         second.setWorkingDirectory(m_home->path(QStringLiteral("project")));
         second.start(program(), {QStringLiteral("Harbour Lights.xml")});
