@@ -94,7 +94,7 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
     if (hasOptionsOfFcpx && options.format != "fcpx")
         return refuseUsage(QStringLiteral("--seconds, --strip-duplicates, --all-storylines and "
                                           "--relative-hour go with --format fcpx only."));
-    const QString hourText = withoutMark(fromArgument(options.relativeHour));
+    const QString hourText = fromArgument(options.relativeHour);
     const std::optional<quint64> hour = wholeNumber(hourText);
     if (!hour)
         return refuseUsage(QStringLiteral("--relative-hour: \"%1\" is no whole number.").arg(hourText));

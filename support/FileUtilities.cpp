@@ -260,15 +260,16 @@ qsizetype extensionDot(const QString &path)
 
 } // namespace
 
-Result<void> writeAtomically(const QString &path, const QByteArray &content)
+Result<void> writeAtomically(const QString &path, const QByteArray &content, const ReplaceCheck &mayReplace)
 {
-    return writeAtomically(path, [&content](QIODevice &device) -> Result<void> {
+    const auto writer = [&content](QIODevice &device) -> Result<void> {
         device.write(content);
         return {};
-    });
+    };
+    return writeAtomically(path, writer, mayReplace);
 }
 
-Result<void> writeAtomically(const QString &path, const Writer &writer)
+Result<void> writeAtomically(const QString &path, const Writer &writer, const ReplaceCheck &mayReplace)
 {
     if (path.isEmpty() || path.contains(QChar(u'\0')))
         return writeFailure(path, ENOENT);
@@ -301,6 +302,10 @@ Result<void> writeAtomically(const QString &path, const Writer &writer)
     }
     if (::fsync(file.descriptor()) != 0 && errno != EINVAL)
         return writeFailure(path, errno);
+    if (mayReplace) {
+        if (const Result<void> agreed = mayReplace(); !agreed)
+            return agreed;
+    }
     if (!file.close() || ::rename(file.path().constData(), encodedTarget.constData()) != 0)
         return writeFailure(path, errno);
     file.keep();

@@ -15,14 +15,18 @@ namespace vantrell::FileUtilities
 
 /// Writes what a file shall hold into the open device; a Failure gives up the whole write.
 using Writer = std::function<Result<void>(QIODevice &)>;
+/// Asked once the content is on the disk, right before it takes the old one's place; a Failure gives up the
+/// write and leaves the old file as it is.
+using ReplaceCheck = std::function<Result<void>()>;
 
 /// Replaces the content of a file, or makes it. The content goes to a temporary file beside the old
 /// one and is on the disk before it takes the old one's place: after any failure (a full disk, a
 /// writer that fails or throws) the old file is whole and the temporary is gone. The old file's
 /// permissions are kept, a new file gets the user's usual ones. A symbolic link stays and its target
 /// is replaced. What is there and is no regular file (a device, a pipe) is written to directly.
-Result<void> writeAtomically(const QString &path, const QByteArray &content);
-Result<void> writeAtomically(const QString &path, const Writer &writer);
+Result<void> writeAtomically(const QString &path, const QByteArray &content,
+                             const ReplaceCheck &mayReplace = {});
+Result<void> writeAtomically(const QString &path, const Writer &writer, const ReplaceCheck &mayReplace = {});
 
 /// The whole content of a file.
 Result<QByteArray> readFile(const QString &path);

@@ -185,7 +185,7 @@ private Q_SLOTS:
                 found += expected;
             }
         }
-        QVERIFY2(found > 300, qPrintable(QString::number(found)));
+        QVERIFY2(found > qint64(seriesLength(1200)), qPrintable(QString::number(found)));
     }
 
     void addresses()
