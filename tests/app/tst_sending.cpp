@@ -11,7 +11,7 @@
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
-#include "tests/support/HostProcess.h"
+#include "tests/support/FcpHost.h"
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 #include "xml/XmlQuery.h"
@@ -56,7 +56,7 @@ private Q_SLOTS:
         m_home = std::make_unique<TemporaryHome>();
         m_defaults = std::make_unique<UserDefaults>(m_home->path(text("test.plist")));
         m_path = copySample(m_home->path(text("project")));
-        QVERIFY(HostProcess::installBundle(m_home->path(text("apps"))));
+        QVERIFY(FcpHost::installBundle(m_home->path(text("apps"))));
         UserDefaults::standard().setValue(text("applicationsFolder"), m_home->path(text("apps")));
         AppController::startLog();
         m_controller = std::make_unique<AppController>(*m_defaults);
@@ -298,8 +298,8 @@ private Q_SLOTS:
 private:
     void startHost(const QStringList &arguments)
     {
-        m_host = std::make_unique<HostProcess>();
-        QVERIFY(m_host->start(QStringList{text("--log"), logPath()} + arguments));
+        m_host = std::make_unique<FcpHost>(*m_home);
+        QVERIFY(m_host->start(arguments));
     }
     /// Opens the sample as a project that Final Cut Pro holds.
     void openProject(const QStringList &arguments = {})
@@ -335,12 +335,11 @@ private:
         press(box, text("OK"));
         return said;
     }
-    QString logPath() const { return m_home->path(text("host.log")); }
-    int importsInLog() const { return int(contentOf(logPath()).count("iXML")); }
+    int importsInLog() const { return int(m_host->allEvents().count(text("iXML"))); }
 
     std::unique_ptr<TemporaryHome> m_home;
     std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<HostProcess> m_host;
+    std::unique_ptr<FcpHost> m_host;
     std::unique_ptr<AppController> m_controller;
     QString m_path;
     QPointer<DocumentWindow> m_window;
