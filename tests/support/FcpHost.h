@@ -56,9 +56,6 @@ public:
         return m_messages.contains(text);
     }
 
-    /// Waits until the file of a project holds all that was imported.
-    bool hasSaved(const QString &path) { return hasSaid("saved \"" + QFile::encodeName(path) + '"'); }
-
     /// What it is asked stays without an answer, until it goes on.
     void hang() { ::kill(pid_t(m_process.processId()), SIGSTOP); }
     void goOn() { ::kill(pid_t(m_process.processId()), SIGCONT); }
@@ -68,13 +65,6 @@ public:
             return;
         m_process.kill(); // also when it hangs
         m_process.waitForFinished();
-    }
-
-    /// Asks it to end, which it does when everything is saved.
-    bool end()
-    {
-        m_process.terminate();
-        return m_process.waitForFinished(60000);
     }
 
     /// The events that came since the start, by their identifiers.
