@@ -73,9 +73,10 @@ endfunction()
 
 # vantrell_test(<folder> <name> [LIBRARIES ...]) makes the Qt Test program tst_<name> from
 # tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
-# what LIBRARIES adds.
+# what LIBRARIES adds. SERIES: it tries random cases, of which tools/series runs more. SECONDS: how long it takes
+# under the thread sanitizer where that is long; such tests start first, so that no processor waits for the last one.
 function(vantrell_test folder name)
-    cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "SERIES" "SECONDS" "LIBRARIES" ${ARGN})
     set(set test)
     get_target_property(libraries vantrell_${folder} INTERFACE_LINK_LIBRARIES)
     if("Qt6::Widgets" IN_LIST libraries)
@@ -93,4 +94,10 @@ function(vantrell_test folder name)
     set_tests_properties(${folder}/${name} PROPERTIES
         TIMEOUT 600
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
+    if(ARG_SECONDS)
+        set_tests_properties(${folder}/${name} PROPERTIES COST ${ARG_SECONDS})
+    endif()
+    if(ARG_SERIES)
+        set_tests_properties(${folder}/${name} PROPERTIES LABELS series)
+    endif()
 endfunction()

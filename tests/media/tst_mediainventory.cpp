@@ -2,6 +2,7 @@
 #include "support/QVLog.h"
 #include "support/Workspace.h"
 #include "tests/media/MediaProject.h"
+#include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"
 #include "tests/support/TemporaryHome.h"
 #include "xml/QVXMLParser.h"
@@ -157,7 +158,7 @@ private Q_SLOTS:
     void usageInRandomProjects()
     {
         qint64 found = 0;
-        for (quint64 seed = 0; seed < 300; ++seed) {
+        for (quint64 seed = 0; seed < quint64(seriesLength(1200)); ++seed) {
             const auto tree = XmlDocument::fromData(RandomProject(seed).xml(), {});
             QVERIFY(tree);
             const XmlNode document = tree.value()->node();
