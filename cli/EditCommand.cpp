@@ -5,6 +5,7 @@
 #include "cli/Numbers.h"
 #include "cli/ProjectOutput.h"
 #include "cli/RecordJson.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <nlohmann/json.hpp>

@@ -8,6 +8,7 @@
 #include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

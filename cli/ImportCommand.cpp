@@ -3,6 +3,7 @@
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/HeadlessAlertPresenter.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <memory>

@@ -8,6 +8,7 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

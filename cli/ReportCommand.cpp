@@ -9,6 +9,7 @@
 #include "report/ReportGenerator.h"
 #include "report/ReportImages.h"
 #include "support/FileUtilities.h"
+#include "support/ProgramArguments.h"
 #include "support/UserDefaults.h"
 
 #include <QFile>

@@ -3,6 +3,7 @@
 #include "cli/EditRun.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <QEventLoop>
