@@ -102,7 +102,7 @@ void addEditCommand(CommandLine &program)
     command.value("-o", options->output, "The project to write; \"-\" is standard output");
     command.value("--output-bin", options->outputBin,
                   "The document of the changed sequences to write; \"-\" is standard output");
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
     command.flag("--quiet", options->quiet, "Print no result");
     command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return edit(*options); });

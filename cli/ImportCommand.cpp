@@ -58,7 +58,7 @@ void addImportCommand(CommandLine &program)
                    Subcommand::Need::Required);
     command.value("-o", options->output, "The project to write; \"-\" is standard output",
                   Subcommand::Need::Required);
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
     command.onRun([options] { return importMarkers(*options); });
 }
 

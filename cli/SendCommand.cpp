@@ -76,7 +76,7 @@ void addSendCommand(CommandLine &program)
     command.value("--script", options->script,
                   "Operations to apply first, a JSON file; \"-\" is standard input");
     command.flag("--premiere", options->toPremiere, "Send the whole project to Premiere Pro");
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
     command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return send(*options); });
 }

@@ -43,6 +43,8 @@ void MyDocument::setFileURL(const QUrl &url)
 {
     m_fileURL = url;
     m_fileIsOurs = true;
+    if (m_written.path == url.toLocalFile())
+        m_knownFile->note(m_written.path, m_written.stamp);
 }
 
 std::optional<QString> MyDocument::valueForXPath(const QString &query, XmlNode parentNode)
@@ -119,10 +121,11 @@ const RowList &MyDocument::rowsOnShow(Tab tab) const
     return tab == m_tableTab ? m_tableArray : none;
 }
 
-void MyDocument::setTableArray(Tab tab, RowList rows)
+void MyDocument::setTableArray(Tab tab, RowList rows, RowOrder order)
 {
     m_interface.tableWillReload();
     m_tableTab = tab;
+    m_tableOrder = order;
     m_tableArray = std::move(rows);
     m_waitingTableRows.clear();
     m_interface.tableDidReload();

@@ -112,7 +112,7 @@ void EffectEditor::removeEffects()
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
         // The answer may come while the project is being saved, which began since.
-        if (answer != AlertAnswer::Default || m_document.isSaving())
+        if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
         removeElements(selected);
         m_document.setListOf(Tab::Effects, without(m_document.effectArray(), selected));

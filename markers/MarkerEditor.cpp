@@ -171,7 +171,8 @@ void MarkerEditor::removeMarkers()
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
         // The answer may come while the project is being saved, which began since.
-        if (answer != AlertAnswer::Default || m_document.isSaving())
+        if (answer != AlertAnswer::Default ||
+            m_document.refusesWhileSaving(QStringLiteral("Unable to remove marker")))
             return;
         removeRows(rows);
         m_inventory.populateFilteredMarkerData();

@@ -186,9 +186,10 @@ void MarkerInventory::populateFilteredMarkerData()
             });
             view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
         }
+        const auto order = view.filter == 0 ? MyDocument::RowOrder::Document : MyDocument::RowOrder::Sorted;
         mainThread.runAndWait([&] {
             if (view.rebuild == m_lastRebuild && view.tab == m_document.viewState().selectedTab)
-                m_document.setTableArray(Tab::Markers, std::move(view.rows));
+                m_document.setTableArray(Tab::Markers, std::move(view.rows), order);
         });
         QVLog::appendLog(u"Finished filtering markers");
     });

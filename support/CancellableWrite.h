@@ -22,9 +22,9 @@ public:
     bool isCancelled() const { return m_state == State::Cancelled; }
 
     /// For FileUtilities::writeAtomically().
-    FileUtilities::ReplaceCheck check()
+    FileUtilities::BeforeReplacing check()
     {
-        return [self = shared_from_this()]() -> Result<void> {
+        return [self = shared_from_this()](int) -> Result<void> {
             State expected = State::Writing;
             if (self->m_state.compare_exchange_strong(expected, State::Replacing))
                 return {};

@@ -21,7 +21,7 @@ namespace vantrell
 
 bool DocumentWindow::mayChangeMarkers()
 {
-    if (m_isBusy)
+    if (m_isBusy || refusesAfterFailedLoad())
         return false;
     if (m_state != State::Loading || m_workbench->document().isPopulating(Tab::Markers))
         return true; // whoever is asked next looks at the markers themselves
@@ -46,7 +46,7 @@ void DocumentWindow::runOpenPanel(const QString &format)
 
 void DocumentWindow::importMarkerLists(const QStringList &paths, const QString &format)
 {
-    if (m_isBusy || m_closing || m_state != State::Ready)
+    if (refusesAfterFailedLoad() || m_isBusy || m_closing || m_state != State::Ready)
         return;
     auto *const import =
         new MarkerListImport(m_workbench->document(), m_workbench->markerListImporter(), paths, format, this);
@@ -98,7 +98,7 @@ void DocumentWindow::tellInMarkers(const QString &text)
 void DocumentWindow::runSavePanel(const QString &format)
 {
     commitEditing();
-    if (m_isBusy)
+    if (m_isBusy || refusesAfterFailedLoad())
         return;
     if (const auto panel = m_workbench->markerListExporter().showMarkerListSaveDialog(format)) {
         runMarkerListSavePanel(*panel, this, folder(),
@@ -108,7 +108,7 @@ void DocumentWindow::runSavePanel(const QString &format)
 
 void DocumentWindow::exportMarkerList(const QString &path, const QString &format)
 {
-    if (m_isBusy || m_closing)
+    if (refusesAfterFailedLoad() || m_isBusy || !document())
         return;
     const QByteArray list = m_workbench->markerListExporter().textOfMarkerList(format).toUtf8();
     const std::size_t count = m_workbench->document().markerArray().size();

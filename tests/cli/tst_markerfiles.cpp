@@ -2,7 +2,10 @@
 #include "tests/support/TemporaryHome.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;
@@ -53,6 +56,36 @@ private Q_SLOTS:
         m_home.addFile(u"broken.fcpxml"_s, fcpxml("<marker>"));
         m_home.addFile(u"Edit.xml"_s, project("<marker><name>M</name><in>25</in><out>50</out></marker>"));
         m_home.addFile(u"damaged.xml"_s, project("<marker><name>M</marker>"));
+    }
+
+    /// The list comes through a pipe, and not before another program has changed the project.
+    void changedMeanwhile_data()
+    {
+        QTest::addColumn<bool>("isConfirmed");
+        QTest::newRow("refused") << false;
+        QTest::newRow("--yes") << true;
+    }
+    void changedMeanwhile()
+    {
+        QFETCH(bool, isConfirmed);
+        const QString path = m_home.addFile(u"changing.xml"_s, project(QByteArray()));
+        const QString pipe = m_home.path(isConfirmed ? u"pipe 2"_s : u"pipe 1"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QProcess program;
+        program.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + u"/vantrell-cli"_s,
+                      QStringList{u"import"_s, path, pipe, u"--format"_s, u"avid"_s, u"-o"_s, path} +
+                          (isConfirmed ? QStringList{u"--yes"_s} : QStringList()));
+        QFile list(pipe);
+        QVERIFY(list.open(QIODevice::WriteOnly)); // once the program reads it
+        const QByteArray theirs = project("<marker><name>theirs</name><in>1</in><out>-1</out></marker>");
+        m_home.addFile(u"changing.xml"_s, theirs);
+        list.write(contentOf(m_home.path(u"avid.txt"_s)));
+        list.close();
+        QVERIFY(program.waitForFinished(120000));
+        QCOMPARE(program.exitCode(), isConfirmed ? 0 : 1);
+        QVERIFY(program.readAllStandardError().contains("changed by another program"));
+        QCOMPARE(contentOf(path) == theirs, !isConfirmed);
+        QCOMPARE(contentOf(path).contains("<name>B</name>"), isConfirmed);
     }
 
     void printed()

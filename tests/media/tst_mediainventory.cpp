@@ -364,6 +364,12 @@ private Q_SLOTS:
         opened.inventory.revealMediaInFinder();
         QTRY_VERIFY(QFile::exists(output));
         QCOMPARE(contentOf(output), m_home.path(QStringLiteral("m")).toUtf8());
+        // That a file is missing is said below the table.
+        opened.world.selectRows(Tab::Media, {0});
+        opened.inventory.revealMediaInFinder();
+        const QString told = QStringLiteral("“x.mov” is missing 0");
+        QVERIFY(MainThread::drainUntil([&] { return opened.world.events.contains(told); },
+                                       std::chrono::seconds(30)));
         Workspace::setOpenProgram(QString());
     }
 };

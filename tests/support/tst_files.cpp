@@ -103,6 +103,25 @@ private Q_SLOTS:
         QCOMPARE(contentOf(path), QByteArray("new"));
     }
 
+    void theLastWordKeepsTheOldFile()
+    {
+        const TemporaryHome home;
+        const QString path = home.addFile(QStringLiteral("out/a.txt"), "old");
+        QByteArray seen;
+        const auto write = [](QIODevice &device) -> Result<void> {
+            device.write("new");
+            return {};
+        };
+        const auto refuse = [&](int) -> Result<void> {
+            seen = contentOf(path);
+            return Failure{QStringLiteral("no")};
+        };
+        QCOMPARE(FileUtilities::writeAtomically(path, write, refuse).message(), QStringLiteral("no"));
+        QCOMPARE(seen, QByteArray("old"));
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(namesIn(home.path(QStringLiteral("out"))), QStringList(QStringLiteral("a.txt")));
+    }
+
     void keepsPermissionsAndLinks()
     {
         const TemporaryHome home;
