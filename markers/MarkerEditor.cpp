@@ -13,7 +13,6 @@
 #include "xml/QVXMLParser.h"
 
 #include <functional>
-#include <unordered_set>
 
 namespace vantrell
 {
@@ -182,19 +181,11 @@ void MarkerEditor::removeMarkers()
 
 void MarkerEditor::removeRows(const RowList &rows)
 {
-    std::unordered_set<const RowRecord *> removed;
     for (const RowRecordPtr &record : rows) {
         removeXMLMarker(record);
         freeSlots().remove(*record);
-        removed.insert(record.get());
     }
-    RowList kept;
-    kept.reserve(m_document.markerArray().size());
-    for (const RowRecordPtr &record : m_document.markerArray()) {
-        if (!removed.contains(record.get()))
-            kept.push_back(record);
-    }
-    m_document.setListOf(Tab::Markers, std::move(kept));
+    m_document.removeRows(Tab::Markers, rows);
 }
 
 void MarkerEditor::dropRemovedMarkers()

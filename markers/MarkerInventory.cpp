@@ -178,7 +178,8 @@ void MarkerInventory::populateFilteredMarkerData()
             view.tab = m_document.viewState().selectedTab;
             view.filter = m_document.viewState().markerFilter;
             view.sort = m_document.interface().sortDescriptors(Tab::Markers);
-            view.rows = m_document.markerArray();
+            if (view.filter != 0)
+                view.rows = m_document.markerArray();
         });
         if (view.filter != 0) {
             std::erase_if(view.rows, [&view](const RowRecordPtr &record) {
@@ -186,10 +187,13 @@ void MarkerInventory::populateFilteredMarkerData()
             });
             view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
         }
-        const auto order = view.filter == 0 ? MyDocument::RowOrder::Document : MyDocument::RowOrder::Sorted;
         mainThread.runAndWait([&] {
-            if (view.rebuild == m_lastRebuild && view.tab == m_document.viewState().selectedTab)
-                m_document.setTableArray(Tab::Markers, std::move(view.rows), order);
+            if (view.rebuild != m_lastRebuild || view.tab != m_document.viewState().selectedTab)
+                return;
+            if (view.filter == 0)
+                m_document.showList(Tab::Markers);
+            else
+                m_document.setTableArray(Tab::Markers, std::move(view.rows));
         });
         QVLog::appendLog(u"Finished filtering markers");
     });
