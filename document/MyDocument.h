@@ -193,6 +193,8 @@ public:
     const RowList &listOf(Tab tab) const { return m_lists[std::size_t(tab)]; }
     /// Replaces a list whole.
     void setListOf(Tab tab, RowList rows);
+    /// Takes rows out of a list, and out of the rows on show where those are the list's, unannounced.
+    void removeRows(Tab tab, const RowList &rows);
     /// Adds one row at the end of a list.
     void appendToListOf(Tab tab, RowRecordPtr row);
 
@@ -217,6 +219,8 @@ public:
     enum class RowOrder { Document, Sorted };
     /// Exchanges the rows on show, announcing it before and after.
     void setTableArray(Tab tab, RowList rows, RowOrder order = RowOrder::Sorted);
+    /// The same with all rows of the list, which costs next to nothing when they are on show already.
+    void showList(Tab tab);
     /// That of the rows that were exchanged last; rows that were added since stand at their end.
     RowOrder tableOrder() const { return m_tableOrder; }
     /// Adds one row to those on show, announced the same way.

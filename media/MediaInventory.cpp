@@ -98,8 +98,10 @@ void MediaInventory::build()
             return;
         std::vector<QByteArray> paths;
         paths.reserve(files.size());
+        const QString folder = projectFolder();
         for (const File &file : files)
-            paths.push_back(file.path ? QFile::encodeName(*file.path) : QByteArray());
+            paths.push_back(
+                QFile::encodeName(MediaFile::absolutePath(file.path.value_or(QString()), folder)));
         const FileChecks checks(std::move(paths), m_check);
         countUsage(files, MediaUsage(m_document.xmlNode(), m_document.xmlType(), sequences, isClosing));
         const std::optional<FileChecks::Answers> answers = checks.answers(isClosing, m_patience);
@@ -231,13 +233,21 @@ void MediaInventory::withFileOfRow(std::size_t row, bool (*action)(const QString
     withExistingFile(path, action, [gate = m_document.mainThread(), tell] { gate->post(tell); });
 }
 
+/// What relative paths are relative to.
+QString MediaInventory::projectFolder() const
+{
+    return QFileInfo(m_document.fileURL().toLocalFile()).absolutePath();
+}
+
 /// Null for a row that is not there or has no path.
 QString MediaInventory::pathOfRow(std::size_t row) const
 {
     const RowList &rows = m_document.rowsOnShow(Tab::Media);
     if (row >= rows.size())
         return QString();
-    return MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
+    const QString path =
+        MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
+    return MediaFile::absolutePath(path, projectFolder());
 }
 
 } // namespace vantrell

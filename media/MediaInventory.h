@@ -67,6 +67,7 @@ private:
     RowList recordsOf(const std::vector<File> &files, const FileChecks::Answers &answers,
                       std::uint64_t &total) const;
     void withFileOfRow(std::size_t row, bool (*action)(const QString &));
+    QString projectFolder() const;
     QString pathOfRow(std::size_t row) const;
 
     MyDocument &m_document;

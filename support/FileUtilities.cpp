@@ -260,17 +260,14 @@ qsizetype extensionDot(const QString &path)
 
 } // namespace
 
-Result<void> writeAtomically(const QString &path, const QByteArray &content)
+Result<void> writeAtomically(const QString &path, const QByteArray &content,
+                             const BeforeReplacing &beforeReplacing)
 {
-    return writeAtomically(path, [&content](QIODevice &device) -> Result<void> {
+    const auto writer = [&content](QIODevice &device) -> Result<void> {
         device.write(content);
         return {};
-    });
-}
-
-Result<void> writeAtomically(const QString &path, const Writer &writer)
-{
-    return writeAtomically(path, writer, BeforeReplacing());
+    };
+    return writeAtomically(path, writer, beforeReplacing);
 }
 
 Result<void> writeAtomically(const QString &path, const Writer &writer,

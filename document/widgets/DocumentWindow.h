@@ -203,6 +203,7 @@ private:
     void tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths);
     void exportEnded(const QString &path, const QString &format, std::size_t count,
                      const Result<void> &written);
+    void tellOfExport(const QString &text, const QString &format);
     void tellInMarkers(const QString &text);
     void setPath(const QString &path);
     void showPane(Tab tab);

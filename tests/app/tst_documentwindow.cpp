@@ -549,7 +549,7 @@ private Q_SLOTS:
         QSignalSpy imported(m_window, &DocumentWindow::markersImported);
         m_window->importMarkerLists({list}, MarkerListFormat::avid);
         QTRY_COMPARE(imported.count(), 1);
-        QCOMPARE(told, QStringLiteral("Unable to create marker"));
+        QCOMPARE(told, QStringLiteral("1 of 3 rows could not be added"));
         QVERIFY(!isSheetOver);
         QCOMPARE(imported.at(0).at(0).value<std::size_t>(), std::size_t(2));
         QCOMPARE(m_window->selectedTab(), Tab::Markers);

@@ -126,7 +126,7 @@ private Q_SLOTS:
                 }
             }
         }
-        QVERIFY2(found > 300, qPrintable(QString::number(found)));
+        QVERIFY2(found > std::size_t(seriesLength(1200)), qPrintable(QString::number(found)));
     }
 
     void view()

@@ -308,6 +308,8 @@ private Q_SLOTS:
                 } else {
                     const std::size_t row = std::size_t(random.below(int(count)));
                     element = p.marker(row)->get(MarkerKey::markerElement);
+                    if (!element.isAttached())
+                        continue; // it went with the marker around it
                     before = outline(root, element);
                     if (what == 1) {
                         p.alerts->queueAnswer(1);

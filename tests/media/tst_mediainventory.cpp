@@ -9,6 +9,7 @@
 #include "xml/XmlDocument.h"
 
 #include <QElapsedTimer>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <condition_variable>
@@ -185,7 +186,7 @@ private Q_SLOTS:
                 found += expected;
             }
         }
-        QVERIFY2(found > 300, qPrintable(QString::number(found)));
+        QVERIFY2(found > qint64(seriesLength(1200)), qPrintable(QString::number(found)));
     }
 
     void addresses()
@@ -266,6 +267,25 @@ private Q_SLOTS:
         QVERIFY(!opened.document.isPopulating(Tab::Media));
         QVLog::finishWriting();
         QVERIFY(contentOf(QVLog::availableLogs().value(0)).contains("/m/dead.mov: 8\n"));
+    }
+
+    void relativePaths()
+    {
+        MediaProject opened; // in a folder of its own
+        const QString folder = QFileInfo(opened.folder.path()).absoluteFilePath();
+        QFile file(folder + QStringLiteral("/near.mov"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
+        file.close();
+        const QString here = QDir::currentPath();
+        const auto leave = qScopeGuard([&here] { QDir::setCurrent(here); });
+        m_home.addFile(QStringLiteral("far.mov"), "1");
+        QDir::setCurrent(m_home.path());
+        QVERIFY(opened.load(used(item("a", "near.mov") + item("b", "far.mov") + item("c", "./near.mov"))));
+        const RowList &files = opened.document.mediaArray();
+        QCOMPARE(files.at(0)->get(MediaKey::filesize), 5);
+        QVERIFY(files.at(1)->get(MediaKey::missing));
+        QCOMPARE(files.at(2)->get(MediaKey::filesize), 5);
+        QCOMPARE(files.at(0)->get(MediaKey::directory), QString());
     }
 
     void attributesThatCannotBeRead()
