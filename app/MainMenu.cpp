@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <optional>
 #include <utility>
 
 namespace vantrell
@@ -188,13 +189,13 @@ void MainMenu::fillSortMenu()
 {
     m_sortMenu->clear();
     TabPane &pane = m_document->pane(m_document->selectedTab());
-    const auto &sorted = pane.sortDescriptors();
+    const std::optional<SortDescriptor> sort = pane.shownSort();
     for (const QString &column : pane.columns()) {
         QString title = pane.model().columnName(pane.model().columnOf(column));
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_sortMenu->addAction(title);
         action->setCheckable(true);
-        action->setChecked(!sorted.empty() && sorted.front().column == column);
+        action->setChecked(sort && sort->column == column);
         connect(action, &QAction::triggered, &pane, [&pane, column] { pane.sortBy(column); });
     }
 }

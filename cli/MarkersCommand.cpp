@@ -8,6 +8,7 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 
@@ -25,6 +26,7 @@ struct MarkersOptions {
     std::optional<std::string> color;
     std::optional<std::string> sort;
     bool json = false;
+    bool ownOwners = false;
 };
 
 /// The colour index that the value of --color names.
@@ -130,7 +132,8 @@ int markers(const MarkersOptions &options)
         sort.push_back(*descriptor);
     }
     ProjectSession session(Workbench::Inventories::Markers);
-    if (!session.open(withoutMark(fromArgument(options.file))))
+    session.setOwnOwners(options.ownOwners);
+    if (!session.open(fromArgument(options.file)))
         return Failed;
     session.setSortDescriptors(Tab::Markers, sort);
     ViewState &view = session.document().viewState();
@@ -156,6 +159,7 @@ void addMarkersCommand(CommandLine &program)
                   "come in document order. Columns: " +
                       sortChoices(markerColumns) + ", QVCUSTOM_...");
     command.flag("--json", options->json, "Print one JSON document");
+    command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return markers(*options); });
 }
 

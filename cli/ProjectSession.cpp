@@ -18,6 +18,12 @@ ProjectSession::~ProjectSession()
 #endif
 }
 
+void ProjectSession::setOwnOwners(bool own)
+{
+    m_comparesOwners = !own;
+    m_workbench->markerInventory().setOwnerListing(own ? OwnerListing::Own : OwnerListing::ByPosition);
+}
+
 bool ProjectSession::open(const QString &path)
 {
     return open(path, Workbench::typeNameForPath(path));
@@ -49,8 +55,17 @@ void ProjectSession::loadFinished(bool loaded, const QString &message, const QSt
 
 void ProjectSession::inventoriesFinished()
 {
+    if (m_comparesOwners)
+        tellOwners();
     m_ended = true;
     m_loop.quit();
+}
+
+void ProjectSession::tellOwners()
+{
+    const QString told = m_workbench->markerInventory().listedUnderOthersText();
+    if (!told.isEmpty())
+        complain(told + QStringLiteral("; --own-owners lists each under its own."));
 }
 
 } // namespace vantrell::cli

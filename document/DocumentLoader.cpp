@@ -83,6 +83,9 @@ bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
     }
     m_isFCPProject = isProject;
     m_isPremiereProject = false;
+    // Before it is read: what changes meanwhile has changed.
+    if (!isProject)
+        m_knownFile->note(url.toLocalFile(), FileStamp::ofPath(url.toLocalFile()));
     // A character beyond the basic plane comes as two references.
     Result<std::unique_ptr<XmlDocument>> parsed =
         isProject
@@ -101,7 +104,10 @@ bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
 
 void MyDocument::failLoading(const QString &message)
 {
-    m_mainThread->runAndWait([this, &message] { m_interface.loadFinished(false, message, QString()); });
+    m_mainThread->runAndWait([this, &message] {
+        m_loadFailure = message.isNull() ? QStringLiteral("") : message;
+        m_interface.loadFinished(false, message, QString());
+    });
 }
 
 void MyDocument::runInventories()

@@ -16,6 +16,7 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     , m_markerPresets(m_document, defaults)
     , m_reportGenerator(m_document, m_markerPresets, defaults, ReportImages::standardFolder())
 {
+    m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
 }
 
 Workbench::~Workbench()

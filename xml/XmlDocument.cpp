@@ -108,6 +108,18 @@ XmlNode XmlDocument::rootElement() const
     return m_tree ? XmlNode(xmlDocGetRootElement(treeOf(node()))) : XmlNode();
 }
 
+QByteArray XmlDocument::encoding() const
+{
+    return QByteArray(reinterpret_cast<const char *>(treeOf(node())->encoding));
+}
+
+void XmlDocument::setEncoding(const QByteArray &encoding)
+{
+    xmlDoc *tree = treeOf(node());
+    xmlFree(const_cast<xmlChar *>(tree->encoding));
+    tree->encoding = xmlStrdup(reinterpret_cast<const xmlChar *>(encoding.constData()));
+}
+
 Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled, Layout layout) const
 {
     return FileUtilities::writeAtomically(

@@ -253,6 +253,7 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
 void DocumentWindow::inventoriesEnded()
 {
     m_state = State::Ready;
+    rememberFile();
     updateEditing();
     Q_EMIT menusChanged();
 }
@@ -329,7 +330,7 @@ void DocumentWindow::forgetBusiness()
     qDeleteAll(findChildren<MarkerListImport *>());
     m_progressDelay->stop();
     m_isBusy = m_isSending = m_givesUpForClosing = false;
-    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = false;
+    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = m_isSettling = false;
     m_noticeBefore.reset();
     m_cancelBusy = nullptr;
 }
@@ -387,6 +388,15 @@ QString DocumentWindow::message() const
     if (m_state == State::Failed)
         return (m_failure->text() + QLatin1Char('\n') + m_failureReason->text()).trimmed();
     return m_notice->notice();
+}
+
+bool DocumentWindow::refusesAfterFailedLoad()
+{
+    if (m_state != State::Failed || m_closing)
+        return false;
+    QVAlert::alertSheetWithMessageText(m_failure->text(), QString(), QString(), QString(),
+                                       m_failureReason->text(), m_interface->alertParent(), false);
+    return true;
 }
 
 Tab DocumentWindow::selectedTab() const
@@ -449,8 +459,10 @@ void DocumentWindow::showPane(Tab tab)
 
 void DocumentWindow::applyDefaultsChange(const QString &key)
 {
-    if (m_panes[std::size_t(Tab::Markers)] && !m_closing)
-        markersPane().applyDefaultsChange(key);
+    for (TabPane *const pane : m_panes) {
+        if (pane && !m_closing)
+            pane->applyDefaultsChange(key);
+    }
 }
 
 MarkersPane &DocumentWindow::markersPane() const

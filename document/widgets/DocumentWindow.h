@@ -82,6 +82,26 @@ public:
 
     /// What the window says about its file: why it could not be loaded, or that it had to be repaired.
     QString message() const;
+    /// Whether the project could not be loaded; an alert then says so, with the reason. What needs a project
+    /// asks this first.
+    bool refusesAfterFailedLoad();
+
+    /// How the window finds out whether a file that it is to be saved to is open in another one.
+    void setOpenElsewhere(std::function<bool(const QString &path)> isOpenElsewhere)
+    {
+        m_isOpenElsewhere = std::move(isOpenElsewhere);
+    }
+
+    // Closing in two steps, for several windows to be asked about before one closes
+
+    /// What becomes of changes: the user is asked as by closing, or they are saved.
+    enum class Settling { Ask, Save };
+    /// Settles the changes and leaves the window open; changesSettled() tells the end of it.
+    void settleChanges(Settling settling);
+    /// Closes the window. About changes that were settled nobody is asked again.
+    void closeSettled();
+    /// What runs and is given up when the window closes is given up.
+    void giveUpForClosing();
 
 public Q_SLOTS:
     /// The toolbar's actions: each fills its pane and shows it.
@@ -167,6 +187,9 @@ Q_SIGNALS:
     void closed();
     /// The user does not want the window to be closed, after all.
     void closeCancelled();
+    /// The changes are saved or to be given up, or the user does not want to part with the window, or they
+    /// could not be saved.
+    void changesSettled(bool areSettled);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -193,8 +216,12 @@ private:
     void cancelProgress();
     void writeEnded(const QString &path, const Result<void> &written);
     void tellOfFailedSave(const QString &path, const QString &reason);
+    void askAboutChangedFile(const QString &path);
     void saveEnded(const QString &path, bool isSaved);
+    void rememberFile();
+    void runProjectPanel(const std::function<void()> &whenCancelled = {});
     void closeAfterSave(bool isSaved);
+    void changesEnded(bool areSettled);
     bool isProject() const;
     void hideSending();
     void sendEnded();
@@ -202,6 +229,7 @@ private:
     void tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths);
     void exportEnded(const QString &path, const QString &format, std::size_t count,
                      const Result<void> &written);
+    void tellOfExport(const QString &text, const QString &format);
     void tellInMarkers(const QString &text);
     QString fileTitle() const;
     void tellOfReport(const QString &what, const QString &reason);
@@ -234,6 +262,9 @@ private:
     bool m_closing = false;
     bool m_asksBeforeClosing = false;
     bool m_closesWhenSaved = false;
+    bool m_isSettling = false;     // closing ends with the changes
+    bool m_givesUpChanges = false; // when it closes
+    std::function<bool(const QString &path)> m_isOpenElsewhere;
 
     // Something long
     bool m_isBusy = false;

@@ -206,6 +206,7 @@ void MarkersPane::showMarkerFieldsDialog()
 
 void MarkersPane::applyDefaultsChange(const QString &key)
 {
+    TabPane::applyDefaultsChange(key);
     if (key == QStringLiteral("customMarkerFields"))
         workbench().markerFields().definitionsChanged();
     else if (key == QStringLiteral("selectedPreset"))

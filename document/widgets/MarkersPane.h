@@ -29,9 +29,7 @@ public:
     void showMarkerPresetSheet() override;
     void hideMarkerPresetSheet() override;
     void setEditingEnabled(bool enabled) override;
-
-    /// A setting that all documents share changed.
-    void applyDefaultsChange(const QString &key);
+    void applyDefaultsChange(const QString &key) override;
 
 public Q_SLOTS:
     void addMarker();

@@ -13,6 +13,8 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <limits>
+
 namespace vantrell
 {
 
@@ -164,6 +166,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = createPopUp(parent, index);
     } else if (cellOf(index) == TableModel::Cell::Text) {
         auto *field = new QLineEdit(parent);
+        field->setMaxLength(std::numeric_limits<int>::max()); // or a long text would lose its end
         field->setText(index.data(Qt::EditRole).toString());
         field->selectAll();
         editor = field;

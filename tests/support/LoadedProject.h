@@ -23,7 +23,7 @@ public:
     /// Starts loading the project.
     void start(const QByteArray &xml)
     {
-        QFile file(m_folder.filePath(QStringLiteral("project.xml")));
+        QFile file(folder.filePath(QStringLiteral("project.xml")));
         if (file.open(QIODevice::WriteOnly))
             file.write(xml);
         file.close();
@@ -58,7 +58,7 @@ private:
         return services;
     }
 
-    QTemporaryDir m_folder;
+    const QTemporaryDir folder;
 };
 
 /// Descriptors from a text such as "name size:desc".
