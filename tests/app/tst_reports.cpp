@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 
+#include "document/widgets/QVTableView.h"
 #include "report/widgets/ExportReportSheet.h"
 #include "report/widgets/PrintPanel.h"
 #include "report/widgets/PrintPlugin.h"
@@ -13,6 +14,7 @@
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
+#include <QHeaderView>
 #include <QListView>
 #include <QTest>
 
@@ -65,7 +67,8 @@ private Q_SLOTS:
     {
         PrintPlugin::replace(&m_plugin);
         m_window->pane(Tab::Markers).selectRows({1, 3});
-        m_window->pane(Tab::Markers).moveColumn(u"in"_s, 0);
+        auto *const header = m_window->pane(Tab::Markers).table().horizontalHeader();
+        header->moveSection(m_window->pane(Tab::Markers).columns().indexOf(u"in"_s), 0);
         QSignalSpy printed(m_window.get(), &DocumentWindow::reportPrinted);
         m_window->printDocument();
         auto *const panel = m_window->findChild<PrintPanel *>();
@@ -86,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->selectedToolbarItemIdentifier(), u"markers"_s);
         QTRY_VERIFY(!m_window->findChild<PrintPanel *>());
         QVERIFY(!m_defaults.value(u"printSettings"_s).toDictionary().isEmpty());
-        m_window->pane(Tab::Markers).moveColumn(u"in"_s, 3);
+        header->moveSection(0, 3);
     }
 
     void cancelsThePreparation()
