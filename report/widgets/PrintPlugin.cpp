@@ -20,7 +20,7 @@ WebViewPlugin *s_replacement = nullptr; // main thread only
 QString find()
 {
     const QFileInfo plugin(QDir(QCoreApplication::applicationDirPath())
-                               .filePath(QStringLiteral("../lib/vantrell/vantrell-print.so")));
+                               .filePath(QStringLiteral("../lib/vantrell/plugins/vantrell-print.so")));
     return plugin.isFile() ? plugin.canonicalFilePath() : QString();
 }
 

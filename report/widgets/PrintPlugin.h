@@ -14,7 +14,8 @@ class WebViewPlugin;
 namespace PrintPlugin
 {
 
-/// Its path, ../lib/vantrell as seen from the folder of the running program; null when it is not installed.
+/// Its path, ../lib/vantrell/plugins as seen from the folder of the running program; null when it is not
+/// installed.
 QString find();
 
 /// What a user is told when it is not there.
