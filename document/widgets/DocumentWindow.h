@@ -205,6 +205,8 @@ private:
                      const Result<void> &written);
     void tellOfExport(const QString &text, const QString &format);
     void tellInMarkers(const QString &text);
+    void tellOwners();
+    void applyOwnerListing();
     void setPath(const QString &path);
     void showPane(Tab tab);
     MarkersPane &markersPane() const;
@@ -253,6 +255,7 @@ private:
     QActionGroup *m_toolBarItems = nullptr;
     QString m_selectedToolbarItemIdentifier;
     NoticeBar *m_notice = nullptr;
+    NoticeBar *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;
