@@ -230,6 +230,7 @@ void DocumentWindow::endSession()
     if (!m_workbench)
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
+    closePrintPanel();
     m_interface->disconnectFromWindow();
     forgetBusiness();
     m_progress->endProgress();

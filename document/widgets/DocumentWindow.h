@@ -26,10 +26,15 @@ class DocumentWindowInterface;
 class MyDocument;
 class MarkersPane;
 class NoticeBar;
+class PrintOperation;
+class PrintPanel;
 class ProgressSheet;
+class PropertyListDictionary;
+class QVPrintViewController;
 class TabPane;
 class UserDefaults;
 class Workbench;
+enum class ReportFormat;
 
 /// The window of one document, which it owns: the three panes behind a toolbar, of which one shows. It
 /// ends with its document; closing it asks about changes first, and it deletes itself afterwards. Main
@@ -132,6 +137,14 @@ public Q_SLOTS:
     void exportMarkerList(const QString &path, const QString &format);
     void exportChangedSequencesTo(const QString &path);
 
+    /// Prints the table of the pane that shows: its selected rows, or all of them. The print panel asks for
+    /// the columns, and for paper or a PDF file.
+    void printDocument();
+    /// Asks what a report of that table shows and what it is written as.
+    void exportReport();
+    /// What the sheet ends with.
+    void exportReportTo(const QString &path, vantrell::ReportFormat format);
+
     /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
@@ -142,6 +155,16 @@ public Q_SLOTS:
     void removeSelection();
     /// Shows the effects with the keyboard in their search field.
     void findEffects();
+
+public:
+    /// Prints what the web view shows with the settings, see PrintInfo, as they are or as the print panel
+    /// changes them; tells whether it was printed.
+    void printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+                                   const std::function<void(bool didPrint)> &didPrint);
+    /// There is no way to print the document but printDocument(): null.
+    PrintOperation *printOperationWithSettings(const PropertyListDictionary &settings, QString *error);
+    /// Whether a report may be made now.
+    bool mayReport() const;
 
 Q_SIGNALS:
     /// What the menus depend on is another than before.
@@ -154,6 +177,9 @@ Q_SIGNALS:
     void markersImported(std::size_t count);
     void markersExported(bool isWritten);
     void changedSequencesExported(bool isWritten);
+    /// The print panel is over.
+    void reportPrinted(bool isPrinted);
+    void reportExported(bool isWritten);
     void loadFailed(const QString &path);
     /// The user wants these files opened.
     void filesDropped(const QStringList &paths);
@@ -207,6 +233,11 @@ private:
     void tellInMarkers(const QString &text);
     void tellOwners();
     void applyOwnerListing();
+    QString fileTitle() const;
+    void tellOfReport(const QString &what, const QString &reason);
+    void documentDidPrint(Tab printed, bool didPrint);
+    void reportExportEnded(const QString &path, const Result<void> &written, bool isCancelled);
+    void closePrintPanel();
     void setPath(const QString &path);
     void showPane(Tab tab);
     MarkersPane &markersPane() const;
@@ -260,6 +291,9 @@ private:
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;
     ProgressSheet *m_progress = nullptr;
+
+    QPointer<PrintPanel> m_printPanel;
+    QPointer<QVPrintViewController> m_printViewController; // of what was printed last
 
     // The document and what shows it, exchanged together when the file is loaded again.
     std::shared_ptr<DocumentWindowInterface> m_interface;
