@@ -50,12 +50,12 @@ std::vector<RecordKey> listColumns(const MarkerListOptions &options)
 QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &columns)
 {
     QStringList titles;
-    for (const RecordKey column : columns)
+    for (const RecordKey &column : columns)
         titles.append(column.text());
     TextTable table(titles);
     for (const RowRecordPtr &row : rows) {
         QStringList cells;
-        for (const RecordKey column : columns) {
+        for (const RecordKey &column : columns) {
             const RecordValue *value = row->find(column);
             cells.append(value ? plainText(*value) : QString());
         }

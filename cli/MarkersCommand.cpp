@@ -12,8 +12,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QSet>
 #include <memory>
-#include <unordered_set>
 
 namespace vantrell::cli
 {
@@ -57,7 +57,7 @@ QString markersCellText(const RowRecord &marker, RecordKey key)
         return marker.get(MarkerKey::sequenceName);
     if (key == MarkerKey::clip)
         return marker.get(MarkerKey::clipName);
-    for (const TypedKey<std::int64_t> flag :
+    for (const TypedKey<std::int64_t> &flag :
          {MarkerKey::chapter, MarkerKey::compression, MarkerKey::scoring}) {
         if (key == flag)
             return yesOrEmpty(marker, flag);
@@ -68,13 +68,16 @@ QString markersCellText(const RowRecord &marker, RecordKey key)
 /// The custom fields that the markers have, in the order in which they come.
 QStringList customFieldsOf(const RowList &markers)
 {
-    std::unordered_set<std::uint32_t> seen;
+    QSet<QString> seen;
     QStringList fields;
     for (const RowRecordPtr &marker : markers) {
         for (std::size_t i = 0; i < marker->size(); ++i) {
             const RecordKey key = marker->keyAt(i);
-            if (seen.insert(key.number()).second && key.text().startsWith(MarkerKey::customPrefix))
-                fields.append(key.text());
+            const QString text = key.isConstant() ? QString() : key.text();
+            if (text.startsWith(MarkerKey::customPrefix) && !seen.contains(text)) {
+                seen.insert(text);
+                fields.append(text);
+            }
         }
     }
     return fields;
@@ -95,7 +98,7 @@ QByteArray markersAsTable(const RowList &markers)
     TextTable table(titles);
     for (const RowRecordPtr &marker : markers) {
         QStringList cells;
-        for (const RecordKey column : columns)
+        for (const RecordKey &column : columns)
             cells.append(markersCellText(*marker, column));
         table.addRow(cells);
     }

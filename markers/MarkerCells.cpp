@@ -94,7 +94,7 @@ void MarkerEditor::moveToSequence(const RowRecordPtr &record, XmlNode sequence, 
     setOrRemove(*record, MarkerKey::sequenceUUID, info.uuid);
     setOrRemove(*record, MarkerKey::sequenceName, info.name);
     info.timing.store(*record);
-    for (const RecordKey key :
+    for (const RecordKey &key :
          std::initializer_list<RecordKey>{MarkerKey::clip, MarkerKey::clipID, MarkerKey::clipUUID,
                                           MarkerKey::clipName, MarkerKey::clipIndex})
         record->remove(key);
@@ -159,7 +159,7 @@ void MarkerEditor::listUnderOwn(const RowRecordPtr &record)
     const SequenceInfo &info = sequences().infoOf(own.sequence);
     RowRecord keys = own.sequenceKeys(*m_ownerIndexes, given(info.uuid), given(info.name));
     keys.merge(own.clipKeys(*m_ownerIndexes));
-    for (const RecordKey key : std::initializer_list<RecordKey>{
+    for (const RecordKey &key : std::initializer_list<RecordKey>{
              MarkerKey::sequenceUUID, MarkerKey::sequenceName, MarkerKey::sequenceIndex, MarkerKey::clip,
              MarkerKey::clipID, MarkerKey::clipUUID, MarkerKey::clipName, MarkerKey::clipIndex}) {
         if (!keys.contains(key))

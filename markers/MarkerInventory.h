@@ -15,6 +15,9 @@ class MarkerFields;
 class MarkerInventory
 {
 public:
+    /// The user default, a boolean, that tells whether the window lists each marker under its own owners.
+    static inline const QString ownOwnersDefault = QStringLiteral("ownOwners");
+
     /// Both outlive the inventory.
     MarkerInventory(MyDocument &document, MarkerFields &fields);
 

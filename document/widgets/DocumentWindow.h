@@ -231,6 +231,8 @@ private:
                      const Result<void> &written);
     void tellOfExport(const QString &text, const QString &format);
     void tellInMarkers(const QString &text);
+    void tellOwners();
+    void applyOwnerListing();
     QString fileTitle() const;
     void tellOfReport(const QString &what, const QString &reason);
     void documentDidPrint(Tab printed, bool didPrint);
@@ -284,6 +286,7 @@ private:
     QActionGroup *m_toolBarItems = nullptr;
     QString m_selectedToolbarItemIdentifier;
     NoticeBar *m_notice = nullptr;
+    NoticeBar *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
@@ -15,6 +16,7 @@ namespace vantrell
 NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent)
     , m_text(new QLabel(this))
+    , m_action(new QPushButton(this))
 {
     setBackgroundRole(QPalette::AlternateBase);
     setAutoFillBackground(true);
@@ -35,7 +37,9 @@ NoticeBar::NoticeBar(QWidget *parent)
     layout->setContentsMargins(10, 5, 6, 5);
     layout->addWidget(icon);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_action);
     layout->addWidget(dismiss);
+    m_action->hide();
     hide();
 }
 
@@ -47,6 +51,16 @@ void NoticeBar::setNotice(const QString &text)
         QAccessibleEvent event(m_text, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void NoticeBar::setAction(const QString &title, std::function<void()> action)
+{
+    m_action->setText(title);
+    m_action->show();
+    connect(m_action, &QPushButton::clicked, this, [this, action = std::move(action)] {
+        hide();
+        action();
+    });
 }
 
 QString NoticeBar::notice() const

@@ -2,7 +2,10 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
+class QPushButton;
 
 namespace vantrell
 {
@@ -19,9 +22,12 @@ public:
     /// An empty text hides the bar.
     void setNotice(const QString &text);
     QString notice() const;
+    /// A button behind the notice, which puts the notice away.
+    void setAction(const QString &title, std::function<void()> action);
 
 private:
     QLabel *m_text;
+    QPushButton *m_action;
 };
 
 } // namespace vantrell

@@ -178,15 +178,12 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
 
 QWidget *TableDelegate::createPopUp(QWidget *parent, const QModelIndex &index) const
 {
-    const std::vector<PopUpItem> items = modelOf(index).popUpItems(index);
+    std::vector<PopUpItem> items = modelOf(index).popUpItems(index);
     if (items.empty())
         return nullptr;
-    auto *list = new PopUpCell(parent);
-    for (const PopUpItem &item : items)
-        list->addItem(item.icon, item.title);
+    auto *list = new PopUpCell(std::move(items), parent);
     list->setCurrentIndex(index.data(Qt::EditRole).toInt());
     list->setMaxVisibleItems(20);
-    list->view()->setMinimumWidth(list->sizeHint().width());
     auto *self = const_cast<TableDelegate *>(this);
     connect(list, &PopUpCell::chosen, self, [self, list] {
         Q_EMIT self->commitData(list);

@@ -204,7 +204,6 @@ private Q_SLOTS:
         QCOMPARE(window->pane(Tab::Markers).selectedRows().size(), std::size_t(24));
         QVERIFY(trigger(*window, QStringLiteral("Media")));
         QVERIFY(!trigger(*window, QStringLiteral("Remove…")));
-        QVERIFY(!trigger(*window, QStringLiteral("Print…")));
         for (QAction *const action : actionsOf(*window)) {
             if (!action->isEnabled() && action->isVisible() &&
                 action->text().contains(QStringLiteral("Cut Pro Project")))

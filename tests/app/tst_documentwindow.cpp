@@ -1,6 +1,7 @@
 #include "WindowTest.h"
 
 #include "document/TableUpdates.h"
+#include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/QVTableView.h"
 #include "markers/MarkerKeys.h"
@@ -12,11 +13,13 @@
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
+#include <QCheckBox>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -555,6 +558,55 @@ private Q_SLOTS:
         QCOMPARE(m_window->selectedTab(), Tab::Markers);
         QCOMPARE(statusOf(*m_window), QStringLiteral("26 markers. 2 of 3 markers imported."));
         QVERIFY(!m_window->isBusy());
+    }
+
+    void listsMarkersUnderTheirOwnOwners()
+    {
+        m_path = m_home->addFile(QStringLiteral("owners.xml"),
+                                 "<xmeml><sequence><media><video><track><clipitem><name>A</name><marker/>"
+                                 "</clipitem><clipitem><name>B</name><marker/></clipitem></track></video>"
+                                 "</media></sequence></xmeml>");
+        openSample();
+        m_window->toolbarMarkers();
+        MyDocument &document = *m_window->document();
+        const auto owners = [&document] {
+            QStringList names;
+            for (const RowRecordPtr &marker : document.markerArray())
+                names.append(marker->get(MarkerKey::clipName));
+            return names;
+        };
+        const auto notice = [this]() -> NoticeBar * {
+            for (NoticeBar *bar : m_window->findChildren<NoticeBar *>()) {
+                if (bar->notice().contains(QStringLiteral("than their own")))
+                    return bar;
+            }
+            return nullptr;
+        };
+        const QStringList byPosition = owners();
+        QVERIFY(notice());
+        QVERIFY2(notice()->notice().startsWith(QStringLiteral("1 of 2 markers is listed")),
+                 qPrintable(notice()->notice()));
+        auto *const box = m_window->pane(Tab::Markers).findChild<QCheckBox *>();
+        QVERIFY(!box->isChecked());
+        QTest::mouseClick(notice()->findChild<QPushButton *>(), Qt::LeftButton);
+        QTRY_VERIFY(!m_window->isBusy() && owners() != byPosition);
+        QVERIFY(box->isChecked() && !notice());
+        QCOMPARE(owners(), QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 2);
+        QVERIFY(!m_window->isWindowModified());
+        // The next window lists the same way.
+        DocumentWindow second(*m_defaults);
+        QVERIFY(second.open(m_path));
+        QTRY_COMPARE(second.state(), DocumentWindow::State::Ready);
+        QStringList inSecond;
+        for (const RowRecordPtr &marker : second.document()->markerArray())
+            inSecond.append(marker->get(MarkerKey::clipName));
+        QCOMPARE(inSecond, owners());
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+        QTRY_VERIFY(!m_window->isBusy() && owners() == byPosition);
+        QTRY_VERIFY(notice());
+        QTRY_VERIFY(!second.isBusy());
+        QCOMPARE(second.document()->markerArray().at(1)->get(MarkerKey::clipName), byPosition.at(1));
     }
 
     void sortsWhatAnImportHasAdded()

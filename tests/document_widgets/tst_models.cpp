@@ -155,6 +155,19 @@ void TestModels::offerClipsOfTheRow()
                               QStringLiteral("Küste bei Nacht (still)"), QStringLiteral("Harbour Wide")};
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Opening"), clip).size() > 10);
+    // What was removed keeps its place but cannot be chosen.
+    const QModelIndex cell = m_project->cell(
+        Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
+        clip);
+    MyDocument &document = model.document();
+    document.xmlDoc()->remove(
+        (*document.clipMenuForSequence((*document.sequenceMenu())[1].element))[2].element);
+    std::vector<bool> enabled;
+    for (const PopUpItem &item : model.popUpItems(cell))
+        enabled.push_back(item.isEnabled);
+    QCOMPARE(std::vector<bool>(enabled.begin(), enabled.begin() + 4),
+             std::vector<bool>({true, true, false, true}));
+    QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Tide turns"), clip).isEmpty());
     QCOMPARE(titles(QStringLiteral("Tide turns"), QStringLiteral("sequence")),
              (QStringList{QStringLiteral("(none)"), QStringLiteral("Trailer selects"),
