@@ -1,5 +1,6 @@
 #include "document/widgets/MarkerTableModel.h"
 #include "document/widgets/MediaTableModel.h"
+#include "markers/MarkerKeys.h"
 #include "tests/document_widgets/PaneProject.h"
 
 #include <QAbstractItemModelTester>
@@ -160,8 +161,9 @@ void TestModels::offerClipsOfTheRow()
         Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
         clip);
     MyDocument &document = model.document();
-    document.xmlDoc()->remove(
-        (*document.clipMenuForSequence((*document.sequenceMenu())[1].element))[2].element);
+    const auto sequence = std::size_t(model.recordAt(cell.row())->get(MarkerKey::sequenceIndex));
+    const MenuPtr clips = document.clipMenuForSequence(document.sequenceMenu()->at(sequence).element);
+    document.xmlDoc()->remove(clips->at(2).element);
     std::vector<bool> enabled;
     for (const PopUpItem &item : model.popUpItems(cell))
         enabled.push_back(item.isEnabled);
