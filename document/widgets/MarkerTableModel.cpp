@@ -13,7 +13,7 @@ namespace
 {
 
 /// The places of the columns in markerColumns; those of custom fields follow.
-enum Column { Color, Name, Comment, In, Out, Sequence, Clip, Chapter, Compression, Scoring };
+enum MarkerColumn { Color, Name, Comment, In, Out, Sequence, Clip, Chapter, Compression, Scoring };
 
 const TypedKey<std::int64_t> &flagKey(int column)
 {

@@ -24,7 +24,7 @@ namespace
 
 constexpr int roundMs = 50; // of waiting for an event
 constexpr int windowSize = 10;
-const QString sourceScript = QStringLiteral("document.body.innerHTML");
+const QString bodySourceScript = QStringLiteral("document.body.innerHTML");
 
 /// Dispatches events until `isDone` holds.
 template <typename Predicate>
@@ -151,7 +151,7 @@ QString QVPrint::htmlSource()
         QString text;
     };
     const auto answer = std::make_shared<Answer>();
-    m_webView->run(sourceScript, [answer](const QVariant &value) {
+    m_webView->run(bodySourceScript, [answer](const QVariant &value) {
         answer->isThere = true;
         answer->text = value.toString();
     });

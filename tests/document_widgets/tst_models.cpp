@@ -160,8 +160,9 @@ void TestModels::offerClipsOfTheRow()
         Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
         clip);
     MyDocument &document = model.document();
-    document.xmlDoc()->remove(
-        (*document.clipMenuForSequence((*document.sequenceMenu())[1].element))[2].element);
+    const auto sequence = std::size_t(model.recordAt(cell.row())->get(MarkerKey::sequenceIndex));
+    const MenuPtr clips = document.clipMenuForSequence(document.sequenceMenu()->at(sequence).element);
+    document.xmlDoc()->remove(clips->at(2).element);
     std::vector<bool> enabled;
     for (const PopUpItem &item : model.popUpItems(cell))
         enabled.push_back(item.isEnabled);
