@@ -76,7 +76,7 @@ void DocumentWindow::tellOfReport(const QString &what, const QString &reason)
 void DocumentWindow::printDocument()
 {
     commitEditing();
-    if (!mayReport())
+    if (refusesAfterFailedLoad() || !mayReport())
         return;
     const Tab tab = selectedTab();
     ReportGenerator &report = m_workbench->reportGenerator();
@@ -174,7 +174,7 @@ PrintOperation *DocumentWindow::printOperationWithSettings(const PropertyListDic
 void DocumentWindow::exportReport()
 {
     commitEditing();
-    if (!mayReport())
+    if (refusesAfterFailedLoad() || !mayReport())
         return;
     const Tab tab = selectedTab();
     ReportGenerator &report = m_workbench->reportGenerator();

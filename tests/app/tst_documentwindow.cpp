@@ -228,7 +228,8 @@ private Q_SLOTS:
     void refusesWithTheReasonAfterAFailedLoad_data()
     {
         QTest::addColumn<QString>("command");
-        for (const char *const command : {"save", "save as", "import", "export", "export to", "sequences"})
+        for (const char *const command :
+             {"save", "save as", "import", "export", "export to", "sequences", "print", "report"})
             QTest::newRow(command) << QString::fromLatin1(command);
     }
     void refusesWithTheReasonAfterAFailedLoad()
@@ -246,7 +247,9 @@ private Q_SLOTS:
             {QStringLiteral("import"), [this] { m_window->importAvidLocators(); }},
             {QStringLiteral("export"), [this] { m_window->exportFCPMarkers(); }},
             {QStringLiteral("export to"), [&] { m_window->exportMarkerList(list, MarkerListFormat::fcp); }},
-            {QStringLiteral("sequences"), [this] { m_window->exportChangedSequences(); }}};
+            {QStringLiteral("sequences"), [this] { m_window->exportChangedSequences(); }},
+            {QStringLiteral("print"), [this] { m_window->printDocument(); }},
+            {QStringLiteral("report"), [this] { m_window->exportReport(); }}};
         commands[command]();
         QTRY_VERIFY(visibleBox());
         QVERIFY(!visiblePanel());
