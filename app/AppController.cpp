@@ -3,6 +3,7 @@
 #include "app/AboutPanel.h"
 #include "app/ApplicationWatch.h"
 #include "app/MainMenu.h"
+#include "app/QuitSequence.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
@@ -11,6 +12,8 @@
 #include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/TableIcons.h"
+#include "media/AnswerWithin.h"
+#include "support/FileUtilities.h"
 #include "support/PropertyList.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -40,11 +43,48 @@ const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 const QString logQCKey = QStringLiteral("logQC");
 
 constexpr int startupActionMs = 1000;
-constexpr int cascadeStep = 28; // pixels
+constexpr std::chrono::milliseconds patience{500}; // with a volume that may have gone
+constexpr int cascadeStep = 28;                    // pixels
 
 QString qcListPath()
 {
     return StandardFolders::preferences() + QStringLiteral("/com.orvandel.qc.plist");
+}
+
+/// Without "." and "..", which lead on from where a link leads to.
+QString absolutePath(const QString &path)
+{
+    const QFileInfo file(QDir::current().absoluteFilePath(path));
+    const bool goesUp = file.filePath().contains(QStringLiteral("/../"));
+    const QString folder = goesUp ? QFileInfo(file.path()).canonicalFilePath() : QString();
+    return folder.isEmpty() ? QDir::cleanPath(file.filePath()) : QDir(folder).filePath(file.fileName());
+}
+
+void bringToFront(QWidget &window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+/// The window whose file the path leads to; null when none does, or a volume does not answer.
+DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *> &windows)
+{
+    QStringList files;
+    for (DocumentWindow *const window : windows) {
+        if (window->path() == path)
+            return window;
+        files.append(window->path());
+    }
+    const auto find = [path, files] {
+        qsizetype place = 0;
+        while (place < files.size() && !FileUtilities::isSameFile(path, files[place]))
+            ++place;
+        return place;
+    };
+    const qsizetype place = answerWithin<qsizetype>(patience, find).value_or(files.size());
+    return place < files.size() ? windows[std::size_t(place)] : nullptr;
 }
 
 PropertyListDictionary qcList()
@@ -142,6 +182,17 @@ void AppController::openFiles(const QStringList &paths)
         applicationOpenFile(path);
 }
 
+void AppController::startedAgain(const QStringList &paths)
+{
+    openFiles(paths);
+    if (!paths.isEmpty())
+        return;
+    if (DocumentWindow *const window = currentWindow())
+        bringToFront(*window);
+    else
+        bringToFront(*m_startWindow);
+}
+
 void AppController::openRecentFile(const QString &path)
 {
     if (m_recentFiles->isFCPProject(path))
@@ -178,12 +229,9 @@ bool AppController::applicationOpenFile(const QString &path)
 /// The same file may be open twice, once as it is on the disk and once as Final Cut Pro holds it.
 bool AppController::openDocument(const QString &path, const QString &typeName)
 {
-    const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    const QString absolute = absolutePath(path);
     if (DocumentWindow *const open = windowOf(absolute, typeName)) {
-        open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
-        open->show();
-        open->raise();
-        open->activateWindow();
+        bringToFront(*open);
         return true;
     }
     auto *const window = new DocumentWindow(m_defaults);
@@ -193,7 +241,8 @@ bool AppController::openDocument(const QString &path, const QString &typeName)
     connect(window, &DocumentWindow::loadFailed, m_recentFiles.get(), &RecentFiles::forgetIfGone);
     connect(window, &DocumentWindow::filesDropped, this, &AppController::openFiles, Qt::QueuedConnection);
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
-    connect(window, &DocumentWindow::closeCancelled, this, [this] { m_quitting = false; });
+    connect(window, &DocumentWindow::closeCancelled, this, &AppController::stayOpen);
+    window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
     placeWindow(*window);
     window->show();
     m_startWindow->hide();
@@ -208,13 +257,23 @@ void AppController::noteLoaded(DocumentWindow &window)
 DocumentWindow *AppController::windowOf(const QString &path, const QString &typeName) const
 {
     const bool isProject = typeName == DocumentType::finalCutProProject;
+    std::vector<DocumentWindow *> windows;
     for (DocumentWindow *const window : documentWindows()) {
         const bool isOpenAsProject = window->typeName() == DocumentType::finalCutProProject;
-        if (window->path() == path && isOpenAsProject == isProject &&
-            window->state() != DocumentWindow::State::Failed)
-            return window;
+        if (isOpenAsProject == isProject && window->state() != DocumentWindow::State::Failed)
+            windows.push_back(window);
     }
-    return nullptr;
+    return windowAt(path, windows);
+}
+
+bool AppController::isOpenElsewhere(const QString &path, const DocumentWindow &window) const
+{
+    std::vector<DocumentWindow *> others;
+    for (DocumentWindow *const other : documentWindows()) {
+        if (other != &window && other->state() != DocumentWindow::State::Failed)
+            others.push_back(other);
+    }
+    return windowAt(path, others) != nullptr;
 }
 
 /// Moves the window off the corner where another one stands.
@@ -269,14 +328,23 @@ void AppController::quit()
     if (m_quitting)
         return;
     m_quitting = true;
-    closeNextWindow();
+    m_quit = std::make_unique<QuitSequence>([this] { return documentWindows(); }, nullptr);
+    connect(m_quit.get(), &QuitSequence::settled, this, &AppController::closeNextWindow,
+            Qt::QueuedConnection);
+    connect(m_quit.get(), &QuitSequence::cancelled, this, &AppController::stayOpen);
+    m_quit->start();
+}
+
+void AppController::stayOpen()
+{
+    m_quitting = false;
 }
 
 void AppController::closeNextWindow()
 {
     const std::vector<DocumentWindow *> open = documentWindows();
     if (!open.empty()) {
-        open.front()->close(); // and then the next one, when it has closed
+        open.front()->closeSettled(); // and then the next one, when it has closed
         return;
     }
     QVAlert::closeAll();

@@ -19,6 +19,7 @@ class AboutPanel;
 class ApplicationWatch;
 class DocumentWindow;
 class QVFCPProjectLoader;
+class QuitSequence;
 class RecentFiles;
 class StartWindow;
 class UserDefaults;
@@ -46,6 +47,8 @@ public:
     /// that could be tried; what is wrong with the file its window says.
     bool applicationOpenFile(const QString &path);
     void openFiles(const QStringList &paths);
+    /// The program was started again: opens the files, or comes to the front when there are none.
+    void startedAgain(const QStringList &paths);
     /// Opens a file of the list of recent ones as what it was opened as.
     void openRecentFile(const QString &path);
     /// Performs the start-up action; the program makes no untitled documents, so this is false.
@@ -68,7 +71,8 @@ public Q_SLOTS:
     /// The list of the projects that are open in Final Cut Pro.
     void openFCPProject();
     void sendToFCP();
-    /// Closes every window, with the questions that this takes, and ends the program.
+    /// Asks about all changed projects, then closes every window and ends the program. When the user gives
+    /// that up every window stays.
     void quit();
 
     void prefsToggleQCLogging(bool on);
@@ -88,9 +92,11 @@ private:
     Result<void> openProject(const QString &path);
     void noteLoaded(DocumentWindow &window);
     DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
+    bool isOpenElsewhere(const QString &path, const DocumentWindow &window) const;
     void placeWindow(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();
+    void stayOpen();
     void gatherLogsInto(const QString &folder);
     QString startFolder() const;
 
@@ -103,6 +109,7 @@ private:
     QPointer<AboutPanel> m_aboutPanel;
     QPointer<QVFCPProjectLoader> m_projectLoader;
     bool m_quitting = false;
+    std::unique_ptr<QuitSequence> m_quit;
 };
 
 } // namespace vantrell

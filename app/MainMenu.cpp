@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <optional>
 #include <utility>
 
 namespace vantrell
@@ -97,9 +98,9 @@ void MainMenu::makeFileMenu()
                             &DocumentWindow::exportChangedSequences);
     m_send = add(m_fileMenu, QString(), {}, m_document, &DocumentWindow::sendToFCP);
     m_fileMenu->addSeparator();
-    QAction *const print = m_fileMenu->addAction(tr("&Print…"));
-    print->setEnabled(false);
-    print->setToolTip(tr("This version cannot print yet."));
+    m_reportActions << add(m_fileMenu, tr("Expor&t Report…"), {}, m_document, &DocumentWindow::exportReport)
+                    << add(m_fileMenu, tr("&Print…"), QKeySequence::Print, m_document,
+                           &DocumentWindow::printDocument);
     m_fileMenu->addSeparator();
     QAction *const quit =
         add(m_fileMenu, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &m_controller, &AppController::quit);
@@ -188,13 +189,13 @@ void MainMenu::fillSortMenu()
 {
     m_sortMenu->clear();
     TabPane &pane = m_document->pane(m_document->selectedTab());
-    const auto &sorted = pane.sortDescriptors();
+    const std::optional<SortDescriptor> sort = pane.shownSort();
     for (const QString &column : pane.columns()) {
         QString title = pane.model().columnName(pane.model().columnOf(column));
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_sortMenu->addAction(title);
         action->setCheckable(true);
-        action->setChecked(!sorted.empty() && sorted.front().column == column);
+        action->setChecked(sort && sort->column == column);
         connect(action, &QAction::triggered, &pane, [&pane, column] { pane.sortBy(column); });
     }
 }
@@ -257,6 +258,8 @@ void MainMenu::validateFileMenu()
     m_exportSequences->setToolTip(m_exportSequences->isEnabled()
                                       ? QString()
                                       : tr("No sequence has been changed since the project was opened."));
+    for (QAction *const action : m_reportActions)
+        action->setEnabled(m_document && m_document->mayReport());
     m_importMenu->setEnabled(m_document && !isBusy);
     m_exportMenu->setEnabled(m_document && !isBusy);
 }

@@ -60,6 +60,7 @@ private:
     QAction *m_exportSequences = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_qcLogging = nullptr;
+    QList<QAction *> m_reportActions;   // printing and its like
     QList<QAction *> m_documentActions; // need a document that shows its panes
     QList<QAction *> m_paneActions;     // by tab
 };

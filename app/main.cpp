@@ -1,9 +1,11 @@
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/SingleInstance.h"
 #include "support/BackgroundWork.h"
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
 
+#include <QDir>
 #include <QStringList>
 #include <QWindow>
 
@@ -55,12 +57,23 @@ void endOnFatalMessage(QtMsgType type, const QMessageLogContext &, const QString
         endWithoutDisplay();
 }
 
-int run(vantrell::Application &application)
+/// The files to open, by paths that hold in every process.
+QStringList filesOf(const QStringList &arguments)
+{
+    QStringList paths;
+    for (const QString &argument : arguments)
+        paths.append(QDir::current().absoluteFilePath(argument));
+    return paths;
+}
+
+int run(vantrell::Application &application, vantrell::SingleInstance &instance, const QStringList &paths)
 {
     vantrell::AppController::startLog();
     vantrell::AppController controller(vantrell::UserDefaults::standard());
     QObject::connect(&application, &vantrell::Application::openFileRequested, &controller,
                      &vantrell::AppController::applicationOpenFile);
+    QObject::connect(&instance, &vantrell::SingleInstance::filesPassed, &controller,
+                     &vantrell::AppController::startedAgain);
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &controller,
                      [&controller](Qt::ApplicationState state) {
                          const QWindowList windows = QGuiApplication::topLevelWindows();
@@ -70,7 +83,7 @@ int run(vantrell::Application &application)
                          if (state == Qt::ApplicationActive && isBare)
                              controller.applicationShouldOpenUntitledFile();
                      });
-    controller.openFiles(QCoreApplication::arguments().mid(1));
+    controller.openFiles(paths);
     controller.applicationDidFinishLaunching();
     return QCoreApplication::exec();
 }
@@ -87,7 +100,11 @@ int main(int argc, char **argv)
     vantrell::Application application(argc, argv);
     qInstallMessageHandler(handler);
 
-    const int status = run(application);
+    const QStringList paths = filesOf(QCoreApplication::arguments().mid(1));
+    vantrell::SingleInstance instance;
+    if (instance.passOn(paths))
+        return EXIT_SUCCESS;
+    const int status = run(application, instance, paths);
     // Taking a large project apart is no reason to keep the process.
     if (!vantrell::BackgroundWork::waitForAll(patienceAtEnd)) {
         vantrell::QVLog::willTerminate();

@@ -5,10 +5,75 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <deque>
+#include <sstream>
 
 namespace vantrell::cli
 {
+
+namespace
+{
+
+/// Stands in front of a value that begins with a minus sign, so that the library takes it for text.
+constexpr char mark = '\x01';
+
+bool beginsWithMinus(const std::string &argument)
+{
+    return argument.size() > 1 && argument[0] == '-';
+}
+
+/// Such as "-12" and "-1..", which is no option's name.
+bool isNegativeNumber(const std::string &argument)
+{
+    return beginsWithMinus(argument) && std::string("0123456789.,:;").find(argument[1]) != std::string::npos;
+}
+
+std::string withoutMark(std::string value)
+{
+    if (!value.empty() && value.front() == mark)
+        value.erase(0, 1);
+    return value;
+}
+
+/// The subcommand of that name; the application itself when it has none.
+const CLI::App *subcommandNamed(const CLI::App &app, const std::string &name)
+{
+    const auto found =
+        app.get_subcommands([&name](const CLI::App *subcommand) { return subcommand->get_name() == name; });
+    return found.empty() ? &app : found.front();
+}
+
+/// Puts the mark in front of negative numbers, and of what follows an option that takes a value and is no
+/// option's name itself.
+std::vector<std::string> markedValues(const CLI::App &program, std::vector<std::string> arguments)
+{
+    const CLI::App *app = &program;
+    bool isValue = false; // of the option before
+    for (std::string &argument : arguments) {
+        if (argument == "--")
+            break;
+        const CLI::Option *option = beginsWithMinus(argument)
+                                        ? app->get_option_no_throw(argument.substr(0, argument.find('=')))
+                                        : nullptr;
+        if (isNegativeNumber(argument) || (isValue && !option && beginsWithMinus(argument)))
+            argument.insert(argument.begin(), mark);
+        else if (!isValue)
+            app = subcommandNamed(*app, argument);
+        isValue = option && option->get_items_expected_max() > 0 && argument.find('=') == std::string::npos;
+    }
+    return arguments;
+}
+
+/// What the library says, as the arguments were typed.
+void printWithoutMarks(std::string text, std::FILE *stream)
+{
+    text.erase(std::remove(text.begin(), text.end(), mark), text.end());
+    std::fwrite(text.data(), 1, text.size(), stream);
+    std::fflush(stream);
+}
+
+} // namespace
 
 /// A subcommand of the library with what its handles need.
 struct Subcommand::Node {
@@ -25,18 +90,18 @@ struct CommandLine::Parser {
 
 void Subcommand::value(const char *name, std::string &target, const std::string &help, Need need)
 {
-    m_node->app.add_option(name, target, help)->required(need == Need::Required);
+    m_node->app.add_option(name, target, help)->transform(withoutMark)->required(need == Need::Required);
 }
 
 void Subcommand::value(const char *name, std::optional<std::string> &target, const std::string &help)
 {
-    m_node->app.add_option(name, target, help);
+    m_node->app.add_option(name, target, help)->transform(withoutMark);
 }
 
 void Subcommand::values(const char *name, std::vector<std::string> &target, const std::string &help,
                         Need need)
 {
-    m_node->app.add_option(name, target, help)->required(need == Need::Required);
+    m_node->app.add_option(name, target, help)->transform(withoutMark)->required(need == Need::Required);
 }
 
 void Subcommand::choice(const char *name, std::string &target, const std::vector<std::string> &choices,
@@ -89,9 +154,16 @@ int CommandLine::run(const std::vector<std::string> &arguments)
 {
     try {
         // The parser takes the arguments from the back.
-        m_parser->app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        std::vector<std::string> marked = markedValues(m_parser->app, arguments);
+        std::reverse(marked.begin(), marked.end());
+        m_parser->app.parse(std::move(marked));
     } catch (const CLI::ParseError &error) {
-        return m_parser->app.exit(error) == 0 ? Done : WrongUsage;
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = m_parser->app.exit(error, out, err);
+        printWithoutMarks(out.str(), stdout);
+        printWithoutMarks(err.str(), stderr);
+        return status == 0 ? Done : WrongUsage;
     } catch (const std::exception &error) {
         complain(QString::fromLocal8Bit(error.what()));
         return Failed;

@@ -4,9 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <string>
-#include <vector>
-
 namespace vantrell::cli
 {
 
@@ -16,9 +13,6 @@ bool print(const QByteArray &bytes);
 void complain(const QString &message);
 /// The message on standard error and the status for wrong usage.
 int refuseUsage(const QString &message);
-
-QString fromArgument(const std::string &argument);
-QStringList fromArguments(const std::vector<std::string> &arguments);
 
 /// The lines of standard input without their line ends.
 QStringList readLines();

@@ -5,6 +5,7 @@
 #include "cli/Numbers.h"
 #include "cli/ProjectOutput.h"
 #include "cli/RecordJson.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <nlohmann/json.hpp>
@@ -26,6 +27,7 @@ struct EditOptions {
     std::string outputBin;
     bool yes = false;
     bool quiet = false;
+    bool ownOwners = false;
 };
 
 const QString standardStream = QStringLiteral("-");
@@ -62,21 +64,22 @@ bool writeBin(MyDocument &document, const QString &path)
 
 int edit(const EditOptions &options)
 {
-    const QString file = withoutMark(fromArgument(options.file));
-    const QString output = withoutMark(fromArgument(options.output));
-    const QString outputBin = withoutMark(fromArgument(options.outputBin));
+    const QString file = fromArgument(options.file);
+    const QString output = fromArgument(options.output);
+    const QString outputBin = fromArgument(options.outputBin);
     const bool collides = !outputBin.isEmpty() && (isSameFile(outputBin, file) ||
                                                    (!output.isEmpty() && isSameFile(outputBin, output)));
     if (collides)
         return refuseUsage(QStringLiteral("--output-bin: the bin needs a place of its own."));
     const auto presenter = std::make_shared<HeadlessAlertPresenter>(options.yes);
     QVAlert::setPresenter(presenter);
-    const Result<EditScript> script = readEditScriptFile(withoutMark(fromArgument(options.script)));
+    const Result<EditScript> script = readEditScriptFile(fromArgument(options.script));
     if (!script) {
         complain(script.message());
         return Failed;
     }
     ProjectSession session(Workbench::Inventories::All);
+    session.setOwnOwners(options.ownOwners);
     if (!session.open(file) || !EditRun(session, *presenter).apply(script.value()))
         return Failed;
     if (!output.isEmpty() && !writeProject(session.document(), output))
@@ -99,8 +102,9 @@ void addEditCommand(CommandLine &program)
     command.value("-o", options->output, "The project to write; \"-\" is standard output");
     command.value("--output-bin", options->outputBin,
                   "The document of the changed sequences to write; \"-\" is standard output");
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
     command.flag("--quiet", options->quiet, "Print no result");
+    command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return edit(*options); });
 }
 

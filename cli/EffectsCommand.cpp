@@ -8,6 +8,7 @@
 #include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 
@@ -76,14 +77,14 @@ int effects(const EffectsOptions &options)
         sort.push_back(*descriptor);
     }
     ProjectSession session(Workbench::Inventories::All);
-    if (!session.open(withoutMark(fromArgument(options.file))))
+    if (!session.open(fromArgument(options.file)))
         return Failed;
     session.setSortDescriptors(Tab::Effects, sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Effects;
     view.effectType = int(std::find(typeNames.begin(), typeNames.end(), options.type) - typeNames.begin());
     view.effectShowDefaults = options.showDefaults;
-    view.effectSearch = withoutMark(fromArgument(options.search));
+    view.effectSearch = fromArgument(options.search);
     session.workbench().effectInventory().populateFilteredEffectData();
     const QByteArray output =
         options.json ? effectsAsJson(session) : effectsAsTable(session.document().rowsOnShow(Tab::Effects));

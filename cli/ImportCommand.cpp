@@ -3,6 +3,7 @@
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/HeadlessAlertPresenter.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <memory>
@@ -30,12 +31,19 @@ int importMarkers(const ImportOptions &options)
         return Failed;
     const MarkerListImporter &importer = session.workbench().markerListImporter();
     const QString format = fromArgument(options.format);
-    const bool isImported =
-        importer.showMarkerListOpenDialog(format) &&
-        importer.markerOpenDialogDidEnd(fromArguments(options.lists), MarkerListPanel::accepted, format);
-    if (!isImported)
+    if (!importer.showMarkerListOpenDialog(format))
         return Failed;
-    return writeProject(session.document(), fromArgument(options.output)) ? Done : Failed;
+    const auto imported =
+        importer.markerOpenDialogDidEnd(fromArguments(options.lists), MarkerListPanel::accepted, format);
+    if (!imported || imported->next == 0)
+        return Failed;
+    for (const MarkerListImporter::Rejected &rejected : imported->rejected)
+        complain(rejected.text());
+    const bool isWritten =
+        imported->added > 0 && writeProject(session.document(), fromArgument(options.output));
+    if (isWritten || imported->added == 0)
+        complain(QStringLiteral("%1 of %2 rows added").arg(imported->added).arg(imported->next));
+    return isWritten ? Done : Failed;
 }
 
 } // namespace
@@ -50,7 +58,7 @@ void addImportCommand(CommandLine &program)
                    Subcommand::Need::Required);
     command.value("-o", options->output, "The project to write; \"-\" is standard output",
                   Subcommand::Need::Required);
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
     command.onRun([options] { return importMarkers(*options); });
 }
 

@@ -7,6 +7,7 @@
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
+#include "support/ProgramArguments.h"
 
 #include <QFileInfo>
 
@@ -49,12 +50,12 @@ std::vector<RecordKey> listColumns(const MarkerListOptions &options)
 QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &columns)
 {
     QStringList titles;
-    for (const RecordKey column : columns)
+    for (const RecordKey &column : columns)
         titles.append(column.text());
     TextTable table(titles);
     for (const RowRecordPtr &row : rows) {
         QStringList cells;
-        for (const RecordKey column : columns) {
+        for (const RecordKey &column : columns) {
             const RecordValue *value = row->find(column);
             cells.append(value ? plainText(*value) : QString());
         }
@@ -94,7 +95,7 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
     if (hasOptionsOfFcpx && options.format != "fcpx")
         return refuseUsage(QStringLiteral("--seconds, --strip-duplicates, --all-storylines and "
                                           "--relative-hour go with --format fcpx only."));
-    const QString hourText = withoutMark(fromArgument(options.relativeHour));
+    const QString hourText = fromArgument(options.relativeHour);
     const std::optional<quint64> hour = wholeNumber(hourText);
     if (!hour)
         return refuseUsage(QStringLiteral("--relative-hour: \"%1\" is no whole number.").arg(hourText));

@@ -8,11 +8,12 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerTableValues.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 
+#include <QSet>
 #include <memory>
-#include <unordered_set>
 
 namespace vantrell::cli
 {
@@ -25,6 +26,7 @@ struct MarkersOptions {
     std::optional<std::string> color;
     std::optional<std::string> sort;
     bool json = false;
+    bool ownOwners = false;
 };
 
 /// The colour index that the value of --color names.
@@ -55,7 +57,7 @@ QString markersCellText(const RowRecord &marker, RecordKey key)
         return marker.get(MarkerKey::sequenceName);
     if (key == MarkerKey::clip)
         return marker.get(MarkerKey::clipName);
-    for (const TypedKey<std::int64_t> flag :
+    for (const TypedKey<std::int64_t> &flag :
          {MarkerKey::chapter, MarkerKey::compression, MarkerKey::scoring}) {
         if (key == flag)
             return yesOrEmpty(marker, flag);
@@ -66,13 +68,16 @@ QString markersCellText(const RowRecord &marker, RecordKey key)
 /// The custom fields that the markers have, in the order in which they come.
 QStringList customFieldsOf(const RowList &markers)
 {
-    std::unordered_set<std::uint32_t> seen;
+    QSet<QString> seen;
     QStringList fields;
     for (const RowRecordPtr &marker : markers) {
         for (std::size_t i = 0; i < marker->size(); ++i) {
             const RecordKey key = marker->keyAt(i);
-            if (seen.insert(key.number()).second && key.text().startsWith(MarkerKey::customPrefix))
-                fields.append(key.text());
+            const QString text = key.isConstant() ? QString() : key.text();
+            if (text.startsWith(MarkerKey::customPrefix) && !seen.contains(text)) {
+                seen.insert(text);
+                fields.append(text);
+            }
         }
     }
     return fields;
@@ -93,7 +98,7 @@ QByteArray markersAsTable(const RowList &markers)
     TextTable table(titles);
     for (const RowRecordPtr &marker : markers) {
         QStringList cells;
-        for (const RecordKey column : columns)
+        for (const RecordKey &column : columns)
             cells.append(markersCellText(*marker, column));
         table.addRow(cells);
     }
@@ -130,7 +135,8 @@ int markers(const MarkersOptions &options)
         sort.push_back(*descriptor);
     }
     ProjectSession session(Workbench::Inventories::Markers);
-    if (!session.open(withoutMark(fromArgument(options.file))))
+    session.setOwnOwners(options.ownOwners);
+    if (!session.open(fromArgument(options.file)))
         return Failed;
     session.setSortDescriptors(Tab::Markers, sort);
     ViewState &view = session.document().viewState();
@@ -156,6 +162,7 @@ void addMarkersCommand(CommandLine &program)
                   "come in document order. Columns: " +
                       sortChoices(markerColumns) + ", QVCUSTOM_...");
     command.flag("--json", options->json, "Print one JSON document");
+    command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return markers(*options); });
 }
 

@@ -9,6 +9,7 @@
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "support/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 
@@ -42,7 +43,7 @@ int menuItemOfKind(const std::string &kind)
 /// The path of the drive menu's item; null for all drives.
 QString driveOf(const std::string &argument)
 {
-    QString drive = withoutMark(fromArgument(argument));
+    QString drive = fromArgument(argument);
     while (drive.size() > 1 && drive.endsWith(QLatin1Char('/')))
         drive.chop(1);
     return drive.isEmpty() ? QString() : drive;
@@ -97,7 +98,7 @@ int media(const MediaOptions &options)
         sort.push_back(*descriptor);
     }
     ProjectSession session(Workbench::Inventories::All);
-    if (!session.open(withoutMark(fromArgument(options.file))))
+    if (!session.open(fromArgument(options.file)))
         return Failed;
     session.setSortDescriptors(Tab::Media, sort);
     ViewState &view = session.document().viewState();

@@ -3,13 +3,6 @@
 namespace vantrell::cli
 {
 
-namespace
-{
-
-constexpr char mark = '\x01';
-
-} // namespace
-
 std::optional<quint64> wholeNumber(const QString &text)
 {
     if (text.isEmpty() || text.front().isSpace() || text.back().isSpace())
@@ -22,25 +15,6 @@ std::optional<quint64> wholeNumber(const QString &text)
     if (ok)
         return quint64(integer);
     return std::nullopt;
-}
-
-std::vector<std::string> markNegativeValues(const std::vector<std::string> &arguments)
-{
-    std::vector<std::string> marked = arguments;
-    for (std::string &argument : marked) {
-        if (argument == "--")
-            break;
-        const bool value = argument.size() > 1 && argument[0] == '-' &&
-                           std::string("0123456789.,:;").find(argument[1]) != std::string::npos;
-        if (value)
-            argument.insert(argument.begin(), mark);
-    }
-    return marked;
-}
-
-QString withoutMark(const QString &argument)
-{
-    return argument.startsWith(QLatin1Char(mark)) ? argument.sliced(1) : argument;
 }
 
 } // namespace vantrell::cli

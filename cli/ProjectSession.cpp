@@ -12,6 +12,12 @@ ProjectSession::ProjectSession(Workbench::Inventories inventories)
 
 ProjectSession::~ProjectSession() = default;
 
+void ProjectSession::setOwnOwners(bool own)
+{
+    m_comparesOwners = !own;
+    m_workbench->markerInventory().setOwnerListing(own ? OwnerListing::Own : OwnerListing::ByPosition);
+}
+
 bool ProjectSession::open(const QString &path)
 {
     return open(path, Workbench::typeNameForPath(path));
@@ -47,8 +53,17 @@ void ProjectSession::inventoriesFinished()
         complain(incompleteLists);
         m_loaded = false;
     }
+    if (m_comparesOwners)
+        tellOwners();
     m_ended = true;
     m_loop.quit();
+}
+
+void ProjectSession::tellOwners()
+{
+    const QString told = m_workbench->markerInventory().listedUnderOthersText();
+    if (!told.isEmpty())
+        complain(told + QStringLiteral("; --own-owners lists each under its own."));
 }
 
 } // namespace vantrell::cli

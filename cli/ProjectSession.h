@@ -11,12 +11,20 @@
 namespace vantrell::cli
 {
 
+/// What --own-owners does, for the help of the commands that have it.
+inline constexpr char ownOwnersHelp[] =
+    "List each marker under its own sequence and clip, not under those that share their position";
+
 /// One project opened for a command. Main thread.
 class ProjectSession : private HeadlessDocumentInterface
 {
 public:
     explicit ProjectSession(Workbench::Inventories inventories);
     ~ProjectSession() override;
+
+    /// To be called before open(): lists each marker under its own sequence and clip, or, by position, says
+    /// on standard error when that would make a difference.
+    void setOwnOwners(bool own);
 
     /// Loads the file and waits for it, inventories included. False, with a message on standard error,
     /// when there is no project then; a file that had to be repaired is opened with a message.
@@ -35,10 +43,12 @@ public:
 private:
     void loadFinished(bool loaded, const QString &message, const QString &notice) override;
     void inventoriesFinished() override;
+    void tellOwners();
 
     QEventLoop m_loop;
     bool m_loaded = false;
     bool m_ended = false;
+    bool m_comparesOwners = false;
     std::unique_ptr<Workbench> m_workbench;
 };
 

@@ -9,6 +9,7 @@
 #include "report/ReportGenerator.h"
 #include "report/ReportImages.h"
 #include "support/FileUtilities.h"
+#include "support/ProgramArguments.h"
 #include "support/UserDefaults.h"
 
 #include <QFile>
@@ -32,6 +33,7 @@ struct ReportOptions {
     std::string output;
     bool colorLabels = false;
     bool body = false;
+    bool ownOwners = false;
 };
 
 /// The table that the report is of, and what of it.
@@ -41,11 +43,6 @@ struct ReportChoice {
     std::optional<QStringList> selected; ///< identifiers; nothing for the first columns
     std::vector<std::size_t> rows;       ///< ascending; empty for all
 };
-
-QString argumentOf(const std::string &argument)
-{
-    return withoutMark(fromArgument(argument));
-}
 
 void setTable(ReportChoice &choice, const std::string &tab)
 {
@@ -139,11 +136,11 @@ int report(const ReportOptions &options)
 {
     ReportChoice choice;
     setTable(choice, options.tab);
-    if (options.columns && !setColumns(choice, argumentOf(*options.columns)))
+    if (options.columns && !setColumns(choice, fromArgument(*options.columns)))
         return refuseUsage(QStringLiteral("--columns: the report has no such column."));
-    if (options.rows && !setRows(choice, argumentOf(*options.rows)))
+    if (options.rows && !setRows(choice, fromArgument(*options.rows)))
         return refuseUsage(QStringLiteral("--rows: the rows are whole numbers, separated by commas."));
-    const QString output = argumentOf(options.output);
+    const QString output = fromArgument(options.output);
     QString printHelper;
     if (output.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
         printHelper = PrintHelper::find();
@@ -153,13 +150,15 @@ int report(const ReportOptions &options)
 
     ProjectSession session(choice.tab == Tab::Markers ? Workbench::Inventories::Markers
                                                       : Workbench::Inventories::All);
-    if (!session.open(argumentOf(options.file)))
+    if (choice.tab == Tab::Markers)
+        session.setOwnOwners(options.ownOwners);
+    if (!session.open(fromArgument(options.file)))
         return Failed;
     if (!showRows(session, choice))
         return fail(QStringLiteral("--rows: there is no such row."));
     UserDefaults settings(QString(), UserDefaults::Access::Volatile);
     if (options.title)
-        settings.setValue(QStringLiteral("projectTitle"), argumentOf(*options.title));
+        settings.setValue(QStringLiteral("projectTitle"), fromArgument(*options.title));
     settings.setValue(QStringLiteral("printColorLabels"), options.colorLabels ? 1 : 0);
     ReportGenerator generator(session.document(), session.workbench().markerPresets(), &settings,
                               ReportImages::standardFolder());
@@ -189,6 +188,7 @@ void addReportCommand(CommandLine &program)
     command.value("-o", options->output,
                   "The report to write, a PDF when its name ends in .pdf; \"-\" is standard output",
                   Subcommand::Need::Required);
+    command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return report(*options); });
 }
 

@@ -3,6 +3,7 @@
 #include "cli/EditRun.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
+#include "support/ProgramArguments.h"
 #include "support/QVAlert.h"
 
 #include <QEventLoop>
@@ -20,6 +21,7 @@ struct SendOptions {
     std::string script;
     bool toPremiere = false;
     bool yes = false;
+    bool ownOwners = false;
 };
 
 /// Sends as the window does and waits for the end of it. What the window would show stands on standard
@@ -43,16 +45,17 @@ int send(const SendOptions &options)
     QVAlert::setPresenter(presenter);
     EditScript operations;
     if (!options.script.empty()) {
-        Result<EditScript> script = readEditScriptFile(withoutMark(fromArgument(options.script)));
+        Result<EditScript> script = readEditScriptFile(fromArgument(options.script));
         if (!script) {
             complain(script.message());
             return Failed;
         }
         operations = std::move(script.value());
     }
-    const QString file = withoutMark(fromArgument(options.file));
+    const QString file = fromArgument(options.file);
     const auto inventories = operations.empty() ? Workbench::Inventories::None : Workbench::Inventories::All;
     ProjectSession session(inventories);
+    session.setOwnOwners(options.ownOwners);
     if (!session.open(file, Workbench::typeNameToSend(file)))
         return Failed;
     if (options.toPremiere)
@@ -73,7 +76,8 @@ void addSendCommand(CommandLine &program)
     command.value("--script", options->script,
                   "Operations to apply first, a JSON file; \"-\" is standard input");
     command.flag("--premiere", options->toPremiere, "Send the whole project to Premiere Pro");
-    command.flag("--yes", options->yes, "Answer questions with their default button");
+    command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
+    command.flag("--own-owners", options->ownOwners, ownOwnersHelp);
     command.onRun([options] { return send(*options); });
 }
 

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/Numbers.h"
+#include "support/ProgramArguments.h"
 #include "timecode/QVTimecode.h"
 
 #include <functional>
@@ -86,12 +87,12 @@ int run(const TimecodeOptions &options, bool startIsTimecode, const Printer &pri
     Parameters parameters;
     parameters.ntsc = options.ntsc;
     parameters.dropFrame = options.dropFrame;
-    const QString timebaseText = withoutMark(fromArgument(options.timebase));
+    const QString timebaseText = fromArgument(options.timebase);
     const std::optional<quint64> timebase = wholeNumber(timebaseText);
     if (!timebase)
         return refuseUsage(QStringLiteral("--timebase: \"%1\" is no whole number.").arg(timebaseText));
     parameters.timebase = qint64(*timebase);
-    const QString start = withoutMark(fromArgument(options.start));
+    const QString start = fromArgument(options.start);
     if (startIsTimecode) {
         parameters.startTimecode = start;
     } else if (!start.isEmpty()) {
@@ -101,8 +102,6 @@ int run(const TimecodeOptions &options, bool startIsTimecode, const Printer &pri
         parameters.startFrame = *frame;
     }
     QStringList values = fromArguments(options.values);
-    for (QString &value : values)
-        value = withoutMark(value);
     if (values.isEmpty())
         values = readLines();
     const std::optional<QStringList> lines = printer(parameters, values);

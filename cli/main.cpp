@@ -1,5 +1,4 @@
 #include "cli/Commands.h"
-#include "cli/Numbers.h"
 #include "support/HeadlessAlertPresenter.h"
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
@@ -31,7 +30,7 @@ int runProgram(int argc, char **argv)
     cli::addReportCommand(program);
     cli::addSendCommand(program);
     cli::addTimecodeCommand(program);
-    return program.run(cli::markNegativeValues({argv + 1, argv + argc}));
+    return program.run({argv + 1, argv + argc});
 }
 
 } // namespace

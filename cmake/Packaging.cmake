@@ -1,5 +1,6 @@
-# The Debian package: `cpack` in the build folder makes one of an optimised build with the window. Its
-# revision, and the time stamp of the files in it, are those of packaging/debian/changelog.
+# The Debian packages: `cpack` in the build folder makes them of an optimised build with the window, vantrell and,
+# where printing is built, vantrell-print. Their revision, and the time stamp of the files in them, are those of
+# packaging/debian/changelog.
 
 set(changelog "${PROJECT_SOURCE_DIR}/packaging/debian/changelog")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${changelog}")
@@ -33,15 +34,31 @@ The package holds the desktop program, vantrell, the command line,
 vantrell-cli, which works without a window system, and fcp-host, which stands
 in for the editing application.]])
 
+set(CPACK_DEBIAN_MAIN_PACKAGE_NAME vantrell)
+set(CPACK_DEBIAN_MAIN_DESCRIPTION "${CPACK_DEBIAN_PACKAGE_DESCRIPTION}")
+
 # The libraries come by themselves. The icons need a plug-in that is loaded by name, as does a session
 # without an X server, and files are opened through xdg-open.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_MAIN_PACKAGE_DEPENDS "libqt6svg6, xdg-utils")
+set(CPACK_DEBIAN_MAIN_PACKAGE_RECOMMENDS "qt6-wayland, vantrell-print")
+
+# The plug-in fits the program that it was built with. Printers are reached through lp.
+set(CPACK_DEBIAN_PRINT_PACKAGE_NAME vantrell-print)
+set(CPACK_DEBIAN_PRINT_PACKAGE_DEPENDS "vantrell (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(CPACK_DEBIAN_PRINT_PACKAGE_RECOMMENDS cups-client)
+set(CPACK_DEBIAN_PRINT_DESCRIPTION [[
+Vantrell shows film and video editors what an editing project holds. This
+package lets it print what its tabs list, with a preview, and make PDF files
+of it, also on machines without a display. It needs a web engine, which the
+other packages do without.]])
 
 set(CPACK_COMPONENTS_ALL cli desktop debian)
+if(VANTRELL_HAS_PRINT)
+    list(APPEND CPACK_COMPONENTS_ALL print print_debian)
+endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
@@ -50,3 +67,11 @@ set(CPACK_PROJECT_CONFIG_FILE "${PROJECT_SOURCE_DIR}/cmake/PackagingTime.cmake")
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/PackagingModes.cmake")
 set(CPACK_VANTRELL_CHANGELOG "${changelog}")
 include(CPack)
+cpack_add_component_group(main DESCRIPTION "media, effects and markers of editing projects")
+cpack_add_component_group(print DESCRIPTION "print reports of editing projects")
+foreach(component cli desktop debian)
+    cpack_add_component(${component} GROUP main)
+endforeach()
+foreach(component print print_debian)
+    cpack_add_component(${component} GROUP print)
+endforeach()

@@ -22,12 +22,28 @@ elseif(VANTRELL_SANITIZER STREQUAL "thread")
 else()
     message(FATAL_ERROR "VANTRELL_SANITIZER is \"${VANTRELL_SANITIZER}\"; known are \"\", \"address\" and \"thread\".")
 endif()
-# Tests run for as long as they take to compile: no build spends time on optimising them.
+# Tests run for as long as they take to compile: no build spends time on optimising them. Nor does a build for
+# tests alone on the code that JSON and the argument parser make of their templates.
 set(VANTRELL_TEST_OPTIMISATION $<$<CONFIG:Release>:-O1>)
+set(VANTRELL_JSON_OPTIMISATION "")
+set(VANTRELL_PARSER_OPTIMISATION -O1)
 if(VANTRELL_SANITIZER_FLAGS)
     set(VANTRELL_TEST_OPTIMISATION -O0)
+    set(VANTRELL_JSON_OPTIMISATION -O0)
+    set(VANTRELL_PARSER_OPTIMISATION -O0)
     target_compile_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
+endif()
+
+# The quicker linker where there is one, for programs that are never shipped.
+include(CheckLinkerFlag)
+check_linker_flag(CXX -fuse-ld=gold VANTRELL_HAS_GOLD)
+set(VANTRELL_TEST_LINKER "")
+if(VANTRELL_HAS_GOLD)
+    set(VANTRELL_TEST_LINKER -fuse-ld=gold)
+endif()
+if(VANTRELL_SANITIZER_FLAGS)
+    target_link_options(vantrell_common INTERFACE ${VANTRELL_TEST_LINKER})
 endif()
 
 # vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...] [PRECOMPILED set])
@@ -43,6 +59,9 @@ function(vantrell_library folder)
     endif()
     add_library(vantrell_${folder} STATIC ${ARG_SOURCES})
     target_precompile_headers(vantrell_${folder} REUSE_FROM vantrell_precompiled_${ARG_PRECOMPILED})
+    if(ARG_PRECOMPILED STREQUAL "json")
+        target_compile_options(vantrell_${folder} PRIVATE ${VANTRELL_JSON_OPTIMISATION})
+    endif()
     target_link_libraries(vantrell_${folder} PUBLIC vantrell_common ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
@@ -50,7 +69,7 @@ endfunction()
 # to run. Compiled by itself.
 function(vantrell_argument_parser source)
     set_source_files_properties("${source}" PROPERTIES
-        COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON SKIP_UNITY_BUILD_INCLUSION ON)
+        COMPILE_OPTIONS ${VANTRELL_PARSER_OPTIMISATION} SKIP_PRECOMPILE_HEADERS ON SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()
 
 # vantrell_program(<name> SOURCES ... LIBRARIES ...)
@@ -72,9 +91,10 @@ endfunction()
 
 # vantrell_test(<folder> <name> [LIBRARIES ...]) makes the Qt Test program tst_<name> from
 # tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
-# what LIBRARIES adds.
+# what LIBRARIES adds. SERIES: it tries random cases, of which tools/series runs more. SECONDS: how long it takes
+# under the thread sanitizer where that is long; such tests start first, so that no processor waits for the last one.
 function(vantrell_test folder name)
-    cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "SERIES" "SECONDS" "LIBRARIES" ${ARGN})
     set(set test)
     get_target_property(libraries vantrell_${folder} INTERFACE_LINK_LIBRARIES)
     if("Qt6::Widgets" IN_LIST libraries)
@@ -85,6 +105,7 @@ function(vantrell_test folder name)
     set_target_properties(tst_${name} PROPERTIES UNITY_BUILD OFF)
     vantrell_moc(tst_${name} "${source}" tst_${name}.moc)
     target_compile_options(tst_${name} PRIVATE ${VANTRELL_TEST_OPTIMISATION})
+    target_link_options(tst_${name} PRIVATE ${VANTRELL_TEST_LINKER})
     target_precompile_headers(tst_${name} REUSE_FROM vantrell_precompiled_${set})
     target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test Qt6::Network
         ${ARG_LIBRARIES})
@@ -92,4 +113,10 @@ function(vantrell_test folder name)
     set_tests_properties(${folder}/${name} PROPERTIES
         TIMEOUT 600
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
+    if(ARG_SECONDS)
+        set_tests_properties(${folder}/${name} PROPERTIES COST ${ARG_SECONDS})
+    endif()
+    if(ARG_SERIES)
+        set_tests_properties(${folder}/${name} PROPERTIES LABELS series)
+    endif()
 endfunction()

@@ -51,6 +51,9 @@ public:
     virtual void tableDidReload() = 0;
 
     virtual void setLabel(Label label, const QString &text) = 0;
+    /// Shows beside the tab's table, for a while, what was done or why nothing was; a clause without a full
+    /// stop.
+    virtual void showMessage(Tab tab, const QString &text) = 0;
 
     /// The menu of the pop-up cells in the marker table's "sequence" column.
     virtual void setSequenceMenu(const MenuPtr &menu) = 0;

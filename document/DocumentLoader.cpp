@@ -113,6 +113,9 @@ bool MyDocument::loadTree(const QString &typeName, const QUrl &url)
     }
     m_isFCPProject = isProject;
     m_isPremiereProject = false;
+    // Before it is read: what changes meanwhile has changed.
+    if (!isProject)
+        m_knownFile->note(url.toLocalFile(), FileStamp::ofPath(url.toLocalFile()));
     // A character beyond the basic plane comes as two references.
     Result<std::unique_ptr<XmlDocument>> parsed =
         isProject
@@ -139,7 +142,11 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
 {
     if (m_loadIsReported.exchange(true))
         return;
-    m_mainThread->runAndWait([&] { m_interface.loadFinished(loaded, message, notice); });
+    m_mainThread->runAndWait([&] {
+        if (!loaded)
+            m_loadFailure = message.isNull() ? QStringLiteral("") : message;
+        m_interface.loadFinished(loaded, message, notice);
+    });
 }
 
 void MyDocument::runInventories()

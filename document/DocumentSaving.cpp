@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 
+#include "support/FileUtilities.h"
 #include "support/QVAlert.h"
 #include "support/QVException.h"
 
@@ -32,9 +33,14 @@ Result<void> MyDocument::writeToURL(const QUrl &url, const QString &typeName)
     const Result<void> mayWrite = prepareSaving(url);
     if (!mayWrite)
         return mayWrite;
-    Result<void> outcome = Failure{notWritten};
-    guarded("-[MyDocument writeToURL:ofType:error:]", [&] { outcome = m_xmlDoc->save(url.toLocalFile()); });
-    return noteSaved(std::move(outcome));
+    m_savingCancelled = false;
+    const QString path = url.toLocalFile();
+    Result<void> saved = tryWriting(path);
+    while (!saved && saved.message() == SaveFailure::changedElsewhere && confirmOverwriting(path)) {
+        overwriteChangedFile();
+        saved = tryWriting(path);
+    }
+    return noteSaved(saved);
 }
 
 void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
@@ -48,9 +54,7 @@ void MyDocument::writeInBackground(const QUrl &url, const QString &typeName,
         return;
     m_savingCancelled = false;
     const auto outcome = std::make_shared<Result<void>>(Failure{notWritten});
-    const auto write = [this, outcome, path = url.toLocalFile()] {
-        *outcome = m_xmlDoc->save(path, &m_savingCancelled);
-    };
+    const auto write = [this, outcome, path = url.toLocalFile()] { *outcome = writeFile(path); };
     const auto ended = [this, outcome, done = std::move(done)] {
         if (!*outcome && m_savingCancelled)
             *outcome = Failure{SaveFailure::cancelled};
@@ -81,6 +85,46 @@ bool MyDocument::runInBackground(std::function<void()> work, std::function<void(
     return true;
 }
 
+/// As writeFile(), but an exception is a failure too.
+Result<void> MyDocument::tryWriting(const QString &path)
+{
+    Result<void> outcome = Failure{notWritten};
+    guarded("MyDocument::tryWriting", [&] { outcome = writeFile(path); });
+    return outcome;
+}
+
+/// On the thread that saves.
+Result<void> MyDocument::writeFile(const QString &path)
+{
+    std::optional<FileStamp> written;
+    const auto write = [this](QIODevice &device) { return m_xmlDoc->write(device, &m_savingCancelled); };
+    const auto mayReplace = [&](int descriptor) -> Result<void> {
+        if (m_savingCancelled)
+            return Failure{SaveFailure::cancelled};
+        m_changedFile = m_knownFile->changeAt(path);
+        if (m_changedFile)
+            return Failure{SaveFailure::changedElsewhere};
+        written = FileStamp::ofDescriptor(descriptor);
+        return {};
+    };
+    m_changedFile = m_knownFile->changeAt(path); // or all would be written in vain
+    if (m_changedFile)
+        return Failure{SaveFailure::changedElsewhere};
+    const Result<void> saved = FileUtilities::writeAtomically(path, write, mayReplace);
+    if (!saved)
+        return saved;
+    m_written = {path, written};
+    if (m_knownFile->isAt(path))
+        m_knownFile->note(path, written);
+    return saved;
+}
+
+void MyDocument::overwriteChangedFile()
+{
+    if (m_changedFile)
+        m_knownFile->accept(*m_changedFile);
+}
+
 /// Starts sending the document in place of saving it; a failure says why not.
 Result<void> MyDocument::startSending(std::function<void()> ended)
 {
@@ -97,8 +141,10 @@ Result<void> MyDocument::prepareSaving(const QUrl &url)
 {
     if (isSaving())
         return Failure{alreadySaving};
-    if (!m_xmlDoc)
-        return Failure{QStringLiteral("There is no project to save.")};
+    if (!m_xmlDoc) {
+        const QString reason = m_loadFailure.isEmpty() ? QString() : QLatin1Char(' ') + m_loadFailure;
+        return Failure{QStringLiteral("There is no project to save.") + reason};
+    }
     if (!confirmSavingRepaired(url.toLocalFile()))
         return Failure{SaveFailure::notOverwritten};
     if (isSaving()) // since the question was raised
@@ -115,6 +161,16 @@ Result<void> MyDocument::noteSaved(Result<void> saved)
     return saved;
 }
 
+bool MyDocument::refusesWhileSaving(const QString &alertTitle)
+{
+    if (!isSaving())
+        return false;
+    showAlert(alertTitle,
+              QStringLiteral("The project is being saved or sent and was left as it is. Please try "
+                             "again when that is over."));
+    return true;
+}
+
 bool MyDocument::confirmSavingRepaired(const QString &path)
 {
     if (!m_xmlDoc->wasRepaired() || m_fileIsOurs)
@@ -127,9 +183,20 @@ bool MyDocument::confirmSavingRepaired(const QString &path)
     if (!m_xmlDoc->loss().isEmpty())
         question.prepend(m_xmlDoc->loss() + QLatin1Char(' '));
     const int answer = QVAlert::alertSheetWithMessageText(
-        QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Save"),
-        QStringLiteral("Cancel"), QString(), question, m_interface.alertParent(), true);
-    return answer == AlertAnswer::Default;
+        QStringLiteral("This file was repaired when it was opened"), QStringLiteral("Cancel"),
+        QStringLiteral("Save"), QString(), question, m_interface.alertParent(), true);
+    return answer == AlertAnswer::Alternate;
+}
+
+bool MyDocument::confirmOverwriting(const QString &path)
+{
+    const int answer = QVAlert::alertSheetWithMessageText(
+        QStringLiteral("The file \"%1\" was changed by another program since it was opened").arg(path),
+        QStringLiteral("Cancel"), QStringLiteral("Overwrite"), QString(),
+        QStringLiteral(
+            "Overwriting the file loses what the other program saved. Do you want to overwrite it?"),
+        m_interface.alertParent(), true);
+    return answer == AlertAnswer::Alternate;
 }
 
 } // namespace vantrell

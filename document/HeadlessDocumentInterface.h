@@ -18,6 +18,7 @@ public:
     void tableWillReload() override {}
     void tableDidReload() override {}
     void setLabel(Label label, const QString &text) override { m_labels.insert(label, text); }
+    void showMessage(Tab, const QString &) override {}
     void setSequenceMenu(const MenuPtr &) override {}
     std::vector<std::size_t> selectedRows(Tab tab) override { return m_selection.value(tab); }
     void selectRows(Tab tab, const std::vector<std::size_t> &rows) override { m_selection.insert(tab, rows); }

@@ -5,6 +5,7 @@
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
+#include <unordered_set>
 #include <utility>
 
 namespace vantrell
@@ -43,6 +44,8 @@ void MyDocument::setFileURL(const QUrl &url)
 {
     m_fileURL = url;
     m_fileIsOurs = true;
+    if (m_written.path == url.toLocalFile())
+        m_knownFile->note(m_written.path, m_written.stamp);
 }
 
 std::optional<QString> MyDocument::valueForXPath(const QString &query, XmlNode parentNode)
@@ -108,6 +111,17 @@ void MyDocument::setListOf(Tab tab, RowList rows)
     m_lists[std::size_t(tab)] = std::move(rows);
 }
 
+void MyDocument::removeRows(Tab tab, const RowList &rows)
+{
+    const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
+    const auto isRemoved = [&](const RowRecordPtr &row) {
+        return removed.size() == 1 ? row == *removed.begin() : removed.contains(row);
+    };
+    std::erase_if(m_lists[std::size_t(tab)], isRemoved);
+    if (m_tableTab == tab)
+        std::erase_if(m_tableArray, isRemoved);
+}
+
 void MyDocument::appendToListOf(Tab tab, RowRecordPtr row)
 {
     m_lists[std::size_t(tab)].push_back(std::move(row));
@@ -119,11 +133,24 @@ const RowList &MyDocument::rowsOnShow(Tab tab) const
     return tab == m_tableTab ? m_tableArray : none;
 }
 
-void MyDocument::setTableArray(Tab tab, RowList rows)
+void MyDocument::setTableArray(Tab tab, RowList rows, RowOrder order)
 {
     m_interface.tableWillReload();
     m_tableTab = tab;
+    m_tableOrder = order;
     m_tableArray = std::move(rows);
+    m_waitingTableRows.clear();
+    m_interface.tableDidReload();
+}
+
+void MyDocument::showList(Tab tab)
+{
+    if (m_tableTab != tab || m_tableArray != listOf(tab)) {
+        setTableArray(tab, listOf(tab), RowOrder::Document);
+        return;
+    }
+    m_interface.tableWillReload();
+    m_tableOrder = RowOrder::Document;
     m_waitingTableRows.clear();
     m_interface.tableDidReload();
 }

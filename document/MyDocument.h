@@ -2,6 +2,7 @@
 
 #include "document/ClipMenus.h"
 #include "document/DocumentInterface.h"
+#include "document/KnownFile.h"
 #include "document/Menu.h"
 #include "document/RowRecord.h"
 #include "support/MainThread.h"
@@ -61,6 +62,9 @@ namespace SaveFailure
 inline const QString notOverwritten = QStringLiteral("The repaired file was not overwritten.");
 /// The user gave up a long save.
 inline const QString cancelled = QStringLiteral("Saving was cancelled.");
+/// Another program changed the file since it was read or written last.
+inline const QString changedElsewhere =
+    QStringLiteral("The file was changed by another program since it was opened. It was not overwritten.");
 } // namespace SaveFailure
 
 /// What the tabs show of their lists, as the user last chose it. Main thread.
@@ -114,13 +118,22 @@ public:
     void loadProjectWithSettings(const QString &typeName, const QUrl &url);
     /// Saves a plain XML document, pretty-printed, whole or not at all. A document of the editing
     /// application is sent instead, which counts as not saved; the call does not wait for its end.
+    ///
+    /// The document's file is replaced only while it is as it was read or written last (see KnownFile):
+    /// when another program has changed it the user is asked first.
     Result<void> writeToURL(const QUrl &url, const QString &typeName);
     /// The same with the writing done on a thread of its own, while which the tree may be read but not
     /// changed. `done` is told the outcome, in the call itself when there is nothing to write, when a
     /// document that is sent has been sent or not, and not at all when the document is closed before.
-    /// Refused while another one runs.
+    /// Refused while another one runs. Nobody is asked about a file that another program has changed: the
+    /// failure is SaveFailure::changedElsewhere, and overwriteChangedFile() makes the next save replace it.
     void writeInBackground(const QUrl &url, const QString &typeName,
                            std::function<void(const Result<void> &)> done);
+    /// What the last save found in the place of the document's file may be overwritten; what comes there
+    /// later may not.
+    void overwriteChangedFile();
+    /// The document's file as it was read or written last.
+    const std::shared_ptr<KnownFile> &knownFile() const { return m_knownFile; }
     /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.
     void cancelWriting() { m_savingCancelled = true; }
     /// Runs `work` on a thread of its own, while which isSaving() holds, then `done` here; not when the
@@ -128,6 +141,8 @@ public:
     bool runInBackground(std::function<void()> work, std::function<void()> done);
     /// Whether the tree may only be read, for it is being saved, or read to be sent.
     bool isSaving() const { return m_isSaving || m_isReadToBeSent; }
+    /// The same, with an alert under that title which says that nothing was changed.
+    bool refusesWhileSaving(const QString &alertTitle);
 
     /// Ends everything that runs for the document: waiting calls return, workers stop at their next unit
     /// of work. The document stays as it is. Called twice, nothing happens.
@@ -142,6 +157,8 @@ public:
     DocumentInterface &interface() { return m_interface; }
     /// Null when loading failed or has not ended. Any thread while loading.
     XmlDocument *xmlDoc() const { return m_xmlDoc.get(); }
+    /// Why loading failed; null unless it did, empty when the user has been told.
+    const QString &loadFailure() const { return m_loadFailure; }
     /// The document node for queries on the whole tree; null without a tree.
     XmlNode xmlNode() const { return m_xmlDoc ? m_xmlDoc->node() : XmlNode(); }
     /// 1 for a single exported sequence, 0 for a project.
@@ -186,6 +203,8 @@ public:
     const RowList &listOf(Tab tab) const { return m_lists[std::size_t(tab)]; }
     /// Replaces a list whole.
     void setListOf(Tab tab, RowList rows);
+    /// Takes rows out of a list, and out of the rows on show where those are the list's, unannounced.
+    void removeRows(Tab tab, const RowList &rows);
     /// Adds one row at the end of a list.
     void appendToListOf(Tab tab, RowRecordPtr row);
 
@@ -206,8 +225,14 @@ public:
     const RowList &tableArray() const { return m_tableArray; }
     Tab tableTab() const { return m_tableTab; }
     const RowList &rowsOnShow(Tab tab) const;
+    /// How the rows on show are ordered: as the project has them, or by what their table is sorted by.
+    enum class RowOrder { Document, Sorted };
     /// Exchanges the rows on show, announcing it before and after.
-    void setTableArray(Tab tab, RowList rows);
+    void setTableArray(Tab tab, RowList rows, RowOrder order = RowOrder::Sorted);
+    /// The same with all rows of the list, which costs next to nothing when they are on show already.
+    void showList(Tab tab);
+    /// That of the rows that were exchanged last; rows that were added since stand at their end.
+    RowOrder tableOrder() const { return m_tableOrder; }
     /// Adds one row to those on show, announced the same way.
     void appendToTableArray(RowRecordPtr row);
     /// Between these two, which may be nested, rows that are added wait: they come at the outer end,
@@ -271,7 +296,10 @@ private:
     Result<void> prepareSaving(const QUrl &url);
     Result<void> startSending(std::function<void()> ended);
     Result<void> noteSaved(Result<void> saved);
+    Result<void> tryWriting(const QString &path);
+    Result<void> writeFile(const QString &path);
     bool confirmSavingRepaired(const QString &path);
+    bool confirmOverwriting(const QString &path);
 
     DocumentInterface &m_interface;
     Services m_services;
@@ -280,7 +308,15 @@ private:
 
     QUrl m_fileURL;
     bool m_fileIsOurs = false; ///< what stands there was saved by this document
+    std::shared_ptr<KnownFile> m_knownFile = std::make_shared<KnownFile>();
+    // The saver's while it runs
+    std::optional<FileStamp> m_changedFile; ///< what the last save found in the place of the file
+    struct {
+        QString path;
+        std::optional<FileStamp> stamp;
+    } m_written; ///< by the last save that ended well
     std::unique_ptr<XmlDocument> m_xmlDoc;
+    QString m_loadFailure;
     std::int64_t m_xmlType = 0;
     bool m_isFCPProject = false;
     bool m_isPremiereProject = false;
@@ -294,6 +330,7 @@ private:
     std::array<std::atomic<std::size_t>, 3> m_found = {};
     RowList m_tableArray;
     Tab m_tableTab = Tab::Media;
+    RowOrder m_tableOrder = RowOrder::Document;
     int m_tableUpdates = 0;
     RowList m_waitingTableRows;
     ViewState m_viewState;

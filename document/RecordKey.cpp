@@ -29,6 +29,16 @@ RecordKey::RecordKey(const QString &text)
 {
     KeyTable &table = KeyTable::instance();
     const std::lock_guard lock(table.mutex);
+    m_number = table.numbers.value(text, noNumber);
+    if (!isConstant())
+        m_text = text;
+}
+
+RecordKey::RecordKey(const char16_t *constant)
+{
+    const QString text = QString::fromUtf16(constant);
+    KeyTable &table = KeyTable::instance();
+    const std::lock_guard lock(table.mutex);
     const auto known = table.numbers.constFind(text);
     if (known != table.numbers.constEnd()) {
         m_number = *known;
@@ -41,6 +51,8 @@ RecordKey::RecordKey(const QString &text)
 
 QString RecordKey::text() const
 {
+    if (!isConstant())
+        return m_text;
     KeyTable &table = KeyTable::instance();
     const std::lock_guard lock(table.mutex);
     return table.texts[m_number];

@@ -1,15 +1,15 @@
 #include "document/RowRecord.h"
 
+#include <algorithm>
 #include <atomic>
-#include <map>
-#include <mutex>
 #include <utility>
 
 namespace vantrell
 {
 
-/// Keys in their order. Each layout knows those that have one key more; a layout is made once and lives
-/// as long as the process, so that records only point at it.
+/// The numbers of keys in their order. Each layout knows those that have one key more; a layout is made once
+/// and lives as long as the process, so that records only point at it. Names that files make up are not part
+/// of it, so there are few.
 class RowRecord::Layout
 {
 public:
@@ -19,86 +19,66 @@ public:
         return &layout;
     }
 
-    const std::vector<RecordKey> &keys() const { return m_keys; }
+    const std::vector<std::uint32_t> &numbers() const { return m_numbers; }
 
-    /// The place of the key, or the number of keys when it is absent.
-    std::size_t slotOf(RecordKey key) const
+    /// The slot of the constant, or the number of keys when it is absent.
+    std::size_t slotOf(std::uint32_t number) const
     {
         std::size_t slot = 0;
-        while (slot < m_keys.size() && !(m_keys[slot] == key))
+        while (slot < m_numbers.size() && m_numbers[slot] != number)
             ++slot;
         return slot;
     }
 
     /// The layout with one key more at its end.
-    const Layout *with(RecordKey key) const;
+    const Layout *with(std::uint32_t number) const;
 
 private:
     struct Larger;
 
     Layout() = default;
-    Layout(const std::vector<RecordKey> &keys, RecordKey added)
-        : m_keys(keys)
+    Layout(const std::vector<std::uint32_t> &numbers, std::uint32_t added)
+        : m_numbers(numbers)
     {
-        m_keys.push_back(added);
+        m_numbers.push_back(added);
     }
 
-    static const Layout *findLarger(const Larger *from, const Larger *until, RecordKey key);
-    const Layout *withFromTable(RecordKey key) const;
+    static const Layout *findLarger(const Larger *from, const Larger *until, std::uint32_t number);
 
-    /// So many larger layouts are looked through one by one; the rest is in a table. Only keys that files
-    /// make up come in such numbers.
-    static constexpr int maximumListed = 64;
-
-    std::vector<RecordKey> m_keys;
+    std::vector<std::uint32_t> m_numbers;
     mutable std::atomic<Larger *> m_larger = nullptr; // grows at its head, is never shortened
-    mutable std::atomic<int> m_listed = 0;            // the length of that, or a little less
 };
 
 struct RowRecord::Layout::Larger {
-    RecordKey key;
+    std::uint32_t number;
     Layout layout;
     Larger *next;
 };
 
-const RowRecord::Layout *RowRecord::Layout::findLarger(const Larger *from, const Larger *until, RecordKey key)
+const RowRecord::Layout *RowRecord::Layout::findLarger(const Larger *from, const Larger *until,
+                                                       std::uint32_t number)
 {
     for (const Larger *larger = from; larger != until; larger = larger->next) {
-        if (larger->key == key)
+        if (larger->number == number)
             return &larger->layout;
     }
     return nullptr;
 }
 
-const RowRecord::Layout *RowRecord::Layout::with(RecordKey key) const
+const RowRecord::Layout *RowRecord::Layout::with(std::uint32_t number) const
 {
     Larger *first = m_larger.load(std::memory_order_acquire);
-    if (const Layout *known = findLarger(first, nullptr, key))
+    if (const Layout *known = findLarger(first, nullptr, number))
         return known;
-    if (m_listed.load(std::memory_order_relaxed) >= maximumListed)
-        return withFromTable(key);
-    auto *larger = new Larger{key, Layout(m_keys, key), first};
+    auto *larger = new Larger{number, Layout(m_numbers, number), first};
     while (!m_larger.compare_exchange_weak(larger->next, larger, std::memory_order_acq_rel)) {
-        if (const Layout *known = findLarger(larger->next, first, key)) {
+        if (const Layout *known = findLarger(larger->next, first, number)) {
             delete larger;
             return known;
         }
         first = larger->next;
     }
-    m_listed.fetch_add(1, std::memory_order_relaxed);
     return &larger->layout;
-}
-
-const RowRecord::Layout *RowRecord::Layout::withFromTable(RecordKey key) const
-{
-    using Table = std::map<std::pair<const Layout *, std::uint32_t>, const Layout *>;
-    static std::mutex mutex; // guards the table
-    static Table &table = *new Table;
-    const std::lock_guard lock(mutex);
-    const Layout *&layout = table[{this, key.number()}];
-    if (!layout)
-        layout = new Layout(m_keys, key);
-    return layout;
 }
 
 RowRecord::RowRecord()
@@ -106,33 +86,52 @@ RowRecord::RowRecord()
 {
 }
 
-const RecordValue *RowRecord::find(RecordKey key) const
+/// The slot of the key, or size() when it is absent.
+std::size_t RowRecord::slotOf(const RecordKey &key) const
 {
-    const std::size_t slot = m_layout->slotOf(key);
+    if (key.isConstant())
+        return m_layout->slotOf(key.number());
+    const std::vector<std::uint32_t> &numbers = m_layout->numbers();
+    qsizetype name = 0;
+    for (std::size_t slot = 0; slot < numbers.size() && name < m_names.size(); ++slot) {
+        if (numbers[slot] == RecordKey::noNumber && m_names[name++] == key.text())
+            return slot;
+    }
+    return numbers.size();
+}
+
+const RecordValue *RowRecord::find(const RecordKey &key) const
+{
+    const std::size_t slot = slotOf(key);
     return slot < m_values.size() ? &m_values[slot] : nullptr;
 }
 
-void RowRecord::set(RecordKey key, RecordValue value)
+void RowRecord::set(const RecordKey &key, RecordValue value)
 {
-    const std::size_t slot = m_layout->slotOf(key);
+    const std::size_t slot = slotOf(key);
     if (slot < m_values.size()) {
         m_values[slot] = std::move(value);
         return;
     }
-    m_layout = m_layout->with(key);
+    m_layout = m_layout->with(key.number());
     m_values.push_back(std::move(value));
+    if (!key.isConstant())
+        m_names.append(key.text());
 }
 
-void RowRecord::remove(RecordKey key)
+void RowRecord::remove(const RecordKey &key)
 {
-    const std::size_t removed = m_layout->slotOf(key);
+    const std::size_t removed = slotOf(key);
     if (removed == m_values.size())
         return;
+    const std::vector<std::uint32_t> &numbers = m_layout->numbers();
     const Layout *layout = Layout::empty();
-    for (const RecordKey kept : m_layout->keys()) {
-        if (!(kept == key))
-            layout = layout->with(kept);
+    for (std::size_t slot = 0; slot < numbers.size(); ++slot) {
+        if (slot != removed)
+            layout = layout->with(numbers[slot]);
     }
+    if (!key.isConstant())
+        m_names.removeOne(key.text());
     m_layout = layout;
     m_values.erase(m_values.begin() + std::ptrdiff_t(removed));
 }
@@ -143,7 +142,7 @@ void RowRecord::merge(const RowRecord &other)
         set(other.keyAt(i), other.valueAt(i));
 }
 
-QString RowRecord::text(RecordKey key) const
+QString RowRecord::text(const RecordKey &key) const
 {
     const RecordValue *value = find(key);
     const QString *text = value ? std::get_if<QString>(value) : nullptr;
@@ -152,7 +151,12 @@ QString RowRecord::text(RecordKey key) const
 
 RecordKey RowRecord::keyAt(std::size_t index) const
 {
-    return m_layout->keys()[index];
+    const std::vector<std::uint32_t> &numbers = m_layout->numbers();
+    if (numbers[index] != RecordKey::noNumber)
+        return RecordKey(numbers[index]);
+    const auto before =
+        std::count(numbers.begin(), numbers.begin() + std::ptrdiff_t(index), RecordKey::noNumber);
+    return RecordKey(m_names[before]);
 }
 
 } // namespace vantrell

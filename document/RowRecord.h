@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
@@ -20,8 +21,9 @@ namespace vantrell
 using RecordValue = std::variant<std::int64_t, double, bool, QString, QDateTime, XmlNode>;
 
 /// One row of a table: values by key, in the order in which the keys were first set. Records with the
-/// same keys in the same order share one description of them. Equality of records is identity: they are
-/// handled through RowRecordPtr. A record belongs to one thread at a time.
+/// same keys in the same order share one description of them, in which all keys that are no constants are
+/// alike. Equality of records is identity: they are handled through RowRecordPtr. A record belongs to one
+/// thread at a time.
 class RowRecord
 {
 public:
@@ -30,28 +32,28 @@ public:
     RowRecord &operator=(const RowRecord &) = default;
 
     std::size_t size() const { return m_values.size(); }
-    bool contains(RecordKey key) const { return find(key) != nullptr; }
+    bool contains(const RecordKey &key) const { return find(key) != nullptr; }
 
     /// The value; null when the key is absent.
-    const RecordValue *find(RecordKey key) const;
+    const RecordValue *find(const RecordKey &key) const;
 
     /// Replaces the key's value in its place, or adds the key at the end.
-    void set(RecordKey key, RecordValue value);
+    void set(const RecordKey &key, RecordValue value);
     template <typename Value>
-    void set(TypedKey<Value> key, typename TypedKey<Value>::ValueType value)
+    void set(const TypedKey<Value> &key, typename TypedKey<Value>::ValueType value)
     {
-        set(static_cast<RecordKey>(key), RecordValue(std::move(value)));
+        set(static_cast<const RecordKey &>(key), RecordValue(std::move(value)));
     }
 
     /// Drops the key; nothing happens when it is absent.
-    void remove(RecordKey key);
+    void remove(const RecordKey &key);
 
     /// Sets every value of the other record, in its order.
     void merge(const RowRecord &other);
 
     /// The value when the key is present with that type, else a default one (0, false, null).
     template <typename Value>
-    Value get(TypedKey<Value> key) const
+    Value get(const TypedKey<Value> &key) const
     {
         const RecordValue *value = find(key);
         const Value *typed = value ? std::get_if<Value>(value) : nullptr;
@@ -59,7 +61,7 @@ public:
     }
 
     /// The text of the key; null when it is absent or no text.
-    QString text(RecordKey key) const;
+    QString text(const RecordKey &key) const;
 
     /// Key and value at a place below size().
     RecordKey keyAt(std::size_t index) const;
@@ -68,8 +70,11 @@ public:
 private:
     class Layout;
 
+    std::size_t slotOf(const RecordKey &key) const;
+
     const Layout *m_layout;
     std::vector<RecordValue> m_values;
+    QStringList m_names; ///< of the keys that are no constants, in their order
 };
 
 using RowRecordPtr = std::shared_ptr<RowRecord>;

@@ -5,7 +5,9 @@
 #include "support/QVException.h"
 #include "support/QVLog.h"
 #include "xml/XmlEdit.h"
+#include "xml/XmlQuery.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace vantrell
@@ -52,7 +54,7 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
 {
     guarded("-[MyDocument updateXMLEffect:key:value:]", [&] {
         QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
-        if (!hasProject(changeTitle))
+        if (!hasProject(changeTitle) || !isInProject(effect->get(EffectKey::effectElement), changeTitle))
             return;
         QString text = value;
         if (key == EffectKey::enabled.text()) {
@@ -76,9 +78,23 @@ void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
     guarded("-[MyDocument removeXMLEffect:]", [&] {
         if (!hasProject(removeTitle))
             return;
-        m_document.xmlDoc()->remove(effect->get(EffectKey::effectElement));
+        const XmlNode element = effect->get(EffectKey::effectElement);
+        if (!isInProject(element, removeTitle))
+            return;
+        m_document.xmlDoc()->remove(element);
         markModified(*effect);
+        noteRemoved({element});
     });
+}
+
+/// Tells when markers went with the elements.
+void EffectEditor::noteRemoved(const XmlNodeList &elements)
+{
+    static const XmlQuery marker(QStringLiteral(".//marker"));
+    const bool heldMarkers = std::any_of(elements.begin(), elements.end(),
+                                         [](XmlNode element) { return bool(marker.first(element)); });
+    if (heldMarkers && m_markersRemoved)
+        m_markersRemoved();
 }
 
 void EffectEditor::removeEffects()
@@ -96,14 +112,32 @@ void EffectEditor::removeEffects()
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
         // The answer may come while the project is being saved, which began since.
-        if (answer != AlertAnswer::Default || m_document.isSaving())
+        if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
-        for (const RowRecordPtr &effect : selected)
-            removeXMLEffect(effect);
+        removeElements(selected);
         m_document.setListOf(Tab::Effects, without(m_document.effectArray(), selected));
         m_inventory.populateFilteredEffectData();
         m_document.interface().selectRows(Tab::Markers, {});
     });
+}
+
+/// What goes with another of the effects, such as the filters of a generator, counts as removed, too.
+void EffectEditor::removeElements(const RowList &effects)
+{
+    if (!hasProject(removeTitle))
+        return;
+    RowList present;
+    for (const RowRecordPtr &effect : effects) {
+        if (isInProject(effect->get(EffectKey::effectElement), removeTitle))
+            present.push_back(effect);
+    }
+    XmlNodeList removed;
+    for (const RowRecordPtr &effect : present) {
+        removed.push_back(effect->get(EffectKey::effectElement));
+        m_document.xmlDoc()->remove(removed.back());
+        markModified(*effect);
+    }
+    noteRemoved(removed);
 }
 
 void EffectEditor::hideSelectedEffects()
@@ -127,6 +161,16 @@ bool EffectEditor::hasProject(const QString &alertTitle)
     const QString reason = QStringLiteral("XML document cannot be found.");
     QVLog::appendLog(u"%@. %@", alertTitle, reason);
     QVAlert::alertSheetWithMessageText(alertTitle, reason, m_document.interface().alertParent());
+    return false;
+}
+
+/// Whether an edit of the element would be saved; an alert under that title says when not.
+bool EffectEditor::isInProject(XmlNode element, const QString &alertTitle)
+{
+    if (element.isAttached())
+        return true;
+    QVAlert::alertSheetWithMessageText(alertTitle, QStringLiteral("It was removed from the project."),
+                                       m_document.interface().alertParent());
     return false;
 }
 

@@ -5,17 +5,23 @@
 
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 namespace vantrell
 {
 
 /// Changes to effects, written into the project's tree at once: the sequence that holds the effect counts
-/// as modified and the document as edited. Editing an effect that is out of the tree does no harm. Main
-/// thread, once no inventory runs any more.
+/// as modified and the document as edited. Editing an effect that is no longer in the
+/// tree is refused with an alert. Main thread, once no inventory runs any more.
 class EffectEditor
 {
 public:
     /// The inventory is that of the same document.
     EffectEditor(MyDocument &document, EffectInventory &inventory);
+
+    /// What to do when effects were removed that held markers.
+    void setMarkersRemovedHandler(std::function<void()> handler) { m_markersRemoved = std::move(handler); }
 
     /// Gives the effect's child element of that name the value as its text, adding the child at the end
     /// when there is none. For the key "enabled", "1" switches the effect on and anything else switches it
@@ -37,10 +43,14 @@ public:
 
 private:
     bool hasProject(const QString &alertTitle);
+    bool isInProject(XmlNode element, const QString &alertTitle);
+    void removeElements(const RowList &effects);
+    void noteRemoved(const XmlNodeList &elements);
     void markModified(const RowRecord &effect);
 
     MyDocument &m_document;
     EffectInventory &m_inventory;
+    std::function<void()> m_markersRemoved;
 };
 
 } // namespace vantrell

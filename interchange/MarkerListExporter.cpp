@@ -10,6 +10,7 @@
 #include "support/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace vantrell
@@ -80,6 +81,16 @@ void appendAvidLine(QString &text, const RowRecord &marker)
                       QStringLiteral("red"), commentOf(marker)});
 }
 
+using LineAppender = void (*)(QString &, const RowRecord &);
+
+/// Null for a format that is not written.
+LineAppender appenderOf(const QString &format)
+{
+    if (format == MarkerListFormat::fcp)
+        return appendFCPLine;
+    return format == MarkerListFormat::avid ? appendAvidLine : nullptr;
+}
+
 } // namespace
 
 std::optional<MarkerListPanel> MarkerListExporter::exportFCPMarkers() const
@@ -119,16 +130,40 @@ void MarkerListExporter::tellOfFailure(const QString &format, const QString &rea
                                        m_document.interface().alertParent());
 }
 
+std::size_t MarkerListExporter::unreadableRows(const QString &format) const
+{
+    const LineAppender appendLineOf = appenderOf(format);
+    if (!appendLineOf)
+        return 0;
+    const qsizetype tabs = format == MarkerListFormat::fcp ? 6 : 4;
+    const RowList &markers = m_document.markerArray();
+    return std::size_t(std::count_if(markers.begin(), markers.end(), [&](const RowRecordPtr &marker) {
+        QString line;
+        appendLineOf(line, *marker);
+        return line.count(QLatin1Char('\t')) != tabs || line.count(QLatin1Char('\n')) != 1 ||
+               line.contains(QLatin1Char('\r'));
+    }));
+}
+
+QString MarkerListExporter::unreadableRowsText(const QString &format) const
+{
+    const std::size_t count = unreadableRows(format);
+    if (count == 0)
+        return QString();
+    if (count == 1)
+        return QStringLiteral("1 row holds a tab or a line break; other systems will not be able to read it");
+    return QStringLiteral("%1 rows hold a tab or a line break; other systems will not be able to read them")
+        .arg(count);
+}
+
 QString MarkerListExporter::textOfMarkerList(const QString &format) const
 {
     QString text;
-    if (format == MarkerListFormat::fcp) {
+    if (format == MarkerListFormat::fcp)
         text = QStringLiteral("Name\tType\tMarker Name\tComment\tStart\tDuration\tColor\n");
+    if (const LineAppender appendLineOf = appenderOf(format)) {
         for (const RowRecordPtr &marker : m_document.markerArray())
-            appendFCPLine(text, *marker);
-    } else if (format == MarkerListFormat::avid) {
-        for (const RowRecordPtr &marker : m_document.markerArray())
-            appendAvidLine(text, *marker);
+            appendLineOf(text, *marker);
     }
     return text;
 }

@@ -27,6 +27,10 @@ public:
 
     /// The list as text: "fcp" or "avid"; empty for any other format.
     QString textOfMarkerList(const QString &format) const;
+    /// How many rows of it hold a tab or a line break in a name or comment, so that no system can read them.
+    std::size_t unreadableRows(const QString &format) const;
+    /// Says so, without a full stop; empty when there are none.
+    QString unreadableRowsText(const QString &format) const;
 
     /// A line in the log and an alert: the list could not be written.
     void tellOfFailure(const QString &format, const QString &reason) const;

@@ -9,6 +9,10 @@
 #include "support/QVAlert.h"
 #include "support/QVException.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -32,44 +36,52 @@ std::optional<MarkerListPanel> MarkerListImporter::showMarkerListOpenDialog(cons
     return MarkerListPanel::forOpening(m_document, format);
 }
 
-std::optional<RowList> MarkerListImporter::rowsOfFile(const QString &path, const QString &format)
+std::optional<RowList> MarkerListImporter::rowsOfFile(const QString &path, const QString &format,
+                                                      std::vector<std::size_t> *lines)
 {
     if (format == MarkerListFormat::fcpx)
         return QVFCPXMLParser::markersFromXMLFile(path, true);
     if (format == MarkerListFormat::fcp)
-        return QVMarkerListParser::fcpMarkerListFromFile(path);
+        return QVMarkerListParser::fcpMarkerListFromFile(path, lines);
     if (format == MarkerListFormat::avid)
-        return QVMarkerListParser::avidLocatorListFromFile(path);
+        return QVMarkerListParser::avidLocatorListFromFile(path, lines);
     return std::nullopt;
 }
 
-bool MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnCode,
-                                                const QString &format) const
+std::optional<MarkerListImporter::Progress>
+MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnCode,
+                                           const QString &format) const
 {
     if (returnCode != MarkerListPanel::accepted)
-        return true;
-    bool hasRows = false;
+        return std::nullopt;
+    Progress progress;
     guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
-        const RowList rows = rowsOfFiles(paths, format);
-        hasRows = !rows.empty();
-        if (hasRows) {
-            const TableUpdates updates(m_document);
-            addMarkers(rows, {});
-        } else {
+        const Rows rows = rowsOfFiles(paths, format);
+        if (rows.rows.empty()) {
             tellNothingToImport();
+            return;
         }
+        const TableUpdates updates(m_document);
+        progress = addMarkers(rows, {});
     });
-    return hasRows;
+    return progress;
 }
 
-RowList MarkerListImporter::rowsOfFiles(const QStringList &paths, const QString &format)
+MarkerListImporter::Rows MarkerListImporter::rowsOfFiles(const QStringList &paths, const QString &format)
 {
-    RowList rows;
+    Rows all;
     for (const QString &path : paths) {
-        const RowList found = rowsOfFile(path, format).value_or(RowList());
-        rows.insert(rows.end(), found.begin(), found.end());
+        std::vector<std::size_t> lines;
+        const RowList found = rowsOfFile(path, format, &lines).value_or(RowList());
+        const QString file = paths.size() > 1 ? QFileInfo(path).fileName() + QStringLiteral(", ") : QString();
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            const QString place = lines.empty() ? QStringLiteral("marker %1").arg(i + 1)
+                                                : QStringLiteral("line %1").arg(lines[i]);
+            all.rows.push_back(found[i]);
+            all.places.append(file + place);
+        }
     }
-    return rows;
+    return all;
 }
 
 void MarkerListImporter::tellNothingToImport() const
@@ -81,25 +93,52 @@ void MarkerListImporter::tellNothingToImport() const
 }
 
 MarkerListImporter::Progress
-MarkerListImporter::addMarkers(const RowList &rows, Progress progress,
+MarkerListImporter::addMarkers(const Rows &rows, Progress progress,
                                std::optional<std::chrono::milliseconds> limit) const
 {
     const auto start = std::chrono::steady_clock::now();
     guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
-        // An alert on the way lets the user close the window.
-        while (progress.next < rows.size() && !m_document.isClosing()) {
-            const RowRecord &row = *rows[progress.next++];
+        while (progress.next < rows.rows.size() && !m_document.isClosing()) {
+            const std::size_t index = progress.next++;
+            const RowRecord &row = *rows.rows[index];
+            QString reason = QStringLiteral("There is no sequence to add it to.");
             // The name of a parent is no item of the sequence menu, so that none is chosen.
             const RowRecordPtr added = m_editor.addMarkerWithName(
                 row.text(ImportedMarkerKey::name), row.text(ImportedMarkerKey::startTimecode),
                 row.text(ImportedMarkerKey::durationTimecode), row.text(ImportedMarkerKey::comment),
-                row.text(ImportedMarkerKey::color), nullptr);
-            progress.added += added ? 1 : 0;
+                row.text(ImportedMarkerKey::color), nullptr,
+                [&reason](const QString &given) { reason = given; });
+            if (added)
+                ++progress.added;
+            else
+                progress.rejected.push_back(
+                    {rows.places.at(qsizetype(index)), row.text(ImportedMarkerKey::name), reason.trimmed()});
             if (limit && std::chrono::steady_clock::now() - start >= *limit)
                 break;
         }
     });
     return progress;
+}
+
+QString MarkerListImporter::Rejected::text() const
+{
+    return QStringLiteral("%1, “%2”: %3").arg(place, name, reason);
+}
+
+void MarkerListImporter::tellOfRejected(const Progress &progress) const
+{
+    constexpr std::size_t maximumListed = 20;
+    const std::vector<Rejected> &rejected = progress.rejected;
+    if (rejected.empty())
+        return;
+    QStringList lines;
+    for (std::size_t i = 0; i < std::min(rejected.size(), maximumListed); ++i)
+        lines.append(rejected[i].text());
+    if (rejected.size() > maximumListed)
+        lines.append(QStringLiteral("… and %1 more").arg(rejected.size() - maximumListed));
+    QVAlert::alertSheetWithMessageText(
+        QStringLiteral("%1 of %2 rows could not be added").arg(rejected.size()).arg(progress.next),
+        lines.join(QLatin1Char('\n')), m_document.interface().alertParent());
 }
 
 } // namespace vantrell

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace vantrell
 {
@@ -31,28 +32,51 @@ public:
     std::optional<MarkerListPanel> importFCPXMarkers() const;
     std::optional<MarkerListPanel> showMarkerListOpenDialog(const QString &format) const;
 
-    /// Adds what the files hold, in their order, when the panel was accepted. Files that cannot be read
-    /// or hold no markers are passed over. False, after an alert, when none holds any.
-    bool markerOpenDialogDidEnd(const QStringList &paths, int returnCode, const QString &format) const;
+    /// The rows of several files, in their order.
+    struct Rows {
+        RowList rows;
+        /// Where each one stands: the file's name, where there are several files, and the line, counted from
+        /// 1; of an interchange file the number of the marker.
+        QStringList places;
+    };
+    /// A row that no marker could be made of.
+    struct Rejected {
+        QString place;
+        QString name;
+        QString reason;
 
-    /// The rows of one file, with the keys of ImportedMarkerKey; nothing for a list that cannot be read
-    /// and for an unknown format. Any thread.
-    static std::optional<RowList> rowsOfFile(const QString &path, const QString &format);
+        QString text() const;
+    };
+    /// How far adding has come.
+    struct Progress {
+        std::size_t next = 0;  ///< index of the row that comes next
+        std::size_t added = 0; ///< markers that came of the rows before it
+        std::vector<Rejected> rejected;
+    };
+
+    /// Adds what the files hold, in their order, when the panel was accepted. Files that cannot be read
+    /// or hold no markers are passed over; an alert says when none holds any. Nothing when the panel was not
+    /// accepted.
+    std::optional<Progress> markerOpenDialogDidEnd(const QStringList &paths, int returnCode,
+                                                   const QString &format) const;
 
     // markerOpenDialogDidEnd() in its steps, for a window that must not wait for all of it
 
-    /// The rows of all files, in their order. Any thread.
-    static RowList rowsOfFiles(const QStringList &paths, const QString &format);
+    /// The rows of one file, with the keys of ImportedMarkerKey; nothing for a list that cannot be read
+    /// and for an unknown format. `lines` as in QVMarkerListParser; empty for an interchange file. Any
+    /// thread.
+    static std::optional<RowList> rowsOfFile(const QString &path, const QString &format,
+                                             std::vector<std::size_t> *lines = nullptr);
+    /// Any thread.
+    static Rows rowsOfFiles(const QStringList &paths, const QString &format);
     void tellNothingToImport() const;
-    /// How far adding has come.
-    struct Progress {
-        std::size_t next = 0;  ///< place of the row that comes next
-        std::size_t added = 0; ///< markers that came of the rows before it
-    };
     /// Adds the markers of the rows from `progress` on, until all are there or the time is over, at least
     /// one. Stops when the document is being closed.
-    Progress addMarkers(const RowList &rows, Progress progress,
+    Progress addMarkers(const Rows &rows, Progress progress,
                         std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
+    /// One alert for all rows that were rejected, the first twenty with their places and reasons; nothing
+    /// when none was.
+    void tellOfRejected(const Progress &progress) const;
 
 private:
     MyDocument &m_document;

@@ -57,21 +57,27 @@ RowRecordPtr avidRow(QStringView line)
     return row;
 }
 
-RowList rowsOfText(const QString &text, std::size_t firstLine, RowRecordPtr (*rowOfLine)(QStringView))
+RowList rowsOfText(const QString &text, std::size_t firstLine, RowRecordPtr (*rowOfLine)(QStringView),
+                   std::vector<std::size_t> *lines)
 {
     RowList rows;
     MarkerListText::forEachLine(text, [&](std::size_t index, QStringView line) {
         if (index < firstLine)
             return;
-        if (RowRecordPtr row = rowOfLine(line))
-            rows.push_back(std::move(row));
+        RowRecordPtr row = rowOfLine(line);
+        if (!row)
+            return;
+        rows.push_back(std::move(row));
+        if (lines)
+            lines->push_back(index + 1);
     });
     return rows;
 }
 
 } // namespace
 
-std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &path)
+std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &path,
+                                                                 std::vector<std::size_t> *lines)
 {
     const Result<QByteArray> bytes = FileUtilities::readFile(path);
     if (!bytes)
@@ -81,12 +87,13 @@ std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &
         text = MarkerListText::fromUtf8(bytes.value());
     if (text.isNull())
         return std::nullopt;
-    RowList rows = rowsOfText(text, 1, fcpRow);
+    RowList rows = rowsOfText(text, 1, fcpRow, lines);
     QVLog::appendLog(u"FCP marker list: %@", descriptionOf(rows));
     return rows;
 }
 
-std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString &path)
+std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString &path,
+                                                                   std::vector<std::size_t> *lines)
 {
     const Result<QByteArray> bytes = FileUtilities::readFile(path);
     if (!bytes)
@@ -94,7 +101,7 @@ std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString
     const QString text = MarkerListText::fromUtf8(bytes.value());
     if (text.isNull())
         return std::nullopt;
-    RowList rows = rowsOfText(text, 0, avidRow);
+    RowList rows = rowsOfText(text, 0, avidRow, lines);
     QVLog::appendLog(u"Avid locator list: %@", descriptionOf(rows));
     return rows;
 }

@@ -4,7 +4,9 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace vantrell
 {
@@ -21,10 +23,13 @@ public:
 
     /// A Final Cut Pro marker list, UTF-16 or else UTF-8 (see MarkerListText): a header line, whatever
     /// it holds, then lines of seven fields.
-    static std::optional<RowList> fcpMarkerListFromFile(const QString &path);
+    /// `lines`, where it is not null, gets the number of each row's line, the first of the file 1.
+    static std::optional<RowList> fcpMarkerListFromFile(const QString &path,
+                                                        std::vector<std::size_t> *lines = nullptr);
 
     /// An Avid locator list, UTF-8: lines of five fields, no header.
-    static std::optional<RowList> avidLocatorListFromFile(const QString &path);
+    static std::optional<RowList> avidLocatorListFromFile(const QString &path,
+                                                          std::vector<std::size_t> *lines = nullptr);
 
     /// Chapter lists of DVD authoring are not read: always nothing.
     static std::optional<RowList> dvdspChapterListFromFile(const QString &path);

@@ -1,6 +1,7 @@
 // Edits of the marker table's selected rows.
 
 #include "markers/MarkerCandidates.h"
+#include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
 #include "support/QVException.h"
 #include "support/TextFormat.h"
@@ -40,7 +41,7 @@ void MarkerEditor::setObjectValue(const QString &text, const QString &column)
         if (records.empty())
             return;
         if (column == MarkerKey::sequence.text()) {
-            moveToSequence(records.front(), integerValue(text));
+            moveToSequence(records.front(), sequenceAt(integerValue(text)), integerValue(text));
             return;
         }
         if (column == MarkerKey::clip.text()) {
@@ -79,24 +80,25 @@ void MarkerEditor::setDuration(const RowRecordPtr &record, const QString &text, 
     update(record, MarkerKey::out.text(), positionText(out), candidates);
 }
 
-void MarkerEditor::moveToSequence(const RowRecordPtr &record, std::int64_t item)
+void MarkerEditor::moveToSequence(const RowRecordPtr &record, XmlNode sequence, std::int64_t item)
 {
-    const XmlNode sequence = sequenceAt(item);
-    if (!sequence)
+    if (!sequence || !isInProject(record->get(MarkerKey::markerElement)) || !isInProject(sequence))
         return;
     updateXMLMarker(record, MarkerKey::in.text(),
                     inPointForObject(*record, sequence, QStringLiteral("sequence")));
     setXMLMarkerSequence(sequence, XmlNode(), record);
     const SequenceInfo &info = sequences().infoOf(sequence);
-    record->set(MarkerKey::sequenceIndex, item);
+    if (item >= 1)
+        record->set(MarkerKey::sequenceIndex, item);
     record->set(MarkerKey::sequence, sequence);
     setOrRemove(*record, MarkerKey::sequenceUUID, info.uuid);
     setOrRemove(*record, MarkerKey::sequenceName, info.name);
     info.timing.store(*record);
-    for (const RecordKey key :
+    for (const RecordKey &key :
          std::initializer_list<RecordKey>{MarkerKey::clip, MarkerKey::clipID, MarkerKey::clipUUID,
                                           MarkerKey::clipName, MarkerKey::clipIndex})
         record->remove(key);
+    listUnderOwn(record);
     if (m_freeSlots)
         m_freeSlots->update(*record);
     reloadTable();
@@ -104,11 +106,12 @@ void MarkerEditor::moveToSequence(const RowRecordPtr &record, std::int64_t item)
 
 void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
 {
+    const std::int64_t sequenceItem = record->get(MarkerKey::sequenceIndex);
+    const XmlNode sequence = listsOwn() ? record->get(MarkerKey::sequence) : sequenceAt(sequenceItem);
     if (item < 1) {
-        moveToSequence(record, record->get(MarkerKey::sequenceIndex));
+        moveToSequence(record, sequence, sequenceItem);
         return;
     }
-    const XmlNode sequence = sequenceAt(record->get(MarkerKey::sequenceIndex));
     const MenuPtr clips = m_document.clipMenuForSequence(sequence);
     const XmlNode clip =
         sequence && item < std::int64_t(clips->size()) ? (*clips)[std::size_t(item)].element : XmlNode();
@@ -116,9 +119,16 @@ void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
         reloadTable();
         return;
     }
+    if (!isInProject(record->get(MarkerKey::markerElement)) || !isInProject(clip))
+        return;
     const QString in = inPointForObject(*record, clip, QStringLiteral("clip"));
     updateXMLMarker(record, MarkerKey::in.text(), in);
     setXMLMarkerSequence(sequence, clip, record);
+    if (listsOwn()) {
+        listUnderOwn(record);
+        reloadTable();
+        return;
+    }
     const std::optional<QString> name = QVXMLParser::nameForNode(clip);
     if (!name)
         return;
@@ -130,6 +140,32 @@ void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
     SequenceTiming::ofFirstTexts(sequence).store(*record);
     record->set(MarkerKey::in, in);
     reloadTable();
+}
+
+bool MarkerEditor::listsOwn() const
+{
+    return m_inventory.ownerListing() == OwnerListing::Own;
+}
+
+/// Where markers are listed under their own sequence and clip: gives the record what a load would give it.
+void MarkerEditor::listUnderOwn(const RowRecordPtr &record)
+{
+    if (!listsOwn())
+        return;
+    if (!m_ownerIndexes)
+        m_ownerIndexes.emplace(m_document);
+    const auto given = [](const QString &text) { return text.isNull() ? std::nullopt : std::optional(text); };
+    const OwnOwner own = OwnOwner::ofMarkersIn(record->get(MarkerKey::markerElement).parent());
+    const SequenceInfo &info = sequences().infoOf(own.sequence);
+    RowRecord keys = own.sequenceKeys(*m_ownerIndexes, given(info.uuid), given(info.name));
+    keys.merge(own.clipKeys(*m_ownerIndexes));
+    for (const RecordKey &key : std::initializer_list<RecordKey>{
+             MarkerKey::sequenceUUID, MarkerKey::sequenceName, MarkerKey::sequenceIndex, MarkerKey::clip,
+             MarkerKey::clipID, MarkerKey::clipUUID, MarkerKey::clipName, MarkerKey::clipIndex}) {
+        if (!keys.contains(key))
+            record->remove(key);
+    }
+    record->merge(keys);
 }
 
 /// The sequence of a menu item; null for "(none)" and for what is no item.

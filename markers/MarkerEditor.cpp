@@ -3,6 +3,7 @@
 #include "markers/MarkerEditor.h"
 
 #include "markers/MarkerColors.h"
+#include "markers/MarkerElement.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
 #include "support/QVAlert.h"
@@ -12,7 +13,6 @@
 #include "xml/QVXMLParser.h"
 
 #include <functional>
-#include <unordered_set>
 
 namespace vantrell
 {
@@ -47,17 +47,18 @@ void MarkerEditor::addMarker()
 
 RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                              const QString &comment, const QString &colorName,
-                                             const MenuItem *parentItem)
+                                             const MenuItem *parentItem, const Rejected &rejected)
 {
     RowRecordPtr record;
     guarded("-[MyDocument addMarkerWithName:inPoint:outPoint:comment:colorName:parentName:]",
-            [&] { record = addElement(name, inPoint, outPoint, comment, colorName, parentItem); });
+            [&] { record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected); });
     return record;
 }
 
 RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString &startTimecode,
                                              const QString &durationTimecode, const QString &comment,
-                                             const QString &colorName, const MenuItem *parentItem)
+                                             const QString &colorName, const MenuItem *parentItem,
+                                             const Rejected &rejected)
 {
     RowRecordPtr record;
     guarded("-[MyDocument addMarkerWithName:startTimecode:durationTimecode:comment:colorName:parentName:]",
@@ -73,25 +74,25 @@ RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString 
                 const quint64 in = frames(startTimecode);
                 const quint64 duration = frames(durationTimecode);
                 const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
-                record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem);
+                record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem, rejected);
             });
     return record;
 }
 
 RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                       const QString &comment, const QString &colorName,
-                                      const MenuItem *parentItem)
+                                      const MenuItem *parentItem, const Rejected &rejected)
 {
     XmlDocument *tree = m_document.xmlDoc();
     if (!tree)
         return nullptr;
-    const Result<XmlNode> made = tree->elementFromText(formatText(
-        u"<marker><name>%@</name><comment>%@</comment><color><alpha>0</alpha><red>255</red>"
-        u"<green>0</green><blue>0</blue></color><in>%i</in><out>%i</out></marker>",
-        QVXMLParser::escapeQueryString(name), QVXMLParser::escapeQueryString(comment), inPoint, outPoint));
+    const Result<XmlNode> made = MarkerElement::make(*tree, name, comment, inPoint, outPoint);
     if (!made) {
-        QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to create marker"), made.message(),
-                                           m_document.interface().alertParent());
+        if (rejected)
+            rejected(made.message());
+        else
+            QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to create marker"), made.message(),
+                                               m_document.interface().alertParent());
         return nullptr;
     }
     const XmlNode marker = made.value();
@@ -124,21 +125,27 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
     record->set(MarkerKey::color, color);
     record->set(MarkerKey::in, formatText(u"%i", inPoint));
     record->set(MarkerKey::out, formatText(u"%i", outPoint));
+    listUnderOwn(record);
     addRecord(record);
     noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
     return record;
 }
 
-/// The element of the item, or of the first sequence when it is no item of the sequence menu.
-XmlNode MarkerEditor::parentSequence(const MenuItem *parentItem) const
+/// The index of the item, or 1 when it is no item of the sequence menu.
+std::int64_t MarkerEditor::parentIndex(const MenuItem *parentItem) const
 {
     const MenuPtr menu = m_document.sequenceMenu();
     const MenuItem *first = menu->data();
     const bool isItem =
         std::greater_equal<>()(parentItem, first) && std::less<>()(parentItem, first + menu->size());
-    if (isItem)
-        return parentItem->element;
-    return menu->size() > 1 ? (*menu)[1].element : XmlNode();
+    return isItem ? parentItem - first : 1;
+}
+
+XmlNode MarkerEditor::parentSequence(const MenuItem *parentItem) const
+{
+    const MenuPtr menu = m_document.sequenceMenu();
+    const auto index = std::size_t(parentIndex(parentItem));
+    return index < menu->size() ? (*menu)[index].element : XmlNode();
 }
 
 void MarkerEditor::addRecord(const RowRecordPtr &record)
@@ -162,7 +169,8 @@ void MarkerEditor::removeMarkers()
             QStringLiteral("Remove"), QStringLiteral("Cancel"), QString(), QStringLiteral(""),
             m_document.interface().alertParent(), true);
         // The answer may come while the project is being saved, which began since.
-        if (answer != AlertAnswer::Default || m_document.isSaving())
+        if (answer != AlertAnswer::Default ||
+            m_document.refusesWhileSaving(QStringLiteral("Unable to remove marker")))
             return;
         removeRows(rows);
         m_inventory.populateFilteredMarkerData();
@@ -172,19 +180,28 @@ void MarkerEditor::removeMarkers()
 
 void MarkerEditor::removeRows(const RowList &rows)
 {
-    std::unordered_set<const RowRecord *> removed;
     for (const RowRecordPtr &record : rows) {
         removeXMLMarker(record);
         freeSlots().remove(*record);
-        removed.insert(record.get());
     }
+    m_document.removeRows(Tab::Markers, rows);
+}
+
+void MarkerEditor::dropRemovedMarkers()
+{
     RowList kept;
-    kept.reserve(m_document.markerArray().size());
     for (const RowRecordPtr &record : m_document.markerArray()) {
-        if (!removed.contains(record.get()))
+        const XmlNode marker = record->get(MarkerKey::markerElement);
+        if (!marker || marker.isAttached())
             kept.push_back(record);
+        else
+            freeSlots().remove(*record);
     }
+    if (kept.size() == m_document.markerArray().size())
+        return;
     m_document.setListOf(Tab::Markers, std::move(kept));
+    if (m_document.tableTab() == Tab::Markers)
+        m_inventory.populateFilteredMarkerData();
 }
 
 void MarkerEditor::removeXMLMarker(const RowRecordPtr &record)
@@ -197,6 +214,8 @@ void MarkerEditor::removeXMLMarker(const RowRecordPtr &record)
         return;
     }
     const XmlNode marker = record->get(MarkerKey::markerElement);
+    if (!isInProject(marker, QStringLiteral("Unable to remove marker")))
+        return;
     sequences().willDetach(marker);
     tree->remove(marker);
     sequences().didChange();

@@ -2,9 +2,11 @@
 
 #include "document/MyDocument.h"
 #include "markers/FreeMarkerSlots.h"
+#include "markers/OwnerIndexes.h"
 #include "markers/SequenceInfoCache.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace vantrell
@@ -26,22 +28,29 @@ public:
     /// ready to be edited.
     void addMarker();
 
+    /// How the next functions tell why a marker cannot be made.
+    using Rejected = std::function<void(const QString &reason)>;
+
     /// Adds a marker with its in and out point in frames, of which the low 32 bits count. A null comment
     /// is none. The marker goes to the sequence of the parent item; without one (null), or with one that
-    /// is no item of the sequence menu, to the first sequence. Null when there is no such sequence, or, after
-    /// an alert, when the name or comment breaks the XML that the marker is made from.
+    /// is no item of the sequence menu, to the first sequence. Null when there is no such sequence, and when
+    /// the name or comment breaks the XML that the marker is made from or adds to it: then `rejected` is
+    /// told why; without it (empty) an alert.
     RowRecordPtr addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                    const QString &comment, const QString &colorName,
-                                   const MenuItem *parentItem = nullptr);
+                                   const MenuItem *parentItem = nullptr, const Rejected &rejected = {});
     /// The same with timecodes of that sequence. A duration of less than one frame is none.
     RowRecordPtr addMarkerWithName(const QString &name, const QString &startTimecode,
                                    const QString &durationTimecode, const QString &comment,
-                                   const QString &colorName, const MenuItem *parentItem = nullptr);
+                                   const QString &colorName, const MenuItem *parentItem = nullptr,
+                                   const Rejected &rejected = {});
 
     // Removing
 
     /// The Remove button: removes the selected rows when the user agrees.
     void removeMarkers();
+    /// Drops the rows of markers whose elements are no longer in the tree, as they went with an effect.
+    void dropRemovedMarkers();
     /// Takes the record's element out of the tree; the lists stay as they are.
     void removeXMLMarker(const RowRecordPtr &record);
 
@@ -73,7 +82,9 @@ private:
     class Candidates;
 
     RowRecordPtr addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
-                            const QString &comment, const QString &colorName, const MenuItem *parentItem);
+                            const QString &comment, const QString &colorName, const MenuItem *parentItem,
+                            const Rejected &rejected);
+    std::int64_t parentIndex(const MenuItem *parentItem) const;
     XmlNode parentSequence(const MenuItem *parentItem) const;
     void addRecord(const RowRecordPtr &record);
     void removeRows(const RowList &rows);
@@ -83,7 +94,10 @@ private:
 
     void setInPoint(const RowRecordPtr &record, const QString &text, Candidates &candidates);
     void setDuration(const RowRecordPtr &record, const QString &text, Candidates &candidates);
-    void moveToSequence(const RowRecordPtr &record, std::int64_t item);
+    bool isInProject(XmlNode element, const QString &alertTitle = QStringLiteral("Unable to change setting"));
+    bool listsOwn() const;
+    void listUnderOwn(const RowRecordPtr &record);
+    void moveToSequence(const RowRecordPtr &record, XmlNode sequence, std::int64_t item);
     void moveToClip(const RowRecordPtr &record, std::int64_t item);
     XmlNode sequenceAt(std::int64_t item) const;
     RowList selectedRecords() const;
@@ -97,6 +111,7 @@ private:
     MyDocument &m_document;
     MarkerInventory &m_inventory;
     std::optional<SequenceInfoCache> m_sequences;
+    std::optional<OwnerIndexes> m_ownerIndexes;
     std::optional<FreeMarkerSlots> m_freeSlots;
     std::uint64_t m_slotsGeneration = 0; // of the list that m_freeSlots was made from
 };

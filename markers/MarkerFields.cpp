@@ -22,6 +22,17 @@ bool isAllowed(QChar c)
     return (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) || c == QLatin1Char('_');
 }
 
+/// The field with the same identifier, of those without one that with the same title; null for none.
+template <typename Fields>
+auto fieldLike(const MarkerField &field, Fields &fields) -> decltype(fields.data())
+{
+    const auto found = std::find_if(fields.begin(), fields.end(), [&field](const MarkerField &other) {
+        return other.identifier == field.identifier &&
+               (!field.identifier.isEmpty() || other.title == field.title);
+    });
+    return found == fields.end() ? nullptr : &*found;
+}
+
 } // namespace
 
 MarkerFields::MarkerFields(MyDocument &document, UserDefaults *defaults)
@@ -117,6 +128,7 @@ void MarkerFields::showMarkerFieldsDialog()
 void MarkerFields::hideMarkerFieldsDialog()
 {
     m_sheetIsOpen = false;
+    mergeStored();
     store();
     setupMarkerFields();
 }
@@ -135,11 +147,36 @@ void MarkerFields::columnMoved(const QString &identifier, int newIndex)
     store();
 }
 
+/// Takes in what other windows stored since the definitions were loaded: the fields that they defined, and
+/// what they changed of fields that are left as they were here.
+void MarkerFields::mergeStored()
+{
+    if (!m_defaults)
+        return;
+    for (const MarkerField &theirs : storedFields()) {
+        const MarkerField *const before = fieldLike(theirs, m_loaded);
+        if (MarkerField *const ours = fieldLike(theirs, m_markerFieldArray)) {
+            ours->colIndex = theirs.colIndex;
+            if (before && before->title == ours->title)
+                ours->title = theirs.title;
+        } else if (!before) {
+            m_markerFieldArray.push_back(theirs);
+        }
+    }
+}
+
 void MarkerFields::load()
 {
     if (!m_defaults)
         return;
-    m_markerFieldArray.clear();
+    m_markerFieldArray = storedFields();
+    m_loaded = m_markerFieldArray;
+}
+
+/// Only with defaults.
+std::vector<MarkerField> MarkerFields::storedFields() const
+{
+    std::vector<MarkerField> fields;
     const PropertyListValue stored = m_defaults->value(defaultsKey);
     for (const PropertyListValue &entry : stored.toArray()) {
         const PropertyListDictionary &definition = entry.toDictionary();
@@ -148,8 +185,9 @@ void MarkerFields::load()
         field.title = definition.value(titleKey).toString();
         if (definition.contains(colIndexKey))
             field.colIndex = definition.value(colIndexKey).toInteger();
-        m_markerFieldArray.push_back(field);
+        fields.push_back(field);
     }
+    return fields;
 }
 
 void MarkerFields::store()
@@ -165,6 +203,7 @@ void MarkerFields::store()
             definition.insert(colIndexKey, *field.colIndex);
         definitions.emplace_back(definition);
     }
+    m_loaded = m_markerFieldArray;
     m_isStoring = true;
     m_defaults->setValue(defaultsKey, definitions);
     m_isStoring = false;

@@ -45,7 +45,7 @@ public:
 
     /// The sheet opens, over what is stored.
     void showMarkerFieldsDialog();
-    /// It closes: stores its definitions and applies them.
+    /// It closes: stores its definitions, together with those that others stored meanwhile, and applies them.
     void hideMarkerFieldsDialog();
 
     /// Appends a definition without an identifier, titled "Untitled".
@@ -60,11 +60,14 @@ public:
 
 private:
     void load();
+    void mergeStored();
     void store();
+    std::vector<MarkerField> storedFields() const;
 
     MyDocument &m_document;
     UserDefaults *m_defaults;
     std::vector<MarkerField> m_markerFieldArray;
+    std::vector<MarkerField> m_loaded; // as they were last loaded or stored
     bool m_sheetIsOpen = false;
     bool m_isStoring = false;
 };

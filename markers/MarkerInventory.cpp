@@ -98,11 +98,13 @@ void MarkerInventory::populateMarkerData()
     m_document.setPopulating(Tab::Markers, true);
     mainThread.runAndWait([this] { m_document.interface().startSpinner(Tab::Markers); });
     const bool isWhole = guarded("-[MyDocument populateMarkerData]", [&] {
-        std::optional<RowList> rows = extract();
-        if (!rows)
+        std::optional<Extracted> extracted = extract();
+        if (!extracted)
             return;
         mainThread.runAndWait([&] {
-            m_document.setListOf(Tab::Markers, std::move(*rows));
+            m_listed = extracted->rows.size();
+            m_document.setListOf(Tab::Markers, std::move(extracted->rows));
+            m_listedUnderOthers = extracted->underOthers;
             ++m_generation;
             m_fields.setupMarkerFields();
         });
@@ -118,16 +120,17 @@ void MarkerInventory::populateMarkerData()
         populateFilteredMarkerData();
 }
 
-std::optional<RowList> MarkerInventory::extract() const
+std::optional<MarkerInventory::Extracted> MarkerInventory::extract() const
 {
-    RowList rows;
+    Extracted extracted;
+    RowList &rows = extracted.rows;
     if (!m_document.xmlDoc())
-        return rows;
+        return extracted;
     const XmlNodeList markers =
         QVXMLParser::nodesForQuery(QStringLiteral(".//marker"), m_document.xmlNode()).value_or(XmlNodeList());
     QVLog::appendLog(u"Number of markers: %i", markers.size());
     rows.reserve(markers.size());
-    MarkerOwners owners(m_document);
+    MarkerOwners owners(m_document, m_listing);
     RowRecord record;
     const RowRecord empty;
     for (const XmlNode marker : markers) {
@@ -141,11 +144,22 @@ std::optional<RowList> MarkerInventory::extract() const
         record = empty; // keeps its memory, and the copy below takes no more than it needs
         readMarker(marker, record);
         record.merge(owner.keys);
+        extracted.underOthers += owner.isOwn ? 0 : 1;
         rows.push_back(std::make_shared<RowRecord>(record));
         m_document.setFoundSoFar(Tab::Markers, rows.size());
     }
     rows.shrink_to_fit();
-    return rows;
+    return extracted;
+}
+
+QString MarkerInventory::listedUnderOthersText() const
+{
+    if (m_listedUnderOthers == 0)
+        return QString();
+    return QStringLiteral("%1 of %2 markers %3 listed under another sequence or clip than their own")
+        .arg(m_listedUnderOthers)
+        .arg(m_listed)
+        .arg(m_listedUnderOthers == 1 ? QLatin1String("is") : QLatin1String("are"));
 }
 
 void MarkerInventory::populateFilteredMarkerData()
@@ -166,7 +180,8 @@ void MarkerInventory::populateFilteredMarkerData()
             view.tab = m_document.viewState().selectedTab;
             view.filter = m_document.viewState().markerFilter;
             view.sort = m_document.interface().sortDescriptors(Tab::Markers);
-            view.rows = m_document.markerArray();
+            if (view.filter != 0)
+                view.rows = m_document.markerArray();
         });
         if (view.filter != 0) {
             std::erase_if(view.rows, [&view](const RowRecordPtr &record) {
@@ -175,7 +190,11 @@ void MarkerInventory::populateFilteredMarkerData()
             view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
         }
         mainThread.runAndWait([&] {
-            if (view.rebuild == m_lastRebuild && view.tab == m_document.viewState().selectedTab)
+            if (view.rebuild != m_lastRebuild || view.tab != m_document.viewState().selectedTab)
+                return;
+            if (view.filter == 0)
+                m_document.showList(Tab::Markers);
+            else
                 m_document.setTableArray(Tab::Markers, std::move(view.rows));
         });
         QVLog::appendLog(u"Finished filtering markers");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/MyDocument.h"
+#include "markers/OwnOwner.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,6 +15,9 @@ class MarkerFields;
 class MarkerInventory
 {
 public:
+    /// The user default, a boolean, that tells whether the window lists each marker under its own owners.
+    static inline const QString ownOwnersDefault = QStringLiteral("ownOwners");
+
     /// Both outlive the inventory.
     MarkerInventory(MyDocument &document, MarkerFields &fields);
 
@@ -27,17 +31,34 @@ public:
     /// The action of the colour filter. Main thread.
     void changeMarkerFilter();
 
+    /// Which owners the next populateMarkerData() lists, and editing keeps listed; by position at first.
+    /// Main thread, while no inventory runs.
+    void setOwnerListing(OwnerListing listing) { m_listing = listing; }
+    OwnerListing ownerListing() const { return m_listing; }
+    /// How many markers populateMarkerData() listed under another sequence or clip than their own. Main
+    /// thread.
+    std::size_t listedUnderOthers() const { return m_listedUnderOthers; }
+    /// Says so, without a full stop; empty when there are none.
+    QString listedUnderOthersText() const;
+
     /// Counts how often the list was replaced by populateMarkerData(). Main thread.
     std::uint64_t generation() const { return m_generation; }
 
 private:
-    /// The records; nothing when the document closes meanwhile.
-    std::optional<RowList> extract() const;
+    struct Extracted {
+        RowList rows;
+        std::size_t underOthers = 0; ///< listed under another sequence or clip than their own
+    };
+    /// Nothing when the document closes meanwhile.
+    std::optional<Extracted> extract() const;
 
     MyDocument &m_document;
     MarkerFields &m_fields;
-    std::uint64_t m_generation = 0;  // main thread
-    std::uint64_t m_lastRebuild = 0; // of the filtered view; main thread
+    OwnerListing m_listing = OwnerListing::ByPosition;
+    std::size_t m_listed = 0;
+    std::size_t m_listedUnderOthers = 0; // of those
+    std::uint64_t m_generation = 0;      // main thread
+    std::uint64_t m_lastRebuild = 0;     // of the filtered view; main thread
 };
 
 } // namespace vantrell

@@ -31,6 +31,28 @@ const MarkerOwners::Owner &MarkerOwners::ownerOfMarkersIn(XmlNode parent)
         m_owner.inInactiveAngle = true;
         return m_owner;
     }
+    const OwnOwner own{innermost.sequence, innermost.ownClip};
+    if (m_listing == OwnerListing::Own)
+        addOwn(own);
+    else
+        addByPosition(innermost);
+    m_owner.isOwn = m_owner.keys.get(MarkerKey::sequence) == own.sequence &&
+                    m_owner.keys.get(MarkerKey::clip) == own.clip;
+    return m_owner;
+}
+
+void MarkerOwners::addOwn(const OwnOwner &own)
+{
+    const auto [known, isNew] = m_ownSequences.try_emplace(own.sequence);
+    if (isNew)
+        known->second = own.sequenceKeys(m_indexes, QVXMLParser::uuidForNode(own.sequence),
+                                         QVXMLParser::nameForNode(own.sequence));
+    m_owner.keys.merge(known->second);
+    m_owner.keys.merge(own.clipKeys(m_indexes));
+}
+
+void MarkerOwners::addByPosition(const Place &innermost)
+{
     std::vector<const Place *> places;
     for (const Place *place = &innermost; place->up; place = place->up)
         places.push_back(place);
@@ -41,7 +63,6 @@ const MarkerOwners::Owner &MarkerOwners::ownerOfMarkersIn(XmlNode parent)
         else if ((*place)->kind != Kind::None)
             addClip(**place, innermost, current);
     }
-    return m_owner;
 }
 
 const MarkerOwners::Place &MarkerOwners::placeOf(XmlNode element)
@@ -86,6 +107,10 @@ const MarkerOwners::Place &MarkerOwners::addPlace(XmlNode element, const Place &
         place.clipItem = element;
     else if (element.isElement("clip"))
         place.clip = element;
+    if (place.sequence == element)
+        place.ownClip = XmlNode();
+    else if (place.clipItem == element || place.clip == element)
+        place.ownClip = element;
     m_placeList.push_back(place);
     return m_placeList.back();
 }
@@ -138,7 +163,7 @@ void MarkerOwners::addSequence(const Place &at, const Place &innermost, XmlNode 
         if (const std::optional<QString> name = QVXMLParser::nameForNode(sequence))
             made.keys.set(MarkerKey::sequenceName, *name);
         SequenceTiming::ofFirstTexts(sequence).store(made.keys);
-        const std::optional<std::int64_t> index = uuid ? sequenceIndexOf(*uuid) : std::nullopt;
+        const std::optional<std::int64_t> index = uuid ? m_indexes.ofSequence(*uuid) : std::nullopt;
         if (index)
             made.keys.set(MarkerKey::sequenceIndex, *index);
         part = m_sequences.insert(step, made);
@@ -168,43 +193,11 @@ void MarkerOwners::addClip(const Place &at, const Place &innermost, XmlNode curr
         keys.set(MarkerKey::clipUUID, *uuid);
     keys.set(MarkerKey::clipName, *name);
     SequenceTiming::ofFirstTexts(current).store(keys);
-    const std::optional<std::int64_t> index = id ? clipIndexOf(*id, current) : std::nullopt;
+    const std::optional<std::int64_t> index = id ? m_indexes.ofClip(*id, current) : std::nullopt;
     if (index)
         keys.set(MarkerKey::clipIndex, *index);
     m_owner.keys.merge(keys);
     m_clips.emplace(track, std::move(keys));
-}
-
-std::optional<std::int64_t> MarkerOwners::sequenceIndexOf(const QString &uuid)
-{
-    if (!m_sequenceIndexes) {
-        m_sequenceIndexes = std::make_unique<QHash<QString, std::int64_t>>();
-        const MenuPtr menu = m_document.sequenceMenu();
-        for (std::size_t i = 1; i < menu->size(); ++i) {
-            const std::optional<QString> known = QVXMLParser::uuidForNode((*menu)[i].element);
-            if (known && !m_sequenceIndexes->contains(*known))
-                m_sequenceIndexes->insert(*known, std::int64_t(i));
-        }
-    }
-    const auto index = m_sequenceIndexes->constFind(uuid);
-    return index == m_sequenceIndexes->constEnd() ? std::nullopt : std::optional(*index);
-}
-
-std::optional<std::int64_t> MarkerOwners::clipIndexOf(const QString &id, XmlNode sequence)
-{
-    if (!sequence)
-        return std::nullopt;
-    auto indexes = m_clipIndexes.find(sequence);
-    if (indexes == m_clipIndexes.end()) {
-        indexes = m_clipIndexes.emplace(sequence, QHash<QString, std::int64_t>()).first;
-        const std::shared_ptr<const QStringList> ids = m_document.clipIDsForSequence(sequence);
-        for (qsizetype i = 0; ids && i < ids->size(); ++i) {
-            if (!indexes->second.contains(ids->at(i)))
-                indexes->second.insert(ids->at(i), i);
-        }
-    }
-    const auto index = indexes->second.constFind(id);
-    return index == indexes->second.constEnd() ? std::nullopt : std::optional(*index);
 }
 
 } // namespace vantrell

@@ -1,25 +1,26 @@
 #pragma once
 
-#include "document/MyDocument.h"
+#include "markers/OwnOwner.h"
 
 #include <QHash>
 
 #include <deque>
-#include <memory>
 #include <unordered_map>
 
 namespace vantrell
 {
 
-/// What the sequences and clips above a marker put into its record, for one extraction. What was read of
-/// one is kept: of a sequence by its step in the location path (so that like steps anywhere in the
-/// project share what the first one gave), of a clip by the path of its parent (so that all clips of a
-/// track share what the first one gave). One thread, while nobody edits the tree.
+/// What the sequences and clips above a marker put into its record, for one extraction. With
+/// OwnerListing::Own they are the marker's own. By position, what was read of one is kept: of a sequence by
+/// its step in the location path (so that like steps anywhere in the project share what the first one gave),
+/// of a clip by the path of its parent (so that all clips of a track share what the first one gave). One
+/// thread, while nobody edits the tree.
 class MarkerOwners
 {
 public:
-    explicit MarkerOwners(MyDocument &document)
-        : m_document(document)
+    MarkerOwners(MyDocument &document, OwnerListing listing)
+        : m_listing(listing)
+        , m_indexes(document)
     {
     }
 
@@ -28,6 +29,8 @@ public:
         bool inInactiveAngle = false;
         /// A step of the path is named like a sequence, but none holds the markers: they get no record.
         bool lacksSequence = false;
+        /// The markers' own sequence and clip are those of the keys.
+        bool isOwn = false;
         RowRecord keys;
     };
 
@@ -47,6 +50,7 @@ private:
         XmlNode sequence;
         XmlNode clipItem;
         XmlNode clip;
+        XmlNode ownClip; ///< the nearest clip or clip item inside the sequence
     };
 
     struct SequencePart {
@@ -60,10 +64,11 @@ private:
     const QString &stepOf(XmlNode element);
     void addSequence(const Place &at, const Place &innermost, XmlNode &current);
     void addClip(const Place &at, const Place &innermost, XmlNode current);
-    std::optional<std::int64_t> sequenceIndexOf(const QString &uuid);
-    std::optional<std::int64_t> clipIndexOf(const QString &id, XmlNode sequence);
+    void addOwn(const OwnOwner &own);
+    void addByPosition(const Place &innermost);
 
-    MyDocument &m_document;
+    const OwnerListing m_listing;
+    OwnerIndexes m_indexes;
     XmlNode m_parent;
     Owner m_owner; ///< of the markers in m_parent
 
@@ -75,9 +80,7 @@ private:
 
     QHash<QString, SequencePart> m_sequences;
     std::unordered_map<XmlNode, RowRecord> m_clips; ///< by the parent, which stands for its path
-
-    std::unique_ptr<QHash<QString, std::int64_t>> m_sequenceIndexes; ///< by UUID; made when first asked
-    std::unordered_map<XmlNode, QHash<QString, std::int64_t>> m_clipIndexes;
+    std::unordered_map<XmlNode, RowRecord> m_ownSequences;
 };
 
 } // namespace vantrell

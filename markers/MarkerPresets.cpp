@@ -160,7 +160,7 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
         return false;
     }
     populateMarkerPresets();
-    changeMarkerPreset(int(m_items.indexOf(name)));
+    changeMarkerPreset(int(m_items.indexOf(name, 1))); // not the "None" that is no preset
     interface.hideMarkerPresetSheet();
     return true;
 }

@@ -108,6 +108,8 @@ void MarkerEditor::update(const RowRecordPtr &record, const QString &key, const 
                                            m_document.interface().alertParent());
         return;
     }
+    if (!isInProject(record->get(MarkerKey::markerElement)))
+        return;
     const bool inComment = MarkerComment::isKeptInComment(key);
     const QString elementName = inComment ? MarkerKey::comment.text() : key;
     const QString text = inComment ? MarkerComment::textForEdit(*record, key, value) : value;
@@ -126,6 +128,17 @@ void MarkerEditor::update(const RowRecordPtr &record, const QString &key, const 
     if (m_freeSlots)
         m_freeSlots->update(*record);
     noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
+}
+
+/// Whether an edit of the element would be saved; an alert under that title says when not. True for a null
+/// element.
+bool MarkerEditor::isInProject(XmlNode element, const QString &alertTitle)
+{
+    if (!element || element.isAttached())
+        return true;
+    QVAlert::alertSheetWithMessageText(alertTitle, QStringLiteral("It was removed from the project."),
+                                       m_document.interface().alertParent());
+    return false;
 }
 
 void MarkerEditor::writeChild(XmlNode marker, const QString &name, const QString &text)
@@ -149,6 +162,8 @@ void MarkerEditor::setXMLMarkerSequence(XmlNode sequence, XmlNode clip, const Ro
     if (!marker || !m_document.xmlDoc())
         return;
     const XmlNode parent = clip ? clip : sequence;
+    if (!isInProject(marker) || !isInProject(parent))
+        return;
     sequences().willDetach(marker);
     if (m_document.xmlDoc()->moveTo(marker, parent))
         sequences().didAppend(marker, parent);

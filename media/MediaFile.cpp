@@ -86,6 +86,11 @@ PathParts splitPath(const QString &path)
     return {whole.sliced(slash + 1).toString(), withoutTrailingSlashes(whole.first(slash + 1)).toString()};
 }
 
+QString absolutePath(const QString &path, const QString &folder)
+{
+    return path.isEmpty() || path.startsWith(u'/') ? path : joinedPath(folder, path);
+}
+
 QString joinedPath(const QString &directory, const QString &filename)
 {
     if (directory.isEmpty() || filename.startsWith(u'/'))

@@ -26,6 +26,9 @@ struct PathParts {
 };
 PathParts splitPath(const QString &path);
 
+/// The path, a relative one as seen from the folder; an empty one stays empty.
+QString absolutePath(const QString &path, const QString &folder);
+
 /// The path of a file in a folder.
 QString joinedPath(const QString &directory, const QString &filename);
 

@@ -4,14 +4,17 @@
 #include "media/MediaKeys.h"
 #include "support/QVException.h"
 #include "support/QVLog.h"
+#include "support/TextFormat.h"
 #include "support/Workspace.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
 #include <system_error>
 #include <thread>
 
@@ -30,16 +33,20 @@ namespace
 
 constexpr std::size_t filesPerOperation = 256;
 
-/// Runs the action with the path when something exists there, on a thread that may be left behind.
-void withExistingFile(const QString &path, bool (*action)(const QString &))
+/// Runs the action with the path when something exists there, and the other one when nothing does, on a
+/// thread that may be left behind.
+void withExistingFile(const QString &path, bool (*action)(const QString &),
+                      const std::function<void()> &whenMissing)
 {
     if (path.isEmpty())
         return;
     try {
-        std::thread([path, action] {
+        std::thread([path, action, whenMissing] {
             guarded("MediaInventory::withExistingFile", [&] {
                 if (FileChecks::lookUp(QFile::encodeName(path)).exists)
                     action(path);
+                else
+                    whenMissing();
             });
         }).detach();
     } catch (const std::system_error &error) {
@@ -92,8 +99,10 @@ void MediaInventory::build()
             return;
         std::vector<QByteArray> paths;
         paths.reserve(files.size());
+        const QString folder = projectFolder();
         for (const File &file : files)
-            paths.push_back(file.path ? QFile::encodeName(*file.path) : QByteArray());
+            paths.push_back(
+                QFile::encodeName(MediaFile::absolutePath(file.path.value_or(QString()), folder)));
         const FileChecks checks(std::move(paths), m_check);
         countUsage(files, MediaUsage(m_document.xmlNode(), m_document.xmlType(), sequences, isClosing));
         const std::optional<FileChecks::Answers> answers = checks.answers(isClosing, m_patience);
@@ -207,13 +216,28 @@ void MediaInventory::revealMediaInFinder()
 {
     const std::vector<std::size_t> selected = m_document.interface().selectedRows(Tab::Media);
     if (!selected.empty())
-        withExistingFile(pathOfRow(selected.front()), Workspace::revealFile);
+        withFileOfRow(selected.front(), Workspace::revealFile);
 }
 
 void MediaInventory::mediaTableViewDoubleClick(std::ptrdiff_t clickedRow)
 {
     if (clickedRow >= 0)
-        withExistingFile(pathOfRow(std::size_t(clickedRow)), Workspace::openFile);
+        withFileOfRow(std::size_t(clickedRow), Workspace::openFile);
+}
+
+void MediaInventory::withFileOfRow(std::size_t row, bool (*action)(const QString &))
+{
+    const QString path = pathOfRow(row);
+    const auto tell = [document = &m_document, name = QFileInfo(path).fileName()] {
+        document->interface().showMessage(Tab::Media, formatText(u"“%@” is missing", name));
+    };
+    withExistingFile(path, action, [gate = m_document.mainThread(), tell] { gate->post(tell); });
+}
+
+/// What relative paths are relative to.
+QString MediaInventory::projectFolder() const
+{
+    return QFileInfo(m_document.fileURL().toLocalFile()).absolutePath();
 }
 
 /// Null for a row that is not there or has no path.
@@ -222,7 +246,9 @@ QString MediaInventory::pathOfRow(std::size_t row) const
     const RowList &rows = m_document.rowsOnShow(Tab::Media);
     if (row >= rows.size())
         return QString();
-    return MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
+    const QString path =
+        MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
+    return MediaFile::absolutePath(path, projectFolder());
 }
 
 } // namespace vantrell

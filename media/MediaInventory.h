@@ -46,8 +46,8 @@ public:
     void populateUsageCountForClipWithSettings(const ClipSettings &settings);
 
     /// Shows the file of the first selected row of the media table in the file browser, opens the file of
-    /// the clicked row (-1 for none) with its default application. Neither waits for the disk; nothing
-    /// happens without a row or without a file at its path. Main thread.
+    /// the clicked row (-1 for none) with its default application. Neither waits for the disk. Nothing
+    /// happens without a row; that there is no file at its path is told on the tab. Main thread.
     void revealMediaInFinder();
     void mediaTableViewDoubleClick(std::ptrdiff_t clickedRow);
 
@@ -66,6 +66,8 @@ private:
     void countUsage(const std::vector<File> &files, const MediaUsage &usage);
     RowList recordsOf(const std::vector<File> &files, const FileChecks::Answers &answers,
                       std::uint64_t &total) const;
+    void withFileOfRow(std::size_t row, bool (*action)(const QString &));
+    QString projectFolder() const;
     QString pathOfRow(std::size_t row) const;
 
     MyDocument &m_document;

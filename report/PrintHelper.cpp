@@ -67,6 +67,18 @@ Result<void> copy(const QString &from, QIODevice &to)
     }
 }
 
+QStringList argumentsFor(const Pages &pages)
+{
+    QStringList arguments{QStringLiteral("--margin"), QString::number(pages.margin)};
+    if (!pages.paper.isNull())
+        arguments << QStringLiteral("--paper") << pages.paper;
+    if (pages.isLandscape)
+        arguments << QStringLiteral("--landscape");
+    if (!pages.withNumbers)
+        arguments << QStringLiteral("--no-numbers");
+    return arguments;
+}
+
 } // namespace
 
 QString find()
@@ -86,7 +98,8 @@ QString missingMessage()
 }
 
 Result<void> writePDF(const QString &program, const FileUtilities::Writer &html, const QString &imageFolder,
-                      const QString &output)
+                      const QString &output, const std::optional<Pages> &pages,
+                      const std::function<bool()> &isCancelled)
 {
     TemporaryFile text(QStringLiteral("html"));
     TemporaryFile pdf(QStringLiteral("pdf"));
@@ -99,11 +112,11 @@ Result<void> writePDF(const QString &program, const FileUtilities::Writer &html,
         return written;
     if (!text.file().flush())
         return unwritable(text.file());
-    const Result<TaskRunner::Output> run =
-        TaskRunner::run(program,
-                        {QStringLiteral("--html"), text.path(), QStringLiteral("--images"), imageFolder,
-                         QStringLiteral("-o"), pdf.path()},
-                        timeoutMs);
+    QStringList arguments{QStringLiteral("--html"), text.path(), QStringLiteral("--images"), imageFolder,
+                          QStringLiteral("-o"),     pdf.path()};
+    if (pages)
+        arguments += argumentsFor(*pages);
+    const Result<TaskRunner::Output> run = TaskRunner::run(program, arguments, timeoutMs, {}, isCancelled);
     if (!run)
         return run.failure();
     const bool isDone = run.value().exitCode == 0 && QFileInfo(pdf.path()).size() > 0;

@@ -260,15 +260,18 @@ qsizetype extensionDot(const QString &path)
 
 } // namespace
 
-Result<void> writeAtomically(const QString &path, const QByteArray &content)
+Result<void> writeAtomically(const QString &path, const QByteArray &content,
+                             const BeforeReplacing &beforeReplacing)
 {
-    return writeAtomically(path, [&content](QIODevice &device) -> Result<void> {
+    const auto writer = [&content](QIODevice &device) -> Result<void> {
         device.write(content);
         return {};
-    });
+    };
+    return writeAtomically(path, writer, beforeReplacing);
 }
 
-Result<void> writeAtomically(const QString &path, const Writer &writer)
+Result<void> writeAtomically(const QString &path, const Writer &writer,
+                             const BeforeReplacing &beforeReplacing)
 {
     if (path.isEmpty() || path.contains(QChar(u'\0')))
         return writeFailure(path, ENOENT);
@@ -301,11 +304,25 @@ Result<void> writeAtomically(const QString &path, const Writer &writer)
     }
     if (::fsync(file.descriptor()) != 0 && errno != EINVAL)
         return writeFailure(path, errno);
+    if (beforeReplacing) {
+        const Result<void> mayReplace = beforeReplacing(file.descriptor());
+        if (!mayReplace)
+            return mayReplace;
+    }
     if (!file.close() || ::rename(file.path().constData(), encodedTarget.constData()) != 0)
         return writeFailure(path, errno);
     file.keep();
     syncFolder(info.path());
     return {};
+}
+
+bool isSameFile(const QString &a, const QString &b)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(b).constData(), &second) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
 }
 
 Result<QByteArray> readFile(const QString &path)

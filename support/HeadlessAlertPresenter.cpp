@@ -29,7 +29,9 @@ AlertPresenter::AlertId HeadlessAlertPresenter::begin(const AlertDescription &de
                             !description.value(AlertKey::OtherButtonTitle).isEmpty();
     const bool isRefused = isQuestion && !m_assumeYes;
     m_questionRefused = m_questionRefused || isRefused;
-    answered(isRefused ? AlertAnswer::Alternate : AlertAnswer::Default);
+    const bool cancelsByDefault =
+        isQuestion && description.value(AlertKey::DefaultButtonTitle) == QStringLiteral("Cancel");
+    answered(isRefused == cancelsByDefault ? AlertAnswer::Default : AlertAnswer::Alternate);
     return alert;
 }
 

@@ -12,15 +12,16 @@ namespace vantrell
 class HeadlessAlertPresenter final : public AlertPresenter
 {
 public:
-    /// `assumeYes`: questions are answered with their default button instead of being refused.
+    /// `assumeYes`: questions are answered with the button that goes ahead instead of being refused.
     explicit HeadlessAlertPresenter(bool assumeYes)
         : m_assumeYes(assumeYes)
     {
     }
 
     /// Writes "message: informative text", or the message alone when there is no informative text. An alert
-    /// with one button is answered with 1. One with an alternate or other button is a question: answered
-    /// with its default button, 1, or refused with 0.
+    /// with one button is answered with 1. One with an alternate or other button is a question: its
+    /// default button goes ahead and the alternate one refuses, or the other way round when the default
+    /// button is "Cancel".
     AlertId begin(const AlertDescription &description, AlertParent *parent, Answer answered) override;
 
     void close(AlertId) override {}

@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace vantrell
 {
@@ -191,6 +192,7 @@ void QVLog::startLog(const QString &name, bool noPrinting)
     if (m_appName.isEmpty())
         m_appName = QStringLiteral("Unknown");
     m_bytesWritten = 0;
+    m_isLossTold = true; // by each of the failures below
 
     const QString folder = logFolder(StandardFolders::userLibrary());
     if (!QDir().mkpath(folder)) {
@@ -206,6 +208,7 @@ void QVLog::startLog(const QString &name, bool noPrinting)
         echo(formatText(u"Unable to create log file %s - %s\n", path, qt_error_string(errno)));
         return;
     }
+    m_isLossTold = false;
     writeHeader();
 }
 
@@ -339,10 +342,14 @@ void QVLog::writeLine(const QString &text)
     if (m_fileHandle < 0)
         m_fileHandle = ::open(QFile::encodeName(currentPath()).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
     if (m_fileHandle < 0) {
+        // Nobody makes the folder of the super-user's log, so the loss of one line is that of all.
+        if (std::exchange(m_isLossTold, true) && userId() == 0)
+            return;
         echo(formatText(u"Unable to log the following information: %s\n", text));
         echo(QStringLiteral("Unable to open log for output"));
         return;
     }
+    m_isLossTold = false;
     m_line.resize(0); // keeps its memory
     m_line.append(dateText()).append(" - ").append(text.toUtf8()).append('\n');
     if (writeBytes(m_line))

@@ -19,8 +19,9 @@ namespace vantrell
 
 /// The program's log: time-stamped lines in a rotating set of five files in the folder
 /// "Logs/Orvandel" of the user's library folder, written by a serial queue, with an echo on the
-/// console (standard error) where asked. Its failures show on the console alone. One shared object,
-/// which lives as long as the process; any thread may call any of its operations.
+/// console (standard error) where asked. Its failures show on the console alone; that there is no file
+/// the super-user is told once, others with every line. One shared object, which lives as long as the
+/// process; any thread may call any of its operations.
 ///
 /// Formats are those of formatText(). In a format a percent sign before a blank or a punctuation mark
 /// stands for itself.
@@ -146,6 +147,7 @@ private:
     QString m_appName;
     int m_fileHandle = -1; ///< the current file, written at its end; -1 for none
     quint64 m_bytesWritten = 0;
+    bool m_isLossTold = false;     ///< the console says that there is no file
     QByteArray m_line;             ///< the line being written
     std::time_t m_dateSecond = -1; ///< the second that m_dateText stands for
     QByteArray m_dateText;

@@ -9,17 +9,21 @@ build_packages=(
 # What the desktop program takes beyond that to run: its icons, and sessions without an X server.
 window_packages=(libqt6svg6 qt6-wayland)
 
+# What building the plug-in and the program that print takes beyond that, and printing on paper.
+print_packages=(qt6-webengine-dev libqpdf-dev cups-client)
+
 # What making the Debian package takes beyond building.
 packaging_packages=(dpkg-dev file)
 
 # What checking takes beyond that: the formatter; the parser that the benchmark measures against; the
-# validators of what is installed, of the package and of the manual pages; the shells that complete; and
-# a display to start the program on.
+# validators of what is installed, of the package and of the manual pages; the shells that complete; a
+# display to start the program on; and what reads PDF files back.
 check_packages=(
     clang-format libxml2-utils
     appstream desktop-file-utils fakeroot libglib2.0-bin lintian mandoc shared-mime-info
     bash-completion zsh
     x11-utils xvfb
+    poppler-utils
 )
 
 # missing_packages NAME...: prints those that are not installed, one a line.

@@ -2,6 +2,7 @@
 
 #include "bridge/QVAppleEvents.h"
 #include "report/ReportImages.h"
+#include "support/UserDefaults.h"
 
 #include <QFileInfo>
 
@@ -16,6 +17,9 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     , m_markerPresets(m_document, defaults)
     , m_reportGenerator(m_document, m_markerPresets, defaults, ReportImages::standardFolder())
 {
+    if (defaults && defaults->boolean(MarkerInventory::ownOwnersDefault))
+        m_markerInventory.setOwnerListing(OwnerListing::Own);
+    m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
 }
 
 Workbench::~Workbench()

@@ -138,6 +138,16 @@ XmlNode XmlDocument::rootElement() const
     return node().firstChildElement();
 }
 
+QByteArray XmlDocument::encoding() const
+{
+    return m_tree->encoding;
+}
+
+void XmlDocument::setEncoding(const QByteArray &encoding)
+{
+    m_tree->encoding = encoding;
+}
+
 Result<void> XmlDocument::save(const QString &path, const std::atomic<bool> *cancelled, Layout layout) const
 {
     return FileUtilities::writeAtomically(

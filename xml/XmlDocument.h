@@ -54,6 +54,10 @@ public:
     /// How much of a malformed input is missing from the tree, as a sentence; empty when all of it is there.
     const QString &loss() const { return m_loss; }
 
+    /// The declared encoding, empty when there is none. One that is set is declared and written from then on.
+    QByteArray encoding() const;
+    void setEncoding(const QByteArray &encoding);
+
     /// Writes the tree in its declared encoding (UTF-8 when it has none), whole or not at all. Nothing
     /// may change the tree meanwhile. Once `cancelled` is set (null for never) writing fails. Any thread.
     Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr,

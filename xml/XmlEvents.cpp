@@ -1,5 +1,6 @@
 #include "xml/XmlEvents.h"
 
+#include <algorithm>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -11,13 +12,14 @@ namespace
 {
 
 constexpr std::size_t eventBlockSize = std::size_t(1) << 17;
-constexpr std::size_t mostFilled = 8; // then the parser waits
+constexpr std::size_t firstBlockSize = std::size_t(1) << 12; // it grows: most texts are small
+constexpr std::size_t mostFilled = 8;                        // then the parser waits
 
 } // namespace
 
 XmlEvents::XmlEvents(XmlTreeBuilder &builder)
     : m_builder(builder)
-    , m_block(eventBlockSize)
+    , m_block(firstBlockSize)
 {
 }
 
@@ -35,6 +37,11 @@ XmlEvents::~XmlEvents()
 /// Makes the block one that has that much room.
 void XmlEvents::nextBlock(std::size_t size)
 {
+    const bool grows = m_block.size() < eventBlockSize && m_used + size <= eventBlockSize;
+    if (grows && !m_thread.joinable()) {
+        m_block.resize(std::min(eventBlockSize, std::max(m_block.size() * 4, m_used + size)));
+        return;
+    }
     handOver();
     if (m_block.size() < std::max(size, eventBlockSize))
         m_block.resize(std::max(size, eventBlockSize));

@@ -259,7 +259,10 @@ bool XmlInput::fill()
     m_block.text.assign(m_rest.begin(), m_rest.end());
     m_rest.clear();
     m_handedOut = 0;
-    const std::size_t missing = inputBlockSize - std::min(inputBlockSize, m_raw.size());
+    // A small text takes no large block.
+    const std::size_t size =
+        m_source.size < 0 ? inputBlockSize : std::min(inputBlockSize, std::size_t(m_source.size) + 1);
+    const std::size_t missing = size - std::min(size, m_raw.size());
     const bool atEnd = readSource(std::max<std::size_t>(missing, 1)) == 0;
     if (!m_started)
         chooseEncoding();

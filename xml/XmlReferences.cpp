@@ -1,6 +1,7 @@
 #include "xml/XmlReferences.h"
 
 #include <QChar>
+#include <QString>
 
 #include <algorithm>
 #include <cstdint>
@@ -60,50 +61,71 @@ std::size_t lengthWithoutReferences(std::string_view text, std::size_t at)
     return 0;
 }
 
-/// A surrogate pair written as two references.
-struct Pair {
+constexpr char32_t FirstWanted = 160;
+
+/// A character written as a reference, or as two for a surrogate pair.
+struct Written {
     std::size_t at = 0;
     std::size_t length = 0; ///< 0: there is none any more
     char32_t character = 0;
 };
 
-/// Finds the pairs of a text one after the other. Most texts have none, so what holds no references is only
-/// looked for before a pair. What lies before a pair that was found is not looked at again.
-class PairFinder
+enum class Wanted { Pairs, AllFrom160 };
+
+/// Finds the characters of a text that are written as references, one after the other. Most texts have none,
+/// so what holds no references is only looked for before one. What lies before one that was found is not
+/// looked at again.
+class ReferenceFinder
 {
 public:
-    explicit PairFinder(std::string_view text)
+    ReferenceFinder(std::string_view text, Wanted wanted)
         : m_text(text)
+        , m_wanted(wanted)
     {
     }
 
-    Pair next()
+    Written next()
     {
         while ((m_at = m_text.find('&', m_at)) != std::string_view::npos) {
-            const Reference high = referenceAtStart(m_text.substr(m_at));
-            if (high.length == 0 || !QChar::isHighSurrogate(high.character)) {
-                ++m_at;
-                continue;
-            }
-            const Reference low = referenceAtStart(m_text.substr(m_at + high.length));
-            if (low.length == 0 || !QChar::isLowSurrogate(low.character)) {
-                m_at += high.length;
+            const Reference first = referenceAtStart(m_text.substr(m_at));
+            const Written written = writtenWith(first);
+            if (written.length == 0) {
+                m_at += std::max<std::size_t>(first.length, 1);
                 continue;
             }
             if (const std::size_t end = endOfSpanAround(m_at); end > 0) {
                 m_at = end;
                 continue;
             }
-            const Pair pair{m_at, high.length + low.length,
-                            QChar::surrogateToUcs4(char16_t(high.character), char16_t(low.character))};
-            m_at = m_checked = pair.at + pair.length;
-            return pair;
+            m_at = m_checked = written.at + written.length;
+            return written;
         }
         m_at = m_text.size();
         return {m_at, 0, 0};
     }
 
 private:
+    /// What is wanted and begins with the reference at the place.
+    Written writtenWith(const Reference &first) const
+    {
+        if (first.length == 0 || first.character < FirstWanted)
+            return {};
+        if (!QChar::isSurrogate(first.character)) {
+            const bool isCharacter = first.character <= QChar::LastValidCodePoint &&
+                                     first.character != 0xFFFE && first.character != 0xFFFF;
+            if (m_wanted == Wanted::Pairs || !isCharacter)
+                return {};
+            return {m_at, first.length, first.character};
+        }
+        if (!QChar::isHighSurrogate(first.character))
+            return {};
+        const Reference low = referenceAtStart(m_text.substr(m_at + first.length));
+        if (low.length == 0 || !QChar::isLowSurrogate(low.character))
+            return {};
+        return {m_at, first.length + low.length,
+                QChar::surrogateToUcs4(char16_t(first.character), char16_t(low.character))};
+    }
+
     /// Where what holds no references and has begun before the place ends; 0 when there is nothing such.
     std::size_t endOfSpanAround(std::size_t place)
     {
@@ -117,32 +139,54 @@ private:
     }
 
     std::string_view m_text;
+    Wanted m_wanted;
     std::size_t m_at = 0;
     std::size_t m_checked = 0; ///< nothing that begins before it and holds no references goes on behind it
 };
+
+QByteArray asReference(char32_t character)
+{
+    return "&#" + QByteArray::number(uint(character)) + ';';
+}
+
+QByteArray asUtf8(char32_t character)
+{
+    return QString::fromUcs4(&character, 1).toUtf8();
+}
+
+/// Puts something shorter in place of each character that is wanted and written as a reference.
+QByteArray replaced(QByteArray xml, Wanted wanted, QByteArray (*replacement)(char32_t))
+{
+    if (ReferenceFinder({xml.constData(), std::size_t(xml.size())}, wanted).next().length == 0)
+        return xml;
+    // The text moves towards its start.
+    char *const bytes = xml.data();
+    ReferenceFinder references({bytes, std::size_t(xml.size())}, wanted);
+    Written found = references.next();
+    std::size_t to = found.at;
+    while (found.length > 0) {
+        const QByteArray shorter = replacement(found.character);
+        std::memcpy(bytes + to, shorter.constData(), std::size_t(shorter.size()));
+        to += std::size_t(shorter.size());
+        const std::size_t from = found.at + found.length;
+        found = references.next();
+        std::memmove(bytes + to, bytes + from, found.at - from);
+        to += found.at - from;
+    }
+    xml.truncate(qsizetype(to));
+    return xml;
+}
 
 } // namespace
 
 QByteArray joinedSurrogates(QByteArray xml)
 {
-    if (PairFinder({xml.constData(), std::size_t(xml.size())}).next().length == 0)
-        return xml;
-    // What is joined is shorter than the pair, so the text moves towards its start.
-    char *const bytes = xml.data();
-    PairFinder pairs({bytes, std::size_t(xml.size())});
-    Pair pair = pairs.next();
-    std::size_t to = pair.at;
-    while (pair.length > 0) {
-        const QByteArray joined = "&#" + QByteArray::number(uint(pair.character)) + ';';
-        std::memcpy(bytes + to, joined.constData(), std::size_t(joined.size()));
-        to += std::size_t(joined.size());
-        const std::size_t from = pair.at + pair.length;
-        pair = pairs.next();
-        std::memmove(bytes + to, bytes + from, pair.at - from);
-        to += pair.at - from;
-    }
-    xml.truncate(qsizetype(to));
-    return xml;
+    return replaced(std::move(xml), Wanted::Pairs, asReference);
+}
+
+QByteArray asCharacters(QByteArray utf8)
+{
+    return replaced(std::move(utf8), Wanted::AllFrom160, asUtf8);
 }
 
 } // namespace vantrell::XmlReferences

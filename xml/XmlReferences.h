@@ -12,4 +12,8 @@ namespace vantrell::XmlReferences
 /// place. Linear; any thread.
 QByteArray joinedSurrogates(QByteArray xml);
 
+/// The XML with the character itself wherever a reference, or two for a surrogate pair, stand for one of
+/// number 160 or beyond. What stays as it is, copies and cost are those of joinedSurrogates(). For UTF-8.
+QByteArray asCharacters(QByteArray utf8);
+
 } // namespace vantrell::XmlReferences

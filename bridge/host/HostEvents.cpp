@@ -158,14 +158,13 @@ EventRecord HostEvents::importXml(const EventRecord &event)
             m_projects.discard(project);
         return refusal(HostError::fileNotSaved, added.message());
     }
-    hostMessage(QStringLiteral("imported into \"%1\"").arg(project->path()));
     return EventRecord::reply();
 }
 
 EventRecord HostEvents::exportProject(const EventRecord &event)
 {
     const auto project = projectOf(event);
-    return project ? textReply(project->xml(&m_cancelled), HostError::failed) : notOpen();
+    return project ? textReply(project->xml(), HostError::failed) : notOpen();
 }
 
 EventRecord HostEvents::exportItem(const EventRecord &event)

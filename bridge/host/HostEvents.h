@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <atomic>
 #include <cstdint>
 
 namespace vantrell
@@ -35,8 +34,6 @@ public:
 
     /// From now on the event with that identifier is answered with an error; empty for none.
     void setFailingEvent(const QString &identifier) { m_failingEvent = identifier; }
-    /// Makes exports fail that take long. Any thread.
-    void cancel() { m_cancelled = true; }
 
     EventRecord replyTo(const EventRecord &event);
 
@@ -59,7 +56,6 @@ private:
     HostProjects &m_projects;
     const std::int64_t m_maximumVersion;
     QString m_failingEvent; // set before there are threads
-    std::atomic<bool> m_cancelled = false;
 };
 
 } // namespace vantrell

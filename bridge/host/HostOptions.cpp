@@ -1,11 +1,11 @@
 #include "bridge/host/HostOptions.h"
 
 #include "bridge/host/HostMessages.h"
+#include "support/ProgramArguments.h"
 
 #include <CLI/CLI.hpp>
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -20,19 +20,6 @@ namespace
 
 constexpr int wrongUsage = 2;
 constexpr double longestDelay = 3600; // seconds
-
-QString fromArgument(const std::string &argument)
-{
-    return QFile::decodeName(argument.c_str());
-}
-
-QStringList fromArguments(const std::vector<std::string> &arguments)
-{
-    QStringList texts;
-    for (const std::string &argument : arguments)
-        texts.append(fromArgument(argument));
-    return texts;
-}
 
 QString absolutePath(const QString &path)
 {

@@ -1,91 +1,102 @@
 #include "bridge/host/HostProject.h"
 
+#include "bridge/host/HostMessages.h"
 #include "bridge/host/ProjectItems.h"
 #include "support/FileUtilities.h"
 #include "xml/QVXMLParser.h"
-#include "xml/XmlEdit.h"
 #include "xml/XmlElementWriter.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 
+#include <system_error>
+
 namespace vantrell
 {
+
+namespace
+{
+
+/// Writing more takes so long that an import is answered before.
+constexpr qsizetype mostWrittenBefore = 50'000'000; // bytes
+
+Result<void> saveAndTell(ProjectText text, const QString &path)
+{
+    Result<void> saved = text.save(path);
+    hostMessage(saved ? QStringLiteral("saved \"%1\"").arg(path) : saved.message());
+    return saved;
+}
+
+} // namespace
 
 HostProject::HostProject(const QString &path)
     : m_path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
 {
 }
 
+HostProject::~HostProject()
+{
+    finishSaving();
+    if (m_isOpen && !m_isSaved) [[maybe_unused]]
+        const Result<void> saved = saveAndTell(m_text, m_path);
+}
+
 Result<void> HostProject::open()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_document)
+    if (m_isOpen)
         return {};
-    auto document = XmlDocument::fromFile(m_path, {.tolerant = false});
-    if (!document)
-        return document.failure();
-    if (document.value()->wasRepaired()) {
-        return Failure{QStringLiteral("The file \"%1\" cannot be opened as a project: %2")
-                           .arg(m_path, document.value()->firstFault())};
-    }
-    if (!document.value()->rootElement().isElement("xmeml"))
-        return Failure{QStringLiteral("The file \"%1\" is no xmeml project.").arg(m_path)};
-    m_document = std::move(document.value());
+    auto text = ProjectText::fromFile(m_path);
+    if (!text)
+        return text.failure();
+    set(std::move(text.value()));
+    m_isSaved = true;
     m_isOpen = true;
     return {};
 }
 
-void HostProject::openEmpty(std::int64_t xmemlVersion)
+Result<void> HostProject::openEmpty(std::int64_t xmemlVersion)
 {
-    const QByteArray skeleton =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?><!DOCTYPE xmeml><xmeml version=\"" +
-        QByteArray::number(qlonglong(xmemlVersion)) + "\"><project><name/><children/></project></xmeml>";
     const std::lock_guard lock(m_mutex);
-    auto document = XmlDocument::fromData(skeleton, {});
-    if (!document)
-        return;
-    m_document = std::move(document.value());
-    XmlEdit::setText(m_document->rootElement().childElement("project").childElement("name"),
-                     FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName()));
+    auto text =
+        ProjectText::empty(FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName()), xmemlVersion);
+    if (!text)
+        return text.failure();
+    set(std::move(text.value()));
     m_isOpen = true;
+    return {};
 }
 
 Result<void> HostProject::close(const QString &savesTo)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_document)
+    if (!m_isOpen)
         return {};
-    // The file always holds what the project does: nothing but an import changes one, and it saves.
-    if (!savesTo.isEmpty() && (savesTo != m_path || !QFileInfo::exists(m_path))) {
-        if (const Result<void> saved = m_document->save(savesTo); !saved)
+    finishSaving();
+    // The file holds what the project does: nothing but an import changes one, and it saves.
+    if (!savesTo.isEmpty() && (savesTo != m_path || !m_isSaved || !QFileInfo::exists(m_path))) {
+        if (const Result<void> saved = m_text.save(savesTo); !saved)
             return saved;
     }
     m_isOpen = false;
-    m_document.reset();
+    set({});
     return {};
 }
 
-Result<QByteArray> HostProject::xml(const std::atomic<bool> *cancelled) const
+Result<QByteArray> HostProject::xml()
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_document)
-        return notOpen();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (const Result<void> written = m_document->writeUtf8(buffer, cancelled); !written)
-        return written.failure();
-    return buffer.data();
+    return m_isOpen ? Result<QByteArray>(m_text.xml()) : notOpen();
 }
 
-Result<QByteArray> HostProject::itemXml(const QString &identifier) const
+Result<QByteArray> HostProject::itemXml(const QString &identifier)
 {
     const std::lock_guard lock(m_mutex);
     const Result<XmlNode> found = item(identifier);
     if (!found)
         return found.failure();
-    const QString version = m_document->rootElement().attribute("version").toHtmlEscaped();
+    const QString version = m_tree->rootElement().attribute("version").toHtmlEscaped();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     buffer.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE xmeml>\n<xmeml");
@@ -98,15 +109,14 @@ Result<QByteArray> HostProject::itemXml(const QString &identifier) const
     return buffer.data();
 }
 
-Result<QByteArray> HostProject::tableOfContents() const
+Result<QByteArray> HostProject::tableOfContents()
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_document)
-        return notOpen();
-    return ProjectItems::tableOfContents(m_document->rootElement());
+    const Result<XmlNode> element = root();
+    return element ? Result<QByteArray>(ProjectItems::tableOfContents(element.value())) : element.failure();
 }
 
-Result<QString> HostProject::itemName(const QString &identifier) const
+Result<QString> HostProject::itemName(const QString &identifier)
 {
     const std::lock_guard lock(m_mutex);
     const Result<XmlNode> found = item(identifier);
@@ -118,29 +128,35 @@ Result<QString> HostProject::itemName(const QString &identifier) const
 Result<void> HostProject::add(const ImportedXml &imported)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_document)
+    if (!m_isOpen)
         return notOpen();
-    const XmlNode container = ProjectItems::container(m_document->rootElement());
-    XmlNodeList added;
-    for (const XmlNode source : imported.items) {
-        const XmlNode copy = m_document->copyOfElement(source);
-        m_document->moveTo(copy, container);
-        added.push_back(copy);
-    }
-    const Result<void> saved = m_document->save(m_path);
-    if (!saved) {
-        for (const XmlNode copy : added)
-            m_document->remove(copy);
-    }
-    return saved;
+    finishSaving();
+    const ProjectText before = m_text;
+    const bool wasSaved = m_isSaved;
+    set(m_text.with(imported));
+    m_isSaved = false;
+    hostMessage(QStringLiteral("imported into \"%1\"").arg(m_path));
+    startSaving();
+    if (m_text.size() > mostWrittenBefore)
+        return {};
+    finishSaving();
+    if (m_isSaved)
+        return {};
+    set(before);
+    m_isSaved = wasSaved;
+    return Failure{QStringLiteral("The import into \"%1\" is undone, as it could not be saved.").arg(m_path)};
 }
 
-Result<void> HostProject::save(const QString &path) const
+Result<void> HostProject::save(const QString &path)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_document)
+    if (!m_isOpen)
         return notOpen();
-    return m_document->save(path);
+    finishSaving();
+    const Result<void> saved = m_text.save(path);
+    if (saved && path == m_path)
+        m_isSaved = true;
+    return saved;
 }
 
 Failure HostProject::notOpen() const
@@ -148,15 +164,53 @@ Failure HostProject::notOpen() const
     return Failure{QStringLiteral("The project \"%1\" is not open.").arg(m_path)};
 }
 
-Result<XmlNode> HostProject::item(const QString &identifier) const
+void HostProject::set(ProjectText text)
 {
-    if (!m_document)
+    m_text = std::move(text);
+    m_tree.reset();
+}
+
+Result<XmlNode> HostProject::root()
+{
+    if (!m_isOpen)
         return notOpen();
-    const XmlNode found = ProjectItems::find(m_document->rootElement(), identifier);
+    if (!m_tree) {
+        auto tree = m_text.tree();
+        if (!tree)
+            return tree.failure();
+        m_tree = std::move(tree.value());
+    }
+    return m_tree->rootElement();
+}
+
+Result<XmlNode> HostProject::item(const QString &identifier)
+{
+    const Result<XmlNode> element = root();
+    if (!element)
+        return element;
+    const XmlNode found = ProjectItems::find(element.value(), identifier);
     if (!found) {
         return Failure{QStringLiteral("The project \"%1\" holds no item \"%2\".").arg(m_path, identifier)};
     }
     return found;
+}
+
+void HostProject::startSaving()
+{
+    const auto save = [text = m_text, path = m_path] { return saveAndTell(text, path); };
+    try {
+        m_saving = std::async(std::launch::async, save);
+    } catch (const std::system_error &) {
+        std::promise<Result<void>> saved; // no thread to be had
+        saved.set_value(save());
+        m_saving = saved.get_future();
+    }
+}
+
+void HostProject::finishSaving()
+{
+    if (m_saving.valid())
+        m_isSaved = m_saving.get().isOk();
 }
 
 } // namespace vantrell

@@ -62,7 +62,8 @@ Result<std::shared_ptr<HostProject>> HostProjects::makeNew(std::int64_t xmemlVer
         file.setFileName(folder + QStringLiteral("/Vantrell %1.xml").arg(number));
     }
     auto project = std::make_shared<HostProject>(file.fileName());
-    project->openEmpty(xmemlVersion);
+    if (const Result<void> opened = project->openEmpty(xmemlVersion); !opened)
+        return opened.failure();
     m_projects.push_back(project);
     return project;
 }

@@ -39,7 +39,6 @@ void HostServer::serve(int listener, int stop)
         if (waiting[0].revents != 0)
             accept(listener, stop);
     }
-    m_events.cancel();
     for (Client &client : m_clients)
         client.thread.join();
     m_clients.clear();

@@ -64,15 +64,6 @@ void listItems(XmlNode container, XmlNode listing)
 
 } // namespace
 
-XmlNode container(XmlNode root)
-{
-    const XmlNode project = root.childElement("project");
-    if (!project)
-        return root;
-    const XmlNode children = project.childElement("children");
-    return children ? children : XmlEdit::appendElement(project, QStringLiteral("children"), QString());
-}
-
 XmlNode find(XmlNode root, const QString &identifier)
 {
     if (identifier.isEmpty())

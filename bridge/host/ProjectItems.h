@@ -8,10 +8,6 @@
 namespace vantrell::ProjectItems
 {
 
-/// The element that new items of an xmeml become children of: that of the project's children, which is
-/// appended when the project has none; the root when there is no project.
-XmlNode container(XmlNode root);
-
 /// The bin, clip or sequence with that UUID, else the one with that id, which may be given as it is written
 /// or with its percent escapes undone. What lies directly in the project or in its bins comes before
 /// sequences that lie in others. Null when there is none.

@@ -142,12 +142,16 @@ void DocumentWindow::makeContent()
 {
     auto *const central = new QWidget(this);
     m_notice = new NoticeBar(central);
+    m_ownersNotice = new NoticeBar(central);
+    m_ownersNotice->setAction(tr("Show Each Under Its Own"),
+                              [this] { m_defaults.setValue(MarkerInventory::ownOwnersDefault, true); });
     m_content = new QStackedWidget(central);
     m_content->addWidget(makeFailurePage());
     auto *const layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_notice);
+    layout->addWidget(m_ownersNotice);
     layout->addWidget(m_content, 1);
     setCentralWidget(central);
 }
@@ -214,6 +218,7 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     m_state = State::Loading;
     m_treeLoaded = false;
     m_notice->setNotice(QString());
+    m_ownersNotice->setNotice(QString());
     m_toolBar->setEnabled(true);
     setWindowModified(false);
     updateEditing();
@@ -225,6 +230,7 @@ void DocumentWindow::endSession()
     if (!m_workbench)
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
+    closePrintPanel();
     m_interface->disconnectFromWindow();
     forgetBusiness();
     m_progress->endProgress();
@@ -259,7 +265,10 @@ void DocumentWindow::inventoriesEnded()
         m_notice->setNotice(before + (before.isEmpty() ? QString() : QStringLiteral("\n")) + incompleteLists,
                             NoticeBar::Kind::Lasting);
     }
+    rememberFile();
     updateEditing();
+    tellOwners();
+    applyOwnerListing();
     Q_EMIT menusChanged();
 }
 
@@ -325,6 +334,7 @@ void DocumentWindow::endBusy()
     if (isUnmoved && m_focusBefore && m_focusBefore != focusWidget() && m_focusBefore->isVisible())
         m_focusBefore->setFocus();
     Q_EMIT menusChanged();
+    applyOwnerListing();
     if (std::exchange(m_closesWhenIdle, false))
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
@@ -335,7 +345,7 @@ void DocumentWindow::forgetBusiness()
     qDeleteAll(findChildren<MarkerListImport *>());
     m_progressDelay->stop();
     m_isBusy = m_isSending = m_givesUpForClosing = false;
-    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = false;
+    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = m_isSettling = false;
     m_noticeBefore.reset();
     m_cancelBusy = nullptr;
 }
@@ -393,6 +403,15 @@ QString DocumentWindow::message() const
     if (m_state == State::Failed)
         return (m_failure->text() + QLatin1Char('\n') + m_failureReason->text()).trimmed();
     return m_notice->notice();
+}
+
+bool DocumentWindow::refusesAfterFailedLoad()
+{
+    if (m_state != State::Failed || m_closing)
+        return false;
+    QVAlert::alertSheetWithMessageText(m_failure->text(), QString(), QString(), QString(),
+                                       m_failureReason->text(), m_interface->alertParent(), false);
+    return true;
 }
 
 Tab DocumentWindow::selectedTab() const
@@ -455,8 +474,40 @@ void DocumentWindow::showPane(Tab tab)
 
 void DocumentWindow::applyDefaultsChange(const QString &key)
 {
-    if (m_panes[std::size_t(Tab::Markers)] && !m_closing)
-        markersPane().applyDefaultsChange(key);
+    for (TabPane *const pane : m_panes) {
+        if (pane && !m_closing)
+            pane->applyDefaultsChange(key);
+    }
+    if (key == MarkerInventory::ownOwnersDefault)
+        applyOwnerListing();
+}
+
+/// Says when markers are listed under other owners than their own.
+void DocumentWindow::tellOwners()
+{
+    const QString text = m_workbench->markerInventory().listedUnderOthersText();
+    m_ownersNotice->setNotice(text.isEmpty() ? text : text + QLatin1Char('.'));
+}
+
+/// Lists the markers anew when the user wants other owners listed; as soon as nothing else goes on.
+void DocumentWindow::applyOwnerListing()
+{
+    if (m_closing || !m_workbench || !mayEdit() || m_closesWhenIdle)
+        return;
+    MarkerInventory &inventory = m_workbench->markerInventory();
+    const auto wanted =
+        m_defaults.boolean(MarkerInventory::ownOwnersDefault) ? OwnerListing::Own : OwnerListing::ByPosition;
+    if (inventory.ownerListing() == wanted)
+        return;
+    commitEditing();
+    inventory.setOwnerListing(wanted);
+    beginBusy(tr("Listing markers…"), {});
+    setCancellable(false);
+    m_workbench->document().runInBackground([&inventory] { inventory.populateMarkerData(); },
+                                            [this] {
+                                                endBusy();
+                                                tellOwners();
+                                            });
 }
 
 MarkersPane &DocumentWindow::markersPane() const

@@ -26,10 +26,15 @@ namespace vantrell
 class DocumentWindowInterface;
 class MyDocument;
 class MarkersPane;
+class PrintOperation;
+class PrintPanel;
 class ProgressSheet;
+class PropertyListDictionary;
+class QVPrintViewController;
 class TabPane;
 class UserDefaults;
 class Workbench;
+enum class ReportFormat;
 
 /// The window of one document, which it owns: the three panes behind a toolbar, of which one shows. It
 /// ends with its document; closing it asks about changes first, and it deletes itself afterwards. Main
@@ -77,6 +82,26 @@ public:
 
     /// What the window says about its file: why it could not be loaded, or that it had to be repaired.
     QString message() const;
+    /// Whether the project could not be loaded; an alert then says so, with the reason. What needs a project
+    /// asks this first.
+    bool refusesAfterFailedLoad();
+
+    /// How the window finds out whether a file that it is to be saved to is open in another one.
+    void setOpenElsewhere(std::function<bool(const QString &path)> isOpenElsewhere)
+    {
+        m_isOpenElsewhere = std::move(isOpenElsewhere);
+    }
+
+    // Closing in two steps, for several windows to be asked about before one closes
+
+    /// What becomes of changes: the user is asked as by closing, or they are saved.
+    enum class Settling { Ask, Save };
+    /// Settles the changes and leaves the window open; changesSettled() tells the end of it.
+    void settleChanges(Settling settling);
+    /// Closes the window. About changes that were settled nobody is asked again.
+    void closeSettled();
+    /// What runs and is given up when the window closes is given up.
+    void giveUpForClosing();
 
 public Q_SLOTS:
     /// The toolbar's actions: each fills its pane and shows it.
@@ -112,6 +137,14 @@ public Q_SLOTS:
     void exportMarkerList(const QString &path, const QString &format);
     void exportChangedSequencesTo(const QString &path);
 
+    /// Prints the table of the pane that shows: its selected rows, or all of them. The print panel asks for
+    /// the columns, and for paper or a PDF file.
+    void printDocument();
+    /// Asks what a report of that table shows and what it is written as.
+    void exportReport();
+    /// What the sheet ends with.
+    void exportReportTo(const QString &path, vantrell::ReportFormat format);
+
     /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
@@ -122,6 +155,16 @@ public Q_SLOTS:
     void removeSelection();
     /// Shows the effects with the keyboard in their search field.
     void findEffects();
+
+public:
+    /// Prints what the web view shows with the settings, see PrintInfo, as they are or as the print panel
+    /// changes them; tells whether it was printed.
+    void printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+                                   const std::function<void(bool didPrint)> &didPrint);
+    /// There is no way to print the document but printDocument(): null.
+    PrintOperation *printOperationWithSettings(const PropertyListDictionary &settings, QString *error);
+    /// Whether a report may be made now.
+    bool mayReport() const;
 
 Q_SIGNALS:
     /// What the menus depend on is another than before.
@@ -134,6 +177,9 @@ Q_SIGNALS:
     void markersImported(std::size_t count);
     void markersExported(bool isWritten);
     void changedSequencesExported(bool isWritten);
+    /// The print panel is over.
+    void reportPrinted(bool isPrinted);
+    void reportExported(bool isWritten);
     void loadFailed(const QString &path);
     /// The user wants these files opened.
     void filesDropped(const QStringList &paths);
@@ -141,6 +187,9 @@ Q_SIGNALS:
     void closed();
     /// The user does not want the window to be closed, after all.
     void closeCancelled();
+    /// The changes are saved or to be given up, or the user does not want to part with the window, or they
+    /// could not be saved.
+    void changesSettled(bool areSettled);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -167,8 +216,12 @@ private:
     void cancelProgress();
     void writeEnded(const QString &path, const Result<void> &written);
     void tellOfFailedSave(const QString &path, const QString &reason);
+    void askAboutChangedFile(const QString &path);
     void saveEnded(const QString &path, bool isSaved);
+    void rememberFile();
+    void runProjectPanel(const std::function<void()> &whenCancelled = {});
     void closeAfterSave(bool isSaved);
+    void changesEnded(bool areSettled);
     bool isProject() const;
     void hideSending();
     void sendEnded();
@@ -176,7 +229,15 @@ private:
     void tellOfImport(std::size_t imported, std::size_t total, const QStringList &paths);
     void exportEnded(const QString &path, const QString &format, std::size_t count,
                      const Result<void> &written);
+    void tellOfExport(const QString &text, const QString &format);
     void tellInMarkers(const QString &text);
+    void tellOwners();
+    void applyOwnerListing();
+    QString fileTitle() const;
+    void tellOfReport(const QString &what, const QString &reason);
+    void documentDidPrint(Tab printed, bool didPrint);
+    void reportExportEnded(const QString &path, const Result<void> &written, bool isCancelled);
+    void closePrintPanel();
     void setPath(const QString &path);
     void showPane(Tab tab);
     MarkersPane &markersPane() const;
@@ -203,6 +264,9 @@ private:
     bool m_closing = false;
     bool m_asksBeforeClosing = false;
     bool m_closesWhenSaved = false;
+    bool m_isSettling = false;     // closing ends with the changes
+    bool m_givesUpChanges = false; // when it closes
+    std::function<bool(const QString &path)> m_isOpenElsewhere;
 
     // Something long
     bool m_isBusy = false;
@@ -223,10 +287,14 @@ private:
     QActionGroup *m_toolBarItems = nullptr;
     QString m_selectedToolbarItemIdentifier;
     NoticeBar *m_notice = nullptr;
+    NoticeBar *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;
     ProgressSheet *m_progress = nullptr;
+
+    QPointer<PrintPanel> m_printPanel;
+    QPointer<QVPrintViewController> m_printViewController; // of what was printed last
 
     // The document and what shows it, exchanged together when the file is loaded again.
     std::shared_ptr<DocumentWindowInterface> m_interface;

@@ -58,6 +58,11 @@ void DocumentWindowInterface::setLabel(Label label, const QString &text)
     withPanes([&](TabPane &pane) { pane.setLabel(label, text); });
 }
 
+void DocumentWindowInterface::showMessage(Tab tab, const QString &text)
+{
+    withPane(tab, [&](TabPane &pane) { pane.showMessage(text); });
+}
+
 void DocumentWindowInterface::setSequenceMenu(const MenuPtr &menu)
 {
     withPane(Tab::Markers, [&](TabPane &pane) { pane.setSequenceMenu(menu); });

@@ -39,6 +39,7 @@ public:
     void tableWillReload() override;
     void tableDidReload() override;
     void setLabel(Label label, const QString &text) override;
+    void showMessage(Tab tab, const QString &text) override;
     void setSequenceMenu(const MenuPtr &menu) override;
     std::vector<std::size_t> selectedRows(Tab tab) override;
     void selectRows(Tab tab, const std::vector<std::size_t> &rows) override;

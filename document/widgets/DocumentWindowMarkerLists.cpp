@@ -8,7 +8,7 @@
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
 #include "support/BackgroundWork.h"
-#include "support/FileUtilities.h"
+#include "support/CancellableWrite.h"
 #include "workbench/Workbench.h"
 
 #include <QFileInfo>
@@ -21,7 +21,7 @@ namespace vantrell
 
 bool DocumentWindow::mayChangeMarkers()
 {
-    if (m_isBusy)
+    if (m_isBusy || refusesAfterFailedLoad())
         return false;
     if (m_state != State::Loading || m_workbench->document().isPopulating(Tab::Markers))
         return true; // whoever is asked next looks at the markers themselves
@@ -46,7 +46,7 @@ void DocumentWindow::runOpenPanel(const QString &format)
 
 void DocumentWindow::importMarkerLists(const QStringList &paths, const QString &format)
 {
-    if (m_isBusy || m_closing || m_state != State::Ready)
+    if (refusesAfterFailedLoad() || m_isBusy || m_closing || m_state != State::Ready)
         return;
     auto *const import =
         new MarkerListImport(m_workbench->document(), m_workbench->markerListImporter(), paths, format, this);
@@ -98,7 +98,7 @@ void DocumentWindow::tellInMarkers(const QString &text)
 void DocumentWindow::runSavePanel(const QString &format)
 {
     commitEditing();
-    if (m_isBusy)
+    if (m_isBusy || refusesAfterFailedLoad())
         return;
     if (const auto panel = m_workbench->markerListExporter().showMarkerListSaveDialog(format)) {
         runMarkerListSavePanel(*panel, this, folder(),
@@ -108,21 +108,21 @@ void DocumentWindow::runSavePanel(const QString &format)
 
 void DocumentWindow::exportMarkerList(const QString &path, const QString &format)
 {
-    if (m_isBusy || m_closing)
+    if (refusesAfterFailedLoad() || m_isBusy || !document())
         return;
     const QByteArray list = m_workbench->markerListExporter().textOfMarkerList(format).toUtf8();
     const std::size_t count = m_workbench->document().markerArray().size();
-    const auto isWaited = std::make_shared<bool>(true);
-    beginBusy(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [this, isWaited] {
-        *isWaited = false;
-        endBusy();
+    const auto write = std::make_shared<CancellableWrite>();
+    beginBusy(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [this, write] {
+        if (write->cancel())
+            endBusy();
     });
     m_givesUpForClosing = true;
     const auto gate = m_workbench->document().mainThread();
-    BackgroundWork::run([this, gate, isWaited, path, format, count, list] {
-        const Result<void> written = FileUtilities::writeAtomically(path, list);
-        gate->post([this, isWaited, path, format, count, written] {
-            if (*isWaited)
+    BackgroundWork::run([this, gate, write, path, format, count, list] {
+        const Result<void> written = FileUtilities::writeAtomically(path, list, write->check());
+        gate->post([this, write, path, format, count, written] {
+            if (!write->isCancelled())
                 exportEnded(path, format, count, written);
         });
     });
@@ -136,11 +136,18 @@ void DocumentWindow::exportEnded(const QString &path, const QString &format, std
     if (!written)
         m_workbench->markerListExporter().tellOfFailure(format, written.message());
     else if (count == 1)
-        tellInMarkers(tr("1 marker exported to “%1”").arg(name));
+        tellOfExport(tr("1 marker exported to “%1”").arg(name), format);
     else
-        tellInMarkers(tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name));
+        tellOfExport(tr("%1 markers exported to “%2”").arg(QLocale().toString(qulonglong(count)), name),
+                     format);
     if (!m_closing)
         Q_EMIT markersExported(written.isOk());
+}
+
+void DocumentWindow::tellOfExport(const QString &text, const QString &format)
+{
+    const QString unreadable = m_workbench->markerListExporter().unreadableRowsText(format);
+    tellInMarkers(unreadable.isEmpty() ? text : text + QStringLiteral("; ") + unreadable);
 }
 
 void DocumentWindow::importFCPMarkers()

@@ -2,9 +2,11 @@
 
 #include "document/widgets/DocumentWindow.h"
 
+#include "document/widgets/ChangedFileSheet.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
 #include "media/AnswerWithin.h"
+#include "support/BackgroundWork.h"
 #include "support/widgets/NestedEvents.h"
 #include "workbench/Workbench.h"
 
@@ -39,9 +41,18 @@ void DocumentWindow::saveTo(const QString &path)
         sendToFCP();
         return;
     }
+    const auto *const sheet = findChild<ChangedFileSheet *>();
+    if (sheet && sheet->isVisible())
+        return; // the answer decides on this save as well
     commitEditing();
     MyDocument *const loaded = document();
-    if (!loaded || m_isBusy || m_isSending) {
+    if (refusesAfterFailedLoad() || !loaded || m_isBusy || m_isSending) {
+        saveEnded(path, false);
+        return;
+    }
+    if (path != m_path && m_isOpenElsewhere && m_isOpenElsewhere(path)) {
+        tellOfFailedSave(path, tr("The file is open in another window. Close that window first, or choose "
+                                  "another name."));
         saveEnded(path, false);
         return;
     }
@@ -60,6 +71,10 @@ void DocumentWindow::writeEnded(const QString &path, const Result<void> &written
 {
     if (m_isBusy)
         endBusy();
+    if (!written && written.message() == SaveFailure::changedElsewhere) {
+        askAboutChangedFile(path);
+        return;
+    }
     if (!written)
         tellOfFailedSave(path, written.message());
     saveEnded(path, written.isOk());
@@ -74,6 +89,28 @@ void DocumentWindow::tellOfFailedSave(const QString &path, const QString &reason
         QString(), reason, m_interface->alertParent(), false);
 }
 
+/// Another program has changed the file: the save is over once the user has chosen.
+void DocumentWindow::askAboutChangedFile(const QString &path)
+{
+    using Choice = ChangedFileSheet::Choice;
+    auto *const sheet = new ChangedFileSheet(QFileInfo(path).fileName(), this);
+    connect(sheet, &ChangedFileSheet::chosen, this, [this, path](Choice choice) {
+        if (m_closing)
+            return;
+        if (choice == Choice::Overwrite) {
+            document()->overwriteChangedFile();
+            saveTo(path);
+        } else if (choice == Choice::SaveAs) {
+            runProjectPanel([this, path] { saveEnded(path, false); });
+        } else {
+            saveEnded(path, false);
+            if (choice == Choice::Reload && !m_closing)
+                revertWithoutQuestion();
+        }
+    });
+    sheet->open();
+}
+
 void DocumentWindow::saveEnded(const QString &path, bool isSaved)
 {
     MyDocument *const loaded = document();
@@ -83,28 +120,79 @@ void DocumentWindow::saveEnded(const QString &path, bool isSaved)
         m_notice->setNotice(QString());
         m_typeName = DocumentType::finalCutProXMLFile;
         setPath(path);
+        rememberFile();
         Q_EMIT this->loaded(path);
     }
     Q_EMIT saved(isSaved);
     closeAfterSave(isSaved);
 }
 
-/// Closes the window when that is what the save was for.
+/// Beside the window: what the file holds now is known should it be touched or copied back.
+void DocumentWindow::rememberFile()
+{
+    BackgroundWork::run([file = m_workbench->document().knownFile()] { file->rememberContent(); });
+}
+
+/// Goes on with what the save was for.
 void DocumentWindow::closeAfterSave(bool isSaved)
 {
-    if (!std::exchange(m_closesWhenSaved, false))
-        return;
-    if (isSaved)
+    if (std::exchange(m_closesWhenSaved, false))
+        changesEnded(isSaved);
+}
+
+/// The user has decided about the changes; what is to be lost is lost with the window.
+void DocumentWindow::changesEnded(bool areSettled)
+{
+    if (std::exchange(m_isSettling, false))
+        Q_EMIT changesSettled(areSettled);
+    else if (areSettled)
         shutDown();
     else
         Q_EMIT closeCancelled();
 }
 
+void DocumentWindow::settleChanges(Settling settling)
+{
+    commitEditing();
+    const MyDocument *const loaded = document();
+    m_isSettling = true;
+    m_givesUpChanges = false;
+    if (!loaded || !loaded->isEdited()) {
+        changesEnded(true);
+    } else if (settling == Settling::Ask) {
+        askBeforeClosing();
+    } else {
+        m_closesWhenSaved = true;
+        if (!m_isSending)
+            save();
+    }
+}
+
+void DocumentWindow::closeSettled()
+{
+    if (m_givesUpChanges && !m_isBusy)
+        shutDown();
+    else
+        close();
+}
+
+void DocumentWindow::giveUpForClosing()
+{
+    if (m_isBusy && m_givesUpForClosing)
+        cancelProgress();
+}
+
 void DocumentWindow::saveAs()
 {
     commitEditing();
-    if (!document() || m_isBusy)
+    if (refusesAfterFailedLoad() || !document() || m_isBusy)
         return;
+    runProjectPanel();
+}
+
+/// Asks where to save the project; `whenCancelled` may be empty.
+void DocumentWindow::runProjectPanel(const std::function<void()> &whenCancelled)
+{
     auto *const dialog = new QFileDialog(this, tr("Save As"), folder(), tr("XML files (*.xml *.XML)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -115,6 +203,8 @@ void DocumentWindow::saveAs()
         dialog->hide(); // an alert then is the window's only sheet
         saveTo(dialog->selectedFiles().value(0));
     });
+    if (whenCancelled)
+        connect(dialog, &QDialog::rejected, this, whenCancelled);
     dialog->open();
 }
 
@@ -130,7 +220,7 @@ void DocumentWindow::revert()
     }
     QVAlert::alertSheetWithMessageText(
         tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_path).fileName()),
-        tr("Revert"), tr("Cancel"), QString(), tr("Your changes since it was last saved will be lost."),
+        tr("Cancel"), tr("Revert"), QString(), tr("Your changes since it was last saved will be lost."),
         m_interface->alertParent(), this, revertQuestion, false, nullptr);
 }
 
@@ -176,8 +266,7 @@ void DocumentWindow::closeEvent(QCloseEvent *event)
     if (m_isBusy) { // what runs ends first
         event->ignore();
         m_closesWhenIdle = true;
-        if (m_givesUpForClosing)
-            cancelProgress();
+        giveUpForClosing();
         return;
     }
     const MyDocument *const loaded = document();
@@ -216,7 +305,7 @@ void DocumentWindow::perform(const QString &selector, QVAlert *, int code)
         return;
     if (selector == closeQuestion)
         closeQuestionEnded(code);
-    else if (code == AlertAnswer::Default)
+    else if (code == AlertAnswer::Alternate)
         revertWithoutQuestion();
 }
 
@@ -224,15 +313,14 @@ void DocumentWindow::closeQuestionEnded(int code)
 {
     m_asksBeforeClosing = false;
     if (code == AlertAnswer::Default && !document()->isEdited()) {
-        shutDown(); // sent while the question stood
+        changesEnded(true); // sent while the question stood
     } else if (code == AlertAnswer::Default) {
         m_closesWhenSaved = true;
         if (!m_isSending)
             save();
-    } else if (code == AlertAnswer::Alternate) {
-        shutDown();
     } else {
-        Q_EMIT closeCancelled();
+        m_givesUpChanges = code == AlertAnswer::Alternate;
+        changesEnded(m_givesUpChanges);
     }
 }
 

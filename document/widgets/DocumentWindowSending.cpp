@@ -30,7 +30,7 @@ void DocumentWindow::sendToFCP()
 {
     commitEditing();
     MyDocument *const loaded = document();
-    if (!loaded || m_isBusy || m_isSending) {
+    if (refusesAfterFailedLoad() || !loaded || m_isBusy || m_isSending) {
         Q_EMIT saved(false);
         closeAfterSave(false);
         return;
@@ -69,7 +69,7 @@ void DocumentWindow::sendEnded()
 void DocumentWindow::exportChangedSequences()
 {
     commitEditing();
-    if (!document() || m_isBusy || m_isSending)
+    if (refusesAfterFailedLoad() || !document() || m_isBusy || m_isSending)
         return;
     auto *const dialog =
         new QFileDialog(this, tr("Export Changed Sequences"), folder(), tr("XML files (*.xml *.XML)"));
@@ -90,7 +90,7 @@ void DocumentWindow::exportChangedSequences()
 void DocumentWindow::exportChangedSequencesTo(const QString &path)
 {
     MyDocument *const loaded = document();
-    if (!loaded || m_isBusy || m_isSending)
+    if (refusesAfterFailedLoad() || !loaded || m_isBusy || m_isSending)
         return;
     struct Export {
         std::atomic<bool> isCancelled = false;

@@ -4,7 +4,6 @@
 #include "support/BackgroundWork.h"
 #include "support/QVException.h"
 
-#include <QPointer>
 #include <QTimer>
 
 #include <chrono>
@@ -40,7 +39,7 @@ void MarkerListImport::start()
 {
     const auto gate = m_document.mainThread();
     BackgroundWork::run([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
-        auto rows = std::make_shared<RowList>();
+        auto rows = std::make_shared<MarkerListImporter::Rows>();
         guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
                 [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });
         gate->post([this, isWanted, rows] {
@@ -58,9 +57,9 @@ void MarkerListImport::cancel()
     Q_EMIT ended(0, 0);
 }
 
-void MarkerListImport::add(RowList rows)
+void MarkerListImport::add(MarkerListImporter::Rows rows)
 {
-    if (rows.empty()) {
+    if (rows.rows.empty()) {
         const MarkerListImporter &importer = m_importer;
         Q_EMIT ended(0, 0);
         importer.tellNothingToImport();
@@ -73,26 +72,22 @@ void MarkerListImport::add(RowList rows)
 
 void MarkerListImport::addSome()
 {
-    // An alert on the way takes its answer here: the next few wait for it.
-    const QPointer self(this);
-    MarkerListImporter::Progress progress = m_progress;
-    const bool goesOn = guarded("MarkerListImport::addSome",
-                                [&] { progress = m_importer.addMarkers(m_rows, m_progress, slice); });
-    if (!self || m_document.isClosing() || m_document.mainThread()->isClosed())
+    if (m_document.isClosing() || m_document.mainThread()->isClosed())
         return;
-    m_progress = progress;
-    if (!goesOn) {
-        m_updates.reset();
-        Q_EMIT ended(m_progress.added, m_rows.size());
-        return;
-    }
-    Q_EMIT progressed(progress.next, m_rows.size());
-    if (progress.next < m_rows.size()) {
+    const std::size_t total = m_rows.rows.size();
+    const bool goesOn = guarded("MarkerListImport::addSome", [this] {
+        m_progress = m_importer.addMarkers(m_rows, std::move(m_progress), slice);
+    });
+    Q_EMIT progressed(m_progress.next, total);
+    if (goesOn && m_progress.next < total) {
         QTimer::singleShot(0, this, &MarkerListImport::addSome);
         return;
     }
     m_updates.reset(); // the table shows them all at once
-    Q_EMIT ended(progress.added, m_rows.size());
+    const MarkerListImporter &importer = m_importer;
+    const MarkerListImporter::Progress progress = std::move(m_progress);
+    Q_EMIT ended(progress.added, total);
+    importer.tellOfRejected(progress);
 }
 
 } // namespace vantrell

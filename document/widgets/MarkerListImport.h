@@ -39,7 +39,7 @@ Q_SIGNALS:
     void ended(std::size_t imported, std::size_t total);
 
 private:
-    void add(RowList rows);
+    void add(MarkerListImporter::Rows rows);
     void addSome();
 
     MyDocument &m_document;
@@ -47,7 +47,7 @@ private:
     const QStringList m_paths;
     const QString m_format;
     std::shared_ptr<bool> m_isWanted = std::make_shared<bool>(true); // what the reading looks at when it ends
-    RowList m_rows;
+    MarkerListImporter::Rows m_rows;
     MarkerListImporter::Progress m_progress;
     std::unique_ptr<TableUpdates> m_updates; // while markers are being added
 };

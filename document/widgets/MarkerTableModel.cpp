@@ -13,7 +13,7 @@ namespace
 {
 
 /// The places of the columns in markerColumns; those of custom fields follow.
-enum Column { Color, Name, Comment, In, Out, Sequence, Clip, Chapter, Compression, Scoring };
+enum MarkerColumn { Color, Name, Comment, In, Out, Sequence, Clip, Chapter, Compression, Scoring };
 
 const TypedKey<std::int64_t> &flagKey(int column)
 {
@@ -76,7 +76,7 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
     std::vector<PopUpItem> items;
     if (index.column() == Color) {
         for (int i = 0; i < m_colorLabels.size(); ++i)
-            items.push_back({m_colorLabels[i], TableIcons::marker(i)});
+            items.push_back({m_colorLabels[i], TableIcons::marker(i), true});
         return items;
     }
     const RowRecord &record = *recordAt(index.row());
@@ -84,7 +84,8 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
     if (!menu)
         return items;
     for (const MenuItem &item : *menu)
-        items.push_back({item.title, TableIcons::named(item.image)});
+        items.push_back(
+            {item.title, TableIcons::named(item.image), !item.element || item.element.isAttached()});
     return items;
 }
 

@@ -10,8 +10,10 @@
 #include "document/widgets/TableIcons.h"
 #include "markers/MarkerTableValues.h"
 #include "support/FolderWatcher.h"
+#include "support/UserDefaults.h"
 #include "workbench/Workbench.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -36,12 +38,14 @@ bool isOpen(const QDialog *sheet)
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
               MarkerTableValues::sortValueOfColumn, parent)
+    , m_defaults(defaults)
     , m_filter(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
     , m_remove(new QPushButton(tr("Re&move…"), this))
     , m_offset(new QPushButton(tr("&Offset…"), this))
     , m_markerPresetPopUp(new MarkerPresetPopUp(this))
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
+    , m_ownOwners(new QCheckBox(tr("Own se&quence and clip"), this))
     , m_status(new QLabel(this))
 {
     m_filter->addItem(tr("All Colors"));
@@ -59,7 +63,16 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_fields->setToolTip(tr("Define columns of your own for the markers"));
     addControls(
         {m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_remove, m_offset, nullptr, m_fields});
-    footer().addWidget(m_status);
+    m_ownOwners->setToolTip(
+        tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
+           "position in different bins share one name, and so do the clips of a track"));
+    m_ownOwners->setChecked(defaults.boolean(MarkerInventory::ownOwnersDefault));
+    connect(m_ownOwners, &QCheckBox::clicked, this,
+            [this](bool own) { m_defaults.setValue(MarkerInventory::ownOwnersDefault, own); });
+    auto *const line = new QHBoxLayout;
+    line->addWidget(m_status, 1);
+    line->addWidget(m_ownOwners);
+    footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
@@ -206,10 +219,13 @@ void MarkersPane::showMarkerFieldsDialog()
 
 void MarkersPane::applyDefaultsChange(const QString &key)
 {
+    TabPane::applyDefaultsChange(key);
     if (key == QStringLiteral("customMarkerFields"))
         workbench().markerFields().definitionsChanged();
     else if (key == QStringLiteral("selectedPreset"))
         workbench().markerPresets().refreshMarkerPresets();
+    else if (key == MarkerInventory::ownOwnersDefault)
+        m_ownOwners->setChecked(m_defaults.boolean(key));
 }
 
 void MarkersPane::commitEdit(int, const QString &column, const QString &text)

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+class QCheckBox;
 class QComboBox;
 class QDialog;
 
@@ -29,9 +30,7 @@ public:
     void showMarkerPresetSheet() override;
     void hideMarkerPresetSheet() override;
     void setEditingEnabled(bool enabled) override;
-
-    /// A setting that all documents share changed.
-    void applyDefaultsChange(const QString &key);
+    void applyDefaultsChange(const QString &key) override;
 
 public Q_SLOTS:
     void addMarker();
@@ -58,12 +57,14 @@ private:
     MarkerTableModel &markerModel() const;
     void makeMenus();
 
+    UserDefaults &m_defaults;
     QComboBox *m_filter;
     QPushButton *m_add;
     QPushButton *m_remove;
     QPushButton *m_offset;
     MarkerPresetPopUp *m_markerPresetPopUp;
     QPushButton *m_fields;
+    QCheckBox *m_ownOwners;
     QLabel *m_status;
     QString m_message;
     QPointer<QDialog> m_presetSheet;

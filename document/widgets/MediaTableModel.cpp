@@ -13,7 +13,7 @@ namespace
 {
 
 /// The places of the columns in mediaColumns; no others are ever added.
-enum Column { FileName, FileType, FileSize, ModDate, UsageCount, Missing, Directory };
+enum MediaColumn { FileName, FileType, FileSize, ModDate, UsageCount, Missing, Directory };
 
 } // namespace
 

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
@@ -16,6 +17,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent)
     , m_text(new QLabel(this))
     , m_dismiss(new QToolButton(this))
+    , m_action(new QPushButton(this))
 {
     setBackgroundRole(QPalette::AlternateBase);
     setAutoFillBackground(true);
@@ -35,7 +37,9 @@ NoticeBar::NoticeBar(QWidget *parent)
     layout->setContentsMargins(10, 5, 6, 5);
     layout->addWidget(icon);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_action);
     layout->addWidget(m_dismiss);
+    m_action->hide();
     hide();
 }
 
@@ -49,6 +53,16 @@ void NoticeBar::setNotice(const QString &text, Kind kind)
         QAccessibleEvent event(m_text, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void NoticeBar::setAction(const QString &title, std::function<void()> action)
+{
+    m_action->setText(title);
+    m_action->show();
+    connect(m_action, &QPushButton::clicked, this, [this, action = std::move(action)] {
+        hide();
+        action();
+    });
 }
 
 QString NoticeBar::notice() const

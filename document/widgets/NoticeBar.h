@@ -2,7 +2,10 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
+class QPushButton;
 class QToolButton;
 
 namespace vantrell
@@ -28,10 +31,14 @@ public:
     QString notice() const;
     Kind kind() const { return m_kind; }
 
+    /// A button behind the notice, which puts the notice away.
+    void setAction(const QString &title, std::function<void()> action);
+
 private:
     QLabel *m_text;
     QToolButton *m_dismiss;
     Kind m_kind = Kind::Dismissible;
+    QPushButton *m_action;
 };
 
 } // namespace vantrell

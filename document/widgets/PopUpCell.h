@@ -1,17 +1,20 @@
 #pragma once
 
+#include "document/widgets/TableModel.h"
+
 #include <QComboBox>
 
 namespace vantrell
 {
 
-/// The list of a pop-up cell while it is open. Only a choice of the user's counts.
+/// The list of a pop-up cell while it is open. Only a choice of the user's counts. Opens as quickly with the
+/// clips of a long sequence as with a few colours.
 class PopUpCell : public QComboBox
 {
     Q_OBJECT
 
 public:
-    explicit PopUpCell(QWidget *parent);
+    PopUpCell(std::vector<PopUpItem> items, QWidget *parent);
 
     bool isChosen() const { return m_isChosen; }
 

@@ -94,8 +94,9 @@ QMenu *QVTableView::menuForEvent(const QPoint &position)
 {
     const QModelIndex index = indexAt(position);
     if (index.isValid()) {
-        setCurrentIndex(index);
-        selectRow(index.row());
+        // Whatever keys are held, which setCurrentIndex() and selectRow() would look at.
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     return m_menu;
 }

@@ -1,7 +1,10 @@
 #include "document/widgets/SheetTable.h"
 
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QStyledItemDelegate>
+
+#include <limits>
 
 namespace vantrell
 {
@@ -9,7 +12,7 @@ namespace vantrell
 namespace
 {
 
-/// Tells screen readers which cell is being edited.
+/// Edits texts of any length, and tells screen readers which cell is being edited.
 class SheetDelegate : public QStyledItemDelegate
 {
 public:
@@ -19,6 +22,8 @@ public:
                           const QModelIndex &index) const override
     {
         QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto *const field = qobject_cast<QLineEdit *>(editor))
+            field->setMaxLength(std::numeric_limits<int>::max());
         if (editor)
             editor->setAccessibleName(index.data(Qt::AccessibleDescriptionRole).toString());
         return editor;

@@ -90,6 +90,9 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         const bool isSelected = moves
                                     ? !selected.empty() && selected.front() == std::size_t(row)
                                     : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
+        const bool isOneRow = moves || !isSelected;
+        if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
+            return;
         if (!isSelected)
             selectRows({std::size_t(row)});
         commitEdit(row, column, text);
@@ -158,6 +161,7 @@ void TabPane::tableDidReload()
     m_isFilled = m_workbench.document().tableTab() == tab();
     if (m_isFilled)
         restoreRows();
+    showSortIndicator();
     updatePlaceholder();
     updateControls();
     Q_EMIT selectionChanged();
@@ -239,6 +243,18 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
     noteSelectionChange();
 }
 
+/// Whether the pop-up cells of all these rows show the item already.
+bool TabPane::showsChoice(const std::vector<std::size_t> &rows, const QString &column,
+                          const QString &item) const
+{
+    const int place = m_model->columnOf(column);
+    if (place < 0 || m_model->cellOf(place) != TableModel::Cell::PopUp)
+        return false;
+    return std::all_of(rows.begin(), rows.end(), [&](std::size_t row) {
+        return m_model->index(int(row), place).data(Qt::EditRole).toString() == item;
+    });
+}
+
 void TabPane::editCell(std::size_t row, const QString &column)
 {
     const int place = m_model->columnOf(column);
@@ -293,13 +309,21 @@ void TabPane::clickHeader(int section)
     sortBy(m_model->identifierOf(section));
 }
 
+std::optional<SortDescriptor> TabPane::shownSort() const
+{
+    const MyDocument &document = m_workbench.document();
+    const bool isSorted =
+        document.tableTab() == tab() && document.tableOrder() == MyDocument::RowOrder::Sorted;
+    const auto &descriptors = m_sorting.descriptors();
+    return isSorted && !descriptors.empty() ? std::optional(descriptors.front()) : std::nullopt;
+}
+
 void TabPane::showSortIndicator()
 {
-    const auto &descriptors = m_sorting.descriptors();
-    const int section = descriptors.empty() ? -1 : m_model->columnOf(descriptors.front().column);
-    const bool isDescending = !descriptors.empty() && descriptors.front().descending;
-    m_table->horizontalHeader()->setSortIndicator(section,
-                                                  isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    const std::optional<SortDescriptor> sort = shownSort();
+    const int section = sort ? m_model->columnOf(sort->column) : -1;
+    m_table->horizontalHeader()->setSortIndicator(section, sort && sort->descending ? Qt::DescendingOrder
+                                                                                    : Qt::AscendingOrder);
 }
 
 // Columns
@@ -320,9 +344,14 @@ void TabPane::addColumn(const QString &identifier, const QString &title)
         return;
     }
     m_model->addColumn(identifier, title);
-    const int width =
-        m_storedWidths.value(identifier, defaultWidth(identifier) * fontMetrics().averageCharWidth());
-    m_table->setColumnWidth(m_model->columnOf(identifier), width);
+    m_table->setColumnWidth(m_model->columnOf(identifier),
+                            m_storedWidths.value(identifier, usualWidth(identifier)));
+    if (storedOrder().contains(identifier)) {
+        restoreOrder();
+    } else {
+        saveLayout(); // or it would stand elsewhere in a window that gets its columns in another order
+        m_newColumns.insert(identifier);
+    }
     showSortIndicator();
 }
 
@@ -339,48 +368,96 @@ void TabPane::removeColumn(const QString &identifier)
 
 void TabPane::moveColumn(const QString &identifier, int index)
 {
+    if (!m_newColumns.remove(identifier))
+        return;
+    placeColumn(identifier, index);
+    saveLayout();
+}
+
+void TabPane::placeColumn(const QString &identifier, int index)
+{
     QHeaderView *header = m_table->horizontalHeader();
     const int column = m_model->columnOf(identifier);
     if (column < 0 || index < 0 || index >= header->count())
         return;
-    m_movesColumns = true;
+    const QScopedValueRollback<bool> moves(m_movesColumns, true);
     header->moveSection(header->visualIndex(column), index);
-    m_movesColumns = false;
 }
 
 void TabPane::moveSection(int section, int, int to)
 {
-    if (!m_movesColumns)
-        columnMoved(m_model->identifierOf(section), to);
+    if (m_movesColumns)
+        return;
+    m_newColumns.clear();
+    saveLayout(); // at once: other windows follow
+    columnMoved(m_model->identifierOf(section), to);
 }
 
 void TabPane::saveLayout()
 {
+    // Columns that are not there now, but may come back, stay behind those that they stood behind.
+    QStringList order = columns();
+    qsizetype place = 0;
+    for (const QString &identifier : storedOrder()) {
+        const qsizetype present = order.indexOf(identifier);
+        if (present < 0)
+            order.insert(place++, identifier);
+        else
+            place = present + 1;
+    }
     PropertyListValue::Array layout;
-    for (const QString &identifier : columns()) {
+    for (const QString &identifier : order) {
+        const int present = m_model->columnOf(identifier);
         PropertyListDictionary column;
         column.insert(identifierKey, identifier);
-        column.insert(widthKey, m_table->columnWidth(m_model->columnOf(identifier)));
+        column.insert(widthKey, present >= 0 ? m_table->columnWidth(present)
+                                             : m_storedWidths.value(identifier, usualWidth(identifier)));
         layout.emplace_back(column);
     }
-    // Columns that are not there now may come back.
-    for (auto stored = m_storedWidths.cbegin(); stored != m_storedWidths.cend(); ++stored) {
-        if (m_model->columnOf(stored.key()) >= 0)
-            continue;
-        PropertyListDictionary column;
-        column.insert(identifierKey, stored.key());
-        column.insert(widthKey, stored.value());
-        layout.emplace_back(column);
-    }
+    const QScopedValueRollback<bool> stores(m_storesLayout, true);
     m_defaults.setValue(layoutKey(tab()), layout);
+}
+
+QStringList TabPane::storedOrder() const
+{
+    QStringList order;
+    const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
+    for (const PropertyListValue &entry : stored.toArray()) {
+        const QString identifier = entry.toDictionary().value(identifierKey).toString();
+        if (!identifier.isEmpty() && !order.contains(identifier))
+            order.append(identifier);
+    }
+    return order;
+}
+
+/// Columns that the stored order does not know come last, as they stand.
+void TabPane::restoreOrder()
+{
+    int place = 0;
+    for (const QString &identifier : storedOrder()) {
+        if (m_model->columnOf(identifier) >= 0)
+            placeColumn(identifier, place++);
+    }
+}
+
+void TabPane::applyDefaultsChange(const QString &key)
+{
+    if (key != layoutKey(tab()) || m_storesLayout)
+        return;
+    m_newColumns.clear();
+    restoreOrder();
+}
+
+/// In pixels.
+int TabPane::usualWidth(const QString &column) const
+{
+    return defaultWidth(column) * fontMetrics().averageCharWidth();
 }
 
 void TabPane::restoreLayout()
 {
-    const int character = fontMetrics().averageCharWidth();
     for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, defaultWidth(m_model->identifierOf(column)) * character);
-    int place = 0;
+        m_table->setColumnWidth(column, usualWidth(m_model->identifierOf(column)));
     const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
     for (const PropertyListValue &entry : stored.toArray()) {
         const QString identifier = entry.toDictionary().value(identifierKey).toString();
@@ -391,9 +468,8 @@ void TabPane::restoreLayout()
             if (column >= 0)
                 m_table->setColumnWidth(column, int(width));
         }
-        if (column >= 0)
-            moveColumn(identifier, place++);
     }
+    restoreOrder();
 }
 
 // What else the document and the window ask

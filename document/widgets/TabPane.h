@@ -5,11 +5,13 @@
 #include "document/TableSorting.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
 #include <initializer_list>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -67,11 +69,15 @@ public:
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
     const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
+    /// What the rows on show are sorted by, which the arrow in the header tells; nothing while they stand as
+    /// the project has them.
+    std::optional<SortDescriptor> shownSort() const;
     /// As a click on the column's title: sorts by it, and the other way round when it is sorted by it.
     void sortBy(const QString &identifier);
 
     /// The columns by their identifiers as they stand from left to right, and changes to them. A column
-    /// that is there already gets the title.
+    /// that is there already gets the title. Where the stored layout has a place for a column it stands
+    /// there; moveColumn() moves only one that is new to the layout, and once.
     QStringList columns() const;
     void addColumn(const QString &identifier, const QString &title);
     void removeColumn(const QString &identifier);
@@ -85,10 +91,13 @@ public:
     /// Shows below the table, for a while, what was done.
     void showMessage(const QString &text);
 
-    /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout". They are restored
-    /// by the constructor.
+    /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout", which decides on
+    /// the order in all windows. It is stored with each column that the user moves, and restored by the
+    /// constructor.
     void saveLayout();
     void restoreLayout();
+    /// A setting that all documents share changed.
+    virtual void applyDefaultsChange(const QString &key);
 
     /// The selected rows as lines of texts with tabs between them, columns as they stand; copySelection()
     /// puts them on the clipboard.
@@ -132,8 +141,13 @@ protected:
     virtual QString filteredText() const = 0;
 
 private:
+    bool showsChoice(const std::vector<std::size_t> &rows, const QString &column, const QString &item) const;
     void clickHeader(int section);
     void showSortIndicator();
+    QStringList storedOrder() const;
+    void restoreOrder();
+    void placeColumn(const QString &identifier, int index);
+    int usualWidth(const QString &column) const;
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void updateBusy();
@@ -154,14 +168,16 @@ private:
     QLabel *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
+    QSet<QString> m_newColumns;         // added where nobody had placed them
     QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
 
     bool m_spinning = false;
     bool m_editingEnabled = false;
     bool m_isFilled = false;     // the table has got the rows of its list
     bool m_movesColumns = false; // by the program
-    bool m_edits = false;        // a cell's edit is being carried out
-    int m_reloads = 0;           // begun and not ended
+    bool m_storesLayout = false;
+    bool m_edits = false; // a cell's edit is being carried out
+    int m_reloads = 0;    // begun and not ended
     bool m_selectionMuted = false;
     RowList m_keptSelection;
     RowRecordPtr m_keptCurrent;

@@ -13,6 +13,8 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <limits>
+
 namespace vantrell
 {
 
@@ -164,6 +166,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = createPopUp(parent, index);
     } else if (cellOf(index) == TableModel::Cell::Text) {
         auto *field = new QLineEdit(parent);
+        field->setMaxLength(std::numeric_limits<int>::max()); // or a long text would lose its end
         field->setText(index.data(Qt::EditRole).toString());
         field->selectAll();
         editor = field;
@@ -175,15 +178,12 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
 
 QWidget *TableDelegate::createPopUp(QWidget *parent, const QModelIndex &index) const
 {
-    const std::vector<PopUpItem> items = modelOf(index).popUpItems(index);
+    std::vector<PopUpItem> items = modelOf(index).popUpItems(index);
     if (items.empty())
         return nullptr;
-    auto *list = new PopUpCell(parent);
-    for (const PopUpItem &item : items)
-        list->addItem(item.icon, item.title);
+    auto *list = new PopUpCell(std::move(items), parent);
     list->setCurrentIndex(index.data(Qt::EditRole).toInt());
     list->setMaxVisibleItems(20);
-    list->view()->setMinimumWidth(list->sizeHint().width());
     auto *self = const_cast<TableDelegate *>(this);
     connect(list, &PopUpCell::chosen, self, [self, list] {
         Q_EMIT self->commitData(list);

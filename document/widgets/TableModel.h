@@ -17,6 +17,7 @@ namespace vantrell
 struct PopUpItem {
     QString title;
     QIcon icon;
+    bool isEnabled = true; ///< can be chosen
 };
 
 /// A table over the document's rows on show while those are its tab's, and without rows otherwise. Cells

@@ -29,6 +29,11 @@ QWidget *windowOf(AlertParent *parent)
     return windowParent ? windowParent->window() : nullptr;
 }
 
+bool isCancel(const QString &title)
+{
+    return title == QStringLiteral("Cancel") || title == QCoreApplication::translate("Alert", "Cancel");
+}
+
 /// The buttons in the places that the platform gives to their roles, each with its answer. Escape stands
 /// for "Cancel" where there is one, else for the alternate button, else for the default one.
 std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescription &description)
@@ -37,18 +42,24 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     const QString title = description.value(AlertKey::DefaultButtonTitle);
     const QString alternate = description.value(AlertKey::AlternateButtonTitle);
     const QString other = description.value(AlertKey::OtherButtonTitle);
-    const bool otherCancels = other == QCoreApplication::translate("Alert", "Cancel");
+    const bool defaultCancels = isCancel(title);
+    const bool otherCancels = isCancel(other);
 
     QPushButton *const button =
-        title.isEmpty() ? box.addButton(QMessageBox::Ok) : box.addButton(title, QMessageBox::AcceptRole);
+        title.isEmpty()
+            ? box.addButton(QMessageBox::Ok)
+            : box.addButton(title, defaultCancels ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
     answers[button] = AlertAnswer::Default;
     box.setDefaultButton(button);
     box.setEscapeButton(button);
     if (!alternate.isEmpty()) {
-        QPushButton *const alternateButton =
-            box.addButton(alternate, otherCancels ? QMessageBox::DestructiveRole : QMessageBox::RejectRole);
+        const auto role = otherCancels     ? QMessageBox::DestructiveRole
+                          : defaultCancels ? QMessageBox::AcceptRole
+                                           : QMessageBox::RejectRole;
+        QPushButton *const alternateButton = box.addButton(alternate, role);
         answers[alternateButton] = AlertAnswer::Alternate;
-        box.setEscapeButton(alternateButton);
+        if (!defaultCancels)
+            box.setEscapeButton(alternateButton);
     }
     if (!other.isEmpty()) {
         QPushButton *const otherButton =
@@ -58,17 +69,6 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
             box.setEscapeButton(otherButton);
     }
     return answers;
-}
-
-/// The program's own icon: questions, news and warnings look alike, and the texts tell them apart.
-void setIcon(QMessageBox &box)
-{
-    constexpr int side = 48;
-    const QIcon icon = QGuiApplication::windowIcon();
-    if (icon.isNull())
-        box.setIcon(QMessageBox::Warning);
-    else
-        box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
 }
 
 /// Both texts as they stand, whatever characters they hold.
@@ -82,6 +82,16 @@ void setTexts(QMessageBox &box, const AlertDescription &description)
 }
 
 } // namespace
+
+void WindowAlertPresenter::setIcon(QMessageBox &box)
+{
+    constexpr int side = 48;
+    const QIcon icon = QGuiApplication::windowIcon();
+    if (icon.isNull())
+        box.setIcon(QMessageBox::Warning);
+    else
+        box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
+}
 
 WindowAlertPresenter::~WindowAlertPresenter()
 {

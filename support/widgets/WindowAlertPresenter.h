@@ -41,6 +41,10 @@ public:
     }
     ~WindowAlertPresenter() override;
 
+    /// Gives the box the program's own icon: questions, news and warnings look alike, and the texts tell them
+    /// apart.
+    static void setIcon(QMessageBox &box);
+
     AlertId begin(const AlertDescription &description, AlertParent *parent, Answer answered) override;
     void close(AlertId alert) override;
     void closeAll(AlertParent *parent) override;

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/RecentFiles.h"
+#include "app/SingleInstance.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
 #include "document/MyDocument.h"
@@ -203,7 +204,6 @@ private Q_SLOTS:
         QCOMPARE(window->pane(Tab::Markers).selectedRows().size(), std::size_t(24));
         QVERIFY(trigger(*window, QStringLiteral("Media")));
         QVERIFY(!trigger(*window, QStringLiteral("Remove…")));
-        QVERIFY(!trigger(*window, QStringLiteral("Print…")));
         for (QAction *const action : actionsOf(*window)) {
             if (!action->isEnabled() && action->isVisible() &&
                 action->text().contains(QStringLiteral("Cut Pro Project")))
@@ -289,6 +289,155 @@ private Q_SLOTS:
         QVERIFY(!m_controller->startWindow().isVisible());
     }
 
+    void quittingAsksAboutAllBeforeOneCloses_data()
+    {
+        QTest::addColumn<QStringList>("answers"); // to the questions as they come
+        QTest::addColumn<bool>("quits");
+        QTest::addColumn<QString>("saved"); // the changed projects that are
+        const QString review = QStringLiteral("Review…");
+        const QString save = QStringLiteral("Save");
+        const QString lose = QStringLiteral("Don’t Save");
+        const QString cancel = QStringLiteral("Cancel");
+        QTest::newRow("cancel") << QStringList{cancel} << false << "";
+        QTest::newRow("save all") << QStringList{QStringLiteral("Save All")} << true << "ab";
+        QTest::newRow("review") << QStringList{review, save, lose} << true << "a";
+        QTest::newRow("review, then cancel") << QStringList{review, save, cancel} << false << "a";
+        QTest::newRow("give up, then cancel") << QStringList{review, lose, cancel} << false << "";
+    }
+    void quittingAsksAboutAllBeforeOneCloses()
+    {
+        QFETCH(QStringList, answers);
+        QFETCH(bool, quits);
+        QFETCH(QString, saved);
+        start();
+        std::vector<QPointer<DocumentWindow>> windows;
+        for (const char *const name : {"unchanged", "a", "b"}) {
+            const QString path = copySample(m_home->path(QString::fromLatin1(name)));
+            m_controller->applicationOpenFile(path);
+            windows.emplace_back(m_controller->documentWindows().back());
+            QTRY_COMPARE(windows.back()->state(), DocumentWindow::State::Ready);
+            if (path.contains(QStringLiteral("unchanged")))
+                continue;
+            windows.back()->toolbarMarkers();
+            QVERIFY(
+                editCell(*windows.back(), Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        }
+        m_controller->quit();
+        for (const QString &answer : answers) {
+            QTRY_VERIFY(visibleBox());
+            for (const auto &window : windows)
+                QVERIFY(window && window->isVisible());
+            QVERIFY(press(visibleBox(), answer));
+        }
+        for (const auto &window : windows) {
+            if (quits)
+                QTRY_VERIFY(!window);
+            else
+                QVERIFY(window && window->isVisible());
+        }
+        QString written;
+        for (const char *const name : {"a", "b"}) {
+            const QString folder = m_home->path(QString::fromLatin1(name));
+            if (contentOf(folder + QStringLiteral("/Harbour Lights.xml")).contains("<name>New</name>"))
+                written += QString::fromLatin1(name);
+        }
+        QCOMPARE(written, saved);
+        QVERIFY(!visibleBox());
+        if (quits)
+            return;
+        // Whatever was answered, what is still changed is asked about anew.
+        QCOMPARE(m_controller->documentWindows().size(), std::size_t(3));
+        m_controller->quit();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+    }
+
+    void aFileIsOneDocument()
+    {
+        start();
+        QVERIFY(QDir().mkpath(m_home->path(QStringLiteral("elsewhere/deep"))));
+        const QString fileLink = m_home->path(QStringLiteral("link.xml"));
+        const QString folderLink = m_home->path(QStringLiteral("jump"));
+        QVERIFY(QFile::link(m_path, fileLink));
+        QVERIFY(QFile::link(m_home->path(QStringLiteral("elsewhere/deep")), folderLink));
+        m_controller->openFiles({m_path});
+        QTRY_COMPARE(m_controller->currentWindow()->state(), DocumentWindow::State::Ready);
+        // The folder link leads elsewhere, and ".." from there.
+        m_controller->openFiles(
+            {fileLink, m_home->path(QStringLiteral("jump/../../project/Harbour Lights.xml"))});
+        QCOMPARE(m_controller->documentWindows().size(), std::size_t(1));
+        const QString other = copySample(m_home->path(QStringLiteral("elsewhere")));
+        m_controller->openFiles({m_home->path(QStringLiteral("jump/../Harbour Lights.xml"))});
+        QCOMPARE(m_controller->documentWindows().size(), std::size_t(2));
+        DocumentWindow *const window = m_controller->documentWindows().back();
+        QCOMPARE(QFileInfo(window->path()).canonicalFilePath(), QFileInfo(other).canonicalFilePath());
+        QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
+
+        // Nor is it overwritten from another window.
+        const QByteArray before = contentOf(m_path);
+        window->toolbarMarkers();
+        QVERIFY(editCell(*window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        QVERIFY(!saves(*window, fileLink));
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(visibleBox()->informativeText().contains(QStringLiteral("another window")));
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")));
+        QCOMPARE(contentOf(m_path), before);
+        QVERIFY(saves(*window, m_home->path(QStringLiteral("jump/../Harbour Lights.xml"))));
+        m_controller->documentWindows().front()->close();
+        QTRY_COMPARE(m_controller->documentWindows().size(), std::size_t(1));
+        QVERIFY(saves(*window, fileLink));
+        QVERIFY(contentOf(m_path).contains("<name>New</name>"));
+    }
+
+    void aSecondStartPassesItsFilesOn()
+    {
+        SingleInstance first;
+        QVERIFY(!first.passOn({}));
+        start();
+        connect(&first, &SingleInstance::filesPassed, m_controller.get(), &AppController::startedAgain);
+        QSignalSpy passed(&first, &SingleInstance::filesPassed);
+        connect(&first, &SingleInstance::filesPassed, this, [] { QTest::qWait(300); }); // as windows do
+        QProcess second;
+        second.setWorkingDirectory(m_home->path(QStringLiteral("project")));
+        second.start(program(), {QStringLiteral("Harbour Lights.xml")});
+        QTRY_COMPARE_WITH_TIMEOUT(passed.count(), 1, 60000);
+        QTRY_COMPARE(second.state(), QProcess::NotRunning);
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(m_controller->documentWindows().size(), std::size_t(1));
+        DocumentWindow *const window = m_controller->currentWindow();
+        QCOMPARE(QFileInfo(window->path()).canonicalFilePath(), QFileInfo(m_path).canonicalFilePath());
+        // Without files it brings the window to the front.
+        window->showMinimized();
+        second.start(program(), QStringList());
+        QTRY_COMPARE_WITH_TIMEOUT(passed.count(), 2, 60000);
+        QVERIFY(!window->isMinimized());
+        QTRY_COMPARE(second.state(), QProcess::NotRunning);
+        QVERIFY(
+            !QFileInfo::exists(m_home->path(QStringLiteral(".local/state/Logs/Orvandel/Vantrell.2.log"))));
+    }
+
+    void whatADeadProcessLeftCountsForNothing()
+    {
+        QProcess first;
+        first.start(program(), QStringList());
+        const QDir folder(m_home->path(QStringLiteral("run/vantrell")));
+        const auto left = [&folder] {
+            return folder.entryList({QStringLiteral("*.socket"), QStringLiteral("*.lock")},
+                                    QDir::Files | QDir::System);
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(left().size(), 2, 60000);
+        first.kill();
+        QVERIFY(first.waitForFinished());
+        QCOMPARE(left().size(), 2);
+        SingleInstance next;
+        QVERIFY(!next.passOn({m_path}));
+        QSignalSpy passed(&next, &SingleInstance::filesPassed);
+        first.start(program(), {m_path});
+        QTRY_COMPARE_WITH_TIMEOUT(passed.count(), 1, 60000);
+        QCOMPARE(passed.at(0).at(0).toStringList(), QStringList(m_path));
+        QTRY_COMPARE(first.state(), QProcess::NotRunning);
+    }
+
     void qualityControlLoggingKeepsOtherKeys()
     {
         start();
@@ -346,7 +495,7 @@ private Q_SLOTS:
             if (refuses)
                 environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":9731"));
             program.setProcessEnvironment(environment);
-            program.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell"), {m_path});
+            program.start(this->program(), {m_path});
             QVERIFY(program.waitForFinished());
             QCOMPARE(program.exitStatus(), QProcess::NormalExit);
             QCOMPARE(program.exitCode(), 1);
@@ -355,6 +504,10 @@ private Q_SLOTS:
     }
 
 private:
+    static QString program()
+    {
+        return qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell");
+    }
     void start()
     {
         AppController::startLog();

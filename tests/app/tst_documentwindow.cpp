@@ -1,6 +1,7 @@
 #include "WindowTest.h"
 
 #include "document/TableUpdates.h"
+#include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/QVTableView.h"
 #include "markers/MarkerKeys.h"
@@ -12,13 +13,17 @@
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
+#include <QCheckBox>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <future>
 
 using namespace vantrell;
 
@@ -218,6 +223,126 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(path), exists);
         m_window->close();
         QTRY_VERIFY(!m_window);
+    }
+
+    void refusesWithTheReasonAfterAFailedLoad_data()
+    {
+        QTest::addColumn<QString>("command");
+        for (const char *const command :
+             {"save", "save as", "import", "export", "export to", "sequences", "print", "report"})
+            QTest::newRow(command) << QString::fromLatin1(command);
+    }
+    void refusesWithTheReasonAfterAFailedLoad()
+    {
+        QFETCH(QString, command);
+        m_path = m_home->addFile(QStringLiteral("broken.xml"), "Just a note.\n");
+        const QString list = m_home->addFile(QStringLiteral("list.txt"), "Cue\t01:00:20:00\tV1\tred\tNew\n");
+        const QByteArray before = contentOf(list);
+        make();
+        m_window->open(m_path);
+        QTRY_COMPARE(m_window->state(), DocumentWindow::State::Failed);
+        const QHash<QString, std::function<void()>> commands{
+            {QStringLiteral("save"), [this] { m_window->save(); }},
+            {QStringLiteral("save as"), [this] { m_window->saveAs(); }},
+            {QStringLiteral("import"), [this] { m_window->importAvidLocators(); }},
+            {QStringLiteral("export"), [this] { m_window->exportFCPMarkers(); }},
+            {QStringLiteral("export to"), [&] { m_window->exportMarkerList(list, MarkerListFormat::fcp); }},
+            {QStringLiteral("sequences"), [this] { m_window->exportChangedSequences(); }},
+            {QStringLiteral("print"), [this] { m_window->printDocument(); }},
+            {QStringLiteral("report"), [this] { m_window->exportReport(); }}};
+        commands[command]();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(!visiblePanel());
+        QVERIFY(m_window->message().contains(visibleBox()->informativeText()));
+        QVERIFY2(visibleBox()->informativeText().contains(QStringLiteral("XML")),
+                 qPrintable(visibleBox()->informativeText()));
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")));
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QCOMPARE(contentOf(list), before);
+        QCOMPARE(contentOf(m_path), QByteArray("Just a note.\n"));
+        QVERIFY(m_window->workbench().document().isPopulating(Tab::Markers));
+    }
+
+    void aFileThatOthersChangedIsAskedAbout_data()
+    {
+        QTest::addColumn<QString>("button");
+        for (const char *const button : {"Cancel", "Overwrite", "Reload", "Save As…"})
+            QTest::newRow(button) << QString::fromUtf8(button);
+    }
+    void aFileThatOthersChangedIsAskedAbout()
+    {
+        QFETCH(QString, button);
+        openSample();
+        m_window->toolbarMarkers();
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Mine")));
+        QByteArray theirs = contentOf(m_path);
+        theirs.replace("<name>Opening</name>", "<name>Theirs</name>");
+        m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), theirs);
+        QSignalSpy saved(m_window, &DocumentWindow::saved);
+        m_window->save();
+        QTRY_VERIFY(visibleBox());
+        QMessageBox *const box = visibleBox();
+        QCOMPARE(box->windowModality(), Qt::WindowModal);
+        QCOMPARE(box->defaultButton()->text().remove(QLatin1Char('&')), QStringLiteral("Cancel"));
+        QCOMPARE(box->escapeButton(), box->defaultButton());
+        QCOMPARE(contentOf(m_path), theirs);
+        m_window->save(); // no second one
+        QVERIFY(press(box, button));
+        if (button == QStringLiteral("Save As…")) {
+            QTRY_VERIFY(visiblePanel());
+            choosePath(m_home->path(QStringLiteral("project/mine.xml")));
+        }
+        QTRY_COMPARE(saved.count(), 1);
+        const bool isSaved = button == QStringLiteral("Overwrite") || button == QStringLiteral("Save As…");
+        QCOMPARE(saved.at(0).at(0).toBool(), isSaved);
+        QCOMPARE(contentOf(m_path) == theirs, button != QStringLiteral("Overwrite"));
+        QVERIFY(contentOf(m_window->path()).contains(isSaved ? "<name>Mine</name>" : "<name>Theirs</name>"));
+        if (button == QStringLiteral("Reload")) {
+            QTRY_VERIFY(!m_window->isWindowModified());
+            QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
+            m_window->toolbarMarkers();
+            QTRY_VERIFY(rowOf(Tab::Markers, QStringLiteral("Theirs")) >= 0);
+        }
+        QCOMPARE(m_window->isWindowModified(), button == QStringLiteral("Cancel"));
+        if (button == QStringLiteral("Cancel"))
+            return;
+        // From now on the file is known as it is.
+        m_window->toolbarMarkers();
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Again")));
+        QVERIFY(saves(*m_window));
+    }
+
+    void aRemovalSaysWhyASaveKeepsIt_data()
+    {
+        QTest::addColumn<bool>("ofMarkers");
+        QTest::newRow("markers") << true;
+        QTest::newRow("effects") << false;
+    }
+    void aRemovalSaysWhyASaveKeepsIt()
+    {
+        QFETCH(bool, ofMarkers);
+        openSample();
+        ofMarkers ? m_window->toolbarMarkers() : m_window->toolbarEffects();
+        const Tab tab = ofMarkers ? Tab::Markers : Tab::Effects;
+        const int rows = m_window->pane(tab).model().rowCount();
+        m_window->pane(tab).selectRows({0});
+        std::promise<void> mayEnd;
+        QString told;
+        whenAsked(0, [&](QMessageBox *question) {
+            m_window->document()->runInBackground([&mayEnd] { mayEnd.get_future().wait(); }, [] {});
+            press(question, QStringLiteral("Remove"));
+            whenAsked(0, [&](QMessageBox *box) {
+                told = box->informativeText();
+                press(box, QStringLiteral("OK"));
+            });
+        });
+        m_window->removeSelection();
+        QTRY_VERIFY(!told.isEmpty());
+        QVERIFY(told.contains(QStringLiteral("saved")));
+        QCOMPARE(m_window->pane(tab).model().rowCount(), rows);
+        mayEnd.set_value();
+        QTRY_VERIFY(!m_window->document()->isSaving());
+        QVERIFY(!m_window->isWindowModified());
     }
 
     void tellsOfAFileThatIsNoProject()
@@ -430,12 +555,61 @@ private Q_SLOTS:
         QSignalSpy imported(m_window, &DocumentWindow::markersImported);
         m_window->importMarkerLists({list}, MarkerListFormat::avid);
         QTRY_COMPARE(imported.count(), 1);
-        QCOMPARE(told, QStringLiteral("Unable to create marker"));
+        QCOMPARE(told, QStringLiteral("1 of 3 rows could not be added"));
         QVERIFY(!isSheetOver);
         QCOMPARE(imported.at(0).at(0).value<std::size_t>(), std::size_t(2));
         QCOMPARE(m_window->selectedTab(), Tab::Markers);
         QCOMPARE(statusOf(*m_window), QStringLiteral("26 markers. 2 of 3 markers imported."));
         QVERIFY(!m_window->isBusy());
+    }
+
+    void listsMarkersUnderTheirOwnOwners()
+    {
+        m_path = m_home->addFile(QStringLiteral("owners.xml"),
+                                 "<xmeml><sequence><media><video><track><clipitem><name>A</name><marker/>"
+                                 "</clipitem><clipitem><name>B</name><marker/></clipitem></track></video>"
+                                 "</media></sequence></xmeml>");
+        openSample();
+        m_window->toolbarMarkers();
+        MyDocument &document = *m_window->document();
+        const auto owners = [&document] {
+            QStringList names;
+            for (const RowRecordPtr &marker : document.markerArray())
+                names.append(marker->get(MarkerKey::clipName));
+            return names;
+        };
+        const auto notice = [this]() -> NoticeBar * {
+            for (NoticeBar *bar : m_window->findChildren<NoticeBar *>()) {
+                if (bar->notice().contains(QStringLiteral("than their own")))
+                    return bar;
+            }
+            return nullptr;
+        };
+        const QStringList byPosition = owners();
+        QVERIFY(notice());
+        QVERIFY2(notice()->notice().startsWith(QStringLiteral("1 of 2 markers is listed")),
+                 qPrintable(notice()->notice()));
+        auto *const box = m_window->pane(Tab::Markers).findChild<QCheckBox *>();
+        QVERIFY(!box->isChecked());
+        QTest::mouseClick(notice()->findChild<QPushButton *>(), Qt::LeftButton);
+        QTRY_VERIFY(!m_window->isBusy() && owners() != byPosition);
+        QVERIFY(box->isChecked() && !notice());
+        QCOMPARE(owners(), QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), 2);
+        QVERIFY(!m_window->isWindowModified());
+        // The next window lists the same way.
+        DocumentWindow second(*m_defaults);
+        QVERIFY(second.open(m_path));
+        QTRY_COMPARE(second.state(), DocumentWindow::State::Ready);
+        QStringList inSecond;
+        for (const RowRecordPtr &marker : second.document()->markerArray())
+            inSecond.append(marker->get(MarkerKey::clipName));
+        QCOMPARE(inSecond, owners());
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+        QTRY_VERIFY(!m_window->isBusy() && owners() == byPosition);
+        QTRY_VERIFY(notice());
+        QTRY_VERIFY(!second.isBusy());
+        QCOMPARE(second.document()->markerArray().at(1)->get(MarkerKey::clipName), byPosition.at(1));
     }
 
     void sortsWhatAnImportHasAdded()

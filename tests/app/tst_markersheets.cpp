@@ -190,13 +190,19 @@ private Q_SLOTS:
         reopen();
         QCOMPARE(columns(), moved);
         m_other = open(QStringLiteral("b"));
-        QCOMPARE(m_other->pane(Tab::Markers).columns().mid(0, 4), moved.mid(0, 4));
-        // Places are applied one after the other, the column that was moved last coming last.
+        QCOMPARE(m_other->pane(Tab::Markers).columns(), moved);
         openFields(m_window)->close();
-        QCOMPARE(columns().mid(0, 4), QStringList({lens, crew, take, QStringLiteral("color")}));
-        // The other document follows.
+        QCOMPARE(columns(), moved);
+        // The other document follows, and does not undo it when it ends last.
         move(take, 7);
-        QCOMPARE(m_other->pane(Tab::Markers).columns().indexOf(take), 7);
+        move(QStringLiteral("in"), 0);
+        const QStringList again = columns();
+        QCOMPARE(again.indexOf(take), 7);
+        QCOMPARE(m_other->pane(Tab::Markers).columns(), again);
+        delete m_window;
+        delete m_other;
+        m_window = open(QStringLiteral("a"));
+        QCOMPARE(columns(), again);
     }
 
     void fieldsOfOtherDocumentsFollow()
@@ -204,8 +210,8 @@ private Q_SLOTS:
         m_other = open(QStringLiteral("b"));
         define({QStringLiteral("Take")});
         QVERIFY(m_other->pane(Tab::Markers).columns().contains(take));
-        // Whoever has the sheet open keeps its list, and stores that.
-        MarkerFieldsSheet *const sheet = openFields(m_other);
+        // Whoever has the sheet open keeps its list, and stores it together with what came meanwhile.
+        MarkerFieldsSheet *sheet = openFields(m_other);
         click(sheet, QStringLiteral("Add"));
         QTest::keyClicks(editorOf(sheet), QStringLiteral("Crew"));
         define({QStringLiteral("Lens")});
@@ -213,7 +219,21 @@ private Q_SLOTS:
         QVERIFY(editorOf(sheet));
         sheet->close();
         for (const DocumentWindow *const window : {m_window.data(), m_other.data()})
-            QCOMPARE(window->pane(Tab::Markers).columns().mid(10), QStringList({take, crew}));
+            QCOMPARE(window->pane(Tab::Markers).columns().mid(10), QStringList({take, lens, crew}));
+        // What another window changed of a field stays, unless the sheet changed that as well.
+        sheet = openFields(m_other);
+        type(sheet, 0, 0, QStringLiteral("Slate"));
+        MarkerFieldsSheet *const elsewhere = openFields(m_window);
+        type(elsewhere, 0, 0, QStringLiteral("Clapper"));
+        QTest::keyClick(editorOf(elsewhere), Qt::Key_Return);
+        type(elsewhere, 1, 0, QStringLiteral("Staff"));
+        elsewhere->close();
+        sheet->close();
+        sheet = openFields(m_window);
+        QCOMPARE(rowsOf(sheet),
+                 QStringList({QStringLiteral("Slate=QVCUSTOM_TAKE"), QStringLiteral("Staff=QVCUSTOM_CREW"),
+                              QStringLiteral("Lens=QVCUSTOM_LENS")}));
+        sheet->close();
     }
 
     void makesAndChoosesPresets()

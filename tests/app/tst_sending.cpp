@@ -11,7 +11,7 @@
 #include "support/QVAlert.h"
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
-#include "tests/support/HostProcess.h"
+#include "tests/support/FcpHost.h"
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 #include "xml/XmlQuery.h"
@@ -19,6 +19,8 @@
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <vector>
 
 using namespace vantrell;
 
@@ -56,7 +58,7 @@ private Q_SLOTS:
         m_home = std::make_unique<TemporaryHome>();
         m_defaults = std::make_unique<UserDefaults>(m_home->path(text("test.plist")));
         m_path = copySample(m_home->path(text("project")));
-        QVERIFY(HostProcess::installBundle(m_home->path(text("apps"))));
+        QVERIFY(FcpHost::installBundle(m_home->path(text("apps"))));
         UserDefaults::standard().setValue(text("applicationsFolder"), m_home->path(text("apps")));
         AppController::startLog();
         m_controller = std::make_unique<AppController>(*m_defaults);
@@ -245,7 +247,7 @@ private Q_SLOTS:
         QSignalSpy saved(m_window, &DocumentWindow::saved);
         m_window->sendToFCP();
         auto *const sheet = m_window->findChild<ProgressSheet *>();
-        QTRY_VERIFY(sheet->isVisible());
+        QTRY_VERIFY(sheet->isVisible() && m_window->document()->isSending());
         Q_EMIT sheet->cancelled();
         QTRY_VERIFY(m_window->mayEdit());
         QVERIFY(editCell(*m_window, Tab::Markers, rowOf(text("Renamed")), text("name"), text("Twice")));
@@ -258,6 +260,48 @@ private Q_SLOTS:
         QCOMPARE(answerAlert(), text("Changes successfully sent to Final Cut Pro"));
         QTRY_VERIFY(!m_window->isWindowModified());
         QCOMPARE(importsInLog(), 2);
+    }
+
+    void sendsTwoDocumentsAtOnce()
+    {
+        const QString second = m_home->path(text("project/Second.fcp"));
+        QVERIFY(QFile::copy(m_path, second));
+        startHost({m_path, second});
+        std::vector<DocumentWindow *> windows;
+        for (const QString &path : {m_path, second}) {
+            openHeld(path);
+            change();
+            windows.push_back(m_window);
+        }
+        m_host->hang();
+        for (DocumentWindow *const window : windows)
+            window->sendToFCP();
+        for (DocumentWindow *const window : windows)
+            QTRY_VERIFY(window->findChild<ProgressSheet *>()->isVisible());
+        m_host->goOn();
+        for (std::size_t i = 0; i < windows.size(); ++i)
+            QCOMPARE(answerAlert(), text("Changes successfully sent to Final Cut Pro"));
+        for (DocumentWindow *const window : windows) {
+            QTRY_VERIFY(!window->isSending());
+            QVERIFY(!window->isWindowModified());
+        }
+        QCOMPARE(importsInLog(), 2);
+        for (const QString &path : {m_path, second})
+            QCOMPARE(contentOf(path).count("<name>Vantrell</name>"), 1);
+    }
+
+    void tellsThatFinalCutProDiedMeanwhile()
+    {
+        openProject();
+        change();
+        m_host->hang();
+        m_window->sendToFCP();
+        QTRY_VERIFY(m_window->findChild<ProgressSheet *>()->isVisible());
+        m_host->kill();
+        QCOMPARE(answerAlert(), text("Unable to send to Final Cut Pro"));
+        QTRY_VERIFY(!m_window->isSending());
+        QVERIFY(m_window->isWindowModified() && m_window->mayEdit());
+        QVERIFY(!m_window->findChild<ProgressSheet *>()->isVisible());
     }
 
     void exportsChangedSequences()
@@ -298,20 +342,22 @@ private Q_SLOTS:
 private:
     void startHost(const QStringList &arguments)
     {
-        m_host = std::make_unique<HostProcess>();
-        QVERIFY(m_host->start(QStringList{text("--log"), logPath()} + arguments));
+        m_host = std::make_unique<FcpHost>(*m_home);
+        QVERIFY(m_host->start(arguments));
     }
-    /// Opens the sample as a project that Final Cut Pro holds.
+    /// Opens the sample in Final Cut Pro and from there.
     void openProject(const QStringList &arguments = {})
     {
         startHost(arguments + QStringList{m_path});
         openAgain();
     }
-    void openAgain()
+    void openAgain() { openHeld(m_path); }
+    /// Opens a project that Final Cut Pro holds.
+    void openHeld(const QString &path)
     {
-        m_controller->recentFiles().add(m_path, true);
-        m_controller->openRecentFile(m_path);
-        m_window = m_controller->currentWindow();
+        m_controller->recentFiles().add(path, true);
+        m_controller->openRecentFile(path);
+        m_window = m_controller->documentWindows().back();
         QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, patience);
     }
     int rowOf(const QString &marker) const
@@ -335,12 +381,11 @@ private:
         press(box, text("OK"));
         return said;
     }
-    QString logPath() const { return m_home->path(text("host.log")); }
-    int importsInLog() const { return int(contentOf(logPath()).count("iXML")); }
+    int importsInLog() const { return int(m_host->allEvents().count(text("iXML"))); }
 
     std::unique_ptr<TemporaryHome> m_home;
     std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<HostProcess> m_host;
+    std::unique_ptr<FcpHost> m_host;
     std::unique_ptr<AppController> m_controller;
     QString m_path;
     QPointer<DocumentWindow> m_window;

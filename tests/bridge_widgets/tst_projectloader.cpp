@@ -5,7 +5,7 @@
 #include "support/QVLog.h"
 #include "support/UserDefaults.h"
 #include "support/Workspace.h"
-#include "tests/support/HostProcess.h"
+#include "tests/support/FcpHost.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/TemporaryHome.h"
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void saysWhyTheListIsEmpty()
     {
         QFETCH(bool, isRunning);
-        HostProcess host;
+        FcpHost host(*m_home);
         if (isRunning)
             QVERIFY(host.start({}));
         show();
@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, rows);
         QFETCH(QStringList, opened);
-        HostProcess host;
+        FcpHost host(*m_home);
         QStringList paths;
         for (const QString &name : names({"b.xml", "a.fcp", "c.xml"}))
             paths.append(m_home->addFile(name, project));
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void tellsOfAProjectThatDoesNotOpen()
     {
-        HostProcess host;
+        FcpHost host(*m_home);
         const QStringList paths{m_home->addFile(QStringLiteral("a.xml"), project),
                                 m_home->addFile(QStringLiteral("b.xml"), project)};
         QVERIFY(host.start(paths));

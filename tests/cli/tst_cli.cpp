@@ -2,6 +2,9 @@
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace vantrell;
@@ -67,6 +70,45 @@ private Q_SLOTS:
         QCOMPARE(run.status, 2);
         QCOMPARE(run.output, QByteArray());
         QVERIFY(!run.messages.isEmpty());
+    }
+
+    void argumentsThatBeginWithAMinusSign()
+    {
+        QTemporaryDir folder;
+        const QString before = QDir::currentPath();
+        const auto leave = qScopeGuard([&before] { QDir::setCurrent(before); });
+        QDir::setCurrent(folder.path());
+        for (const char *name : {"-1.xml", "-x.xml"}) {
+            QFile file(QString::fromLatin1(name));
+            QVERIFY(file.open(QIODevice::WriteOnly) &&
+                    file.write("<xmeml><sequence><marker/></sequence></xmeml>") > 0);
+        }
+        QFile script(QStringLiteral("-s"));
+        QVERIFY(script.open(QIODevice::WriteOnly) && script.write("[]") > 0);
+        script.close();
+        const struct {
+            const char *arguments;
+            int status;
+            const char *made;
+        } table[] = {
+            {"info -1.xml", 0, ""},
+            {"info -- -x.xml", 0, ""},
+            {"info -x.xml", 2, ""},
+            {"edit -1.xml --quiet --script -s -o -1.out", 0, "-1.out"},
+            {"edit -1.xml --quiet -o -out.xml --script -s", 0, "-out.xml"},
+            {"edit -1.xml --script -o -2.out", 2, ""},
+            {"export -1.xml --format fcp -o -.5", 0, "-.5"},
+            {"effects -1.xml --search -Blur --json", 0, ""},
+            {"media -1.xml --drive -5", 0, ""},
+            {"report -1.xml --tab markers --title -t -o -r", 0, "-r"},
+        };
+        for (const auto &row : table) {
+            const QStringList arguments = QString::fromLatin1(row.arguments).split(QLatin1Char(' '));
+            const CliRun run = runCli(arguments);
+            QVERIFY2(run.status == row.status, (row.arguments + QByteArray(": ") + run.messages).constData());
+            QVERIFY2(!*row.made || QFile::remove(QString::fromLatin1(row.made)), row.arguments);
+            QVERIFY(!run.messages.contains('\1'));
+        }
     }
 
     void helpIsNoError()

@@ -2,7 +2,10 @@
 #include "tests/support/TemporaryHome.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;
@@ -55,6 +58,36 @@ private Q_SLOTS:
         m_home.addFile(u"damaged.xml"_s, project("<marker><name>M</marker>"));
     }
 
+    /// The list comes through a pipe, and not before another program has changed the project.
+    void changedMeanwhile_data()
+    {
+        QTest::addColumn<bool>("isConfirmed");
+        QTest::newRow("refused") << false;
+        QTest::newRow("--yes") << true;
+    }
+    void changedMeanwhile()
+    {
+        QFETCH(bool, isConfirmed);
+        const QString path = m_home.addFile(u"changing.xml"_s, project(QByteArray()));
+        const QString pipe = m_home.path(isConfirmed ? u"pipe 2"_s : u"pipe 1"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QProcess program;
+        program.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + u"/vantrell-cli"_s,
+                      QStringList{u"import"_s, path, pipe, u"--format"_s, u"avid"_s, u"-o"_s, path} +
+                          (isConfirmed ? QStringList{u"--yes"_s} : QStringList()));
+        QFile list(pipe);
+        QVERIFY(list.open(QIODevice::WriteOnly)); // once the program reads it
+        const QByteArray theirs = project("<marker><name>theirs</name><in>1</in><out>-1</out></marker>");
+        m_home.addFile(u"changing.xml"_s, theirs);
+        list.write(contentOf(m_home.path(u"avid.txt"_s)));
+        list.close();
+        QVERIFY(program.waitForFinished(120000));
+        QCOMPARE(program.exitCode(), isConfirmed ? 0 : 1);
+        QVERIFY(program.readAllStandardError().contains("changed by another program"));
+        QCOMPARE(contentOf(path) == theirs, !isConfirmed);
+        QCOMPARE(contentOf(path).contains("<name>B</name>"), isConfirmed);
+    }
+
     void printed()
     {
         const struct {
@@ -89,11 +122,61 @@ private Q_SLOTS:
         }
     }
 
+    void rowsThatCannotBeAdded()
+    {
+        m_home.addFile(u"bad.txt"_s, "B <1\t00:00:00:05\tV1\tred\t\nB <2\t00:00:00:06\tV1\tred\t\n");
+        CliRun result = run(u"import ~/Edit.xml ~/bad.txt ~/avid.txt --format avid -o ~/some.xml"_s);
+        QCOMPARE(result.status, 0);
+        const QList<QByteArray> lines = result.messages.split('\n');
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines.at(0).startsWith("vantrell-cli: bad.txt, line 1, “B <1”: "));
+        QVERIFY(lines.at(1).startsWith("vantrell-cli: bad.txt, line 2, “B <2”: "));
+        QCOMPARE(lines.at(2), QByteArray("vantrell-cli: 1 of 3 rows added"));
+        result = run(u"import ~/Edit.xml ~/bad.txt --format avid -o ~/nothing.xml"_s);
+        QCOMPARE(result.status, 1);
+        QVERIFY(result.messages.endsWith("vantrell-cli: 0 of 2 rows added\n"));
+        QVERIFY(!QFile::exists(m_home.path(u"nothing.xml"_s)));
+    }
+
+    void rowsThatNobodyCanRead()
+    {
+        m_home.addFile(u"tabs.xml"_s,
+                       project("<marker><name>a&#9;b</name></marker><marker><name>c</name>"
+                               "<comment>d\ne</comment></marker><marker><name>f</name></marker>"));
+        QCOMPARE(
+            run(u"export ~/tabs.xml --format avid"_s).messages,
+            QByteArray("vantrell-cli: 2 rows hold a tab or a line break; other systems will not be able to "
+                       "read them.\n"));
+    }
+
+    void ownOwners()
+    {
+        const QByteArray clips = "<media><video><track><clipitem><name>A</name><marker/></clipitem><clipitem>"
+                                 "<name>Bravo</name><marker/></clipitem></track></video></media>";
+        m_home.addFile(u"owners.xml"_s, project(clips));
+        m_home.addFile(u"none.json"_s, "[]");
+        const QByteArray told =
+            "vantrell-cli: 1 of 2 markers is listed under another sequence or clip than their "
+            "own; --own-owners lists each under its own.\n";
+        for (const QString &command :
+             {u"markers ~/owners.xml --json"_s, u"export ~/owners.xml --format fcp"_s,
+              u"edit ~/owners.xml --script ~/none.json"_s,
+              u"report ~/owners.xml --tab markers --columns clip -o -"_s}) {
+            const CliRun byPosition = run(command);
+            QCOMPARE(byPosition.messages, told);
+            QVERIFY(!byPosition.output.contains("Bravo"));
+            const CliRun own = run(command + u" --own-owners"_s);
+            QCOMPARE(own.messages, QByteArray());
+            QVERIFY2(own.output.contains("Bravo"), own.output.constData());
+        }
+    }
+
     void written()
     {
         const QByteArray edit = contentOf(m_home.path(u"Edit.xml"_s));
         const CliRun result = run(u"import ~/Edit.xml ~/fcp.txt ~/latin.txt --format fcp -o ~/out.xml"_s);
-        QVERIFY(result.status == 0 && result.output.isEmpty() && result.messages.isEmpty());
+        QVERIFY(result.status == 0 && result.output.isEmpty());
+        QVERIFY(result.messages.endsWith(" rows added\n"));
         QCOMPARE(run(u"import ~/Edit.xml ~/fcp.txt --format fcp -o -"_s).output,
                  contentOf(m_home.path(u"out.xml"_s)));
         QCOMPARE(run(u"export ~/out.xml --format avid -o ~/out.txt"_s).status, 0);

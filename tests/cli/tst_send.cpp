@@ -114,8 +114,8 @@ private Q_SLOTS:
         QFETCH(QStringList, hostOptions);
         const QString path = m_home.addFile(text("projects/") + file, project);
         QVERIFY(FcpHost::installBundle(m_home.path(text("apps"))));
-        FcpHost host(m_home, hostOptions.replaceInStrings(text("%"), path));
-        QVERIFY(host.isReady());
+        FcpHost host(m_home);
+        QVERIFY(host.start(hostOptions.replaceInStrings(text("%"), path)));
         const CliRun run = runCli({text("send"), path, text("--script"), text("-")}, addMarker);
         QCOMPARE(run.messages,
                  QByteArray("Changes successfully sent to Final Cut Pro: Sequences have been duplicated and "
@@ -145,8 +145,8 @@ private Q_SLOTS:
     {
         const QString path = m_home.addFile(text("projects/p.fcp"), project);
         QVERIFY(FcpHost::installBundle(m_home.path(text("apps"))));
-        FcpHost host(m_home, {path});
-        QVERIFY(host.isReady());
+        FcpHost host(m_home);
+        QVERIFY(host.start({path}));
         std::vector<CliRun> runs(3);
         std::vector<std::thread> threads;
         for (CliRun &run : runs)
@@ -177,8 +177,8 @@ private Q_SLOTS:
         QFETCH(QStringList, hostOptions);
         const QString path = m_home.addFile(text("projects/p.fcp"), project);
         QVERIFY(FcpHost::installBundle(m_home.path(text("apps"))));
-        FcpHost host(m_home, hostOptions + QStringList{path});
-        QVERIFY(host.isReady());
+        FcpHost host(m_home);
+        QVERIFY(host.start(hostOptions + QStringList{path}));
         const CliRun run = runCli({text("send"), path, text("--script"), text("-")}, addMarker);
         QCOMPARE(run.status, 1);
         QTEST(run.messages.trimmed().split('\n').last(), "message");
@@ -189,8 +189,8 @@ private Q_SLOTS:
     {
         const QString path = m_home.addFile(text("projects/p.fcp"), project);
         QVERIFY(FcpHost::installBundle(m_home.path(text("apps"))));
-        FcpHost host(m_home, {path});
-        QVERIFY(host.isReady());
+        FcpHost host(m_home);
+        QVERIFY(host.start({path}));
         QCOMPARE(runCli({text("load"), path}).output,
                  QByteArray("{\"xmlType\":0,\"sequences\":1,\"media\":0,\"effects\":0,\"markers\":0}\n"));
         const QString output = m_home.path(text("out.xml"));

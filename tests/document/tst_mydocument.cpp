@@ -408,7 +408,7 @@ private Q_SLOTS:
 
     void aRepairedFileIsOverwrittenOnlyWhenAsked()
     {
-        const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{0, 1});
+        const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{1, 0});
         QVAlert::setPresenter(alerts);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
@@ -426,6 +426,64 @@ private Q_SLOTS:
         QVERIFY(document.writeToURL(document.fileURL(), DocumentType::publicXML));
         QVERIFY(contentOf(document.fileURL().toLocalFile()).endsWith("</xmeml>\n"));
         QCOMPARE(alerts->shown().size(), std::size_t(2));
+        QCOMPARE(alerts->shown().front().text(AlertKey::DefaultButtonTitle), QStringLiteral("Cancel"));
+    }
+
+    void whatOthersSaveIsNotOverwritten_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // what another program leaves; null for no file
+        QTest::addColumn<bool>("isRemembered");  // what was read
+        QTest::addColumn<bool>("asks");
+        const QByteArray same("<xmeml/>");
+        QTest::newRow("larger") << QByteArray("<xmeml>theirs</xmeml>") << true << true;
+        QTest::newRow("same size") << QByteArray("<Xmeml/>") << true << true;
+        QTest::newRow("same content") << same << true << false;
+        QTest::newRow("same content, not remembered") << same << false << true;
+        QTest::newRow("removed") << QByteArray() << true << false;
+    }
+    void whatOthersSaveIsNotOverwritten()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isRemembered);
+        QFETCH(bool, asks);
+        const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{1, 0, 1});
+        QVAlert::setPresenter(alerts);
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        load(document, world, "<xmeml/>");
+        if (isRemembered)
+            document.knownFile()->rememberContent();
+        const QUrl url = document.fileURL();
+        const QString path = url.toLocalFile();
+        // By a path of its own it is the same file.
+        const QUrl byLink = QUrl::fromLocalFile(m_home.path(QStringLiteral("link.xml")));
+        QFile::remove(byLink.toLocalFile());
+        QVERIFY(QFile::link(path, byLink.toLocalFile()));
+        QVERIFY(document.writeToURL(QUrl::fromLocalFile(m_home.path(QStringLiteral("p/other.xml"))),
+                                    DocumentType::publicXML));
+        QVERIFY(QFile::remove(path));
+        if (!content.isNull()) {
+            QFile other(path);
+            QVERIFY(other.open(QIODevice::WriteOnly) && other.write(content) == content.size());
+            other.close();
+            QVERIFY(other.open(QIODevice::ReadWrite) && other.setFileTime(QDateTime::fromSecsSinceEpoch(1000),
+                                                                          QFileDevice::FileModificationTime));
+        }
+        QCOMPARE(document.writeToURL(byLink, DocumentType::publicXML).isOk(), !asks);
+        QCOMPARE(alerts->shown().size(), std::size_t(asks ? 1 : 0));
+        if (asks) {
+            QCOMPARE(contentOf(path), content);
+            QCOMPARE(alerts->shown().front().text(AlertKey::DefaultButtonTitle), QStringLiteral("Cancel"));
+            QVERIFY(document.writeToURL(url, DocumentType::publicXML)); // the user overwrites it
+            QCOMPARE(alerts->shown().size(), std::size_t(2));
+        }
+        QVERIFY(contentOf(path).endsWith("<xmeml/>\n"));
+        // What the document wrote itself is its own.
+        QVERIFY(document.writeToURL(url, DocumentType::publicXML));
+        QCOMPARE(alerts->shown().size(), std::size_t(asks ? 2 : 0));
+        QVERIFY(QFile::remove(path));
+        m_home.addFile(QStringLiteral("p/project.xml"), "<xmeml>again</xmeml>");
+        QVERIFY(document.knownFile()->changeAt(path));
     }
 
     void aRootInANamespaceIsTold()

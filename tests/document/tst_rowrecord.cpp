@@ -66,6 +66,28 @@ private Q_SLOTS:
         QCOMPARE(record.get(name), QStringLiteral("c"));
     }
 
+    void namesOfFilesStandAmongConstants()
+    {
+        const auto made = [](const char *text) { return RecordKey(QString::fromLatin1(text)); };
+        RowRecord record;
+        for (const char *key : {"name", "x one", "count", "x two", "x three", "x two"})
+            record.set(made(key), QString::fromLatin1(key));
+        QCOMPARE(keysOf(record).join(QLatin1Char('|')), QStringLiteral("name|x one|count|x two|x three"));
+        RowRecord copy = record;
+        record.remove(made("x two"));
+        record.remove(name);
+        record.remove(made("x four"));
+        QCOMPARE(keysOf(record).join(QLatin1Char('|')), QStringLiteral("x one|count|x three"));
+        for (std::size_t i = 0; i < record.size(); ++i)
+            QCOMPARE(record.text(record.keyAt(i)), record.keyAt(i).text());
+        QVERIFY(!record.contains(made("x two")) && copy.contains(made("x two")));
+        record.merge(copy);
+        QCOMPARE(keysOf(record).join(QLatin1Char('|')), QStringLiteral("x one|count|x three|name|x two"));
+        QVERIFY(made("name") == name && made("x one").text() == QStringLiteral("x one"));
+        QVERIFY(made("x one") == made("x one") && !(made("x one") == made("x two")));
+        QVERIFY(!made("x one").isConstant() && made("count").isConstant());
+    }
+
     void threadsBuildRecordsAtOnce()
     {
         std::vector<std::thread> threads;

@@ -1,5 +1,6 @@
 #include "document/widgets/MarkerTableModel.h"
 #include "document/widgets/MediaTableModel.h"
+#include "markers/MarkerKeys.h"
 #include "tests/document_widgets/PaneProject.h"
 
 #include <QAbstractItemModelTester>
@@ -155,6 +156,20 @@ void TestModels::offerClipsOfTheRow()
                               QStringLiteral("Küste bei Nacht (still)"), QStringLiteral("Harbour Wide")};
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Opening"), clip).size() > 10);
+    // What was removed keeps its place but cannot be chosen.
+    const QModelIndex cell = m_project->cell(
+        Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
+        clip);
+    MyDocument &document = model.document();
+    const auto sequence = std::size_t(model.recordAt(cell.row())->get(MarkerKey::sequenceIndex));
+    const MenuPtr clips = document.clipMenuForSequence(document.sequenceMenu()->at(sequence).element);
+    document.xmlDoc()->remove(clips->at(2).element);
+    std::vector<bool> enabled;
+    for (const PopUpItem &item : model.popUpItems(cell))
+        enabled.push_back(item.isEnabled);
+    QCOMPARE(std::vector<bool>(enabled.begin(), enabled.begin() + 4),
+             std::vector<bool>({true, true, false, true}));
+    QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Tide turns"), clip).isEmpty());
     QCOMPARE(titles(QStringLiteral("Tide turns"), QStringLiteral("sequence")),
              (QStringList{QStringLiteral("(none)"), QStringLiteral("Trailer selects"),

@@ -47,6 +47,10 @@ private Q_SLOTS:
     void editFlagOfAllSelected();
     void clickSelectsTheRowThatItEdits();
     void choosePopUps();
+    void choosingWhatIsShownChangesNothing_data();
+    void choosingWhatIsShownChangesNothing();
+    void longTextsAreKeptWhole();
+    void arrowTellsTheOrder();
     void editOnlyWhenEnabled();
     void copyRows();
     void moveColumns();
@@ -219,8 +223,21 @@ void TestTables::contextMenuSelectsOneRow()
     project().markers.selectRows({0, 1, 2});
     QVTableView &table = project().markers.table();
     const QModelIndex cell = project().cell(Tab::Markers, 1, QStringLiteral("name"));
-    QVERIFY(table.menuForEvent(table.visualRect(cell).center()));
+    const QPoint place = table.visualRect(cell).center();
+    QVERIFY(table.menuForEvent(place));
     QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{1});
+    // Also with a key held that otherwise takes the row out of the selection, or more into it.
+    for (const auto key : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        project().markers.selectRows({0, 1, 2});
+        QTest::mouseClick(table.viewport(), Qt::RightButton, key, place);
+        QTest::keyPress(&table, key == Qt::ControlModifier ? Qt::Key_Control : Qt::Key_Shift, key);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, table.viewport()->mapToGlobal(place), key);
+        QCoreApplication::sendEvent(table.viewport(), &event);
+        QTest::keyRelease(&table, key == Qt::ControlModifier ? Qt::Key_Control : Qt::Key_Shift);
+        QVERIFY(table.menu()->isVisible());
+        table.menu()->hide();
+        QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{1});
+    }
 }
 
 void TestTables::editTexts_data()
@@ -331,6 +348,82 @@ void TestTables::choosePopUps()
     QVERIFY(!project().markers.table().isEditing());
 }
 
+void TestTables::choosingWhatIsShownChangesNothing_data()
+{
+    QTest::addColumn<QString>("column");
+    for (const char *const column : {"color", "sequence", "clip"})
+        QTest::newRow(column) << QString::fromLatin1(column);
+}
+
+/// A list that opens stands on the item that the cell shows: Return is no choice of another one.
+void TestTables::choosingWhatIsShownChangesNothing()
+{
+    QFETCH(const QString, column);
+    project().show(Tab::Markers);
+    const QString name = QStringLiteral("First light"); // is on a clip
+    const QString before = markerText(name, column);
+    const QModelIndex cell = project().cell(Tab::Markers, marker(name), column);
+    choose(cell, cell.data(Qt::EditRole).toInt());
+    QCOMPARE(markerText(name, column), before);
+    QVERIFY(!project().edited);
+    if (column != QStringLiteral("color"))
+        return;
+    // Of several rows those that show another item change.
+    const int horn = marker(QStringLiteral("Horn"));
+    QVERIFY(markerText(QStringLiteral("Horn"), column) != before);
+    std::vector<std::size_t> rows{std::size_t(cell.row()), std::size_t(horn)};
+    std::sort(rows.begin(), rows.end());
+    project().markers.selectRows(rows);
+    choose(cell, cell.data(Qt::EditRole).toInt());
+    QCOMPARE(markerText(QStringLiteral("Horn"), column), before);
+    QVERIFY(project().edited);
+}
+
+void TestTables::longTextsAreKeptWhole()
+{
+    project().show(Tab::Markers);
+    const QString comment = QStringLiteral("comment");
+    const QString text = QString(70000, QLatin1Char('x'));
+    const QModelIndex cell = project().cell(Tab::Markers, 0, comment);
+    QVERIFY(project().markers.model().setData(cell, text));
+    project().markers.editCell(0, comment);
+    auto *const field = project().markers.table().findChild<QLineEdit *>();
+    QVERIFY(field);
+    QTest::keyClick(field, Qt::Key_End);
+    QTest::keyClicks(field, QStringLiteral("y"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_VERIFY(!project().markers.table().isEditing());
+    QCOMPARE(project().text(Tab::Markers, 0, comment), text + QLatin1Char('y'));
+}
+
+/// The rule for all colours is the order of the project, whatever the table was sorted by before.
+void TestTables::arrowTellsTheOrder()
+{
+    project().show(Tab::Markers);
+    const QHeaderView *header = project().markers.table().horizontalHeader();
+    const int name = project().markers.model().columnOf(QStringLiteral("name"));
+    QCOMPARE(header->sortIndicatorSection(), -1);
+    clickHeader(Tab::Markers, QStringLiteral("name"));
+    QCOMPARE(header->sortIndicatorSection(), name);
+    project().bench.markerInventory().populateFilteredMarkerData();
+    QCOMPARE(header->sortIndicatorSection(), -1);
+    project().bench.document().viewState().markerFilter = 1;
+    project().bench.markerInventory().changeMarkerFilter();
+    QCOMPARE(header->sortIndicatorSection(), name);
+    QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+    project().bench.document().viewState().markerFilter = 0;
+    project().bench.markerInventory().changeMarkerFilter();
+    QCOMPARE(header->sortIndicatorSection(), -1);
+    // A click still counts from the one before.
+    clickHeader(Tab::Markers, QStringLiteral("name"));
+    QCOMPARE(header->sortIndicatorOrder(), Qt::DescendingOrder);
+
+    project().show(Tab::Effects);
+    clickHeader(Tab::Effects, QStringLiteral("name"));
+    project().bench.effectInventory().populateFilteredEffectData();
+    QVERIFY(project().effects.table().horizontalHeader()->sortIndicatorSection() >= 0);
+}
+
 void TestTables::editOnlyWhenEnabled()
 {
     project().show(Tab::Markers);
@@ -385,10 +478,7 @@ void TestTables::moveColumns()
     project().markers.saveLayout();
     MarkersPane next(project().bench, project().defaults);
     next.addColumn(take, QStringLiteral("Take"));
-    QStringList expected = project().markers.columns();
-    expected.removeAll(take);
-    expected.append(take);
-    QCOMPARE(next.columns(), expected);
+    QCOMPARE(next.columns(), project().markers.columns());
     QCOMPARE(next.table().columnWidth(next.model().columnOf(QStringLiteral("comment"))), 333);
 }
 

@@ -144,13 +144,19 @@ private Q_SLOTS:
         QVERIFY(opened.world.selectedRows(Tab::Markers).empty());
         QCOMPARE(opened.world.selectedRows(Tab::Effects).size(), std::size_t(4));
 
-        // The row of the filter on the removed generator stays, and edits on it do no harm; an effect
-        // outside of any sequence modifies none.
+        // The row of the filter on the removed generator stays; edits of it are refused. An effect outside of
+        // any sequence modifies none.
         const RowList rows = opened.document.rowsOnShow(Tab::Effects);
-        opened.editor.updateXMLEffect(rows[1], QStringLiteral("enabled"), QString());
-        opened.editor.removeXMLEffect(rows[1]);
-        opened.editor.removeXMLEffect(rows[1]);
         opened.document.clearModifiedSequenceUUIDs();
+        opened.document.clearChangeCount();
+        m_alerts->queueAnswer(1);
+        opened.editor.updateXMLEffect(rows[1], QStringLiteral("enabled"), QString());
+        QCOMPARE(lastQuestion(), QStringLiteral("Unable to change setting"));
+        QCOMPARE(rows[1]->get(EffectKey::enabled), 1);
+        m_alerts->queueAnswer(1);
+        opened.editor.removeXMLEffect(rows[1]);
+        QCOMPARE(lastQuestion(), QStringLiteral("Unable to remove effect"));
+        QVERIFY(!opened.document.isEdited() && !opened.document.modifiedSequenceUUIDs());
         opened.editor.removeXMLEffect(rows[0]);
         QVERIFY(!opened.document.modifiedSequenceUUIDs());
         QVERIFY(!textOf(opened).contains("<name>Z"));

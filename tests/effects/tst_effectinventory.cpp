@@ -2,6 +2,7 @@
 #include "media/MediaInventory.h"
 #include "support/QVLog.h"
 #include "tests/effects/EffectProject.h"
+#include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"
 #include "tests/support/TemporaryHome.h"
 #include "xml/QVXMLParser.h"
@@ -89,7 +90,7 @@ private Q_SLOTS:
     void randomProjects()
     {
         std::size_t found = 0;
-        for (quint64 seed = 0; seed < 300; ++seed) {
+        for (quint64 seed = 0; seed < quint64(seriesLength(1200)); ++seed) {
             const auto tree = XmlDocument::fromData(RandomProject(seed).xml(), {});
             QVERIFY(tree);
             const XmlNode document = tree.value()->node();
@@ -125,7 +126,7 @@ private Q_SLOTS:
                 }
             }
         }
-        QVERIFY2(found > 300, qPrintable(QString::number(found)));
+        QVERIFY2(found > std::size_t(seriesLength(1200)), qPrintable(QString::number(found)));
     }
 
     void view()

@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(project.exporter.exportFCPMarkers()->proposedName, u"project Markers.txt"_s);
 
         const QString list = m_home.addFile(u"list.txt"_s, "\n\t\t\t\t\t\t");
-        QVERIFY(project.importer.markerOpenDialogDidEnd({list}, 0, u"fcp"_s));
+        QVERIFY(!project.importer.markerOpenDialogDidEnd({list}, 0, u"fcp"_s));
         QVERIFY(project.exporter.markerSaveDialogDidEnd(list, 0, u"avid"_s));
         QVERIFY(project.document.markerArray().empty() && !contentOf(list).isEmpty());
     }
@@ -254,12 +254,22 @@ private Q_SLOTS:
             u"No markers to import: There were no markers in the file or it is an invalid format."_s);
         const QStringList nothing = {m_home.path(u"missing"_s), m_home.addFile(u"empty"_s, {}),
                                      m_home.path()};
-        QVERIFY(!project.importer.markerOpenDialogDidEnd(nothing, accepted, u"fcp"_s));
+        QCOMPARE(project.importer.markerOpenDialogDidEnd(nothing, accepted, u"fcp"_s)->next, std::size_t(0));
 
-        const QString broken = m_home.addFile(u"list.txt"_s, "<\t00:00:00:02\tV1\tred\t\n");
-        QVERIFY(project.importer.markerOpenDialogDidEnd({broken}, accepted, u"avid"_s));
+        // Rows that cannot be added are told of together, with their lines.
+        const QByteArray row = "<\t00:00:00:02\tV1\tred\t\n";
+        const QString broken = m_home.addFile(
+            u"list.txt"_s, row + "\n" + row + "ok \U0001F386\t00:00:00:02\tV1\tred\t\n" + row.repeated(20));
+        const auto imported = project.importer.markerOpenDialogDidEnd({broken}, accepted, u"avid"_s);
+        QCOMPARE(imported->added, std::size_t(1));
+        QCOMPARE(imported->rejected.size(), std::size_t(22));
+        QCOMPARE(imported->rejected.at(1).place, u"line 3"_s);
+        QCOMPARE(project.document.markerArray().back()->text(MarkerKey::name), u"ok \U0001F386"_s);
+        project.importer.tellOfRejected(*imported);
         expected.append(alertsOf(project).value(1));
-        QVERIFY(expected.last().startsWith(u"Unable to create marker: "_s));
+        QVERIFY(expected.last().startsWith(u"22 of 23 rows could not be added: line 1, “<”: "_s));
+        QVERIFY(expected.last().endsWith(u"\n… and 2 more"_s));
+        project.importer.tellOfRejected({});
 
         const QString path = m_home.path(u"missing/list.txt"_s);
         QVERIFY(!project.exporter.markerSaveDialogDidEnd(path, accepted, u"avid"_s));
@@ -277,7 +287,7 @@ private Q_SLOTS:
             QList<QString>(2, u"Markers are still loading: Please wait for markers to finish loading before "
                               "attempting this operation."_s);
         QCOMPARE(alertsOf(project), expected);
-        QVERIFY(project.document.markerArray().empty() && !project.document.isEdited());
+        QCOMPARE(project.document.markerArray().size(), std::size_t(1)); // the one that was imported
     }
 };
 

@@ -110,14 +110,28 @@ private Q_SLOTS:
         MarkerProject p(project(""));
         const MenuPtr menu = p.document.sequenceMenu();
         const QString before = p.tree();
-        p.alerts->queueAnswer(1);
-        p.alerts->queueAnswer(1);
-        QVERIFY(!p.editor.addMarkerWithName(QStringLiteral("a<b"), 0, 0, QString(), QString()));
-        QVERIFY(!p.editor.addMarkerWithName(QStringLiteral("\U0001F3AC"), 0, 0, QString(), QString()));
-        QCOMPARE(p.alerts->shown().size(), std::size_t(2));
-        QCOMPARE(p.alerts->shown().at(1).text(AlertKey::MessageText),
-                 QStringLiteral("Unable to create marker"));
-        QVERIFY(!p.alerts->shown().at(1).text(AlertKey::InformativeText).isEmpty());
+        // What is no XML; elements, comments and CDATA sections; a name that ends the marker's.
+        const QStringList refused = {QStringLiteral("a<b"),
+                                     QStringLiteral("<b>x</b>"),
+                                     QStringLiteral("<!-- x -->"),
+                                     QStringLiteral("<![CDATA[x]]>"),
+                                     QStringLiteral("<name>x</name>"),
+                                     QStringLiteral("x</name><name>y"),
+                                     QStringLiteral("</name><comment>c</comment><in>1</in><name>"),
+                                     QStringLiteral("\U0001F3AC<a/>")};
+        for (const QString &text : refused) {
+            for (const bool isName : {true, false}) {
+                p.alerts->queueAnswer(1);
+                const QString other = QStringLiteral("x");
+                QVERIFY2(!p.editor.addMarkerWithName(isName ? text : other, 0, 0, isName ? other : text,
+                                                     QString()),
+                         qPrintable(text));
+                QCOMPARE(p.alerts->shown().back().text(AlertKey::MessageText),
+                         QStringLiteral("Unable to create marker"));
+                QVERIFY(!p.alerts->shown().back().text(AlertKey::InformativeText).isEmpty());
+            }
+        }
+        QCOMPARE(p.alerts->shown().size(), std::size_t(2 * refused.size()));
         QVERIFY(!p.editor.addMarkerWithName(QStringLiteral("n"), 0, 0, QString(), QString(), &menu->at(0)));
         QCOMPARE(p.tree(), before);
         QVERIFY(p.document.markerArray().empty() && !p.world.edited);
@@ -211,12 +225,40 @@ private Q_SLOTS:
                                 "<blue>0</blue></color><out>5</out></marker>"));
         QCOMPARE(p.marker(1)->get(MarkerKey::out),
                  QStringLiteral("4")); // the low 32 bits of a sum that wraps
-        // The record of a removed marker can still be edited.
+    }
+
+    void whatWasRemovedIsNotEdited()
+    {
+        MarkerProject p(project(marker("50", "-1") + marker("60", "-1"), marker("150", "-1")));
         const RowRecordPtr gone = p.marker(1);
+        const RowRecordPtr kept = p.marker(2);
         p.editor.removeXMLMarker(gone);
-        p.editor.removeXMLMarker(gone);
-        p.editor.updateXMLMarker(gone, QStringLiteral("name"), QStringLiteral("ghost"));
-        QVERIFY(!p.tree().contains(QStringLiteral("ghost")));
+        const XmlNode clip = p.marker(0)->get(MarkerKey::clip);
+        p.document.xmlDoc()->remove(clip);
+        const QString before = MarkerProject::whole(*gone) + MarkerProject::whole(*kept) + p.tree();
+        p.document.clearModifiedSequenceUUIDs();
+        p.document.clearChangeCount();
+        std::size_t alerts = 0;
+        const auto refuses = [&](const std::function<void()> &edit) {
+            p.alerts->queueAnswer(1);
+            edit();
+            const QString now = MarkerProject::whole(*gone) + MarkerProject::whole(*kept) + p.tree();
+            return p.alerts->shown().size() == ++alerts && now == before && !p.document.isEdited() &&
+                   !p.document.modifiedSequenceUUIDs();
+        };
+        QVERIFY(refuses([&] { p.editor.removeXMLMarker(gone); }));
+        for (const char *column : {"name", "comment", "in", "out", "color", "chapter", "QVCUSTOM_x"})
+            QVERIFY(refuses([&] { p.set({1}, column, QStringLiteral("1")); }));
+        QVERIFY(refuses([&] { p.set({1}, "sequence", QStringLiteral("1")); }));
+        QVERIFY(refuses([&] { p.set({1}, "clip", QStringLiteral("2")); }));
+        QVERIFY(refuses([&] { p.set({2}, "clip", QStringLiteral("1")); })); // the removed clip
+        QVERIFY(refuses([&] { p.editor.setXMLMarkerSequence(XmlNode(), clip, kept); }));
+
+        // The rows of markers that went with their owner go, too.
+        p.document.setTableArray(Tab::Markers, p.document.markerArray());
+        p.editor.dropRemovedMarkers();
+        QCOMPARE(p.document.markerArray(), RowList{kept});
+        QCOMPARE(p.document.rowsOnShow(Tab::Markers), RowList{kept});
     }
 
     void moves()

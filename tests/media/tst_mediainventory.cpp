@@ -2,12 +2,14 @@
 #include "support/QVLog.h"
 #include "support/Workspace.h"
 #include "tests/media/MediaProject.h"
+#include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"
 #include "tests/support/TemporaryHome.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlDocument.h"
 
 #include <QElapsedTimer>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <condition_variable>
@@ -157,7 +159,7 @@ private Q_SLOTS:
     void usageInRandomProjects()
     {
         qint64 found = 0;
-        for (quint64 seed = 0; seed < 300; ++seed) {
+        for (quint64 seed = 0; seed < quint64(seriesLength(1200)); ++seed) {
             const auto tree = XmlDocument::fromData(RandomProject(seed).xml(), {});
             QVERIFY(tree);
             const XmlNode document = tree.value()->node();
@@ -184,7 +186,7 @@ private Q_SLOTS:
                 found += expected;
             }
         }
-        QVERIFY2(found > 300, qPrintable(QString::number(found)));
+        QVERIFY2(found > qint64(seriesLength(1200)), qPrintable(QString::number(found)));
     }
 
     void addresses()
@@ -265,6 +267,25 @@ private Q_SLOTS:
         QVERIFY(!opened.document.isPopulating(Tab::Media));
         QVLog::finishWriting();
         QVERIFY(contentOf(QVLog::availableLogs().value(0)).contains("/m/dead.mov: 8\n"));
+    }
+
+    void relativePaths()
+    {
+        MediaProject opened; // in a folder of its own
+        const QString folder = QFileInfo(opened.folder.path()).absoluteFilePath();
+        QFile file(folder + QStringLiteral("/near.mov"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
+        file.close();
+        const QString here = QDir::currentPath();
+        const auto leave = qScopeGuard([&here] { QDir::setCurrent(here); });
+        m_home.addFile(QStringLiteral("far.mov"), "1");
+        QDir::setCurrent(m_home.path());
+        QVERIFY(opened.load(used(item("a", "near.mov") + item("b", "far.mov") + item("c", "./near.mov"))));
+        const RowList &files = opened.document.mediaArray();
+        QCOMPARE(files.at(0)->get(MediaKey::filesize), 5);
+        QVERIFY(files.at(1)->get(MediaKey::missing));
+        QCOMPARE(files.at(2)->get(MediaKey::filesize), 5);
+        QCOMPARE(files.at(0)->get(MediaKey::directory), QString());
     }
 
     void attributesThatCannotBeRead()
@@ -363,6 +384,12 @@ private Q_SLOTS:
         opened.inventory.revealMediaInFinder();
         QTRY_VERIFY(QFile::exists(output));
         QCOMPARE(contentOf(output), m_home.path(QStringLiteral("m")).toUtf8());
+        // That a file is missing is said below the table.
+        opened.world.selectRows(Tab::Media, {0});
+        opened.inventory.revealMediaInFinder();
+        const QString told = QStringLiteral("“x.mov” is missing 0");
+        QVERIFY(MainThread::drainUntil([&] { return opened.world.events.contains(told); },
+                                       std::chrono::seconds(30)));
         Workspace::setOpenProgram(QString());
     }
 };

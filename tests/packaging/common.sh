@@ -1,6 +1,6 @@
 # Sourced by the checks of this folder, which CTest gives where things are:
-# SOURCE_DIR, BUILD_DIR; PACKAGE_DIR with the package, package.deb, and its files below root/; VERSION;
-# WINDOW (ON or OFF); CMAKE, CPACK (the programs).
+# SOURCE_DIR, BUILD_DIR; PACKAGE_DIR with the packages, package.deb and print.deb, and their files below root/;
+# VERSION; WINDOW and PRINT (ON or OFF: print.deb is there); CMAKE, CPACK (the programs).
 
 set -euo pipefail
 export LC_ALL=C.UTF-8

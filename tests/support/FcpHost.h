@@ -8,28 +8,24 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <csignal>
+
 namespace vantrell
 {
 
-/// The program fcp-host with projects open in it, where the programs of the home look for it; ended with
+/// The program fcp-host with projects open in it, where the programs of the home look for it; killed with
 /// this object.
 class FcpHost
 {
 public:
-    FcpHost(const TemporaryHome &home, const QStringList &arguments)
+    explicit FcpHost(const TemporaryHome &home)
         : m_log(home.path(QStringLiteral("events.jsonl")))
     {
-        QFile::remove(m_log);
         m_process.setReadChannel(QProcess::StandardError);
-        m_process.start(program(), QStringList{QStringLiteral("--log"), m_log} + arguments);
     }
     FcpHost(const FcpHost &) = delete;
     FcpHost &operator=(const FcpHost &) = delete;
-    ~FcpHost()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
+    ~FcpHost() { kill(); }
 
     static QString program()
     {
@@ -42,31 +38,57 @@ public:
         return QProcess::execute(program(), {QStringLiteral("--install-bundle"), folder}) == 0;
     }
 
-    /// Waits until it listens.
-    bool isReady()
+    /// Starts it with that command line and waits until it listens; false when it does not.
+    bool start(const QStringList &arguments)
     {
-        QByteArray messages;
-        while (!messages.contains("listening on") && m_process.waitForReadyRead(60000))
-            messages += m_process.readAllStandardError();
-        return messages.contains("listening on");
+        QFile::remove(m_log);
+        m_messages.clear();
+        m_process.start(program(), QStringList{QStringLiteral("--log"), m_log} + arguments);
+        return hasSaid("listening on");
     }
 
-    /// The events that came so far, by their identifiers, but for those that only list the projects.
-    QString events() const
+    /// Waits until the text has come on standard error; false when it does not.
+    bool hasSaid(const QByteArray &text)
+    {
+        m_messages += m_process.readAllStandardError();
+        while (!m_messages.contains(text) && m_process.waitForReadyRead(60000))
+            m_messages += m_process.readAllStandardError();
+        return m_messages.contains(text);
+    }
+
+    /// What it is asked stays without an answer, until it goes on.
+    void hang() { ::kill(pid_t(m_process.processId()), SIGSTOP); }
+    void goOn() { ::kill(pid_t(m_process.processId()), SIGCONT); }
+    void kill()
+    {
+        if (m_process.state() == QProcess::NotRunning)
+            return;
+        m_process.kill(); // also when it hangs
+        m_process.waitForFinished();
+    }
+
+    /// The events that came since the start, by their identifiers.
+    QStringList allEvents() const
     {
         QStringList identifiers;
         for (const QByteArray &line : contentOf(m_log).split('\n')) {
-            const QString identifier =
-                QJsonDocument::fromJson(line).object()[QStringLiteral("id")].toString();
-            if (!identifier.isEmpty() && identifier != QStringLiteral("fcLP"))
-                identifiers.append(identifier);
+            if (!line.isEmpty())
+                identifiers.append(QJsonDocument::fromJson(line).object()[QStringLiteral("id")].toString());
         }
+        return identifiers;
+    }
+    /// The same but for those that only list the projects.
+    QString events() const
+    {
+        QStringList identifiers = allEvents();
+        identifiers.removeAll(QStringLiteral("fcLP"));
         return identifiers.join(QLatin1Char(' '));
     }
 
 private:
     QString m_log;
     QProcess m_process;
+    QByteArray m_messages;
 };
 
 } // namespace vantrell

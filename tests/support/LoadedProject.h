@@ -23,7 +23,7 @@ public:
     /// Starts loading the project.
     void start(const QByteArray &xml)
     {
-        QFile file(m_folder.filePath(QStringLiteral("project.xml")));
+        QFile file(folder.filePath(QStringLiteral("project.xml")));
         if (file.open(QIODevice::WriteOnly))
             file.write(xml);
         file.close();
@@ -39,6 +39,7 @@ public:
 
     QString label(Label label) const { return world.label(label); }
 
+    const QTemporaryDir folder; ///< of the project's file
     ScriptedDocumentInterface world;
     MyDocument document;
     /// Run on threads of their own by a load, the first two of them.
@@ -57,8 +58,6 @@ private:
         services.inventoryBuilders = {builder(0), builder(1)};
         return services;
     }
-
-    QTemporaryDir m_folder;
 };
 
 /// Descriptors from a text such as "name size:desc".

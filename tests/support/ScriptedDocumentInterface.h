@@ -15,6 +15,7 @@ public:
     void stopSpinner(Tab tab) override { note(QStringLiteral("stop"), tab); }
     void tableWillReload() override { events.append(QStringLiteral("will reload")); }
     void tableDidReload() override { events.append(QStringLiteral("did reload")); }
+    void showMessage(Tab tab, const QString &text) override { note(text, tab); }
     void setSequenceMenu(const MenuPtr &menu) override { sequenceMenu = menu; }
     void setMarkerPresetMenu(const QStringList &titles, int selected) override
     {

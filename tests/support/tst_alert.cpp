@@ -378,6 +378,22 @@ private Q_SLOTS:
         QCOMPARE(presenter->questionRefused(), code == 0);
         QCOMPARE(presenter->shown().size(), std::size_t(2));
     }
+
+    /// The button that goes ahead is the other one then.
+    void answersAQuestionThatDefaultsToCancel()
+    {
+        for (const bool assumeYes : {false, true}) {
+            const auto presenter = std::make_shared<HeadlessAlertPresenter>(assumeYes);
+            QVAlert::setPresenter(presenter);
+            const CapturedStandardError standardError;
+            Raised raised([] {
+                return QVAlert::alertSheetWithMessageText(text("M"), text("Cancel"), text("Go"), {}, {},
+                                                          nullptr, true);
+            });
+            QCOMPARE(raised.code(), assumeYes ? 0 : 1);
+            QCOMPARE(presenter->questionRefused(), !assumeYes);
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TestAlert)

@@ -1,5 +1,6 @@
 #include "TemporaryHome.h"
 
+#include "support/CancellableWrite.h"
 #include "support/FileUtilities.h"
 #include "support/StandardFolders.h"
 #include "support/TransientFile.h"
@@ -84,6 +85,44 @@ private Q_SLOTS:
             return {};
         }));
         QCOMPARE(contentOf(path), "head\n" + large + large.left(110).repeated(1000));
+    }
+
+    void cancelledUntilItReplaces()
+    {
+        const TemporaryHome home;
+        const QString path = home.addFile(QStringLiteral("out/list.txt"), "old");
+        const auto cancelled = std::make_shared<CancellableWrite>();
+        const auto slowWriter = [&cancelled](QIODevice &device) -> Result<void> {
+            device.write("new");
+            cancelled->cancel(); // while the content is on its way to the disk
+            return {};
+        };
+        QVERIFY(!FileUtilities::writeAtomically(path, slowWriter, cancelled->check()));
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(namesIn(home.path(QStringLiteral("out"))).size(), 1);
+        const auto late = std::make_shared<CancellableWrite>();
+        QVERIFY(FileUtilities::writeAtomically(path, QByteArray("new"), late->check()));
+        QVERIFY(!late->cancel() && !late->isCancelled());
+        QCOMPARE(contentOf(path), QByteArray("new"));
+    }
+
+    void theLastWordKeepsTheOldFile()
+    {
+        const TemporaryHome home;
+        const QString path = home.addFile(QStringLiteral("out/a.txt"), "old");
+        QByteArray seen;
+        const auto write = [](QIODevice &device) -> Result<void> {
+            device.write("new");
+            return {};
+        };
+        const auto refuse = [&](int) -> Result<void> {
+            seen = contentOf(path);
+            return Failure{QStringLiteral("no")};
+        };
+        QCOMPARE(FileUtilities::writeAtomically(path, write, refuse).message(), QStringLiteral("no"));
+        QCOMPARE(seen, QByteArray("old"));
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(namesIn(home.path(QStringLiteral("out"))), QStringList(QStringLiteral("a.txt")));
     }
 
     void keepsPermissionsAndLinks()

@@ -256,8 +256,12 @@ private Q_SLOTS:
         const QString systemFile = home.path(QStringLiteral("var/Logs/Orvandel/su.1.log"));
         CapturedStandardError console;
         QVLog::createNewLog(QStringLiteral("su"), false);
+        QVLog::appendLog(u"lost");
+        QVLog::appendLog(u"as well");
+        QVLog::finishWriting();
         QVERIFY(
             console.text().startsWith("Unable to create log file " + QFile::encodeName(systemFile) + " - "));
+        QCOMPARE(console.text().count('\n'), 1); // said once, not with every line
         QVERIFY(QDir().mkpath(QFileInfo(systemFile).path()));
         for (int i = 0; i < 2; ++i) {
             QVLog::createNewLog(QStringLiteral("su"), true);

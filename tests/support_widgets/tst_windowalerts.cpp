@@ -107,6 +107,22 @@ private Q_SLOTS:
         QTEST(code, "code");
     }
 
+    void cancelAsTheDefaultTakesReturnAndEscape()
+    {
+        for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+            whenShown([key](QMessageBox *box) { QTest::keyClick(box, key); });
+            QCOMPARE(QVAlert::alertSheetWithMessageText(
+                         QStringLiteral("Overwrite?"), QStringLiteral("Cancel"), QStringLiteral("Overwrite"),
+                         QString(), QStringLiteral("It is lost."), nullptr, true),
+                     1);
+        }
+        whenShown([](QMessageBox *box) { press(box, QStringLiteral("Overwrite")); });
+        QCOMPARE(QVAlert::alertSheetWithMessageText(QStringLiteral("Overwrite?"), QStringLiteral("Cancel"),
+                                                    QStringLiteral("Overwrite"), QString(), QString(),
+                                                    nullptr, true),
+                 0);
+    }
+
     void answersAWorkerThatWaits_data()
     {
         QTest::addColumn<bool>("closesWindow");

@@ -50,6 +50,28 @@ private Q_SLOTS:
         QCOMPARE(xml, before);
     }
 
+    void putsCharacters_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QByteArray>("characters");
+        const auto add = [](const char *name, const QByteArray &xml, const QByteArray &characters) {
+            QTest::newRow(name) << xml << characters;
+        };
+        add("each kind", "<a b='&#233;'>&#xE9;|&#55356;&#57260;|&#127916;</a>",
+            "<a b='\xC3\xA9'>\xC3\xA9|\xF0\x9F\x8E\xAC|\xF0\x9F\x8E\xAC</a>");
+        add("at the limits", "&#159;&#160;&#65533;&#65534;&#65535;&#1114111;&#1114112;",
+            "&#159;\xC2\xA0\xEF\xBF\xBD&#65534;&#65535;\xF4\x8F\xBF\xBF&#1114112;");
+        add("markup and line ends", "&#60;&#38;&#13;&amp;&lt;", "&#60;&#38;&#13;&amp;&lt;");
+        add("half a pair", "&#55356;&#233;&#57260;", "&#55356;\xC3\xA9&#57260;");
+        add("around what is no text", "&#233;<![CDATA[&#233;]]>&#233;<!--&#233;-->",
+            "\xC3\xA9<![CDATA[&#233;]]>\xC3\xA9<!--&#233;-->");
+    }
+    void putsCharacters()
+    {
+        QFETCH(QByteArray, xml);
+        QTEST(XmlReferences::asCharacters(xml), "characters");
+    }
+
     void copiesOnlyWhatItMust()
     {
         QByteArray plain("<a>caf&#233;</a>");

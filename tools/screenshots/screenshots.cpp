@@ -13,6 +13,7 @@
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/TableModel.h"
+#include "report/widgets/PrintPanel.h"
 #include "support/UserDefaults.h"
 #include "workbench/Workbench.h"
 
@@ -105,6 +106,7 @@ public:
         window.toolbarMarkers();
         window.pane(Tab::Markers).selectRows({16});
         take(window, "markers");
+        takePrintPanel(window);
         takeSheets(window);
         window.close();
         m_controller.openFiles({project + QStringLiteral(".missing")});
@@ -116,6 +118,18 @@ public:
     }
 
 private:
+    void takePrintPanel(DocumentWindow &window)
+    {
+        window.pane(Tab::Markers).selectRows({});
+        window.printDocument();
+        auto *const panel = window.findChild<PrintPanel *>();
+        if (!panel)
+            qFatal("The print panel has not come up.");
+        take(*panel, "print");
+        panel->reject();
+        wait(0);
+    }
+
     void takeSheets(DocumentWindow &window)
     {
         PropertyListValue::Array fields;

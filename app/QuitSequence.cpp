@@ -1,0 +1,127 @@
+#include "app/QuitSequence.h"
+
+#include "document/MyDocument.h"
+#include "document/widgets/DocumentWindow.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString quitQuestion = QStringLiteral("quitQuestionDidEnd:returnCode:contextInfo:");
+constexpr std::size_t listedProjects = 6;
+
+} // namespace
+
+QuitSequence::QuitSequence(std::function<std::vector<DocumentWindow *>()> windows, QObject *parent)
+    : QObject(parent)
+    , m_windows(std::move(windows))
+{
+}
+
+void QuitSequence::start()
+{
+    proceed();
+}
+
+void QuitSequence::proceed()
+{
+    if (m_stage != Stage::Waiting || waitsForBusyWindow())
+        return;
+    const std::vector<DocumentWindow *> changed = changedWindows();
+    if (changed.size() > 1) {
+        m_stage = Stage::Asking;
+        ask(changed);
+    } else {
+        m_stage = Stage::Reviewing;
+        settleNext();
+    }
+}
+
+/// Whether something is to end first; proceed() is called again then.
+bool QuitSequence::waitsForBusyWindow()
+{
+    for (DocumentWindow *const window : m_windows()) {
+        window->giveUpForClosing();
+        if (!window->isBusy())
+            continue;
+        const auto options = Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection);
+        connect(window, &DocumentWindow::menusChanged, this, &QuitSequence::proceed, options);
+        connect(window, &DocumentWindow::closed, this, &QuitSequence::proceed, options);
+        return true;
+    }
+    return false;
+}
+
+std::vector<DocumentWindow *> QuitSequence::changedWindows() const
+{
+    std::vector<DocumentWindow *> changed;
+    for (DocumentWindow *const window : m_windows()) {
+        const MyDocument *const document = window->document();
+        const bool isSettled = std::find(m_settled.begin(), m_settled.end(), window) != m_settled.end();
+        if (document && document->isEdited() && !isSettled)
+            changed.push_back(window);
+    }
+    return changed;
+}
+
+void QuitSequence::ask(const std::vector<DocumentWindow *> &changed)
+{
+    QStringList names;
+    for (const DocumentWindow *const window : changed) {
+        if (std::size_t(names.size()) == listedProjects) {
+            names.append(QStringLiteral("…"));
+            break;
+        }
+        names.append(QFileInfo(window->path()).fileName());
+    }
+    QVAlert::alertSheetWithMessageText(
+        tr("Do you want to save the changes made to %1 projects before quitting?").arg(changed.size()),
+        tr("Save All"), tr("Review…"), tr("Cancel"), names.join(QLatin1Char('\n')), nullptr, this,
+        quitQuestion, false, nullptr);
+}
+
+bool QuitSequence::respondsTo(const QString &selector) const
+{
+    return selector == quitQuestion;
+}
+
+void QuitSequence::perform(const QString &, QVAlert *, int code)
+{
+    if (code != AlertAnswer::Default && code != AlertAnswer::Alternate) {
+        Q_EMIT cancelled();
+        return;
+    }
+    m_stage = code == AlertAnswer::Default ? Stage::Saving : Stage::Reviewing;
+    settleNext();
+}
+
+void QuitSequence::settleNext()
+{
+    const std::vector<DocumentWindow *> changed = changedWindows();
+    if (changed.empty()) {
+        Q_EMIT settled();
+        return;
+    }
+    DocumentWindow *const window = changed.front();
+    connect(window, &DocumentWindow::changesSettled, this, &QuitSequence::windowSettled,
+            Qt::SingleShotConnection);
+    m_settled.emplace_back(window);
+    window->settleChanges(m_stage == Stage::Saving ? DocumentWindow::Settling::Save
+                                                   : DocumentWindow::Settling::Ask);
+}
+
+void QuitSequence::windowSettled(bool isSettled)
+{
+    if (isSettled)
+        settleNext();
+    else
+        Q_EMIT cancelled();
+}
+
+} // namespace vantrell

@@ -1,0 +1,157 @@
+#include "bridge/host/ProjectText.h"
+
+#include "support/FileUtilities.h"
+#include "xml/XmlOutline.h"
+
+#include <QBuffer>
+
+#include <numeric>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr int ChildrenLevel = 2; // the root, its project, and what the project's children stand in
+
+const QByteArray lineEnd = "\n";
+
+/// The name of the element that starts there, as it is written.
+QByteArray writtenName(const QByteArray &xml, qsizetype begin)
+{
+    qsizetype end = begin + 1;
+    while (end < xml.size() && !QByteArrayView(" \t\r\n/>").contains(xml.at(end)))
+        ++end;
+    return xml.sliced(begin + 1, end - begin - 1);
+}
+
+} // namespace
+
+Result<ProjectText> ProjectText::fromFile(const QString &path)
+{
+    if (Result<QByteArray> content = FileUtilities::readFile(path)) {
+        if (Result<ProjectText> text = fromUtf8(std::move(content.value())))
+            return text;
+    }
+    // In another encoding, or no project: then this tells why.
+    auto document = XmlDocument::fromFile(path, {.tolerant = false});
+    if (!document)
+        return document.failure();
+    if (document.value()->wasRepaired()) {
+        return Failure{QStringLiteral("The file \"%1\" cannot be opened as a project: %2")
+                           .arg(path, document.value()->firstFault())};
+    }
+    if (!document.value()->rootElement().isElement("xmeml"))
+        return Failure{QStringLiteral("The file \"%1\" is no xmeml project.").arg(path)};
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (const Result<void> written = document.value()->writeUtf8(buffer); !written)
+        return written.failure();
+    Result<ProjectText> text = fromUtf8(buffer.data());
+    if (text)
+        text.value().m_encoding = document.value()->encoding();
+    return text;
+}
+
+Result<ProjectText> ProjectText::empty(const QString &name, std::int64_t xmemlVersion)
+{
+    return fromUtf8("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE xmeml>\n<xmeml version=\"" +
+                    QByteArray::number(qlonglong(xmemlVersion)) + "\"><project><name>" +
+                    name.toHtmlEscaped().toUtf8() + "</name><children>\n</children></project></xmeml>\n");
+}
+
+Result<ProjectText> ProjectText::fromUtf8(QByteArray xml)
+{
+    const auto outline = XmlOutline::read(xml, ChildrenLevel);
+    if (!outline)
+        return outline.failure();
+    if (!outline.value() || outline.value()->elements.front().name != "xmeml")
+        return Failure{QStringLiteral("it is no xmeml in UTF-8")};
+    const qsizetype project = outline.value()->childOf(0, "project");
+    const qsizetype children = project < 0 ? -1 : outline.value()->childOf(project, "children");
+    const qsizetype index = children >= 0 ? children : std::max<qsizetype>(project, 0);
+    const XmlOutline::Element &container = outline.value()->elements[std::size_t(index)];
+
+    ProjectText text;
+    const qsizetype place = container.close;
+    qsizetype rest = place;
+    text.m_parts.push_back({xml, 0, place});
+    text.m_place = 1;
+    if (container.content == container.close && xml.at(place) == '/') {
+        rest += 2;
+        text.m_parts.push_back({xml, place, rest - place});
+        text.m_gap = 1;
+        text.m_opening = ">";
+        text.m_closing = "</" + writtenName(xml, container.begin) + '>';
+    }
+    if (project >= 0 && children < 0) {
+        text.m_opening += "<children>";
+        text.m_closing.prepend("</children>");
+    }
+    text.m_parts.push_back({xml, rest, xml.size() - rest});
+    text.m_xml = std::move(xml);
+    return text;
+}
+
+qsizetype ProjectText::size() const
+{
+    return std::accumulate(m_parts.begin(), m_parts.end(), qsizetype(0),
+                           [](qsizetype sum, const Part &part) { return sum + part.size; });
+}
+
+const QByteArray &ProjectText::xml()
+{
+    if (!m_xml.isNull() || m_parts.empty())
+        return m_xml;
+    m_xml.reserve(size());
+    qsizetype place = 0;
+    for (std::size_t i = 0; i < m_parts.size(); ++i) {
+        if (i == m_place)
+            place = m_xml.size();
+        m_xml.append(m_parts[i].view());
+    }
+    m_parts = {{m_xml, 0, place}, {m_xml, place, m_xml.size() - place}}; // lets go of what they were
+    m_place = 1;
+    return m_xml;
+}
+
+ProjectText ProjectText::with(const ImportedXml &imported) const
+{
+    ProjectText text;
+    text.m_encoding = m_encoding;
+    const auto place = m_parts.begin() + std::ptrdiff_t(m_place);
+    text.m_parts.assign(m_parts.begin(), place);
+    text.m_parts.push_back(whole(m_opening));
+    for (const QByteArrayView item : imported.items) {
+        text.m_parts.push_back({imported.xml, item.data() - imported.xml.constData(), item.size()});
+        text.m_parts.push_back(whole(lineEnd));
+    }
+    text.m_place = text.m_parts.size();
+    text.m_parts.push_back(whole(m_closing));
+    text.m_parts.insert(text.m_parts.end(), place + std::ptrdiff_t(m_gap), m_parts.end());
+    return text;
+}
+
+Result<std::unique_ptr<XmlDocument>> ProjectText::tree()
+{
+    return XmlDocument::fromData(xml(), {.tolerant = false});
+}
+
+Result<void> ProjectText::save(const QString &path)
+{
+    if (m_encoding.isEmpty()) {
+        return FileUtilities::writeAtomically(path, [this](QIODevice &device) -> Result<void> {
+            for (const Part &part : m_parts)
+                device.write(part.view().data(), part.size);
+            return {};
+        });
+    }
+    const auto document = tree();
+    if (!document)
+        return document.failure();
+    document.value()->setEncoding(m_encoding);
+    return document.value()->save(path);
+}
+
+} // namespace vantrell

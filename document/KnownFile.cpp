@@ -1,0 +1,135 @@
+#include "document/KnownFile.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+namespace vantrell
+{
+
+namespace
+{
+
+std::optional<FileStamp> stampOf(const struct stat &status)
+{
+    if (!S_ISREG(status.st_mode))
+        return std::nullopt;
+#ifdef __APPLE__
+    const timespec &changed = status.st_mtimespec;
+#else
+    const timespec &changed = status.st_mtim;
+#endif
+    return FileStamp{std::uint64_t(status.st_dev), std::uint64_t(status.st_ino), std::int64_t(status.st_size),
+                     std::int64_t(changed.tv_sec), std::int64_t(changed.tv_nsec)};
+}
+
+QString cleanPath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+/// Empty when the file cannot be read, or changes meanwhile.
+QByteArray digestOf(const QString &path, const FileStamp &stamp)
+{
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    const bool isRead = FileStamp::ofPath(path) == stamp && file.open(QIODevice::ReadOnly) &&
+                        hash.addData(&file) && FileStamp::ofPath(path) == stamp;
+    return isRead ? hash.result() : QByteArray();
+}
+
+} // namespace
+
+std::optional<FileStamp> FileStamp::ofPath(const QString &path)
+{
+    struct stat status = {};
+    if (path.isEmpty() || ::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return stampOf(status);
+}
+
+std::optional<FileStamp> FileStamp::ofDescriptor(int descriptor)
+{
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 ? stampOf(status) : std::nullopt;
+}
+
+void KnownFile::note(const QString &path, const std::optional<FileStamp> &stamp)
+{
+    const QString clean = cleanPath(path);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const std::lock_guard lock(m_mutex);
+    m_path = clean;
+    m_canonicalPath = canonical;
+    m_stamp = stamp;
+    m_digest.clear();
+}
+
+bool KnownFile::isAt(const QString &path)
+{
+    QString knownPath;
+    QString canonicalPath;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_stamp)
+            return false;
+        knownPath = m_path;
+        canonicalPath = m_canonicalPath;
+    }
+    if (cleanPath(path) == knownPath)
+        return true;
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == canonicalPath;
+}
+
+void KnownFile::rememberContent()
+{
+    QString path;
+    std::optional<FileStamp> stamp;
+    {
+        const std::lock_guard lock(m_mutex);
+        path = m_path;
+        stamp = m_stamp;
+    }
+    if (!stamp || stamp->size > contentLimit)
+        return;
+    const QByteArray digest = digestOf(path, *stamp);
+    const std::lock_guard lock(m_mutex);
+    if (m_stamp == stamp && m_path == path)
+        m_digest = digest;
+}
+
+std::optional<FileStamp> KnownFile::changeAt(const QString &path)
+{
+    std::optional<FileStamp> stamp;
+    QByteArray digest;
+    {
+        const std::lock_guard lock(m_mutex);
+        stamp = m_stamp;
+        digest = m_digest;
+    }
+    if (!isAt(path))
+        return std::nullopt;
+    const std::optional<FileStamp> found = FileStamp::ofPath(path);
+    if (!found || found == stamp)
+        return std::nullopt;
+    const bool isSame = found->size == stamp->size && !digest.isEmpty() && digestOf(path, *found) == digest;
+    if (!isSame)
+        return found;
+    const std::lock_guard lock(m_mutex);
+    if (m_stamp == stamp)
+        m_stamp = found;
+    return std::nullopt;
+}
+
+void KnownFile::accept(const FileStamp &stamp)
+{
+    const std::lock_guard lock(m_mutex);
+    m_stamp = stamp;
+    m_digest.clear();
+}
+
+} // namespace vantrell

@@ -1,0 +1,26 @@
+#include "markers/MarkerElement.h"
+
+#include "support/TextFormat.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlReferences.h"
+
+namespace vantrell::MarkerElement
+{
+
+Result<XmlNode> make(XmlDocument &document, const QString &name, const QString &comment, std::int64_t inPoint,
+                     std::int64_t outPoint)
+{
+    const QString text = formatText(
+        u"<marker><name>%@</name><comment>%@</comment><color><alpha>0</alpha><red>255</red>"
+        u"<green>0</green><blue>0</blue></color><in>%i</in><out>%i</out></marker>",
+        QVXMLParser::escapeQueryString(name), QVXMLParser::escapeQueryString(comment), inPoint, outPoint);
+    // A character beyond the basic plane is escaped as the two halves of its surrogate pair.
+    Result<XmlNode> made =
+        document.elementFromText(QString::fromUtf8(XmlReferences::joinedSurrogates(text.toUtf8())));
+    const QLatin1Char markup('<');
+    if (!made || !(name.contains(markup) || comment.contains(markup)))
+        return made;
+    return Failure{QStringLiteral("The name or comment holds XML markup.")};
+}
+
+} // namespace vantrell::MarkerElement

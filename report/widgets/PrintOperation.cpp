@@ -1,0 +1,116 @@
+#include "report/widgets/PrintOperation.h"
+
+#include "report/widgets/WebView.h"
+#include "support/BackgroundWork.h"
+#include "support/FileUtilities.h"
+#include "support/MainThread.h"
+#include "support/TaskRunner.h"
+
+#include <QPointer>
+#include <QTemporaryDir>
+
+#include <utility>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr int spoolTimeoutMs = 10 * 60 * 1000;
+
+const QString sourceScript = QStringLiteral("'<!DOCTYPE html>' + document.documentElement.outerHTML");
+
+/// Hands the pages to the printing system as they are; they are turned already.
+Result<void> spool(const PrintInfo &info, const QByteArray &pdf, const std::function<bool()> &isCancelled)
+{
+    const Result<TaskRunner::Output> run =
+        TaskRunner::run(QStringLiteral("lp"),
+                        {QStringLiteral("-s"), QStringLiteral("-d"), info.printer, QStringLiteral("-n"),
+                         QString::number(info.copies), QStringLiteral("-t"), info.jobTitle,
+                         QStringLiteral("-o"), QStringLiteral("media=") + info.paper()},
+                        spoolTimeoutMs, pdf, isCancelled);
+    if (!run) {
+        return Failure{PrintOperation::tr("The printing system cannot be reached; the package “cups-client” "
+                                          "has its program “lp”. %1")
+                           .arg(run.message())};
+    }
+    if (run.value().exitCode != 0) {
+        return Failure{PrintOperation::tr("The printer “%1” did not take the report. %2")
+                           .arg(info.printer, QString::fromUtf8(run.value().standardError).trimmed())};
+    }
+    return {};
+}
+
+Result<void> print(const PrintInfo &info, const PrintOperation::PdfMaker &makePdf, const QByteArray &html,
+                   const std::function<bool()> &isCancelled)
+{
+    if (info.printer.isNull())
+        return makePdf(html, info.file, info.pages(), isCancelled);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("report.pdf"));
+    const Result<void> made = makePdf(html, file, info.pages(), isCancelled);
+    if (!made)
+        return made;
+    const Result<QByteArray> pdf = FileUtilities::readFile(file);
+    return pdf ? spool(info, pdf.value(), isCancelled) : Result<void>(pdf.failure());
+}
+
+} // namespace
+
+PrintOperation::PrintOperation(WebView &webView, PdfMaker makePdf, const PrintInfo &info, QObject *parent)
+    : QObject(parent)
+    , m_webView(webView)
+    , m_makePdf(std::move(makePdf))
+    , m_info(info)
+    , m_isCancelled(std::make_shared<std::atomic<bool>>(false))
+{
+}
+
+PrintOperation::~PrintOperation()
+{
+    cancel();
+}
+
+void PrintOperation::run()
+{
+    if (m_state != State::New)
+        return;
+    m_state = State::Running;
+    Q_EMIT progressed(m_info.printer.isNull() ? tr("Making the pages…")
+                                              : tr("Making the pages for “%1”…").arg(m_info.printer));
+    m_webView.run(sourceScript, [self = QPointer(this)](const QVariant &html) {
+        if (self && self->isRunning())
+            self->makePages(html.toString());
+    });
+}
+
+void PrintOperation::makePages(const QString &html)
+{
+    const auto done = [self = QPointer(this)](const Result<void> &printed) {
+        if (self && self->isRunning())
+            self->end(printed);
+    };
+    BackgroundWork::run([done, info = m_info, makePdf = m_makePdf, bytes = html.toUtf8(),
+                         cancelled = m_isCancelled] {
+        const Result<void> printed = print(info, makePdf, bytes, [cancelled] { return cancelled->load(); });
+        MainThread::post([done, printed] { done(printed); });
+    });
+}
+
+void PrintOperation::cancel()
+{
+    if (!isRunning())
+        return;
+    *m_isCancelled = true;
+    m_state = State::Cancelled;
+    Q_EMIT finished(Failure());
+}
+
+void PrintOperation::end(const Result<void> &printed)
+{
+    m_state = State::Done;
+    Q_EMIT finished(printed);
+}
+
+} // namespace vantrell

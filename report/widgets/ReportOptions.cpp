@@ -1,0 +1,99 @@
+#include "report/widgets/ReportOptions.h"
+
+#include "report/ReportGenerator.h"
+#include "report/widgets/PrintColumnModel.h"
+#include "support/UserDefaults.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString projectTitleKey = QStringLiteral("projectTitle");
+const QString printColorLabelsKey = QStringLiteral("printColorLabels");
+
+// A report that takes longer than the first to make follows a title that is being typed after the second.
+constexpr int slowMs = 30;
+constexpr int slowDelayMs = 400;
+
+} // namespace
+
+ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, const QString &fileTitle,
+                             QWidget *parent)
+    : QWidget(parent)
+    , m_defaults(defaults)
+    , m_title(new QLineEdit(this))
+    , m_colorLabels(new QCheckBox(tr("Colour &labels behind marker names"), this))
+    , m_columns(new QListView(this))
+    , m_titleDelay(new QTimer(this))
+{
+    auto *const titleLabel = new QLabel(tr("Report &title"), this);
+    titleLabel->setBuddy(m_title);
+    m_title->setPlaceholderText(fileTitle);
+    m_titleDelay->setSingleShot(true);
+    connect(m_titleDelay, &QTimer::timeout, this, &ReportOptions::storeTitle);
+    connect(m_title, &QLineEdit::textEdited, m_titleDelay, qOverload<>(&QTimer::start));
+    connect(m_title, &QLineEdit::editingFinished, this, [this] {
+        if (m_titleDelay->isActive())
+            storeTitle();
+    });
+
+    m_colorLabels->setVisible(report.printTableRef() == Tab::Markers);
+    connect(m_colorLabels, &QCheckBox::clicked, this,
+            [this](bool isChecked) { m_defaults.setValue(printColorLabelsKey, isChecked ? 1 : 0); });
+
+    auto *const columnsLabel = new QLabel(tr("&Columns"), this);
+    columnsLabel->setBuddy(m_columns);
+    m_columns->setAccessibleName(tr("Columns of the report"));
+    m_columns->setModel(new PrintColumnModel(report, m_columns));
+    m_columns->setUniformItemSizes(true);
+    if (m_columns->model()->rowCount() > 0)
+        m_columns->setCurrentIndex(m_columns->model()->index(0, 0));
+
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(titleLabel);
+    layout->addWidget(m_title);
+    layout->addWidget(m_colorLabels);
+    layout->addWidget(columnsLabel);
+    layout->addWidget(m_columns, 1);
+
+    connect(&m_defaults, &UserDefaults::changed, this, &ReportOptions::showDefault);
+    showDefault(projectTitleKey);
+    showDefault(printColorLabelsKey);
+}
+
+void ReportOptions::showDefault(const QString &key)
+{
+    if (key == projectTitleKey) {
+        const QString title = m_defaults.string(projectTitleKey);
+        if (!m_titleDelay->isActive() && m_title->text() != title)
+            m_title->setText(title);
+    } else if (key == printColorLabelsKey) {
+        m_colorLabels->setChecked(m_defaults.integer(printColorLabelsKey) == 1);
+    }
+}
+
+/// No text leaves the title to the file.
+void ReportOptions::storeTitle()
+{
+    m_titleDelay->stop();
+    QElapsedTimer taken;
+    taken.start();
+    if (m_title->text().isEmpty())
+        m_defaults.removeValue(projectTitleKey);
+    else
+        m_defaults.setValue(projectTitleKey, m_title->text());
+    m_titleDelay->setInterval(taken.elapsed() > slowMs ? slowDelayMs : 0);
+}
+
+} // namespace vantrell

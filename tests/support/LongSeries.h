@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace vantrell
+{
+
+/// How many cases of a series of random ones to try: all of `length` when the environment variable
+/// VANTRELL_SERIES is "full", as tools/series sets it; else a fixed share, always the same first ones: a
+/// quarter, or a twentieth under a sanitizer.
+inline int seriesLength(int length)
+{
+    if (qgetenv("VANTRELL_SERIES") == "full")
+        return length;
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return length / 20;
+#else
+    return length / 4;
+#endif
+}
+
+} // namespace vantrell
