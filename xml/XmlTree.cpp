@@ -79,15 +79,14 @@ void XmlTree::growNameTable()
     m_nameTable = std::move(larger);
 }
 
-/// Projects have none or a few.
 std::uint32_t XmlTree::internUri(std::string_view uri)
 {
     if (uri.empty())
         return 0;
-    const auto number = std::uint32_t(std::find(m_uris.begin() + 1, m_uris.end(), uri) - m_uris.begin());
-    if (number == m_uris.size())
+    const auto [known, isNew] = m_uriNumbers.try_emplace(std::string(uri), std::uint32_t(m_uris.size()));
+    if (isNew)
         m_uris.emplace_back(uri);
-    return number;
+    return known->second;
 }
 
 std::string_view XmlTree::prefix(XmlNameId id) const
@@ -265,8 +264,10 @@ void XmlTree::setInOrder(bool textToo)
 void XmlTree::noteChange(const Node &changed)
 {
     m_isTextInOrder = false;
-    if (changed.isElement())
-        m_orderedEnd = 0;
+    if (!changed.isElement() || !isInOrder())
+        return;
+    m_orderedEnd = 0;
+    m_elements = {};
 }
 
 XmlNodeId XmlTree::endOfElementsIn(XmlNodeId id) const

@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vantrell
@@ -158,7 +159,8 @@ public:
     }
     XmlNodeId makeText(Kind kind, std::string_view text);
     void append(XmlNodeId parent, XmlNodeId child);
-    void insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child); ///< previous 0: in front
+    /// For texts; previous 0 is in front.
+    void insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child);
     void appendAttribute(XmlNodeId element, XmlNodeId attribute);
     /// Takes all attributes off an element, not its namespace declarations.
     void removeAttributes(XmlNodeId element);
@@ -179,6 +181,15 @@ public:
 
     // Order
 
+    /// An element that is made in document order while the tree is built.
+    XmlNodeId makeListed(XmlNameId name)
+    {
+        const XmlNodeId id = make(Kind::Element, name);
+        if (name >= m_elements.size())
+            m_elements.resize(std::size_t(name) + 1);
+        m_elements[name].push_back(id);
+        return id;
+    }
     /// From now on, until an element is moved, added or taken out, the elements of the document are numbered
     /// in document order, and so is all else but white space that was added late.
     void setInOrder(bool textToo);
@@ -186,33 +197,27 @@ public:
     bool isTextInOrder() const { return m_orderedEnd > 0 && m_isTextInOrder; }
     /// The number behind those of all elements that the node holds, while isInOrder().
     XmlNodeId endOfElementsIn(XmlNodeId id) const;
-    /// Calls \a found with the number of each element from \a begin to before \a end whose name is marked.
+    /// Calls \a found with the number of each element of that name from \a begin to before \a end, in order.
     template <typename Found>
-    void findElements(XmlNodeId begin, XmlNodeId end, const std::vector<char> &marked, Found found) const
+    void findElements(XmlNameId name, XmlNodeId begin, XmlNodeId end, Found found) const
     {
-        for (XmlNodeId id = begin; id < end;) {
-            const Node *const chunk = m_nodes[id >> nodeBits].get();
-            const auto last =
-                XmlNodeId(std::min<std::uint64_t>(end, ((id >> nodeBits) + std::uint64_t(1)) << nodeBits));
-            for (; id < last; ++id) {
-                const Node &at = chunk[id & (nodesPerChunk - 1)];
-                if (at.isElement() && marked[at.name])
-                    found(id);
-            }
-        }
+        if (name >= m_elements.size())
+            return;
+        const std::vector<XmlNodeId> &ids = m_elements[name];
+        for (auto at = std::lower_bound(ids.begin(), ids.end(), begin); at != ids.end() && *at < end; ++at)
+            found(*at);
     }
-    /// The first of them with that name; 0 for none.
+    /// The first of them; 0 for none.
     XmlNodeId firstElementNamed(XmlNameId name, XmlNodeId begin, XmlNodeId end) const
     {
-        for (XmlNodeId id = begin; id < end; ++id) {
-            if (node(id).name == name && node(id).isElement())
-                return id;
-        }
-        return 0;
+        if (name >= m_elements.size())
+            return 0;
+        const std::vector<XmlNodeId> &ids = m_elements[name];
+        const auto at = std::lower_bound(ids.begin(), ids.end(), begin);
+        return at != ids.end() && *at < end ? *at : 0;
     }
     /// The number behind those of all that was parsed, while isInOrder().
     XmlNodeId orderedEnd() const { return m_orderedEnd; }
-    std::size_t nameCount() const { return m_names.size(); }
 
     // What the declaration of the document said
 
@@ -242,6 +247,7 @@ private:
     XmlNodeId m_nodeCount = 0;
     XmlNodeId m_orderedEnd = 0; // 0: not in order
     bool m_isTextInOrder = false;
+    std::vector<std::vector<XmlNodeId>> m_elements; // by name, ascending; empty when no longer in order
     std::vector<std::unique_ptr<char[]>> m_textMemory;
     std::vector<char *> m_texts;  // by the upper part of a text's place
     char *m_region = nullptr;     // what new texts are put into: a chunk, or several in a row
@@ -251,6 +257,7 @@ private:
     std::size_t m_openSize = 0;   // of the open text
     std::deque<Name> m_names;
     std::vector<std::string> m_uris;
+    std::unordered_map<std::string, std::uint32_t> m_uriNumbers; // 1 and up
     std::vector<XmlNameId> m_nameTable; // open addressing, a power of two; noName: free
 };
 

@@ -71,7 +71,7 @@ void XmlTreeBuilder::setLastChild()
 void XmlTreeBuilder::startElement(XmlNameId name)
 {
     endRun();
-    const XmlNodeId element = m_tree.make(Kind::Element, name);
+    const XmlNodeId element = m_tree.makeListed(name);
     append(element);
     bool asksForSpace = m_keepsSpace;
     if (!m_open.empty()) {
