@@ -1,6 +1,6 @@
 #include "app/AboutPanel.h"
 
-#include "support/TextFormat.h"
+#include "support/text/TextFormat.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>

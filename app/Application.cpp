@@ -1,6 +1,6 @@
 #include "app/Application.h"
 
-#include "support/QVException.h"
+#include "support/log/QVException.h"
 
 #include <QFileOpenEvent>
 #include <QIcon>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QVAlert.h"
+#include "support/alerts/QVAlert.h"
 
 #include <QObject>
 #include <QPointer>

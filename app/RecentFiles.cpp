@@ -1,6 +1,6 @@
 #include "app/RecentFiles.h"
 
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QFileInfo>
 

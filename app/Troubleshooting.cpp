@@ -1,14 +1,14 @@
 #include "app/Troubleshooting.h"
 
-#include "support/BackgroundWork.h"
-#include "support/FileUtilities.h"
-#include "support/MainThread.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
-#include "support/StandardFolders.h"
-#include "support/TaskRunner.h"
-#include "support/Workspace.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/files/FileUtilities.h"
+#include "support/threads/MainThread.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/files/StandardFolders.h"
+#include "support/files/TaskRunner.h"
+#include "support/desktop/Workspace.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #include "app/WebPages.h"
 
-#include "support/QVAlert.h"
-#include "support/UserDefaults.h"
+#include "support/alerts/QVAlert.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

@@ -10,7 +10,7 @@
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TabPane.h"
 #include "document/widgets/TableModel.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "bridge/EventCancel.h"
 
-#include "support/ChildProcess.h"
+#include "support/files/ChildProcess.h"
 
 #include <algorithm>
 #include <array>

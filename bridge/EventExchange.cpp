@@ -3,8 +3,8 @@
 #include "bridge/EventCodes.h"
 #include "bridge/FileReference.h"
 #include "bridge/SharedEventTransport.h"
-#include "support/QVLog.h"
-#include "support/SystemLog.h"
+#include "support/log/QVLog.h"
+#include "support/log/SystemLog.h"
 
 namespace vantrell
 {

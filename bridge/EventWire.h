@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/EventRecord.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -1,7 +1,7 @@
 #include "bridge/FileReference.h"
 
-#include "support/ChildProcess.h"
-#include "support/StandardFolders.h"
+#include "support/files/ChildProcess.h"
+#include "support/files/StandardFolders.h"
 
 #include <QCryptographicHash>
 #include <QFile>

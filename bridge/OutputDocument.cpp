@@ -1,9 +1,9 @@
 #include "bridge/OutputDocument.h"
 
 #include "bridge/QVAppleEvents.h"
-#include "support/FileUtilities.h"
-#include "support/QVLog.h"
-#include "support/TextFormat.h"
+#include "support/files/FileUtilities.h"
+#include "support/log/QVLog.h"
+#include "support/text/TextFormat.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlEdit.h"
 #include "xml/XmlElementWriter.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/MyDocument.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QString>
 #include <QStringList>

@@ -5,10 +5,10 @@
 #include "bridge/OutputDocument.h"
 #include "bridge/QVAppleEvents.h"
 #include "bridge/QVPremiereEvents.h"
-#include "support/FileUtilities.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
-#include "support/TransientFile.h"
+#include "support/files/FileUtilities.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/files/TransientFile.h"
 
 #include <QFileInfo>
 

@@ -1,16 +1,16 @@
 #include "bridge/QVPremiereEvents.h"
 
 #include "bridge/QVPremiere.h"
-#include "support/AlertUntil.h"
-#include "support/FileUtilities.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
-#include "support/StandardFolders.h"
-#include "support/SystemLog.h"
-#include "support/TaskRunner.h"
-#include "support/TextFormat.h"
-#include "support/TransientFile.h"
-#include "support/Workspace.h"
+#include "support/alerts/AlertUntil.h"
+#include "support/files/FileUtilities.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/files/StandardFolders.h"
+#include "support/log/SystemLog.h"
+#include "support/files/TaskRunner.h"
+#include "support/text/TextFormat.h"
+#include "support/files/TransientFile.h"
+#include "support/desktop/Workspace.h"
 
 #include <QDir>
 #include <QFileInfo>

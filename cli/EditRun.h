@@ -2,7 +2,7 @@
 
 #include "cli/EditScript.h"
 #include "cli/ProjectSession.h"
-#include "support/HeadlessAlertPresenter.h"
+#include "support/alerts/HeadlessAlertPresenter.h"
 
 namespace vantrell::cli
 {

@@ -2,7 +2,7 @@
 
 #include "cli/JsonText.h"
 #include "markers/MarkerColumns.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 
 #include <nlohmann/json.hpp>
 

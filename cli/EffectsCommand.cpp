@@ -8,7 +8,7 @@
 #include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/ProjectSession.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 #include "cli/Console.h"
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
-#include "support/HeadlessAlertPresenter.h"
-#include "support/ProgramArguments.h"
-#include "support/QVAlert.h"
+#include "support/alerts/HeadlessAlertPresenter.h"
+#include "support/files/ProgramArguments.h"
+#include "support/alerts/QVAlert.h"
 
 #include <memory>
 

@@ -3,7 +3,7 @@
 #include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlLocationPaths.h"
 

@@ -2,7 +2,7 @@
 #include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

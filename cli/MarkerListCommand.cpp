@@ -7,7 +7,7 @@
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <QFileInfo>
 

@@ -9,7 +9,7 @@
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

@@ -8,9 +8,9 @@
 #include "report/PrintHelper.h"
 #include "report/ReportGenerator.h"
 #include "report/ReportImages.h"
-#include "support/FileUtilities.h"
-#include "support/ProgramArguments.h"
-#include "support/UserDefaults.h"
+#include "support/files/FileUtilities.h"
+#include "support/files/ProgramArguments.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 #include "cli/SortOption.h"
 
 #include "cli/Console.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/Numbers.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 #include "timecode/QVTimecode.h"
 
 #include <functional>

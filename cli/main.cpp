@@ -1,9 +1,9 @@
 #include "cli/Commands.h"
-#include "support/HeadlessAlertPresenter.h"
-#include "support/QVAlert.h"
-#include "support/QVLog.h"
-#include "support/UnfinishedFiles.h"
-#include "support/UserDefaults.h"
+#include "support/alerts/HeadlessAlertPresenter.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVLog.h"
+#include "support/files/UnfinishedFiles.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include "document/ClipMenus.h"
 
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 

@@ -2,9 +2,9 @@
 
 #include "document/MyDocument.h"
 
-#include "support/FileUtilities.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
+#include "support/files/FileUtilities.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
 
 #include <QFileInfo>
 

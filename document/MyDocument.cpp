@@ -1,6 +1,6 @@
 #include "document/MyDocument.h"
 
-#include "support/AlertUntil.h"
+#include "support/alerts/AlertUntil.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"

@@ -5,8 +5,8 @@
 #include "document/KnownFile.h"
 #include "document/Menu.h"
 #include "document/RowRecord.h"
-#include "support/MainThread.h"
-#include "support/Result.h"
+#include "support/threads/MainThread.h"
+#include "support/files/Result.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>

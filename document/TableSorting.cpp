@@ -1,9 +1,9 @@
 #include "document/TableSorting.h"
 
 #include "document/MyDocument.h"
-#include "support/QVException.h"
-#include "support/TextFormat.h"
-#include "support/UserDefaults.h"
+#include "support/log/QVException.h"
+#include "support/text/TextFormat.h"
+#include "support/settings/UserDefaults.h"
 
 namespace vantrell
 {

@@ -1,9 +1,9 @@
 #include "effects/EffectEditor.h"
 
 #include "effects/EffectKeys.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
 #include "xml/XmlEdit.h"
 #include "xml/XmlQuery.h"
 

@@ -3,8 +3,8 @@
 #include "document/RowSort.h"
 #include "effects/EffectKeys.h"
 #include "effects/EffectReader.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
 
 #include <QSet>
 #include <QStringMatcher>

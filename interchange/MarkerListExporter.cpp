@@ -3,11 +3,11 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerKeys.h"
-#include "support/FileUtilities.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
-#include "support/TextNumbers.h"
+#include "support/files/FileUtilities.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
 #include <algorithm>

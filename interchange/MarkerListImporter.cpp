@@ -6,8 +6,8 @@
 #include "interchange/QVFCPXMLParser.h"
 #include "interchange/QVMarkerListParser.h"
 #include "markers/MarkerEditor.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
 
 #include <QFileInfo>
 

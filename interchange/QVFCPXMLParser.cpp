@@ -2,8 +2,8 @@
 
 #include "interchange/ImportedMarker.h"
 #include "interchange/RationalTime.h"
-#include "support/TextFormat.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextFormat.h"
+#include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 #include "xml/XmlDocument.h"
 #include "xml/XmlQuery.h"

@@ -2,8 +2,8 @@
 
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListText.h"
-#include "support/FileUtilities.h"
-#include "support/QVLog.h"
+#include "support/files/FileUtilities.h"
+#include "support/log/QVLog.h"
 
 namespace vantrell
 {

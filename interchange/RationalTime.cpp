@@ -1,6 +1,6 @@
 #include "interchange/RationalTime.h"
 
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 
 #include <cmath>
 #include <limits>

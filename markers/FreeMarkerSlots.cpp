@@ -1,7 +1,7 @@
 #include "markers/FreeMarkerSlots.h"
 
 #include "markers/MarkerKeys.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 
 namespace vantrell
 {

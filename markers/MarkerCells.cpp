@@ -3,9 +3,9 @@
 #include "markers/MarkerCandidates.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
-#include "support/QVException.h"
-#include "support/TextFormat.h"
-#include "support/TextNumbers.h"
+#include "support/log/QVException.h"
+#include "support/text/TextFormat.h"
+#include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
 

@@ -1,6 +1,6 @@
 #include "markers/MarkerColors.h"
 
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 #include "xml/XmlEdit.h"
 
 namespace vantrell::MarkerColors

@@ -6,9 +6,9 @@
 #include "markers/MarkerElement.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
-#include "support/QVAlert.h"
-#include "support/QVException.h"
-#include "support/TextFormat.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVException.h"
+#include "support/text/TextFormat.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
 

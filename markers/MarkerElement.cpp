@@ -1,6 +1,6 @@
 #include "markers/MarkerElement.h"
 
-#include "support/TextFormat.h"
+#include "support/text/TextFormat.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlReferences.h"
 

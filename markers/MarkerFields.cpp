@@ -2,7 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 
 #include <algorithm>
 

@@ -6,8 +6,8 @@
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOwners.h"
 #include "markers/MarkerTableValues.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
 #include "xml/QVXMLParser.h"
 
 #include <algorithm>

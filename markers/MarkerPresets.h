@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PropertyListValue.h"
+#include "support/files/PropertyListValue.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,7 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
 namespace vantrell::MarkerTableValues

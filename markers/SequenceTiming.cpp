@@ -1,7 +1,7 @@
 #include "markers/SequenceTiming.h"
 
 #include "document/MyDocument.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 
 namespace vantrell
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QVException.h"
+#include "support/log/QVException.h"
 
 #include <chrono>
 #include <condition_variable>

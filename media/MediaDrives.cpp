@@ -3,7 +3,7 @@
 #include "media/AnswerWithin.h"
 #include "media/FileChecks.h"
 #include "media/MediaFile.h"
-#include "support/StandardFolders.h"
+#include "support/files/StandardFolders.h"
 
 #include <QFile>
 

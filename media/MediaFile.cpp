@@ -1,7 +1,7 @@
 #include "media/MediaFile.h"
 
 #include "media/MediaKeys.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 
 #include <QHash>
 #include <QStorageInfo>

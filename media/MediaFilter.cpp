@@ -3,8 +3,8 @@
 #include "document/RowSort.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
 
 #include <algorithm>
 #include <filesystem>

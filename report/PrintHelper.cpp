@@ -1,7 +1,7 @@
 #include "report/PrintHelper.h"
 
-#include "support/TaskRunner.h"
-#include "support/UnfinishedFiles.h"
+#include "support/files/TaskRunner.h"
+#include "support/files/UnfinishedFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

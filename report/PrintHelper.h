@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/FileUtilities.h"
-#include "support/Result.h"
+#include "support/files/FileUtilities.h"
+#include "support/files/Result.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "report/ReportExport.h"
 
 #include "report/ReportTable.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 
 #include <algorithm>
 

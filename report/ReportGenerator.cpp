@@ -5,8 +5,8 @@
 #include "report/ReportExport.h"
 #include "report/ReportHTML.h"
 #include "report/ReportTable.h"
-#include "support/FileUtilities.h"
-#include "support/UserDefaults.h"
+#include "support/files/FileUtilities.h"
+#include "support/settings/UserDefaults.h"
 
 namespace vantrell
 {

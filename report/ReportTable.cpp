@@ -3,7 +3,7 @@
 #include "document/MyDocument.h"
 #include "document/RecordText.h"
 #include "markers/MarkerKeys.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 
 #include <algorithm>
 

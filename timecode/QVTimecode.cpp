@@ -1,6 +1,6 @@
 #include "timecode/QVTimecode.h"
 
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 
 #include <QDateTime>
 #include <QList>

@@ -2,7 +2,7 @@
 
 #include "bridge/QVAppleEvents.h"
 #include "report/ReportImages.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #include "xml/QVXMLParser.h"
 
-#include "support/QVLog.h"
-#include "support/TextNumbers.h"
+#include "support/log/QVLog.h"
+#include "support/text/TextNumbers.h"
 #include "xml/XmlQuery.h"
 #include "xml/XmlText.h"
 

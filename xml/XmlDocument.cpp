@@ -1,6 +1,6 @@
 #include "xml/XmlDocument.h"
 
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 #include "xml/XmlElementWriter.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlParse.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Result.h"
+#include "support/files/Result.h"
 #include "xml/XmlNode.h"
 
 #include <QString>

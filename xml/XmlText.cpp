@@ -1,6 +1,6 @@
 #include "xml/XmlText.h"
 
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 
 #include <algorithm>
 

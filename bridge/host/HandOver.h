@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/host/HostSocket.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "bridge/host/HostBundle.h"
 
-#include "support/FileUtilities.h"
-#include "support/PropertyList.h"
+#include "support/files/FileUtilities.h"
+#include "support/files/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "bridge/EventRecord.h"
-#include "support/ChildProcess.h"
-#include "support/Result.h"
+#include "support/files/ChildProcess.h"
+#include "support/files/Result.h"
 
 #include <optional>
 

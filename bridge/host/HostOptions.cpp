@@ -1,7 +1,7 @@
 #include "bridge/host/HostOptions.h"
 
 #include "bridge/host/HostMessages.h"
-#include "support/ProgramArguments.h"
+#include "support/files/ProgramArguments.h"
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "bridge/host/HostMessages.h"
 #include "bridge/host/ProjectItems.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlElementWriter.h"
 

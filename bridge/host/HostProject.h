@@ -2,7 +2,7 @@
 
 #include "bridge/host/ImportedXml.h"
 #include "bridge/host/ProjectText.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>

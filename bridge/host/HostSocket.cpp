@@ -1,6 +1,6 @@
 #include "bridge/host/HostSocket.h"
 
-#include "support/SocketAddress.h"
+#include "support/desktop/SocketAddress.h"
 
 #include <QDir>
 #include <QFile>

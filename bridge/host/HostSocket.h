@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/ChildProcess.h"
-#include "support/Result.h"
+#include "support/files/ChildProcess.h"
+#include "support/files/Result.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "bridge/host/ImportedXml.h"
 
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 #include "xml/XmlDocument.h"
 #include "xml/XmlElementWriter.h"
 #include "xml/XmlOutline.h"

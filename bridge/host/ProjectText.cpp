@@ -1,6 +1,6 @@
 #include "bridge/host/ProjectText.h"
 
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 #include "xml/XmlOutline.h"
 
 #include <QBuffer>

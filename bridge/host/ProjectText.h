@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/host/ImportedXml.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/EventCancel.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QDialog>
 #include <QIcon>

@@ -1,7 +1,7 @@
 #include "document/widgets/DocumentDisposal.h"
 
-#include "support/BackgroundWork.h"
-#include "support/MainThread.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 #include "workbench/Workbench.h"
 
 #include <utility>

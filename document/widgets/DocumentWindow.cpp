@@ -11,8 +11,8 @@
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/SymbolIcon.h"
 #include "document/widgets/SymbolView.h"
-#include "support/QVException.h"
-#include "support/UserDefaults.h"
+#include "support/log/QVException.h"
+#include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
 #include "workbench/Workbench.h"
 

@@ -2,8 +2,8 @@
 
 #include "document/DocumentInterface.h"
 #include "document/widgets/NoticeBar.h"
-#include "support/QVAlert.h"
-#include "support/Result.h"
+#include "support/alerts/QVAlert.h"
+#include "support/files/Result.h"
 
 #include <QMainWindow>
 #include <QPointer>

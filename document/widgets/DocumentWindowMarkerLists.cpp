@@ -7,8 +7,8 @@
 #include "document/widgets/MarkerListPanels.h"
 #include "document/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
-#include "support/BackgroundWork.h"
-#include "support/CancellableWrite.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/files/CancellableWrite.h"
 #include "workbench/Workbench.h"
 
 #include <QFileInfo>

@@ -13,9 +13,9 @@
 #include "report/widgets/QVPrint.h"
 #include "report/widgets/QVPrintViewController.h"
 #include "report/widgets/ReportOptions.h"
-#include "support/BackgroundWork.h"
-#include "support/FileUtilities.h"
-#include "support/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/files/FileUtilities.h"
+#include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
 #include "workbench/Workbench.h"
 

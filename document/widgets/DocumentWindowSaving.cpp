@@ -6,7 +6,7 @@
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
 #include "media/AnswerWithin.h"
-#include "support/BackgroundWork.h"
+#include "support/threads/BackgroundWork.h"
 #include "support/widgets/NestedEvents.h"
 #include "workbench/Workbench.h"
 

@@ -7,7 +7,7 @@
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/TabPane.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 #include "workbench/Workbench.h"
 
 #include <QFileDialog>

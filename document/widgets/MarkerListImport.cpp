@@ -1,8 +1,8 @@
 #include "document/widgets/MarkerListImport.h"
 
 #include "document/TableUpdates.h"
-#include "support/BackgroundWork.h"
-#include "support/QVException.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/log/QVException.h"
 
 #include <QTimer>
 

@@ -9,8 +9,8 @@
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableIcons.h"
 #include "markers/MarkerTableValues.h"
-#include "support/FolderWatcher.h"
-#include "support/UserDefaults.h"
+#include "support/files/FolderWatcher.h"
+#include "support/settings/UserDefaults.h"
 #include "workbench/Workbench.h"
 
 #include <QCheckBox>

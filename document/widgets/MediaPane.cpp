@@ -5,8 +5,8 @@
 #include "document/widgets/TableIcons.h"
 #include "media/MediaFile.h"
 #include "media/widgets/QVGraphView.h"
-#include "support/BackgroundWork.h"
-#include "support/MainThread.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 #include "workbench/Workbench.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "document/widgets/QVTableView.h"
 
 #include "document/widgets/TableModel.h"
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>

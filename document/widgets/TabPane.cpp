@@ -3,7 +3,7 @@
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableDelegate.h"
 #include "document/widgets/TableModel.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "workbench/Workbench.h"
 
 #include <QClipboard>

@@ -3,7 +3,7 @@
 #include "markers/MarkerColors.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
-#include "support/FileUtilities.h"
+#include "support/files/FileUtilities.h"
 
 #include <QGuiApplication>
 #include <QHash>

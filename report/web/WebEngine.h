@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 /// What holds of the web engine in every program that uses it. Main thread.
 namespace vantrell::WebEngine

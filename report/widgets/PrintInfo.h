@@ -1,7 +1,7 @@
 #pragma once
 
 #include "report/PrintHelper.h"
-#include "support/PropertyListValue.h"
+#include "support/files/PropertyListValue.h"
 
 #include <QMarginsF>
 #include <QPageLayout>

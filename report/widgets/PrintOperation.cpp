@@ -1,10 +1,10 @@
 #include "report/widgets/PrintOperation.h"
 
 #include "report/widgets/WebView.h"
-#include "support/BackgroundWork.h"
-#include "support/FileUtilities.h"
-#include "support/MainThread.h"
-#include "support/TaskRunner.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/files/FileUtilities.h"
+#include "support/threads/MainThread.h"
+#include "support/files/TaskRunner.h"
 
 #include <QPointer>
 #include <QTemporaryDir>

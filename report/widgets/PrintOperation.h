@@ -1,7 +1,7 @@
 #pragma once
 
 #include "report/widgets/PrintInfo.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QObject>
 

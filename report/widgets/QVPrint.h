@@ -3,7 +3,7 @@
 #include "report/widgets/PrintInfo.h"
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/QVPrintViewController.h"
-#include "support/Result.h"
+#include "support/files/Result.h"
 
 #include <QObject>
 #include <QPointer>

@@ -2,7 +2,7 @@
 
 #include "report/ReportGenerator.h"
 #include "report/widgets/PrintColumnModel.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>

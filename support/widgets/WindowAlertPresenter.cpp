@@ -1,6 +1,6 @@
 #include "support/widgets/WindowAlertPresenter.h"
 
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "bridge/EscapedXmlBuffer.h"
 #include "bridge/OutputDocument.h"
 #include "bridge/QVAppleEvents.h"
-#include "support/StandardFolders.h"
-#include "support/UserDefaults.h"
+#include "support/files/StandardFolders.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
 

@@ -1,5 +1,5 @@
 #include "bridge/QVAppleEvents.h"
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 #include "tests/support/CapturedStandardError.h"
 #include "tests/support/FcpHost.h"
 #include "tests/support/TemporaryHome.h"

@@ -1,4 +1,4 @@
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/CliRun.h"
 #include "tests/support/FcpHost.h"
 #include "tests/support/TemporaryHome.h"

@@ -1,6 +1,6 @@
 #include "document/MyDocument.h"
-#include "support/QVAlert.h"
-#include "support/UserDefaults.h"
+#include "support/alerts/QVAlert.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"

@@ -1,6 +1,6 @@
 #include "document/MyDocument.h"
 #include "document/TableSorting.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
 

@@ -5,7 +5,7 @@
 #include "document/widgets/MediaPane.h"
 #include "document/widgets/QVTableView.h"
 #include "document/widgets/TableModel.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"

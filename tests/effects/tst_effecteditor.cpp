@@ -1,5 +1,5 @@
-#include "support/QVAlert.h"
-#include "support/QVLog.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVLog.h"
 #include "tests/effects/EffectProject.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/TemporaryHome.h"

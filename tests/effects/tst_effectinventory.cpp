@@ -1,6 +1,6 @@
 #include "effects/EffectReader.h"
 #include "media/MediaInventory.h"
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 #include "tests/effects/EffectProject.h"
 #include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"

@@ -1,5 +1,5 @@
 #include "interchange/QVMarkerListParser.h"
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QtTest>

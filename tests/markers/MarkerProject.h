@@ -4,8 +4,8 @@
 #include "markers/MarkerFields.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
-#include "support/QVAlert.h"
-#include "support/QVLog.h"
+#include "support/alerts/QVAlert.h"
+#include "support/log/QVLog.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 

@@ -1,4 +1,4 @@
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/TemporaryHome.h"
 

@@ -1,7 +1,7 @@
 #include "markers/MarkerColors.h"
 #include "markers/MarkerComment.h"
 #include "markers/MarkerTableValues.h"
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"

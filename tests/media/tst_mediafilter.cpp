@@ -1,6 +1,6 @@
 #include "media/MediaFile.h"
-#include "support/QVLog.h"
-#include "support/StandardFolders.h"
+#include "support/log/QVLog.h"
+#include "support/files/StandardFolders.h"
 #include "tests/media/MediaProject.h"
 #include "tests/support/TemporaryHome.h"
 

@@ -7,7 +7,7 @@
 #include "media/MediaKeys.h"
 #include "report/ReportGenerator.h"
 #include "report/ReportHTML.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
 

@@ -2,7 +2,7 @@
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/QVPrint.h"
 #include "report/widgets/QVPrintViewController.h"
-#include "support/BackgroundWork.h"
+#include "support/threads/BackgroundWork.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QElapsedTimer>

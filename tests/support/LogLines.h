@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QVLog.h"
+#include "support/log/QVLog.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QStringList>

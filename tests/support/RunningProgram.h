@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/ChildProcess.h"
+#include "support/files/ChildProcess.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>

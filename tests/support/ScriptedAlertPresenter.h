@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/AlertPresenter.h"
+#include "support/alerts/AlertPresenter.h"
 
 #include <deque>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "TemporaryHome.h"
 
-#include "support/QVLog.h"
-#include "support/StandardFolders.h"
-#include "support/UserDefaults.h"
+#include "support/log/QVLog.h"
+#include "support/files/StandardFolders.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "TemporaryHome.h"
 
-#include "support/CancellableWrite.h"
-#include "support/FileUtilities.h"
-#include "support/StandardFolders.h"
-#include "support/TransientFile.h"
+#include "support/files/CancellableWrite.h"
+#include "support/files/FileUtilities.h"
+#include "support/files/StandardFolders.h"
+#include "support/files/TransientFile.h"
 
 #include <QtTest>
 

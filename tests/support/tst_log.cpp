@@ -1,10 +1,10 @@
 #include "CapturedStandardError.h"
 #include "TemporaryHome.h"
 
-#include "support/PropertyList.h"
-#include "support/QVException.h"
-#include "support/QVLog.h"
-#include "support/StandardFolders.h"
+#include "support/files/PropertyList.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/files/StandardFolders.h"
 
 #include <QDir>
 #include <QProcess>

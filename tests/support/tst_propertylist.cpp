@@ -1,6 +1,6 @@
 #include "TemporaryHome.h"
 
-#include "support/PropertyList.h"
+#include "support/files/PropertyList.h"
 
 #include <QtTest>
 

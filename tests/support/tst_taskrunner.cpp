@@ -1,4 +1,4 @@
-#include "support/TaskRunner.h"
+#include "support/files/TaskRunner.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QElapsedTimer>

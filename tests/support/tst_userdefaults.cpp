@@ -1,9 +1,9 @@
 #include "CapturedStandardError.h"
 #include "TemporaryHome.h"
 
-#include "support/PropertyList.h"
-#include "support/StandardFolders.h"
-#include "support/UserDefaults.h"
+#include "support/files/PropertyList.h"
+#include "support/files/StandardFolders.h"
+#include "support/settings/UserDefaults.h"
 
 #include <QProcess>
 #include <QSignalSpy>

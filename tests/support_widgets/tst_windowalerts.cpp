@@ -1,5 +1,5 @@
-#include "support/QVAlert.h"
-#include "support/UserDefaults.h"
+#include "support/alerts/QVAlert.h"
+#include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/WindowAlertPresenter.h"
 #include "tests/support/TemporaryHome.h"

@@ -1,4 +1,4 @@
-#include "support/TextNumbers.h"
+#include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
 #include <QtTest>

@@ -14,7 +14,7 @@
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/TableModel.h"
 #include "report/widgets/PrintPanel.h"
-#include "support/UserDefaults.h"
+#include "support/settings/UserDefaults.h"
 #include "workbench/Workbench.h"
 
 #include <QDialog>

@@ -1,0 +1,45 @@
+#include "support/alerts/HeadlessAlertPresenter.h"
+
+#include "support/log/QVLog.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <cstdio>
+#include <thread>
+
+namespace vantrell
+{
+
+AlertPresenter::AlertId HeadlessAlertPresenter::begin(const AlertDescription &description, AlertParent *,
+                                                      Answer answered)
+{
+    m_shown.push_back(description);
+    const AlertId alert = m_shown.size();
+
+    QString line = description.value(AlertKey::MessageText);
+    const QString informativeText = description.value(AlertKey::InformativeText);
+    if (!informativeText.isEmpty())
+        line += QStringLiteral(": ") + informativeText;
+    std::fprintf(stderr, "%s\n", line.toUtf8().constData());
+    std::fflush(stderr);
+    QVLog::appendLog(u"%@", line);
+
+    const bool isQuestion = !description.value(AlertKey::AlternateButtonTitle).isEmpty() ||
+                            !description.value(AlertKey::OtherButtonTitle).isEmpty();
+    const bool isRefused = isQuestion && !m_assumeYes;
+    m_questionRefused = m_questionRefused || isRefused;
+    const bool cancelsByDefault =
+        isQuestion && description.value(AlertKey::DefaultButtonTitle) == QStringLiteral("Cancel");
+    answered(isRefused == cancelsByDefault ? AlertAnswer::Default : AlertAnswer::Alternate);
+    return alert;
+}
+
+void HeadlessAlertPresenter::dispatchOneEvent(std::chrono::milliseconds limit)
+{
+    if (QCoreApplication::instance())
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+    std::this_thread::sleep_for(limit);
+}
+
+} // namespace vantrell

@@ -1,0 +1,351 @@
+#include "support/alerts/QVAlert.h"
+
+#include "support/threads/MainThread.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds EventWait{10};
+constexpr std::chrono::milliseconds PollInterval{200};
+constexpr double LongestIntervalSeconds = 1e8;
+
+/// Main thread only.
+struct AlertsInProgress {
+    std::shared_ptr<AlertPresenter> presenter;
+    /// Those that wait for an answer and those whose caller does.
+    std::vector<std::shared_ptr<QVAlert>> alerts;
+
+    void add(std::shared_ptr<QVAlert> alert)
+    {
+        remove(alert.get());
+        alerts.push_back(std::move(alert));
+    }
+
+    void remove(const QVAlert *alert)
+    {
+        std::erase_if(alerts, [alert](const auto &entry) { return entry.get() == alert; });
+    }
+};
+
+AlertsInProgress &inProgress()
+{
+    // Never destroyed: an alert may still be waited for while the program ends.
+    static AlertsInProgress *const alerts = new AlertsInProgress;
+    return *alerts;
+}
+
+void insertGiven(AlertDescription &description, const QString &key, const QString &value)
+{
+    if (!value.isNull())
+        description.insert(key, value);
+}
+
+} // namespace
+
+std::shared_ptr<QVAlert> QVAlert::create()
+{
+    return std::shared_ptr<QVAlert>(new QVAlert);
+}
+
+void QVAlert::setPresenter(std::shared_ptr<AlertPresenter> presenter)
+{
+    inProgress().presenter = std::move(presenter);
+}
+
+int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &informativeText,
+                                       AlertParent *parentWindow)
+{
+    return alertSheetWithMessageText(messageText, {}, {}, {}, informativeText, parentWindow, nullptr, {},
+                                     true, nullptr);
+}
+
+int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
+                                       const QString &alternateButton, const QString &otherButton,
+                                       const QString &informativeText, AlertParent *parentWindow, bool block)
+{
+    return alertSheetWithMessageText(messageText, defaultButton, alternateButton, otherButton,
+                                     informativeText, parentWindow, nullptr, {}, block, nullptr);
+}
+
+int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
+                                       const QString &alternateButton, const QString &otherButton,
+                                       const QString &informativeText, AlertParent *parentWindow,
+                                       AlertDelegate *, const QString &, bool)
+{
+    return alertSheetWithMessageText(messageText, defaultButton, alternateButton, otherButton,
+                                     informativeText, parentWindow, nullptr, {}, true, nullptr);
+}
+
+int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
+                                       const QString &alternateButton, const QString &otherButton,
+                                       const QString &informativeText, AlertParent *parentWindow,
+                                       AlertDelegate *delegate, const QString &didEndSelector, bool block,
+                                       const std::shared_ptr<QVAlert> &alertObject)
+{
+    return alertSheetWithMessageText(messageText, defaultButton, alternateButton, otherButton,
+                                     informativeText, parentWindow, delegate, didEndSelector, block,
+                                     alertObject, {});
+}
+
+int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
+                                       const QString &alternateButton, const QString &otherButton,
+                                       const QString &informativeText, AlertParent *parentWindow,
+                                       AlertDelegate *delegate, const QString &didEndSelector, bool block,
+                                       const std::shared_ptr<QVAlert> &alertObject,
+                                       const QString &suppressionBinding)
+{
+    const std::shared_ptr<QVAlert> alert = alertObject ? alertObject : create();
+    alert->prepare(parentWindow, delegate, block);
+
+    const QString selector = didEndSelector.isNull() ? alertDidEndSelector() : didEndSelector;
+    bool responds = false;
+    guarded("QVAlert::alertSheetWithMessageText",
+            [&] { responds = (delegate ? delegate : alert.get())->respondsTo(selector); });
+    if (!responds) {
+        std::fprintf(stderr, "Alert error: delegate does not respond to selector %s\n",
+                     selector.toUtf8().constData());
+        return AlertAnswer::Other;
+    }
+
+    AlertDescription description;
+    insertGiven(description, AlertKey::MessageText, messageText);
+    insertGiven(description, AlertKey::DefaultButtonTitle, defaultButton);
+    insertGiven(description, AlertKey::AlternateButtonTitle, alternateButton);
+    insertGiven(description, AlertKey::OtherButtonTitle, otherButton);
+    insertGiven(description, AlertKey::InformativeText, informativeText);
+    insertGiven(description, AlertKey::DidEndSelector, selector);
+    insertGiven(description, AlertKey::SuppressionBinding, suppressionBinding);
+    MainThread::runAndWait([&] { alert->alertSheetWithDictionary(description); });
+    if (!block)
+        return AlertAnswer::Other;
+
+    alert->waitForEnd();
+    MainThread::runAndWait([&] { alert->closeAlert(); });
+    const int code = alert->returnCode();
+    alert->finishCall();
+    return code;
+}
+
+int QVAlert::timedAlertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
+                                            const QString &alternateButton, const QString &otherButton,
+                                            const QString &informativeText, AlertParent *parentWindow,
+                                            double interval)
+{
+    const std::shared_ptr<QVAlert> alert = create();
+    try {
+        std::thread([alert, interval] { alert->defaultReturnAfterTimeInterval(interval); }).detach();
+    } catch (const std::system_error &) {
+        alert->defaultReturnAfterTimeInterval(0); // no thread to be had: nobody would end the wait
+    }
+    return alertSheetWithMessageText(messageText, defaultButton, alternateButton, otherButton,
+                                     informativeText, parentWindow, nullptr, {}, true, alert);
+}
+
+void QVAlert::closeAlertsForParent(AlertParent *parentWindow)
+{
+    if (!parentWindow)
+        return;
+    parentWindow->setClosing();
+    const auto alerts = inProgress().alerts; // a delegate that is told may raise or end others
+    for (const std::shared_ptr<QVAlert> &alert : alerts) {
+        if (alert->m_raisedFor == parentWindow)
+            alert->endWithoutAnswer();
+    }
+    if (const auto presenter = inProgress().presenter)
+        guarded("QVAlert::closeAlertsForParent", [&] { presenter->closeAll(parentWindow); });
+}
+
+void QVAlert::closeAll()
+{
+    const auto alerts = inProgress().alerts;
+    for (const std::shared_ptr<QVAlert> &alert : alerts)
+        alert->endWithoutAnswer();
+    if (const auto presenter = inProgress().presenter)
+        guarded("QVAlert::closeAll", [&] { presenter->closeAll(nullptr); });
+}
+
+QString QVAlert::alertDidEndSelector()
+{
+    return QStringLiteral("alertDidEnd:returnCode:contextInfo:");
+}
+
+void QVAlert::alertSheetWithDictionary(const AlertDescription &description)
+{
+    closeAlert();
+    const std::shared_ptr<QVAlert> self = shared_from_this();
+    inProgress().add(self);
+    AlertDescription shown = description;
+    shown[AlertKey::MessageText] = description.value(AlertKey::MessageText, QStringLiteral(""));
+    shown[AlertKey::InformativeText] = description.value(AlertKey::InformativeText, QStringLiteral(""));
+    m_didEndSelector = description.value(AlertKey::DidEndSelector, alertDidEndSelector());
+    m_presenter = inProgress().presenter;
+    m_raisedFor = m_parentWindow;
+    m_awaitsAnswer = true;
+    const quint64 showing = ++m_showing;
+
+    if (m_presenter && !(m_parentWindow && m_parentWindow->isClosing())) {
+        guarded("QVAlert::alertSheetWithDictionary", [&] {
+            if (m_parentWindow && m_presenter->parentHasSheet(m_parentWindow))
+                m_parentWindow = nullptr;
+            if (m_parentWindow)
+                m_presenter->bringToFront(m_parentWindow);
+            const std::weak_ptr<QVAlert> weakSelf = self;
+            m_alert = m_presenter->begin(shown, m_parentWindow, [weakSelf, showing](int code) {
+                const std::shared_ptr<QVAlert> alert = weakSelf.lock();
+                if (alert && alert->m_showing == showing)
+                    alert->answer(code);
+            });
+        });
+    }
+    if (m_alert == 0 && m_awaitsAnswer) {
+        QVLog::appendLog(u"Alert not shown: %@ %@", shown.value(AlertKey::MessageText),
+                         shown.value(AlertKey::InformativeText));
+        endWithoutAnswer();
+    }
+}
+
+void QVAlert::alertDidEnd(int code)
+{
+    const std::lock_guard lock(m_mutex);
+    m_returnCode = code;
+    m_alertEnded = true;
+    m_changed.notify_all();
+}
+
+void QVAlert::defaultReturnAfterTimeInterval(double interval)
+{
+    const double seconds = interval > 0 ? std::min(interval, LongestIntervalSeconds) : 0;
+    std::unique_lock lock(m_mutex);
+    if (m_changed.wait_for(lock, std::chrono::duration<double>(seconds), [this] { return m_callFinished; }))
+        return;
+    m_intervalPassed = true;
+    if (m_alertEnded)
+        return;
+    m_returnCode = AlertAnswer::Default;
+    m_alertEnded = true;
+    m_changed.notify_all();
+}
+
+void QVAlert::closeAlert()
+{
+    m_awaitsAnswer = false;
+    const auto presenter = std::exchange(m_presenter, nullptr);
+    const AlertPresenter::AlertId alert = std::exchange(m_alert, 0);
+    if (presenter && alert != 0)
+        guarded("QVAlert::closeAlert", [&] { presenter->close(alert); });
+    m_raisedFor = nullptr;
+    inProgress().remove(this);
+}
+
+bool QVAlert::alertEnded() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_alertEnded;
+}
+
+void QVAlert::setAlertEnded(bool ended)
+{
+    const std::lock_guard lock(m_mutex);
+    m_alertEnded = ended;
+    m_changed.notify_all();
+}
+
+int QVAlert::returnCode() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_returnCode;
+}
+
+void QVAlert::setReturnCode(int code)
+{
+    const std::lock_guard lock(m_mutex);
+    m_returnCode = code;
+}
+
+bool QVAlert::respondsTo(const QString &selector) const
+{
+    return selector == alertDidEndSelector();
+}
+
+void QVAlert::perform(const QString &selector, QVAlert *alert, int code)
+{
+    if (alert && respondsTo(selector))
+        alert->alertDidEnd(code);
+}
+
+void QVAlert::prepare(AlertParent *parentWindow, AlertDelegate *delegate, bool block)
+{
+    m_parentWindow = parentWindow;
+    m_delegate = delegate;
+    m_callerWaits = block;
+    const std::lock_guard lock(m_mutex);
+    m_alertEnded = m_intervalPassed;
+    m_callFinished = false;
+}
+
+void QVAlert::waitForEnd()
+{
+    if (!MainThread::isMainThread()) {
+        std::unique_lock lock(m_mutex);
+        while (!m_changed.wait_for(lock, PollInterval, [this] { return m_alertEnded; })) {
+        }
+        return;
+    }
+    while (!alertEnded()) {
+        MainThread::drain();
+        guarded("QVAlert::waitForEnd", [this] {
+            if (const auto presenter = m_presenter)
+                presenter->dispatchOneEvent(EventWait);
+            else
+                std::this_thread::sleep_for(EventWait);
+        });
+    }
+}
+
+void QVAlert::finishCall()
+{
+    const std::lock_guard lock(m_mutex);
+    m_intervalPassed = false;
+    m_callFinished = true;
+    m_changed.notify_all();
+}
+
+/// Takes the answer of an alert that is on show, once, to its delegate.
+void QVAlert::answer(int code)
+{
+    if (!m_awaitsAnswer)
+        return;
+    m_awaitsAnswer = false;
+    const std::shared_ptr<QVAlert> self = shared_from_this();
+    guarded("QVAlert::answer",
+            [&] { (m_delegate ? m_delegate : this)->perform(m_didEndSelector, this, code); });
+    if (!m_callerWaits)
+        inProgress().remove(this);
+}
+
+/// Ends the alert with -1, for its delegate and for a caller that waits, whatever the delegate does. An
+/// answer that was given before stands.
+void QVAlert::endWithoutAnswer()
+{
+    const std::shared_ptr<QVAlert> self = shared_from_this();
+    const bool ended = alertEnded();
+    answer(AlertAnswer::Other);
+    if (!ended)
+        alertDidEnd(AlertAnswer::Other);
+    closeAlert();
+}
+
+} // namespace vantrell

@@ -1,0 +1,56 @@
+#include "support/files/TransientFile.h"
+
+#include "support/files/FileUtilities.h"
+#include "support/files/UnfinishedFiles.h"
+
+#include <QFile>
+
+#include <utility>
+
+namespace vantrell
+{
+
+TransientFile::TransientFile(const QString &path)
+    : m_path(path)
+{
+    UnfinishedFiles::add(QFile::encodeName(path));
+}
+
+Result<TransientFile> TransientFile::make(const QString &path)
+{
+    const Result<QString> made = FileUtilities::makeUniqueFile(path);
+    if (!made)
+        return made.failure();
+    return TransientFile(made.value());
+}
+
+TransientFile::TransientFile(TransientFile &&other) noexcept
+    : m_path(std::exchange(other.m_path, QString()))
+{
+}
+
+TransientFile &TransientFile::operator=(TransientFile &&other) noexcept
+{
+    std::swap(m_path, other.m_path);
+    return *this;
+}
+
+TransientFile::~TransientFile()
+{
+    const Result<void> removed = remove();
+    Q_UNUSED(removed) // nobody is left to be told
+}
+
+Result<void> TransientFile::remove()
+{
+    if (m_path.isEmpty())
+        return {};
+    QFile file(std::exchange(m_path, QString()));
+    const bool isRemoved = file.remove();
+    UnfinishedFiles::remove(QFile::encodeName(file.fileName()));
+    if (!isRemoved)
+        return Failure{file.errorString()};
+    return {};
+}
+
+} // namespace vantrell
