@@ -11,7 +11,7 @@
 #include "bridge/QVAppleEvents.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
-#include "document/widgets/TableIcons.h"
+#include "table/widgets/TableIcons.h"
 #include "media/AnswerWithin.h"
 #include "support/files/FileUtilities.h"
 #include "support/files/PropertyList.h"

@@ -6,8 +6,8 @@
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentWindow.h"
-#include "document/widgets/TabPane.h"
-#include "document/widgets/TableModel.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 
 #include <QAction>
 #include <QActionGroup>

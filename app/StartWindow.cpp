@@ -1,7 +1,7 @@
 #include "app/StartWindow.h"
 
 #include "app/RecentFiles.h"
-#include "document/widgets/SymbolIcon.h"
+#include "support/widgets/SymbolIcon.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

@@ -7,9 +7,9 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "document/widgets/DocumentWindow.h"
-#include "document/widgets/QVTableView.h"
-#include "document/widgets/TabPane.h"
-#include "document/widgets/TableModel.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 #include "support/settings/UserDefaults.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "document/widgets/DocumentWindowInterface.h"
 
 #include "document/widgets/ProgressSheet.h"
-#include "document/widgets/TabPane.h"
+#include "table/widgets/TabPane.h"
 
 namespace vantrell
 {

@@ -3,9 +3,9 @@
 #include "document/widgets/DocumentWindow.h"
 
 #include "document/widgets/DocumentWindowInterface.h"
-#include "document/widgets/MarkerListImport.h"
-#include "document/widgets/MarkerListPanels.h"
-#include "document/widgets/MarkersPane.h"
+#include "interchange/widgets/MarkerListImport.h"
+#include "interchange/widgets/MarkerListPanels.h"
+#include "markers/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/files/CancellableWrite.h"

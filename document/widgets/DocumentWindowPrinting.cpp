@@ -3,8 +3,8 @@
 #include "document/widgets/DocumentWindow.h"
 
 #include "document/widgets/DocumentWindowInterface.h"
-#include "document/widgets/TabPane.h"
-#include "document/widgets/TableModel.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 #include "report/PrintHelper.h"
 #include "report/ReportImages.h"
 #include "report/widgets/ExportReportSheet.h"

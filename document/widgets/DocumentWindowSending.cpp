@@ -6,7 +6,7 @@
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
-#include "document/widgets/TabPane.h"
+#include "table/widgets/TabPane.h"
 #include "support/files/FileUtilities.h"
 #include "workbench/Workbench.h"
 

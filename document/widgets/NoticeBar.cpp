@@ -1,7 +1,7 @@
 #include "document/widgets/NoticeBar.h"
 
-#include "document/widgets/SymbolIcon.h"
-#include "document/widgets/SymbolView.h"
+#include "support/widgets/SymbolIcon.h"
+#include "support/widgets/SymbolView.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>

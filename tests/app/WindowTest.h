@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/widgets/DocumentWindow.h"
-#include "document/widgets/TabPane.h"
-#include "document/widgets/TableModel.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "document/TableUpdates.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
-#include "document/widgets/QVTableView.h"
+#include "table/widgets/QVTableView.h"
 #include "markers/MarkerKeys.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/alerts/QVAlert.h"

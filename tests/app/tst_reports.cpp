@@ -1,6 +1,6 @@
 #include "WindowTest.h"
 
-#include "document/widgets/QVTableView.h"
+#include "table/widgets/QVTableView.h"
 #include "report/widgets/ExportReportSheet.h"
 #include "report/widgets/PrintPanel.h"
 #include "report/widgets/PrintPlugin.h"

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "table/widgets/TabPane.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+namespace vantrell
+{
+
+/// The effects of the project, with their filters and search.
+class EffectsPane : public TabPane
+{
+    Q_OBJECT
+
+public:
+    EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent = nullptr);
+
+    void setEditingEnabled(bool enabled) override;
+
+public Q_SLOTS:
+    /// Removes the selected effects after a question.
+    void removeEffects();
+    void focusSearch();
+
+protected:
+    void commitEdit(int row, const QString &column, const QString &text) override;
+    void updateControls() override;
+    QString loadingText(std::size_t found) const override;
+    QString emptyText() const override;
+    QString filteredText() const override;
+
+private:
+    void applyFilters();
+
+    QComboBox *m_types;
+    QCheckBox *m_showDefaults;
+    QLineEdit *m_search;
+    QPushButton *m_remove;
+};
+
+} // namespace vantrell

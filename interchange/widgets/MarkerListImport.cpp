@@ -1,0 +1,93 @@
+#include "interchange/widgets/MarkerListImport.h"
+
+#include "document/TableUpdates.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/log/QVException.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// How long a few markers may take to be added: the window answers in between.
+constexpr std::chrono::milliseconds slice{15};
+
+} // namespace
+
+MarkerListImport::MarkerListImport(MyDocument &document, const MarkerListImporter &importer,
+                                   const QStringList &paths, const QString &format, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_importer(importer)
+    , m_paths(paths)
+    , m_format(format)
+{
+}
+
+MarkerListImport::~MarkerListImport()
+{
+    *m_isWanted = false;
+}
+
+void MarkerListImport::start()
+{
+    const auto gate = m_document.mainThread();
+    BackgroundWork::run([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
+        auto rows = std::make_shared<MarkerListImporter::Rows>();
+        guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
+                [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });
+        gate->post([this, isWanted, rows] {
+            if (*isWanted)
+                add(std::move(*rows));
+        });
+    });
+}
+
+void MarkerListImport::cancel()
+{
+    if (!*m_isWanted || m_updates)
+        return;
+    *m_isWanted = false;
+    Q_EMIT ended(0, 0);
+}
+
+void MarkerListImport::add(MarkerListImporter::Rows rows)
+{
+    if (rows.rows.empty()) {
+        const MarkerListImporter &importer = m_importer;
+        Q_EMIT ended(0, 0);
+        importer.tellNothingToImport();
+        return;
+    }
+    m_rows = std::move(rows);
+    m_updates = std::make_unique<TableUpdates>(m_document);
+    addSome();
+}
+
+void MarkerListImport::addSome()
+{
+    if (m_document.isClosing() || m_document.mainThread()->isClosed())
+        return;
+    const std::size_t total = m_rows.rows.size();
+    const bool goesOn = guarded("MarkerListImport::addSome", [this] {
+        m_progress = m_importer.addMarkers(m_rows, std::move(m_progress), slice);
+    });
+    Q_EMIT progressed(m_progress.next, total);
+    if (goesOn && m_progress.next < total) {
+        QTimer::singleShot(0, this, &MarkerListImport::addSome);
+        return;
+    }
+    m_updates.reset(); // the table shows them all at once
+    const MarkerListImporter &importer = m_importer;
+    const MarkerListImporter::Progress progress = std::move(m_progress);
+    Q_EMIT ended(progress.added, total);
+    importer.tellOfRejected(progress);
+}
+
+} // namespace vantrell

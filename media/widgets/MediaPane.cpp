@@ -1,0 +1,170 @@
+#include "media/widgets/MediaPane.h"
+
+#include "media/widgets/MediaTableModel.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/TableIcons.h"
+#include "media/MediaFile.h"
+#include "media/widgets/QVGraphView.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
+#include "workbench/Workbench.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+
+#include <memory>
+#include <utility>
+
+namespace vantrell
+{
+
+MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
+    : TabPane(workbench, defaults, new MediaTableModel(workbench.document()), recordValueOfColumn, parent)
+    , m_kinds(new QComboBox(this))
+    , m_drives(new QComboBox(this))
+    , m_reveal(new QPushButton(tr("&Reveal"), this))
+    , m_chart(new QVGraphView(this))
+{
+    makeControls();
+    makeFooter();
+    table().setAccessibleName(tr("Media files"));
+    connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
+        this->workbench().mediaInventory().mediaTableViewDoubleClick(index.row());
+    });
+    auto *menu = new QMenu(this);
+    menu->addAction(tr("Open"), this, [this] {
+        const std::vector<std::size_t> rows = selectedRows();
+        if (!rows.empty())
+            this->workbench().mediaInventory().mediaTableViewDoubleClick(std::ptrdiff_t(rows.front()));
+    });
+    menu->addAction(tr("Reveal in File Browser"), this, &MediaPane::revealMediaInFinder);
+    menu->addAction(tr("Copy"), this, &TabPane::copySelection);
+    table().setMenu(menu);
+    updateControls();
+}
+
+void MediaPane::makeControls()
+{
+    m_kinds->addItems({tr("All Files"), tr("Movie Clips"), tr("Audio Clips"), tr("Images")});
+    m_kinds->setAccessibleName(tr("Kind of files"));
+    m_kinds->setToolTip(tr("Show files of one kind only"));
+    m_drives->addItem(tr("All Drives"));
+    m_drives->setAccessibleName(tr("Drive"));
+    m_drives->setToolTip(tr("Show the files of one drive only"));
+    m_drives->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_reveal->setToolTip(tr("Show the selected file in the file browser"));
+    addControls({m_kinds, m_drives, m_reveal});
+    connect(m_kinds, &QComboBox::activated, this, &MediaPane::applyFilters);
+    connect(m_drives, &QComboBox::activated, this, &MediaPane::applyFilters);
+    connect(m_reveal, &QPushButton::clicked, this, &MediaPane::revealMediaInFinder);
+}
+
+void MediaPane::makeFooter()
+{
+    auto *labels = new QGridLayout;
+    labels->setHorizontalSpacing(fontMetrics().averageCharWidth() * 4);
+    labels->addWidget(makeLabel(Label::MediaTotalSize, this), 1, 0);
+    labels->addWidget(makeLabel(Label::MediaTotalFiles, this), 2, 0);
+    labels->addWidget(makeLabel(Label::MediaFilteredTotalSize, this), 1, 1);
+    labels->addWidget(makeLabel(Label::MediaFilteredTotalFiles, this), 2, 1);
+    labels->addWidget(makeLabel(Label::MediaLargestFile, this), 1, 2);
+    labels->addWidget(makeLabel(Label::MediaSmallestFile, this), 2, 2);
+    labels->setColumnStretch(2, 1);
+    labels->setRowStretch(0, 1);
+    labels->setRowStretch(3, 1);
+    for (const Label file : {Label::MediaLargestFile, Label::MediaSmallestFile}) {
+        // A long name must not widen the window.
+        labelOf(file)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    m_chart->setAccessibleName(tr("Chart of the media on show and the free space of the start-up volume"));
+    auto *line = new QHBoxLayout;
+    line->addLayout(labels, 1);
+    line->addWidget(m_chart);
+    footer().addLayout(line);
+}
+
+void MediaPane::prepareToShow()
+{
+    // A volume that does not answer must not hold up the window.
+    BackgroundWork::run([pane = QPointer(this), count = ++m_driveLookups] {
+        auto drives = std::make_shared<std::vector<DriveItem>>();
+        MediaFilter::populateDrivePopUp(*drives);
+        MainThread::post([pane, drives, count] {
+            if (pane && count == pane->m_driveLookups)
+                pane->setDrives(std::move(*drives));
+        });
+    });
+}
+
+void MediaPane::setDrives(std::vector<DriveItem> drives)
+{
+    const QString chosen = workbench().document().viewState().mediaDrive;
+    m_driveItems = std::move(drives);
+    m_drives->clear();
+    int place = 0;
+    for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
+        const DriveItem &drive = m_driveItems[i];
+        m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path), drive.title);
+        if (!chosen.isNull() && drive.path == chosen)
+            place = int(i);
+    }
+    m_drives->setCurrentIndex(place);
+    if (!chosen.isNull() && place == 0 && workbench().document().viewState().selectedTab == Tab::Media)
+        applyFilters(); // the chosen drive has gone
+}
+
+void MediaPane::applyFilters()
+{
+    ViewState &state = workbench().document().viewState();
+    state.mediaKind = m_kinds->currentIndex();
+    const auto drive = std::size_t(m_drives->currentIndex());
+    state.mediaDrive = drive < m_driveItems.size() ? m_driveItems[drive].path : QString();
+    workbench().mediaFilter().changeMediaFilter();
+}
+
+void MediaPane::setMediaChart(const std::vector<double> &values)
+{
+    m_chart->setValues(values);
+    m_chart->refresh();
+    if (values.size() != 2)
+        return;
+    const QString text = tr("Media on show: %1 (green)\nFree on the start-up volume: %2 (blue)")
+                             .arg(MediaFile::formatFileSize(values[0]), MediaFile::formatFileSize(values[1]));
+    m_chart->setToolTip(text);
+    m_chart->setAccessibleDescription(text);
+}
+
+void MediaPane::revealMediaInFinder()
+{
+    workbench().mediaInventory().revealMediaInFinder();
+}
+
+void MediaPane::updateControls()
+{
+    m_reveal->setEnabled(table().selectionModel()->hasSelection());
+}
+
+QString MediaPane::loadingText(std::size_t found) const
+{
+    return found == 0 ? tr("Looking for media…")
+                      : tr("Looking for media: %1 so far…").arg(QLocale().toString(qulonglong(found)));
+}
+
+QString MediaPane::emptyText() const
+{
+    return tr("This project uses no media files.");
+}
+
+QString MediaPane::filteredText() const
+{
+    return tr("No media file is of this kind and on this drive.");
+}
+
+} // namespace vantrell

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "table/widgets/TableModel.h"
+
+#include <QStringList>
+
+namespace vantrell
+{
+
+/// The table of the media files.
+class MediaTableModel : public TableModel
+{
+    Q_OBJECT
+
+public:
+    explicit MediaTableModel(MyDocument &document, QObject *parent = nullptr);
+
+    Cell cellOf(int column) const override;
+
+    /// The volume that a folder lies on: "/", or the folder's first two components below the root when it
+    /// begins with "/Volumes". Null for "/Volumes" itself. Other folders that hold the mounted volumes
+    /// count as that one does.
+    static QString volumeOf(const QString &directory, const QStringList &volumesFolders);
+
+protected:
+    bool isChecked(const RowRecord &record, int column) const override;
+    QString text(const RowRecord &record, int column) const override;
+    QIcon icon(const RowRecord &record, int column) const override;
+    QString toolTip(const RowRecord &record, int column) const override;
+    Qt::Alignment alignment(int column) const override;
+
+private:
+    QStringList m_volumesFolders;
+};
+
+} // namespace vantrell

@@ -1,0 +1,229 @@
+#include "table/widgets/QVTableView.h"
+
+#include "table/widgets/TableModel.h"
+#include "support/log/QVLog.h"
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMetaObject>
+#include <QPainter>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// The first character of the key without its modifiers; 0 for a key without one.
+char16_t characterOf(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Tab:
+        return 9;
+    case Qt::Key_Enter:
+        return 3;
+    case Qt::Key_Return:
+        return 13;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Delete:
+        return 127;
+    default:
+        break;
+    }
+    const QString text = event.text();
+    if (!text.isEmpty() && text.front().isPrint())
+        return text.front().unicode();
+    const bool isCharacter = event.key() >= Qt::Key_Space && event.key() <= Qt::Key_ydiaeresis;
+    return isCharacter ? QChar(char16_t(event.key())).toLower().unicode() : u'\0';
+}
+
+bool isPopUp(const QModelIndex &index)
+{
+    const auto *model = qobject_cast<const TableModel *>(index.model());
+    return model && model->cellOf(index.column()) == TableModel::Cell::PopUp &&
+           model->flags(index).testFlag(Qt::ItemIsEditable);
+}
+
+/// Whether a click into the cell does something to its row by itself.
+bool actsOnClick(const QModelIndex &index)
+{
+    return index.flags().testFlag(Qt::ItemIsUserCheckable) || isPopUp(index);
+}
+
+} // namespace
+
+QVTableView::QVTableView(QWidget *parent)
+    : QTableView(parent)
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    QHeaderView *header = horizontalHeader();
+    header->setSectionsMovable(true);
+    header->setFirstSectionMovable(true);
+    header->setSectionsClickable(true);
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    header->setMinimumSectionSize(fontMetrics().height() * 2);
+    setRowHeight();
+    connect(this, &QAbstractItemView::clicked, this, &QVTableView::openPopUp);
+}
+
+void QVTableView::addWatchKeys(const std::vector<char16_t> &keycodes, const QByteArray &selector)
+{
+    for (const char16_t keycode : keycodes)
+        m_watchKeys.push_back({keycode, selector});
+    if (!m_watchDelegate)
+        m_watchDelegate = m_delegate;
+}
+
+QMenu *QVTableView::menuForEvent(const QPoint &position)
+{
+    const QModelIndex index = indexAt(position);
+    if (index.isValid()) {
+        // Whatever keys are held, which setCurrentIndex() and selectRow() would look at.
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    return m_menu;
+}
+
+void QVTableView::setPlaceholder(const QString &text)
+{
+    if (m_placeholder == text)
+        return;
+    m_placeholder = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+bool QVTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool starts = trigger == AllEditTriggers || trigger == EditKeyPressed;
+    const bool needsSelecting = starts && index.isValid() && index.flags().testFlag(Qt::ItemIsEditable) &&
+                                !selectionModel()->isSelected(index);
+    if (needsSelecting) {
+        selectRow(index.row());
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    }
+    if (!QTableView::edit(index, trigger, event))
+        return false;
+    m_edited = index;
+    return true;
+}
+
+void QVTableView::commitEditing()
+{
+    QWidget *const editor = isEditing() ? indexWidget(m_edited) : nullptr;
+    if (!editor)
+        return;
+    const QPointer<QWidget> open(editor);
+    commitData(editor);
+    if (open) // unless the edit exchanged the rows
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void QVTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (isEditing()) {
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    if (event->matches(QKeySequence::Copy)) {
+        Q_EMIT copyRequested();
+        return;
+    }
+    if (m_keyDown && !m_keyDown(*this, *event))
+        QTableView::keyPressEvent(event);
+    if (const char16_t character = characterOf(*event))
+        performWatched(character);
+    if (!m_keyDown)
+        QTableView::keyPressEvent(event);
+}
+
+void QVTableView::performWatched(char16_t character)
+{
+    for (const WatchKey &key : m_watchKeys) {
+        if (key.keycode != character)
+            continue;
+        const bool answers = m_watchDelegate && m_watchDelegate->metaObject()->indexOfMethod(
+                                                    (key.selector + "()").constData()) >= 0;
+        if (answers) {
+            QMetaObject::invokeMethod(m_watchDelegate, key.selector.constData(), Qt::DirectConnection);
+            return;
+        }
+        QVLog::appendLogAndPrint(u"Selector %@ doesn't exist", key.selector);
+    }
+}
+
+void QVTableView::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isEditing() && m_keyUp && m_keyUp(*this, *event))
+        return;
+    QTableView::keyReleaseEvent(event);
+}
+
+void QVTableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = event->reason() == QContextMenuEvent::Mouse ? menuForEvent(event->pos()) : m_menu.data();
+    if (menu)
+        menu->popup(event->globalPos());
+}
+
+void QVTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (m_placeholder.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = fontMetrics().height();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
+}
+
+void QVTableView::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        setRowHeight();
+}
+
+/// Rows that act on a click stay selected together; everywhere else a click leaves one row selected.
+QItemSelectionModel::SelectionFlags QVTableView::selectionCommand(const QModelIndex &index,
+                                                                  const QEvent *event) const
+{
+    const bool isMouse =
+        event && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease);
+    if (isMouse && index.isValid() && actsOnClick(index) && selectionModel()->isSelected(index) &&
+        static_cast<const QMouseEvent *>(event)->modifiers() == Qt::NoModifier)
+        return QItemSelectionModel::NoUpdate;
+    return QTableView::selectionCommand(index, event);
+}
+
+void QVTableView::openPopUp(const QModelIndex &index)
+{
+    if (isPopUp(index) && QGuiApplication::keyboardModifiers() == Qt::NoModifier)
+        edit(index);
+}
+
+void QVTableView::setRowHeight()
+{
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+}
+
+} // namespace vantrell

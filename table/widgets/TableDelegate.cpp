@@ -1,0 +1,254 @@
+#include "table/widgets/TableDelegate.h"
+
+#include "table/widgets/PopUpCell.h"
+#include "table/widgets/TableModel.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSet>
+#include <QStyle>
+#include <QTimer>
+
+#include <limits>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr int iconSide = 16;
+
+const TableModel &modelOf(const QModelIndex &index)
+{
+    return *static_cast<const TableModel *>(index.model());
+}
+
+TableModel::Cell cellOf(const QModelIndex &index)
+{
+    return modelOf(index).cellOf(index.column());
+}
+
+QStyle &styleOf(const QStyleOptionViewItem &option)
+{
+    return option.widget ? *option.widget->style() : *QApplication::style();
+}
+
+QRect checkBoxRect(const QStyleOptionViewItem &option)
+{
+    const QStyle &style = styleOf(option);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
+    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+}
+
+/// The edge of a box on a dark ground, where most styles draw none that can be seen.
+void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
+{
+    QColor ink = box.palette.color(QPalette::Text);
+    ink.setAlphaF(isDim ? 0.2F : 0.5F);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(ink, 1));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(box.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->restore();
+}
+
+/// The mark of the current cell around all of it.
+void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
+{
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(cell);
+    focus.rect = rect;
+    focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+    focus.backgroundColor = cell.palette.color(
+        cell.state.testFlag(QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
+    styleOf(cell).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, cell.widget);
+}
+
+/// Names whose beginning and end both tell them apart.
+bool isLeaf(const QString &column)
+{
+    static const QSet<QString> columns{QStringLiteral("filename"), QStringLiteral("directory"),
+                                       QStringLiteral("clip"), QStringLiteral("sequence")};
+    return columns.contains(column);
+}
+
+} // namespace
+
+void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->decorationSize = QSize(iconSide, iconSide);
+    if (isLeaf(modelOf(index).identifierOf(index.column())))
+        option->textElideMode = Qt::ElideMiddle;
+}
+
+void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
+{
+    switch (cellOf(index)) {
+    case TableModel::Cell::CheckBox:
+        paintCheckBox(painter, option, index);
+        break;
+    case TableModel::Cell::PopUp:
+        paintPopUp(painter, option, index);
+        break;
+    case TableModel::Cell::Text:
+        QStyledItemDelegate::paint(painter, option, index);
+        break;
+    }
+}
+
+void TableDelegate::paintCheckBox(QPainter *painter, const QStyleOptionViewItem &option,
+                                  const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const bool isChecked = cell.checkState == Qt::Checked;
+    const QStyle &style = styleOf(cell);
+    cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
+    style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    cell.rect = checkBoxRect(option);
+    cell.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    cell.state |= isChecked ? QStyle::State_On : QStyle::State_Off;
+    const bool isDim = !isChecked && !index.flags().testFlag(Qt::ItemIsUserCheckable);
+    cell.state.setFlag(QStyle::State_Enabled, !isDim);
+    style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &cell, painter, cell.widget);
+    const QColor base = cell.palette.color(QPalette::Base);
+    if (base.lightness() < 128)
+        paintFrame(painter, cell, isDim);
+}
+
+void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &option,
+                               const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle &style = styleOf(cell);
+    const QRect whole = cell.rect;
+    const int arrow = iconSide / 2;
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 2;
+    // The background goes over the whole cell; icon and text leave the arrow its place.
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    cell.rect.adjust(0, 0, -(arrow + 2 * margin), 0);
+    cell.backgroundBrush = QBrush();
+    const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
+    cell.state &= ~QStyle::State_HasFocus;
+    style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    if (hasFocus)
+        paintFocus(painter, cell, whole);
+    const bool hasChoices = !cell.text.isEmpty() || !cell.icon.isNull();
+    if (!hasChoices || !index.flags().testFlag(Qt::ItemIsEditable))
+        return;
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    QColor ink = cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+    ink.setAlphaF(0.55F);
+    const QPointF tip(whole.right() - margin - arrow / 2.0, whole.center().y() + arrow / 4.0);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(ink, 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPolyline(
+        QPolygonF({tip - QPointF(arrow / 2.0, arrow / 2.0), tip, tip + QPointF(arrow / 2.0, -arrow / 2.0)}));
+    painter->restore();
+}
+
+QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                                     const QModelIndex &index) const
+{
+    QWidget *editor = nullptr;
+    if (cellOf(index) == TableModel::Cell::PopUp) {
+        editor = createPopUp(parent, index);
+    } else if (cellOf(index) == TableModel::Cell::Text) {
+        auto *field = new QLineEdit(parent);
+        field->setMaxLength(std::numeric_limits<int>::max()); // or a long text would lose its end
+        field->setText(index.data(Qt::EditRole).toString());
+        field->selectAll();
+        editor = field;
+    }
+    if (editor)
+        editor->setAccessibleName(modelOf(index).columnName(index.column()));
+    return editor;
+}
+
+QWidget *TableDelegate::createPopUp(QWidget *parent, const QModelIndex &index) const
+{
+    std::vector<PopUpItem> items = modelOf(index).popUpItems(index);
+    if (items.empty())
+        return nullptr;
+    auto *list = new PopUpCell(std::move(items), parent);
+    list->setCurrentIndex(index.data(Qt::EditRole).toInt());
+    list->setMaxVisibleItems(20);
+    auto *self = const_cast<TableDelegate *>(this);
+    connect(list, &PopUpCell::chosen, self, [self, list] {
+        Q_EMIT self->commitData(list);
+        // An edit that exchanges the rows has closed it already.
+        if (!list->isHidden())
+            Q_EMIT self->closeEditor(list);
+    });
+    connect(
+        list, &PopUpCell::popupHidden, list,
+        [self, list] {
+            if (!list->isChosen() && !list->isHidden())
+                Q_EMIT self->closeEditor(list, RevertModelCache);
+        },
+        Qt::QueuedConnection);
+    QTimer::singleShot(0, list, &QComboBox::showPopup);
+    return list;
+}
+
+/// An editor keeps what it was made with, and what was typed since.
+void TableDelegate::setEditorData(QWidget *, const QModelIndex &) const {}
+
+void TableDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    if (auto *list = qobject_cast<PopUpCell *>(editor)) {
+        if (list->isChosen())
+            model->setData(index, list->currentIndex());
+    } else if (auto *field = qobject_cast<QLineEdit *>(editor)) {
+        if (field->isModified())
+            model->setData(index, field->text());
+    }
+}
+
+void TableDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                         const QModelIndex &) const
+{
+    editor->setGeometry(option.rect);
+}
+
+/// A pop-up cell is closed by its list, not by the focus, which goes to and fro between the two.
+bool TableDelegate::eventFilter(QObject *object, QEvent *event)
+{
+    const bool isFocus = event->type() == QEvent::FocusOut || event->type() == QEvent::Hide;
+    if (isFocus && qobject_cast<PopUpCell *>(object))
+        return false;
+    return QStyledItemDelegate::eventFilter(object, event);
+}
+
+bool TableDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                                const QModelIndex &index)
+{
+    if (!index.flags().testFlag(Qt::ItemIsUserCheckable))
+        return false;
+    bool toggles = false;
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        const QRect box = checkBoxRect(option).adjusted(-4, -4, 4, 4);
+        toggles = mouse->button() == Qt::LeftButton && box.contains(mouse->position().toPoint());
+    } else if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        toggles = key == Qt::Key_Space || key == Qt::Key_Select;
+    }
+    if (!toggles)
+        return false;
+    const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    return model->setData(index, int(isOn ? Qt::Unchecked : Qt::Checked), Qt::CheckStateRole);
+}
+
+} // namespace vantrell
