@@ -1,8 +1,8 @@
 #include "app/ApplicationWatch.h"
 
+#include "support/desktop/Workspace.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
-#include "support/desktop/Workspace.h"
 
 #include <QPointer>
 

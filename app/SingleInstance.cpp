@@ -1,7 +1,7 @@
 #include "app/SingleInstance.h"
 
-#include "support/log/QVLog.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/QVLog.h"
 
 #include <QDataStream>
 #include <QDeadlineTimer>

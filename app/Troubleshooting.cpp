@@ -1,14 +1,14 @@
 #include "app/Troubleshooting.h"
 
-#include "support/threads/BackgroundWork.h"
-#include "support/files/FileUtilities.h"
-#include "support/threads/MainThread.h"
 #include "support/alerts/QVAlert.h"
-#include "support/log/QVException.h"
-#include "support/log/QVLog.h"
+#include "support/desktop/Workspace.h"
+#include "support/files/FileUtilities.h"
 #include "support/files/StandardFolders.h"
 #include "support/files/TaskRunner.h"
-#include "support/desktop/Workspace.h"
+#include "support/log/QVException.h"
+#include "support/log/QVLog.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,9 +1,9 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "app/SingleInstance.h"
-#include "support/threads/BackgroundWork.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
 
 #include <QDir>
 #include <QStringList>

@@ -7,10 +7,10 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "document/widgets/DocumentWindow.h"
+#include "support/settings/UserDefaults.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/TabPane.h"
 #include "table/widgets/TableModel.h"
-#include "support/settings/UserDefaults.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>

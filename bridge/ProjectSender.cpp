@@ -6,9 +6,9 @@
 #include "bridge/QVAppleEvents.h"
 #include "bridge/QVPremiereEvents.h"
 #include "support/files/FileUtilities.h"
+#include "support/files/TransientFile.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/files/TransientFile.h"
 
 #include <QFileInfo>
 

@@ -1,8 +1,8 @@
 #include "bridge/QVAppleEvents.h"
 
+#include "support/desktop/Workspace.h"
 #include "support/files/PropertyList.h"
 #include "support/text/TextNumbers.h"
-#include "support/desktop/Workspace.h"
 
 #include <QFileInfo>
 #include <QStringList>

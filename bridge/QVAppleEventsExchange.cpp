@@ -5,9 +5,9 @@
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
 #include "bridge/SharedEventTransport.h"
+#include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/text/TextFormat.h"
-#include "support/desktop/Workspace.h"
 #include "xml/XmlQuery.h"
 #include "xml/XmlReferences.h"
 

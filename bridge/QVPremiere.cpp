@@ -1,8 +1,8 @@
 #include "bridge/QVPremiere.h"
 
+#include "support/desktop/Workspace.h"
 #include "support/files/PropertyList.h"
 #include "support/log/QVLog.h"
-#include "support/desktop/Workspace.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlDocument.h"
 

@@ -2,15 +2,15 @@
 
 #include "bridge/QVPremiere.h"
 #include "support/alerts/AlertUntil.h"
+#include "support/desktop/Workspace.h"
 #include "support/files/FileUtilities.h"
+#include "support/files/StandardFolders.h"
+#include "support/files/TaskRunner.h"
+#include "support/files/TransientFile.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/files/StandardFolders.h"
 #include "support/log/SystemLog.h"
-#include "support/files/TaskRunner.h"
 #include "support/text/TextFormat.h"
-#include "support/files/TransientFile.h"
-#include "support/desktop/Workspace.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 
 #include "bridge/EventCodes.h"
 #include "bridge/EventWire.h"
-#include "support/files/ChildProcess.h"
 #include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
+#include "support/files/ChildProcess.h"
 
 #include <algorithm>
 #include <cerrno>

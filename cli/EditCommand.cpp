@@ -5,8 +5,8 @@
 #include "cli/Numbers.h"
 #include "cli/ProjectOutput.h"
 #include "cli/RecordJson.h"
-#include "support/files/ProgramArguments.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 

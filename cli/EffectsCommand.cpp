@@ -5,9 +5,9 @@
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
-#include "document/RecordText.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+#include "rows/RecordText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

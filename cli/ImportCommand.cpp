@@ -3,8 +3,8 @@
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
-#include "support/files/ProgramArguments.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/ProgramArguments.h"
 
 #include <memory>
 

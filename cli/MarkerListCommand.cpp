@@ -3,10 +3,10 @@
 #include "cli/Numbers.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
-#include "document/RecordText.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
+#include "rows/RecordText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <QFileInfo>

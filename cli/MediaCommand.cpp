@@ -5,10 +5,10 @@
 #include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
-#include "document/RecordText.h"
 #include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "rows/RecordText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #include "cli/RecordJson.h"
 
-#include "document/RecordText.h"
+#include "rows/RecordText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/JsonText.h"
-#include "document/RowRecord.h"
+#include "rows/RowRecord.h"
 #include "xml/XmlLocationPaths.h"
 
 namespace vantrell::cli

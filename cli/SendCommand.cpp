@@ -3,8 +3,8 @@
 #include "cli/EditRun.h"
 #include "cli/Numbers.h"
 #include "cli/ProjectSession.h"
-#include "support/files/ProgramArguments.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/ProgramArguments.h"
 
 #include <QEventLoop>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
-#include "document/TableColumn.h"
+#include "rows/TableColumn.h"
 
 #include <optional>
 #include <string>

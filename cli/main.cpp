@@ -1,8 +1,8 @@
 #include "cli/Commands.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
 #include "support/alerts/QVAlert.h"
-#include "support/log/QVLog.h"
 #include "support/files/UnfinishedFiles.h"
+#include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Menu.h"
+#include "rows/SortDescriptor.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,12 +16,6 @@ class AlertParent;
 
 /// The three tabs of a document, each with one table.
 enum class Tab { Media, Effects, Markers };
-
-/// A column that a table is sorted by.
-struct SortDescriptor {
-    QString column;
-    bool descending = false;
-};
 
 /// Texts that a tab shows beside its table.
 enum class Label {

@@ -2,9 +2,9 @@
 
 #include "document/MyDocument.h"
 
+#include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/desktop/Workspace.h"
 #include "xml/XmlQuery.h"
 #include "xml/XmlReferences.h"
 

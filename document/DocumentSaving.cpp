@@ -2,8 +2,8 @@
 
 #include "document/MyDocument.h"
 
-#include "support/files/FileUtilities.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/FileUtilities.h"
 #include "support/log/QVException.h"
 
 #include <QFileInfo>

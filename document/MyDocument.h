@@ -4,9 +4,9 @@
 #include "document/DocumentInterface.h"
 #include "document/KnownFile.h"
 #include "document/Menu.h"
-#include "document/RowRecord.h"
-#include "support/threads/MainThread.h"
+#include "rows/RowRecord.h"
 #include "support/files/Result.h"
+#include "support/threads/MainThread.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>

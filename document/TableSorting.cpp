@@ -2,8 +2,8 @@
 
 #include "document/MyDocument.h"
 #include "support/log/QVException.h"
-#include "support/text/TextFormat.h"
 #include "support/settings/UserDefaults.h"
+#include "support/text/TextFormat.h"
 
 namespace vantrell
 {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "document/RowSort.h"
+#include "document/DocumentInterface.h"
+#include "rows/RowSort.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/TableColumn.h"
+#include "rows/TableColumn.h"
 
 namespace vantrell
 {

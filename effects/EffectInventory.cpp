@@ -1,8 +1,8 @@
 #include "effects/EffectInventory.h"
 
-#include "document/RowSort.h"
 #include "effects/EffectKeys.h"
 #include "effects/EffectReader.h"
+#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 

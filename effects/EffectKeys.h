@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/RecordKey.h"
+#include "rows/RecordKey.h"
 #include "xml/XmlNode.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/RowRecord.h"
 #include "interchange/MarkerListPanel.h"
+#include "rows/RowRecord.h"
 
 #include <QStringList>
 

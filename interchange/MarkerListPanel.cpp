@@ -1,8 +1,8 @@
 #include "interchange/MarkerListPanel.h"
 
 #include "document/MyDocument.h"
-#include "support/files/FileUtilities.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/FileUtilities.h"
 
 #include <QFileInfo>
 

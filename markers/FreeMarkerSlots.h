@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/RowRecord.h"
+#include "rows/RowRecord.h"
 
 #include <cstdint>
 #include <set>

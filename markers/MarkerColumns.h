@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/TableColumn.h"
 #include "markers/MarkerKeys.h"
+#include "rows/TableColumn.h"
 
 #include <algorithm>
 

@@ -2,12 +2,12 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
-#include "support/files/PropertyList.h"
 #include "support/alerts/QVAlert.h"
-#include "support/log/QVLog.h"
+#include "support/files/PropertyList.h"
 #include "support/files/StandardFolders.h"
-#include "support/text/TextFormat.h"
+#include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "support/text/TextFormat.h"
 
 #include <QCollator>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/RowSort.h"
+#include "rows/RowSort.h"
 
 #include <QString>
 

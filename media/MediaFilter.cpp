@@ -1,8 +1,8 @@
 #include "media/MediaFilter.h"
 
-#include "document/RowSort.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 

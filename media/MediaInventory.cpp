@@ -2,10 +2,10 @@
 
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 #include "support/text/TextFormat.h"
-#include "support/desktop/Workspace.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 

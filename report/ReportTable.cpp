@@ -1,8 +1,8 @@
 #include "report/ReportTable.h"
 
 #include "document/MyDocument.h"
-#include "document/RecordText.h"
 #include "markers/MarkerKeys.h"
+#include "rows/RecordText.h"
 #include "support/text/TextNumbers.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
-#include "document/RowRecord.h"
 #include "report/PrintColumn.h"
 #include "report/ReportImages.h"
+#include "rows/RowRecord.h"
 
 #include <QString>
 #include <QStringList>

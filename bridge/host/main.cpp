@@ -8,9 +8,9 @@
 #include "bridge/host/HostServer.h"
 #include "bridge/host/HostSocket.h"
 #include "bridge/host/StopSignals.h"
+#include "support/desktop/Workspace.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
-#include "support/desktop/Workspace.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

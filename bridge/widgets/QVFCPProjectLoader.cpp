@@ -1,11 +1,11 @@
 #include "bridge/widgets/QVFCPProjectLoader.h"
 
 #include "bridge/QVAppleEvents.h"
-#include "support/threads/BackgroundWork.h"
-#include "support/threads/MainThread.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

@@ -2,18 +2,18 @@
 
 #include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
+#include "document/widgets/NoticeBar.h"
+#include "document/widgets/ProgressSheet.h"
 #include "effects/widgets/EffectsPane.h"
 #include "interchange/widgets/MarkerListImport.h"
 #include "markers/widgets/MarkersPane.h"
 #include "media/widgets/MediaPane.h"
-#include "document/widgets/NoticeBar.h"
-#include "document/widgets/ProgressSheet.h"
-#include "table/widgets/QVTableView.h"
-#include "support/widgets/SymbolIcon.h"
-#include "support/widgets/SymbolView.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
+#include "support/widgets/SymbolIcon.h"
+#include "support/widgets/SymbolView.h"
+#include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
 
 #include <QAction>

@@ -3,12 +3,12 @@
 #include "document/widgets/DocumentWindow.h"
 
 #include "document/widgets/DocumentWindowInterface.h"
+#include "document/widgets/ProgressSheet.h"
 #include "interchange/widgets/MarkerListImport.h"
 #include "interchange/widgets/MarkerListPanels.h"
 #include "markers/widgets/MarkersPane.h"
-#include "document/widgets/ProgressSheet.h"
-#include "support/threads/BackgroundWork.h"
 #include "support/files/CancellableWrite.h"
+#include "support/threads/BackgroundWork.h"
 #include "workbench/Workbench.h"
 
 #include <QFileInfo>

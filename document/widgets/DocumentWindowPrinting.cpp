@@ -3,8 +3,6 @@
 #include "document/widgets/DocumentWindow.h"
 
 #include "document/widgets/DocumentWindowInterface.h"
-#include "table/widgets/TabPane.h"
-#include "table/widgets/TableModel.h"
 #include "report/PrintHelper.h"
 #include "report/ReportImages.h"
 #include "report/widgets/ExportReportSheet.h"
@@ -13,10 +11,12 @@
 #include "report/widgets/QVPrint.h"
 #include "report/widgets/QVPrintViewController.h"
 #include "report/widgets/ReportOptions.h"
-#include "support/threads/BackgroundWork.h"
 #include "support/files/FileUtilities.h"
 #include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
 #include "support/widgets/NestedEvents.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
 
 #include <QActionGroup>

@@ -6,8 +6,8 @@
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
-#include "table/widgets/TabPane.h"
 #include "support/files/FileUtilities.h"
+#include "table/widgets/TabPane.h"
 #include "workbench/Workbench.h"
 
 #include <QFileDialog>

@@ -1,8 +1,8 @@
 #include "effects/widgets/EffectTableModel.h"
 
-#include "table/widgets/TableIcons.h"
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
+#include "table/widgets/TableIcons.h"
 
 namespace vantrell
 {

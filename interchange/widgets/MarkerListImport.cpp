@@ -1,8 +1,8 @@
 #include "interchange/widgets/MarkerListImport.h"
 
 #include "document/TableUpdates.h"
-#include "support/threads/BackgroundWork.h"
 #include "support/log/QVException.h"
+#include "support/threads/BackgroundWork.h"
 
 #include <QTimer>
 

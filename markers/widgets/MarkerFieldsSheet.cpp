@@ -1,8 +1,8 @@
 #include "markers/widgets/MarkerFieldsSheet.h"
 
+#include "markers/MarkerFields.h"
 #include "table/widgets/SheetTable.h"
 #include "table/widgets/SheetTableModel.h"
-#include "markers/MarkerFields.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

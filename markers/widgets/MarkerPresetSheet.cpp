@@ -1,10 +1,10 @@
 #include "markers/widgets/MarkerPresetSheet.h"
 
+#include "markers/MarkerColors.h"
+#include "markers/MarkerPresets.h"
 #include "table/widgets/SheetTable.h"
 #include "table/widgets/SheetTableModel.h"
 #include "table/widgets/TableIcons.h"
-#include "markers/MarkerColors.h"
-#include "markers/MarkerPresets.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

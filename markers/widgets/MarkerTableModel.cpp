@@ -1,10 +1,10 @@
 #include "markers/widgets/MarkerTableModel.h"
 
-#include "table/widgets/TableIcons.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerTableValues.h"
+#include "table/widgets/TableIcons.h"
 
 namespace vantrell
 {

@@ -1,16 +1,16 @@
 #include "markers/widgets/MarkersPane.h"
 
-#include "table/widgets/ControlPopUp.h"
+#include "markers/MarkerTableValues.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
 #include "markers/widgets/MarkerPresetSheet.h"
 #include "markers/widgets/MarkerTableModel.h"
-#include "table/widgets/QVTableView.h"
-#include "table/widgets/TableIcons.h"
-#include "markers/MarkerTableValues.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
+#include "table/widgets/ControlPopUp.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
 #include <QCheckBox>

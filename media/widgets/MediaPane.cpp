@@ -1,12 +1,12 @@
 #include "media/widgets/MediaPane.h"
 
-#include "media/widgets/MediaTableModel.h"
-#include "table/widgets/QVTableView.h"
-#include "table/widgets/TableIcons.h"
 #include "media/MediaFile.h"
+#include "media/widgets/MediaTableModel.h"
 #include "media/widgets/QVGraphView.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
 #include <QAction>

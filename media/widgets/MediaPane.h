@@ -1,7 +1,7 @@
 #pragma once
 
-#include "table/widgets/TabPane.h"
 #include "media/MediaDrives.h"
+#include "table/widgets/TabPane.h"
 
 class QComboBox;
 

@@ -1,10 +1,10 @@
 #include "media/widgets/MediaTableModel.h"
 
-#include "table/widgets/TableIcons.h"
 #include "media/MediaColumns.h"
 #include "media/MediaDrives.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "table/widgets/TableIcons.h"
 
 namespace vantrell
 {

@@ -1,10 +1,10 @@
 #include "report/widgets/PrintOperation.h"
 
 #include "report/widgets/WebView.h"
-#include "support/threads/BackgroundWork.h"
 #include "support/files/FileUtilities.h"
-#include "support/threads/MainThread.h"
 #include "support/files/TaskRunner.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 
 #include <QPointer>
 #include <QTemporaryDir>

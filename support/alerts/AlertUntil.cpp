@@ -1,7 +1,7 @@
 #include "support/alerts/AlertUntil.h"
 
-#include "support/threads/MainThread.h"
 #include "support/alerts/QVAlert.h"
+#include "support/threads/MainThread.h"
 
 #include <atomic>
 #include <chrono>

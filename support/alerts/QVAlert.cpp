@@ -1,8 +1,8 @@
 #include "support/alerts/QVAlert.h"
 
-#include "support/threads/MainThread.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
+#include "support/threads/MainThread.h"
 
 #include <algorithm>
 #include <chrono>

@@ -2,12 +2,12 @@
 
 #include "support/desktop/ApplicationBundle.h"
 #include "support/desktop/FileBrowser.h"
-#include "support/log/QVLog.h"
 #include "support/desktop/SocketAddress.h"
+#include "support/desktop/UserProcess.h"
 #include "support/files/StandardFolders.h"
 #include "support/files/TaskRunner.h"
+#include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
-#include "support/desktop/UserProcess.h"
 
 #include <QFileInfo>
 

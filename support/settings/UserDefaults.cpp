@@ -2,8 +2,8 @@
 
 #include "support/files/FileUtilities.h"
 #include "support/files/PropertyList.h"
-#include "support/log/QVLog.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/QVLog.h"
 
 #include <QCoreApplication>
 #include <QDir>

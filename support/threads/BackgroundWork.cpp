@@ -1,7 +1,7 @@
 #include "support/threads/BackgroundWork.h"
 
-#include "support/threads/MainThread.h"
 #include "support/log/QVException.h"
+#include "support/threads/MainThread.h"
 
 #include <atomic>
 #include <system_error>

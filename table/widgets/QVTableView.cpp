@@ -1,7 +1,7 @@
 #include "table/widgets/QVTableView.h"
 
-#include "table/widgets/TableModel.h"
 #include "support/log/QVLog.h"
+#include "table/widgets/TableModel.h"
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>

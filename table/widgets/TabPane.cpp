@@ -1,9 +1,9 @@
 #include "table/widgets/TabPane.h"
 
+#include "support/settings/UserDefaults.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/TableDelegate.h"
 #include "table/widgets/TableModel.h"
-#include "support/settings/UserDefaults.h"
 #include "workbench/Workbench.h"
 
 #include <QClipboard>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
-#include "document/RowRecord.h"
 #include "document/TableSorting.h"
+#include "rows/RowRecord.h"
 
 #include <QHash>
 #include <QSet>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/MyDocument.h"
-#include "document/TableColumn.h"
+#include "rows/TableColumn.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>

@@ -3,9 +3,9 @@
 #include "bridge/EventCancel.h"
 #include "bridge/EventRecord.h"
 #include "bridge/EventWire.h"
-#include "support/files/ChildProcess.h"
 #include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
+#include "support/files/ChildProcess.h"
 
 #include <QDir>
 #include <QFileInfo>

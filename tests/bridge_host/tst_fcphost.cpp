@@ -2,10 +2,10 @@
 #include "bridge/EventWire.h"
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
+#include "support/desktop/Workspace.h"
 #include "support/files/ChildProcess.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
-#include "support/desktop/Workspace.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
 #include "bridge/widgets/QVFCPProjectLoader.h"
 
-#include "support/threads/BackgroundWork.h"
 #include "support/alerts/QVAlert.h"
+#include "support/desktop/Workspace.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
-#include "support/desktop/Workspace.h"
+#include "support/threads/BackgroundWork.h"
 #include "tests/support/FcpHost.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/TemporaryHome.h"

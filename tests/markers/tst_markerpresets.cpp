@@ -1,6 +1,6 @@
 #include "markers/MarkerPresets.h"
-#include "support/files/PropertyList.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/PropertyList.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/support/LoadedProject.h"

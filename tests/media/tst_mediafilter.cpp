@@ -1,6 +1,6 @@
 #include "media/MediaFile.h"
-#include "support/log/QVLog.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/QVLog.h"
 #include "tests/media/MediaProject.h"
 #include "tests/support/TemporaryHome.h"
 

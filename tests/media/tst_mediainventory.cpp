@@ -1,6 +1,6 @@
 #include "media/MediaFile.h"
-#include "support/log/QVLog.h"
 #include "support/desktop/Workspace.h"
+#include "support/log/QVLog.h"
 #include "tests/media/MediaProject.h"
 #include "tests/support/LongSeries.h"
 #include "tests/support/RandomProject.h"

@@ -1,7 +1,7 @@
 #include "TemporaryHome.h"
 
-#include "support/log/QVLog.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 
 #include <QDir>

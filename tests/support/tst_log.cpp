@@ -2,9 +2,9 @@
 #include "TemporaryHome.h"
 
 #include "support/files/PropertyList.h"
+#include "support/files/StandardFolders.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/files/StandardFolders.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,5 +1,5 @@
-#include "support/threads/MainThread.h"
 #include "support/log/QVLog.h"
+#include "support/threads/MainThread.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QCoreApplication>

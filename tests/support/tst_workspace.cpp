@@ -1,8 +1,8 @@
+#include "support/desktop/Workspace.h"
 #include "support/files/ChildProcess.h"
 #include "support/files/PropertyList.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
-#include "support/desktop/Workspace.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QtDBus/QDBusConnection>

@@ -1,6 +1,6 @@
+#include "markers/MarkerKeys.h"
 #include "markers/widgets/MarkerTableModel.h"
 #include "media/widgets/MediaTableModel.h"
-#include "markers/MarkerKeys.h"
 #include "tests/table_widgets/PaneProject.h"
 
 #include <QAbstractItemModelTester>

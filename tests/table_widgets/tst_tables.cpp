@@ -1,5 +1,5 @@
-#include "tests/table_widgets/PaneProject.h"
 #include "tests/support/CapturedStandardError.h"
+#include "tests/table_widgets/PaneProject.h"
 
 #include "markers/widgets/MarkerTableModel.h"
 #include "table/widgets/PopUpCell.h"

@@ -10,11 +10,11 @@
 #include "app/StartWindow.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
-#include "markers/widgets/MarkersPane.h"
 #include "document/widgets/ProgressSheet.h"
-#include "table/widgets/TableModel.h"
+#include "markers/widgets/MarkersPane.h"
 #include "report/widgets/PrintPanel.h"
 #include "support/settings/UserDefaults.h"
+#include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
 
 #include <QDialog>

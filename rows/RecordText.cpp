@@ -1,4 +1,4 @@
-#include "document/RecordText.h"
+#include "rows/RecordText.h"
 
 namespace vantrell
 {

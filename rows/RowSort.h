@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
-#include "document/RowRecord.h"
+#include "rows/RowRecord.h"
+#include "rows/SortDescriptor.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "document/RecordKey.h"
+#include "rows/RecordKey.h"
 
 #include <QHash>
 

@@ -1,5 +1,5 @@
-#include "document/RowRecord.h"
-#include "document/RowSort.h"
+#include "rows/RowRecord.h"
+#include "rows/RowSort.h"
 
 #include <QRandomGenerator>
 #include <QTest>

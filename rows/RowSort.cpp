@@ -1,4 +1,4 @@
-#include "document/RowSort.h"
+#include "rows/RowSort.h"
 
 #include <algorithm>
 #include <bit>

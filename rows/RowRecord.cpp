@@ -1,4 +1,4 @@
-#include "document/RowRecord.h"
+#include "rows/RowRecord.h"
 
 #include <algorithm>
 #include <atomic>

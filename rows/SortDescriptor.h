@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace vantrell
+{
+
+/// A column that a table is sorted by.
+struct SortDescriptor {
+    QString column;
+    bool descending = false;
+};
+
+} // namespace vantrell
