@@ -233,7 +233,7 @@ private:
     {
         switch (state.step->test) {
         case XmlQuery::Test::AnyNode:
-            return true;
+            return node.kind() != XmlTree::Kind::Doctype; // which is no node to a query
         case XmlQuery::Test::Text:
             return node.isText();
         case XmlQuery::Test::AnyElement:

@@ -40,13 +40,12 @@ XmlNameId XmlTree::find(std::string_view qualified, std::uint32_t uri, std::size
     }
 }
 
-XmlNameId XmlTree::intern(std::string_view prefix, std::string_view local, std::string_view uri)
+XmlNameId XmlTree::internInNamespace(std::string_view prefix, std::string_view local, std::uint32_t uriNumber)
 {
     std::string qualified(prefix);
     if (!prefix.empty())
         qualified += ':';
     qualified += local;
-    const std::uint32_t uriNumber = internUri(uri);
     const std::size_t hash = hashOf(qualified);
     if (const XmlNameId known = find(qualified, uriNumber, hash))
         return known;

@@ -94,7 +94,13 @@ public:
     /// The name's number; noName when the tree has none such.
     XmlNameId find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const;
     /// The name's number, which it gets now if it has none.
-    XmlNameId intern(std::string_view prefix, std::string_view local, std::string_view uri);
+    XmlNameId intern(std::string_view prefix, std::string_view local, std::string_view uri)
+    {
+        return internInNamespace(prefix, local, internUri(uri));
+    }
+    XmlNameId internInNamespace(std::string_view prefix, std::string_view local, std::uint32_t uriNumber);
+    /// The number of a namespace, which it gets now if it has none; 0 for an empty URI.
+    std::uint32_t internUri(std::string_view uri);
     const Name &name(XmlNameId id) const { return m_names[id]; }
     /// The URI of a name's namespace; empty for none.
     const std::string &uri(std::uint32_t number) const { return m_uris[number]; }
@@ -236,7 +242,6 @@ private:
     void noteChange(const Node &changed);
     void makeChunk();
     void makeRegion(std::size_t wanted);
-    std::uint32_t internUri(std::string_view uri);
     void growNameTable();
     XmlNameId copyName(const XmlTree &from, XmlNameId id);
     XmlNodeId copyShallow(const XmlTree &from, XmlNodeId id, const std::vector<XmlNameId> &declared);

@@ -91,11 +91,10 @@ void XmlTreeBuilder::addNamespace(XmlNameId prefix, std::string_view uri)
 void XmlTreeBuilder::addAttribute(XmlNameId name, std::string_view value)
 {
     const XmlNodeId element = parent();
-    for (XmlNodeId other = m_tree.node(element).firstAttribute; other; other = m_tree.node(other).next) {
-        const bool isSame = m_tree.node(other).kind() == Kind::Attribute && m_tree.node(other).name == name;
-        if (isSame)
-            return;
-    }
+    if (name >= m_attributeOwners.size())
+        m_attributeOwners.resize(std::size_t(name) + 1);
+    if (std::exchange(m_attributeOwners[name], element) == element)
+        return;
     const XmlNodeId attribute = m_tree.makeText(Kind::Attribute, value);
     m_tree.node(attribute).name = name;
     m_tree.appendAttribute(element, attribute);
