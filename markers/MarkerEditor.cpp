@@ -17,6 +17,13 @@
 namespace vantrell
 {
 
+namespace
+{
+
+const QString internalError = QStringLiteral("An internal error occurred; the log tells more.");
+
+} // namespace
+
 MarkerEditor::MarkerEditor(MyDocument &document, MarkerInventory &inventory)
     : m_document(document)
     , m_inventory(inventory)
@@ -50,8 +57,12 @@ RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, std::int64_t i
                                              const MenuItem *parentItem, const Rejected &rejected)
 {
     RowRecordPtr record;
-    guarded("-[MyDocument addMarkerWithName:inPoint:outPoint:comment:colorName:parentName:]",
-            [&] { record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected); });
+    const bool ended =
+        guarded("-[MyDocument addMarkerWithName:inPoint:outPoint:comment:colorName:parentName:]", [&] {
+            record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected);
+        });
+    if (!ended && rejected)
+        rejected(internalError);
     return record;
 }
 
@@ -61,21 +72,23 @@ RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString 
                                              const Rejected &rejected)
 {
     RowRecordPtr record;
-    guarded("-[MyDocument addMarkerWithName:startTimecode:durationTimecode:comment:colorName:parentName:]",
-            [&] {
-                const XmlNode sequence = parentSequence(parentItem);
-                if (!sequence)
-                    return;
-                const SequenceTiming timing = sequences().infoOf(sequence).timing;
-                const auto frames = [&timing](const QString &timecode) {
-                    return QVTimecode::frameCountFromTimecode(timecode, timing.timebase, timing.ntsc,
-                                                              timing.dropFrame, quint64(timing.startFrame));
-                };
-                const quint64 in = frames(startTimecode);
-                const quint64 duration = frames(durationTimecode);
-                const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
-                record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem, rejected);
-            });
+    const bool ended = guarded(
+        "-[MyDocument addMarkerWithName:startTimecode:durationTimecode:comment:colorName:parentName:]", [&] {
+            const XmlNode sequence = parentSequence(parentItem);
+            if (!sequence)
+                return;
+            const SequenceTiming timing = sequences().infoOf(sequence).timing;
+            const auto frames = [&timing](const QString &timecode) {
+                return QVTimecode::frameCountFromTimecode(timecode, timing.timebase, timing.ntsc,
+                                                          timing.dropFrame, quint64(timing.startFrame));
+            };
+            const quint64 in = frames(startTimecode);
+            const quint64 duration = frames(durationTimecode);
+            const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
+            record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem, rejected);
+        });
+    if (!ended && rejected)
+        rejected(internalError);
     return record;
 }
 

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -105,7 +105,7 @@ void OperationQueue::addOperation(std::function<void()> operation)
                 state->runFirst(threadLock);
             }
         });
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) {
         // No further thread can be had. Those there are do the work, or the caller where there is none.
         if (m_state->threads.empty())
             m_state->runFirst(lock);
