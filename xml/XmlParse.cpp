@@ -260,7 +260,7 @@ private:
         }
         ++m_depth;
         m_isTagBroken = false;
-        m_lastTagEnd = xmlByteConsumed(m_context);
+        m_lastTagEnd = textOffset();
         m_events.startElement(m_names.idOf(name));
         for (int i = 0; i < namespaces; ++i)
             m_events.addNamespace(m_names.idOf(viewOf(namespaceList[2 * i])),
@@ -276,11 +276,18 @@ private:
         }
     }
 
+    /// What xmlByteConsumed() tells of a text in UTF-8. It is wanted at every tag.
+    long textOffset() const
+    {
+        const xmlParserInput *const input = m_context->input;
+        return input ? long(input->consumed) + long(input->cur - input->base) : m_lastTagEnd;
+    }
+
     void onEndElement()
     {
         --m_depth;
         m_isTagBroken = false;
-        m_lastTagEnd = xmlByteConsumed(m_context);
+        m_lastTagEnd = textOffset();
         m_events.endElement();
     }
 
