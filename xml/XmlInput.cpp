@@ -111,7 +111,7 @@ unsigned char needsLook(char c)
                                       ((byte < 0x20) & (byte != '\t') & (byte != '\n') & (byte != '\r')));
 }
 
-/// The place of the first byte that needs a look.
+/// The first byte that needs a look; the end when none does.
 const char *firstToLookAt(const char *at, const char *end)
 {
     constexpr std::ptrdiff_t group = 64;
@@ -205,24 +205,24 @@ public:
 
     bool isOpen() const { return m_handle != iconv_t(-1); }
 
-    /// Converts what it can of the bytes from the place on, and moves the place behind that. False at bytes
+    /// Converts what it can of the bytes from the offset on, and moves the offset behind that. False at bytes
     /// that stand for nothing, which it passes over.
-    bool convert(std::vector<char> &bytes, std::size_t &place, std::vector<char> &text, bool atEnd)
+    bool convert(std::vector<char> &bytes, std::size_t &offset, std::vector<char> &text, bool atEnd)
     {
-        while (place < bytes.size()) {
-            char *in = bytes.data() + place;
-            std::size_t inLeft = bytes.size() - place;
+        while (offset < bytes.size()) {
+            char *in = bytes.data() + offset;
+            std::size_t inLeft = bytes.size() - offset;
             char *out = m_part.data();
             std::size_t outLeft = m_part.size();
             const std::size_t result = iconv(m_handle, &in, &inLeft, &out, &outLeft);
             const int error = errno;
             text.insert(text.end(), m_part.data(), out);
-            place = bytes.size() - inLeft;
+            offset = bytes.size() - inLeft;
             if (result != std::size_t(-1) || error == E2BIG)
                 continue;
             if (error == EINVAL && !atEnd)
                 return true; // the rest of the character is to come
-            place += std::min(m_unit, inLeft);
+            offset += std::min(m_unit, inLeft);
             return false;
         }
         return true;
@@ -391,15 +391,15 @@ void XmlInput::decode(bool atEnd)
         keepValid(atEnd);
         return;
     }
-    std::size_t place = 0;
-    while (!m_decoder->convert(m_raw, place, m_block.text, atEnd)) {
+    std::size_t offset = 0;
+    while (!m_decoder->convert(m_raw, offset, m_block.text, atEnd)) {
         if (m_fault.isEmpty())
             addFault({m_block.text.data(), m_block.text.size()},
                      QStringLiteral("bytes that are no %1").arg(m_encodingName));
         if (m_ended)
             break;
     }
-    m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(place));
+    m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(offset));
     keepValid(atEnd);
 }
 
@@ -412,10 +412,10 @@ void XmlInput::keepValid(bool atEnd)
     const char *const end = begin + text.size();
     char *to = text.data();
     const char *kept = begin; // from here on nothing was moved yet
-    const auto keepUpTo = [&](const char *place) {
+    const auto keepUpTo = [&](const char *limit) {
         if (to != kept)
-            std::memmove(to, kept, std::size_t(place - kept));
-        to += place - kept;
+            std::memmove(to, kept, std::size_t(limit - kept));
+        to += limit - kept;
     };
     const char *at = firstToLookAt(begin, end);
     while (at != end) {

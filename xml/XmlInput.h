@@ -53,7 +53,7 @@ public:
     /// How many bytes of the source the first so many bytes of the text came from, as nearly as the blocks
     /// of 256 KB that were read tell.
     std::int64_t sourceOffset(std::int64_t textOffset) const;
-    /// Reads on to the end, and counts the start tags from that place of the text on.
+    /// Reads on to the end, and counts the start tags from that offset of the text on.
     std::int64_t startTagsFrom(std::int64_t textOffset);
     /// Whether the text, of which all was read, ends with those bytes, white space apart.
     bool endsWith(std::string_view end) const;

@@ -326,7 +326,7 @@ private:
         m_events.finish();
         outcome.loss.bytesTotal = m_request.source.size;
         const bool isOpen = m_depth > 0;
-        // A parser that gave up has lost its place; the error tells it.
+        // A parser that gave up no longer knows how far it came; the error tells it.
         const bool isSwallowed = m_swallowedFrom >= 0;
         const long consumed = isSwallowed ? m_swallowedFrom : std::max(xmlByteConsumed(m_context), m_errorAt);
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;

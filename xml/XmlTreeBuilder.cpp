@@ -41,7 +41,7 @@ XmlTreeBuilder::XmlTreeBuilder(XmlTree &tree, bool keepsSpace)
 {
 }
 
-// Elements ---------------------------------------------------------------------------------------
+// Elements
 
 void XmlTreeBuilder::append(XmlNodeId child)
 {
@@ -127,7 +127,7 @@ void XmlTreeBuilder::finish()
     m_tree.setInOrder(!m_hasLateBlanks);
 }
 
-// Text -------------------------------------------------------------------------------------------
+// Text
 
 void XmlTreeBuilder::addText(std::string_view text)
 {
@@ -223,7 +223,7 @@ void XmlTreeBuilder::addBlanks()
     m_blanks.resize(element.firstBlank);
 }
 
-// The rest ---------------------------------------------------------------------------------------
+// The rest
 
 void XmlTreeBuilder::addComment(std::string_view text)
 {

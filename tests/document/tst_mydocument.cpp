@@ -388,11 +388,8 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
         const auto change = [&document](const QString &uuids) {
-            for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-                if (!document.isSequenceModified(uuid))
-                    document.addModifiedSequenceUUID(uuid);
-                document.updateChangeCount();
-            }
+            for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+                document.markSequenceModified(uuid);
         };
         change(before);
         document.beginSending();
