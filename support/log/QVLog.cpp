@@ -54,12 +54,12 @@ bool isLoggingSwitchedOff()
     const QString path = StandardFolders::preferences() + QStringLiteral("/com.orvandel.global.plist");
     if (!QFileInfo::exists(path))
         return false;
-    const Result<PropertyListValue> list = PropertyList::fromFile(path);
+    const Result<QVariant> list = PropertyList::fromFile(path);
     if (!list)
         return false;
-    const PropertyListValue value = list.value().toDictionary().value(QStringLiteral("disable-logging"));
-    return value.isString() ? value.toString() == QStringLiteral("1")
-                            : value.isNumber() && value.toReal() == 1;
+    const QVariant value = list.value().toMap().value(QStringLiteral("disable-logging"));
+    return value.typeId() == QMetaType::QString ? value.toString() == QStringLiteral("1")
+                                                : PropertyList::isNumber(value) && value.toDouble() == 1;
 }
 
 QString executablePath()

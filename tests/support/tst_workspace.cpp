@@ -78,8 +78,8 @@ class TestWorkspace : public QObject
             makeExecutable(
                 m_home->addFile(text("apps/") + relative + text("/Contents/MacOS/Main Program"), script));
         QVERIFY(QDir().mkpath(contents));
-        const PropertyListDictionary keys{{text("CFBundleIdentifier"), identifier},
-                                          {text("CFBundleExecutable"), text("Main Program")}};
+        const QVariantMap keys{{text("CFBundleIdentifier"), identifier},
+                               {text("CFBundleExecutable"), text("Main Program")}};
         QVERIFY(PropertyList::toFile(keys, contents + text("/Info.plist"), PropertyList::Format::Binary));
     }
 
