@@ -2,6 +2,7 @@
 
 #include "support/files/PropertyList.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/OperationQueue.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -146,10 +147,10 @@ void QVLog::startQueue()
     if (m_writeQueue)
         return;
     m_bytesInQueue = 0;
-    m_writeQueue = std::make_shared<LogQueue>([this](const QString &text) { appendLogOnThread(text); });
+    m_writeQueue = std::make_shared<OperationQueue>(1);
 }
 
-std::shared_ptr<LogQueue> QVLog::queue() const
+std::shared_ptr<OperationQueue> QVLog::queue() const
 {
     const std::lock_guard lock(m_queueMutex);
     return m_writeQueue;
@@ -279,13 +280,11 @@ void QVLog::logAndPrint(const QString &text)
 void QVLog::appendTextToLog(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    const std::shared_ptr<LogQueue> writeQueue = trimmed.isEmpty() ? nullptr : queue();
+    const std::shared_ptr<OperationQueue> writeQueue = trimmed.isEmpty() ? nullptr : queue();
     if (!writeQueue)
         return;
-    const quint64 size = static_cast<quint64>(trimmed.size());
-    m_bytesInQueue += size;
-    if (!writeQueue->append(trimmed))
-        m_bytesInQueue -= size;
+    m_bytesInQueue += static_cast<quint64>(trimmed.size());
+    writeQueue->addOperation([this, trimmed] { appendLogOnThread(trimmed); });
 }
 
 QString QVLog::escapeTextForLogging(const QString &text)
@@ -411,15 +410,13 @@ void QVLog::echo(const QString &text) const
 void QVLog::finishWriting()
 {
     QVLog &log = sharedController();
-    const std::shared_ptr<LogQueue> writeQueue = log.queue();
+    const std::shared_ptr<OperationQueue> writeQueue = log.queue();
     if (!writeQueue)
         return;
-    if (writeQueue->isOwnThread()) {
-        writeQueue->finish();
-        return;
-    }
-    const std::lock_guard lock(log.m_finishMutex);
-    writeQueue->finish();
+    std::unique_lock lock(log.m_finishMutex, std::defer_lock);
+    if (!writeQueue->isCallerOperation())
+        lock.lock();
+    writeQueue->waitUntilAllOperationsAreFinished();
 }
 
 QStringList QVLog::availableLogs()
@@ -443,20 +440,20 @@ QStringList QVLog::availableLogs()
 void QVLog::willTerminate()
 {
     QVLog &log = sharedController();
-    const std::shared_ptr<LogQueue> writeQueue = log.queue();
-    if (!writeQueue || writeQueue->isOwnThread())
+    std::shared_ptr<OperationQueue> writeQueue = log.queue();
+    if (!writeQueue || writeQueue->isCallerOperation())
         return;
     const std::lock_guard endLock(log.m_endMutex);
-    if (writeQueue->pendingCount() <= 10)
+    if (writeQueue->operationCount() <= 10)
         finishWriting();
     else
-        writeQueue->cancelAll();
-    writeQueue->stop();
+        writeQueue->cancelAllOperations();
     {
         const std::lock_guard lock(log.m_queueMutex);
         if (log.m_writeQueue == writeQueue)
             log.m_writeQueue.reset();
     }
+    writeQueue.reset(); // waits for the text that is being written
     const std::lock_guard fileLock(log.m_fileMutex);
     log.m_appName.clear();
     log.closeFile();

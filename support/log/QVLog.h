@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/log/LogQueue.h"
 #include "support/text/TextFormat.h"
 
 #include <QByteArray>
@@ -16,6 +15,8 @@
 
 namespace vantrell
 {
+
+class OperationQueue;
 
 /// The program's log: time-stamped lines in a rotating set of five files in the folder
 /// "Logs/Orvandel" of the user's library folder, written by a serial queue, with an echo on the
@@ -98,7 +99,8 @@ public:
     /// Hands a text to the queue, trimmed; an empty one is dropped.
     void appendTextToLog(const QString &text);
 
-    /// Writes one text; what the queue runs for it.
+    /// Writes one text; what the queue runs for it. It makes no objects that Qt ties to a thread, such as
+    /// QFile: the queue may outlive what Qt keeps about threads.
     void appendLogOnThread(const QString &text);
 
 private:
@@ -129,7 +131,7 @@ private:
     void closeFile();
     void echo(const QString &text) const;
     void startQueue();
-    std::shared_ptr<LogQueue> queue() const;
+    std::shared_ptr<OperationQueue> queue() const;
 
     std::atomic<quint64> m_bytesInQueue = 0; ///< UTF-16 units handed to the queue and not written yet
     std::atomic<bool> m_loggingDisabled = false;
@@ -141,7 +143,7 @@ private:
     std::mutex m_endMutex;      ///< lets one willTerminate run at a time
 
     mutable std::mutex m_queueMutex; ///< guards m_writeQueue
-    std::shared_ptr<LogQueue> m_writeQueue;
+    std::shared_ptr<OperationQueue> m_writeQueue;
 
     std::mutex m_fileMutex; ///< guards the members below
     QString m_appName;
