@@ -268,9 +268,9 @@ private Q_SLOTS:
         QCOMPARE(StandardFolders::documents(), home.path(QStringLiteral("Documents")));
         home.addFile(
             QStringLiteral(".config/user-dirs.dirs"),
-            "# comment\nXDG_DESKTOP_DIR=\"$HOME/Schreib\\\"tisch\"\n"
+            "# comment\nXDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n"
             "XDG_DOCUMENTS_DIR=\"relative\"\nXDG_DOCUMENTS_DIR=\"/srv/papers/\"\nXDG_MUSIC_DIR=\"/m");
-        QCOMPARE(StandardFolders::desktop(), home.path(QStringLiteral("Schreib\"tisch")));
+        QCOMPARE(StandardFolders::desktop(), home.path(QStringLiteral("Schreibtisch")));
         QCOMPARE(StandardFolders::documents(), QStringLiteral("/srv/papers"));
         qputenv("XDG_DOCUMENTS_DIR", "/elsewhere");
         QCOMPARE(StandardFolders::documents(), QStringLiteral("/elsewhere"));
