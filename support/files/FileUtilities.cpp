@@ -5,9 +5,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QRandomGenerator>
 
 #include <cerrno>
+#include <cstdio>
 #include <exception>
 #include <fcntl.h>
 #include <new>
@@ -36,64 +37,90 @@ bool isUsable(const QString &path)
     return !path.isEmpty() && !path.contains(QChar(u'\0'));
 }
 
-/// A file to which less is never written than was asked for, without an error: Qt's files leave it to the
-/// writer to see that, and a writer may look away.
-template <typename File>
-class WholeFile : public File
+/// A file that remembers the first error: a writer that does not look at what write() returns still fails.
+class CheckedFile : public QFile
 {
 public:
-    using File::File;
+    using QFile::QFile;
+
+    /// Runs the writer and has what it wrote leave this process.
+    Result<void> writeContent(const QString &path, const Writer &writer)
+    {
+        try {
+            const Result<void> written = writer(*this);
+            if (!flush() && m_error.isNull())
+                m_error = errorString();
+            return m_error.isNull() ? written : writeFailure(path, m_error);
+        } catch (const std::exception &exception) {
+            return writeFailure(path, QString::fromUtf8(exception.what()));
+        } catch (...) {
+            return writeFailure(path, QStringLiteral("unknown error"));
+        }
+    }
 
 protected:
     qint64 writeData(const char *data, qint64 size) override
     {
-        for (qint64 written = 0; written < size;) {
-            const qint64 count = File::writeData(data + written, size - written);
+        for (qint64 written = 0; written < size && m_error.isNull();) {
+            const qint64 count = QFile::writeData(data + written, size - written);
             if (count <= 0)
-                return -1;
+                m_error = errorString();
             written += count;
         }
-        return size;
-    }
-};
-
-/// Notes the temporary file while it is being written, where it has a name: most file systems keep it without
-/// one until it is whole.
-class NotedTemporary
-{
-public:
-    NotedTemporary() = default;
-    NotedTemporary(const NotedTemporary &) = delete;
-    NotedTemporary &operator=(const NotedTemporary &) = delete;
-    ~NotedTemporary() { UnfinishedFiles::remove(m_path); }
-
-    void note(int descriptor)
-    {
-        const QString link = QStringLiteral("/proc/self/fd/%1").arg(descriptor);
-        const QString path = QFile::symLinkTarget(link);
-        if (isSameFile(path, link))
-            UnfinishedFiles::add(m_path = QFile::encodeName(path));
+        return m_error.isNull() ? size : -1;
     }
 
 private:
-    QByteArray m_path;
+    QString m_error;
 };
 
-/// Runs the writer on the open file and has what it wrote leave this process.
-Result<void> writeContent(const QString &path, QFileDevice &file, const Writer &writer)
+/// A file with a name of its own beside its target, until it takes the target's place; removed at the end
+/// unless it did. QSaveFile would serve, but that it cannot replace a file whose name has more than 248
+/// bytes, and keeps the temporary name, which is to be removed on a signal, to itself.
+class NewFile : public CheckedFile
 {
-    try {
-        const Result<void> written = writer(file);
-        if (!written)
-            return written;
-    } catch (const std::exception &exception) {
-        return writeFailure(path, QString::fromUtf8(exception.what()));
-    } catch (...) {
-        return writeFailure(path, QStringLiteral("unknown error"));
+public:
+    explicit NewFile(const QFileInfo &target)
+        : CheckedFile(QStringLiteral("%1/.%2.%3")
+                          .arg(target.path(), target.fileName().left(60),
+                               QString::number(QRandomGenerator::system()->generate64(), 36)))
+        , m_path(encodeName(fileName()))
+    {
+        UnfinishedFiles::add(m_path);
     }
-    if (!file.flush() || file.error() != QFileDevice::NoError)
-        return writeFailure(path, file.errorString());
-    return {};
+    NewFile(const NewFile &) = delete;
+    NewFile &operator=(const NewFile &) = delete;
+    ~NewFile() override
+    {
+        if (!m_isInPlace)
+            remove();
+        UnfinishedFiles::remove(m_path);
+    }
+
+    Result<void> replace(const QString &path, const QString &target)
+    {
+        close();
+        if (error() != NoError)
+            return writeFailure(path, errorString());
+        m_isInPlace = ::rename(m_path.constData(), encodeName(target).constData()) == 0;
+        return m_isInPlace ? Result<void>() : writeFailure(path, errno);
+    }
+
+private:
+    const QByteArray m_path;
+    bool m_isInPlace = false;
+};
+
+/// The path without a file that a chain of symbolic links ends at; empty when the chain is a ring.
+QString linkTarget(QString path)
+{
+    for (int step = 0; step < 40; ++step) {
+        const QString next = QFile::symLinkTarget(path);
+        if (next.isEmpty())
+            return path;
+        path = next;
+    }
+    return QString();
 }
 
 /// Makes the new directory entry last; that it cannot be done on some file systems does no harm.
@@ -138,26 +165,25 @@ Result<void> writeAtomically(const QString &path, const Writer &writer,
         return writeFailure(path, ENOENT);
     struct stat old = {};
     const bool isThere = ::stat(QFile::encodeName(path).constData(), &old) == 0;
-    if (isThere && !S_ISREG(old.st_mode) && !S_ISDIR(old.st_mode)) {
-        WholeFile<QFile> file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly))
-            return writeFailure(path, file.errorString());
-        return writeContent(path, file, writer);
-    }
-    // QSaveFile has sentences of its own for these.
     if (isThere && S_ISDIR(old.st_mode))
         return writeFailure(path, EISDIR);
-    if (!isThere && errno != ENOENT)
-        return writeFailure(path, errno);
-    if (isThere && ::access(QFile::encodeName(path).constData(), W_OK) != 0)
+    if (isThere && !S_ISREG(old.st_mode)) {
+        CheckedFile file(path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly))
+            return writeFailure(path, file.errorString());
+        return file.writeContent(path, writer);
+    }
+    const QString target = isThere ? QFileInfo(path).canonicalFilePath() : linkTarget(path);
+    if (target.isEmpty())
+        return writeFailure(path, ELOOP);
+    if (isThere && ::access(QFile::encodeName(target).constData(), W_OK) != 0)
         return writeFailure(path, errno);
 
-    NotedTemporary temporary; // until QSaveFile has removed it
-    WholeFile<QSaveFile> file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    const QFileInfo info(target);
+    NewFile file(info);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return writeFailure(path, file.errorString());
-    temporary.note(file.handle());
-    const Result<void> written = writeContent(path, file, writer);
+    const Result<void> written = file.writeContent(path, writer);
     if (!written)
         return written;
     if (isThere) {
@@ -173,10 +199,10 @@ Result<void> writeAtomically(const QString &path, const Writer &writer,
         if (!mayReplace)
             return mayReplace;
     }
-    if (!file.commit())
-        return writeFailure(path, file.errorString());
-    syncFolder(QFileInfo(path).canonicalPath());
-    return {};
+    const Result<void> replaced = file.replace(path, target);
+    if (replaced)
+        syncFolder(info.path());
+    return replaced;
 }
 
 bool isSameFile(const QString &a, const QString &b)

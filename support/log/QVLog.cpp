@@ -5,6 +5,7 @@
 #include "support/log/OperationQueue.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -48,6 +49,12 @@ QString logFolder(const QString &library)
 QString numberedFile(const QString &base, qint64 number)
 {
     return formatText(u"%@.%li.log", base, number);
+}
+
+/// The current date as in "2026-11-21 02:14:00 +0000".
+QString dateText()
+{
+    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss '+0000'"));
 }
 
 bool isLoggingSwitchedOff()
@@ -289,18 +296,10 @@ void QVLog::appendTextToLog(const QString &text)
 
 QString QVLog::escapeTextForLogging(const QString &text)
 {
-    // Most formats hold conversions alone: one look tells that nothing is to be replaced.
-    constexpr QStringView marks = u" .!,-;:+";
-    bool needsEscaping = false;
-    for (qsizetype percent = text.indexOf(u'%'); percent >= 0 && !needsEscaping;
-         percent = text.indexOf(u'%', percent + 1)) {
-        const QStringView rest = QStringView(text).sliced(percent + 1);
-        needsEscaping = rest.startsWith(u"%%") || (!rest.isEmpty() && marks.contains(rest.front()));
-    }
-    if (!needsEscaping)
+    if (!text.contains(u'%'))
         return text;
     QString escaped = text;
-    for (const QChar mark : marks) {
+    for (const QChar mark : QStringView(u" .!,-;:+")) {
         const QString single = QString(u'%') + mark;
         escaped.replace(single, u'%' + single);
     }
@@ -349,10 +348,9 @@ void QVLog::writeLine(const QString &text)
         return;
     }
     m_isLossTold = false;
-    m_line.resize(0); // keeps its memory
-    m_line.append(dateText()).append(" - ").append(text.toUtf8()).append('\n');
-    if (writeBytes(m_line))
-        m_bytesWritten += static_cast<quint64>(m_line.size());
+    const QByteArray line = formatText(u"%@ - %@\n", dateText(), text).toUtf8();
+    if (writeBytes(line))
+        m_bytesWritten += static_cast<quint64>(line.size());
 }
 
 bool QVLog::writeBytes(const QByteArray &bytes)
@@ -370,21 +368,6 @@ bool QVLog::writeBytes(const QByteArray &bytes)
         }
     }
     return true;
-}
-
-/// The current date as in "2026-11-21 02:14:00 +0000".
-QByteArray QVLog::dateText()
-{
-    const std::time_t now = std::time(nullptr);
-    if (now != m_dateSecond) {
-        std::tm parts = {};
-        gmtime_r(&now, &parts);
-        char text[64];
-        m_dateText = QByteArray(text, static_cast<qsizetype>(std::strftime(
-                                          text, sizeof text, "%Y-%m-%d %H:%M:%S +0000", &parts)));
-        m_dateSecond = now;
-    }
-    return m_dateText;
 }
 
 void QVLog::closeFile()

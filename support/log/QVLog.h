@@ -8,7 +8,6 @@
 
 #include <array>
 #include <atomic>
-#include <ctime>
 #include <memory>
 #include <mutex>
 #include <span>
@@ -126,7 +125,6 @@ private:
     void writeHeader();
     void writeLine(const QString &text);
     QString currentPath() const;
-    QByteArray dateText();
     bool writeBytes(const QByteArray &bytes);
     void closeFile();
     void echo(const QString &text) const;
@@ -149,10 +147,7 @@ private:
     QString m_appName;
     int m_fileHandle = -1; ///< the current file, written at its end; -1 for none
     quint64 m_bytesWritten = 0;
-    bool m_isLossTold = false;     ///< the console says that there is no file
-    QByteArray m_line;             ///< the line being written
-    std::time_t m_dateSecond = -1; ///< the second that m_dateText stands for
-    QByteArray m_dateText;
+    bool m_isLossTold = false; ///< the console says that there is no file
 };
 
 } // namespace vantrell

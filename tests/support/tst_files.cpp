@@ -76,6 +76,11 @@ private Q_SLOTS:
             QCOMPARE(read.value(), content);
             QCOMPARE(namesIn(folder).size(), 1);
         }
+        // The longest name that a file system takes can be replaced.
+        const QString longest = home.path(QString(255, u'n'));
+        QVERIFY(FileUtilities::writeAtomically(longest, QByteArray("old")));
+        QVERIFY(FileUtilities::writeAtomically(longest, QByteArray("new")));
+        QCOMPARE(contentOf(longest), QByteArray("new"));
         // In small and large pieces the order stays.
         QVERIFY(FileUtilities::writeAtomically(path, [&large](QIODevice &device) -> Result<void> {
             device.write("head\n");
