@@ -1,7 +1,5 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
 #include <QString>
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "media/FileChecks.h"
 
+#include "support/log/OperationQueue.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/threads/OperationQueue.h"
 
 #include <QFile>
 #include <QHash>

@@ -4,7 +4,7 @@
 #include "media/FileChecks.h"
 #include "media/MediaFilter.h"
 #include "media/MediaUsage.h"
-#include "support/threads/OperationQueue.h"
+#include "support/log/OperationQueue.h"
 
 #include <QHash>
 #include <QString>

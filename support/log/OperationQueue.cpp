@@ -1,4 +1,4 @@
-#include "support/threads/OperationQueue.h"
+#include "support/log/OperationQueue.h"
 
 #include "support/log/QVException.h"
 
@@ -124,12 +124,17 @@ void OperationQueue::cancelAllOperations()
 void OperationQueue::waitUntilAllOperationsAreFinished()
 {
     std::unique_lock lock(m_state->mutex);
-    if (t_currentQueue == m_state.get()) {
+    if (isCallerOperation()) {
         while (!m_state->waiting.empty())
             m_state->runFirst(lock);
         return;
     }
     m_state->finished.wait(lock, [&] { return m_state->running == 0 && m_state->waiting.empty(); });
+}
+
+bool OperationQueue::isCallerOperation() const
+{
+    return t_currentQueue == m_state.get();
 }
 
 int OperationQueue::operationCount() const
