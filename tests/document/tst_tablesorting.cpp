@@ -127,6 +127,10 @@ void TestTableSorting::staysWithoutTheTable()
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
     QVERIFY(media.descriptors().empty());
     QVERIFY(defaults.string(QStringLiteral("mediaSortedColumn")).isNull());
+    for (int i = 0; i < 2; ++i)
+        media.tableViewDidClickTableColumn(QStringLiteral("name"));
+    QCOMPARE(defaults.string(QStringLiteral("mediaSortedColumn")), QStringLiteral("name"));
+    QVERIFY(defaults.boolean(QStringLiteral("mediaSortedDescending")));
 }
 
 } // namespace vantrell
