@@ -28,6 +28,9 @@ public:
     /// The query compiled on its first use in the process and kept; for texts without data in them.
     static std::shared_ptr<const XmlQuery> compiled(const QString &text);
 
+    /// Whether the XML library's evaluator answers it, at the cost of a copy of the tree for each evaluation.
+    bool needsLibrary() const { return m_fallback != nullptr; }
+
     struct Answer {
         XmlNodeList nodes;
         QString error; ///< empty when the evaluation went well
