@@ -93,8 +93,19 @@ endfunction()
 # tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
 # what LIBRARIES adds. SERIES: it tries random cases, of which tools/series runs more. SECONDS: how long it takes
 # under the thread sanitizer where that is long; such tests start first, so that no processor waits for the last one.
+# A test function that takes longer than 45 seconds, for one row of its data, is hung: Qt Test's watchdog ends the
+# program. LONG doubles that, and a series may take five minutes.
 function(vantrell_test folder name)
-    cmake_parse_arguments(ARG "SERIES" "SECONDS" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "SERIES;LONG" "SECONDS" "LIBRARIES" ${ARGN})
+    set(function_seconds 45)
+    set(program_seconds 300)
+    if(ARG_LONG)
+        set(function_seconds 90)
+    endif()
+    if(ARG_SERIES)
+        set(function_seconds 300)
+        set(program_seconds 900)
+    endif()
     set(set test)
     get_target_property(libraries vantrell_${folder} INTERFACE_LINK_LIBRARIES)
     if("Qt6::Widgets" IN_LIST libraries)
@@ -111,8 +122,8 @@ function(vantrell_test folder name)
         ${ARG_LIBRARIES})
     add_test(NAME ${folder}/${name} COMMAND tst_${name})
     set_tests_properties(${folder}/${name} PROPERTIES
-        TIMEOUT 600
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
+        TIMEOUT ${program_seconds}
+        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=${function_seconds}000;QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
     if(ARG_SECONDS)
         set_tests_properties(${folder}/${name} PROPERTIES COST ${ARG_SECONDS})
     endif()

@@ -31,7 +31,7 @@ using namespace vantrell;
 namespace
 {
 
-constexpr int Patience = 60000; // milliseconds
+constexpr int Patience = 40000; // milliseconds
 
 const QByteArray Project = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!DOCTYPE xmeml>

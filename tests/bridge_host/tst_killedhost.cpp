@@ -98,7 +98,7 @@ private Q_SLOTS:
         {
             CapturedStandardError captured;
             std::thread sender([&] { hasFailed = fails(path); });
-            const bool isMet = QTest::qWaitFor([&] { return host.allEvents().contains(event); }, 60000);
+            const bool isMet = QTest::qWaitFor([&] { return host.allEvents().contains(event); }, 40000);
             host.kill();
             sinceKilled.start();
             sender.join();

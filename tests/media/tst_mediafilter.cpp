@@ -167,7 +167,7 @@ private Q_SLOTS:
                 media.document.viewState().mediaKind = 3;
                 media.filter.changeMediaFilter();
             }
-            MainThread::drainUntil([&] { return hasEnded; }, std::chrono::seconds(60));
+            MainThread::drainUntil([&] { return hasEnded; }, std::chrono::seconds(40));
             worker.join();
             QCOMPARE(media.document.rowsOnShow(Tab::Media).size(), std::size_t(0));
             QCOMPARE(media.document.tableTab(), isOtherTab ? Tab::Effects : Tab::Media);

@@ -19,7 +19,7 @@ QByteArray output(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray();
+    return process.waitForFinished(40000) ? process.readAllStandardOutput() : QByteArray();
 }
 
 /// In pixels.

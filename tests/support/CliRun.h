@@ -8,7 +8,7 @@ namespace vantrell
 
 /// One run of the command line program, ended.
 struct CliRun {
-    int status = -1; ///< -1 when it crashed or did not end in two minutes
+    int status = -1; ///< -1 when it crashed or did not end in 40 seconds
     QByteArray output;
     QByteArray messages;
 };

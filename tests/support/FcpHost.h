@@ -51,7 +51,7 @@ public:
     bool hasSaid(const QByteArray &text)
     {
         m_messages += m_process.readAllStandardError();
-        while (!m_messages.contains(text) && m_process.waitForReadyRead(60000))
+        while (!m_messages.contains(text) && m_process.waitForReadyRead(40000))
             m_messages += m_process.readAllStandardError();
         return m_messages.contains(text);
     }

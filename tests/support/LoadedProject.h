@@ -30,11 +30,11 @@ public:
         document.readFromURL(QUrl::fromLocalFile(file.fileName()), DocumentType::publicXML);
     }
 
-    /// Loads it; false when that did not end in a minute.
+    /// Loads it; false when that did not end in 40 seconds.
     bool load(const QByteArray &xml)
     {
         start(xml);
-        return MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(60));
+        return MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(40));
     }
 
     QString label(Label label) const { return world.label(label); }
