@@ -26,6 +26,9 @@ check_packages=(
     poppler-utils
 )
 
+# What tools/lint takes beyond building.
+lint_packages=(clang-tidy)
+
 # missing_packages NAME...: prints those that are not installed, one a line.
 missing_packages() {
     local installed=" " state name
