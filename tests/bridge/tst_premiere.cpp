@@ -80,7 +80,7 @@ class PremiereTest : public QObject
                               version + "</Data></VariableForExMan></Configuration>");
     }
 
-    /// The application's bundle; gives where its executable belongs.
+    /// Writes the application's bundle; returns the path for its executable.
     QString installBundle(const QByteArray &version)
     {
         const QString bundle = text("apps/Adobe Premiere Pro CS6/Adobe Premiere Pro CS6.app");
@@ -91,7 +91,7 @@ class PremiereTest : public QObject
         return path(bundle + text("/Contents/MacOS/Premiere"));
     }
 
-    /// The opener notes its arguments and the script, then does what the commands say.
+    /// The opener records its arguments and the script, then runs the commands.
     void setOpener(const QByteArray &commands = {})
     {
         const QByteArray arguments = path(text("arguments")).toUtf8();
@@ -290,8 +290,8 @@ private Q_SLOTS:
         QVERIFY(scriptsLeft().isEmpty());
     }
 
-    /// Cancelled while the Toolkit runs, after the start of Premiere Pro, after an export, and while the
-    /// alert stands that nobody answers.
+    /// Cancelled while the Toolkit runs, after the start of Premiere Pro, after an export, and during an
+    /// unanswered alert.
     void cancelling_data()
     {
         QTest::addColumn<QString>("waitsFor");

@@ -84,7 +84,7 @@ private Q_SLOTS:
             QCOMPARE(run((QByteArray("effects ") + options).constData()).output, title + rows);
     }
 
-    /// Custom fields get columns behind the others, also those that only a later marker has.
+    /// Custom fields become columns after the others, also if only a later marker has them.
     void markers()
     {
         const QString path = m_home.addFile(
@@ -102,7 +102,7 @@ private Q_SLOTS:
                        "Red\tB\tc\t00:00:01:00\t00:00:00:15\tS\t\t\t\t\t3\n"));
     }
 
-    /// On a terminal: the columns but the last as wide as their widest cell and two blanks more.
+    /// On a terminal, all columns but the last are two spaces wider than their widest cell.
     void tables()
     {
         cli::TextTable table({QStringLiteral("A"), QStringLiteral("Title"), QStringLiteral("C")});

@@ -61,7 +61,7 @@ private Q_SLOTS:
         m_home.addFile(u"damaged.xml"_s, project("<marker><name>M</marker>"));
     }
 
-    /// The list comes through a pipe, and not before another program has changed the project.
+    /// The list comes through a pipe, after another program has changed the project.
     void changedMeanwhile_data()
     {
         QTest::addColumn<bool>("isConfirmed");
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QVERIFY(contentOf(m_home.path(u"damaged.xml"_s)).contains("A \"1\""));
     }
 
-    /// Run without the right of the system's administrator to read every file.
+    /// Without the capability of the superuser to read every file.
     void unreadable()
     {
         const QString path = m_home.addFile(u"secret.txt"_s, "A\t00:00:00:05\tV1\tred\t\n");

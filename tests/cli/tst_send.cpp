@@ -47,7 +47,7 @@ private Q_SLOTS:
         UserDefaults::standard().synchronize();
     }
 
-    /// Where no editing application runs.
+    /// Without a running editing application.
     void withoutAnApplication_data()
     {
         QTest::addColumn<QString>("file");

@@ -101,7 +101,7 @@ private Q_SLOTS:
             const char *timecodes;
             const char *seconds;
         } rows[] = {
-            // The ends of the item, and a hair outside.
+            // The ends of the item, and just outside.
             {at25, fromOneHour,
              "<clip offset='100s' start='10s' duration='10s'>@a=10s @b=20s @c=9999/1000s @d=20001/1000s "
              "</clip>",

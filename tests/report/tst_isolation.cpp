@@ -32,8 +32,8 @@ int widthOf(const QString &png)
 
 } // namespace
 
-/// Projects whose marker names attempt what a report must not do: a PDF is made of each, with what else the
-/// project holds, and nothing comes of the attempt.
+/// Projects whose marker names attempt what a report must not do: a PDF is made of each, complete with the
+/// rest of the project, and the attempt has no effect.
 class TestIsolation : public QObject
 {
     Q_OBJECT

@@ -114,7 +114,7 @@ private Q_SLOTS:
                                             ? QStringList{u"Scoring"_s, u"QVCUSTOM_C"_s}
                                             : QStringList{u"In"_s})
                 QVERIFY2(text.contains(title), qPrintable(title));
-            // A row that went on would leave words of its comment above the first name of the next page.
+            // A split row would leave words of its comment above the first name of the next page.
             const QStringList words = text.simplified().split(u' ');
             int pageComments = 0;
             for (const QString &word : words)

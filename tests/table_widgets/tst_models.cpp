@@ -156,7 +156,7 @@ void TestModels::offerClipsOfTheRow()
                               QStringLiteral("Küste bei Nacht (still)"), QStringLiteral("Harbour Wide")};
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Opening"), clip).size() > 10);
-    // What was removed keeps its place but cannot be chosen.
+    // A removed item keeps its index but cannot be selected.
     const QModelIndex cell = m_project->cell(
         Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
         clip);

@@ -36,7 +36,7 @@ QStringList described(const XmlNodeList &nodes)
     return texts;
 }
 
-/// A tree of few names, so that queries find things at odd places.
+/// A tree with few different names, so that queries match at odd positions.
 QByteArray randomTree(std::mt19937 &random, int depth)
 {
     static const char *const names[] = {"a", "b", "c", "name"};
@@ -159,7 +159,7 @@ private Q_SLOTS:
         for (int round = 0; round < 60; ++round) {
             const QByteArray xml = "<r>" + randomTree(random, 5) + randomTree(random, 5) + "</r>";
             const auto document = parsed(xml);
-            // As it was parsed, and with elements taken out and moved.
+            // As parsed, and with elements removed and moved.
             for (const int step : {0, 1}) {
                 if (step == 1) {
                     const XmlNode root = document->rootElement();
@@ -224,7 +224,7 @@ private Q_SLOTS:
 
     void costGrowsInStepWithTheTree()
     {
-        // Nested contexts and 60,000 siblings: what a quadratic union or sort would take minutes for.
+        // Nested contexts and 60,000 siblings: a quadratic union or sort would take minutes.
         QByteArray xml("<r>");
         for (int i = 0; i < 60000; ++i)
             xml += "<a><b/><a><c/></a></a>";
