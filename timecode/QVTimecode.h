@@ -84,7 +84,7 @@ public:
     /// The frame count of a drop-frame number.
     static quint64 subtractDroppedFrames(quint64 count, double fps);
 
-    /// A timecode for use in a file name: "." in place of every ":" and ";".
+    /// A timecode for use in a file name: "." instead of every ":" and ";".
     static QString sanitizeTimecodeForFilename(const QString &timecode);
 
     /// The fields as a timecode. Printed as unsigned numbers, with "0" in front when below 10.
