@@ -373,8 +373,8 @@ std::vector<char> XmlInput::startOfText(const std::string &encoding, int unit)
     if (!setDecoder(encoding, unit) || !m_decoder)
         return start;
     std::vector<char> text;
-    std::size_t place = 0;
-    m_decoder->convert(start, place, text, false);
+    std::size_t offset = 0;
+    m_decoder->convert(start, offset, text, false);
     setDecoder(encoding, unit); // without what it remembers
     return text;
 }

@@ -533,7 +533,7 @@ private Q_SLOTS:
                                        ++told;
                                        isSaved = saved.isOk();
                                    });
-        QVERIFY(MainThread::drainUntil([&told] { return told > 0; }, std::chrono::seconds(60)));
+        QVERIFY(MainThread::drainUntil([&told] { return told > 0; }, std::chrono::seconds(40)));
         MainThread::drain();
         QCOMPARE(told, 1);
         QVERIFY(isSaved && !document.isSaving());

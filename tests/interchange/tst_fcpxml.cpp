@@ -32,10 +32,10 @@ QString text(const RowList &rows)
 {
     QStringList texts;
     for (const RowRecordPtr &row : rows) {
-        const QString place = row->contains(ImportedMarkerKey::seconds)
-                                  ? QString::number(row->get(ImportedMarkerKey::seconds), 'g', 17)
-                                  : row->get(ImportedMarkerKey::startTimecode);
-        texts.append(row->size() == 0 ? u"-"_s : row->get(ImportedMarkerKey::name) + u'=' + place);
+        const QString position = row->contains(ImportedMarkerKey::seconds)
+                                     ? QString::number(row->get(ImportedMarkerKey::seconds), 'g', 17)
+                                     : row->get(ImportedMarkerKey::startTimecode);
+        texts.append(row->size() == 0 ? u"-"_s : row->get(ImportedMarkerKey::name) + u'=' + position);
     }
     return texts.join(u' ');
 }
@@ -92,7 +92,7 @@ private Q_SLOTS:
         }
     }
 
-    void places()
+    void positions()
     {
         const struct {
             const char *format;

@@ -30,7 +30,7 @@ private:
     void breakTag(QByteArray &file);
     void insertMarkup(QByteArray &file);
     void mislabel(QByteArray &file);
-    qsizetype placeIn(const QByteArray &file);
+    qsizetype offsetIn(const QByteArray &file);
 
     RandomNumbers m_random;
 };
