@@ -42,6 +42,11 @@ void *operator new(std::size_t size)
     return memory;
 }
 
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return vantrell::NoMemory::fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+
 void operator delete(void *memory) noexcept
 {
     std::free(memory);
