@@ -36,7 +36,7 @@ bool hasPlace(const CarriedMarker &marker)
     return marker.place.state != MarkerPlace::State::Gone;
 }
 
-QByteArray markersAsJson(const std::vector<CarriedMarker> &markers)
+QByteArray carriedAsJson(const std::vector<CarriedMarker> &markers)
 {
     Json list = Json::array();
     for (const CarriedMarker &marker : markers) {
@@ -53,7 +53,7 @@ QByteArray markersAsJson(const std::vector<CarriedMarker> &markers)
     return toBytes(Json{{"markers", std::move(list)}});
 }
 
-QByteArray markersAsTable(const std::vector<CarriedMarker> &markers)
+QByteArray carriedAsTable(const std::vector<CarriedMarker> &markers)
 {
     TextTable table({QStringLiteral("State"), QStringLiteral("Name"), QStringLiteral("Old"),
                      QStringLiteral("New"), QStringLiteral("File"), QStringLiteral("Source frame")});
@@ -96,7 +96,7 @@ int carry(const CarryOptions &options)
         complain(QStringLiteral("%1 of %2 markers added").arg(added).arg(markers.size()));
     }
     const bool isPrinted = !ownsOutput && (options.preview || options.json);
-    if (isPrinted && !print(options.json ? markersAsJson(markers) : markersAsTable(markers)))
+    if (isPrinted && !print(options.json ? carriedAsJson(markers) : carriedAsTable(markers)))
         return Failed;
     return Done;
 }

@@ -19,7 +19,7 @@ namespace vantrell
 namespace
 {
 
-QString childText(XmlNode marker, std::string_view name)
+QString markerText(XmlNode marker, std::string_view name)
 {
     return marker.childElement(name).stringValue();
 }
@@ -27,8 +27,8 @@ QString childText(XmlNode marker, std::string_view name)
 /// What makes two markers of one owner the same.
 QString identityOf(XmlNode marker, std::int64_t in)
 {
-    return QString::number(in) + QChar(0) + childText(marker, "name") + QChar(0) +
-           childText(marker, "comment");
+    return QString::number(in) + QChar(0) + markerText(marker, "name") + QChar(0) +
+           markerText(marker, "comment");
 }
 
 /// The markers that a sequence and its items have, each to be found as often as it is there.
@@ -41,7 +41,7 @@ public:
         if (isNew) {
             for (XmlNode child = owner.firstChildElement(); child; child = child.nextSiblingElement()) {
                 if (child.isElement("marker"))
-                    ++known->second[identityOf(child, integerValue(childText(child, "in")))];
+                    ++known->second[identityOf(child, integerValue(markerText(child, "in")))];
             }
         }
         const auto count = known->second.find(identityOf(marker, in));
@@ -103,7 +103,7 @@ std::vector<CarriedMarker> MarkerCarrier::plan(const SequenceEvents &before, con
     PresentMarkers present;
     std::vector<CarriedMarker> plan(markers.size());
     for (std::size_t i = 0; i < markers.size(); ++i) {
-        plan[i].name = childText(markers[i].element, "name");
+        plan[i].name = markerText(markers[i].element, "name");
         if (plan[i].name.isNull())
             plan[i].name = QStringLiteral("");
         plan[i].marker = markers[i];
@@ -145,7 +145,7 @@ std::size_t MarkerCarrier::carry(std::vector<CarriedMarker> &plan, const Sequenc
             continue;
         // As typed: what adding takes from a name or comment, and the tags that it refuses, come this way.
         editor.updateXMLMarker(record, QStringLiteral("name"), one.name);
-        const QString comment = childText(old, "comment");
+        const QString comment = markerText(old, "comment");
         editor.updateXMLMarker(record, QStringLiteral("comment"), comment);
         MarkerComment::read(comment, *record);
         const XmlNode marker = record->get(MarkerKey::markerElement);

@@ -81,7 +81,9 @@ struct MarkerPlaces::Search {
     MarkerPlace place;
     const TrackEvent *event = nullptr; ///< the old clip that it is on; null off pictures
     int match = EventMatch::none;      ///< the new event of that
+    const SourcePlaces *in = nullptr;  ///< what the places are in
     std::vector<SourcePlaces::Place> places;
+    bool isBeneathPicture = false; ///< the places are those of a sound that was without a picture
 
     bool isAnchor() const { return places.size() == 1 && places.front().distance == 0; }
 };
@@ -94,6 +96,8 @@ MarkerPlaces::MarkerPlaces(const SequenceEvents &before, const SequenceEvents &a
     , m_newMap(after)
     , m_oldClips(before, PictureMap::Items::WithoutGenerators)
     , m_places(after, m_newMap)
+    , m_newSounds(after, PictureMap::Items::Audio)
+    , m_soundPlaces(after, m_newSounds)
     , m_newSources(after.sources)
 {
     for (const PictureMap::Part &part : m_oldClips.parts()) {
@@ -171,7 +175,16 @@ MarkerPlaces::Search MarkerPlaces::search(const MarkerSpan &marker) const
     wanted.repeats = std::max<std::int64_t>(shown.length(), 1);
     search.place.file = wanted.source.label();
     search.place.sourceFrame = wanted.frame;
+    search.in = &m_places;
     search.places = m_places.find(wanted);
+    if (event.isAudio && (search.places.empty() || search.places.front().distance > 0)) {
+        std::vector<SourcePlaces::Place> sounds = m_soundPlaces.find(wanted);
+        if (!sounds.empty() && (search.places.empty() || sounds.front().distance == 0)) {
+            search.in = &m_soundPlaces;
+            search.places = std::move(sounds);
+            search.isBeneathPicture = true;
+        }
+    }
     return search;
 }
 
@@ -182,10 +195,11 @@ void MarkerPlaces::settle(Search &search, const Search *before, const Search *af
     if (search.places.empty())
         return;
     const SourcePlaces::Place &chosen = search.places[chosenPlace(search, before, after)];
-    const TrackEvent &event = m_new.events[m_newMap.parts()[chosen.part].event];
+    const TrackEvent &event = m_new.events[search.in->eventAt(chosen.part)];
     const SourceMapping &from = search.event->mapping;
     const SourceMapping &to = event.mapping;
-    const bool isCertain = chosen.distance == 0 && !from.isVariable && !to.isVariable;
+    const bool isCertain =
+        chosen.distance == 0 && !search.isBeneathPicture && !from.isVariable && !to.isVariable;
     MarkerPlace &place = search.place;
     place.state = isCertain ? MarkerPlace::State::Carried : MarkerPlace::State::Nearest;
     place.newFrame = chosen.frame;
@@ -197,7 +211,7 @@ void MarkerPlaces::settle(Search &search, const Search *before, const Search *af
         return mapping.rate.isZero() ? mapping.step : mapping.step / mapping.rate;
     };
     const std::int64_t duration = scaled(search.marker.duration, perSecond(to), perSecond(from));
-    const std::int64_t end = m_places.endOfPicture(chosen.part);
+    const std::int64_t end = search.in->endOfPicture(chosen.part);
     place.duration = std::clamp<std::int64_t>(duration, 1, std::max<std::int64_t>(end - place.in, 1));
 }
 
@@ -209,7 +223,7 @@ std::size_t MarkerPlaces::chosenPlace(const Search &search, const Search *before
         return (!before || frameOf(before) <= place.frame) && (!after || place.frame <= frameOf(after));
     };
     const auto isInEvent = [&](const SourcePlaces::Place &place) {
-        return int(m_newMap.parts()[place.part].event) == search.match;
+        return int(search.in->eventAt(place.part)) == search.match;
     };
     std::int64_t expected = search.marker.in;
     if (before)

@@ -49,7 +49,8 @@ struct MarkerPlace {
 /// A marker of the sequence goes to where the picture that it is on is seen (see PictureMap, SourcePlaces).
 /// Of several places it takes one between those of the markers around it that have only one place; of these
 /// one in the same event; of these the nearest to where it would be, had it kept its distance to the marker
-/// before it. In a gap or over a generator it keeps its distance to the nearest clip that is in both cuts, a
+/// before it. A sound that has a picture over it now is found, too, to be looked at.
+/// In a gap or over a generator it keeps its distance to the nearest clip that is in both cuts, a
 /// clip beneath the generator being the nearest. Its duration ends where the picture ends. A marker inside an
 /// item follows the item, or the part of it that has the marker's frame.
 ///
@@ -84,6 +85,8 @@ private:
     const PictureMap m_newMap;
     const PictureMap m_oldClips;
     const SourcePlaces m_places;
+    const PictureMap m_newSounds;
+    const SourcePlaces m_soundPlaces;
     std::vector<PictureMap::Part> m_keptParts; ///< of the old clips that are in both cuts
     const SourceIndex m_newSources;
     std::map<int, std::vector<int>> m_addedClips; ///< new events without a match, by source and in order

@@ -7,6 +7,8 @@ namespace vantrell
 
 bool MediaSource::isSameAs(const MediaSource &other) const
 {
+    if (still != other.still)
+        return false;
     if (!path.isEmpty() && !other.path.isEmpty())
         return path == other.path;
     if (!id.isEmpty() && !other.id.isEmpty())

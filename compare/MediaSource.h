@@ -14,11 +14,13 @@ struct MediaSource {
     QString path; ///< of the file, decoded
     QString id;
     QString name;
+    QString still; ///< the frame of a freeze frame, which is another picture than the running file
 
     /// The path, else the name; null without either.
     QString label() const { return path.isEmpty() ? name : path; }
 
-    /// Their paths are equal; where either has none their ids; where either has none their names.
+    /// Their freeze frames are equal, and their paths; where either has none their ids; where either has none
+    /// their names.
     bool isSameAs(const MediaSource &other) const;
 };
 

@@ -31,7 +31,9 @@ PictureMap::PictureMap(const SequenceEvents &sequence, Items items)
     std::vector<Edge> edges;
     for (std::size_t i = 0; i < sequence.events.size(); ++i) {
         const TrackEvent &event = sequence.events[i];
-        const bool isLeftOut = items == Items::WithoutGenerators && event.kind == TrackEvent::Kind::Generator;
+        const bool isLeftOut =
+            (items == Items::WithoutGenerators && event.kind == TrackEvent::Kind::Generator) ||
+            (items == Items::Audio && !event.isAudio);
         if (!event.isItem() || !event.isEnabled || isLeftOut)
             continue;
         edges.push_back({event.start, i, true});

@@ -20,7 +20,7 @@ public:
         std::size_t event;
     };
 
-    enum class Items { All, WithoutGenerators };
+    enum class Items { All, WithoutGenerators, Audio };
 
     /// In n log n of the events.
     explicit PictureMap(const SequenceEvents &sequence, Items items = Items::All);

@@ -16,7 +16,7 @@ namespace vantrell
 namespace
 {
 
-constexpr std::int64_t open = -1; // an edge that lies inside a transition
+constexpr std::int64_t openEdge = -1; // an edge that lies inside a transition
 
 QString textOf(XmlNode element, std::string_view name)
 {
@@ -126,8 +126,8 @@ private:
             const bool isTransition = child.isElement("transitionitem");
             if (isTransition || child.isElement("clipitem") || child.isElement("clip") ||
                 child.isElement("generatoritem"))
-                m_items.push_back(
-                    {child, numberOf(child, "start", open), numberOf(child, "end", open), isTransition});
+                m_items.push_back({child, numberOf(child, "start", openEdge),
+                                   numberOf(child, "end", openEdge), isTransition});
         }
         const std::size_t first = m_result.events.size();
         const bool isTrackOff = isOff(track);
@@ -173,21 +173,21 @@ private:
         const Item &item = m_items[at];
         const Item *before = at > 0 ? &m_items[at - 1] : nullptr;
         const Item *after = at + 1 < m_items.size() ? &m_items[at + 1] : nullptr;
-        const bool opens = item.start == open && before && before->isTransition;
-        const bool closes = item.end == open && after && after->isTransition;
+        const bool opens = item.start == openEdge && before && before->isTransition;
+        const bool closes = item.end == openEdge && after && after->isTransition;
         ItemRange range; // with its handles inside the transitions
         range.in = std::max<std::int64_t>(numberOf(item.element, "in", 0), 0);
-        const std::int64_t out = numberOf(item.element, "out", open);
-        if (out != open)
+        const std::int64_t out = numberOf(item.element, "out", openEdge);
+        if (out != openEdge)
             range.out = out;
         range.start = opens ? before->start : item.start;
         range.end = closes ? after->end : item.end;
-        const std::int64_t length = out == open ? 0 : out - range.in;
-        if (range.start == open && range.end != open)
+        const std::int64_t length = out == openEdge ? 0 : out - range.in;
+        if (range.start == openEdge && range.end != openEdge)
             range.start = length > 0 ? range.end - length : before ? before->end : 0;
-        else if (range.start == open)
+        else if (range.start == openEdge)
             range.start = before ? before->end : 0;
-        if (range.end == open)
+        if (range.end == openEdge)
             range.end = range.start + length;
         event.start = opens ? cutOf(*before) : range.start;
         event.end = closes ? cutOf(*after) : range.end;
@@ -244,20 +244,14 @@ private:
         }
         if (source.name.isEmpty())
             source.name = event.name;
-        // A freeze frame is another picture than the running file.
-        const QString still = textOf(item, "stillframeoffset");
-        if (!still.isEmpty()) {
-            for (QString *part : {&source.path, &source.id, &source.name}) {
-                if (!part->isEmpty())
-                    *part += QLatin1Char('#') + still;
-            }
-        }
+        source.still = textOf(item, "stillframeoffset");
         return indexOf(source);
     }
 
     int indexOf(const MediaSource &source)
     {
-        const QString key = source.path + QChar(0) + source.id + QChar(0) + source.name;
+        const QString key =
+            source.path + QChar(0) + source.id + QChar(0) + source.name + QChar(0) + source.still;
         const auto known = m_indexes.constFind(key);
         if (known != m_indexes.constEnd())
             return *known;

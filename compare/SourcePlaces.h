@@ -37,6 +37,8 @@ public:
     /// nowhere, those of the nearest frames of the source.
     std::vector<Place> find(const Wanted &wanted) const;
 
+    /// The index of the part's event.
+    std::size_t eventAt(std::size_t part) const { return m_map.parts()[part].event; }
     /// The frame where the picture of a part ends, which goes on while the source does.
     std::int64_t endOfPicture(std::size_t part) const;
 

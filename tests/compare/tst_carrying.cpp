@@ -220,6 +220,11 @@ void TestCarrying::places_data()
         marker("5") + "<media><audio>" + track(clip("a", "0-50@0")) + "</audio></media>",
         "<media><audio>" + track(clip("x", "0-10@0")) + track(clip("a", "20-70@0")) + "</audio></media>",
         "carried 25");
+    row("sound that has a picture over it now",
+        marker("5") + "<media><audio>" + track(clip("a", "0-50@0")) + "</audio></media>",
+        "<media><video>" + track(clip("x", "0-90@0")) + "</video><audio>" + track(clip("a", "20-70@0")) +
+            "</audio></media>",
+        "nearest 25");
     row("markers inside clips, too, follow into the part that has them",
         video(track(clip("a", "0-50@0", marker("40")) + clip("b", "50-100@0", marker("7")))),
         video(track(clip("a", "0-20@0") + clip("x", "20-30@0") + clip("a", "30-60@20"))), "carried 50,gone");
