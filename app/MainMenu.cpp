@@ -191,7 +191,7 @@ void MainMenu::fillSortMenu()
     TabPane &pane = m_document->pane(m_document->selectedTab());
     const std::optional<SortDescriptor> sort = pane.shownSort();
     for (const QString &column : pane.columns()) {
-        QString title = pane.model().columnName(pane.model().columnOf(column));
+        QString title = pane.model().columnAt(pane.model().columnOf(column)).name;
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_sortMenu->addAction(title);
         action->setCheckable(true);

@@ -39,7 +39,7 @@ struct ReportOptions {
 /// The table that the report is of, and what of it.
 struct ReportChoice {
     Tab tab = Tab::Media;
-    TableColumns columns;                ///< of the table
+    Columns columns;                     ///< of the table
     std::optional<QStringList> selected; ///< identifiers; nothing for the first columns
     std::vector<std::size_t> rows;       ///< ascending; empty for all
 };
@@ -58,15 +58,12 @@ bool setColumns(ReportChoice &choice, const QString &list)
 {
     choice.selected = list.split(QLatin1Char(','));
     for (const QString &id : *choice.selected) {
-        const bool isColumn =
-            std::any_of(choice.columns.begin(), choice.columns.end(), [&id](const TableColumn &column) {
-                return column.identifier == id && !column.title.isEmpty();
-            });
-        if (isColumn)
+        const Column *column = findColumn(choice.columns, id);
+        if (column && !column->title.isEmpty())
             continue;
-        if (choice.tab != Tab::Markers || !id.startsWith(MarkerKey::customPrefix))
+        if (choice.tab != Tab::Markers || !isMarkerField(id))
             return false;
-        choice.columns.push_back({id, id});
+        choice.columns.push_back(markerFieldColumn(id, id));
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "document/TableSorting.h"
 
 #include "document/MyDocument.h"
+#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
 #include "support/text/TextFormat.h"
@@ -14,20 +15,13 @@ namespace
 constexpr QStringView columnFormat = u"%@SortedColumn";
 constexpr QStringView descendingFormat = u"%@SortedDescending";
 
-/// Columns whose rows are sorted upwards and then turned round, equal ones as well.
-bool isReversedWhole(const QString &column)
-{
-    return column == QStringLiteral("in") || column == QStringLiteral("out");
-}
-
 } // namespace
 
-TableSorting::TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab,
-                           SortValueOfColumn valueOfColumn)
+TableSorting::TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab, const Columns &columns)
     : m_document(document)
     , m_defaults(defaults)
     , m_tab(tab)
-    , m_valueOfColumn(std::move(valueOfColumn))
+    , m_columns(columns)
 {
     const QString column = m_defaults.string(key(columnFormat));
     if (!column.isEmpty())
@@ -60,14 +54,12 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
         std::vector<SortDescriptor> descriptors{{column, newDescending}};
         if (m_document.tableTab() == m_tab) {
             m_document.showWaitingRows();
-            RowList rows = m_document.tableArray();
-            if (isReversedWhole(column)) {
-                rows = sortedRows(std::move(rows), {{column, false}}, m_valueOfColumn);
-                if (newDescending)
-                    rows = reverseArray(rows);
-            } else {
-                rows = sortedRows(std::move(rows), descriptors, m_valueOfColumn);
-            }
+            const Column *known = findColumn(m_columns, column);
+            const bool isReversed = newDescending && known && known->reversesWhole;
+            RowList rows =
+                sortedRows(m_document.tableArray(), {{column, newDescending && !isReversed}}, m_columns);
+            if (isReversed)
+                rows = reverseArray(rows);
             m_document.setTableArray(m_tab, std::move(rows));
         }
         m_descriptors = std::move(descriptors);

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
-#include "rows/RowSort.h"
+#include "rows/Column.h"
 
 #include <QString>
-
-#include <optional>
 
 namespace vantrell
 {
@@ -19,9 +17,8 @@ class UserDefaults;
 class TableSorting
 {
 public:
-    /// The document and the defaults outlive this object.
-    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab,
-                 SortValueOfColumn valueOfColumn = recordValueOfColumn);
+    /// All of these outlive this object. What is sorted by may also be a record key that no column shows.
+    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab, const Columns &columns);
 
     Tab tab() const { return m_tab; }
     /// "media", "effect" or "marker": what the keys of the tab's table begin with in the user defaults.
@@ -41,7 +38,7 @@ private:
     MyDocument &m_document;
     UserDefaults &m_defaults;
     Tab m_tab;
-    SortValueOfColumn m_valueOfColumn;
+    const Columns &m_columns;
     std::vector<SortDescriptor> m_descriptors;
 };
 

@@ -1,5 +1,6 @@
 #include "effects/EffectInventory.h"
 
+#include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
 #include "effects/EffectReader.h"
 #include "rows/RowSort.h"
@@ -153,7 +154,7 @@ RowList EffectInventory::filtered(const View &view)
         if (view.search.isEmpty() || name.isNull() || search.indexIn(name) >= 0)
             rows.push_back(record);
     }
-    return sortedRows(std::move(rows), view.sort);
+    return sortedRows(std::move(rows), view.sort, effectColumns);
 }
 
 void EffectInventory::show(RowList rows)

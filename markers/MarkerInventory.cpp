@@ -1,11 +1,12 @@
 #include "markers/MarkerInventory.h"
 
 #include "markers/MarkerColors.h"
+#include "markers/MarkerColumns.h"
 #include "markers/MarkerComment.h"
 #include "markers/MarkerFields.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOwners.h"
-#include "markers/MarkerTableValues.h"
+#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 #include "xml/QVXMLParser.h"
@@ -187,7 +188,7 @@ void MarkerInventory::populateFilteredMarkerData()
             std::erase_if(view.rows, [&view](const RowRecordPtr &record) {
                 return record->get(MarkerKey::color) != view.filter - 1;
             });
-            view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
+            view.rows = sortedRows(std::move(view.rows), view.sort, markerColumns);
         }
         mainThread.runAndWait([&] {
             if (view.rebuild != m_lastRebuild || view.tab != m_document.viewState().selectedTab)

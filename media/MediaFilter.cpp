@@ -1,5 +1,6 @@
 #include "media/MediaFilter.h"
 
+#include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
 #include "rows/RowSort.h"
@@ -183,7 +184,7 @@ MediaFilter::Shown MediaFilter::filtered(const View &view)
         statistics.add(*record);
         shown.rows.push_back(record);
     }
-    shown.rows = sortedRows(std::move(shown.rows), view.sort);
+    shown.rows = sortedRows(std::move(shown.rows), view.sort, mediaColumns);
     shown.totalSize = statistics.total();
     shown.statistics = statistics.record();
     return shown;

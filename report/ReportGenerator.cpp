@@ -49,11 +49,11 @@ ReportGenerator::ReportGenerator(MyDocument &document, const MarkerPresets &pres
     });
 }
 
-void ReportGenerator::setPrintTable(Tab table, const TableColumns &columns)
+void ReportGenerator::setPrintTable(Tab table, const Columns &columns)
 {
     m_printTableRef = table;
     m_printColumnArray.clear();
-    for (const TableColumn &column : columns) {
+    for (const Column &column : columns) {
         if (column.title.isEmpty())
             continue;
         const int selected = m_printColumnArray.size() < firstSelected ? 1 : 0;
@@ -61,11 +61,11 @@ void ReportGenerator::setPrintTable(Tab table, const TableColumns &columns)
     }
 }
 
-void ReportGenerator::setColumnSelected(std::size_t place, bool selected)
+void ReportGenerator::setColumnSelected(std::size_t index, bool selected)
 {
-    if (place >= m_printColumnArray.size())
+    if (index >= m_printColumnArray.size())
         return;
-    m_printColumnArray[place].selected = selected ? 1 : 0;
+    m_printColumnArray[index].selected = selected ? 1 : 0;
     updateBody();
 }
 

@@ -40,14 +40,14 @@ public:
 
     /// Makes this the printed table, with its columns in the order in which the table has them. Those without
     /// a title are left out, and the first three others are selected.
-    void setPrintTable(Tab table, const TableColumns &columns);
+    void setPrintTable(Tab table, const Columns &columns);
     /// The last printed table; nothing before the first.
     std::optional<Tab> printTableRef() const { return m_printTableRef; }
     /// Its columns, as the column chooser shows them.
     const PrintColumns &printColumnArray() const { return m_printColumnArray; }
     /// The user ticked a column in the chooser, or took the tick away; the consumer gets the new body.
-    /// Nothing happens for a place that is not there.
-    void setColumnSelected(std::size_t place, bool selected);
+    /// Nothing happens for an index that is not there.
+    void setColumnSelected(std::size_t index, bool selected);
 
     /// The whole report as HTML; null when the printed table has no rows.
     QString generateHTMLForPrinting() const { return generateHTMLForPrinting(true); }

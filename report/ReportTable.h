@@ -22,8 +22,8 @@ class MyDocument;
 struct ReportCell {
     QString text;
     QString label;                    ///< of a marker's colour; it follows in brackets unless it is empty
-    std::optional<std::size_t> image; ///< a place among ReportImages, of a file that is there
-    bool isMissing = false;           ///< the record has no value: text is "Unknown" or "(null)"
+    std::optional<std::size_t> image; ///< an index of ReportImages, of a file that is there
+    bool isMissing = false;           ///< the record has no value: text is the column's for that
 };
 
 /// What a report shows, however it is written: title, columns and rows of the printed table, for as long as
@@ -53,20 +53,10 @@ public:
     /// Calls with each row of the report, in the table's order.
     void forEachRow(const std::function<void(const RowRecord &)> &use) const;
 
-    /// The cell of the row in the column at that place of columnTitles().
+    /// The cell of the row in the column with that index in columnTitles().
     ReportCell cell(const RowRecord &row, std::size_t column) const;
 
 private:
-    enum class Kind { Value, MarkerName, MarkerIn, MarkerOut, MarkerParent };
-
-    struct Column {
-        std::optional<RecordKey> key;
-        std::optional<RecordKey> ownerName; ///< stands for a value that is an element
-        bool isCheckBox = false;
-        Kind kind = Kind::Value;
-    };
-
-    Column columnOf(const PrintColumn &printed) const;
     static ReportCell valueCell(const RowRecord &row, const Column &column);
     std::optional<std::size_t> imageIfThere(std::size_t image) const;
 
@@ -74,10 +64,10 @@ private:
     Options m_options;
     ReportImages m_images;
     QStringList m_columnTitles;
-    std::vector<Column> m_columns;
+    Columns m_columns;
     const RowList &m_rows;
     bool m_hasSelection = false;
-    std::vector<std::size_t> m_selection; ///< places in m_rows, ascending
+    std::vector<std::size_t> m_selection; ///< indexes in m_rows, ascending
 };
 
 } // namespace vantrell

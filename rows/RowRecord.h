@@ -37,7 +37,7 @@ public:
     /// The value; null when the key is absent.
     const RecordValue *find(const RecordKey &key) const;
 
-    /// Replaces the key's value in its place, or adds the key at the end.
+    /// Replaces the key's value where it is, or adds the key at the end.
     void set(const RecordKey &key, RecordValue value);
     template <typename Value>
     void set(const TypedKey<Value> &key, typename TypedKey<Value>::ValueType value)
@@ -63,7 +63,7 @@ public:
     /// The text of the key; null when it is absent or no text.
     QString text(const RecordKey &key) const;
 
-    /// Key and value at a place below size().
+    /// Key and value at an index below size().
     RecordKey keyAt(std::size_t index) const;
     const RecordValue &valueAt(std::size_t index) const { return m_values[index]; }
 

@@ -1,6 +1,7 @@
 #include "document/widgets/DocumentWindowInterface.h"
 
 #include "document/widgets/ProgressSheet.h"
+#include "markers/MarkerColumns.h"
 #include "table/widgets/TabPane.h"
 
 namespace vantrell
@@ -101,7 +102,7 @@ QStringList DocumentWindowInterface::markerColumns()
 
 void DocumentWindowInterface::addMarkerColumn(const QString &identifier, const QString &title)
 {
-    withPane(Tab::Markers, [&](TabPane &pane) { pane.addColumn(identifier, title); });
+    withPane(Tab::Markers, [&](TabPane &pane) { pane.addColumn(markerFieldColumn(identifier, title)); });
 }
 
 void DocumentWindowInterface::removeMarkerColumn(const QString &identifier)

@@ -38,9 +38,9 @@ const QString projectTitleKey = QStringLiteral("projectTitle");
 const QString printSettingsKey = QStringLiteral("printSettings");
 
 /// The columns as they stand.
-TableColumns columnsOf(const TabPane &pane)
+Columns columnsOf(const TabPane &pane)
 {
-    TableColumns columns;
+    Columns columns;
     for (const QString &identifier : pane.columns())
         columns.push_back(pane.model().columns()[std::size_t(pane.model().columnOf(identifier))]);
     return columns;

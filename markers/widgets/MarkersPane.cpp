@@ -1,6 +1,5 @@
 #include "markers/widgets/MarkersPane.h"
 
-#include "markers/MarkerTableValues.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
@@ -36,8 +35,7 @@ bool isOpen(const QDialog *sheet)
 } // namespace
 
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
-    : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
-              MarkerTableValues::sortValueOfColumn, parent)
+    : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()), parent)
     , m_defaults(defaults)
     , m_filter(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
@@ -87,7 +85,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     table().setAccessibleName(tr("Markers"));
     table().addWatchKeys({13, 3}, "editCurrentCell");
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
-        const bool isText = model().cellOf(index.column()) == TableModel::Cell::Text;
+        const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
             table().edit(index);
     });

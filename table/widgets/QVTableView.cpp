@@ -45,7 +45,7 @@ char16_t characterOf(const QKeyEvent &event)
 bool isPopUp(const QModelIndex &index)
 {
     const auto *model = qobject_cast<const TableModel *>(index.model());
-    return model && model->cellOf(index.column()) == TableModel::Cell::PopUp &&
+    return model && model->columnAt(index.column()).kind == Column::Kind::PopUp &&
            model->flags(index).testFlag(Qt::ItemIsEditable);
 }
 

@@ -33,23 +33,6 @@ constexpr int messageMs = 30000;
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 
-/// In characters of average width.
-int defaultWidth(const QString &column)
-{
-    static const QHash<QString, int> widths{
-        {QStringLiteral("filename"), 32},  {QStringLiteral("filetype"), 13},
-        {QStringLiteral("filesize"), 13},  {QStringLiteral("modDate"), 24},
-        {QStringLiteral("usageCount"), 9}, {QStringLiteral("missing"), 11},
-        {QStringLiteral("directory"), 40}, {QStringLiteral("enabled"), 11},
-        {QStringLiteral("name"), 28},      {QStringLiteral("effectType"), 13},
-        {QStringLiteral("mediaType"), 10}, {QStringLiteral("clip"), 32},
-        {QStringLiteral("sequence"), 34},  {QStringLiteral("color"), 7},
-        {QStringLiteral("comment"), 32},   {QStringLiteral("in"), 15},
-        {QStringLiteral("out"), 15},       {QStringLiteral("chapter"), 11},
-        {QStringLiteral("scoring"), 11},   {QStringLiteral("compression"), 16}};
-    return widths.value(column, 16);
-}
-
 QString layoutKey(Tab tab)
 {
     return TableSorting::prefixOf(tab) + QStringLiteral("ColumnLayout");
@@ -65,12 +48,11 @@ QString plain(QString text)
 
 } // namespace
 
-TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model,
-                 SortValueOfColumn sortValues, QWidget *parent)
+TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent)
     : QWidget(parent)
     , m_workbench(workbench)
     , m_defaults(defaults)
-    , m_sorting(workbench.document(), defaults, model->tab(), std::move(sortValues))
+    , m_sorting(workbench.document(), defaults, model->tab(), model->columns())
     , m_model(model)
     , m_table(new QVTableView(this))
     , m_controls(new QHBoxLayout)
@@ -85,20 +67,21 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
         const QScopedValueRollback<bool> edits(m_edits, true);
         const std::vector<std::size_t> selected = selectedRows();
-        // Of several rows only the first one moves to another owner: let it be the one that was clicked.
-        const bool moves = column == QStringLiteral("sequence") || column == QStringLiteral("clip");
-        const bool isSelected = moves
+        // Let the only row that the edit writes to be the one that was clicked.
+        const Column &edited = m_model->columnAt(m_model->columnOf(column));
+        const bool editsOne = edited.edits == Column::Edits::FirstRow;
+        const bool isSelected = editsOne
                                     ? !selected.empty() && selected.front() == std::size_t(row)
                                     : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
-        const bool isOneRow = moves || !isSelected;
+        const bool isOneRow = editsOne || !isSelected;
         if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
             return;
         if (!isSelected)
             selectRows({std::size_t(row)});
         commitEdit(row, column, text);
-        const std::vector<std::size_t> edited = selectedRows();
-        if (!edited.empty())
-            m_model->rowsChanged(int(edited.front()), int(edited.back()));
+        const std::vector<std::size_t> changed = selectedRows();
+        if (!changed.empty())
+            m_model->rowsChanged(int(changed.front()), int(changed.back()));
     });
     m_table->setModel(m_model);
     m_table->setItemDelegate(new TableDelegate(m_table));
@@ -247,20 +230,20 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
 bool TabPane::showsChoice(const std::vector<std::size_t> &rows, const QString &column,
                           const QString &item) const
 {
-    const int place = m_model->columnOf(column);
-    if (place < 0 || m_model->cellOf(place) != TableModel::Cell::PopUp)
+    const int section = m_model->columnOf(column);
+    if (section < 0 || m_model->columnAt(section).kind != Column::Kind::PopUp)
         return false;
     return std::all_of(rows.begin(), rows.end(), [&](std::size_t row) {
-        return m_model->index(int(row), place).data(Qt::EditRole).toString() == item;
+        return m_model->index(int(row), section).data(Qt::EditRole).toString() == item;
     });
 }
 
 void TabPane::editCell(std::size_t row, const QString &column)
 {
-    const int place = m_model->columnOf(column);
-    if (place < 0 || row >= std::size_t(m_model->rowCount()))
+    const int section = m_model->columnOf(column);
+    if (section < 0 || row >= std::size_t(m_model->rowCount()))
         return;
-    const QModelIndex index = m_model->index(int(row), place);
+    const QModelIndex index = m_model->index(int(row), section);
     m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(index);
     if (index.flags().testFlag(Qt::ItemIsEditable))
@@ -306,7 +289,7 @@ void TabPane::sortBy(const QString &identifier)
 
 void TabPane::clickHeader(int section)
 {
-    sortBy(m_model->identifierOf(section));
+    sortBy(m_model->columnAt(section).identifier);
 }
 
 std::optional<SortDescriptor> TabPane::shownSort() const
@@ -332,18 +315,18 @@ QStringList TabPane::columns() const
 {
     const QHeaderView *header = m_table->horizontalHeader();
     QStringList identifiers;
-    for (int place = 0; place < m_model->columnCount(); ++place)
-        identifiers.append(m_model->identifierOf(header->logicalIndex(place)));
+    for (int position = 0; position < m_model->columnCount(); ++position)
+        identifiers.append(m_model->columnAt(header->logicalIndex(position)).identifier);
     return identifiers;
 }
 
-void TabPane::addColumn(const QString &identifier, const QString &title)
+void TabPane::addColumn(const Column &column)
 {
-    if (m_model->columnOf(identifier) >= 0) {
-        m_model->addColumn(identifier, title);
+    const QString &identifier = column.identifier;
+    const bool isPresent = m_model->columnOf(identifier) >= 0;
+    m_model->addColumn(column);
+    if (isPresent)
         return;
-    }
-    m_model->addColumn(identifier, title);
     m_table->setColumnWidth(m_model->columnOf(identifier),
                             m_storedWidths.value(identifier, usualWidth(identifier)));
     if (storedOrder().contains(identifier)) {
@@ -370,11 +353,11 @@ void TabPane::moveColumn(const QString &identifier, int index)
 {
     if (!m_newColumns.remove(identifier))
         return;
-    placeColumn(identifier, index);
+    moveColumnTo(identifier, index);
     saveLayout();
 }
 
-void TabPane::placeColumn(const QString &identifier, int index)
+void TabPane::moveColumnTo(const QString &identifier, int index)
 {
     QHeaderView *header = m_table->horizontalHeader();
     const int column = m_model->columnOf(identifier);
@@ -390,20 +373,20 @@ void TabPane::moveSection(int section, int, int to)
         return;
     m_newColumns.clear();
     saveLayout(); // at once: other windows follow
-    columnMoved(m_model->identifierOf(section), to);
+    columnMoved(m_model->columnAt(section).identifier, to);
 }
 
 void TabPane::saveLayout()
 {
     // Columns that are not there now, but may come back, stay behind those that they stood behind.
     QStringList order = columns();
-    qsizetype place = 0;
+    qsizetype next = 0;
     for (const QString &identifier : storedOrder()) {
         const qsizetype present = order.indexOf(identifier);
         if (present < 0)
-            order.insert(place++, identifier);
+            order.insert(next++, identifier);
         else
-            place = present + 1;
+            next = present + 1;
     }
     PropertyListValue::Array layout;
     for (const QString &identifier : order) {
@@ -433,10 +416,10 @@ QStringList TabPane::storedOrder() const
 /// Columns that the stored order does not know come last, as they stand.
 void TabPane::restoreOrder()
 {
-    int place = 0;
+    int position = 0;
     for (const QString &identifier : storedOrder()) {
         if (m_model->columnOf(identifier) >= 0)
-            placeColumn(identifier, place++);
+            moveColumnTo(identifier, position++);
     }
 }
 
@@ -449,15 +432,16 @@ void TabPane::applyDefaultsChange(const QString &key)
 }
 
 /// In pixels.
-int TabPane::usualWidth(const QString &column) const
+int TabPane::usualWidth(const QString &identifier) const
 {
-    return defaultWidth(column) * fontMetrics().averageCharWidth();
+    const Column *column = findColumn(m_model->columns(), identifier);
+    return (column ? *column : Column()).width * fontMetrics().averageCharWidth();
 }
 
 void TabPane::restoreLayout()
 {
     for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, usualWidth(m_model->identifierOf(column)));
+        m_table->setColumnWidth(column, usualWidth(m_model->columnAt(column).identifier));
     const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
     for (const PropertyListValue &entry : stored.toArray()) {
         const QString identifier = entry.toDictionary().value(identifierKey).toString();

@@ -63,7 +63,7 @@ public:
     virtual void hideMarkerPresetSheet() {}
     virtual void setMediaChart(const std::vector<double> &) {}
 
-    /// Places among the rows on show, ascending; empty while another tab's rows are on show.
+    /// Indexes in the rows on show, ascending; empty while another tab's rows are on show.
     std::vector<std::size_t> selectedRows() const;
     void selectRows(const std::vector<std::size_t> &rows);
     /// Begins editing the cell with its text selected; nothing when it is not there.
@@ -76,10 +76,10 @@ public:
     void sortBy(const QString &identifier);
 
     /// The columns by their identifiers as they stand from left to right, and changes to them. A column
-    /// that is there already gets the title. Where the stored layout has a place for a column it stands
-    /// there; moveColumn() moves only one that is new to the layout, and once.
+    /// that is there already gets the title. One that the stored layout knows stands where the layout has
+    /// it; moveColumn() moves only one that is new to the layout, and once.
     QStringList columns() const;
-    void addColumn(const QString &identifier, const QString &title);
+    void addColumn(const Column &column);
     void removeColumn(const QString &identifier);
     void moveColumn(const QString &identifier, int index);
 
@@ -111,8 +111,7 @@ Q_SIGNALS:
 
 protected:
     /// The model becomes the pane's.
-    TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, SortValueOfColumn sortValues,
-            QWidget *parent);
+    TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent);
 
     Workbench &workbench() const { return m_workbench; }
     /// Puts the controls above the table, from the left, with a gap where one is null; the keyboard reaches
@@ -127,7 +126,7 @@ protected:
 
     /// A cell was edited: writes it into the project. The row is selected.
     virtual void commitEdit(int row, const QString &column, const QString &text);
-    /// The user moved a column; the index is its new place.
+    /// The user moved a column; the index is its new position from the left.
     virtual void columnMoved(const QString &, int) {}
     /// What showMessage() shows, for a pane with a line of text of its own; empty once it has stood long
     /// enough.
@@ -146,8 +145,8 @@ private:
     void showSortIndicator();
     QStringList storedOrder() const;
     void restoreOrder();
-    void placeColumn(const QString &identifier, int index);
-    int usualWidth(const QString &column) const;
+    void moveColumnTo(const QString &identifier, int index);
+    int usualWidth(const QString &identifier) const;
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void updateBusy();
@@ -168,7 +167,7 @@ private:
     QLabel *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
-    QSet<QString> m_newColumns;         // added where nobody had placed them
+    QSet<QString> m_newColumns;         // added without a position in the stored layout
     QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
 
     bool m_spinning = false;

@@ -42,6 +42,14 @@ RowList rowsOf(const QString &texts)
     return rows;
 }
 
+const Columns columns{
+    {.identifier = QStringLiteral("in"), .reversesWhole = true},
+    {.identifier = QStringLiteral("bad"),
+     .sortValue = [](const RowRecord &) -> std::optional<RecordValue> {
+         throw std::runtime_error("no such column");
+     }},
+};
+
 QString textsOf(const RowList &rows)
 {
     QStringList texts;
@@ -92,7 +100,7 @@ void TestTableSorting::clicks()
     document.setTableArray(Tab::Markers, rowsOf(QStringLiteral("b2 c1 a2 d1")));
     world.events.clear();
 
-    TableSorting sorting(document, defaults, Tab::Markers);
+    TableSorting sorting(document, defaults, Tab::Markers, columns);
     QCOMPARE(sorting.descriptors().size(), std::size_t(storedColumn.isNull() ? 0 : 1));
     for (const QString &column : clicks)
         sorting.tableViewDidClickTableColumn(column);
@@ -101,10 +109,10 @@ void TestTableSorting::clicks()
     QCOMPARE(world.events.count(QStringLiteral("did reload")), clicks.size());
     QTEST(sorting.descriptors().front().column, "column");
     QTEST(sorting.descriptors().front().descending, "descending");
-    const TableSorting next(document, defaults, Tab::Markers);
+    const TableSorting next(document, defaults, Tab::Markers, columns);
     QTEST(next.descriptors().front().column, "column");
     QTEST(next.descriptors().front().descending, "descending");
-    QVERIFY(TableSorting(document, defaults, Tab::Effects).descriptors().empty());
+    QVERIFY(TableSorting(document, defaults, Tab::Effects, columns).descriptors().empty());
 }
 
 void TestTableSorting::staysWithoutTheTable()
@@ -113,16 +121,12 @@ void TestTableSorting::staysWithoutTheTable()
     ScriptedDocumentInterface world;
     MyDocument document(world, {});
     document.setTableArray(Tab::Media, rowsOf(QStringLiteral("b2 a1")));
-    TableSorting markers(document, defaults, Tab::Markers);
+    TableSorting markers(document, defaults, Tab::Markers, columns);
     markers.tableViewDidClickTableColumn(QStringLiteral("name"));
     QCOMPARE(document.tableTab(), Tab::Media);
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
 
-    TableSorting media(document, defaults, Tab::Media, [](const QString &column) -> SortValue {
-        if (column == QStringLiteral("bad"))
-            throw std::runtime_error("no such column");
-        return recordValueOfColumn(column);
-    });
+    TableSorting media(document, defaults, Tab::Media, columns);
     media.tableViewDidClickTableColumn(QStringLiteral("bad"));
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
     QVERIFY(media.descriptors().empty());

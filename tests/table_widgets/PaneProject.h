@@ -1,6 +1,7 @@
 #pragma once
 
 #include "effects/widgets/EffectsPane.h"
+#include "markers/MarkerColumns.h"
 #include "markers/widgets/MarkersPane.h"
 #include "media/widgets/MediaPane.h"
 #include "support/settings/UserDefaults.h"
@@ -113,7 +114,7 @@ public:
     QStringList markerColumns() override { return markers.columns(); }
     void addMarkerColumn(const QString &identifier, const QString &title) override
     {
-        markers.addColumn(identifier, title);
+        markers.addColumn(markerFieldColumn(identifier, title));
     }
     void removeMarkerColumn(const QString &identifier) override { markers.removeColumn(identifier); }
     void moveMarkerColumn(const QString &identifier, int index) override

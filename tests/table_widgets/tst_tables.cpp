@@ -477,7 +477,7 @@ void TestTables::moveColumns()
     header->resizeSection(project().markers.model().columnOf(QStringLiteral("comment")), 333);
     project().markers.saveLayout();
     MarkersPane next(project().bench, project().defaults);
-    next.addColumn(take, QStringLiteral("Take"));
+    next.addColumn(markerFieldColumn(take, QStringLiteral("Take")));
     QCOMPARE(next.columns(), project().markers.columns());
     QCOMPARE(next.table().columnWidth(next.model().columnOf(QStringLiteral("comment"))), 333);
 }
