@@ -102,7 +102,7 @@ bool EditRun::apply(const EditScript &script)
 
 bool EditRun::selectRows(Tab tab, const RowIndexes &rows)
 {
-    const std::size_t count = m_session.document().listOf(tab).size();
+    const std::size_t count = m_session.document().rowView(tab).list().size();
     const bool inRange = rows.empty() || (*rows.begin() >= 0 && std::size_t(*rows.rbegin()) < count);
     if (!inRange)
         return false;

@@ -36,7 +36,7 @@ QByteArray effectsAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     return toBytes(Json{{"effects", recordsToJson(session.document().rowsOnShow(Tab::Effects), paths)},
-                        {"status", jsonText(session.label(Label::EffectStatus))}});
+                        {"status", jsonText(session.document().label(Label::EffectStatus))}});
 }
 
 int effects(const EffectsOptions &options)
@@ -51,7 +51,7 @@ int effects(const EffectsOptions &options)
     ProjectSession session(Workbench::Inventories::All);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Effects, sort);
+    session.document().rowView(Tab::Effects).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Effects;
     view.effectType = int(std::find(typeNames.begin(), typeNames.end(), options.type) - typeNames.begin());

@@ -97,7 +97,7 @@ int markers(const MarkersOptions &options)
     session.setOwnOwners(options.ownOwners);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Markers, sort);
+    session.document().rowView(Tab::Markers).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Markers;
     view.markerFilter = color ? *color + 1 : 0;

@@ -51,7 +51,7 @@ QByteArray mediaAsJson(ProjectSession &session)
     XmlLocationPaths paths;
     Json texts = Json::array();
     for (const Label label : labels)
-        texts.push_back(jsonText(session.label(label)));
+        texts.push_back(jsonText(session.document().label(label)));
     return toBytes(Json{{"files", recordsToJson(session.document().rowsOnShow(Tab::Media), paths)},
                         {"statistics", recordToJson(session.workbench().mediaFilter().statistics(), paths)},
                         {"labels", std::move(texts)}});
@@ -69,7 +69,7 @@ int media(const MediaOptions &options)
     ProjectSession session(Workbench::Inventories::All);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Media, sort);
+    session.document().rowView(Tab::Media).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Media;
     view.mediaKind = menuItemOfKind(options.kind);

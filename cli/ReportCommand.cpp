@@ -87,11 +87,11 @@ bool setRows(ReportChoice &choice, const QString &list)
 bool showRows(ProjectSession &session, const ReportChoice &choice)
 {
     MyDocument &document = session.document();
-    const RowList &list = document.listOf(choice.tab);
-    if (!choice.rows.empty() && choice.rows.back() >= list.size())
+    RowView &view = document.rowView(choice.tab);
+    if (!choice.rows.empty() && choice.rows.back() >= view.list().size())
         return false;
     document.viewState().selectedTab = choice.tab;
-    document.setTableArray(choice.tab, list);
+    view.show(view.list());
     session.selectRows(choice.tab, choice.rows);
     return true;
 }

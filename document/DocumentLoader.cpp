@@ -61,10 +61,8 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
 
 void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &url)
 {
-    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
         setPopulating(tab, true);
-        m_mainThread->runAndWait([this, tab] { m_interface.startSpinner(tab); });
-    }
     if (!loadTree(typeName, url))
         return;
     static const XmlQuery sequence(QStringLiteral("./xmeml[1]/sequence[1]"));
@@ -145,7 +143,7 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
     m_mainThread->runAndWait([&] {
         if (!loaded)
             m_loadFailure = message.isNull() ? QStringLiteral("") : message;
-        m_interface.loadFinished(loaded, message, notice);
+        Q_EMIT loadFinished(loaded, message, notice);
     });
 }
 
@@ -154,8 +152,8 @@ void MyDocument::runInventories()
     m_runningInventories = int(m_services.inventoryBuilders.size());
     if (m_runningInventories == 0) {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
-            setPopulating(tab, false);
-        m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+            rowView(tab).setPopulating(false);
+        m_mainThread->post([this] { Q_EMIT inventoriesFinished(); });
         return;
     }
     m_inventories.reserve(m_services.inventoryBuilders.size());
@@ -164,7 +162,7 @@ void MyDocument::runInventories()
             if (!isClosing() && !guarded("inventory", [&] { builder(*this); }))
                 noteIncomplete();
             if (--m_runningInventories == 0)
-                m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+                m_mainThread->post([this] { Q_EMIT inventoriesFinished(); });
         };
         try {
             m_inventories.emplace_back(run);

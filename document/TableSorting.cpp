@@ -17,15 +17,14 @@ constexpr QStringView descendingFormat = u"%@SortedDescending";
 
 } // namespace
 
-TableSorting::TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab, const Columns &columns)
-    : m_document(document)
+TableSorting::TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab)
+    : m_view(document.rowView(tab))
     , m_defaults(defaults)
     , m_tab(tab)
-    , m_columns(columns)
 {
     const QString column = m_defaults.string(key(columnFormat));
     if (!column.isEmpty())
-        m_descriptors.push_back({column, m_defaults.boolean(key(descendingFormat))});
+        m_view.setSortDescriptors({{column, m_defaults.boolean(key(descendingFormat))}});
 }
 
 QString TableSorting::prefixOf(Tab tab)
@@ -51,18 +50,15 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
     guarded("-[MyDocument tableView:didClickTableColumn:]", [&] {
         const bool isSortedColumn = m_defaults.string(key(columnFormat)) == column;
         const bool newDescending = isSortedColumn && !m_defaults.boolean(key(descendingFormat));
-        std::vector<SortDescriptor> descriptors{{column, newDescending}};
-        if (m_document.tableTab() == m_tab) {
-            m_document.showWaitingRows();
-            const Column *known = findColumn(m_columns, column);
+        if (m_view.isVisible()) {
+            m_view.showWaitingRows();
+            const Column *known = findColumn(m_view.columns(), column);
             const bool isReversed = newDescending && known && known->reversesWhole;
             RowList rows =
-                sortedRows(m_document.tableArray(), {{column, newDescending && !isReversed}}, m_columns);
-            if (isReversed)
-                rows = reverseArray(rows);
-            m_document.setTableArray(m_tab, std::move(rows));
+                sortedRows(m_view.visibleRows(), {{column, newDescending && !isReversed}}, m_view.columns());
+            m_view.show(isReversed ? reverseArray(rows) : std::move(rows));
         }
-        m_descriptors = std::move(descriptors);
+        m_view.setSortDescriptors({{column, newDescending}});
         PropertyListDictionary state;
         state.insert(key(descendingFormat), newDescending);
         state.insert(key(columnFormat), column);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
-#include "rows/Column.h"
+#include "document/Tab.h"
+#include "rows/RowView.h"
 
 #include <QString>
 
@@ -17,8 +17,8 @@ class UserDefaults;
 class TableSorting
 {
 public:
-    /// All of these outlive this object. What is sorted by may also be a record key that no column shows.
-    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab, const Columns &columns);
+    /// Sets what the tab's view is sorted by. Document and defaults outlive this object.
+    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab);
 
     Tab tab() const { return m_tab; }
     /// "media", "effect" or "marker": what the keys of the tab's table begin with in the user defaults.
@@ -26,7 +26,7 @@ public:
 
     /// The column that was clicked last; empty before the first click ever. Rows that it does not tell apart
     /// stay in the order of the clicks before.
-    const std::vector<SortDescriptor> &descriptors() const { return m_descriptors; }
+    const std::vector<SortDescriptor> &descriptors() const { return m_view.sortDescriptors(); }
 
     /// Sorts the rows on show by the column: ascending at first, the other way round when it is the one
     /// that was sorted by last. What goes wrong is logged, and the click is ignored.
@@ -35,11 +35,9 @@ public:
 private:
     QString key(QStringView format) const;
 
-    MyDocument &m_document;
+    RowView &m_view;
     UserDefaults &m_defaults;
     Tab m_tab;
-    const Columns &m_columns;
-    std::vector<SortDescriptor> m_descriptors;
 };
 
 } // namespace vantrell

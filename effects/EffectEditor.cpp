@@ -115,7 +115,7 @@ void EffectEditor::removeEffects()
         if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
         removeElements(selected);
-        m_document.setListOf(Tab::Effects, without(m_document.effectArray(), selected));
+        m_document.rowView(Tab::Effects).setList(without(m_document.effectArray(), selected));
         m_inventory.populateFilteredEffectData();
         m_document.interface().selectRows(Tab::Markers, {});
     });
@@ -147,7 +147,7 @@ void EffectEditor::hideSelectedEffects()
         const RowList selected = rowsAt(m_document.interface().selectedRows(Tab::Effects), rows);
         if (selected.empty())
             return;
-        m_document.setTableArray(Tab::Effects, without(rows, selected));
+        m_document.rowView(Tab::Effects).show(without(rows, selected));
         m_document.interface().selectRows(Tab::Effects, {});
         m_inventory.updateEffectStatusText();
     });

@@ -207,8 +207,7 @@ std::int64_t MarkerEditor::offsetOf(const QString &text) const
 
 void MarkerEditor::reloadTable()
 {
-    m_document.interface().tableWillReload();
-    m_document.interface().tableDidReload();
+    m_document.rowView(Tab::Markers).reload();
 }
 
 } // namespace vantrell

@@ -151,9 +151,7 @@ XmlNode MarkerEditor::parentSequence(const MenuItem *parentItem) const
 void MarkerEditor::addRecord(const RowRecordPtr &record)
 {
     freeSlots().add(*record);
-    m_document.appendToListOf(Tab::Markers, record);
-    if (m_document.tableTab() == Tab::Markers)
-        m_document.appendToTableArray(record);
+    m_document.rowView(Tab::Markers).append(record);
 }
 
 void MarkerEditor::removeMarkers()
@@ -184,7 +182,7 @@ void MarkerEditor::removeRows(const RowList &rows)
         removeXMLMarker(record);
         freeSlots().remove(*record);
     }
-    m_document.removeRows(Tab::Markers, rows);
+    m_document.rowView(Tab::Markers).remove(rows);
 }
 
 void MarkerEditor::dropRemovedMarkers()
@@ -199,7 +197,7 @@ void MarkerEditor::dropRemovedMarkers()
     }
     if (kept.size() == m_document.markerArray().size())
         return;
-    m_document.setListOf(Tab::Markers, std::move(kept));
+    m_document.rowView(Tab::Markers).setList(std::move(kept));
     if (m_document.tableTab() == Tab::Markers)
         m_inventory.populateFilteredMarkerData();
 }

@@ -206,12 +206,11 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
     m_interface->connectTo(m_panes, m_progress);
-    connect(m_interface.get(), &DocumentWindowInterface::loadEnded, this, &DocumentWindow::loadEnded);
-    connect(m_interface.get(), &DocumentWindowInterface::inventoriesEnded, this,
-            &DocumentWindow::inventoriesEnded);
-    connect(m_interface.get(), &DocumentWindowInterface::mayEditChanged, this,
-            &DocumentWindow::updateEditing);
-    connect(m_interface.get(), &DocumentWindowInterface::editedChanged, this, [this](bool edited) {
+    const MyDocument *const document = &m_workbench->document();
+    connect(document, &MyDocument::loadFinished, this, &DocumentWindow::loadEnded);
+    connect(document, &MyDocument::inventoriesFinished, this, &DocumentWindow::inventoriesEnded);
+    connect(document, &MyDocument::editingAllowedChanged, this, &DocumentWindow::updateEditing);
+    connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
         Q_EMIT menusChanged();
     });
@@ -231,6 +230,7 @@ void DocumentWindow::endSession()
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
     closePrintPanel();
+    m_workbench->document().disconnect(this);
     m_interface->disconnectFromWindow();
     forgetBusiness();
     m_progress->endProgress();

@@ -1,6 +1,5 @@
 #include "effects/widgets/EffectTableModel.h"
 
-#include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
 #include "table/widgets/TableIcons.h"
 
@@ -8,7 +7,7 @@ namespace vantrell
 {
 
 EffectTableModel::EffectTableModel(MyDocument &document, QObject *parent)
-    : TableModel(document, Tab::Effects, effectColumns, parent)
+    : TableModel(document, Tab::Effects, parent)
 {
 }
 

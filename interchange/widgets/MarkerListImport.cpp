@@ -1,6 +1,6 @@
 #include "interchange/widgets/MarkerListImport.h"
 
-#include "document/TableUpdates.h"
+#include "document/MyDocument.h"
 #include "support/log/QVException.h"
 #include "support/threads/BackgroundWork.h"
 
@@ -66,7 +66,7 @@ void MarkerListImport::add(MarkerListImporter::Rows rows)
         return;
     }
     m_rows = std::move(rows);
-    m_updates = std::make_unique<TableUpdates>(m_document);
+    m_updates = std::make_unique<RowView::Updates>(m_document.rowView(Tab::Markers));
     addSome();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/MarkerListImporter.h"
+#include "rows/RowView.h"
 
 #include <QObject>
 #include <QStringList>
@@ -12,7 +13,6 @@
 namespace vantrell
 {
 
-class TableUpdates;
 class MyDocument;
 
 /// One import of marker lists that holds up no window: the files are read on a thread of its own, which
@@ -49,7 +49,7 @@ private:
     std::shared_ptr<bool> m_isWanted = std::make_shared<bool>(true); // what the reading looks at when it ends
     MarkerListImporter::Rows m_rows;
     MarkerListImporter::Progress m_progress;
-    std::unique_ptr<TableUpdates> m_updates; // while markers are being added
+    std::unique_ptr<RowView::Updates> m_updates; // while markers are being added
 };
 
 } // namespace vantrell

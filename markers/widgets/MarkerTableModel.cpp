@@ -1,7 +1,6 @@
 #include "markers/widgets/MarkerTableModel.h"
 
 #include "markers/MarkerColors.h"
-#include "markers/MarkerColumns.h"
 #include "markers/MarkerKeys.h"
 #include "table/widgets/TableIcons.h"
 
@@ -9,7 +8,7 @@ namespace vantrell
 {
 
 MarkerTableModel::MarkerTableModel(MyDocument &document, QObject *parent)
-    : TableModel(document, Tab::Markers, markerColumns, parent)
+    : TableModel(document, Tab::Markers, parent)
 {
     for (const MarkerColor &color : MarkerColors::table())
         m_colorLabels.append(color.label);

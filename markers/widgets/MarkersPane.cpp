@@ -83,6 +83,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     connect(m_offset, &QPushButton::clicked, this, &MarkersPane::showMarkerOffsetWindow);
 
     table().setAccessibleName(tr("Markers"));
+    connect(&workbench.document(), &MyDocument::sequenceMenuChanged, &markerModel(),
+            &MarkerTableModel::sequenceMenuChanged);
     table().addWatchKeys({13, 3}, "editCurrentCell");
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
         const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
@@ -126,11 +128,6 @@ void MarkersPane::makeMenus()
 MarkerTableModel &MarkersPane::markerModel() const
 {
     return static_cast<MarkerTableModel &>(model());
-}
-
-void MarkersPane::setSequenceMenu(const MenuPtr &)
-{
-    markerModel().sequenceMenuChanged();
 }
 
 void MarkersPane::setMarkerPresetMenu(const QStringList &titles, int selected)

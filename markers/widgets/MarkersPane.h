@@ -24,7 +24,6 @@ public:
     /// Closes the sheet of the fields.
     ~MarkersPane() override;
 
-    void setSequenceMenu(const MenuPtr &menu) override;
     void setMarkerPresetMenu(const QStringList &titles, int selected) override;
     void setMarkerLabels(const QStringList &labels) override;
     void showMarkerPresetSheet() override;

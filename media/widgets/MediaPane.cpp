@@ -35,6 +35,7 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     makeControls();
     makeFooter();
     table().setAccessibleName(tr("Media files"));
+    connect(&workbench.mediaFilter(), &MediaFilter::chartChanged, this, &MediaPane::setMediaChart);
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
         this->workbench().mediaInventory().mediaTableViewDoubleClick(index.row());
     });

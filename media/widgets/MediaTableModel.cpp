@@ -1,6 +1,5 @@
 #include "media/widgets/MediaTableModel.h"
 
-#include "media/MediaColumns.h"
 #include "media/MediaDrives.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
@@ -10,7 +9,7 @@ namespace vantrell
 {
 
 MediaTableModel::MediaTableModel(MyDocument &document, QObject *parent)
-    : TableModel(document, Tab::Media, mediaColumns, parent)
+    : TableModel(document, Tab::Media, parent)
     , m_volumesFolders(QStringList(QStringLiteral("/Volumes")) + answeringVolumesFolders())
 {
 }

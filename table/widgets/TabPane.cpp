@@ -52,7 +52,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     : QWidget(parent)
     , m_workbench(workbench)
     , m_defaults(defaults)
-    , m_sorting(workbench.document(), defaults, model->tab(), model->columns())
+    , m_sorting(workbench.document(), defaults, model->tab())
     , m_model(model)
     , m_table(new QVTableView(this))
     , m_controls(new QHBoxLayout)
@@ -117,6 +117,19 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     connect(m_table, &QVTableView::copyRequested, this, &TabPane::copySelection);
     connect(m_busyTimer, &QTimer::timeout, this, &TabPane::updateBusy);
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
+    const RowView &view = m_model->view();
+    connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
+    connect(&view, &RowView::didReload, this, &TabPane::tableDidReload);
+    connect(&view, &RowView::populatingChanged, this, &TabPane::setSpinning);
+    const MyDocument &document = m_workbench.document();
+    connect(&document, &MyDocument::labelChanged, this, [this](Label label, const QString &text) {
+        if (QLabel *widget = m_labels.value(label))
+            widget->setText(text);
+    });
+    connect(&document, &MyDocument::messageGiven, this, [this](Tab given, const QString &text) {
+        if (given == tab())
+            showMessage(text);
+    });
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
@@ -141,7 +154,7 @@ void TabPane::tableDidReload()
     if (m_reloads == 0 || --m_reloads > 0)
         return;
     m_model->didReload();
-    m_isFilled = m_workbench.document().tableTab() == tab();
+    m_isFilled = m_model->view().isVisible();
     if (m_isFilled)
         restoreRows();
     showSortIndicator();
@@ -152,7 +165,7 @@ void TabPane::tableDidReload()
 
 void TabPane::rememberRows()
 {
-    if (m_workbench.document().tableTab() != tab())
+    if (!m_model->view().isVisible())
         return;
     m_keptSelection.clear();
     for (const std::size_t row : selectedRows())
@@ -169,7 +182,7 @@ void TabPane::restoreRows()
     std::ptrdiff_t current = -1;
     if (!m_keptSelection.empty() || m_keptCurrent) {
         const std::unordered_set<RowRecordPtr> kept(m_keptSelection.begin(), m_keptSelection.end());
-        const RowList &rows = m_workbench.document().rowsOnShow(tab());
+        const RowList &rows = m_model->view().visibleRows();
         for (std::size_t row = 0; row < rows.size(); ++row) {
             if (kept.contains(rows[row]))
                 selected.push_back(row);
@@ -201,7 +214,7 @@ std::vector<std::size_t> TabPane::selectedRows() const
 
 void TabPane::selectRows(const std::vector<std::size_t> &rows)
 {
-    if (m_workbench.document().tableTab() != tab()) {
+    if (!m_model->view().isVisible()) {
         m_keptSelection.clear();
         return;
     }
@@ -294,9 +307,8 @@ void TabPane::clickHeader(int section)
 
 std::optional<SortDescriptor> TabPane::shownSort() const
 {
-    const MyDocument &document = m_workbench.document();
-    const bool isSorted =
-        document.tableTab() == tab() && document.tableOrder() == MyDocument::RowOrder::Sorted;
+    const RowView &view = m_model->view();
+    const bool isSorted = view.isVisible() && view.order() == RowView::Order::Sorted;
     const auto &descriptors = m_sorting.descriptors();
     return isSorted && !descriptors.empty() ? std::optional(descriptors.front()) : std::nullopt;
 }
@@ -502,12 +514,6 @@ QLabel *TabPane::makeLabel(Label label, QWidget *parent)
     return widget;
 }
 
-void TabPane::setLabel(Label label, const QString &text)
-{
-    if (QLabel *widget = m_labels.value(label))
-        widget->setText(text);
-}
-
 void TabPane::setSpinning(bool spinning)
 {
     m_spinning = spinning;
@@ -523,7 +529,7 @@ void TabPane::setSpinning(bool spinning)
 
 void TabPane::updateBusy()
 {
-    const std::size_t found = m_workbench.document().foundSoFar(tab());
+    const std::size_t found = m_model->view().foundSoFar();
     m_busyText->setText(m_spinning && found > 0 ? tr("%1 so far").arg(QLocale().toString(qulonglong(found)))
                                                 : QString());
     updatePlaceholder();
@@ -531,15 +537,15 @@ void TabPane::updateBusy()
 
 void TabPane::updatePlaceholder()
 {
-    const MyDocument &document = m_workbench.document();
+    const RowView &view = m_model->view();
     if (m_spinning)
-        m_table->setPlaceholder(loadingText(document.foundSoFar(tab())));
-    else if (!document.xmlDoc())
+        m_table->setPlaceholder(loadingText(view.foundSoFar()));
+    else if (!m_workbench.document().xmlDoc())
         m_table->setPlaceholder(tr("No project is loaded."));
     else if (!m_isFilled)
         m_table->setPlaceholder(QString());
     else
-        m_table->setPlaceholder(document.listOf(tab()).empty() ? emptyText() : filteredText());
+        m_table->setPlaceholder(view.list().empty() ? emptyText() : filteredText());
 }
 
 void TabPane::commitEdit(int, const QString &, const QString &) {}

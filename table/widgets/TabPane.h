@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
 #include "document/TableSorting.h"
 #include "rows/RowRecord.h"
 
@@ -30,8 +29,8 @@ class UserDefaults;
 class Workbench;
 
 /// One of the three panes of a document window: its table with the controls above and below it. The
-/// window makes all three, shows one, and hands on to them what the document asks of its interface. Main
-/// thread; the workbench and the defaults outlive the pane.
+/// window makes all three, shows one, and hands on to them what the document asks of its interface; what
+/// the document tells they hear themselves. Main thread; the workbench and the defaults outlive the pane.
 class TabPane : public QWidget
 {
     Q_OBJECT
@@ -48,27 +47,16 @@ public:
 
     // What a document asks of its interface
 
-    /// Around an exchange of the rows on show, of whatever tab; always in pairs. Selected rows that are
-    /// still there, or are there again, stay selected.
-    void tableWillReload();
-    void tableDidReload();
-    /// Shows that the pane's inventory is being built, with the count of what was found so far.
-    void setSpinning(bool spinning);
-    /// Labels of other panes are passed over.
-    virtual void setLabel(Label label, const QString &text);
-    virtual void setSequenceMenu(const MenuPtr &) {}
     virtual void setMarkerPresetMenu(const QStringList &, int) {}
     virtual void setMarkerLabels(const QStringList &) {}
     virtual void showMarkerPresetSheet() {}
     virtual void hideMarkerPresetSheet() {}
-    virtual void setMediaChart(const std::vector<double> &) {}
 
     /// Indexes in the rows on show, ascending; empty while another tab's rows are on show.
     std::vector<std::size_t> selectedRows() const;
     void selectRows(const std::vector<std::size_t> &rows);
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
-    const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
     /// What the rows on show are sorted by, which the arrow in the header tells; nothing while they stand as
     /// the project has them.
     std::optional<SortDescriptor> shownSort() const;
@@ -140,6 +128,9 @@ protected:
     virtual QString filteredText() const = 0;
 
 private:
+    void tableWillReload();
+    void tableDidReload();
+    void setSpinning(bool spinning);
     bool showsChoice(const std::vector<std::size_t> &rows, const QString &column, const QString &item) const;
     void clickHeader(int section);
     void showSortIndicator();

@@ -6,11 +6,11 @@
 namespace vantrell
 {
 
-TableModel::TableModel(MyDocument &document, Tab tab, Columns columns, QObject *parent)
+TableModel::TableModel(MyDocument &document, Tab tab, QObject *parent)
     : QAbstractTableModel(parent)
     , m_document(document)
     , m_tab(tab)
-    , m_columns(std::move(columns))
+    , m_columns(view().columns())
 {
 }
 
@@ -46,7 +46,7 @@ void TableModel::removeColumn(const QString &identifier)
 
 const RowRecordPtr &TableModel::recordAt(int row) const
 {
-    return m_document.rowsOnShow(m_tab)[std::size_t(row)];
+    return view().visibleRows()[std::size_t(row)];
 }
 
 void TableModel::willReload()
@@ -89,7 +89,7 @@ bool TableModel::contains(const QModelIndex &index) const
 
 int TableModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_document.rowsOnShow(m_tab).size());
+    return parent.isValid() ? 0 : int(view().visibleRows().size());
 }
 
 int TableModel::columnCount(const QModelIndex &parent) const

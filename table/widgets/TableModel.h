@@ -33,6 +33,7 @@ public:
 
     Tab tab() const { return m_tab; }
     MyDocument &document() const { return m_document; }
+    RowView &view() const { return m_document.rowView(m_tab); }
 
     // Columns, in the order in which they were added
 
@@ -72,7 +73,8 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 protected:
-    TableModel(MyDocument &document, Tab tab, Columns columns, QObject *parent);
+    /// With the columns of the tab's view.
+    TableModel(MyDocument &document, Tab tab, QObject *parent);
 
     static bool isChecked(const RowRecord &record, const Column &column);
     /// The index of a pop-up cell's choice, -1 for none.

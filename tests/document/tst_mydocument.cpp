@@ -95,6 +95,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, xml);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, xml);
         QVERIFY(world.loaded);
         QTEST(qint64(document.xmlType()), "type");
@@ -130,6 +131,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, tracks);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence(tracks));
         const XmlNode element = document.sequenceMenu()->at(1).element;
         QTEST(titles(document.clipMenuForSequence(element)), "menu");
@@ -156,6 +158,7 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         bool built = false;
         MyDocument document(world, {{[&built](MyDocument &) { built = true; }}, {}, {}});
+        world.watch(document);
         load(document, world, content, type);
         QVAlert::setPresenter(nullptr);
         QVERIFY(!world.loaded);
@@ -210,6 +213,7 @@ private Q_SLOTS:
         };
         ScriptedDocumentInterface world;
         MyDocument document(world, {{}, source, {}});
+        world.watch(document);
         document.setPremiereProject(true);
         load(document, world, "not looked at", DocumentType::finalCutProProject);
         QCOMPARE(asked, m_home.path(QStringLiteral("p/project.xml")));
@@ -234,6 +238,7 @@ private Q_SLOTS:
         {
             ScriptedDocumentInterface world;
             MyDocument document(world, {});
+            world.watch(document);
             QVERIFY(
                 document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
             QVERIFY(
@@ -255,6 +260,7 @@ private Q_SLOTS:
         services.closing = [&] { closed.set_value(); };
         ScriptedDocumentInterface world;
         MyDocument document(world, services);
+        world.watch(document);
         QVERIFY(document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
         QVERIFY(MainThread::drainUntil([&] { return isAsked.load(); }, std::chrono::seconds(60)));
         document.close();
@@ -266,6 +272,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         QVERIFY(!document.readFromURL(QUrl::fromLocalFile(m_home.path()), QStringLiteral("public.text")));
         QVERIFY(!document.isPopulating(Tab::Media));
     }
@@ -280,6 +287,7 @@ private Q_SLOTS:
                 std::this_thread::yield();
         };
         MyDocument document(world, {{builder, builder, builder}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QCOMPARE(arrived.load(), 3);
     }
@@ -300,6 +308,7 @@ private Q_SLOTS:
                     std::this_thread::yield();
             };
             MyDocument document(world, {{builder}, {}, {}});
+            world.watch(document);
             QVERIFY(document.readFromURL(QUrl::fromLocalFile(path), DocumentType::publicXML));
             MainThread::drainUntil([] { return false; }, std::chrono::milliseconds(delay));
             document.close();
@@ -319,6 +328,7 @@ private Q_SLOTS:
                                         end = std::move(ended);
                                         return isStarted;
                                     }});
+        world.watch(document);
         load(document, world, sequence("<video>\n<track/>\n</video>"));
         const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/out.xml")));
         QVERIFY(!document.writeToURL(target, DocumentType::finalCutProProject));
@@ -384,6 +394,7 @@ private Q_SLOTS:
         QFETCH(int, result);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         const auto change = [&document](const QString &uuids) {
             for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
                 if (!document.isSequenceModified(uuid))
@@ -412,6 +423,7 @@ private Q_SLOTS:
         QVAlert::setPresenter(alerts);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         const QByteArray damaged("<xmeml><project><name>A & B</name>");
         load(document, world, damaged);
         QVERIFY(world.notice.contains(QStringLiteral("repaired")));
@@ -450,6 +462,7 @@ private Q_SLOTS:
         QVAlert::setPresenter(alerts);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, "<xmeml/>");
         if (isRemembered)
             document.knownFile()->rememberContent();
@@ -490,6 +503,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, "<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>");
         QVERIFY(world.loaded);
         QCOMPARE(titles(document.sequenceMenu()), QStringLiteral("(none)"));
@@ -503,6 +517,7 @@ private Q_SLOTS:
         int others = 0;
         const auto fails = [](MyDocument &) { throw std::bad_alloc(); };
         MyDocument document(world, {{fails, [&others](MyDocument &) { ++others; }}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QVERIFY(world.loaded && world.ended);
         QCOMPARE(others, 1);
@@ -527,6 +542,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         QVERIFY(!document.modifiedSequenceUUIDs());
         for (const char *uuid : {"B", "A", "B"})
             document.addModifiedSequenceUUID(QString::fromLatin1(uuid));
@@ -541,12 +557,13 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
-        document.setTableArray(Tab::Markers, {std::make_shared<RowRecord>()});
-        document.appendToTableArray(std::make_shared<RowRecord>());
+        world.watch(document);
+        document.rowView(Tab::Markers).show({std::make_shared<RowRecord>()});
+        document.rowView(Tab::Markers).append(std::make_shared<RowRecord>());
         QCOMPARE(document.rowsOnShow(Tab::Markers).size(), std::size_t(2));
         QVERIFY(document.rowsOnShow(Tab::Media).empty());
         QCOMPARE(world.events.join(QLatin1Char('|')),
-                 QStringLiteral("will reload|did reload|will reload|did reload"));
+                 QStringLiteral("will reload|did reload|will reload|did reload|will reload|did reload"));
     }
 };
 

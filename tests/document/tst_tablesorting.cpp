@@ -97,10 +97,12 @@ void TestTableSorting::clicks()
     }
     ScriptedDocumentInterface world;
     MyDocument document(world, {});
-    document.setTableArray(Tab::Markers, rowsOf(QStringLiteral("b2 c1 a2 d1")));
+    document.rowView(Tab::Markers).setFilter(columns, {});
+    world.watch(document);
+    document.rowView(Tab::Markers).show(rowsOf(QStringLiteral("b2 c1 a2 d1")));
     world.events.clear();
 
-    TableSorting sorting(document, defaults, Tab::Markers, columns);
+    TableSorting sorting(document, defaults, Tab::Markers);
     QCOMPARE(sorting.descriptors().size(), std::size_t(storedColumn.isNull() ? 0 : 1));
     for (const QString &column : clicks)
         sorting.tableViewDidClickTableColumn(column);
@@ -109,10 +111,10 @@ void TestTableSorting::clicks()
     QCOMPARE(world.events.count(QStringLiteral("did reload")), clicks.size());
     QTEST(sorting.descriptors().front().column, "column");
     QTEST(sorting.descriptors().front().descending, "descending");
-    const TableSorting next(document, defaults, Tab::Markers, columns);
+    const TableSorting next(document, defaults, Tab::Markers);
     QTEST(next.descriptors().front().column, "column");
     QTEST(next.descriptors().front().descending, "descending");
-    QVERIFY(TableSorting(document, defaults, Tab::Effects, columns).descriptors().empty());
+    QVERIFY(TableSorting(document, defaults, Tab::Effects).descriptors().empty());
 }
 
 void TestTableSorting::staysWithoutTheTable()
@@ -120,13 +122,14 @@ void TestTableSorting::staysWithoutTheTable()
     UserDefaults defaults(QString(), UserDefaults::Access::Volatile);
     ScriptedDocumentInterface world;
     MyDocument document(world, {});
-    document.setTableArray(Tab::Media, rowsOf(QStringLiteral("b2 a1")));
-    TableSorting markers(document, defaults, Tab::Markers, columns);
+    document.rowView(Tab::Media).setFilter(columns, {});
+    document.rowView(Tab::Media).show(rowsOf(QStringLiteral("b2 a1")));
+    TableSorting markers(document, defaults, Tab::Markers);
     markers.tableViewDidClickTableColumn(QStringLiteral("name"));
     QCOMPARE(document.tableTab(), Tab::Media);
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
 
-    TableSorting media(document, defaults, Tab::Media, columns);
+    TableSorting media(document, defaults, Tab::Media);
     media.tableViewDidClickTableColumn(QStringLiteral("bad"));
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
     QVERIFY(media.descriptors().empty());

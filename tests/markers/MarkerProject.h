@@ -29,6 +29,7 @@ struct MarkerProject {
         if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size())
             qFatal("No project file could be made.");
         file.close();
+        world.watch(document);
         document.viewState().selectedTab = Tab::Markers;
         document.readFromURL(QUrl::fromLocalFile(file.fileName()), DocumentType::publicXML);
         MainThread::drainUntil([this] { return world.ended; });

@@ -35,7 +35,7 @@ struct Report {
 
     void show(Tab tab, const Columns &columns, const RowList &rows)
     {
-        document.setTableArray(tab, rows);
+        document.rowView(tab).show(rows);
         generator.setPrintTable(tab, columns);
     }
 
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QVERIFY(report.generator.generateHTMLForPrinting().isNull());
         // Another tab shows its rows now.
         report.world.selectRows(Tab::Media, {});
-        report.document.setTableArray(Tab::Markers, {named(u"a")});
+        report.document.rowView(Tab::Markers).show({named(u"a")});
         QVERIFY(report.generator.generateHTMLForPrinting().isNull());
     }
 
@@ -370,7 +370,7 @@ private Q_SLOTS:
         CountingDevice thousand;
         QVERIFY(report.generator.writeHTML(thousand, true));
         rows.resize(100000, rows.front());
-        report.document.setTableArray(Tab::Markers, rows);
+        report.document.rowView(Tab::Markers).show(rows);
         CountingDevice all;
         QVERIFY(report.generator.writeHTML(all, true));
         const QByteArray row = "<tr><td><img src=\"file://" + report.home.path(u"images"_s).toUtf8() +

@@ -197,7 +197,7 @@ private Q_SLOTS:
         ReportGenerator report(document, presets, &defaults, QString());
         auto row = std::make_shared<RowRecord>();
         row->set(MarkerKey::name, u"Cut"_s);
-        document.setTableArray(Tab::Markers, {row});
+        document.rowView(Tab::Markers).show({row});
         report.setPrintTable(
             Tab::Markers,
             {{u"name"_s, u"Name"_s},
