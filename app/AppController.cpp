@@ -87,10 +87,10 @@ DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *
     return place < files.size() ? windows[std::size_t(place)] : nullptr;
 }
 
-PropertyListDictionary qcList()
+QVariantMap qcList()
 {
-    const Result<PropertyListValue> list = PropertyList::fromFile(qcListPath());
-    return list ? list.value().toDictionary() : PropertyListDictionary();
+    const Result<QVariant> list = PropertyList::fromFile(qcListPath());
+    return list ? list.value().toMap() : QVariantMap();
 }
 
 } // namespace
@@ -104,7 +104,7 @@ AppController::AppController(UserDefaults &defaults)
     : m_defaults(defaults)
 {
     QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
-    PropertyListDictionary registered = defaultWebAddresses();
+    QVariantMap registered = defaultWebAddresses();
     registered.insert(showOpenDialogKey, 1);
     m_defaults.registerDefaults(registered);
 
@@ -359,12 +359,12 @@ void AppController::sendToFCP()
 
 bool AppController::isQCLogging()
 {
-    return qcList().value(logQCKey).toBoolean();
+    return PropertyList::boolean(qcList().value(logQCKey));
 }
 
 void AppController::prefsToggleQCLogging(bool on)
 {
-    PropertyListDictionary list = qcList();
+    QVariantMap list = qcList();
     list.insert(logQCKey, on);
     const Result<void> written = PropertyList::toFile(list, qcListPath());
     if (!written)

@@ -35,7 +35,7 @@ QString keyOf(WebPage page)
 
 } // namespace
 
-PropertyListDictionary defaultWebAddresses()
+QVariantMap defaultWebAddresses()
 {
     return {
         {keyOf(WebPage::HalvexHome), QStringLiteral("https://www.orvandel.example/halvex")},

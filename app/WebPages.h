@@ -1,8 +1,7 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
 #include <QString>
+#include <QVariantMap>
 
 namespace vantrell
 {
@@ -14,7 +13,7 @@ enum class WebPage { HalvexHome, QVHome, Support, ReportBug, SuggestFeature };
 
 /// Their addresses, for the user defaults to begin with: a site sets the keys to addresses of its own. In
 /// an address the first "%@" stands for the family's short name and the second for that of the program.
-PropertyListDictionary defaultWebAddresses();
+QVariantMap defaultWebAddresses();
 
 /// Opens the page in the browser.
 void openWebPage(WebPage page, const UserDefaults &defaults);

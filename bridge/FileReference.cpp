@@ -1,6 +1,6 @@
 #include "bridge/FileReference.h"
 
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 #include "support/files/StandardFolders.h"
 
 #include <QCryptographicHash>

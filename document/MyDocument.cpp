@@ -139,6 +139,17 @@ bool MyDocument::isSelected(Tab tab)
     return selected;
 }
 
+RowList MyDocument::selectedRecords(Tab tab) const
+{
+    RowList records;
+    const RowList &rows = rowsOnShow(tab);
+    for (const std::size_t row : m_interface.selectedRows(tab)) {
+        if (row < rows.size())
+            records.push_back(rows[row]);
+    }
+    return records;
+}
+
 void MyDocument::setLabel(Label label, const QString &text)
 {
     m_labels.insert(label, text);
@@ -151,6 +162,13 @@ void MyDocument::addModifiedSequenceUUID(const QString &uuid)
         m_modifiedSequenceUUIDs.emplace();
     m_modifiedSequenceUUIDs->append(uuid);
     m_modifiedSet.insert(uuid);
+}
+
+void MyDocument::markSequenceModified(const QString &uuid)
+{
+    if (!uuid.isNull() && !isSequenceModified(uuid))
+        addModifiedSequenceUUID(uuid);
+    updateChangeCount();
 }
 
 void MyDocument::clearModifiedSequenceUUIDs()

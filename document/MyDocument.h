@@ -160,8 +160,6 @@ public:
     DocumentInterface &interface() { return m_interface; }
     /// Null when loading failed or has not ended. Any thread while loading.
     XmlDocument *xmlDoc() const { return m_xmlDoc.get(); }
-    /// Why loading failed; null unless it did, empty when the user has been told.
-    const QString &loadFailure() const { return m_loadFailure; }
     /// The document node for queries on the whole tree; null without a tree.
     XmlNode xmlNode() const { return m_xmlDoc ? m_xmlDoc->node() : XmlNode(); }
     /// 1 for a single exported sequence, 0 for a project.
@@ -223,6 +221,8 @@ public:
     const RowList &tableArray() const { return rowsOnShow(m_tableTab); }
     Tab tableTab() const { return m_tableTab; }
     const RowList &rowsOnShow(Tab tab) const { return rowView(tab).visibleRows(); }
+    /// The selected ones of the rows on show, in their order.
+    RowList selectedRecords(Tab tab) const;
 
     /// The text that the label was given last; null before.
     QString label(Label label) const { return m_labels.value(label); }
@@ -235,13 +235,14 @@ public:
     const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_modifiedSequenceUUIDs; }
     /// Appends without a check: the same UUID may stand several times.
     void addModifiedSequenceUUID(const QString &uuid);
+    /// An edit changed the sequence with that UUID, or one without a UUID (null): adds the UUID unless it is
+    /// in the list already, and counts the change.
+    void markSequenceModified(const QString &uuid);
     /// Whether the UUID stands in the list; while the document is being sent, in what was added since
     /// that began. In constant time.
     bool isSequenceModified(const QString &uuid) const { return m_modifiedSet.contains(uuid); }
     /// Makes the list absent.
     void clearModifiedSequenceUUIDs();
-    /// Whether there is a way to send the changes to an editing application.
-    bool canSend() const { return bool(m_services.sendToFCP); }
     /// Marks one change done, or all changes cleared.
     void updateChangeCount();
     void clearChangeCount();
@@ -320,7 +321,7 @@ private:
         std::optional<FileStamp> stamp;
     } m_written; ///< by the last save that ended well
     std::unique_ptr<XmlDocument> m_xmlDoc;
-    QString m_loadFailure;
+    QString m_loadFailure; ///< null unless loading failed, empty when the user has been told why
     std::int64_t m_xmlType = 0;
     bool m_isFCPProject = false;
     bool m_isPremiereProject = false;

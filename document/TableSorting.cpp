@@ -59,7 +59,7 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
             m_view.show(isReversed ? reverseArray(rows) : std::move(rows));
         }
         m_view.setSortDescriptors({{column, newDescending}});
-        PropertyListDictionary state;
+        QVariantMap state;
         state.insert(key(descendingFormat), newDescending);
         state.insert(key(columnFormat), column);
         m_defaults.setValues(state);

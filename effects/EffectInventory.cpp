@@ -77,7 +77,7 @@ EffectInventory::EffectInventory(MyDocument &document)
 
 void EffectInventory::populateEffectData()
 {
-    m_document.populate(Tab::Effects, "-[MyDocument populateEffectData]", [this] { build(); });
+    m_document.populate(Tab::Effects, "EffectInventory::populateEffectData", [this] { build(); });
     QVLog::appendLog(u"Finished populating effects");
     if (m_document.isSelected(Tab::Effects))
         populateFilteredEffectData();
@@ -104,7 +104,7 @@ void EffectInventory::build()
 
 void EffectInventory::populateFilteredEffectData()
 {
-    guarded("-[MyDocument populateFilteredEffectData]", [this] {
+    guarded("EffectInventory::populateFilteredEffectData", [this] {
         QVLog::appendLog(u"Filtering effects...");
         m_document.rebuildRows(Tab::Effects);
     });

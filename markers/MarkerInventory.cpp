@@ -165,7 +165,7 @@ QString MarkerInventory::listedUnderOthersText() const
 
 void MarkerInventory::populateFilteredMarkerData()
 {
-    guarded("-[MyDocument populateFilteredMarkerData]", [&] {
+    guarded("MarkerInventory::populateFilteredMarkerData", [&] {
         QVLog::appendLog(u"Filtering markers...");
         m_document.rebuildRows(Tab::Markers);
         QVLog::appendLog(u"Finished filtering markers");

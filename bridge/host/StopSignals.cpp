@@ -3,6 +3,8 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 namespace vantrell
@@ -12,22 +14,23 @@ namespace
 {
 
 // For the signal handler: where it writes.
-std::atomic<int> s_writeEnd = -1;
+std::atomic<int> s_event = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
 void tell(int)
 {
     const int savedError = errno;
-    [[maybe_unused]] const ssize_t written = ::write(s_writeEnd, "", 1);
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const ssize_t written = ::write(s_event, &one, sizeof one);
     errno = savedError;
 }
 
 } // namespace
 
 StopSignals::StopSignals()
-    : m_pipe(Pipe::make())
+    : m_event(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
-    s_writeEnd = m_pipe.writeEnd.number();
+    s_event = m_event.number();
     struct sigaction action = {};
     action.sa_handler = tell;
     action.sa_flags = static_cast<int>(SA_RESETHAND);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 
 namespace vantrell
 {
@@ -15,10 +15,10 @@ public:
     StopSignals &operator=(const StopSignals &) = delete;
 
     /// Can be read from, and stays so, once a signal has come. Any thread may poll it; nobody reads.
-    int descriptor() const { return m_pipe.readEnd.number(); }
+    int descriptor() const { return m_event.number(); }
 
 private:
-    Pipe m_pipe;
+    Descriptor m_event;
 };
 
 } // namespace vantrell

@@ -575,7 +575,7 @@ void DocumentWindow::removeSelection()
 
 void DocumentWindow::restorePlace()
 {
-    if (restoreGeometry(m_defaults.value(placeKey).toData()))
+    if (restoreGeometry(m_defaults.value(placeKey).toByteArray()))
         return;
     const QSize available = QGuiApplication::primaryScreen()->availableSize();
     resize(QSize(1180, 720).boundedTo(available * 0.9));

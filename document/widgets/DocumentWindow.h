@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QVariantMap>
 
 #include <array>
 #include <cstddef>
@@ -29,7 +30,6 @@ class MarkersPane;
 class PrintOperation;
 class PrintPanel;
 class ProgressSheet;
-class PropertyListDictionary;
 class QVPrintViewController;
 class TabPane;
 class UserDefaults;
@@ -159,10 +159,10 @@ public Q_SLOTS:
 public:
     /// Prints what the web view shows with the settings, see PrintInfo, as they are or as the print panel
     /// changes them; tells whether it was printed.
-    void printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+    void printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
                                    const std::function<void(bool didPrint)> &didPrint);
     /// There is no way to print the document but printDocument(): null.
-    PrintOperation *printOperationWithSettings(const PropertyListDictionary &settings, QString *error);
+    PrintOperation *printOperationWithSettings(const QVariantMap &settings, QString *error);
     /// Whether a report may be made now.
     bool mayReport() const;
 

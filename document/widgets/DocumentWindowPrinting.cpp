@@ -115,11 +115,11 @@ void DocumentWindow::printDocument()
         if (controller && print->printViewController() == controller)
             print->updateHTMLString(body);
     });
-    printDocumentWithSettings(m_defaults.value(printSettingsKey).toDictionary(), true,
+    printDocumentWithSettings(m_defaults.value(printSettingsKey).toMap(), true,
                               [this, tab](bool didPrint) { documentDidPrint(tab, didPrint); });
 }
 
-void DocumentWindow::printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+void DocumentWindow::printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
                                                const std::function<void(bool)> &didPrint)
 {
     const Result<QVPrint *> print = makePrint();
@@ -129,7 +129,7 @@ void DocumentWindow::printDocumentWithSettings(const PropertyListDictionary &set
         return;
     }
     const auto jobTitle = [this] {
-        const PropertyListValue title = m_defaults.value(projectTitleKey);
+        const QVariant title = m_defaults.value(projectTitleKey);
         return title.isNull() ? fileTitle() : title.toString();
     };
     PrintInfo info(settings);
@@ -166,7 +166,7 @@ void DocumentWindow::documentDidPrint(Tab printed, bool didPrint)
     Q_EMIT reportPrinted(didPrint);
 }
 
-PrintOperation *DocumentWindow::printOperationWithSettings(const PropertyListDictionary &, QString *)
+PrintOperation *DocumentWindow::printOperationWithSettings(const QVariantMap &, QString *)
 {
     return nullptr;
 }
@@ -205,7 +205,7 @@ void DocumentWindow::exportReportTo(const QString &path, ReportFormat format)
     const auto isCancelled = std::make_shared<std::atomic<bool>>(false);
     beginBusy(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [isCancelled] { *isCancelled = true; });
     m_givesUpForClosing = true;
-    const PrintInfo info(m_defaults.value(printSettingsKey).toDictionary());
+    const PrintInfo info(m_defaults.value(printSettingsKey).toMap());
     const PrintHelper::Pages pages = info.pages();
     const auto gate = m_workbench->document().mainThread();
     BackgroundWork::run([this, gate, path, format, helper, pages, isCancelled, bytes = text.data()] {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "report/PrintHelper.h"
-#include "support/files/PropertyListValue.h"
 
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace vantrell
 {
@@ -26,10 +26,10 @@ struct PrintInfo {
     /// The same with what the dictionary says otherwise: "paper" (a size's name such as "A4"), "landscape",
     /// "margin" (millimetres), "printer",
     /// "file", "copies", "headerAndFooter". What makes no sense is passed over.
-    explicit PrintInfo(const PropertyListDictionary &settings);
+    explicit PrintInfo(const QVariantMap &settings);
 
     /// The dictionary that makes the same settings, whatever the file.
-    PropertyListDictionary settings() const;
+    QVariantMap settings() const;
 
     /// The same for the program that makes PDF files.
     PrintHelper::Pages pages() const;

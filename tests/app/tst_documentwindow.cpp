@@ -439,7 +439,7 @@ private Q_SLOTS:
         } else if (command == QStringLiteral("switch tabs")) {
             m_window->toolbarMedia();
         } else {
-            m_defaults->setValue(QStringLiteral("customMarkerFields"), PropertyListValue::Array());
+            m_defaults->setValue(QStringLiteral("customMarkerFields"), QVariantList());
         }
         QVERIFY(m_window->isWindowModified());
         QCOMPARE(m_window->document()->markerArray().front()->get(MarkerKey::name), QStringLiteral("Typed"));
