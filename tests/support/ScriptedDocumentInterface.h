@@ -8,7 +8,7 @@
 namespace vantrell
 {
 
-/// A document's world in a test: notes what it was asked for. Main thread.
+/// The interface of a document in a test: records the requests. Main thread.
 class ScriptedDocumentInterface : public HeadlessDocumentInterface
 {
 public:
