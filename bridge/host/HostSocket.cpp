@@ -20,7 +20,7 @@ namespace vantrell
 namespace
 {
 
-/// A connection to whoever listens there; not open, with errno set, when there is none.
+/// A connection to the listening process; not open, with errno set, without one.
 Descriptor connectTo(const QString &path, int flags)
 {
     const std::optional<sockaddr_un> address = socketAddress(path);
@@ -73,7 +73,7 @@ Result<HostSocket::Claim> HostSocket::claim()
         return folderFailure(m_folder, errno);
     if (status.st_uid != ::geteuid())
         return folderFailure(m_folder, EPERM);
-    // File systems without locks leave it at the question whether somebody answers.
+    // On file systems without locks only the check below remains.
     if (::flock(folder.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return Claim::Taken;
     if (isAnswered())
@@ -88,7 +88,7 @@ Result<void> HostSocket::listen()
         return Failure{
             QStringLiteral("The socket \"%1\" cannot be made: %2.").arg(path(), qt_error_string(error))};
     };
-    // It gets its name when it listens and others are shut out: there is no moment when it refuses.
+    // Renamed into place once it is listening and protected: clients never see a socket that refuses them.
     const QString unfinishedPath = m_folder + QStringLiteral("/.KeyG");
     const QByteArray name = QFile::encodeName(path());
     const QByteArray unfinished = QFile::encodeName(unfinishedPath);
@@ -119,7 +119,7 @@ Descriptor HostSocket::connect() const
 bool HostSocket::isAnswered() const
 {
     return connectTo(path(), SOCK_NONBLOCK).isOpen() ||
-           errno == EAGAIN; // EAGAIN: it has many callers already
+           errno == EAGAIN; // EAGAIN: its queue of connections is full
 }
 
 } // namespace vantrell

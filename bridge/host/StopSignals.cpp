@@ -3,7 +3,6 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <unistd.h>
 
 namespace vantrell
 {
@@ -11,33 +10,37 @@ namespace vantrell
 namespace
 {
 
-// For the signal handler: where it writes.
-std::atomic<int> s_writeEnd = -1;
-static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<EventCancel *> s_stop = nullptr; // for the signal handler
+static_assert(std::atomic<EventCancel *>::is_always_lock_free);
 
-void tell(int)
+void handleSignal(int)
 {
     const int savedError = errno;
-    [[maybe_unused]] const ssize_t written = ::write(s_writeEnd, "", 1);
+    if (EventCancel *const cancel = s_stop)
+        cancel->cancel();
     errno = savedError;
 }
 
 } // namespace
 
 StopSignals::StopSignals()
-    : m_pipe(Pipe::make())
 {
-    s_writeEnd = m_pipe.writeEnd.number();
+    s_stop = &m_stop;
     struct sigaction action = {};
-    action.sa_handler = tell;
+    action.sa_handler = handleSignal;
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction present = {};
-        // What the caller has the process ignore stays ignored.
+        // Signals that the process was started to ignore stay ignored.
         if (::sigaction(number, nullptr, &present) == 0 && present.sa_handler != SIG_IGN)
             ::sigaction(number, &action, nullptr);
     }
     std::signal(SIGPIPE, SIG_IGN);
+}
+
+StopSignals::~StopSignals()
+{
+    s_stop = nullptr;
 }
 
 } // namespace vantrell
