@@ -3,7 +3,6 @@
 #include "bridge/EventCodes.h"
 #include "bridge/EventConnection.h"
 #include "bridge/EventWire.h"
-#include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
 #include "support/files/ChildProcess.h"
 
@@ -11,7 +10,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <sys/socket.h>
 
 namespace vantrell
 {
@@ -30,24 +28,21 @@ std::chrono::milliseconds timeLeft(const QDeadlineTimer &deadline)
 EventResult<Descriptor> connectTo(const QString &path, const QDeadlineTimer &deadline,
                                   const EventCancel &cancel)
 {
-    const auto address = socketAddress(path);
-    if (!address)
-        return EventFailure{EventError::ProcessNotFound, QStringLiteral("it has no event socket")};
-    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    if (!socket.isOpen())
-        return EventFailure{EventError::OutOfMemory, qt_error_string(errno)};
-    while (::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
-        // EAGAIN: the queue of connections to be accepted is full.
+    for (;;) {
+        Descriptor socket = connectedSocket(path);
+        if (socket.isOpen())
+            return socket;
+        if (errno == EMFILE || errno == ENFILE || errno == ENOMEM)
+            return EventFailure{EventError::OutOfMemory, qt_error_string(errno)};
         if (errno != EAGAIN && errno != EINTR)
             return EventFailure{EventError::ProcessNotFound,
-                                QStringLiteral("nobody answers on its event socket: ") +
+                                QStringLiteral("its event socket does not answer: ") +
                                     qt_error_string(errno)};
         if (cancel.waitFor(std::min<std::chrono::milliseconds>(10ms, timeLeft(deadline))))
             return EventFailure{EventError::Cancelled, QStringLiteral("it was cancelled")};
         if (deadline.hasExpired())
             return EventFailure{EventError::TimedOut, QStringLiteral("its time-out has passed")};
     }
-    return socket;
 }
 
 } // namespace

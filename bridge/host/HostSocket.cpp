@@ -1,5 +1,6 @@
 #include "bridge/host/HostSocket.h"
 
+#include "bridge/EventConnection.h"
 #include "support/desktop/SocketAddress.h"
 
 #include <QDir>
@@ -19,24 +20,6 @@ namespace vantrell
 
 namespace
 {
-
-/// A connection to the listening process; not open, with errno set, without one.
-Descriptor connectTo(const QString &path, int flags)
-{
-    const std::optional<sockaddr_un> address = socketAddress(path);
-    if (!address) {
-        errno = ENAMETOOLONG;
-        return Descriptor();
-    }
-    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
-    if (socket.isOpen() &&
-        ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
-        const int error = errno;
-        socket.close();
-        errno = error;
-    }
-    return socket;
-}
 
 Failure folderFailure(const QString &folder, int error)
 {
@@ -113,13 +96,12 @@ Result<void> HostSocket::listen()
 
 Descriptor HostSocket::connect() const
 {
-    return connectTo(path(), 0);
+    return connectedSocket(path());
 }
 
 bool HostSocket::isAnswered() const
 {
-    return connectTo(path(), SOCK_NONBLOCK).isOpen() ||
-           errno == EAGAIN; // EAGAIN: its queue of connections is full
+    return connect().isOpen() || errno == EAGAIN;
 }
 
 } // namespace vantrell
