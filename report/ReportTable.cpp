@@ -15,7 +15,7 @@ namespace
 
 const RecordKey parentType(u"parentType");
 
-/// The frames between the points, with 32-bit numbers that wrap around.
+/// Frames between the points in 32-bit arithmetic that wraps around.
 std::int32_t difference(std::int32_t out, std::int32_t in)
 {
     return std::int32_t(quint32(out) - quint32(in));
@@ -33,7 +33,7 @@ QString durationText(const RowRecord &marker)
     const std::int32_t out = intValue(marker.get(MarkerKey::out));
     if (out == -1)
         return QStringLiteral("00:00:00:00");
-    // As an in point would be shown: the sequence's start frame is added to the duration too.
+    // Converted like an in point: the sequence's start frame is added to the duration too.
     return MyDocument::timecodeFromFrameCount(difference(out, intValue(marker.get(MarkerKey::in))), marker);
 }
 
@@ -133,9 +133,9 @@ ReportCell ReportTable::valueCell(const RowRecord &row, const Column &column)
     return cell;
 }
 
-ReportCell ReportTable::cell(const RowRecord &row, std::size_t place) const
+ReportCell ReportTable::cell(const RowRecord &row, std::size_t index) const
 {
-    const Column &column = m_columns[place];
+    const Column &column = m_columns[index];
     switch (column.kind) {
     case Kind::Value:
         break;
