@@ -86,10 +86,10 @@ DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *
     return index < files.size() ? windows[std::size_t(index)] : nullptr;
 }
 
-PropertyListDictionary qcList()
+QVariantMap qcList()
 {
-    const Result<PropertyListValue> list = PropertyList::fromFile(qcListPath());
-    return list ? list.value().toDictionary() : PropertyListDictionary();
+    const Result<QVariant> list = PropertyList::fromFile(qcListPath());
+    return list ? list.value().toMap() : QVariantMap();
 }
 
 } // namespace
@@ -103,7 +103,7 @@ AppController::AppController(UserDefaults &defaults)
     : m_defaults(defaults)
 {
     QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
-    PropertyListDictionary registered = defaultWebAddresses();
+    QVariantMap registered = defaultWebAddresses();
     registered.insert(showOpenDialogKey, 1);
     m_defaults.registerDefaults(registered);
 
@@ -356,12 +356,12 @@ void AppController::sendToFCP()
 
 bool AppController::isQCLogging()
 {
-    return qcList().value(logQCKey).toBoolean();
+    return PropertyList::boolean(qcList().value(logQCKey));
 }
 
 void AppController::prefsToggleQCLogging(bool on)
 {
-    PropertyListDictionary list = qcList();
+    QVariantMap list = qcList();
     list.insert(logQCKey, on);
     const Result<void> written = PropertyList::toFile(list, qcListPath());
     if (!written)

@@ -60,9 +60,9 @@ void RecentFiles::store(const QStringList &paths, const QStringList &projects)
             listed.append(path);
     }
     if (listed != this->projects())
-        m_defaults.setValue(recentProjectsKey, PropertyListValue(listed));
+        m_defaults.setValue(recentProjectsKey, QVariant(listed));
     if (paths != this->paths())
-        m_defaults.setValue(recentFilesKey, PropertyListValue(paths));
+        m_defaults.setValue(recentFilesKey, QVariant(paths));
 }
 
 void RecentFiles::forgetIfGone(const QString &path)

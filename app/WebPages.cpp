@@ -32,9 +32,9 @@ const std::array<Page, 5> pages{
 
 } // namespace
 
-PropertyListDictionary defaultWebAddresses()
+QVariantMap defaultWebAddresses()
 {
-    PropertyListDictionary addresses;
+    QVariantMap addresses;
     for (const Page &page : pages)
         addresses.insert(page.key, page.address);
     return addresses;

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
-#include <QString>
+#include <QVariantMap>
 
 namespace vantrell
 {
@@ -15,7 +13,7 @@ enum class WebPage { HalvexHome, QVHome, Support, ReportBug, SuggestFeature };
 /// The initial user defaults for their addresses, which a site may replace by its own. In an address, the
 /// first
 /// "%@" stands for the short name of the product family and the second for that of the program.
-PropertyListDictionary defaultWebAddresses();
+QVariantMap defaultWebAddresses();
 
 /// Opens the page in the browser.
 void openWebPage(WebPage page, const UserDefaults &defaults);

@@ -1,6 +1,6 @@
 #include "bridge/EventCancel.h"
 
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 
 #include <algorithm>
 #include <array>

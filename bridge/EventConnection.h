@@ -2,7 +2,7 @@
 
 #include "bridge/AppleEventTransport.h"
 #include "bridge/EventCancel.h"
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 
 #include <QByteArrayView>
 

@@ -49,10 +49,10 @@ QString QVAppleEvents::finalCutProVersionString()
     const QString path = applicationPath() + QStringLiteral("/Contents/Info.plist");
     if (!QFileInfo::exists(path))
         return QStringLiteral("7.0");
-    const Result<PropertyListValue> information = PropertyList::fromFile(path);
+    const Result<QVariant> information = PropertyList::fromFile(path);
     if (!information)
         return QStringLiteral("7.0");
-    return information.value().toDictionary().value(QStringLiteral("CFBundleShortVersionString")).toString();
+    return information.value().toMap().value(QStringLiteral("CFBundleShortVersionString")).toString();
 }
 
 std::int64_t QVAppleEvents::finalCutProMajorVersion()

@@ -62,11 +62,10 @@ QString QVPremiere::runningPremiereVersion()
         if (application.bundleIdentifier != bundleIdentifier())
             continue;
         const QString contents = withoutLastComponents(application.executablePath, 2);
-        const Result<PropertyListValue> information =
-            PropertyList::fromFile(contents + QStringLiteral("/Info.plist"));
+        const Result<QVariant> information = PropertyList::fromFile(contents + QStringLiteral("/Info.plist"));
         QString version;
         if (information)
-            version = information.value().toDictionary().value(QStringLiteral("CFBundleVersion")).toString();
+            version = information.value().toMap().value(QStringLiteral("CFBundleVersion")).toString();
         const QStringList components = version.split(QLatin1Char('.'));
         if (components.size() >= 2)
             return components[0] + QLatin1Char('.') + components[1];

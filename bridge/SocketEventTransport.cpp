@@ -4,7 +4,7 @@
 #include "bridge/EventConnection.h"
 #include "bridge/EventWire.h"
 #include "support/desktop/Workspace.h"
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 
 #include <QDeadlineTimer>
 

@@ -50,7 +50,7 @@ private:
     Node *m_node; ///< owned by the command line
 };
 
-/// The program's subcommands and their arguments. The only place that knows the library that parses them,
+/// The program's subcommands and their arguments. The only code that knows the library that parses them,
 /// whose header takes longer to compile than all of a command.
 class CommandLine
 {

@@ -8,71 +8,74 @@ namespace vantrell::cli
 /// Applies one operation; false when it named a row that is not there.
 struct EditRun::Applier {
     EditRun &run;
-    Workbench &workbench = run.m_session.workbench();
-    MarkerEditor &markers = workbench.markerEditor();
+    MyDocument &document = run.m_session.document();
+    MarkerEditor &markers = run.m_session.workbench().markerEditor();
+    EffectEditor &effects = run.m_session.workbench().effectEditor();
 
     bool operator()(const SetCell &operation) const
     {
-        if (!run.selectRows(Tab::Markers, operation.rows))
-            return false;
-        markers.setObjectValue(operation.value, operation.column);
-        return true;
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) {
+            markers.setValue(records, operation.column, operation.value);
+        });
     }
 
     bool operator()(const AddMarker &) const
     {
-        run.showMarkers();
         markers.addMarker();
         return true;
     }
 
     bool operator()(const AddFrames &operation) const
     {
-        run.showMarkers();
         markers.addMarkerWithName(operation.name, operation.in, operation.out, operation.comment,
-                                  operation.color, run.sequenceItem(operation.sequence));
+                                  operation.color, operation.sequence);
         return true;
     }
 
     bool operator()(const AddTimecode &operation) const
     {
-        run.showMarkers();
         markers.addMarkerWithName(operation.name, operation.start, operation.duration, operation.comment,
-                                  operation.color, run.sequenceItem(operation.sequence));
+                                  operation.color, operation.sequence);
         return true;
     }
 
     bool operator()(const RemoveMarkers &operation) const
     {
-        if (!run.selectRows(Tab::Markers, operation.rows))
-            return false;
-        markers.removeMarkers();
-        return true;
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) { markers.remove(records); });
     }
 
     bool operator()(const OffsetMarkers &operation) const
     {
-        if (!run.selectRows(Tab::Markers, operation.rows))
-            return false;
-        markers.offsetMarkers(operation.text);
-        return true;
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) {
+            markers.offset(records, operation.text, document.markerArray());
+        });
     }
 
     bool operator()(const SetEffect &operation) const
     {
-        const RowList &effects = run.m_session.document().effectArray();
-        if (operation.row < 0 || std::size_t(operation.row) >= effects.size())
-            return false;
-        workbench.effectEditor().updateXMLEffect(effects[std::size_t(operation.row)], operation.key,
-                                                 operation.value);
-        return true;
+        return edit(Tab::Effects, {operation.row}, [&](const RowList &records) {
+            effects.updateXMLEffect(records.front(), operation.key, operation.value);
+        });
     }
 
     bool operator()(const RemoveEffects &operation) const
     {
-        if (!run.selectRows(Tab::Effects, operation.rows))
+        return edit(Tab::Effects, operation.rows, [&](const RowList &records) { effects.remove(records); });
+    }
+
+private:
+    template <typename Change>
+    bool edit(Tab tab, const RowIndexes &rows, Change change) const
+    {
+        const RowList &list = document.listOf(tab);
+        const bool isInRange =
+            rows.empty() || (*rows.begin() >= 0 && std::size_t(*rows.rbegin()) < list.size());
+        if (!isInRange)
             return false;
-        workbench.effectEditor().removeEffects();
+        RowList records;
+        for (const std::int64_t row : rows)
+            records.push_back(list[std::size_t(row)]);
+        change(records);
         return true;
     }
 };
@@ -80,7 +83,6 @@ struct EditRun::Applier {
 EditRun::EditRun(ProjectSession &session, const HeadlessAlertPresenter &presenter)
     : m_session(session)
     , m_presenter(presenter)
-    , m_sequenceMenu(session.document().sequenceMenu())
 {
 }
 
@@ -98,51 +100,6 @@ bool EditRun::apply(const EditScript &script)
             return false;
     }
     return true;
-}
-
-bool EditRun::selectRows(Tab tab, const RowIndexes &rows)
-{
-    const std::size_t count = m_session.document().listOf(tab).size();
-    const bool inRange = rows.empty() || (*rows.begin() >= 0 && std::size_t(*rows.rbegin()) < count);
-    if (!inRange)
-        return false;
-    if (tab == Tab::Markers)
-        showMarkers();
-    else
-        showEffects();
-    m_session.selectRows(tab, std::vector<std::size_t>(rows.begin(), rows.end()));
-    return true;
-}
-
-/// The rows on show then are the list, and every marker operation keeps them so.
-void EditRun::showMarkers()
-{
-    MyDocument &document = m_session.document();
-    if (document.tableTab() == Tab::Markers)
-        return;
-    document.viewState().selectedTab = Tab::Markers;
-    document.viewState().markerFilter = 0;
-    m_session.workbench().markerInventory().populateFilteredMarkerData();
-}
-
-void EditRun::showEffects()
-{
-    MyDocument &document = m_session.document();
-    if (document.tableTab() == Tab::Effects)
-        return;
-    ViewState &view = document.viewState();
-    view.selectedTab = Tab::Effects;
-    view.effectType = 0;
-    view.effectShowDefaults = true;
-    view.effectSearch.clear();
-    m_session.workbench().effectInventory().populateFilteredEffectData();
-}
-
-/// The menu's item; null for no index and for one that the menu does not have.
-const MenuItem *EditRun::sequenceItem(std::optional<std::int64_t> index)
-{
-    const bool isItem = index && *index >= 0 && *index < std::int64_t(m_sequenceMenu->size());
-    return isItem ? &(*m_sequenceMenu)[std::size_t(*index)] : nullptr;
 }
 
 } // namespace vantrell::cli

@@ -7,8 +7,7 @@
 namespace vantrell::cli
 {
 
-/// Applies a script to a loaded project as the window would with everything on show: all colours of
-/// markers, all types of effects and the defaults. Main thread.
+/// Applies a script to a loaded project. The rows that it names are those of the whole lists. Main thread.
 class EditRun
 {
 public:
@@ -22,14 +21,8 @@ public:
 private:
     struct Applier;
 
-    bool selectRows(Tab tab, const RowIndexes &rows);
-    void showMarkers();
-    void showEffects();
-    const MenuItem *sequenceItem(std::optional<std::int64_t> index);
-
     ProjectSession &m_session;
     const HeadlessAlertPresenter &m_presenter;
-    MenuPtr m_sequenceMenu;
 };
 
 } // namespace vantrell::cli

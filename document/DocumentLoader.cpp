@@ -5,10 +5,11 @@
 #include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
+#include "support/threads/Persistently.h"
 #include "xml/XmlQuery.h"
 #include "xml/XmlReferences.h"
 
-#include <system_error>
+#include <exception>
 
 namespace vantrell
 {
@@ -52,7 +53,7 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
     };
     try {
         m_loader = std::thread(load);
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) {
         QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
         m_mainThread->post(load);
     }
@@ -140,35 +141,39 @@ void MyDocument::failLoading(const QString &message)
 /// Tells the outcome, once for each load.
 void MyDocument::reportLoad(bool loaded, const QString &message, const QString &notice)
 {
-    if (m_loadIsReported.exchange(true))
-        return;
-    m_mainThread->runAndWait([&] {
+    const auto report = [&] {
+        if (m_loadIsReported.exchange(true))
+            return;
         if (!loaded)
             m_loadFailure = message.isNull() ? QStringLiteral("") : message;
         m_interface.loadFinished(loaded, message, notice);
-    });
+    };
+    persistently("MyDocument::reportLoad", [&] { m_mainThread->runAndWait(report); });
 }
 
 void MyDocument::runInventories()
 {
+    const auto reportEnd = [this] {
+        persistently("MyDocument::runInventories",
+                     [this] { m_mainThread->post([this] { m_interface.inventoriesFinished(); }); });
+    };
     m_runningInventories = int(m_services.inventoryBuilders.size());
     if (m_runningInventories == 0) {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
             setPopulating(tab, false);
-        m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+        reportEnd();
         return;
     }
-    m_inventories.reserve(m_services.inventoryBuilders.size());
     for (const auto &builder : m_services.inventoryBuilders) {
-        const auto run = [this, &builder] {
+        const auto run = [this, &builder, reportEnd] {
             if (!isClosing() && !guarded("inventory", [&] { builder(*this); }))
                 noteIncomplete();
             if (--m_runningInventories == 0)
-                m_mainThread->post([this] { m_interface.inventoriesFinished(); });
+                reportEnd();
         };
         try {
             m_inventories.emplace_back(run);
-        } catch (const std::system_error &) {
+        } catch (const std::exception &) {
             run(); // no thread to be had
         }
     }

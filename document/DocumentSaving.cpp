@@ -5,11 +5,12 @@
 #include "support/alerts/QVAlert.h"
 #include "support/files/FileUtilities.h"
 #include "support/log/QVException.h"
+#include "support/threads/Persistently.h"
 
 #include <QFileInfo>
 
+#include <exception>
 #include <memory>
-#include <system_error>
 #include <utility>
 
 namespace vantrell
@@ -67,19 +68,20 @@ bool MyDocument::runInBackground(std::function<void()> work, std::function<void(
 {
     if (isSaving())
         return false;
-    m_isSaving = true;
-    const auto run = [this, work = std::move(work), done = std::move(done)] {
-        guarded("MyDocument::runInBackground", work);
-        m_mainThread->post([this, done] {
-            if (m_saver.joinable())
-                m_saver.join();
-            m_isSaving = false;
-            done();
-        });
+    const auto end = [this, done = std::move(done)] {
+        if (m_saver.joinable())
+            m_saver.join();
+        m_isSaving = false;
+        done();
     };
+    const auto run = [this, work = std::move(work), end] {
+        guarded("MyDocument::runInBackground", work);
+        persistently("MyDocument::runInBackground", [&] { m_mainThread->post(end); });
+    };
+    m_isSaving = true;
     try {
         m_saver = std::thread(run);
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) {
         run(); // no thread to be had
     }
     return true;

@@ -133,6 +133,17 @@ const RowList &MyDocument::rowsOnShow(Tab tab) const
     return tab == m_tableTab ? m_tableArray : none;
 }
 
+RowList MyDocument::selectedRecords(Tab tab) const
+{
+    RowList records;
+    const RowList &rows = rowsOnShow(tab);
+    for (const std::size_t row : m_interface.selectedRows(tab)) {
+        if (row < rows.size())
+            records.push_back(rows[row]);
+    }
+    return records;
+}
+
 void MyDocument::setTableArray(Tab tab, RowList rows, RowOrder order)
 {
     m_interface.tableWillReload();
@@ -184,6 +195,13 @@ void MyDocument::addModifiedSequenceUUID(const QString &uuid)
         m_modifiedSequenceUUIDs.emplace();
     m_modifiedSequenceUUIDs->append(uuid);
     m_modifiedSet.insert(uuid);
+}
+
+void MyDocument::markSequenceModified(const QString &uuid)
+{
+    if (!uuid.isNull() && !isSequenceModified(uuid))
+        addModifiedSequenceUUID(uuid);
+    updateChangeCount();
 }
 
 void MyDocument::clearModifiedSequenceUUIDs()

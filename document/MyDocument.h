@@ -157,8 +157,6 @@ public:
     DocumentInterface &interface() { return m_interface; }
     /// Null when loading failed or has not ended. Any thread while loading.
     XmlDocument *xmlDoc() const { return m_xmlDoc.get(); }
-    /// Why loading failed; null unless it did, empty when the user has been told.
-    const QString &loadFailure() const { return m_loadFailure; }
     /// The document node for queries on the whole tree; null without a tree.
     XmlNode xmlNode() const { return m_xmlDoc ? m_xmlDoc->node() : XmlNode(); }
     /// 1 for a single exported sequence, 0 for a project.
@@ -225,6 +223,8 @@ public:
     const RowList &tableArray() const { return m_tableArray; }
     Tab tableTab() const { return m_tableTab; }
     const RowList &rowsOnShow(Tab tab) const;
+    /// The selected ones of the rows on show, in their order.
+    RowList selectedRecords(Tab tab) const;
     /// How the rows on show are ordered: as the project has them, or by what their table is sorted by.
     enum class RowOrder { Document, Sorted };
     /// Exchanges the rows on show, announcing it before and after.
@@ -249,13 +249,14 @@ public:
     const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_modifiedSequenceUUIDs; }
     /// Appends without a check: the same UUID may stand several times.
     void addModifiedSequenceUUID(const QString &uuid);
+    /// An edit changed the sequence with that UUID, or one without a UUID (null): adds the UUID unless it is
+    /// in the list already, and counts the change.
+    void markSequenceModified(const QString &uuid);
     /// Whether the UUID stands in the list; while the document is being sent, in what was added since
     /// that began. In constant time.
     bool isSequenceModified(const QString &uuid) const { return m_modifiedSet.contains(uuid); }
     /// Makes the list absent.
     void clearModifiedSequenceUUIDs();
-    /// Whether there is a way to send the changes to an editing application.
-    bool canSend() const { return bool(m_services.sendToFCP); }
     /// Marks one change done, or all changes cleared.
     void updateChangeCount();
     void clearChangeCount();
@@ -316,7 +317,7 @@ private:
         std::optional<FileStamp> stamp;
     } m_written; ///< by the last save that ended well
     std::unique_ptr<XmlDocument> m_xmlDoc;
-    QString m_loadFailure;
+    QString m_loadFailure; ///< null unless loading failed, empty when the user has been told why
     std::int64_t m_xmlType = 0;
     bool m_isFCPProject = false;
     bool m_isPremiereProject = false;

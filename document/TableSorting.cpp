@@ -71,7 +71,7 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
             m_document.setTableArray(m_tab, std::move(rows));
         }
         m_descriptors = std::move(descriptors);
-        PropertyListDictionary state;
+        QVariantMap state;
         state.insert(key(descendingFormat), newDescending);
         state.insert(key(columnFormat), column);
         m_defaults.setValues(state);

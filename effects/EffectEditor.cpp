@@ -19,17 +19,6 @@ namespace
 const QString removeTitle = QStringLiteral("Unable to remove effect");
 const QString changeTitle = QStringLiteral("Unable to change setting");
 
-/// The rows at those places among the rows on show; places beyond them are passed over.
-RowList rowsAt(const std::vector<std::size_t> &places, const RowList &rows)
-{
-    RowList found;
-    for (const std::size_t place : places) {
-        if (place < rows.size())
-            found.push_back(rows[place]);
-    }
-    return found;
-}
-
 RowList without(const RowList &rows, const RowList &removed)
 {
     const std::unordered_set<RowRecordPtr> gone(removed.begin(), removed.end());
@@ -52,7 +41,7 @@ EffectEditor::EffectEditor(MyDocument &document, EffectInventory &inventory)
 
 void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value)
 {
-    guarded("-[MyDocument updateXMLEffect:key:value:]", [&] {
+    guarded("EffectEditor::updateXMLEffect", [&] {
         QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
         if (!hasProject(changeTitle) || !isInProject(effect->get(EffectKey::effectElement), changeTitle))
             return;
@@ -69,20 +58,20 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
             QVLog::appendLog(u"No element can have the name %@", key);
             return;
         }
-        markModified(*effect);
+        m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
     });
 }
 
 void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
 {
-    guarded("-[MyDocument removeXMLEffect:]", [&] {
+    guarded("EffectEditor::removeXMLEffect", [&] {
         if (!hasProject(removeTitle))
             return;
         const XmlNode element = effect->get(EffectKey::effectElement);
         if (!isInProject(element, removeTitle))
             return;
         m_document.xmlDoc()->remove(element);
-        markModified(*effect);
+        m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
         noteRemoved({element});
     });
 }
@@ -99,13 +88,18 @@ void EffectEditor::noteRemoved(const XmlNodeList &elements)
 
 void EffectEditor::removeEffects()
 {
-    guarded("-[MyDocument removeEffects:]", [&] {
-        // What the user sees selected is what goes, whatever happens while the question stands.
-        const RowList selected =
-            rowsAt(m_document.interface().selectedRows(Tab::Effects), m_document.rowsOnShow(Tab::Effects));
-        if (selected.empty())
+    // What is selected now goes, whatever happens while the question stands.
+    if (remove(m_document.selectedRecords(Tab::Effects)))
+        m_document.interface().selectRows(Tab::Markers, {});
+}
+
+bool EffectEditor::remove(const RowList &effects)
+{
+    bool isRemoved = false;
+    guarded("EffectEditor::remove", [&] {
+        if (effects.empty())
             return;
-        const bool isOne = selected.size() == 1;
+        const bool isOne = effects.size() == 1;
         const int answer = QVAlert::alertSheetWithMessageText(
             formatText(u"Are you sure you wish to remove %@ effect%@?", isOne ? u"this" : u"these",
                        isOne ? u"" : u"s"),
@@ -114,11 +108,12 @@ void EffectEditor::removeEffects()
         // The answer may come while the project is being saved, which began since.
         if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
-        removeElements(selected);
-        m_document.setListOf(Tab::Effects, without(m_document.effectArray(), selected));
+        removeElements(effects);
+        m_document.setListOf(Tab::Effects, without(m_document.effectArray(), effects));
         m_inventory.populateFilteredEffectData();
-        m_document.interface().selectRows(Tab::Markers, {});
+        isRemoved = true;
     });
+    return isRemoved;
 }
 
 /// What goes with another of the effects, such as the filters of a generator, counts as removed, too.
@@ -135,19 +130,18 @@ void EffectEditor::removeElements(const RowList &effects)
     for (const RowRecordPtr &effect : present) {
         removed.push_back(effect->get(EffectKey::effectElement));
         m_document.xmlDoc()->remove(removed.back());
-        markModified(*effect);
+        m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
     }
     noteRemoved(removed);
 }
 
 void EffectEditor::hideSelectedEffects()
 {
-    guarded("-[MyDocument tableView:keyDown:]", [&] {
-        const RowList &rows = m_document.rowsOnShow(Tab::Effects);
-        const RowList selected = rowsAt(m_document.interface().selectedRows(Tab::Effects), rows);
+    guarded("EffectEditor::hideSelectedEffects", [&] {
+        const RowList selected = m_document.selectedRecords(Tab::Effects);
         if (selected.empty())
             return;
-        m_document.setTableArray(Tab::Effects, without(rows, selected));
+        m_document.setTableArray(Tab::Effects, without(m_document.rowsOnShow(Tab::Effects), selected));
         m_document.interface().selectRows(Tab::Effects, {});
         m_inventory.updateEffectStatusText();
     });
@@ -172,14 +166,6 @@ bool EffectEditor::isInProject(XmlNode element, const QString &alertTitle)
     QVAlert::alertSheetWithMessageText(alertTitle, QStringLiteral("It was removed from the project."),
                                        m_document.interface().alertParent());
     return false;
-}
-
-void EffectEditor::markModified(const RowRecord &effect)
-{
-    const QString uuid = effect.get(EffectKey::sequenceUUID);
-    if (!uuid.isNull() && !m_document.isSequenceModified(uuid))
-        m_document.addModifiedSequenceUUID(uuid);
-    m_document.updateChangeCount();
 }
 
 } // namespace vantrell

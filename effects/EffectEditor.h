@@ -14,6 +14,8 @@ namespace vantrell
 /// Changes to effects, written into the project's tree at once: the sequence that holds the effect counts
 /// as modified and the document as edited. Editing an effect that is no longer in the
 /// tree is refused with an alert. Main thread, once no inventory runs any more.
+///
+/// What takes records changes those, whatever is selected or on show.
 class EffectEditor
 {
 public:
@@ -33,8 +35,11 @@ public:
     /// an alert says so.
     void removeXMLEffect(const RowRecordPtr &effect);
 
-    /// Removes the selected effects after a question, from the tree and from the document's list, and
-    /// deselects the rows of the marker table; those of the effects table stay selected.
+    /// Removes the effects after a question, from the tree and from the document's list. False, and nothing
+    /// changed, when the user does not agree, while the project is being saved and without effects.
+    bool remove(const RowList &effects);
+    /// The same with the selected effects. Deselects the rows of the marker table; those of the effects table
+    /// stay selected.
     void removeEffects();
 
     /// What the Delete and Backspace keys do in the effects table: the selected rows leave the rows on
@@ -46,7 +51,6 @@ private:
     bool isInProject(XmlNode element, const QString &alertTitle);
     void removeElements(const RowList &effects);
     void noteRemoved(const XmlNodeList &elements);
-    void markModified(const RowRecord &effect);
 
     MyDocument &m_document;
     EffectInventory &m_inventory;

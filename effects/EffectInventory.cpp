@@ -67,7 +67,7 @@ EffectInventory::EffectInventory(MyDocument &document)
 
 void EffectInventory::populateEffectData()
 {
-    if (!guarded("-[MyDocument populateEffectData]", [this] { build(); }))
+    if (!guarded("EffectInventory::populateEffectData", [this] { build(); }))
         m_document.noteIncomplete();
     m_document.setPopulating(Tab::Effects, false);
     bool isShowing = false;
@@ -102,7 +102,7 @@ void EffectInventory::build()
 
 void EffectInventory::populateFilteredEffectData()
 {
-    guarded("-[MyDocument populateFilteredEffectData]", [this] {
+    guarded("EffectInventory::populateFilteredEffectData", [this] {
         QVLog::appendLog(u"Filtering effects...");
         View view;
         if (m_document.mainThread()->runAndWait([&] { view = snapshot(); })) {

@@ -26,12 +26,6 @@ QString capitalized(const QString &text)
     return result;
 }
 
-void setIfThere(RowRecord &record, TypedKey<QString> key, const std::optional<QString> &value)
-{
-    if (value)
-        record.set(key, *value);
-}
-
 } // namespace
 
 XmlNodeList EffectReader::effectElements(XmlNode document, std::int64_t xmlType)
@@ -61,7 +55,7 @@ RowRecordPtr EffectReader::recordOf(XmlNode element)
                 element.isElement("generatoritem") ? EffectType::generator : EffectType::filter);
     record->set(EffectKey::effectElement, element);
     if (const XmlNode effect = effectChild.first(element)) {
-        setIfThere(*record, EffectKey::name, shared(QVXMLParser::nameForNode(effect)));
+        record->setIfThere(EffectKey::name, shared(QVXMLParser::nameForNode(effect)));
         if (const std::optional<QString> type = mediaTypeText.firstText(effect)) {
             if (m_lastMediaType.isNull() || m_lastMediaType != *type) {
                 m_lastMediaType = *type;
@@ -72,13 +66,13 @@ RowRecordPtr EffectReader::recordOf(XmlNode element)
     }
     lookAround(element.parent());
     if (m_sequence) {
-        setIfThere(*record, EffectKey::sequence, m_sequence->name);
-        setIfThere(*record, EffectKey::sequenceUUID, m_sequence->uuid);
+        record->setIfThere(EffectKey::sequence, m_sequence->name);
+        record->setIfThere(EffectKey::sequenceUUID, m_sequence->uuid);
     }
     if (m_clip) {
-        setIfThere(*record, EffectKey::clip, m_clip->name);
-        setIfThere(*record, EffectKey::clipUUID, m_clip->uuid);
-        setIfThere(*record, EffectKey::clipID, m_clip->id);
+        record->setIfThere(EffectKey::clip, m_clip->name);
+        record->setIfThere(EffectKey::clipUUID, m_clip->uuid);
+        record->setIfThere(EffectKey::clipID, m_clip->id);
     }
     return record;
 }
@@ -105,7 +99,7 @@ EffectReader::Surroundings EffectReader::surroundingsAt(XmlNode element)
         enter(*below, around);
         m_surroundings.emplace(*below, around);
     }
-    // Effects stand side by side, so that this one is not asked for again: it needs no place in the table.
+    // Effects stand side by side, so that this one is not asked for again: it needs no entry in the table.
     enter(element, around);
     return around;
 }

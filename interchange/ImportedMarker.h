@@ -19,7 +19,7 @@ inline const TypedKey<QString> color(u"color");
 inline const TypedKey<QString> parentName(u"parentName");
 /// "Clip" or "Sequence".
 inline const TypedKey<QString> parentType(u"parentType");
-/// The place on the sequence, in place of the start timecode where timecodes are not asked for.
+/// The position on the sequence, instead of the start timecode where timecodes are not asked for.
 inline const TypedKey<double> seconds(u"seconds");
 } // namespace ImportedMarkerKey
 

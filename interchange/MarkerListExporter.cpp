@@ -3,12 +3,11 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerKeys.h"
+#include "markers/MarkerTableValues.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/FileUtilities.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/text/TextNumbers.h"
-#include "timecode/QVTimecode.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -37,22 +36,6 @@ QString commentOf(const RowRecord &marker)
     return marker.get(MarkerKey::comment).trimmed();
 }
 
-QString startOf(const RowRecord &marker)
-{
-    return MyDocument::timecodeFromFrameCount(intValue(marker.get(MarkerKey::in)), marker);
-}
-
-QString durationOf(const RowRecord &marker)
-{
-    const qint64 out = integerValue(marker.get(MarkerKey::out));
-    if (out < 0)
-        return QStringLiteral("00:00:00:00");
-    const quint64 frames = quint64(out) - quint64(integerValue(marker.get(MarkerKey::in)));
-    return QVTimecode::timecodeFromFrameCount(frames, marker.get(TimecodeKey::timebase),
-                                              marker.get(TimecodeKey::ntsc),
-                                              marker.get(TimecodeKey::dropFrame), 0);
-}
-
 QString colorOf(const RowRecord &marker)
 {
     const std::int64_t index = marker.get(MarkerKey::color);
@@ -69,15 +52,15 @@ QString sequenceNameOf(const RowRecord &marker)
 void appendFCPLine(QString &text, const RowRecord &marker)
 {
     const bool onClip = marker.contains(MarkerKey::clipName);
-    appendLine(text,
-               {onClip ? marker.get(MarkerKey::clipName) : sequenceNameOf(marker),
-                onClip ? QStringLiteral("Clip") : QStringLiteral("Sequence"), marker.get(MarkerKey::name),
-                commentOf(marker), startOf(marker), durationOf(marker), colorOf(marker)});
+    appendLine(text, {onClip ? marker.get(MarkerKey::clipName) : sequenceNameOf(marker),
+                      onClip ? QStringLiteral("Clip") : QStringLiteral("Sequence"),
+                      marker.get(MarkerKey::name), commentOf(marker), MarkerTableValues::inText(marker),
+                      MarkerTableValues::outText(marker), colorOf(marker)});
 }
 
 void appendAvidLine(QString &text, const RowRecord &marker)
 {
-    appendLine(text, {marker.get(MarkerKey::name), startOf(marker), QStringLiteral("V1"),
+    appendLine(text, {marker.get(MarkerKey::name), MarkerTableValues::inText(marker), QStringLiteral("V1"),
                       QStringLiteral("red"), commentOf(marker)});
 }
 
@@ -114,7 +97,7 @@ bool MarkerListExporter::markerSaveDialogDidEnd(const QString &path, int returnC
     if (returnCode != MarkerListPanel::accepted)
         return true;
     bool isWritten = false;
-    guarded("-[MyDocument markerSaveDialogDidEnd:returnCode:contextInfo:]", [&] {
+    guarded("MarkerListExporter::markerSaveDialogDidEnd", [&] {
         const Result<void> written = FileUtilities::writeAtomically(path, textOfMarkerList(format).toUtf8());
         isWritten = written.isOk();
         if (!isWritten)

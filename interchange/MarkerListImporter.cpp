@@ -55,7 +55,7 @@ MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnC
     if (returnCode != MarkerListPanel::accepted)
         return std::nullopt;
     Progress progress;
-    guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
+    guarded("MarkerListImporter::markerOpenDialogDidEnd", [&] {
         const Rows rows = rowsOfFiles(paths, format);
         if (rows.rows.empty()) {
             tellNothingToImport();
@@ -75,10 +75,10 @@ MarkerListImporter::Rows MarkerListImporter::rowsOfFiles(const QStringList &path
         const RowList found = rowsOfFile(path, format, &lines).value_or(RowList());
         const QString file = paths.size() > 1 ? QFileInfo(path).fileName() + QStringLiteral(", ") : QString();
         for (std::size_t i = 0; i < found.size(); ++i) {
-            const QString place = lines.empty() ? QStringLiteral("marker %1").arg(i + 1)
-                                                : QStringLiteral("line %1").arg(lines[i]);
+            const QString source = lines.empty() ? QStringLiteral("marker %1").arg(i + 1)
+                                                 : QStringLiteral("line %1").arg(lines[i]);
             all.rows.push_back(found[i]);
-            all.places.append(file + place);
+            all.sources.append(file + source);
         }
     }
     return all;
@@ -97,22 +97,22 @@ MarkerListImporter::addMarkers(const Rows &rows, Progress progress,
                                std::optional<std::chrono::milliseconds> limit) const
 {
     const auto start = std::chrono::steady_clock::now();
-    guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
+    guarded("MarkerListImporter::addMarkers", [&] {
         while (progress.next < rows.rows.size() && !m_document.isClosing()) {
             const std::size_t index = progress.next++;
             const RowRecord &row = *rows.rows[index];
             QString reason = QStringLiteral("There is no sequence to add it to.");
-            // The name of a parent is no item of the sequence menu, so that none is chosen.
+            // The name of a parent is not looked for in the sequence menu.
             const RowRecordPtr added = m_editor.addMarkerWithName(
                 row.text(ImportedMarkerKey::name), row.text(ImportedMarkerKey::startTimecode),
                 row.text(ImportedMarkerKey::durationTimecode), row.text(ImportedMarkerKey::comment),
-                row.text(ImportedMarkerKey::color), nullptr,
+                row.text(ImportedMarkerKey::color), std::nullopt,
                 [&reason](const QString &given) { reason = given; });
             if (added)
                 ++progress.added;
             else
                 progress.rejected.push_back(
-                    {rows.places.at(qsizetype(index)), row.text(ImportedMarkerKey::name), reason.trimmed()});
+                    {rows.sources.at(qsizetype(index)), row.text(ImportedMarkerKey::name), reason.trimmed()});
             if (limit && std::chrono::steady_clock::now() - start >= *limit)
                 break;
         }
@@ -122,7 +122,7 @@ MarkerListImporter::addMarkers(const Rows &rows, Progress progress,
 
 QString MarkerListImporter::Rejected::text() const
 {
-    return QStringLiteral("%1, “%2”: %3").arg(place, name, reason);
+    return QStringLiteral("%1, “%2”: %3").arg(source, name, reason);
 }
 
 void MarkerListImporter::tellOfRejected(const Progress &progress) const

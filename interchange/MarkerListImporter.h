@@ -35,13 +35,13 @@ public:
     /// The rows of several files, in their order.
     struct Rows {
         RowList rows;
-        /// Where each one stands: the file's name, where there are several files, and the line, counted from
-        /// 1; of an interchange file the number of the marker.
-        QStringList places;
+        /// Where each one comes from: the file's name, where there are several files, and the line, counted
+        /// from 1; of an interchange file the number of the marker.
+        QStringList sources;
     };
     /// A row that no marker could be made of.
     struct Rejected {
-        QString place;
+        QString source;
         QString name;
         QString reason;
 
@@ -74,7 +74,7 @@ public:
     /// one. Stops when the document is being closed.
     Progress addMarkers(const Rows &rows, Progress progress,
                         std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
-    /// One alert for all rows that were rejected, the first twenty with their places and reasons; nothing
+    /// One alert for all rows that were rejected, the first twenty with their sources and reasons; nothing
     /// when none was.
     void tellOfRejected(const Progress &progress) const;
 

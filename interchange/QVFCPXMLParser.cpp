@@ -61,7 +61,7 @@ double secondsOfAttribute(XmlNode element, const char *name)
     return QVFCPXMLParser::secondsFromTimeString(element.attribute(name));
 }
 
-/// The marker's place on the sequence, in seconds; nothing when it lies outside the used part of its
+/// The marker's position on the sequence, in seconds; nothing when it lies outside the used part of its
 /// item. Both ends belong to that part.
 std::optional<double> positionOf(XmlNode marker)
 {

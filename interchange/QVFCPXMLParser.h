@@ -29,11 +29,11 @@ public:
     static quint64 framesFromTimeString(const QString &time, quint64 frameDuration);
 
     /// The markers of the file in its order, with the keys of ImportedMarkerKey: the name, then the
-    /// place on the sequence, as "startTimecode" or, without useTimecode, as "seconds". A marker element
+    /// position on the sequence, as "startTimecode" or, without useTimecode, as "seconds". A marker element
     /// that has no value attribute gives a row without any key. A marker outside the used part of its
     /// item is left out. Empty for a file that cannot be read, is not well-formed or is something else.
     ///
-    /// stripDuplicates keeps the first marker only of those at one place. mainStorylineOnly leaves out
+    /// stripDuplicates keeps the first marker only of those at one position. mainStorylineOnly leaves out
     /// connected clips and all else that does not lie directly on the first spine; it is on, and the
     /// others off, where they are not given. With a relativeHour of 0 or more the timecode's hour is 0
     /// when it equals that, and that much more when it is less; ":" then separates all its fields.

@@ -1,4 +1,4 @@
-// Edits of the marker table's selected rows.
+// Edits of the marker table's cells.
 
 #include "markers/MarkerCandidates.h"
 #include "markers/MarkerInventory.h"
@@ -17,13 +17,11 @@ namespace vantrell
 namespace
 {
 
-/// A null text removes the key.
-void setOrRemove(RowRecord &record, TypedKey<QString> key, const QString &value)
+void setOrRemove(RowRecord &record, const TypedKey<QString> &key, const std::optional<QString> &value)
 {
-    if (value.isNull())
+    if (!value)
         record.remove(key);
-    else
-        record.set(key, value);
+    record.setIfThere(key, value);
 }
 
 /// A frame count as positions are written.
@@ -32,12 +30,33 @@ QString positionText(quint64 frames)
     return formatText(u"%i", frames);
 }
 
+/// In frames.
+quint64 offsetOf(const QString &text, const RowList &table)
+{
+    static const QString separators = QStringLiteral(":;,.");
+    const bool isTimecode =
+        std::any_of(text.begin(), text.end(), [](QChar c) { return separators.contains(c); });
+    if (!isTimecode)
+        return quint64(integerValue(text));
+    const bool negative = text.startsWith(QLatin1Char('-'));
+    const QString timecode = QVTimecode::timecodeFromUserString(negative ? text.sliced(1) : text, false,
+                                                                QStringLiteral("00:00:00:00"));
+    const std::int64_t timebase = table.empty() ? 30 : table.front()->get(TimecodeKey::timebase);
+    const bool ntsc = table.empty() || table.front()->get(TimecodeKey::ntsc);
+    const quint64 frames = QVTimecode::frameCountFromTimecode(timecode, timebase, ntsc, false, 0);
+    return negative ? 0 - frames : frames;
+}
+
 } // namespace
 
 void MarkerEditor::setObjectValue(const QString &text, const QString &column)
 {
-    guarded("-[MyDocument tableView:setObjectValue:forTableColumn:row:]", [&] {
-        const RowList records = selectedRecords();
+    setValue(m_document.selectedRecords(Tab::Markers), column, text);
+}
+
+void MarkerEditor::setValue(const RowList &records, const QString &column, const QString &text)
+{
+    guarded("MarkerEditor::setValue", [&] {
         if (records.empty())
             return;
         if (column == MarkerKey::sequence.text()) {
@@ -134,8 +153,8 @@ void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
         return;
     record->set(MarkerKey::clipIndex, item);
     record->set(MarkerKey::clip, clip);
-    setOrRemove(*record, MarkerKey::clipID, QVXMLParser::idAttributeForNode(clip).value_or(QString()));
-    setOrRemove(*record, MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip).value_or(QString()));
+    setOrRemove(*record, MarkerKey::clipID, QVXMLParser::idAttributeForNode(clip));
+    setOrRemove(*record, MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip));
     record->set(MarkerKey::clipName, *name);
     SequenceTiming::ofFirstTexts(sequence).store(*record);
     record->set(MarkerKey::in, in);
@@ -154,10 +173,9 @@ void MarkerEditor::listUnderOwn(const RowRecordPtr &record)
         return;
     if (!m_ownerIndexes)
         m_ownerIndexes.emplace(m_document);
-    const auto given = [](const QString &text) { return text.isNull() ? std::nullopt : std::optional(text); };
     const OwnOwner own = OwnOwner::ofMarkersIn(record->get(MarkerKey::markerElement).parent());
     const SequenceInfo &info = sequences().infoOf(own.sequence);
-    RowRecord keys = own.sequenceKeys(*m_ownerIndexes, given(info.uuid), given(info.name));
+    RowRecord keys = own.sequenceKeys(*m_ownerIndexes, info.uuid, info.name);
     keys.merge(own.clipKeys(*m_ownerIndexes));
     for (const RecordKey &key : std::initializer_list<RecordKey>{
              MarkerKey::sequenceUUID, MarkerKey::sequenceName, MarkerKey::sequenceIndex, MarkerKey::clip,
@@ -177,32 +195,19 @@ XmlNode MarkerEditor::sequenceAt(std::int64_t item) const
 
 void MarkerEditor::offsetMarkers(const QString &text)
 {
-    guarded("-[MyDocument offsetMarkers:]", [&] {
-        const quint64 offset = quint64(offsetOf(text));
-        Candidates candidates(m_document, nullptr);
-        for (const RowRecordPtr &record : selectedRecords()) {
-            const quint64 in = quint64(integerValue(record->get(MarkerKey::in)));
-            update(record, MarkerKey::in.text(), positionText(in + offset), candidates);
-        }
-    });
+    offset(m_document.selectedRecords(Tab::Markers), text, m_document.rowsOnShow(Tab::Markers));
 }
 
-/// In frames.
-std::int64_t MarkerEditor::offsetOf(const QString &text) const
+void MarkerEditor::offset(const RowList &records, const QString &text, const RowList &table)
 {
-    static const QString separators = QStringLiteral(":;,.");
-    const bool isTimecode =
-        std::any_of(text.begin(), text.end(), [](QChar c) { return separators.contains(c); });
-    if (!isTimecode)
-        return integerValue(text);
-    const bool negative = text.startsWith(QLatin1Char('-'));
-    const QString timecode = QVTimecode::timecodeFromUserString(negative ? text.sliced(1) : text, false,
-                                                                QStringLiteral("00:00:00:00"));
-    const RowList &rows = m_document.rowsOnShow(Tab::Markers);
-    const std::int64_t timebase = rows.empty() ? 30 : rows.front()->get(TimecodeKey::timebase);
-    const bool ntsc = rows.empty() || rows.front()->get(TimecodeKey::ntsc);
-    const quint64 frames = QVTimecode::frameCountFromTimecode(timecode, timebase, ntsc, false, 0);
-    return std::int64_t(negative ? 0 - frames : frames);
+    guarded("MarkerEditor::offset", [&] {
+        const quint64 frames = offsetOf(text, table);
+        Candidates candidates(m_document, nullptr);
+        for (const RowRecordPtr &record : records) {
+            const quint64 in = quint64(integerValue(record->get(MarkerKey::in)));
+            update(record, MarkerKey::in.text(), positionText(in + frames), candidates);
+        }
+    });
 }
 
 void MarkerEditor::reloadTable()

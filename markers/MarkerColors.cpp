@@ -17,7 +17,7 @@ Channels channelsOf(const MarkerColor &color)
     return {0, color.red, color.green, color.blue};
 }
 
-/// The place of the element's name among the channels; their number for another element or node.
+/// The index of the element's name among the channels; their number for another element or node.
 std::size_t channelOf(XmlNode node)
 {
     std::size_t channel = 0;

@@ -10,12 +10,16 @@
 #include "support/log/QVException.h"
 #include "support/text/TextFormat.h"
 #include "timecode/QVTimecode.h"
-#include "xml/QVXMLParser.h"
-
-#include <functional>
 
 namespace vantrell
 {
+
+namespace
+{
+
+const QString internalError = QStringLiteral("An internal error occurred; the log tells more.");
+
+} // namespace
 
 MarkerEditor::MarkerEditor(MyDocument &document, MarkerInventory &inventory)
     : m_document(document)
@@ -25,7 +29,7 @@ MarkerEditor::MarkerEditor(MyDocument &document, MarkerInventory &inventory)
 
 void MarkerEditor::addMarker()
 {
-    guarded("-[MyDocument addMarker:]", [this] {
+    guarded("MarkerEditor::addMarker", [this] {
         if (m_document.sequenceMenu()->size() < 2) {
             QVAlert::alertSheetWithMessageText(
                 QStringLiteral("Unable to add marker"),
@@ -47,46 +51,51 @@ void MarkerEditor::addMarker()
 
 RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                              const QString &comment, const QString &colorName,
-                                             const MenuItem *parentItem, const Rejected &rejected)
+                                             std::optional<std::int64_t> parentItem, const Rejected &rejected)
 {
     RowRecordPtr record;
-    guarded("-[MyDocument addMarkerWithName:inPoint:outPoint:comment:colorName:parentName:]",
-            [&] { record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected); });
+    const bool ended = guarded("MarkerEditor::addMarkerWithName", [&] {
+        record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected);
+    });
+    if (!ended && rejected)
+        rejected(internalError);
     return record;
 }
 
 RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString &startTimecode,
                                              const QString &durationTimecode, const QString &comment,
-                                             const QString &colorName, const MenuItem *parentItem,
+                                             const QString &colorName, std::optional<std::int64_t> parentItem,
                                              const Rejected &rejected)
 {
     RowRecordPtr record;
-    guarded("-[MyDocument addMarkerWithName:startTimecode:durationTimecode:comment:colorName:parentName:]",
-            [&] {
-                const XmlNode sequence = parentSequence(parentItem);
-                if (!sequence)
-                    return;
-                const SequenceTiming timing = sequences().infoOf(sequence).timing;
-                const auto frames = [&timing](const QString &timecode) {
-                    return QVTimecode::frameCountFromTimecode(timecode, timing.timebase, timing.ntsc,
-                                                              timing.dropFrame, quint64(timing.startFrame));
-                };
-                const quint64 in = frames(startTimecode);
-                const quint64 duration = frames(durationTimecode);
-                const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
-                record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem, rejected);
-            });
+    const bool ended = guarded("MarkerEditor::addMarkerWithName", [&] {
+        const XmlNode sequence = parentSequence(parentItem);
+        if (!sequence)
+            return;
+        const SequenceTiming timing = sequences().infoOf(sequence).timing;
+        const auto frames = [&timing](const QString &timecode) {
+            return QVTimecode::frameCountFromTimecode(timecode, timing.timebase, timing.ntsc,
+                                                      timing.dropFrame, quint64(timing.startFrame));
+        };
+        const quint64 in = frames(startTimecode);
+        const quint64 duration = frames(durationTimecode);
+        const std::int64_t out = std::int64_t(duration) < 1 ? -1 : std::int64_t(in + duration);
+        record = addElement(name, std::int64_t(in), out, comment, colorName, parentItem, rejected);
+    });
+    if (!ended && rejected)
+        rejected(internalError);
     return record;
 }
 
 RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                       const QString &comment, const QString &colorName,
-                                      const MenuItem *parentItem, const Rejected &rejected)
+                                      std::optional<std::int64_t> parentItem, const Rejected &rejected)
 {
     XmlDocument *tree = m_document.xmlDoc();
     if (!tree)
         return nullptr;
-    const Result<XmlNode> made = MarkerElement::make(*tree, name, comment, inPoint, outPoint);
+    const int color = MarkerColors::indexOfName(colorName);
+    const Result<XmlNode> made = MarkerElement::make(*tree, name, comment, color, inPoint, outPoint);
     if (!made) {
         if (rejected)
             rejected(made.message());
@@ -95,28 +104,18 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
                                                m_document.interface().alertParent());
         return nullptr;
     }
-    const XmlNode marker = made.value();
-    const int color = MarkerColors::indexOfName(colorName);
-    sequences().synchronize();
-    if (color > 0)
-        MarkerColors::setXMLMarkerColorIndex(color, marker.childElement("color"));
     const XmlNode sequence = parentSequence(parentItem);
-    if (!sequence) {
-        sequences().didChange();
+    if (!sequence)
         return nullptr;
-    }
-    tree->moveTo(marker, sequence);
-    sequences().didAppend(marker, sequence);
+    sequences().append(made.value(), sequence);
 
     const SequenceInfo &info = sequences().infoOf(sequence);
     const auto record = std::make_shared<RowRecord>();
-    record->set(MarkerKey::markerElement, marker);
+    record->set(MarkerKey::markerElement, made.value());
     record->set(MarkerKey::sequence, sequence);
     record->set(MarkerKey::sequenceIndex, 1);
-    if (!info.uuid.isNull())
-        record->set(MarkerKey::sequenceUUID, info.uuid);
-    if (!info.name.isNull())
-        record->set(MarkerKey::sequenceName, info.name);
+    record->setIfThere(MarkerKey::sequenceUUID, info.uuid);
+    record->setIfThere(MarkerKey::sequenceName, info.name);
     info.timing.store(*record);
     if (!name.isNull())
         record->set(MarkerKey::name, name);
@@ -127,25 +126,15 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
     record->set(MarkerKey::out, formatText(u"%i", outPoint));
     listUnderOwn(record);
     addRecord(record);
-    noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
+    m_document.markSequenceModified(record->get(MarkerKey::sequenceUUID));
     return record;
 }
 
-/// The index of the item, or 1 when it is no item of the sequence menu.
-std::int64_t MarkerEditor::parentIndex(const MenuItem *parentItem) const
+XmlNode MarkerEditor::parentSequence(std::optional<std::int64_t> parentItem) const
 {
-    const MenuPtr menu = m_document.sequenceMenu();
-    const MenuItem *first = menu->data();
     const bool isItem =
-        std::greater_equal<>()(parentItem, first) && std::less<>()(parentItem, first + menu->size());
-    return isItem ? parentItem - first : 1;
-}
-
-XmlNode MarkerEditor::parentSequence(const MenuItem *parentItem) const
-{
-    const MenuPtr menu = m_document.sequenceMenu();
-    const auto index = std::size_t(parentIndex(parentItem));
-    return index < menu->size() ? (*menu)[index].element : XmlNode();
+        parentItem && *parentItem >= 0 && *parentItem < std::int64_t(m_document.sequenceMenu()->size());
+    return sequenceAt(isItem ? *parentItem : 1);
 }
 
 void MarkerEditor::addRecord(const RowRecordPtr &record)
@@ -158,11 +147,17 @@ void MarkerEditor::addRecord(const RowRecordPtr &record)
 
 void MarkerEditor::removeMarkers()
 {
-    guarded("-[MyDocument removeMarkers:]", [this] {
-        const RowList rows = selectedRecords();
-        if (rows.empty())
+    if (remove(m_document.selectedRecords(Tab::Markers)))
+        m_document.interface().selectRows(Tab::Markers, {});
+}
+
+bool MarkerEditor::remove(const RowList &records)
+{
+    bool isRemoved = false;
+    guarded("MarkerEditor::remove", [&] {
+        if (records.empty())
             return;
-        const bool one = rows.size() == 1;
+        const bool one = records.size() == 1;
         const int answer = QVAlert::alertSheetWithMessageText(
             formatText(u"Are you sure you wish to remove %@ marker%@?", one ? u"this" : u"these",
                        one ? u"" : u"s"),
@@ -172,19 +167,15 @@ void MarkerEditor::removeMarkers()
         if (answer != AlertAnswer::Default ||
             m_document.refusesWhileSaving(QStringLiteral("Unable to remove marker")))
             return;
-        removeRows(rows);
+        for (const RowRecordPtr &record : records) {
+            removeXMLMarker(record);
+            freeSlots().remove(*record);
+        }
+        m_document.removeRows(Tab::Markers, records);
         m_inventory.populateFilteredMarkerData();
-        m_document.interface().selectRows(Tab::Markers, {});
+        isRemoved = true;
     });
-}
-
-void MarkerEditor::removeRows(const RowList &rows)
-{
-    for (const RowRecordPtr &record : rows) {
-        removeXMLMarker(record);
-        freeSlots().remove(*record);
-    }
-    m_document.removeRows(Tab::Markers, rows);
+    return isRemoved;
 }
 
 void MarkerEditor::dropRemovedMarkers()
@@ -216,17 +207,8 @@ void MarkerEditor::removeXMLMarker(const RowRecordPtr &record)
     const XmlNode marker = record->get(MarkerKey::markerElement);
     if (!isInProject(marker, QStringLiteral("Unable to remove marker")))
         return;
-    sequences().willDetach(marker);
     tree->remove(marker);
-    sequences().didChange();
-    noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
-}
-
-void MarkerEditor::noteSequenceChanged(const QString &uuid)
-{
-    if (!uuid.isNull() && !m_document.isSequenceModified(uuid))
-        m_document.addModifiedSequenceUUID(uuid);
-    m_document.updateChangeCount();
+    m_document.markSequenceModified(record->get(MarkerKey::sequenceUUID));
 }
 
 /// Only with a tree.
@@ -244,17 +226,6 @@ FreeMarkerSlots &MarkerEditor::freeSlots()
         m_slotsGeneration = m_inventory.generation();
     }
     return *m_freeSlots;
-}
-
-RowList MarkerEditor::selectedRecords() const
-{
-    RowList records;
-    const RowList &rows = m_document.rowsOnShow(Tab::Markers);
-    for (const std::size_t row : m_document.interface().selectedRows(Tab::Markers)) {
-        if (row < rows.size())
-            records.push_back(rows[row]);
-    }
-    return records;
 }
 
 } // namespace vantrell

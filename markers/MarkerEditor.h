@@ -16,6 +16,9 @@ class MarkerInventory;
 
 /// Every change to markers: writes it into the tree, keeps the records in step, and marks the sequence
 /// and the document changed. Main thread, once every inventory of the document has ended.
+///
+/// What takes records changes those, in their order, whatever is selected or on show. The actions of the
+/// window pass the selected records.
 class MarkerEditor
 {
 public:
@@ -32,22 +35,27 @@ public:
     using Rejected = std::function<void(const QString &reason)>;
 
     /// Adds a marker with its in and out point in frames, of which the low 32 bits count. A null comment
-    /// is none. The marker goes to the sequence of the parent item; without one (null), or with one that
-    /// is no item of the sequence menu, to the first sequence. Null when there is no such sequence, and when
+    /// is none. The marker goes to the sequence of that item of the sequence menu; without one (nothing), or
+    /// with an index beyond the menu, to the first sequence. Null when there is no such sequence, and when
     /// the name or comment breaks the XML that the marker is made from or adds to it: then `rejected` is
     /// told why; without it (empty) an alert.
     RowRecordPtr addMarkerWithName(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                    const QString &comment, const QString &colorName,
-                                   const MenuItem *parentItem = nullptr, const Rejected &rejected = {});
+                                   std::optional<std::int64_t> parentItem = std::nullopt,
+                                   const Rejected &rejected = {});
     /// The same with timecodes of that sequence. A duration of less than one frame is none.
     RowRecordPtr addMarkerWithName(const QString &name, const QString &startTimecode,
                                    const QString &durationTimecode, const QString &comment,
-                                   const QString &colorName, const MenuItem *parentItem = nullptr,
+                                   const QString &colorName,
+                                   std::optional<std::int64_t> parentItem = std::nullopt,
                                    const Rejected &rejected = {});
 
     // Removing
 
-    /// The Remove button: removes the selected rows when the user agrees.
+    /// Removes the markers when the user agrees. False, and nothing changed, when not, while the project is
+    /// being saved and without records.
+    bool remove(const RowList &records);
+    /// The Remove button: the same with the selected rows, which leaves none selected.
     void removeMarkers();
     /// Drops the rows of markers whose elements are no longer in the tree, as they went with an effect.
     void dropRemovedMarkers();
@@ -69,12 +77,16 @@ public:
     /// The in point in frames that the marker gets in a new parent of the type "sequence" or "clip".
     static QString inPointForObject(const RowRecord &record, XmlNode newParent, const QString &type);
 
-    /// Moves the in points of the selected rows by frames or, when the text holds one of ":;,.", by a
-    /// timecode.
+    /// Moves the in points by frames or, when the text holds one of ":;,.", by a timecode. That counts at the
+    /// rate of the first row of the table, whether it is moved or not; at 29.97 frames in an empty one.
+    void offset(const RowList &records, const QString &text, const RowList &table);
+    /// The sheet's button: the same with the selected rows of those on show.
     void offsetMarkers(const QString &text);
 
-    /// Edits the cell of the column in the selected rows, as typed. For "sequence" and "clip" the text is
-    /// a place in the cell's menu, and only the first selected row changes.
+    /// Edits the column's cell of the records, as typed. For "sequence" and "clip" the text is an index in
+    /// the cell's menu, and only the first record changes.
+    void setValue(const RowList &records, const QString &column, const QString &text);
+    /// The same with the selected rows.
     void setObjectValue(const QString &text, const QString &column);
 
 private:
@@ -82,12 +94,10 @@ private:
     class Candidates;
 
     RowRecordPtr addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
-                            const QString &comment, const QString &colorName, const MenuItem *parentItem,
-                            const Rejected &rejected);
-    std::int64_t parentIndex(const MenuItem *parentItem) const;
-    XmlNode parentSequence(const MenuItem *parentItem) const;
+                            const QString &comment, const QString &colorName,
+                            std::optional<std::int64_t> parentItem, const Rejected &rejected);
+    XmlNode parentSequence(std::optional<std::int64_t> parentItem) const;
     void addRecord(const RowRecordPtr &record);
-    void removeRows(const RowList &rows);
 
     void update(const RowRecordPtr &record, const QString &key, const QString &value, Candidates &candidates);
     void writeChild(XmlNode marker, const QString &name, const QString &text);
@@ -100,11 +110,8 @@ private:
     void moveToSequence(const RowRecordPtr &record, XmlNode sequence, std::int64_t item);
     void moveToClip(const RowRecordPtr &record, std::int64_t item);
     XmlNode sequenceAt(std::int64_t item) const;
-    RowList selectedRecords() const;
-    std::int64_t offsetOf(const QString &text) const;
     void reloadTable();
 
-    void noteSequenceChanged(const QString &uuid);
     SequenceInfoCache &sequences();
     FreeMarkerSlots &freeSlots();
 

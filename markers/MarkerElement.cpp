@@ -1,5 +1,6 @@
 #include "markers/MarkerElement.h"
 
+#include "markers/MarkerColors.h"
 #include "support/text/TextFormat.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlReferences.h"
@@ -7,13 +8,15 @@
 namespace vantrell::MarkerElement
 {
 
-Result<XmlNode> make(XmlDocument &document, const QString &name, const QString &comment, std::int64_t inPoint,
-                     std::int64_t outPoint)
+Result<XmlNode> make(XmlDocument &document, const QString &name, const QString &comment, int color,
+                     std::int64_t inPoint, std::int64_t outPoint)
 {
-    const QString text = formatText(
-        u"<marker><name>%@</name><comment>%@</comment><color><alpha>0</alpha><red>255</red>"
-        u"<green>0</green><blue>0</blue></color><in>%i</in><out>%i</out></marker>",
-        QVXMLParser::escapeQueryString(name), QVXMLParser::escapeQueryString(comment), inPoint, outPoint);
+    const MarkerColor &rgb = MarkerColors::table()[std::size_t(color)];
+    const QString text =
+        formatText(u"<marker><name>%@</name><comment>%@</comment><color><alpha>0</alpha><red>%i</red>"
+                   u"<green>%i</green><blue>%i</blue></color><in>%i</in><out>%i</out></marker>",
+                   QVXMLParser::escapeQueryString(name), QVXMLParser::escapeQueryString(comment), rgb.red,
+                   rgb.green, rgb.blue, inPoint, outPoint);
     // A character beyond the basic plane is escaped as the two halves of its surrogate pair.
     Result<XmlNode> made =
         document.elementFromText(QString::fromUtf8(XmlReferences::joinedSurrogates(text.toUtf8())));

@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
 
 #include <algorithm>
@@ -177,14 +178,14 @@ void MarkerFields::load()
 std::vector<MarkerField> MarkerFields::storedFields() const
 {
     std::vector<MarkerField> fields;
-    const PropertyListValue stored = m_defaults->value(defaultsKey);
-    for (const PropertyListValue &entry : stored.toArray()) {
-        const PropertyListDictionary &definition = entry.toDictionary();
+    const QVariant stored = m_defaults->value(defaultsKey);
+    for (const QVariant &entry : stored.toList()) {
+        const QVariantMap definition = entry.toMap();
         MarkerField field;
         field.identifier = definition.value(identifierKey).toString();
         field.title = definition.value(titleKey).toString();
         if (definition.contains(colIndexKey))
-            field.colIndex = definition.value(colIndexKey).toInteger();
+            field.colIndex = PropertyList::integer(definition.value(colIndexKey));
         fields.push_back(field);
     }
     return fields;
@@ -194,9 +195,9 @@ void MarkerFields::store()
 {
     if (!m_defaults)
         return;
-    PropertyListValue::Array definitions;
+    QVariantList definitions;
     for (const MarkerField &field : m_markerFieldArray) {
-        PropertyListDictionary definition;
+        QVariantMap definition;
         definition.insert(identifierKey, field.identifier);
         definition.insert(titleKey, field.title);
         if (field.colIndex)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
 #include <QString>
 
 #include <optional>
@@ -17,7 +15,7 @@ class UserDefaults;
 struct MarkerField {
     QString identifier; ///< empty until the field has got its first title
     QString title;
-    std::optional<qint64> colIndex; ///< place of its column, once the user has moved it
+    std::optional<qint64> colIndex; ///< index of its column, once the user has moved it
 };
 
 /// The custom marker fields of a document and their columns in the marker table. The definitions are
@@ -55,7 +53,7 @@ public:
     /// The cell of the column "title" or "identifier". Nothing happens for another one.
     void setObjectValue(const QString &text, const QString &column, std::size_t row);
 
-    /// The user moved a column of the marker table: a custom field keeps its new place.
+    /// The user moved a column of the marker table: a custom field keeps its new index.
     void columnMoved(const QString &identifier, int newIndex);
 
 private:

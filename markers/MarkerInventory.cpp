@@ -172,7 +172,7 @@ void MarkerInventory::populateFilteredMarkerData()
         RowList rows;
     };
     MainThreadGate &mainThread = *m_document.mainThread();
-    guarded("-[MyDocument populateFilteredMarkerData]", [&] {
+    guarded("MarkerInventory::populateFilteredMarkerData", [&] {
         QVLog::appendLog(u"Filtering markers...");
         View view;
         mainThread.runAndWait([&] {

@@ -35,10 +35,8 @@ public:
     /// Main thread, while no inventory runs.
     void setOwnerListing(OwnerListing listing) { m_listing = listing; }
     OwnerListing ownerListing() const { return m_listing; }
-    /// How many markers populateMarkerData() listed under another sequence or clip than their own. Main
-    /// thread.
-    std::size_t listedUnderOthers() const { return m_listedUnderOthers; }
-    /// Says so, without a full stop; empty when there are none.
+    /// How many markers populateMarkerData() listed under another sequence or clip than their own, as a
+    /// clause without a full stop; empty when there are none. Main thread.
     QString listedUnderOthersText() const;
 
     /// Counts how often the list was replaced by populateMarkerData(). Main thread.

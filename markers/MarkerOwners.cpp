@@ -26,7 +26,7 @@ const MarkerOwners::Owner &MarkerOwners::ownerOfMarkersIn(XmlNode parent)
         return m_owner;
     m_parent = parent;
     m_owner = Owner();
-    const Place &innermost = placeOf(parent);
+    const Ancestor &innermost = nearestAncestor(parent);
     if (innermost.inAngle && !isActiveAngle(innermost.angle)) {
         m_owner.inInactiveAngle = true;
         return m_owner;
@@ -51,28 +51,29 @@ void MarkerOwners::addOwn(const OwnOwner &own)
     m_owner.keys.merge(own.clipKeys(m_indexes));
 }
 
-void MarkerOwners::addByPosition(const Place &innermost)
+void MarkerOwners::addByPosition(const Ancestor &innermost)
 {
-    std::vector<const Place *> places;
-    for (const Place *place = &innermost; place->up; place = place->up)
-        places.push_back(place);
+    std::vector<const Ancestor *> ancestors;
+    for (const Ancestor *ancestor = &innermost; ancestor->up; ancestor = ancestor->up)
+        ancestors.push_back(ancestor);
     XmlNode current;
-    for (auto place = places.rbegin(); place != places.rend() && !m_owner.lacksSequence; ++place) {
-        if ((*place)->kind == Kind::Sequence)
-            addSequence(**place, innermost, current);
-        else if ((*place)->kind != Kind::None)
-            addClip(**place, innermost, current);
+    for (auto ancestor = ancestors.rbegin(); ancestor != ancestors.rend() && !m_owner.lacksSequence;
+         ++ancestor) {
+        if ((*ancestor)->kind == Kind::Sequence)
+            addSequence(**ancestor, innermost, current);
+        else if ((*ancestor)->kind != Kind::None)
+            addClip(**ancestor, innermost, current);
     }
 }
 
-const MarkerOwners::Place &MarkerOwners::placeOf(XmlNode element)
+const MarkerOwners::Ancestor &MarkerOwners::nearestAncestor(XmlNode element)
 {
     std::vector<XmlNode> unknown;
-    const Place *place = &m_root;
+    const Ancestor *ancestor = &m_root;
     for (XmlNode up = element; up.isElement(); up = up.parent()) {
-        const auto known = m_places.find(up);
-        if (known != m_places.end()) {
-            place = known->second;
+        const auto known = m_ancestors.find(up);
+        if (known != m_ancestors.end()) {
+            ancestor = known->second;
             break;
         }
         unknown.push_back(up);
@@ -81,38 +82,38 @@ const MarkerOwners::Place &MarkerOwners::placeOf(XmlNode element)
         const bool matters =
             down->nameStartsWith("sequence") || down->nameStartsWith("clip") || down->nameContains("angle");
         if (matters)
-            place = &addPlace(*down, *place);
-        m_places.emplace(*down, place);
+            ancestor = &addAncestor(*down, *ancestor);
+        m_ancestors.emplace(*down, ancestor);
     }
-    return *place;
+    return *ancestor;
 }
 
-const MarkerOwners::Place &MarkerOwners::addPlace(XmlNode element, const Place &up)
+const MarkerOwners::Ancestor &MarkerOwners::addAncestor(XmlNode element, const Ancestor &up)
 {
-    Place place = up;
-    place.up = &up;
-    place.element = element;
+    Ancestor ancestor = up;
+    ancestor.up = &up;
+    ancestor.element = element;
     if (element.nameStartsWith("sequence"))
-        place.kind = Kind::Sequence;
+        ancestor.kind = Kind::Sequence;
     else if (element.nameStartsWith("clipitem"))
-        place.kind = Kind::ClipItem;
+        ancestor.kind = Kind::ClipItem;
     else
-        place.kind = element.nameStartsWith("clip") ? Kind::Clip : Kind::None;
-    place.inAngle = up.inAngle || element.nameContains("angle");
+        ancestor.kind = element.nameStartsWith("clip") ? Kind::Clip : Kind::None;
+    ancestor.inAngle = up.inAngle || element.nameContains("angle");
     if (element.isElement("angle"))
-        place.angle = element;
+        ancestor.angle = element;
     else if (element.isElement("sequence"))
-        place.sequence = element;
+        ancestor.sequence = element;
     else if (element.isElement("clipitem"))
-        place.clipItem = element;
+        ancestor.clipItem = element;
     else if (element.isElement("clip"))
-        place.clip = element;
-    if (place.sequence == element)
-        place.ownClip = XmlNode();
-    else if (place.clipItem == element || place.clip == element)
-        place.ownClip = element;
-    m_placeList.push_back(place);
-    return m_placeList.back();
+        ancestor.clip = element;
+    if (ancestor.sequence == element)
+        ancestor.ownClip = XmlNode();
+    else if (ancestor.clipItem == element || ancestor.clip == element)
+        ancestor.ownClip = element;
+    m_ancestorList.push_back(ancestor);
+    return m_ancestorList.back();
 }
 
 bool MarkerOwners::isActiveAngle(XmlNode angle)
@@ -144,7 +145,7 @@ const QString &MarkerOwners::stepOf(XmlNode element)
     return m_steps[element];
 }
 
-void MarkerOwners::addSequence(const Place &at, const Place &innermost, XmlNode &current)
+void MarkerOwners::addSequence(const Ancestor &at, const Ancestor &innermost, XmlNode &current)
 {
     const QString &step = stepOf(at.element);
     auto part = m_sequences.constFind(step);
@@ -158,21 +159,17 @@ void MarkerOwners::addSequence(const Place &at, const Place &innermost, XmlNode 
         made.sequence = sequence;
         made.keys.set(MarkerKey::sequence, sequence);
         const std::optional<QString> uuid = QVXMLParser::uuidForNode(sequence);
-        if (uuid)
-            made.keys.set(MarkerKey::sequenceUUID, *uuid);
-        if (const std::optional<QString> name = QVXMLParser::nameForNode(sequence))
-            made.keys.set(MarkerKey::sequenceName, *name);
+        made.keys.setIfThere(MarkerKey::sequenceUUID, uuid);
+        made.keys.setIfThere(MarkerKey::sequenceName, QVXMLParser::nameForNode(sequence));
         SequenceTiming::ofFirstTexts(sequence).store(made.keys);
-        const std::optional<std::int64_t> index = uuid ? m_indexes.ofSequence(*uuid) : std::nullopt;
-        if (index)
-            made.keys.set(MarkerKey::sequenceIndex, *index);
+        made.keys.setIfThere(MarkerKey::sequenceIndex, uuid ? m_indexes.ofSequence(*uuid) : std::nullopt);
         part = m_sequences.insert(step, made);
     }
     m_owner.keys.merge(part->keys);
     current = part->sequence;
 }
 
-void MarkerOwners::addClip(const Place &at, const Place &innermost, XmlNode current)
+void MarkerOwners::addClip(const Ancestor &at, const Ancestor &innermost, XmlNode current)
 {
     const XmlNode track = at.element.parent();
     const auto known = m_clips.find(track);
@@ -187,15 +184,11 @@ void MarkerOwners::addClip(const Place &at, const Place &innermost, XmlNode curr
     RowRecord keys;
     keys.set(MarkerKey::clip, clip);
     const std::optional<QString> id = QVXMLParser::idAttributeForNode(clip);
-    if (id)
-        keys.set(MarkerKey::clipID, *id);
-    if (const std::optional<QString> uuid = QVXMLParser::uuidForNode(clip))
-        keys.set(MarkerKey::clipUUID, *uuid);
+    keys.setIfThere(MarkerKey::clipID, id);
+    keys.setIfThere(MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip));
     keys.set(MarkerKey::clipName, *name);
     SequenceTiming::ofFirstTexts(current).store(keys);
-    const std::optional<std::int64_t> index = id ? m_indexes.ofClip(*id, current) : std::nullopt;
-    if (index)
-        keys.set(MarkerKey::clipIndex, *index);
+    keys.setIfThere(MarkerKey::clipIndex, id ? m_indexes.ofClip(*id, current) : std::nullopt);
     m_owner.keys.merge(keys);
     m_clips.emplace(track, std::move(keys));
 }

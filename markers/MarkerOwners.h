@@ -41,8 +41,8 @@ private:
     enum class Kind { None, Sequence, ClipItem, Clip };
 
     /// A step of location paths that matters for the markers below it.
-    struct Place {
-        const Place *up = nullptr; ///< the nearest such step above
+    struct Ancestor {
+        const Ancestor *up = nullptr; ///< the nearest such step above
         XmlNode element;
         Kind kind = Kind::None;
         bool inAngle = false; ///< a step down to here has "angle" in its name
@@ -58,23 +58,24 @@ private:
         XmlNode sequence;
     };
 
-    const Place &placeOf(XmlNode element);
-    const Place &addPlace(XmlNode element, const Place &up);
+    const Ancestor &nearestAncestor(XmlNode element);
+    const Ancestor &addAncestor(XmlNode element, const Ancestor &up);
     bool isActiveAngle(XmlNode angle);
     const QString &stepOf(XmlNode element);
-    void addSequence(const Place &at, const Place &innermost, XmlNode &current);
-    void addClip(const Place &at, const Place &innermost, XmlNode current);
+    void addSequence(const Ancestor &at, const Ancestor &innermost, XmlNode &current);
+    void addClip(const Ancestor &at, const Ancestor &innermost, XmlNode current);
     void addOwn(const OwnOwner &own);
-    void addByPosition(const Place &innermost);
+    void addByPosition(const Ancestor &innermost);
 
     const OwnerListing m_listing;
     OwnerIndexes m_indexes;
     XmlNode m_parent;
     Owner m_owner; ///< of the markers in m_parent
 
-    const Place m_root;
-    std::deque<Place> m_placeList;
-    std::unordered_map<XmlNode, const Place *> m_places; ///< of elements, themselves or the nearest above
+    const Ancestor m_root;
+    std::deque<Ancestor> m_ancestorList;
+    std::unordered_map<XmlNode, const Ancestor *>
+        m_ancestors; ///< of elements, themselves or the nearest above
     std::unordered_map<XmlNode, bool> m_angles;
     std::unordered_map<XmlNode, QString> m_steps;
 

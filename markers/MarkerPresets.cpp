@@ -57,18 +57,18 @@ bool isFileName(const QString &name)
 }
 
 /// Nothing when there is no such list. What is no file, such as a pipe, is not waited for.
-std::optional<PropertyListDictionary> readPreset(const QString &name)
+std::optional<QVariantMap> readPreset(const QString &name)
 {
     const QString path = pathOf(name);
     if (!QFileInfo(path).isFile())
         return std::nullopt;
-    const Result<PropertyListValue> list = PropertyList::fromFile(path);
-    if (!list || list.value().type() != PropertyListValue::Type::Dictionary) {
+    const Result<QVariant> list = PropertyList::fromFile(path);
+    if (!list || list.value().typeId() != QMetaType::QVariantMap) {
         QVLog::fastAppendLog(u"The marker preset \"%@\" cannot be read: %@", path,
                              list ? QStringLiteral("it is no dictionary") : list.message());
         return std::nullopt;
     }
-    return list.value().toDictionary();
+    return list.value().toMap();
 }
 
 } // namespace
@@ -146,7 +146,7 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
         QDir().mkpath(folder());
         if (!mayWrite(path))
             return false;
-        PropertyListDictionary preset;
+        QVariantMap preset;
         for (std::size_t k = 0; k < m_rows.size(); ++k)
             preset.insert(MarkerColors::table()[k].label, m_rows[k].label);
         written = PropertyList::toFile(preset, path);

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <optional>
 #include <vector>
@@ -56,7 +55,7 @@ public:
     void setObjectValue(const QString &text, const QString &column, std::size_t row);
 
     /// The chosen preset by default label; nothing for "None" and while its file cannot be read.
-    const std::optional<PropertyListDictionary> &markerLabelDict() const { return m_markerLabelDict; }
+    const std::optional<QVariantMap> &markerLabelDict() const { return m_markerLabelDict; }
 
 private:
     void findPresets();
@@ -71,7 +70,7 @@ private:
     QStringList m_items; // "None" and the presets, as in the pop-up
     int m_selected = 0;
     bool m_isStoring = false;
-    std::optional<PropertyListDictionary> m_markerLabelDict;
+    std::optional<QVariantMap> m_markerLabelDict;
     std::vector<MarkerPresetRow> m_rows;
 };
 

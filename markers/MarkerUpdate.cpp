@@ -68,18 +68,6 @@ private:
     std::int64_t lastFrame() const { return difference(difference(end, start), 1); }
 };
 
-/// Whether giving the element another text, or the elements in it when it is a colour, takes elements out
-/// of the tree.
-bool losesElements(XmlNode element, bool isColor)
-{
-    XmlNode child = element.firstChildElement();
-    if (!isColor)
-        return bool(child);
-    while (child && !child.firstChildElement())
-        child = child.nextSiblingElement();
-    return bool(child);
-}
-
 } // namespace
 
 void MarkerEditor::updateXMLMarker(const RowRecordPtr &record, const QString &key, const QString &value)
@@ -90,7 +78,7 @@ void MarkerEditor::updateXMLMarker(const RowRecordPtr &record, const QString &ke
 void MarkerEditor::updateXMLMarker(const RowRecordPtr &record, const QString &key, const QString &value,
                                    const XmlNodeList *markerList)
 {
-    guarded("-[MyDocument updateXMLMarker:key:value:markerList:]", [&] {
+    guarded("MarkerEditor::updateXMLMarker", [&] {
         Candidates candidates(m_document, markerList);
         update(record, key, value, candidates);
     });
@@ -127,7 +115,7 @@ void MarkerEditor::update(const RowRecordPtr &record, const QString &key, const 
         record->set(RecordKey(key), value);
     if (m_freeSlots)
         m_freeSlots->update(*record);
-    noteSequenceChanged(record->get(MarkerKey::sequenceUUID));
+    m_document.markSequenceModified(record->get(MarkerKey::sequenceUUID));
 }
 
 /// Whether an edit of the element would be saved; an alert under that title says when not. True for a null
@@ -146,14 +134,12 @@ void MarkerEditor::writeChild(XmlNode marker, const QString &name, const QString
     const QByteArray elementName = name.toUtf8();
     XmlNode child = marker.childElement({elementName.constData(), std::size_t(elementName.size())});
     const bool isColor = name == colorKey;
-    sequences().willChangeChild(marker, name, losesElements(child, isColor));
     if (!child)
         child = XmlEdit::appendElement(marker, name, text);
     else if (!isColor)
         XmlEdit::setText(child, text);
     if (isColor)
         MarkerColors::setXMLMarkerColorIndex(integerValue(text), child);
-    sequences().didChange();
 }
 
 void MarkerEditor::setXMLMarkerSequence(XmlNode sequence, XmlNode clip, const RowRecordPtr &record)
@@ -164,11 +150,9 @@ void MarkerEditor::setXMLMarkerSequence(XmlNode sequence, XmlNode clip, const Ro
     const XmlNode parent = clip ? clip : sequence;
     if (!isInProject(marker) || !isInProject(parent))
         return;
-    sequences().willDetach(marker);
-    if (m_document.xmlDoc()->moveTo(marker, parent))
-        sequences().didAppend(marker, parent);
+    m_document.xmlDoc()->moveTo(marker, parent);
     if (sequence)
-        noteSequenceChanged(sequences().infoOf(sequence).uuid);
+        m_document.markSequenceModified(sequences().infoOf(sequence).uuid.value_or(QString()));
 }
 
 QString MarkerEditor::inPointForObject(const RowRecord &record, XmlNode newParent, const QString &type)

@@ -7,18 +7,6 @@
 namespace vantrell
 {
 
-namespace
-{
-
-template <typename Key>
-void setIfThere(RowRecord &record, Key key, const std::optional<typename Key::ValueType> &value)
-{
-    if (value)
-        record.set(key, *value);
-}
-
-} // namespace
-
 OwnOwner OwnOwner::ofMarkersIn(XmlNode parent)
 {
     OwnOwner owner;
@@ -38,10 +26,10 @@ RowRecord OwnOwner::sequenceKeys(OwnerIndexes &indexes, const std::optional<QStr
     if (!sequence)
         return keys;
     keys.set(MarkerKey::sequence, sequence);
-    setIfThere(keys, MarkerKey::sequenceUUID, uuid);
-    setIfThere(keys, MarkerKey::sequenceName, name);
+    keys.setIfThere(MarkerKey::sequenceUUID, uuid);
+    keys.setIfThere(MarkerKey::sequenceName, name);
     SequenceTiming::ofFirstTexts(sequence).store(keys);
-    setIfThere(keys, MarkerKey::sequenceIndex, indexes.ofOwnSequence(sequence, uuid.value_or(QString())));
+    keys.setIfThere(MarkerKey::sequenceIndex, indexes.ofOwnSequence(sequence, uuid.value_or(QString())));
     return keys;
 }
 
@@ -52,11 +40,11 @@ RowRecord OwnOwner::clipKeys(OwnerIndexes &indexes) const
         return keys;
     const std::optional<QString> id = QVXMLParser::idAttributeForNode(clip);
     keys.set(MarkerKey::clip, clip);
-    setIfThere(keys, MarkerKey::clipID, id);
-    setIfThere(keys, MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip));
-    setIfThere(keys, MarkerKey::clipName, QVXMLParser::nameForNode(clip));
+    keys.setIfThere(MarkerKey::clipID, id);
+    keys.setIfThere(MarkerKey::clipUUID, QVXMLParser::uuidForNode(clip));
+    keys.setIfThere(MarkerKey::clipName, QVXMLParser::nameForNode(clip));
     SequenceTiming::ofFirstTexts(sequence).store(keys);
-    setIfThere(keys, MarkerKey::clipIndex, indexes.ofOwnClip(clip, id.value_or(QString()), sequence));
+    keys.setIfThere(MarkerKey::clipIndex, indexes.ofOwnClip(clip, id.value_or(QString()), sequence));
     return keys;
 }
 

@@ -7,7 +7,7 @@ namespace vantrell
 
 /// Which sequence and clip markers are listed under.
 enum class OwnerListing {
-    ByPosition, ///< those that share a place in the project share what the first of them gave
+    ByPosition, ///< those that share a position in the project share what the first of them gave
     Own,        ///< each marker's nearest sequence, and the nearest clip inside that
 };
 

@@ -1,8 +1,8 @@
 #include "media/FileChecks.h"
 
+#include "support/log/OperationQueue.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
-#include "support/threads/OperationQueue.h"
 
 #include <QFile>
 #include <QHash>
@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <exception>
 #include <limits>
 #include <mutex>
-#include <system_error>
 #include <thread>
 
 #include <sys/stat.h>
@@ -118,6 +118,15 @@ struct FileChecks::State {
             answered.notify_all();
     }
 
+    /// Nobody looks at the volume's files, so that nobody needs to wait for them.
+    void giveUp(const Volume &volume)
+    {
+        const std::lock_guard lock(mutex);
+        open -= volume.paths.size();
+        if (open == 0)
+            answered.notify_all();
+    }
+
     void work(Volume &volume)
     {
         for (;;) {
@@ -152,17 +161,20 @@ FileChecks::FileChecks(std::vector<QByteArray> paths, const Check &check)
         volume->paths.push_back(i);
     }
     const auto width = std::size_t(OperationQueue::processorCount());
-    try {
-        for (const auto &volume : state.volumes) {
-            const std::size_t useful = (volume->paths.size() + pathsPerThread - 1) / pathsPerThread;
-            for (std::size_t i = 0; i < std::min(width, useful); ++i) {
+    for (const auto &volume : state.volumes) {
+        const std::size_t useful = (volume->paths.size() + pathsPerThread - 1) / pathsPerThread;
+        std::size_t threads = 0;
+        try {
+            for (; threads < std::min(width, useful); ++threads) {
                 std::thread([shared = m_state, own = volume.get()] {
                     guarded("FileChecks::State::work", [&] { shared->work(*own); });
                 }).detach();
             }
+        } catch (const std::exception &error) {
+            QVLog::appendLog(u"Files cannot be looked at: %@", QString::fromLocal8Bit(error.what()));
         }
-    } catch (const std::system_error &error) {
-        QVLog::appendLog(u"Files cannot be looked at: %@", QString::fromLocal8Bit(error.what()));
+        if (threads == 0)
+            state.giveUp(*volume);
     }
 }
 

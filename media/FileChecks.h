@@ -21,7 +21,7 @@ struct FileFacts {
 };
 
 /// Looks at many paths on disk. The looking is done by detached threads that hold nothing but the paths
-/// and a place for the answers: a volume that does not answer leaves them behind, and nobody waits for
+/// and the list of the answers: a volume that does not answer leaves them behind, and nobody waits for
 /// them. Each volume has threads of its own, so that one that hangs does not hold up the others.
 class FileChecks
 {
@@ -36,7 +36,7 @@ public:
     FileChecks(const FileChecks &) = delete;
     FileChecks &operator=(const FileChecks &) = delete;
 
-    /// One place per path, in their order.
+    /// One per path, in their order; nothing for a path without an answer.
     using Answers = std::vector<std::optional<FileFacts>>;
 
     /// Waits until every path is answered or no further answer has come for \a patience; what is then

@@ -2,12 +2,10 @@
 
 #include "media/MediaKeys.h"
 #include "support/files/FileUtilities.h"
+#include "support/text/TextFormat.h"
 
 #include <QHash>
 #include <QStorageInfo>
-
-#include <array>
-#include <charconv>
 
 namespace vantrell::MediaFile
 {
@@ -25,15 +23,6 @@ QHash<QString, QString> kindTable()
     for (const char *extension : {"jpg", "tif", "tiff", "dpx", "cin", "png", "gif", "psd", "pdf"})
         table.insert(QLatin1String(extension), MediaKind::image);
     return table;
-}
-
-/// As printf does it in the C locale: ties go to the even digit.
-QString fixedPoint(double number, int decimals)
-{
-    std::array<char, 400> text; // the largest double has 309 digits
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, decimals);
-    return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
 QStringView withoutTrailingSlashes(QStringView path)
@@ -57,12 +46,12 @@ QString formatFileSize(double bytes)
     constexpr double megabyte = 1024 * kilobyte;
     constexpr double gigabyte = 1024 * megabyte;
     if (bytes < kilobyte)
-        return fixedPoint(bytes, 0) + QStringLiteral(" B");
+        return formatText(u"%.0f B", bytes);
     if (bytes < megabyte)
-        return fixedPoint(bytes / kilobyte, 2) + QStringLiteral(" KB");
+        return formatText(u"%.2f KB", bytes / kilobyte);
     if (bytes < gigabyte)
-        return fixedPoint(bytes / megabyte, 2) + QStringLiteral(" MB");
-    return fixedPoint(bytes / gigabyte, 2) + QStringLiteral(" GB");
+        return formatText(u"%.2f MB", bytes / megabyte);
+    return formatText(u"%.2f GB", bytes / gigabyte);
 }
 
 QString formatPath(const QString &path)

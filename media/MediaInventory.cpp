@@ -167,9 +167,9 @@ void MediaInventory::populateUsageCountForClipWithSettings(const ClipSettings &s
         const std::lock_guard lock(m_usageMutex);
         const auto stored = m_tempUsageDict.find(settings.filename);
         if (stored == m_tempUsageDict.end())
-            m_tempUsageDict.insert(settings.filename, {settings.place, count});
-        else if (stored->place <= settings.place)
-            *stored = {settings.place, count};
+            m_tempUsageDict.insert(settings.filename, {settings.index, count});
+        else if (stored->index <= settings.index)
+            *stored = {settings.index, count};
     }
     QVLog::fastAppendLog(u"Usage for file %@: %i", settings.filename, count);
 }

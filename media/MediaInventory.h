@@ -4,7 +4,7 @@
 #include "media/FileChecks.h"
 #include "media/MediaFilter.h"
 #include "media/MediaUsage.h"
-#include "support/threads/OperationQueue.h"
+#include "support/log/OperationQueue.h"
 
 #include <QHash>
 #include <QString>
@@ -39,7 +39,7 @@ public:
     struct ClipSettings {
         QString filename;      ///< the URL as it stands in the project
         QString clipID;        ///< of the file element
-        std::size_t place = 0; ///< among the project's files; of two with one URL the later one counts
+        std::size_t index = 0; ///< among the project's files; of two with one URL the later one counts
         const MediaUsage &usage;
     };
     /// Counts one file into the usage table of the run. On the threads of the run's queue.
@@ -57,7 +57,7 @@ public:
 private:
     struct File;
     struct Usage {
-        std::size_t place = 0;
+        std::size_t index = 0; ///< of the file
         std::int64_t count = 0;
     };
 

@@ -107,7 +107,7 @@ void ReportGenerator::setBodyConsumer(std::function<void(const QString &)> consu
 ReportTable ReportGenerator::table() const
 {
     ReportTable::Options options;
-    const PropertyListValue title = m_defaults ? m_defaults->value(projectTitleKey) : PropertyListValue();
+    const QVariant title = m_defaults ? m_defaults->value(projectTitleKey) : QVariant();
     options.title = title.isNull() ? FileUtilities::deletingPathExtension(m_document.fileURL().fileName())
                                    : title.toString();
     if (m_defaults && m_defaults->integer(printColorLabelsKey) == 1)

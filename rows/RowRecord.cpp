@@ -1,22 +1,27 @@
 #include "rows/RowRecord.h"
 
 #include <algorithm>
-#include <atomic>
+#include <map>
+#include <mutex>
 #include <utility>
 
 namespace vantrell
 {
 
-/// The numbers of keys in their order. Each layout knows those that have one key more; a layout is made once
-/// and lives as long as the process, so that records only point at it. Names that files make up are not part
-/// of it, so there are few.
+/// The numbers of keys in their order. A layout is made once and lives as long as the process, so that
+/// records only point at it. Names that files make up are not part of it, so there are few.
 class RowRecord::Layout
 {
 public:
     static const Layout *empty()
     {
-        static const Layout &layout = *new Layout;
+        static const Layout &layout = *new Layout({});
         return &layout;
+    }
+
+    explicit Layout(std::vector<std::uint32_t> numbers)
+        : m_numbers(std::move(numbers))
+    {
     }
 
     const std::vector<std::uint32_t> &numbers() const { return m_numbers; }
@@ -31,55 +36,22 @@ public:
     }
 
     /// The layout with one key more at its end.
-    const Layout *with(std::uint32_t number) const;
+    const Layout *with(std::uint32_t number) const
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto known = m_larger.find(number);
+        if (known != m_larger.end())
+            return &known->second;
+        std::vector<std::uint32_t> numbers = m_numbers;
+        numbers.push_back(number);
+        return &m_larger.try_emplace(number, std::move(numbers)).first->second;
+    }
 
 private:
-    struct Larger;
-
-    Layout() = default;
-    Layout(const std::vector<std::uint32_t> &numbers, std::uint32_t added)
-        : m_numbers(numbers)
-    {
-        m_numbers.push_back(added);
-    }
-
-    static const Layout *findLarger(const Larger *from, const Larger *until, std::uint32_t number);
-
-    std::vector<std::uint32_t> m_numbers;
-    mutable std::atomic<Larger *> m_larger = nullptr; // grows at its head, is never shortened
+    const std::vector<std::uint32_t> m_numbers;
+    mutable std::mutex m_mutex;                       // guards the one below
+    mutable std::map<std::uint32_t, Layout> m_larger; ///< by the number of the key that comes last
 };
-
-struct RowRecord::Layout::Larger {
-    std::uint32_t number;
-    Layout layout;
-    Larger *next;
-};
-
-const RowRecord::Layout *RowRecord::Layout::findLarger(const Larger *from, const Larger *until,
-                                                       std::uint32_t number)
-{
-    for (const Larger *larger = from; larger != until; larger = larger->next) {
-        if (larger->number == number)
-            return &larger->layout;
-    }
-    return nullptr;
-}
-
-const RowRecord::Layout *RowRecord::Layout::with(std::uint32_t number) const
-{
-    Larger *first = m_larger.load(std::memory_order_acquire);
-    if (const Layout *known = findLarger(first, nullptr, number))
-        return known;
-    auto *larger = new Larger{number, Layout(m_numbers, number), first};
-    while (!m_larger.compare_exchange_weak(larger->next, larger, std::memory_order_acq_rel)) {
-        if (const Layout *known = findLarger(larger->next, first, number)) {
-            delete larger;
-            return known;
-        }
-        first = larger->next;
-    }
-    return &larger->layout;
-}
 
 RowRecord::RowRecord()
     : m_layout(Layout::empty())

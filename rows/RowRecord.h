@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -37,12 +38,20 @@ public:
     /// The value; null when the key is absent.
     const RecordValue *find(const RecordKey &key) const;
 
-    /// Replaces the key's value in its place, or adds the key at the end.
+    /// Replaces the key's value where it stands, or adds the key at the end.
     void set(const RecordKey &key, RecordValue value);
     template <typename Value>
     void set(const TypedKey<Value> &key, typename TypedKey<Value>::ValueType value)
     {
         set(static_cast<const RecordKey &>(key), RecordValue(std::move(value)));
+    }
+
+    /// The same where there is a value; nothing happens without one.
+    template <typename Value>
+    void setIfThere(const TypedKey<Value> &key, const std::optional<Value> &value)
+    {
+        if (value)
+            set(key, *value);
     }
 
     /// Drops the key; nothing happens when it is absent.
@@ -63,7 +72,7 @@ public:
     /// The text of the key; null when it is absent or no text.
     QString text(const RecordKey &key) const;
 
-    /// Key and value at a place below size().
+    /// Key and value at an index below size().
     RecordKey keyAt(std::size_t index) const;
     const RecordValue &valueAt(std::size_t index) const { return m_values[index]; }
 

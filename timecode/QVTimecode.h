@@ -86,7 +86,7 @@ public:
     /// The count of frames behind a number that drop-frame numbering shows.
     static quint64 subtractDroppedFrames(quint64 count, double fps);
 
-    /// A timecode for use in a file name: "." in place of every ":" and ";".
+    /// A timecode for use in a file name: "." instead of every ":" and ";".
     static QString sanitizeTimecodeForFilename(const QString &timecode);
 
     /// The fields as a timecode. They are written as unsigned numbers, after "0" when below 10.

@@ -103,7 +103,7 @@ xmlNode *XmlConversion::converted(XmlNodeId id)
     }
 }
 
-/// The element's namespaces and attributes; the element is in its place by then.
+/// The element's namespaces and attributes; the element has its parent by then.
 void XmlConversion::convertAttributes(XmlNodeId id, xmlNode *copy)
 {
     XmlNodeId at = m_tree.node(id).firstAttribute;

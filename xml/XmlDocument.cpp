@@ -118,6 +118,10 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
             return Failure{
                 QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
         }
+        if (outcome.tooManyDefaults) {
+            return Failure{
+                QStringLiteral("its document type gives elements more default attributes than can be read.")};
+        }
         if (!outcome.hasTree)
             return Failure{QStringLiteral("it is not well-formed XML (%1).").arg(faultText(outcome))};
         if (!document->rootElement())
@@ -199,7 +203,9 @@ Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
     XmlTree tree(nullptr);
     const ParseOutcome outcome = parseXml(request, tree);
     const XmlNode root = XmlNode(&tree, XmlTree::documentId).firstChildElement();
-    if (!outcome.hasTree || outcome.tooDeep || outcome.outOfMemory || !root) {
+    const bool isWhole =
+        outcome.hasTree && !outcome.tooDeep && !outcome.tooManyDefaults && !outcome.outOfMemory;
+    if (!isWhole || !root) {
         return Failure{outcome.lastError.isEmpty() ? QStringLiteral("The text is no XML element.")
                                                    : outcome.lastError};
     }

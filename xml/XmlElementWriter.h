@@ -20,7 +20,7 @@ namespace vantrell
 namespace XmlElementWriter
 {
 
-/// What is written of an element in place of what the tree holds.
+/// What is written of an element instead of what the tree holds.
 struct Changes {
     QString attribute; ///< name of its only attribute
     QString value;

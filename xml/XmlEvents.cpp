@@ -1,6 +1,7 @@
 #include "xml/XmlEvents.h"
 
 #include <algorithm>
+#include <exception>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -21,6 +22,7 @@ XmlEvents::XmlEvents(XmlTreeBuilder &builder)
     : m_builder(builder)
     , m_block(firstBlockSize)
 {
+    m_spare.reserve(mostFilled); // so that the thread can give a block back whatever memory there is
 }
 
 XmlEvents::~XmlEvents()
@@ -106,7 +108,7 @@ void XmlEvents::work()
         try {
             if (!m_failed)
                 replay(filled.block, filled.used);
-        } catch (const std::bad_alloc &) {
+        } catch (const std::exception &) {
             m_failed = true;
         }
         lock.lock();

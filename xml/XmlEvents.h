@@ -71,27 +71,27 @@ private:
 
     void add(Kind kind, std::uint32_t number)
     {
-        char *const place = room(sizeof(Event));
+        char *const to = room(sizeof(Event));
         const Event event{number, std::uint32_t(kind)};
-        std::memcpy(place, &event, sizeof event);
+        std::memcpy(to, &event, sizeof event);
     }
     void add(Kind kind, std::uint32_t number, std::string_view text)
     {
-        char *const place = room(sizeof(Event) + sizeof(std::uint64_t) + text.size());
+        char *const to = room(sizeof(Event) + sizeof(std::uint64_t) + text.size());
         const Event event{number, std::uint32_t(kind)};
         const std::uint64_t size = text.size();
-        std::memcpy(place, &event, sizeof event);
-        std::memcpy(place + sizeof event, &size, sizeof size);
-        std::memcpy(place + sizeof event + sizeof size, text.data(), text.size());
+        std::memcpy(to, &event, sizeof event);
+        std::memcpy(to + sizeof event, &size, sizeof size);
+        std::memcpy(to + sizeof event + sizeof size, text.data(), text.size());
     }
     /// Where so many bytes go.
     char *room(std::size_t size)
     {
         if (m_used + size > m_block.size())
             nextBlock(size);
-        char *const place = m_block.data() + m_used;
+        char *const start = m_block.data() + m_used;
         m_used += size;
-        return place;
+        return start;
     }
     void nextBlock(std::size_t size);
     void handOver();

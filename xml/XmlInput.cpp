@@ -46,10 +46,22 @@ bool startsName(char c)
            static_cast<unsigned char>(c) >= 0x80;
 }
 
-/// The encoding that the text's XML declaration names; empty when it names none.
+/// The text without the white space that it starts with.
+std::string_view withoutBlanks(std::string_view text)
+{
+    while (!text.empty() && isXmlSpace(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+constexpr std::string_view declarationStart = "<?xml";
+
+/// The encoding that the text's XML declaration names, also of one that stands behind white space, where none
+/// may be; empty when it names none.
 QByteArray declaredEncodingOf(std::string_view text)
 {
-    constexpr std::string_view start = "<?xml", label = "encoding";
+    constexpr std::string_view start = declarationStart, label = "encoding";
+    text = withoutBlanks(text);
     if (!text.starts_with(start) || text.size() == start.size() || !isXmlSpace(text[start.size()]))
         return {};
     text = text.substr(0, text.find("?>"));
@@ -99,7 +111,7 @@ unsigned char needsLook(char c)
                                       ((byte < 0x20) & (byte != '\t') & (byte != '\n') & (byte != '\r')));
 }
 
-/// The place of the first byte that needs a look.
+/// The first byte that needs a look; the end when none does.
 const char *firstToLookAt(const char *at, const char *end)
 {
     constexpr std::ptrdiff_t group = 64;
@@ -180,6 +192,7 @@ public:
     Decoder(const std::string &encoding, std::size_t unit)
         : m_handle(iconv_open("UTF-8", encoding.c_str()))
         , m_unit(unit)
+        , m_part(inputBlockSize / 4)
     {
     }
     ~Decoder()
@@ -192,26 +205,24 @@ public:
 
     bool isOpen() const { return m_handle != iconv_t(-1); }
 
-    /// Converts what it can of the bytes from the place on, and moves the place behind that. False at bytes
+    /// Converts what it can of the bytes from the offset on, and moves the offset behind that. False at bytes
     /// that stand for nothing, which it passes over.
-    bool convert(std::vector<char> &bytes, std::size_t &place, std::vector<char> &text, bool atEnd)
+    bool convert(std::vector<char> &bytes, std::size_t &offset, std::vector<char> &text, bool atEnd)
     {
-        while (place < bytes.size()) {
-            char *in = bytes.data() + place;
-            std::size_t inLeft = bytes.size() - place;
-            const std::size_t size = text.size();
-            text.resize(size + std::max<std::size_t>(inLeft * 2, 64));
-            char *out = text.data() + size;
-            std::size_t outLeft = text.size() - size;
+        while (offset < bytes.size()) {
+            char *in = bytes.data() + offset;
+            std::size_t inLeft = bytes.size() - offset;
+            char *out = m_part.data();
+            std::size_t outLeft = m_part.size();
             const std::size_t result = iconv(m_handle, &in, &inLeft, &out, &outLeft);
             const int error = errno;
-            text.resize(text.size() - outLeft);
-            place = bytes.size() - inLeft;
+            text.insert(text.end(), m_part.data(), out);
+            offset = bytes.size() - inLeft;
             if (result != std::size_t(-1) || error == E2BIG)
                 continue;
             if (error == EINVAL && !atEnd)
                 return true; // the rest of the character is to come
-            place += std::min(m_unit, inLeft);
+            offset += std::min(m_unit, inLeft);
             return false;
         }
         return true;
@@ -220,6 +231,7 @@ public:
 private:
     iconv_t m_handle;
     std::size_t m_unit;
+    std::vector<char> m_part; // what comes out, of a fixed size: there may be a fault at every byte
 };
 
 XmlInput::XmlInput(const XmlSource &source, bool stopsAtFaults, const std::atomic<bool> *cancelled)
@@ -234,18 +246,21 @@ XmlInput::~XmlInput() = default;
 
 int XmlInput::read(char *buffer, int length)
 {
-    if (m_cancel && m_cancel->load(std::memory_order_relaxed)) {
-        m_cancelled = true;
-        return 0;
-    }
-    while (m_handedOut == m_block.text.size()) {
-        if (!fill())
+    // Nothing may be left of many blocks.
+    do {
+        if (isCancelled())
             return 0;
-    }
+    } while (m_handedOut == m_block.text.size() && fill());
     const std::size_t count = std::min(std::size_t(length), m_block.text.size() - m_handedOut);
     std::memcpy(buffer, m_block.text.data() + m_handedOut, count);
     m_handedOut += count;
     return int(count);
+}
+
+bool XmlInput::isCancelled()
+{
+    m_cancelled = m_cancelled || (m_cancel && m_cancel->load(std::memory_order_relaxed));
+    return m_cancelled;
 }
 
 /// Makes the next block of the text, which may be empty. False at the end.
@@ -253,9 +268,10 @@ bool XmlInput::fill()
 {
     if (m_ended || m_unreadable)
         return false;
-    std::swap(m_block, m_lastBlock);
+    if (!m_block.text.empty())
+        std::swap(m_block, m_lastBlock);
     m_block.start = m_lastBlock.end();
-    m_block.sourceStart = m_lastBlock.sourceEnd;
+    m_places.push_back({m_block.start, m_blockSourceEnd});
     m_block.text.assign(m_rest.begin(), m_rest.end());
     m_rest.clear();
     m_handedOut = 0;
@@ -271,7 +287,7 @@ bool XmlInput::fill()
         m_block.text.clear();
     else
         decode(atEnd);
-    m_block.sourceEnd = m_sourceEnd - std::int64_t(m_raw.size() + m_rest.size());
+    m_blockSourceEnd = m_sourceEnd - std::int64_t(m_raw.size() + m_rest.size());
     m_ended = m_ended || atEnd;
     return !m_unreadable;
 }
@@ -304,19 +320,9 @@ void XmlInput::chooseEncoding()
         if (!known && raw.starts_with(signature.bytes))
             known = &signature;
     }
-    std::vector<char> start(m_raw.begin() + std::ptrdiff_t(known ? known->skipped : 0), m_raw.end());
-    if (known) {
-        m_raw = start;
-        setDecoder(known->encoding, known->unit);
-        if (m_decoder) {
-            start.resize(std::min(start.size(), declarationSize * std::size_t(known->unit)));
-            std::vector<char> text;
-            std::size_t place = 0;
-            m_decoder->convert(start, place, text, false);
-            start = text;
-            setDecoder(known->encoding, known->unit); // without what it remembers
-        }
-    }
+    m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(known ? known->skipped : 0));
+    const std::vector<char> start =
+        known ? startOfText(known->encoding, known->unit) : startOfText("UTF-8", 1);
     const QByteArray declared = declaredEncodingOf({start.data(), start.size()});
     const QByteArray upper = declared.toUpper();
     const bool isUtf8 = upper == "UTF-8" || upper == "UTF8";
@@ -332,20 +338,45 @@ void XmlInput::chooseEncoding()
     m_declared = declared;
     if (isUtf8 || !isOfMany)
         return;
-    setDecoder(declared.toStdString(), 1);
-    if (!m_decoder->isOpen()) {
-        m_unreadable = true;
-        addFault({}, QStringLiteral("Unsupported encoding %1").arg(QString::fromLatin1(declared)));
-    }
+    const QString found = m_encodingName;
+    const std::vector<char> declaredStart = startOfText(declared.toStdString(), 1);
+    if (m_unreadable ||
+        withoutBlanks({declaredStart.data(), declaredStart.size()}).starts_with(declarationStart))
+        return;
+    // One in which what was just read would be something else.
+    setDecoder(found.toStdString(), 1);
+    m_declared.clear();
+    addFault({}, QStringLiteral("Document labelled %1 but has %2 content")
+                     .arg(QString::fromLatin1(declared), m_encodingName));
 }
 
-/// \a unit: bytes that the smallest part of a character has.
-void XmlInput::setDecoder(const std::string &encoding, int unit)
+/// \a unit: bytes that the smallest part of a character has. False, and the text cannot be read, when the
+/// encoding is not known.
+bool XmlInput::setDecoder(const std::string &encoding, int unit)
 {
     m_encodingName = QString::fromStdString(encoding);
     m_decoder.reset();
-    if (encoding != "UTF-8")
-        m_decoder = std::make_unique<Decoder>(encoding, std::size_t(unit));
+    if (encoding == "UTF-8")
+        return true;
+    m_decoder = std::make_unique<Decoder>(encoding, std::size_t(unit));
+    m_unreadable = !m_decoder->isOpen();
+    if (m_unreadable)
+        addFault({}, QStringLiteral("Unsupported encoding %1").arg(m_encodingName));
+    return !m_unreadable;
+}
+
+/// Turns to the encoding, and gives back the start of the text in it.
+std::vector<char> XmlInput::startOfText(const std::string &encoding, int unit)
+{
+    const std::size_t size = std::min(m_raw.size(), declarationSize * std::size_t(unit));
+    std::vector<char> start(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(size));
+    if (!setDecoder(encoding, unit) || !m_decoder)
+        return start;
+    std::vector<char> text;
+    std::size_t place = 0;
+    m_decoder->convert(start, place, text, false);
+    setDecoder(encoding, unit); // without what it remembers
+    return text;
 }
 
 /// Moves what was read to the block, as far as it is whole characters.
@@ -360,14 +391,15 @@ void XmlInput::decode(bool atEnd)
         keepValid(atEnd);
         return;
     }
-    std::size_t place = 0;
-    while (!m_decoder->convert(m_raw, place, m_block.text, atEnd)) {
-        addFault({m_block.text.data(), m_block.text.size()},
-                 QStringLiteral("bytes that are no %1").arg(m_encodingName));
+    std::size_t offset = 0;
+    while (!m_decoder->convert(m_raw, offset, m_block.text, atEnd)) {
+        if (m_fault.isEmpty())
+            addFault({m_block.text.data(), m_block.text.size()},
+                     QStringLiteral("bytes that are no %1").arg(m_encodingName));
         if (m_ended)
             break;
     }
-    m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(place));
+    m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(offset));
     keepValid(atEnd);
 }
 
@@ -380,10 +412,10 @@ void XmlInput::keepValid(bool atEnd)
     const char *const end = begin + text.size();
     char *to = text.data();
     const char *kept = begin; // from here on nothing was moved yet
-    const auto keepUpTo = [&](const char *place) {
+    const auto keepUpTo = [&](const char *limit) {
         if (to != kept)
-            std::memmove(to, kept, std::size_t(place - kept));
-        to += place - kept;
+            std::memmove(to, kept, std::size_t(limit - kept));
+        to += limit - kept;
     };
     const char *at = firstToLookAt(begin, end);
     while (at != end) {
@@ -394,12 +426,15 @@ void XmlInput::keepValid(bool atEnd)
             at += character.length;
         } else {
             keepUpTo(at);
-            const QString what =
-                character.isValid ? QStringLiteral("the character U+%1, which XML forbids")
-                                        .arg(hexadecimal(character.code, 4))
-                                  : QStringLiteral("the byte 0x%1, which is no %2")
-                                        .arg(hexadecimal(static_cast<unsigned char>(*at), 2), m_encodingName);
-            addFault({begin, std::size_t(to - begin)}, what);
+            if (m_fault.isEmpty()) {
+                const QString what =
+                    character.isValid
+                        ? QStringLiteral("the character U+%1, which XML forbids")
+                              .arg(hexadecimal(character.code, 4))
+                        : QStringLiteral("the byte 0x%1, which is no %2")
+                              .arg(hexadecimal(static_cast<unsigned char>(*at), 2), m_encodingName);
+                addFault({begin, std::size_t(to - begin)}, what);
+            }
             at += character.length;
             kept = at;
             if (m_ended)
@@ -427,14 +462,19 @@ void XmlInput::addFault(std::string_view before, const QString &text)
 
 std::int64_t XmlInput::sourceOffset(std::int64_t textOffset) const
 {
-    const Block &block = textOffset >= m_block.start ? m_block : m_lastBlock;
-    const std::int64_t size = block.end() - block.start;
-    const std::int64_t sourceSize = block.sourceEnd - block.sourceStart;
-    const std::int64_t inBlock = std::clamp<std::int64_t>(textOffset - block.start, 0, size);
+    const auto isBefore = [](std::int64_t offset, const Place &place) { return offset < place.text; };
+    const auto next = std::upper_bound(m_places.begin(), m_places.end(), textOffset, isBefore);
+    if (next == m_places.begin())
+        return 0;
+    const Place start = *(next - 1);
+    const Place end = next == m_places.end() ? Place{m_block.end(), m_blockSourceEnd} : *next;
+    const std::int64_t size = end.text - start.text;
+    const std::int64_t sourceSize = end.source - start.source;
+    const std::int64_t inBlock = std::clamp<std::int64_t>(textOffset - start.text, 0, size);
     // From the nearer end: what was left out, or a mark, shifts the other.
     if (size == 0 || inBlock * 2 >= size)
-        return block.sourceEnd - (size == 0 ? 0 : (size - inBlock) * sourceSize / size);
-    return block.sourceStart + inBlock * sourceSize / size;
+        return end.source - (size == 0 ? 0 : (size - inBlock) * sourceSize / size);
+    return start.source + inBlock * sourceSize / size;
 }
 
 bool XmlInput::endsWith(std::string_view end) const
@@ -463,7 +503,7 @@ std::int64_t XmlInput::startTagsFrom(std::int64_t textOffset)
     look(m_lastBlock);
     do
         look(m_block);
-    while (!(m_cancel && m_cancel->load(std::memory_order_relaxed)) && fill());
+    while (!isCancelled() && fill());
     return count;
 }
 

@@ -50,10 +50,10 @@ public:
     /// The text cannot be decoded at all.
     bool isUnreadable() const { return m_unreadable; }
 
-    /// How many bytes of the source the first so many bytes of the text came from, as nearly as the last
-    /// 256 KB read tell.
+    /// How many bytes of the source the first so many bytes of the text came from, as nearly as the blocks
+    /// of 256 KB that were read tell.
     std::int64_t sourceOffset(std::int64_t textOffset) const;
-    /// Reads on to the end, and counts the start tags from that place of the text on.
+    /// Reads on to the end, and counts the start tags from that offset of the text on.
     std::int64_t startTagsFrom(std::int64_t textOffset);
     /// Whether the text, of which all was read, ends with those bytes, white space apart.
     bool endsWith(std::string_view end) const;
@@ -64,17 +64,23 @@ private:
     struct Block {
         std::vector<char> text;
         std::int64_t start = 0; ///< of the text
-        std::int64_t sourceStart = 0;
-        std::int64_t sourceEnd = 0;
 
         std::int64_t end() const { return start + std::int64_t(text.size()); }
     };
     class Decoder;
 
+    /// Where a block starts.
+    struct Place {
+        std::int64_t text;
+        std::int64_t source;
+    };
+
+    bool isCancelled();
     bool fill();
     std::size_t readSource(std::size_t wanted);
     void chooseEncoding();
-    void setDecoder(const std::string &encoding, int unit);
+    bool setDecoder(const std::string &encoding, int unit);
+    std::vector<char> startOfText(const std::string &encoding, int unit);
     void decode(bool atEnd);
     void keepValid(bool atEnd);
     void addFault(std::string_view before, const QString &text);
@@ -84,12 +90,14 @@ private:
     const std::atomic<bool> *m_cancel;
     std::vector<char> m_raw;            // what was read and not decoded yet
     Block m_block;                      // what read() hands out
-    Block m_lastBlock;                  // the one before
+    Block m_lastBlock;                  // the one before that was not empty
+    std::vector<Place> m_places;        // of all blocks so far
     std::size_t m_handedOut = 0;        // bytes of the block
     std::string m_rest;                 // the start of a character at the end of the block
     std::unique_ptr<Decoder> m_decoder; // none for UTF-8
     std::int64_t m_sourceEnd = 0;
-    std::int64_t m_line = 1; // where the block ends
+    std::int64_t m_blockSourceEnd = 0; // what the block came from
+    std::int64_t m_line = 1;           // where the block ends
     bool m_started = false;
     bool m_ended = false;
     bool m_failed = false;

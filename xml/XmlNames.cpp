@@ -30,7 +30,13 @@ XmlNameId XmlNames::interned(const Raw &raw)
         const std::string name = std::string(viewOf(raw.prefix)) + ':' + std::string(viewOf(raw.local));
         return m_tree.intern({}, name, {});
     }
-    return m_tree.intern(viewOf(raw.prefix), viewOf(raw.local), viewOf(raw.uri));
+    if (!raw.uri)
+        return m_tree.intern({}, viewOf(raw.local), {});
+    // A URI is written once and may be long; names in its namespace are many.
+    const auto [known, isNew] = m_uris.try_emplace(raw.uri);
+    if (isNew)
+        known->second = m_tree.internUri(viewOf(raw.uri));
+    return m_tree.internInNamespace(viewOf(raw.prefix), viewOf(raw.local), known->second);
 }
 
 } // namespace vantrell

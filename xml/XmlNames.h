@@ -5,7 +5,9 @@
 #include "xml/XmlTree.h"
 
 #include <array>
+#include <cstdint>
 #include <string_view>
+#include <unordered_map>
 
 namespace vantrell
 {
@@ -16,6 +18,7 @@ class XmlNames
 {
 public:
     /// A name as a parser hands it over: zero-terminated UTF-8; prefix and URI are null when there is none.
+    /// The parser keeps a URI where it is for as long as it works.
     struct Raw {
         const unsigned char *local;
         const unsigned char *prefix;
@@ -43,6 +46,7 @@ private:
 
     XmlTree &m_tree;
     std::array<Known, 1024> m_known;
+    std::unordered_map<const unsigned char *, std::uint32_t> m_uris; // numbers, by where the URI is
 };
 
 } // namespace vantrell

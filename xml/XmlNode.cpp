@@ -33,7 +33,7 @@ std::string_view qualifiedName(XmlNode handle)
                                  : std::string_view();
 }
 
-/// The 1-based place of the element among its like-named siblings.
+/// The 1-based index of the element among its like-named siblings.
 int indexAmongSiblings(XmlNode element)
 {
     int index = 1;

@@ -28,6 +28,9 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
+/// Beyond it an element's default attributes would be compared with one another for minutes.
+constexpr std::int64_t maximumDefaultsCost = 1'000'000'000;
+
 bool isXmlTarget(std::string_view target)
 {
     return target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' &&
@@ -80,6 +83,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
+        outcome.tooManyDefaults = m_defaultsCost > maximumDefaultsCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled();
         outcome.outOfMemory = m_outOfMemory;
@@ -101,7 +105,7 @@ private:
     {
         try {
             action();
-        } catch (const std::bad_alloc &) {
+        } catch (const std::exception &) { // that a text cannot be so long is the other one
             m_outOfMemory = true;
             xmlStopParser(m_context);
         }
@@ -109,10 +113,14 @@ private:
 
     static int read(void *parse, char *buffer, int length)
     {
+        // The parser is in the middle of its buffer and must not be stopped here: its input ends.
         Parse *const self = static_cast<Parse *>(parse);
-        int count = 0;
-        self->guard([&] { count = self->m_input.read(buffer, length); });
-        return count;
+        try {
+            return self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
+        } catch (const std::exception &) {
+            self->m_outOfMemory = true;
+            return 0;
+        }
     }
 
     static void internalSubset(void *context, const xmlChar *name, const xmlChar *externalId,
@@ -136,8 +144,9 @@ private:
     {
         Parse *const self = of(context);
         self->guard([&] {
-            self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
-                                 attributeList);
+            if (self->mayHaveDefaults(defaulted))
+                self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
+                                     attributeList);
         });
     }
 
@@ -150,7 +159,7 @@ private:
     static void characters(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
-        self->guard([&] { self->m_events.addText(viewOf(text, length)); });
+        self->guard([&] { self->onText(viewOf(text, length)); });
     }
 
     static void cdata(void *context, const xmlChar *text, int length)
@@ -203,6 +212,7 @@ private:
         m_repaired = true;
         m_errorAt = std::max(m_errorAt, xmlByteConsumed(m_context));
         m_outOfMemory = m_outOfMemory || problem.code == XML_ERR_NO_MEMORY;
+        noteBrokenMarkup(problem);
         const bool inContent = m_context->instate != XML_PARSER_ATTRIBUTE_VALUE;
         if ((problem.code == XML_ERR_UNDECLARED_ENTITY || undeclaredEntity) && inContent)
             m_events.keepSpace();
@@ -211,6 +221,27 @@ private:
             m_firstError =
                 problem.line > 0 ? QStringLiteral("line %1: %2").arg(problem.line).arg(text) : text;
         }
+    }
+
+    /// Content that is lost, or out of its place, without an event that tells.
+    void noteBrokenMarkup(const xmlError &problem)
+    {
+        const bool isUnended = problem.code == XML_ERR_COMMENT_NOT_FINISHED ||
+                               problem.code == XML_ERR_CDATA_NOT_FINISHED ||
+                               problem.code == XML_ERR_PI_NOT_FINISHED;
+        if (isUnended && m_depth > 0 && m_swallowedFrom < 0)
+            m_swallowedFrom = m_lastTagEnd;
+        // With the name of the element it is a start tag.
+        m_isTagBroken = m_isTagBroken || (problem.code == XML_ERR_GT_REQUIRED && problem.str1);
+    }
+
+    /// Parsers compare each attribute of an element, the defaults included, with all others.
+    bool mayHaveDefaults(int count)
+    {
+        m_defaultsCost += std::int64_t(count) * count;
+        if (m_defaultsCost > maximumDefaultsCost)
+            xmlStopParser(m_context);
+        return m_defaultsCost <= maximumDefaultsCost;
     }
 
     void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
@@ -228,6 +259,8 @@ private:
             return;
         }
         ++m_depth;
+        m_isTagBroken = false;
+        m_lastTagEnd = textOffset();
         m_events.startElement(m_names.idOf(name));
         for (int i = 0; i < namespaces; ++i)
             m_events.addNamespace(m_names.idOf(viewOf(namespaceList[2 * i])),
@@ -243,10 +276,37 @@ private:
         }
     }
 
+    /// What xmlByteConsumed() tells of a text in UTF-8. It is wanted at every tag.
+    long textOffset() const
+    {
+        const xmlParserInput *const input = m_context->input;
+        return input ? long(input->consumed) + long(input->cur - input->base) : m_lastTagEnd;
+    }
+
     void onEndElement()
     {
         --m_depth;
+        m_isTagBroken = false;
+        m_lastTagEnd = textOffset();
         m_events.endElement();
+    }
+
+    /// A start tag that is broken has no end of its own. Its element gets the next end tag, but not where the
+    /// rest of the tag, which comes as text, tells that it has none.
+    void onText(std::string_view text)
+    {
+        if (m_isTagBroken && isRestOfEmptyTag(text))
+            onEndElement();
+        m_isTagBroken = false;
+        m_events.addText(text);
+    }
+
+    static bool isRestOfEmptyTag(std::string_view text)
+    {
+        const std::string_view rest = text.substr(0, text.find('>'));
+        const std::size_t last = rest.find_last_not_of(" \t\r\n");
+        return rest.starts_with('/') ||
+               (rest.size() < text.size() && last != std::string_view::npos && rest[last] == '/');
     }
 
     void onInstruction(std::string_view target, const xmlChar *data)
@@ -266,16 +326,18 @@ private:
         m_events.finish();
         outcome.loss.bytesTotal = m_request.source.size;
         const bool isOpen = m_depth > 0;
-        // A parser that gave up has lost its place; the error tells it.
-        const long consumed = std::max(xmlByteConsumed(m_context), m_errorAt);
+        // A parser that gave up no longer knows how far it came; the error tells it.
+        const bool isSwallowed = m_swallowedFrom >= 0;
+        const long consumed = isSwallowed ? m_swallowedFrom : std::max(xmlByteConsumed(m_context), m_errorAt);
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
         if (document && !stops && !m_context->wellFormed && consumed >= 0) {
             outcome.loss.bytesRead = m_input.sourceOffset(consumed);
-            outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
+            if (!isSwallowed)
+                outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
             if (outcome.loss.bytesTotal < 0)
                 outcome.loss.bytesTotal = m_input.bytesRead();
             // Where only end tags are missing the last one is there.
-            outcome.loss.isCutOff = isOpen && !m_input.endsWith("</" + rootName() + '>');
+            outcome.loss.isCutOff = isOpen && (isSwallowed || !m_input.endsWith("</" + rootName() + '>'));
         }
         m_builder.finish();
         if (!document)
@@ -318,7 +380,11 @@ private:
     bool m_tooDeep = false;
     bool m_cancelled = false;
     bool m_outOfMemory = false;
-    long m_errorAt = 0; // bytes of the text
+    bool m_isTagBroken = false; // the start tag that came last
+    std::int64_t m_defaultsCost = 0;
+    long m_lastTagEnd = 0;     // bytes of the text
+    long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing
+    long m_errorAt = 0;        // the same
     QString m_firstError;
     std::int64_t m_firstErrorLine = 0;
     QString m_lastError;

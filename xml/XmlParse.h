@@ -40,6 +40,7 @@ struct ParseOutcome {
     bool hasTree = false;  ///< whether anything could be made of the input
     bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
+    bool tooManyDefaults = false; ///< of attributes
     bool readFailed = false;
     bool cancelled = false;
     bool outOfMemory = false;

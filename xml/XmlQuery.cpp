@@ -233,7 +233,7 @@ private:
     {
         switch (state.step->test) {
         case XmlQuery::Test::AnyNode:
-            return true;
+            return node.kind() != XmlTree::Kind::Doctype; // which is no node to a query
         case XmlQuery::Test::Text:
             return node.isText();
         case XmlQuery::Test::AnyElement:
@@ -428,10 +428,10 @@ XmlQuery::Answer XmlQuery::evaluate(XmlNode context, std::size_t limit) const
 
 /// The first node found by a path of children alone, from one of its steps on. Their cost is what most
 /// queries have; it takes no memory.
-XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_t place) const
+XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_t stepIndex) const
 {
     const std::vector<Step> &steps = m_paths.front().steps;
-    const Step &step = steps[place];
+    const Step &step = steps[stepIndex];
     const XmlTree::Node &above = tree.node(parent);
     if (!above.hasChildren())
         return 0;
@@ -452,7 +452,7 @@ XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_
         ++position;
         if (!step.predicates.empty() && step.predicates.front().position != position)
             continue;
-        const XmlNodeId found = place + 1 == steps.size() ? id : firstBelow(tree, id, place + 1);
+        const XmlNodeId found = stepIndex + 1 == steps.size() ? id : firstBelow(tree, id, stepIndex + 1);
         if (found || !step.predicates.empty())
             return found;
     }

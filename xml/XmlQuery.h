@@ -79,7 +79,7 @@ private:
     Form formOf() const;
     XmlNode contextOf(XmlNode context) const;
     XmlNode firstOfAnswer(XmlNode context) const;
-    std::uint32_t firstBelow(const XmlTree &tree, std::uint32_t parent, std::size_t place) const;
+    std::uint32_t firstBelow(const XmlTree &tree, std::uint32_t parent, std::size_t stepIndex) const;
     std::optional<std::uint32_t> firstAnywhere(const XmlTree &tree, std::uint32_t context) const;
 
     Form m_form = Form::Any;

@@ -43,7 +43,7 @@ Reference referenceAtStart(std::string_view text)
     return {at + 1, character};
 }
 
-/// The length of what starts at the place and holds no references, up to the text's end when it has none;
+/// The length of what starts there and holds no references, up to the text's end when it has none;
 /// 0 when nothing such starts there.
 std::size_t lengthWithoutReferences(std::string_view text, std::size_t at)
 {
@@ -105,7 +105,7 @@ public:
     }
 
 private:
-    /// What is wanted and begins with the reference at the place.
+    /// What is wanted and begins with the reference there.
     Written writtenWith(const Reference &first) const
     {
         if (first.length == 0 || first.character < FirstWanted)
@@ -126,16 +126,16 @@ private:
                 QChar::surrogateToUcs4(char16_t(first.character), char16_t(low.character))};
     }
 
-    /// Where what holds no references and has begun before the place ends; 0 when there is nothing such.
-    std::size_t endOfSpanAround(std::size_t place)
+    /// Where what holds no references and has begun before the offset ends; 0 when there is nothing such.
+    std::size_t endOfSpanAround(std::size_t offset)
     {
-        while (m_checked < place) {
-            const std::size_t markup = m_text.substr(0, place).find('<', m_checked);
+        while (m_checked < offset) {
+            const std::size_t markup = m_text.substr(0, offset).find('<', m_checked);
             if (markup == std::string_view::npos)
                 return 0;
             m_checked = markup + std::max<std::size_t>(lengthWithoutReferences(m_text, markup), 1);
         }
-        return m_checked > place ? m_checked : 0;
+        return m_checked > offset ? m_checked : 0;
     }
 
     std::string_view m_text;
@@ -154,7 +154,7 @@ QByteArray asUtf8(char32_t character)
     return QString::fromUcs4(&character, 1).toUtf8();
 }
 
-/// Puts something shorter in place of each character that is wanted and written as a reference.
+/// Puts something shorter instead of each character that is wanted and written as a reference.
 QByteArray replaced(QByteArray xml, Wanted wanted, QByteArray (*replacement)(char32_t))
 {
     if (ReferenceFinder({xml.constData(), std::size_t(xml.size())}, wanted).next().length == 0)

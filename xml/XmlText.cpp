@@ -43,7 +43,7 @@ bool isScheme(QStringView text)
     });
 }
 
-/// The place of the character, or the length when it does not occur.
+/// The index of the character, or the length when it does not occur.
 qsizetype firstOf(QStringView text, char16_t c)
 {
     const qsizetype at = text.indexOf(QChar(c));

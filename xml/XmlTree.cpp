@@ -23,7 +23,7 @@ XmlTree::XmlTree(XmlDocument *owner)
     make(Kind::Document);
 }
 
-// Names ------------------------------------------------------------------------------------------
+// Names
 
 std::size_t XmlTree::hashOf(std::string_view qualified)
 {
@@ -33,20 +33,19 @@ std::size_t XmlTree::hashOf(std::string_view qualified)
 XmlNameId XmlTree::find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const
 {
     const std::size_t mask = m_nameTable.size() - 1;
-    for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
-        const XmlNameId id = m_nameTable[place];
+    for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
+        const XmlNameId id = m_nameTable[slot];
         if (id == noName || (m_names[id].uri == uri && m_names[id].qualified == qualified))
             return id;
     }
 }
 
-XmlNameId XmlTree::intern(std::string_view prefix, std::string_view local, std::string_view uri)
+XmlNameId XmlTree::internInNamespace(std::string_view prefix, std::string_view local, std::uint32_t uriNumber)
 {
     std::string qualified(prefix);
     if (!prefix.empty())
         qualified += ':';
     qualified += local;
-    const std::uint32_t uriNumber = internUri(uri);
     const std::size_t hash = hashOf(qualified);
     if (const XmlNameId known = find(qualified, uriNumber, hash))
         return known;
@@ -59,10 +58,10 @@ XmlNameId XmlTree::intern(std::string_view prefix, std::string_view local, std::
     const QString text = QString::fromUtf8(qualified.data(), qsizetype(qualified.size()));
     m_names.push_back({std::move(qualified), localAt, uriNumber, text});
     const std::size_t mask = m_nameTable.size() - 1;
-    std::size_t place = hash & mask;
-    while (m_nameTable[place] != noName)
-        place = (place + 1) & mask;
-    m_nameTable[place] = id;
+    std::size_t slot = hash & mask;
+    while (m_nameTable[slot] != noName)
+        slot = (slot + 1) & mask;
+    m_nameTable[slot] = id;
     return id;
 }
 
@@ -71,10 +70,10 @@ void XmlTree::growNameTable()
     std::vector<XmlNameId> larger(m_nameTable.size() * 2);
     const std::size_t mask = larger.size() - 1;
     for (XmlNameId id = 1; id < m_names.size(); ++id) {
-        std::size_t place = hashOf(m_names[id].qualified) & mask;
-        while (larger[place] != noName)
-            place = (place + 1) & mask;
-        larger[place] = id;
+        std::size_t slot = hashOf(m_names[id].qualified) & mask;
+        while (larger[slot] != noName)
+            slot = (slot + 1) & mask;
+        larger[slot] = id;
     }
     m_nameTable = std::move(larger);
 }
@@ -95,13 +94,13 @@ std::string_view XmlTree::prefix(XmlNameId id) const
     return std::string_view(known.qualified).substr(0, known.localAt ? known.localAt - 1 : 0);
 }
 
-// Texts ------------------------------------------------------------------------------------------
+// Texts
 
 /// A new region, to which the open text moves, with room for so many bytes more.
 void XmlTree::makeRegion(std::size_t wanted)
 {
     const bool isFirst = m_texts.empty();
-    const std::size_t start = isFirst ? textUnit : 0; // place 0 stands for no text
+    const std::size_t start = isFirst ? textUnit : 0; // position 0 stands for no text
     const std::size_t size = headerSize + m_openSize + wanted;
     // A text that grows out of one region will go on growing.
     const std::size_t room = start + (m_openSize > 0 ? 2 * size : size);
@@ -121,7 +120,7 @@ void XmlTree::makeRegion(std::size_t wanted)
         m_texts.push_back(m_region + i * textChunkSize);
 }
 
-// Structure --------------------------------------------------------------------------------------
+// Structure
 
 void XmlTree::makeChunk()
 {
@@ -252,7 +251,7 @@ XmlNodeId XmlTree::following(XmlNodeId id, XmlNodeId top) const
     return 0;
 }
 
-// Order ------------------------------------------------------------------------------------------
+// Order
 
 void XmlTree::setInOrder(bool textToo)
 {
@@ -281,7 +280,7 @@ XmlNodeId XmlTree::endOfElementsIn(XmlNodeId id) const
     return m_orderedEnd;
 }
 
-// Copies -----------------------------------------------------------------------------------------
+// Copies
 
 XmlNameId XmlTree::copyName(const XmlTree &from, XmlNameId id)
 {

@@ -25,7 +25,7 @@ class XmlDocument;
 
 /// The number of a name within its tree.
 using XmlNameId = std::uint32_t;
-/// The place of a text within its tree; 0 is none, which differs from an empty one.
+/// The position of a text within its tree; 0 is none, which differs from an empty one.
 using XmlTextId = std::uint32_t;
 /// The number of a node within its tree; 0 is none.
 using XmlNodeId = std::uint32_t;
@@ -94,7 +94,13 @@ public:
     /// The name's number; noName when the tree has none such.
     XmlNameId find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const;
     /// The name's number, which it gets now if it has none.
-    XmlNameId intern(std::string_view prefix, std::string_view local, std::string_view uri);
+    XmlNameId intern(std::string_view prefix, std::string_view local, std::string_view uri)
+    {
+        return internInNamespace(prefix, local, internUri(uri));
+    }
+    XmlNameId internInNamespace(std::string_view prefix, std::string_view local, std::uint32_t uriNumber);
+    /// The number of a namespace, which it gets now if it has none; 0 for an empty URI.
+    std::uint32_t internUri(std::string_view uri);
     const Name &name(XmlNameId id) const { return m_names[id]; }
     /// The URI of a name's namespace; empty for none.
     const std::string &uri(std::uint32_t number) const { return m_uris[number]; }
@@ -138,10 +144,10 @@ public:
     {
         if (id == 0)
             return {};
-        const char *const place = m_texts[id >> textBits] + std::size_t(id % (1u << textBits)) * textUnit;
+        const char *const at = m_texts[id >> textBits] + std::size_t(id % (1u << textBits)) * textUnit;
         std::uint32_t size;
-        std::memcpy(&size, place, headerSize);
-        return {place + headerSize, size};
+        std::memcpy(&size, at, headerSize);
+        return {at + headerSize, size};
     }
 
     // Structure
@@ -228,7 +234,7 @@ public:
 private:
     static constexpr unsigned nodeBits = 14;
     static constexpr std::size_t nodesPerChunk = std::size_t(1) << nodeBits;
-    static constexpr unsigned textBits = 18; ///< of a text's place within a chunk, in units
+    static constexpr unsigned textBits = 18; ///< of a text's position within a chunk, in units
     static constexpr std::size_t textUnit = 4;
     static constexpr std::size_t textChunkSize = textUnit << textBits;
     static constexpr std::size_t headerSize = sizeof(std::uint32_t); ///< a text's length, in front of it
@@ -236,7 +242,6 @@ private:
     void noteChange(const Node &changed);
     void makeChunk();
     void makeRegion(std::size_t wanted);
-    std::uint32_t internUri(std::string_view uri);
     void growNameTable();
     XmlNameId copyName(const XmlTree &from, XmlNameId id);
     XmlNodeId copyShallow(const XmlTree &from, XmlNodeId id, const std::vector<XmlNameId> &declared);
@@ -249,10 +254,10 @@ private:
     bool m_isTextInOrder = false;
     std::vector<std::vector<XmlNodeId>> m_elements; // by name, ascending; empty when no longer in order
     std::vector<std::unique_ptr<char[]>> m_textMemory;
-    std::vector<char *> m_texts;  // by the upper part of a text's place
+    std::vector<char *> m_texts;  // by the upper part of a text's position
     char *m_region = nullptr;     // what new texts are put into: a chunk, or several in a row
     std::size_t m_regionSize = 0; // bytes
-    std::size_t m_firstUnit = 0;  // the place of its first byte
+    std::size_t m_firstUnit = 0;  // the position of its first byte
     std::size_t m_textUsed = 0;   // bytes of it
     std::size_t m_openSize = 0;   // of the open text
     std::deque<Name> m_names;

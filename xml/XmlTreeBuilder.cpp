@@ -41,7 +41,7 @@ XmlTreeBuilder::XmlTreeBuilder(XmlTree &tree, bool keepsSpace)
 {
 }
 
-// Elements ---------------------------------------------------------------------------------------
+// Elements
 
 void XmlTreeBuilder::append(XmlNodeId child)
 {
@@ -91,11 +91,10 @@ void XmlTreeBuilder::addNamespace(XmlNameId prefix, std::string_view uri)
 void XmlTreeBuilder::addAttribute(XmlNameId name, std::string_view value)
 {
     const XmlNodeId element = parent();
-    for (XmlNodeId other = m_tree.node(element).firstAttribute; other; other = m_tree.node(other).next) {
-        const bool isSame = m_tree.node(other).kind() == Kind::Attribute && m_tree.node(other).name == name;
-        if (isSame)
-            return;
-    }
+    if (name >= m_attributeOwners.size())
+        m_attributeOwners.resize(std::size_t(name) + 1);
+    if (std::exchange(m_attributeOwners[name], element) == element)
+        return;
     const XmlNodeId attribute = m_tree.makeText(Kind::Attribute, value);
     m_tree.node(attribute).name = name;
     m_tree.appendAttribute(element, attribute);
@@ -128,7 +127,7 @@ void XmlTreeBuilder::finish()
     m_tree.setInOrder(!m_hasLateBlanks);
 }
 
-// Text -------------------------------------------------------------------------------------------
+// Text
 
 void XmlTreeBuilder::addText(std::string_view text)
 {
@@ -224,7 +223,7 @@ void XmlTreeBuilder::addBlanks()
     m_blanks.resize(element.firstBlank);
 }
 
-// The rest ---------------------------------------------------------------------------------------
+// The rest
 
 void XmlTreeBuilder::addComment(std::string_view text)
 {

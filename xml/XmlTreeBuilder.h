@@ -87,6 +87,7 @@ private:
     std::vector<PendingBlank> m_blanks;
     std::string m_blankBytes;
     std::array<std::uint32_t, 128> m_lastBlanks = {}; // by length: where the last one is, plus 1
+    std::vector<XmlNodeId> m_attributeOwners;         // by name: the element that got one such last
     XmlNodeId m_doctype = 0;
     bool m_hasLateBlanks = false;
 };

@@ -51,7 +51,7 @@ std::string_view replacement(char c)
     }
 }
 
-/// A hexadecimal reference to the character at the place, which moves to its last byte.
+/// A hexadecimal reference to the character at the index, which moves to its last byte.
 void writeReference(XmlOutput &output, std::string_view text, std::size_t &at)
 {
     const auto first = static_cast<unsigned char>(text[at]);

@@ -44,7 +44,7 @@ Result<QString> install(const QString &folder, const QString &version, const QSt
     if (!QDir().mkpath(QFileInfo(executable).path()))
         return Failure{QStringLiteral("The folder \"%1\" could not be made.").arg(bundle)};
 
-    const PropertyListDictionary information{
+    const QVariantMap information{
         {QStringLiteral("CFBundleExecutable"), name},
         {QStringLiteral("CFBundleIdentifier"), QStringLiteral("com.apple.FinalCutPro")},
         {QStringLiteral("CFBundleName"), name},

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/EventRecord.h"
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 #include "support/files/Result.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 #include "support/files/Result.h"
 
 #include <QByteArray>

@@ -96,7 +96,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
-    if (!restoreGeometry(m_defaults.value(geometryKey).toData()))
+    if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
 

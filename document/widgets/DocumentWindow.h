@@ -10,6 +10,7 @@
 #include "interchange/MarkerListPanel.h"
 
 #include <QMainWindow>
+#include <QVariantMap>
 
 #include <array>
 #include <cstddef>
@@ -29,7 +30,7 @@ class DocumentWindowInterface;
 class MyDocument;
 class NoticeBar;
 class PrintOperation;
-class PropertyListDictionary;
+
 class TabPane;
 class UserDefaults;
 class Workbench;
@@ -160,13 +161,13 @@ public Q_SLOTS:
 public:
     /// Prints the shared web view's page with these settings (see PrintInfo), or as changed in the print
     /// panel; reports whether it was printed.
-    void printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+    void printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
                                    const std::function<void(bool didPrint)> &didPrint)
     {
         m_reports.printDocumentWithSettings(settings, showPrintPanel, didPrint);
     }
     /// Always null: printDocument() is the only way to print.
-    PrintOperation *printOperationWithSettings(const PropertyListDictionary &, QString *) { return nullptr; }
+    PrintOperation *printOperationWithSettings(const QVariantMap &, QString *) { return nullptr; }
     bool mayReport() const { return m_reports.mayReport(); }
 
     // For the classes that the window consists of

@@ -114,14 +114,14 @@ void WindowReports::printDocument()
             print->updateHTMLString(body);
     });
     const Tab tab = m_window.selectedTab();
-    printDocumentWithSettings(m_defaults.value(printSettingsKey).toDictionary(), true,
+    printDocumentWithSettings(m_defaults.value(printSettingsKey).toMap(), true,
                               [this, tab](bool didPrint) {
                                   m_window.selectToolbarItem(tab);
                                   Q_EMIT m_window.reportPrinted(didPrint);
                               });
 }
 
-void WindowReports::printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+void WindowReports::printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
                                               const std::function<void(bool)> &didPrint)
 {
     const Result<QVPrint *> print = makePrint();
@@ -131,7 +131,7 @@ void WindowReports::printDocumentWithSettings(const PropertyListDictionary &sett
         return;
     }
     const auto jobTitle = [this] {
-        const PropertyListValue title = m_defaults.value(projectTitleKey);
+        const QVariant title = m_defaults.value(projectTitleKey);
         return title.isNull() ? m_window.fileTitle() : title.toString();
     };
     PrintInfo info(settings);
@@ -194,7 +194,7 @@ void WindowReports::exportReportTo(const QString &path, ReportFormat format)
     const auto isCancelled = std::make_shared<std::atomic<bool>>(false);
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [isCancelled] { *isCancelled = true; });
-    const PrintHelper::Pages pages = PrintInfo(m_defaults.value(printSettingsKey).toDictionary()).pages();
+    const PrintHelper::Pages pages = PrintInfo(m_defaults.value(printSettingsKey).toMap()).pages();
     const auto gate = m_window.workbench().document().mainThread();
     BackgroundWork::run([this, gate, path, format, helper, pages, isCancelled, bytes = text.data()] {
         const FileUtilities::Writer write = [&](QIODevice &device) {

@@ -6,6 +6,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 
@@ -13,7 +14,7 @@ namespace vantrell
 {
 
 class PrintPanel;
-class PropertyListDictionary;
+
 class QVPrintViewController;
 class ReportGenerator;
 class UserDefaults;
@@ -32,7 +33,7 @@ public:
     /// Whether a report may be made now.
     bool mayReport() const;
     void printDocument();
-    void printDocumentWithSettings(const PropertyListDictionary &settings, bool showPrintPanel,
+    void printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
                                    const std::function<void(bool didPrint)> &didPrint);
     void exportReport();
     void exportReportTo(const QString &path, ReportFormat format);

@@ -3,6 +3,7 @@
 #include "document/TableUpdates.h"
 #include "support/log/QVException.h"
 #include "support/threads/BackgroundWork.h"
+#include "support/threads/Persistently.h"
 
 #include <QTimer>
 
@@ -38,14 +39,15 @@ MarkerListImport::~MarkerListImport()
 void MarkerListImport::start()
 {
     const auto gate = m_document.mainThread();
-    BackgroundWork::run([this, gate, isWanted = m_isWanted, paths = m_paths, format = m_format] {
-        auto rows = std::make_shared<MarkerListImporter::Rows>();
+    const auto rows = std::make_shared<MarkerListImporter::Rows>();
+    const auto end = [this, isWanted = m_isWanted, rows] {
+        if (*isWanted)
+            add(std::move(*rows));
+    };
+    BackgroundWork::run([gate, rows, end, paths = m_paths, format = m_format] {
         guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
                 [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });
-        gate->post([this, isWanted, rows] {
-            if (*isWanted)
-                add(std::move(*rows));
-        });
+        persistently("MarkerListImport::start", [&] { gate->post(end); });
     });
 }
 

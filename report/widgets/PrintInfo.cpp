@@ -1,6 +1,7 @@
 #include "report/widgets/PrintInfo.h"
 
 #include "report/PaperSize.h"
+#include "support/files/PropertyList.h"
 
 #include <algorithm>
 
@@ -35,31 +36,31 @@ PrintInfo::PrintInfo()
 {
 }
 
-PrintInfo::PrintInfo(const PropertyListDictionary &settings)
+PrintInfo::PrintInfo(const QVariantMap &settings)
     : PrintInfo()
 {
     setPaper(settings.value(paperKey).toString());
-    if (settings.value(landscapeKey).toBoolean())
+    if (PropertyList::boolean(settings.value(landscapeKey)))
         layout.setOrientation(QPageLayout::Landscape);
-    if (settings.value(marginKey).isNumber())
-        setMargin(settings.value(marginKey).toReal());
-    if (settings.value(printerKey).isString())
+    if (PropertyList::isNumber(settings.value(marginKey)))
+        setMargin(settings.value(marginKey).toDouble());
+    if (settings.value(printerKey).typeId() == QMetaType::QString)
         printer = settings.value(printerKey).toString();
-    if (settings.value(fileKey).isString())
+    if (settings.value(fileKey).typeId() == QMetaType::QString)
         file = settings.value(fileKey).toString();
     if (settings.contains(copiesKey))
-        copies = int(std::clamp<qint64>(settings.value(copiesKey).toInteger(), 1, mostCopies));
+        copies = int(std::clamp<qint64>(PropertyList::integer(settings.value(copiesKey)), 1, mostCopies));
     if (settings.contains(headerAndFooterKey))
-        headerAndFooter = settings.value(headerAndFooterKey).toBoolean();
+        headerAndFooter = PropertyList::boolean(settings.value(headerAndFooterKey));
 }
 
-PropertyListDictionary PrintInfo::settings() const
+QVariantMap PrintInfo::settings() const
 {
-    PropertyListDictionary settings{{paperKey, layout.pageSize().key()},
-                                    {landscapeKey, layout.orientation() == QPageLayout::Landscape},
-                                    {marginKey, margin()},
-                                    {copiesKey, copies},
-                                    {headerAndFooterKey, headerAndFooter}};
+    QVariantMap settings{{paperKey, layout.pageSize().key()},
+                         {landscapeKey, layout.orientation() == QPageLayout::Landscape},
+                         {marginKey, margin()},
+                         {copiesKey, copies},
+                         {headerAndFooterKey, headerAndFooter}};
     if (!printer.isNull())
         settings.insert(printerKey, printer);
     return settings;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "report/PrintHelper.h"
-#include "support/files/PropertyListValue.h"
 
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace vantrell
 {
@@ -25,10 +25,10 @@ struct PrintInfo {
     PrintInfo();
     /// The same with the values of a dictionary: "paper" (a size name such as "A4"), "landscape", "margin"
     /// (millimetres), "printer", "file", "copies", "headerAndFooter". Invalid values are ignored.
-    explicit PrintInfo(const PropertyListDictionary &settings);
+    explicit PrintInfo(const QVariantMap &settings);
 
     /// The settings as such a dictionary, without the file.
-    PropertyListDictionary settings() const;
+    QVariantMap settings() const;
 
     /// The page setup for the program that makes PDF files.
     PrintHelper::Pages pages() const;

@@ -184,15 +184,15 @@ PrintOperation *QVPrint::printOperationWithPrintInfo(const PrintInfo &info, QObj
     return new PrintOperation(*m_webView, m_makePdf, info, parent);
 }
 
-PrintOperation *QVPrint::printOperationWithSettings(const PropertyListDictionary &settings, QObject *parent)
+PrintOperation *QVPrint::printOperationWithSettings(const QVariantMap &settings, QObject *parent)
 {
     return printOperationWithPrintInfo(PrintInfo(settings), parent);
 }
 
-PrintOperation *QVPrint::printOpFromView(const QString &jobTitle, const PropertyListDictionary &settings,
+PrintOperation *QVPrint::printOpFromView(const QString &jobTitle, const QVariantMap &settings,
                                          QObject *parent)
 {
-    PropertyListDictionary copy = settings;
+    QVariantMap copy = settings;
     copy.insert(QStringLiteral("headerAndFooter"), true);
     PrintInfo info(copy);
     info.jobTitle = jobTitle;
@@ -200,7 +200,7 @@ PrintOperation *QVPrint::printOpFromView(const QString &jobTitle, const Property
 }
 
 PrintOperation *QVPrint::printOpFromHTMLString(const QString &html, const QString &jobTitle,
-                                               const PropertyListDictionary &settings, QObject *parent)
+                                               const QVariantMap &settings, QObject *parent)
 {
     setHTMLString(html);
     return printOpFromView(jobTitle, settings, parent);
@@ -213,7 +213,7 @@ void QVPrint::startPrintOp(PrintOperation *operation, QWidget *parentWindow)
 }
 
 void QVPrint::printHTMLString(const QString &html, const QString &jobTitle, QWidget *parentWindow,
-                              const PropertyListDictionary &settings)
+                              const QVariantMap &settings)
 {
     startPrintOp(printOpFromHTMLString(html, jobTitle, settings, parentWindow), parentWindow);
 }

@@ -65,15 +65,14 @@ public:
     // Print operations for the page that the view shows when they run, owned by `parent`.
 
     PrintOperation *printOperationWithPrintInfo(const PrintInfo &info, QObject *parent);
-    PrintOperation *printOperationWithSettings(const PropertyListDictionary &settings, QObject *parent);
-    PrintOperation *printOpFromView(const QString &jobTitle, const PropertyListDictionary &settings,
-                                    QObject *parent);
+    PrintOperation *printOperationWithSettings(const QVariantMap &settings, QObject *parent);
+    PrintOperation *printOpFromView(const QString &jobTitle, const QVariantMap &settings, QObject *parent);
     PrintOperation *printOpFromHTMLString(const QString &html, const QString &jobTitle,
-                                          const PropertyListDictionary &settings, QObject *parent);
+                                          const QVariantMap &settings, QObject *parent);
     /// Runs the operation, showing its progress in a sheet on the window.
     void startPrintOp(PrintOperation *operation, QWidget *parentWindow);
     void printHTMLString(const QString &html, const QString &jobTitle, QWidget *parentWindow,
-                         const PropertyListDictionary &settings);
+                         const QVariantMap &settings);
 
 private:
     void runNextBody();

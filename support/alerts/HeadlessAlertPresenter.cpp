@@ -1,11 +1,11 @@
 #include "support/alerts/HeadlessAlertPresenter.h"
 
 #include "support/log/QVLog.h"
+#include "support/log/SystemLog.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 
-#include <cstdio>
 #include <thread>
 
 namespace vantrell
@@ -21,8 +21,7 @@ AlertPresenter::AlertId HeadlessAlertPresenter::begin(const AlertDescription &de
     const QString informativeText = description.value(AlertKey::InformativeText);
     if (!informativeText.isEmpty())
         line += QStringLiteral(": ") + informativeText;
-    std::fprintf(stderr, "%s\n", line.toUtf8().constData());
-    std::fflush(stderr);
+    SystemLog::write(line);
     QVLog::appendLog(u"%@", line);
 
     const bool isQuestion = !description.value(AlertKey::AlternateButtonTitle).isEmpty() ||

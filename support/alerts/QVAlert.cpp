@@ -2,11 +2,11 @@
 
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
+#include "support/log/SystemLog.h"
 #include "support/threads/MainThread.h"
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -45,12 +45,6 @@ AlertsInProgress &inProgress()
     // Never destroyed: an alert may still be waited for while the program ends.
     static AlertsInProgress *const alerts = new AlertsInProgress;
     return *alerts;
-}
-
-void insertGiven(AlertDescription &description, const QString &key, const QString &value)
-{
-    if (!value.isNull())
-        description.insert(key, value);
 }
 
 } // namespace
@@ -93,17 +87,6 @@ int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString
                                        const QString &alternateButton, const QString &otherButton,
                                        const QString &informativeText, AlertParent *parentWindow,
                                        AlertDelegate *delegate, const QString &didEndSelector, bool block,
-                                       const std::shared_ptr<QVAlert> &alertObject)
-{
-    return alertSheetWithMessageText(messageText, defaultButton, alternateButton, otherButton,
-                                     informativeText, parentWindow, delegate, didEndSelector, block,
-                                     alertObject, {});
-}
-
-int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
-                                       const QString &alternateButton, const QString &otherButton,
-                                       const QString &informativeText, AlertParent *parentWindow,
-                                       AlertDelegate *delegate, const QString &didEndSelector, bool block,
                                        const std::shared_ptr<QVAlert> &alertObject,
                                        const QString &suppressionBinding)
 {
@@ -115,19 +98,18 @@ int QVAlert::alertSheetWithMessageText(const QString &messageText, const QString
     guarded("QVAlert::alertSheetWithMessageText",
             [&] { responds = (delegate ? delegate : alert.get())->respondsTo(selector); });
     if (!responds) {
-        std::fprintf(stderr, "Alert error: delegate does not respond to selector %s\n",
-                     selector.toUtf8().constData());
+        SystemLog::write(formatText(u"Alert error: delegate does not respond to selector %@", selector));
         return AlertAnswer::Other;
     }
 
-    AlertDescription description;
-    insertGiven(description, AlertKey::MessageText, messageText);
-    insertGiven(description, AlertKey::DefaultButtonTitle, defaultButton);
-    insertGiven(description, AlertKey::AlternateButtonTitle, alternateButton);
-    insertGiven(description, AlertKey::OtherButtonTitle, otherButton);
-    insertGiven(description, AlertKey::InformativeText, informativeText);
-    insertGiven(description, AlertKey::DidEndSelector, selector);
-    insertGiven(description, AlertKey::SuppressionBinding, suppressionBinding);
+    AlertDescription description{{AlertKey::MessageText, messageText},
+                                 {AlertKey::DefaultButtonTitle, defaultButton},
+                                 {AlertKey::AlternateButtonTitle, alternateButton},
+                                 {AlertKey::OtherButtonTitle, otherButton},
+                                 {AlertKey::InformativeText, informativeText},
+                                 {AlertKey::DidEndSelector, selector},
+                                 {AlertKey::SuppressionBinding, suppressionBinding}};
+    description.removeIf([](AlertDescription::iterator value) { return value->isNull(); });
     MainThread::runAndWait([&] { alert->alertSheetWithDictionary(description); });
     if (!block)
         return AlertAnswer::Other;
@@ -159,22 +141,23 @@ void QVAlert::closeAlertsForParent(AlertParent *parentWindow)
     if (!parentWindow)
         return;
     parentWindow->setClosing();
-    const auto alerts = inProgress().alerts; // a delegate that is told may raise or end others
-    for (const std::shared_ptr<QVAlert> &alert : alerts) {
-        if (alert->m_raisedFor == parentWindow)
-            alert->endWithoutAnswer();
-    }
-    if (const auto presenter = inProgress().presenter)
-        guarded("QVAlert::closeAlertsForParent", [&] { presenter->closeAll(parentWindow); });
+    endAll(parentWindow);
 }
 
 void QVAlert::closeAll()
 {
-    const auto alerts = inProgress().alerts;
-    for (const std::shared_ptr<QVAlert> &alert : alerts)
-        alert->endWithoutAnswer();
+    endAll(nullptr);
+}
+
+void QVAlert::endAll(AlertParent *parentWindow)
+{
+    const auto alerts = inProgress().alerts; // a delegate that is told may raise or end others
+    for (const std::shared_ptr<QVAlert> &alert : alerts) {
+        if (!parentWindow || alert->m_raisedFor == parentWindow)
+            alert->endWithoutAnswer();
+    }
     if (const auto presenter = inProgress().presenter)
-        guarded("QVAlert::closeAll", [&] { presenter->closeAll(nullptr); });
+        guarded("QVAlert::endAll", [&] { presenter->closeAll(parentWindow); });
 }
 
 QString QVAlert::alertDidEndSelector()

@@ -59,12 +59,6 @@ public:
                                          const QString &informativeText, AlertParent *parentWindow,
                                          AlertDelegate *delegate, const QString &didEndSelector, bool block);
 
-    static int alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
-                                         const QString &alternateButton, const QString &otherButton,
-                                         const QString &informativeText, AlertParent *parentWindow,
-                                         AlertDelegate *delegate, const QString &didEndSelector, bool block,
-                                         const std::shared_ptr<QVAlert> &alertObject);
-
     /// The full form. Without a delegate the alert object is its own; without a selector the end operation
     /// is alertDidEndSelector(). A delegate that does not respond to it ends the call with -1 and a line
     /// in the system log. A waiting call with a delegate of its own returns once that (or anything else)
@@ -74,7 +68,7 @@ public:
                                          const QString &informativeText, AlertParent *parentWindow,
                                          AlertDelegate *delegate, const QString &didEndSelector, bool block,
                                          const std::shared_ptr<QVAlert> &alertObject,
-                                         const QString &suppressionBinding);
+                                         const QString &suppressionBinding = {});
 
     /// Waits; when nobody has answered after `interval` seconds the alert disappears and the answer is 1.
     static int timedAlertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
@@ -117,6 +111,8 @@ public:
 private:
     QVAlert() = default;
 
+    /// Ends every alert that was raised for the window; every one for null.
+    static void endAll(AlertParent *parentWindow);
     void prepare(AlertParent *parentWindow, AlertDelegate *delegate, bool block);
     void waitForEnd();
     void finishCall();

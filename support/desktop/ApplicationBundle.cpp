@@ -58,7 +58,7 @@ std::optional<ApplicationBundle> ApplicationBundle::read(const QString &path)
     const auto list = PropertyList::fromFile(information);
     if (!list)
         return std::nullopt;
-    const PropertyListDictionary &keys = list.value().toDictionary();
+    const QVariantMap keys = list.value().toMap();
     const QString identifier = keys.value(QStringLiteral("CFBundleIdentifier")).toString();
     if (identifier.isEmpty())
         return std::nullopt;

@@ -1,6 +1,7 @@
 #include "support/desktop/FileBrowser.h"
 
 #include "support/log/QVException.h"
+#include "support/threads/BackgroundWork.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -10,11 +11,8 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
+#include <future>
 #include <memory>
-#include <mutex>
-#include <system_error>
-#include <thread>
 
 namespace vantrell
 {
@@ -58,30 +56,17 @@ bool FileBrowser::showItem(const QString &path)
 {
     if (!QCoreApplication::instance() || !hasSessionBus())
         return false;
-    struct Call {
-        std::mutex mutex; // guards the rest
-        std::condition_variable changed;
-        bool hasEnded = false;
-        bool isAnswered = false;
-    };
-    const auto call = std::make_shared<Call>();
+    const auto isAnswered = std::make_shared<std::promise<bool>>();
     const QString uri = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
-    try {
-        // On a thread that can be left behind: connecting to a bus that hangs has no time-out.
-        std::thread([call, uri] {
-            bool isAnswered = false;
-            guarded("FileBrowser::showItem", [&] { isAnswered = callFileManager(uri); });
-            const std::lock_guard lock(call->mutex);
-            call->isAnswered = isAnswered;
-            call->hasEnded = true;
-            call->changed.notify_all();
-        }).detach();
-    } catch (const std::system_error &) {
-        return false;
-    }
-    std::unique_lock lock(call->mutex);
-    call->changed.wait_for(lock, std::chrono::milliseconds(TimeoutMs), [&] { return call->hasEnded; });
-    return call->isAnswered;
+    std::future<bool> answer = isAnswered->get_future();
+    // On a thread that can be left behind: connecting to a bus that hangs has no time-out.
+    BackgroundWork::run([isAnswered, uri] {
+        bool hasShown = false;
+        guarded("FileBrowser::showItem", [&] { hasShown = callFileManager(uri); });
+        isAnswered->set_value(hasShown);
+    });
+    const bool hasEnded = answer.wait_for(std::chrono::milliseconds(TimeoutMs)) == std::future_status::ready;
+    return hasEnded && answer.get();
 }
 
 } // namespace vantrell

@@ -1,18 +1,17 @@
 #include "support/files/FileUtilities.h"
 
+#include "support/files/Descriptor.h"
 #include "support/files/UnfinishedFiles.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QIODevice>
 #include <QRandomGenerator>
 
-#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <exception>
 #include <fcntl.h>
 #include <new>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -33,214 +32,103 @@ Failure writeFailure(const QString &path, int error)
     return writeFailure(path, qt_error_string(error));
 }
 
-/// Writes to an open file descriptor through a buffer of its own and remembers the first error: a
-/// writer that does not look at what write() returns still fails.
-class DescriptorDevice : public QIODevice
+bool isUsable(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar(u'\0'));
+}
+
+/// A file that remembers the first error: a writer that does not look at what write() returns still fails.
+class CheckedFile : public QFile
 {
 public:
-    explicit DescriptorDevice(int descriptor)
-        : m_descriptor(descriptor)
-    {
-        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-        m_buffer.reserve(bufferSize);
-    }
+    using QFile::QFile;
 
-    bool isSequential() const override { return true; }
-    int error() const { return m_error; }
-
-    bool flush()
+    /// Runs the writer and has what it wrote leave this process.
+    Result<void> writeContent(const QString &path, const Writer &writer)
     {
-        writeOut(m_buffer.constData(), m_buffer.size());
-        m_buffer.resize(0);
-        return m_error == 0;
+        try {
+            const Result<void> written = writer(*this);
+            if (!flush() && m_error.isNull())
+                m_error = errorString();
+            return m_error.isNull() ? written : writeFailure(path, m_error);
+        } catch (const std::exception &exception) {
+            return writeFailure(path, QString::fromUtf8(exception.what()));
+        } catch (...) {
+            return writeFailure(path, QStringLiteral("unknown error"));
+        }
     }
 
 protected:
-    qint64 readData(char *, qint64) override { return -1; }
-
     qint64 writeData(const char *data, qint64 size) override
     {
-        if (m_buffer.size() + size > bufferSize)
-            flush();
-        if (size >= bufferSize)
-            writeOut(data, size);
-        else if (m_error == 0)
-            m_buffer.append(data, size);
-        if (m_error == 0)
-            return size;
-        setErrorString(qt_error_string(m_error));
-        return -1;
-    }
-
-private:
-    static constexpr qint64 bufferSize = 64 * 1024;
-
-    void writeOut(const char *data, qint64 size)
-    {
-        while (m_error == 0 && size > 0) {
-            const ssize_t written = ::write(m_descriptor, data, static_cast<std::size_t>(size));
-            if (written >= 0) {
-                data += written;
-                size -= written;
-            } else if (errno != EINTR) {
-                m_error = errno;
-            }
+        for (qint64 written = 0; written < size && m_error.isNull();) {
+            const qint64 count = QFile::writeData(data + written, size - written);
+            if (count <= 0)
+                m_error = errorString();
+            written += count;
         }
-    }
-
-    int m_descriptor;
-    int m_error = 0;
-    QByteArray m_buffer;
-};
-
-/// An open file, closed at the end; -1 for none.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number = -1)
-        : m_number(number)
-    {
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    ~Descriptor() { close(); }
-
-    int number() const { return m_number; }
-
-    void reset(int number)
-    {
-        close();
-        m_number = number;
-    }
-
-    /// False with errno set when what was written is not sure to have arrived.
-    bool close()
-    {
-        const int number = std::exchange(m_number, -1);
-        return number < 0 || ::close(number) == 0 || errno == EINTR;
+        return m_error.isNull() ? size : -1;
     }
 
 private:
-    int m_number;
+    QString m_error;
 };
 
-/// A file that is removed at the end unless it was kept.
-class NewFile
+/// A file with a name of its own beside its target, until it takes the target's place; removed at the end
+/// unless it did. QSaveFile would serve, but that it cannot replace a file whose name has more than 248
+/// bytes, and keeps the temporary name, which is to be removed on a signal, to itself.
+class NewFile : public CheckedFile
 {
 public:
-    NewFile() = default;
+    explicit NewFile(const QFileInfo &target)
+        : CheckedFile(QStringLiteral("%1/.%2.%3")
+                          .arg(target.path(), target.fileName().left(60),
+                               QString::number(QRandomGenerator::system()->generate64(), 36)))
+        , m_path(encodeName(fileName()))
+    {
+        UnfinishedFiles::add(m_path);
+    }
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;
-    ~NewFile()
+    ~NewFile() override
     {
-        if (!m_path.isEmpty()) {
-            ::unlink(m_path.constData());
-            UnfinishedFiles::remove(m_path);
-        }
-    }
-
-    /// Makes a file with a name of its own in the folder; false with errno set when it cannot.
-    bool create(const QString &folder, const QString &name)
-    {
-        for (int attempt = 0; attempt < 100; ++attempt) {
-            const QString unique = QString::number(QRandomGenerator::system()->generate64(), 36);
-            m_path = QFile::encodeName(folder + u'/' + u'.' + name.left(60) + u'.' + unique);
-            m_descriptor.reset(::open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-            if (m_descriptor.number() >= 0) {
-                UnfinishedFiles::add(m_path);
-                return true;
-            }
-            if (errno != EEXIST)
-                break;
-        }
-        m_path.clear();
-        return false;
-    }
-
-    int descriptor() const { return m_descriptor.number(); }
-    const QByteArray &path() const { return m_path; }
-    bool close() { return m_descriptor.close(); }
-    void keep()
-    {
+        if (!m_isInPlace)
+            remove();
         UnfinishedFiles::remove(m_path);
-        m_path.clear();
+    }
+
+    Result<void> replace(const QString &path, const QString &target)
+    {
+        close();
+        if (error() != NoError)
+            return writeFailure(path, errorString());
+        m_isInPlace = ::rename(m_path.constData(), encodeName(target).constData()) == 0;
+        return m_isInPlace ? Result<void>() : writeFailure(path, errno);
     }
 
 private:
-    Descriptor m_descriptor;
-    QByteArray m_path;
+    const QByteArray m_path;
+    bool m_isInPlace = false;
 };
 
-/// The path that a chain of symbolic links ends at, whether there is a file or not; empty when the
-/// chain is a ring.
+/// The path without a file that a chain of symbolic links ends at; empty when the chain is a ring.
 QString linkTarget(QString path)
 {
     for (int step = 0; step < 40; ++step) {
-        QByteArray target(4096, Qt::Uninitialized);
-        const ssize_t size = ::readlink(QFile::encodeName(path).constData(), target.data(),
-                                        static_cast<std::size_t>(target.size()));
-        if (size < 0)
+        const QString next = QFile::symLinkTarget(path);
+        if (next.isEmpty())
             return path;
-        const QString next = QFile::decodeName(target.left(size));
-        path = next.startsWith(u'/') ? next : QFileInfo(path).path() + u'/' + next;
+        path = next;
     }
     return QString();
-}
-
-/// Runs the writer on the open descriptor.
-Result<void> writeContent(const QString &path, int descriptor, const Writer &writer)
-{
-    DescriptorDevice device(descriptor);
-    try {
-        const Result<void> written = writer(device);
-        device.flush();
-        if (device.error() != 0)
-            return writeFailure(path, device.error());
-        return written;
-    } catch (const std::exception &exception) {
-        return writeFailure(path, QString::fromUtf8(exception.what()));
-    } catch (...) {
-        return writeFailure(path, QStringLiteral("unknown error"));
-    }
-}
-
-Result<void> writeDirectly(const QString &path, const Writer &writer)
-{
-    Descriptor file(::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC));
-    if (file.number() < 0)
-        return writeFailure(path, errno);
-    const Result<void> written = writeContent(path, file.number(), writer);
-    if (!file.close() && written.isOk())
-        return writeFailure(path, errno);
-    return written;
 }
 
 /// Makes the new directory entry last; that it cannot be done on some file systems does no harm.
 void syncFolder(const QString &folder)
 {
     const Descriptor file(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (file.number() >= 0)
+    if (file.isOpen())
         ::fsync(file.number());
-}
-
-/// Reads to the end of the file; nothing with errno set when that fails.
-std::optional<QByteArray> readToEnd(int descriptor, qsizetype expectedSize)
-{
-    QByteArray content;
-    // One byte more than expected, so that the end shows without another block.
-    content.reserve(expectedSize + 1);
-    for (;;) {
-        const qsizetype size = content.size();
-        const qsizetype room = content.capacity() - size;
-        content.resize(size + (room > 0 ? room : 4096 + size / 2));
-        const ssize_t count =
-            ::read(descriptor, content.data() + size, static_cast<std::size_t>(content.size() - size));
-        content.resize(size + std::max<qsizetype>(count, 0));
-        if (count < 0 && errno != EINTR)
-            return std::nullopt;
-        if (count == 0)
-            return content;
-    }
 }
 
 QString withoutTrailingSlashes(QString path)
@@ -273,47 +161,48 @@ Result<void> writeAtomically(const QString &path, const QByteArray &content,
 Result<void> writeAtomically(const QString &path, const Writer &writer,
                              const BeforeReplacing &beforeReplacing)
 {
-    if (path.isEmpty() || path.contains(QChar(u'\0')))
+    if (!isUsable(path))
         return writeFailure(path, ENOENT);
     struct stat old = {};
     const bool isThere = ::stat(QFile::encodeName(path).constData(), &old) == 0;
     if (isThere && S_ISDIR(old.st_mode))
         return writeFailure(path, EISDIR);
-    if (isThere && !S_ISREG(old.st_mode))
-        return writeDirectly(path, writer);
-
-    const QString target = linkTarget(path);
+    if (isThere && !S_ISREG(old.st_mode)) {
+        CheckedFile file(path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly))
+            return writeFailure(path, file.errorString());
+        return file.writeContent(path, writer);
+    }
+    const QString target = isThere ? QFileInfo(path).canonicalFilePath() : linkTarget(path);
     if (target.isEmpty())
         return writeFailure(path, ELOOP);
-    const QByteArray encodedTarget = QFile::encodeName(target);
-    if (isThere && ::access(encodedTarget.constData(), W_OK) != 0)
+    if (isThere && ::access(QFile::encodeName(target).constData(), W_OK) != 0)
         return writeFailure(path, errno);
 
     const QFileInfo info(target);
-    NewFile file;
-    if (!file.create(info.path(), info.fileName()))
-        return writeFailure(path, errno);
-    const Result<void> written = writeContent(path, file.descriptor(), writer);
+    NewFile file(info);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return writeFailure(path, file.errorString());
+    const Result<void> written = file.writeContent(path, writer);
     if (!written)
         return written;
     if (isThere) {
         // The owner first: changing it takes away the set-user and set-group bits.
-        [[maybe_unused]] const int ownerKept = ::fchown(file.descriptor(), old.st_uid, old.st_gid);
-        if (::fchmod(file.descriptor(), old.st_mode & 07777) != 0)
+        [[maybe_unused]] const int ownerKept = ::fchown(file.handle(), old.st_uid, old.st_gid);
+        if (::fchmod(file.handle(), old.st_mode & 07777) != 0)
             return writeFailure(path, errno);
     }
-    if (::fsync(file.descriptor()) != 0 && errno != EINVAL)
+    if (::fsync(file.handle()) != 0 && errno != EINVAL)
         return writeFailure(path, errno);
     if (beforeReplacing) {
-        const Result<void> mayReplace = beforeReplacing(file.descriptor());
+        const Result<void> mayReplace = beforeReplacing(file.handle());
         if (!mayReplace)
             return mayReplace;
     }
-    if (!file.close() || ::rename(file.path().constData(), encodedTarget.constData()) != 0)
-        return writeFailure(path, errno);
-    file.keep();
-    syncFolder(info.path());
-    return {};
+    const Result<void> replaced = file.replace(path, target);
+    if (replaced)
+        syncFolder(info.path());
+    return replaced;
 }
 
 bool isSameFile(const QString &a, const QString &b)
@@ -327,21 +216,23 @@ bool isSameFile(const QString &a, const QString &b)
 
 Result<QByteArray> readFile(const QString &path)
 {
-    const auto failure = [&path](int error) {
-        return Failure{
-            QStringLiteral("The file \"%1\" could not be read: %2.").arg(path, qt_error_string(error))};
+    const auto failure = [&path](const QString &reason) {
+        return Failure{QStringLiteral("The file \"%1\" could not be read: %2.").arg(path, reason)};
     };
-    if (path.contains(QChar(u'\0')))
-        return failure(ENOENT);
-    const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
-    struct stat status = {};
-    if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
-        return failure(errno);
+    // QFile has sentences of its own for these.
+    if (!isUsable(path))
+        return failure(qt_error_string(ENOENT));
+    if (QFileInfo(path).isDir())
+        return failure(qt_error_string(EISDIR));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return failure(file.errorString());
     try {
-        std::optional<QByteArray> content = readToEnd(file.number(), static_cast<qsizetype>(status.st_size));
-        return content ? Result<QByteArray>(*std::move(content)) : Result<QByteArray>(failure(errno));
+        QByteArray content = file.readAll();
+        return file.error() == QFileDevice::NoError ? Result<QByteArray>(std::move(content))
+                                                    : Result<QByteArray>(failure(file.errorString()));
     } catch (const std::bad_alloc &) {
-        return failure(ENOMEM);
+        return failure(qt_error_string(ENOMEM));
     }
 }
 
@@ -365,7 +256,7 @@ Result<QString> makeUniqueFile(const QString &path)
         const QString candidate = uniqueFilePath(path);
         const Descriptor file(
             ::open(QFile::encodeName(candidate).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (file.number() >= 0)
+        if (file.isOpen())
             return candidate;
         // A link to nothing is no file that exists, and yet in the way.
         if (errno != EEXIST || !QFileInfo::exists(candidate))

@@ -1,16 +1,19 @@
 #include "support/files/PropertyList.h"
 
 #include "support/files/FileUtilities.h"
+#include "support/text/TextNumbers.h"
 
+#include <QDateTime>
+#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
-#include <QtEndian>
 
 #include <algorithm>
 #include <clocale>
+#include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <memory>
-#include <optional>
 #include <plist/plist.h>
 
 namespace vantrell::PropertyList
@@ -33,6 +36,7 @@ using Node = std::unique_ptr<void, NodeDeleter>;
 struct FreeDeleter {
     void operator()(void *memory) const { std::free(memory); }
 };
+using Memory = std::unique_ptr<void, FreeDeleter>;
 
 /// Gives the current thread the decimal point of the C locale while it lives: libplist reads and
 /// writes numbers as the locale says.
@@ -208,98 +212,71 @@ private:
     qsizetype m_textBytes = 0;
 };
 
-QDateTime dateOf(plist_t node)
+QVariant valueOf(plist_t node)
 {
-    qint32 seconds = 0;
-    qint32 microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);
-    return QDateTime::fromSecsSinceEpoch(dateEpoch + seconds, Qt::UTC);
-}
-
-PropertyListValue valueOf(plist_t node);
-
-PropertyListValue arrayOf(plist_t node)
-{
-    PropertyListValue::Array array;
-    array.reserve(plist_array_get_size(node));
-    plist_array_iter rawIterator = nullptr;
-    plist_array_new_iter(node, &rawIterator);
-    const std::unique_ptr<void, FreeDeleter> iterator(rawIterator);
-    for (;;) {
-        plist_t member = nullptr;
-        plist_array_next_item(node, iterator.get(), &member);
-        if (!member)
-            return array;
-        array.push_back(valueOf(member));
-    }
-}
-
-PropertyListValue dictionaryOf(plist_t node)
-{
-    PropertyListDictionary dictionary;
-    plist_dict_iter rawIterator = nullptr;
-    plist_dict_new_iter(node, &rawIterator);
-    const std::unique_ptr<void, FreeDeleter> iterator(rawIterator);
-    for (;;) {
-        char *rawKey = nullptr;
-        plist_t member = nullptr;
-        plist_dict_next_item(node, iterator.get(), &rawKey, &member);
-        const std::unique_ptr<char, FreeDeleter> key(rawKey);
-        if (!member)
-            return dictionary;
-        dictionary.insert(QString::fromUtf8(key.get()), valueOf(member));
-    }
-}
-
-PropertyListValue valueOf(plist_t node)
-{
+    uint64_t size = 0;
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN: {
         quint8 boolean = 0;
         plist_get_bool_val(node, &boolean);
         return boolean != 0;
     }
-    case PLIST_UINT: {
-        uint64_t bits = 0;
-        plist_get_uint_val(node, &bits);
-        return static_cast<qint64>(bits);
-    }
-    case PLIST_UID: {
-        uint64_t bits = 0;
-        plist_get_uid_val(node, &bits);
-        return static_cast<qint64>(bits);
-    }
+    case PLIST_UINT:
+        plist_get_uint_val(node, &size);
+        return static_cast<qint64>(size);
+    case PLIST_UID:
+        plist_get_uid_val(node, &size);
+        return static_cast<qint64>(size);
     case PLIST_REAL: {
         double number = 0;
         plist_get_real_val(node, &number);
         return number;
     }
     case PLIST_STRING: {
-        uint64_t size = 0;
         const char *text = plist_get_string_ptr(node, &size);
-        return text ? QString::fromUtf8(text, static_cast<qsizetype>(size)) : QString();
+        return QString::fromUtf8(text ? text : "", static_cast<qsizetype>(size));
     }
-    case PLIST_DATE:
-        return dateOf(node);
+    case PLIST_DATE: {
+        qint32 seconds = 0;
+        qint32 microseconds = 0;
+        plist_get_date_val(node, &seconds, &microseconds);
+        return QDateTime::fromSecsSinceEpoch(dateEpoch + seconds, Qt::UTC);
+    }
     case PLIST_DATA: {
-        uint64_t size = 0;
         const char *data = plist_get_data_ptr(node, &size);
-        return data ? QByteArray(data, static_cast<qsizetype>(size)) : QByteArray();
+        return QByteArray(data, static_cast<qsizetype>(size));
     }
-    case PLIST_ARRAY:
-        return arrayOf(node);
-    case PLIST_DICT:
-        return dictionaryOf(node);
+    case PLIST_ARRAY: {
+        QVariantList array;
+        plist_array_iter iterator = nullptr;
+        plist_array_new_iter(node, &iterator);
+        const Memory iteratorMemory(iterator);
+        for (plist_t member = nullptr; plist_array_next_item(node, iterator, &member), member;)
+            array.append(valueOf(member));
+        return array;
+    }
+    case PLIST_DICT: {
+        QVariantMap dictionary;
+        plist_dict_iter iterator = nullptr;
+        plist_dict_new_iter(node, &iterator);
+        const Memory iteratorMemory(iterator);
+        char *key = nullptr;
+        for (plist_t member = nullptr; plist_dict_next_item(node, iterator, &key, &member), member;) {
+            const Memory keyMemory(key);
+            dictionary.insert(QString::fromUtf8(key), valueOf(member));
+        }
+        return dictionary;
+    }
     default:
         return {};
     }
 }
 
-Result<PropertyListValue> readValue(plist_t rawNode)
+Result<QVariant> readValue(plist_t rawNode)
 {
     const Node node(rawNode);
-    PropertyListValue value = node ? valueOf(node.get()) : PropertyListValue();
-    if (value.isNull())
+    QVariant value = node ? valueOf(node.get()) : QVariant();
+    if (!value.isValid())
         return damaged(QStringLiteral("it holds no value"));
     return value;
 }
@@ -324,33 +301,48 @@ QByteArray writableText(const QString &text)
     return kept.toUtf8();
 }
 
-/// The node of a value that is not null; nothing when it nests too deep.
-Node nodeOf(const PropertyListValue &value, int depth)
+bool hasForm(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QString:
+    case QMetaType::QDateTime:
+    case QMetaType::QByteArray:
+    case QMetaType::QStringList:
+    case QMetaType::QVariantList:
+    case QMetaType::QVariantMap:
+        return true;
+    default:
+        return isNumber(value);
+    }
+}
+
+/// The node of a value that has a form; nothing when it nests too deep.
+Node nodeOf(const QVariant &value, int depth)
 {
     if (depth > maximumDepth)
         return nullptr;
-    switch (value.type()) {
-    case PropertyListValue::Type::Boolean:
-        return Node(plist_new_bool(value.toBoolean() ? 1 : 0));
-    case PropertyListValue::Type::Integer:
-        return Node(plist_new_uint(static_cast<quint64>(value.toInteger())));
-    case PropertyListValue::Type::Real:
-        return Node(plist_new_real(value.toReal()));
-    case PropertyListValue::Type::String:
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return Node(plist_new_bool(value.toBool() ? 1 : 0));
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return Node(plist_new_real(value.toDouble()));
+    case QMetaType::QString:
         return Node(plist_new_string(writableText(value.toString()).constData()));
-    case PropertyListValue::Type::Date: {
+    case QMetaType::QDateTime: {
         constexpr qint64 farthest = std::numeric_limits<qint32>::max();
-        const qint64 seconds = value.toDate().toSecsSinceEpoch() - dateEpoch;
+        const qint64 seconds = value.toDateTime().toSecsSinceEpoch() - dateEpoch;
         return Node(plist_new_date(static_cast<qint32>(std::clamp(seconds, -farthest, farthest)), 0));
     }
-    case PropertyListValue::Type::Data: {
-        const QByteArray data = value.toData();
+    case QMetaType::QByteArray: {
+        const QByteArray data = value.toByteArray();
         return Node(plist_new_data(data.constData(), static_cast<quint64>(data.size())));
     }
-    case PropertyListValue::Type::Array: {
+    case QMetaType::QStringList:
+    case QMetaType::QVariantList: {
         Node array(plist_new_array());
-        for (const PropertyListValue &member : value.toArray()) {
-            if (member.isNull())
+        for (const QVariantList members = value.toList(); const QVariant &member : members) {
+            if (!hasForm(member))
                 continue;
             Node node = nodeOf(member, depth + 1);
             if (!node)
@@ -359,24 +351,27 @@ Node nodeOf(const PropertyListValue &value, int depth)
         }
         return array;
     }
-    case PropertyListValue::Type::Dictionary: {
+    case QMetaType::QVariantMap: {
         Node dictionary(plist_new_dict());
-        for (const PropertyListDictionary::Entry &entry : value.toDictionary()) {
-            Node node = nodeOf(entry.value, depth + 1);
+        const QVariantMap members = value.toMap();
+        for (auto member = members.cbegin(); member != members.cend(); ++member) {
+            if (!hasForm(*member))
+                continue;
+            Node node = nodeOf(*member, depth + 1);
             if (!node)
                 return nullptr;
-            plist_dict_set_item(dictionary.get(), writableText(entry.key).constData(), node.release());
+            plist_dict_set_item(dictionary.get(), writableText(member.key()).constData(), node.release());
         }
         return dictionary;
     }
     default:
-        return nullptr;
+        return Node(plist_new_uint(static_cast<quint64>(value.toLongLong())));
     }
 }
 
 } // namespace
 
-Result<PropertyListValue> fromBytes(const QByteArray &bytes)
+Result<QVariant> fromBytes(const QByteArray &bytes)
 {
     if (bytes.size() > maximumBytes)
         return damaged(QStringLiteral("it is too large"));
@@ -398,20 +393,20 @@ Result<PropertyListValue> fromBytes(const QByteArray &bytes)
     return readValue(node);
 }
 
-Result<PropertyListValue> fromFile(const QString &path)
+Result<QVariant> fromFile(const QString &path)
 {
     const Result<QByteArray> bytes = FileUtilities::readFile(path);
     if (!bytes)
         return bytes.failure();
-    const Result<PropertyListValue> value = fromBytes(bytes.value());
+    const Result<QVariant> value = fromBytes(bytes.value());
     if (!value)
         return Failure{QStringLiteral("The file \"%1\" could not be read. %2").arg(path, value.message())};
     return value;
 }
 
-Result<QByteArray> toBytes(const PropertyListValue &value, Format format)
+Result<QByteArray> toBytes(const QVariant &value, Format format)
 {
-    if (value.isNull())
+    if (!hasForm(value))
         return Failure{QStringLiteral("A property list cannot hold nothing.")};
     const NumberLocale locale;
     const Node node = nodeOf(value, 0);
@@ -423,16 +418,64 @@ Result<QByteArray> toBytes(const PropertyListValue &value, Format format)
         plist_to_xml(node.get(), &rawBytes, &size);
     else
         plist_to_bin(node.get(), &rawBytes, &size);
-    const std::unique_ptr<char, FreeDeleter> bytes(rawBytes);
-    if (!bytes)
+    const Memory memory(rawBytes);
+    if (!rawBytes)
         return Failure{QStringLiteral("The property list could not be written.")};
-    return QByteArray(bytes.get(), static_cast<qsizetype>(size));
+    return QByteArray(rawBytes, static_cast<qsizetype>(size));
 }
 
-Result<void> toFile(const PropertyListValue &value, const QString &path, Format format)
+Result<void> toFile(const QVariant &value, const QString &path, Format format)
 {
     const Result<QByteArray> bytes = toBytes(value, format);
     return bytes ? FileUtilities::writeAtomically(path, bytes.value()) : Result<void>(bytes.failure());
+}
+
+bool isNumber(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool boolean(const QVariant &value)
+{
+    if (value.typeId() != QMetaType::QString)
+        return isNumber(value) && value.toDouble() != 0;
+    static const QRegularExpression truth(QStringLiteral("^\\s*[-+]?0*[1-9YyTt]"));
+    return truth.match(value.toString()).hasMatch();
+}
+
+qint64 integer(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QString)
+        return integerValue(value.toString());
+    if (value.typeId() != QMetaType::Double && value.typeId() != QMetaType::Float)
+        return isNumber(value) ? value.toLongLong() : 0;
+    constexpr double limit = 9223372036854775808.0; // 2^63
+    const double number = value.toDouble();
+    if (number >= limit)
+        return std::numeric_limits<qint64>::max();
+    if (number < -limit)
+        return std::numeric_limits<qint64>::min();
+    return std::isnan(number) ? 0 : static_cast<qint64>(number);
+}
+
+QString text(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Bool)
+        return QString::number(value.toInt());
+    return value.typeId() == QMetaType::QString || isNumber(value) ? value.toString() : QString();
 }
 
 } // namespace vantrell::PropertyList

@@ -1,10 +1,9 @@
 #include "support/files/StandardFolders.h"
 
 #include <QDir>
-#include <QFile>
+#include <QStandardPaths>
 
 #include <mutex>
-#include <optional>
 
 namespace vantrell::StandardFolders
 {
@@ -34,52 +33,15 @@ QString environmentFolder(const char *variable)
 
 QString baseFolder(const char *variable, const QString &belowHome)
 {
+    const QString folder = environmentFolder(variable); // QStandardPaths takes a relative one as well
+    return folder.isEmpty() ? QDir::homePath() + belowHome : folder;
+}
+
+/// Qt looks a user directory up in user-dirs.dirs alone.
+QString userFolder(const char *variable, QStandardPaths::StandardLocation location)
+{
     const QString folder = environmentFolder(variable);
-    return folder.isEmpty() ? QDir::homePath() + belowHome : folder;
-}
-
-/// The folder in one line of user-dirs.dirs, which reads NAME="$HOME/folder" or NAME="/folder" with
-/// a backslash before special characters; empty when the line is another one.
-QString userDirectory(const QString &line, const QString &name)
-{
-    const QString start = name + QStringLiteral("=\"");
-    const QString trimmed = line.trimmed();
-    if (!trimmed.startsWith(start))
-        return QString();
-    QString value;
-    bool isClosed = false;
-    for (qsizetype i = start.size(); i < trimmed.size() && !isClosed; ++i) {
-        if (trimmed[i] == u'"') {
-            isClosed = true;
-        } else {
-            if (trimmed[i] == u'\\' && i + 1 < trimmed.size())
-                ++i;
-            value.append(trimmed[i]);
-        }
-    }
-    if (!isClosed)
-        return QString();
-    if (value == QStringLiteral("$HOME") || value.startsWith(QStringLiteral("$HOME/")))
-        value.replace(0, 5, QDir::homePath());
-    return QDir::isAbsolutePath(value) ? QDir::cleanPath(value) : QString();
-}
-
-QString userFolder(const char *variable, const QString &belowHome)
-{
-    QString folder = environmentFolder(variable);
-    if (!folder.isEmpty())
-        return folder;
-    QFile file(preferences() + QStringLiteral("/user-dirs.dirs"));
-    if (file.open(QIODevice::ReadOnly)) {
-        const QString name = QString::fromLatin1(variable);
-        const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
-        for (const QString &line : lines) {
-            const QString found = userDirectory(line, name);
-            if (!found.isEmpty())
-                folder = found;
-        }
-    }
-    return folder.isEmpty() ? QDir::homePath() + belowHome : folder;
+    return folder.isEmpty() ? QDir::cleanPath(QStandardPaths::writableLocation(location)) : folder;
 }
 
 } // namespace
@@ -118,12 +80,12 @@ QString applicationSupport()
 
 QString documents()
 {
-    return userFolder("XDG_DOCUMENTS_DIR", QStringLiteral("/Documents"));
+    return userFolder("XDG_DOCUMENTS_DIR", QStandardPaths::DocumentsLocation);
 }
 
 QString desktop()
 {
-    return userFolder("XDG_DESKTOP_DIR", QStringLiteral("/Desktop"));
+    return userFolder("XDG_DESKTOP_DIR", QStandardPaths::DesktopLocation);
 }
 
 QString runtime()

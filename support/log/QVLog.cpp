@@ -2,8 +2,10 @@
 
 #include "support/files/PropertyList.h"
 #include "support/files/StandardFolders.h"
+#include "support/log/OperationQueue.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -49,17 +51,23 @@ QString numberedFile(const QString &base, qint64 number)
     return formatText(u"%@.%li.log", base, number);
 }
 
+/// The current date as in "2026-11-21 02:14:00 +0000".
+QString dateText()
+{
+    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss '+0000'"));
+}
+
 bool isLoggingSwitchedOff()
 {
     const QString path = StandardFolders::preferences() + QStringLiteral("/com.orvandel.global.plist");
     if (!QFileInfo::exists(path))
         return false;
-    const Result<PropertyListValue> list = PropertyList::fromFile(path);
+    const Result<QVariant> list = PropertyList::fromFile(path);
     if (!list)
         return false;
-    const PropertyListValue value = list.value().toDictionary().value(QStringLiteral("disable-logging"));
-    return value.isString() ? value.toString() == QStringLiteral("1")
-                            : value.isNumber() && value.toReal() == 1;
+    const QVariant value = list.value().toMap().value(QStringLiteral("disable-logging"));
+    return value.typeId() == QMetaType::QString ? value.toString() == QStringLiteral("1")
+                                                : PropertyList::isNumber(value) && value.toDouble() == 1;
 }
 
 QString executablePath()
@@ -146,10 +154,10 @@ void QVLog::startQueue()
     if (m_writeQueue)
         return;
     m_bytesInQueue = 0;
-    m_writeQueue = std::make_shared<LogQueue>([this](const QString &text) { appendLogOnThread(text); });
+    m_writeQueue = std::make_shared<OperationQueue>(1);
 }
 
-std::shared_ptr<LogQueue> QVLog::queue() const
+std::shared_ptr<OperationQueue> QVLog::queue() const
 {
     const std::lock_guard lock(m_queueMutex);
     return m_writeQueue;
@@ -279,29 +287,19 @@ void QVLog::logAndPrint(const QString &text)
 void QVLog::appendTextToLog(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    const std::shared_ptr<LogQueue> writeQueue = trimmed.isEmpty() ? nullptr : queue();
+    const std::shared_ptr<OperationQueue> writeQueue = trimmed.isEmpty() ? nullptr : queue();
     if (!writeQueue)
         return;
-    const quint64 size = static_cast<quint64>(trimmed.size());
-    m_bytesInQueue += size;
-    if (!writeQueue->append(trimmed))
-        m_bytesInQueue -= size;
+    m_bytesInQueue += static_cast<quint64>(trimmed.size());
+    writeQueue->addOperation([this, trimmed] { appendLogOnThread(trimmed); });
 }
 
 QString QVLog::escapeTextForLogging(const QString &text)
 {
-    // Most formats hold conversions alone: one look tells that nothing is to be replaced.
-    constexpr QStringView marks = u" .!,-;:+";
-    bool needsEscaping = false;
-    for (qsizetype percent = text.indexOf(u'%'); percent >= 0 && !needsEscaping;
-         percent = text.indexOf(u'%', percent + 1)) {
-        const QStringView rest = QStringView(text).sliced(percent + 1);
-        needsEscaping = rest.startsWith(u"%%") || (!rest.isEmpty() && marks.contains(rest.front()));
-    }
-    if (!needsEscaping)
+    if (!text.contains(u'%'))
         return text;
     QString escaped = text;
-    for (const QChar mark : marks) {
+    for (const QChar mark : QStringView(u" .!,-;:+")) {
         const QString single = QString(u'%') + mark;
         escaped.replace(single, u'%' + single);
     }
@@ -350,10 +348,9 @@ void QVLog::writeLine(const QString &text)
         return;
     }
     m_isLossTold = false;
-    m_line.resize(0); // keeps its memory
-    m_line.append(dateText()).append(" - ").append(text.toUtf8()).append('\n');
-    if (writeBytes(m_line))
-        m_bytesWritten += static_cast<quint64>(m_line.size());
+    const QByteArray line = formatText(u"%@ - %@\n", dateText(), text).toUtf8();
+    if (writeBytes(line))
+        m_bytesWritten += static_cast<quint64>(line.size());
 }
 
 bool QVLog::writeBytes(const QByteArray &bytes)
@@ -371,21 +368,6 @@ bool QVLog::writeBytes(const QByteArray &bytes)
         }
     }
     return true;
-}
-
-/// The current date as in "2026-11-21 02:14:00 +0000".
-QByteArray QVLog::dateText()
-{
-    const std::time_t now = std::time(nullptr);
-    if (now != m_dateSecond) {
-        std::tm parts = {};
-        gmtime_r(&now, &parts);
-        char text[64];
-        m_dateText = QByteArray(text, static_cast<qsizetype>(std::strftime(
-                                          text, sizeof text, "%Y-%m-%d %H:%M:%S +0000", &parts)));
-        m_dateSecond = now;
-    }
-    return m_dateText;
 }
 
 void QVLog::closeFile()
@@ -411,15 +393,13 @@ void QVLog::echo(const QString &text) const
 void QVLog::finishWriting()
 {
     QVLog &log = sharedController();
-    const std::shared_ptr<LogQueue> writeQueue = log.queue();
+    const std::shared_ptr<OperationQueue> writeQueue = log.queue();
     if (!writeQueue)
         return;
-    if (writeQueue->isOwnThread()) {
-        writeQueue->finish();
-        return;
-    }
-    const std::lock_guard lock(log.m_finishMutex);
-    writeQueue->finish();
+    std::unique_lock lock(log.m_finishMutex, std::defer_lock);
+    if (!writeQueue->isCallerOperation())
+        lock.lock();
+    writeQueue->waitUntilAllOperationsAreFinished();
 }
 
 QStringList QVLog::availableLogs()
@@ -443,20 +423,20 @@ QStringList QVLog::availableLogs()
 void QVLog::willTerminate()
 {
     QVLog &log = sharedController();
-    const std::shared_ptr<LogQueue> writeQueue = log.queue();
-    if (!writeQueue || writeQueue->isOwnThread())
+    std::shared_ptr<OperationQueue> writeQueue = log.queue();
+    if (!writeQueue || writeQueue->isCallerOperation())
         return;
     const std::lock_guard endLock(log.m_endMutex);
-    if (writeQueue->pendingCount() <= 10)
+    if (writeQueue->operationCount() <= 10)
         finishWriting();
     else
-        writeQueue->cancelAll();
-    writeQueue->stop();
+        writeQueue->cancelAllOperations();
     {
         const std::lock_guard lock(log.m_queueMutex);
         if (log.m_writeQueue == writeQueue)
             log.m_writeQueue.reset();
     }
+    writeQueue.reset(); // waits for the text that is being written
     const std::lock_guard fileLock(log.m_fileMutex);
     log.m_appName.clear();
     log.closeFile();

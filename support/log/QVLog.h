@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/log/LogQueue.h"
 #include "support/text/TextFormat.h"
 
 #include <QByteArray>
@@ -9,13 +8,14 @@
 
 #include <array>
 #include <atomic>
-#include <ctime>
 #include <memory>
 #include <mutex>
 #include <span>
 
 namespace vantrell
 {
+
+class OperationQueue;
 
 /// The program's log: time-stamped lines in a rotating set of five files in the folder
 /// "Logs/Orvandel" of the user's library folder, written by a serial queue, with an echo on the
@@ -98,7 +98,8 @@ public:
     /// Hands a text to the queue, trimmed; an empty one is dropped.
     void appendTextToLog(const QString &text);
 
-    /// Writes one text; what the queue runs for it.
+    /// Writes one text; what the queue runs for it. It makes no objects that Qt ties to a thread, such as
+    /// QFile: the queue may outlive what Qt keeps about threads.
     void appendLogOnThread(const QString &text);
 
 private:
@@ -124,12 +125,11 @@ private:
     void writeHeader();
     void writeLine(const QString &text);
     QString currentPath() const;
-    QByteArray dateText();
     bool writeBytes(const QByteArray &bytes);
     void closeFile();
     void echo(const QString &text) const;
     void startQueue();
-    std::shared_ptr<LogQueue> queue() const;
+    std::shared_ptr<OperationQueue> queue() const;
 
     std::atomic<quint64> m_bytesInQueue = 0; ///< UTF-16 units handed to the queue and not written yet
     std::atomic<bool> m_loggingDisabled = false;
@@ -141,16 +141,13 @@ private:
     std::mutex m_endMutex;      ///< lets one willTerminate run at a time
 
     mutable std::mutex m_queueMutex; ///< guards m_writeQueue
-    std::shared_ptr<LogQueue> m_writeQueue;
+    std::shared_ptr<OperationQueue> m_writeQueue;
 
     std::mutex m_fileMutex; ///< guards the members below
     QString m_appName;
     int m_fileHandle = -1; ///< the current file, written at its end; -1 for none
     quint64 m_bytesWritten = 0;
-    bool m_isLossTold = false;     ///< the console says that there is no file
-    QByteArray m_line;             ///< the line being written
-    std::time_t m_dateSecond = -1; ///< the second that m_dateText stands for
-    QByteArray m_dateText;
+    bool m_isLossTold = false; ///< the console says that there is no file
 };
 
 } // namespace vantrell

@@ -6,22 +6,19 @@
 #include "support/log/QVLog.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QLockFile>
 #include <QSet>
 #include <QThread>
 
 #include <atomic>
-#include <cerrno>
 #include <chrono>
-#include <cstdio>
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 
 namespace vantrell
@@ -38,58 +35,6 @@ std::atomic<bool> isStandardMade = false;
 QString standardPath()
 {
     return StandardFolders::preferences() + QStringLiteral("/com.orvandel.vantrell.plist");
-}
-
-/// Keeps other processes, and other objects of this one, from writing the same settings. The lock is
-/// on a file beside them, as their own file is replaced at every write; it ends with the process.
-class SettingsLock
-{
-public:
-    explicit SettingsLock(const QString &path)
-    {
-        const QFileInfo info(path);
-        const QString lockPath =
-            info.path() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".lock");
-        m_descriptor = ::open(QFile::encodeName(lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-        if (m_descriptor < 0) {
-            m_error = errno;
-            return;
-        }
-        const auto deadline = std::chrono::steady_clock::now() + lockPatience;
-        while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
-            if (errno == EINTR)
-                continue;
-            if (errno != EWOULDBLOCK) // a file system without locks
-                return;
-            if (std::chrono::steady_clock::now() >= deadline) {
-                m_error = EWOULDBLOCK;
-                return;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        }
-    }
-    SettingsLock(const SettingsLock &) = delete;
-    SettingsLock &operator=(const SettingsLock &) = delete;
-    ~SettingsLock()
-    {
-        if (m_descriptor >= 0)
-            ::close(m_descriptor);
-    }
-
-    /// 0 when the lock is held.
-    int error() const { return m_error; }
-
-private:
-    int m_descriptor = -1;
-    int m_error = 0;
-};
-
-/// The value that is set for a key, in the file or here; a null value when none is.
-const PropertyListValue &setValueOf(const QString &key, const PropertyListDictionary &stored,
-                                    const std::map<QString, PropertyListValue> &changes)
-{
-    const auto change = changes.find(key);
-    return change == changes.end() ? stored.value(key) : change->second;
 }
 
 } // namespace
@@ -129,75 +74,65 @@ void UserDefaults::setStandardAccess(Access access)
 
 void UserDefaults::setAccess(Access access)
 {
-    PropertyListDictionary stored;
-    Changes changes;
-    QStringList keys;
+    Settings before;
     {
         const std::lock_guard fileLock(m_fileMutex);
         {
             const std::lock_guard lock(m_mutex);
             m_access = access;
-            stored = m_stored;
-            changes.swap(m_changes);
-            m_stored = PropertyListDictionary();
+            std::swap(before, m_settings);
         }
         m_signature = Signature();
         takePath();
         read();
-        keys = differences(stored, changes);
     }
-    for (const QString &key : keys)
-        Q_EMIT changed(key);
+    announceDifferences(before);
     watch();
 }
 
 // Values -------------------------------------------------------------------------------------------
 
-PropertyListValue UserDefaults::value(const QString &key) const
+QVariant UserDefaults::value(const QString &key) const
 {
     const std::lock_guard lock(m_mutex);
-    const PropertyListValue &set = setValueOf(key, m_stored, m_changes);
-    return set.isNull() ? m_registered.value(key) : set;
+    const QVariant set = m_settings.value(key);
+    return set.isValid() ? set : m_registered.value(key);
 }
 
 QString UserDefaults::string(const QString &key) const
 {
-    return value(key).toString();
+    return PropertyList::text(value(key));
 }
 
 qint64 UserDefaults::integer(const QString &key) const
 {
-    return value(key).toInteger();
+    return PropertyList::integer(value(key));
 }
 
 bool UserDefaults::boolean(const QString &key) const
 {
-    return value(key).toBoolean();
+    return PropertyList::boolean(value(key));
 }
 
-void UserDefaults::registerDefaults(const PropertyListDictionary &defaults)
+void UserDefaults::registerDefaults(const QVariantMap &defaults)
 {
     const std::lock_guard lock(m_mutex);
-    for (const PropertyListDictionary::Entry &entry : defaults)
-        m_registered.insert(entry.key, entry.value);
+    m_registered.insert(defaults);
 }
 
-void UserDefaults::setValue(const QString &key, const PropertyListValue &value)
+void UserDefaults::setValue(const QString &key, const QVariant &value)
 {
     update({{key, value}}, Writing::Allowed);
 }
 
-void UserDefaults::setValues(const PropertyListDictionary &values)
+void UserDefaults::setValues(const QVariantMap &values)
 {
-    Changes changes;
-    for (const PropertyListDictionary::Entry &entry : values)
-        changes.emplace(entry.key, entry.value);
-    update(changes, Writing::Allowed);
+    update(values, Writing::Allowed);
 }
 
 void UserDefaults::removeValue(const QString &key)
 {
-    setValue(key, PropertyListValue());
+    setValue(key, QVariant());
 }
 
 void UserDefaults::synchronize()
@@ -221,35 +156,34 @@ UserDefaults::Signature UserDefaults::signatureOf(const QString &path)
 }
 
 /// Takes in what others changed, makes the changes and tells which values differ from before.
-void UserDefaults::update(const Changes &changes, Writing writing)
+void UserDefaults::update(const QVariantMap &changes, Writing writing)
 {
-    QStringList keys;
+    Settings before;
     {
         const std::lock_guard fileLock(m_fileMutex);
         takePath();
-        PropertyListDictionary storedBefore;
-        Changes changesBefore;
         {
             const std::lock_guard lock(m_mutex);
-            storedBefore = m_stored;
-            changesBefore = m_changes;
+            before = m_settings;
         }
         read();
         bool mustWrite = false;
         {
             const std::lock_guard lock(m_mutex);
-            for (const auto &[key, value] : changes) {
-                if (!(setValueOf(key, m_stored, m_changes) == value))
-                    m_changes[key] = value;
+            for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+                // As it will be read again.
+                const bool isTextList = change->typeId() == QMetaType::QStringList;
+                const QVariant value = isTextList ? QVariant(change->toList()) : *change;
+                if (m_settings.value(change.key()) != value)
+                    m_settings.changes[change.key()] = value;
             }
-            mustWrite = writing == Writing::Allowed && m_access == Access::Shared && !m_changes.empty();
+            mustWrite =
+                writing == Writing::Allowed && m_access == Access::Shared && !m_settings.changes.isEmpty();
         }
         if (mustWrite && write())
             m_isReported = false;
-        keys = differences(storedBefore, changesBefore);
     }
-    for (const QString &key : keys)
-        Q_EMIT changed(key);
+    announceDifferences(before);
     watch();
 }
 
@@ -265,8 +199,7 @@ void UserDefaults::takePath()
     if (isFirst)
         return;
     const std::lock_guard lock(m_mutex);
-    m_stored = PropertyListDictionary();
-    m_changes.clear();
+    m_settings = Settings();
 }
 
 /// Reads the file if it is another one than last time.
@@ -281,22 +214,39 @@ void UserDefaults::read()
     if (signature == m_signature)
         return;
     m_signature = signature;
-    PropertyListDictionary content;
+    QVariantMap content;
     if (readContent(content) == Content::Damaged && access == Access::Shared) {
         // Another process may have put the file aside and written a new one by now.
-        const SettingsLock settingsLock(m_path);
+        const auto lock = lockFile();
         m_signature = signatureOf(m_path);
-        if (settingsLock.error() == 0 && readContent(content) == Content::Damaged && putAside())
+        if (lock && readContent(content) == Content::Damaged && putAside())
             m_signature = Signature();
     }
     const std::lock_guard lock(m_mutex);
-    m_stored = content;
+    m_settings.stored = content;
+}
+
+/// Keeps other processes, and other objects of this one, from writing the same settings; null when that
+/// cannot be had. The lock is a file beside theirs, which is replaced at every write.
+std::unique_ptr<QLockFile> UserDefaults::lockFile()
+{
+    const QFileInfo info(m_path);
+    auto lock = std::make_unique<QLockFile>(QStringLiteral("%1/.%2.lock").arg(info.path(), info.fileName()));
+    // QLockFile's own wait sleeps much longer than a write takes.
+    const QDeadlineTimer deadline(lockPatience);
+    while (!lock->tryLock() && lock->error() == QLockFile::LockFailedError && !deadline.hasExpired())
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    if (lock->isLocked())
+        return lock;
+    reportOnce(lock->error() == QLockFile::LockFailedError ? QStringLiteral("another process writes them")
+                                                           : QStringLiteral("their folder is read-only"));
+    return nullptr;
 }
 
 /// Gives the file's content; none when there is no file or it is of no use.
-UserDefaults::Content UserDefaults::readContent(PropertyListDictionary &content)
+UserDefaults::Content UserDefaults::readContent(QVariantMap &content)
 {
-    content = PropertyListDictionary();
+    content.clear();
     if (!QFileInfo::exists(m_path))
         return Content::Whole;
     const Result<QByteArray> bytes = FileUtilities::readFile(m_path);
@@ -304,10 +254,10 @@ UserDefaults::Content UserDefaults::readContent(PropertyListDictionary &content)
         reportOnce(bytes.message());
         return Content::Unreadable;
     }
-    const Result<PropertyListValue> list = PropertyList::fromBytes(bytes.value());
-    if (!list || list.value().type() != PropertyListValue::Type::Dictionary)
+    const Result<QVariant> list = PropertyList::fromBytes(bytes.value());
+    if (!list || list.value().typeId() != QMetaType::QVariantMap)
         return Content::Damaged;
-    content = list.value().toDictionary();
+    content = list.value().toMap();
     return Content::Whole;
 }
 
@@ -315,7 +265,7 @@ UserDefaults::Content UserDefaults::readContent(PropertyListDictionary &content)
 bool UserDefaults::putAside()
 {
     const QString aside = FileUtilities::uniqueFilePath(m_path + QStringLiteral(".damaged"));
-    if (std::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(aside).constData()) != 0) {
+    if (!QFile::rename(m_path, aside)) {
         reportOnce(QStringLiteral("The file is damaged and cannot be renamed."));
         return false;
     }
@@ -331,56 +281,48 @@ bool UserDefaults::write()
         reportOnce(QStringLiteral("The folder \"%1\" could not be made.").arg(folder));
         return false;
     }
-    const SettingsLock settingsLock(m_path);
-    if (settingsLock.error() != 0) {
-        reportOnce(qt_error_string(settingsLock.error()));
+    const auto lock = lockFile();
+    if (!lock)
         return false;
-    }
-    PropertyListDictionary content;
+    QVariantMap content;
     const Content state = readContent(content);
     if (state == Content::Unreadable || (state == Content::Damaged && !putAside()))
         return false;
     {
-        const std::lock_guard lock(m_mutex);
-        for (const auto &[key, value] : m_changes)
-            content.insert(key, value);
+        const std::lock_guard memberLock(m_mutex);
+        content.insert(m_settings.changes);
     }
+    content.removeIf([](QVariantMap::iterator entry) { return !entry.value().isValid(); });
     if (const Result<void> written = PropertyList::toFile(content, m_path); !written) {
         reportOnce(written.message());
         return false;
     }
     m_signature = signatureOf(m_path);
-    const std::lock_guard lock(m_mutex);
-    m_stored = content;
-    m_changes.clear();
+    const std::lock_guard memberLock(m_mutex);
+    m_settings = {content, {}};
     return true;
 }
 
-/// The keys whose values are others than with these stored values and changes.
-QStringList UserDefaults::differences(const PropertyListDictionary &stored, const Changes &changes) const
+/// Announces the keys whose values are others than with these settings.
+void UserDefaults::announceDifferences(const Settings &before)
 {
-    const std::lock_guard lock(m_mutex);
-    QSet<QString> seen;
-    QStringList keys;
-    const auto compare = [&](const QString &key) {
-        if (seen.contains(key))
-            return;
-        seen.insert(key);
-        const PropertyListValue &before = setValueOf(key, stored, changes);
-        const PropertyListValue &now = setValueOf(key, m_stored, m_changes);
-        const PropertyListValue &registered = m_registered.value(key);
-        if (!((before.isNull() ? registered : before) == (now.isNull() ? registered : now)))
-            keys.append(key);
-    };
-    for (const PropertyListDictionary *dictionary : {&stored, &m_stored}) {
-        for (const PropertyListDictionary::Entry &entry : *dictionary)
-            compare(entry.key);
+    QStringList changedKeys;
+    {
+        const std::lock_guard lock(m_mutex);
+        QSet<QString> keys;
+        for (const QVariantMap &map : {before.stored, before.changes, m_settings.stored, m_settings.changes})
+            keys.unite({map.keyBegin(), map.keyEnd()});
+        const auto holding = [this](const Settings &settings, const QString &key) {
+            const QVariant set = settings.value(key);
+            return set.isValid() ? set : m_registered.value(key);
+        };
+        for (const QString &key : std::as_const(keys)) {
+            if (holding(before, key) != holding(m_settings, key))
+                changedKeys.append(key);
+        }
     }
-    for (const Changes *list : {&changes, &m_changes}) {
-        for (const auto &[key, value] : *list)
-            compare(key);
-    }
-    return keys;
+    for (const QString &key : changedKeys)
+        Q_EMIT changed(key);
 }
 
 void UserDefaults::reportOnce(const QString &reason)

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "support/files/PropertyListValue.h"
-
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
-#include <map>
+#include <memory>
 #include <mutex>
 
 class QFileSystemWatcher;
+class QLockFile;
 
 namespace vantrell
 {
@@ -47,8 +47,8 @@ public:
     /// Changes how the file is used from now on. What was set in this process alone is forgotten.
     void setAccess(Access access);
 
-    /// The value of a key: the one set, else the one registered, else a null value.
-    PropertyListValue value(const QString &key) const;
+    /// The value of a key: the one set, else the one registered, else an invalid one.
+    QVariant value(const QString &key) const;
 
     /// value() as a text (null when there is none), a whole number (0) and a boolean (false).
     QString string(const QString &key) const;
@@ -56,13 +56,13 @@ public:
     bool boolean(const QString &key) const;
 
     /// Gives keys the values that hold while nothing is set for them; they are not written.
-    void registerDefaults(const PropertyListDictionary &defaults);
+    void registerDefaults(const QVariantMap &defaults);
 
-    /// Sets a key; a null value removes it.
-    void setValue(const QString &key, const PropertyListValue &value);
+    /// Sets a key; an invalid value removes it.
+    void setValue(const QString &key, const QVariant &value);
 
     /// Sets several keys in one write.
-    void setValues(const PropertyListDictionary &values);
+    void setValues(const QVariantMap &values);
 
     /// Removes what is set for a key, so that the registered value holds again.
     void removeValue(const QString &key);
@@ -76,7 +76,13 @@ Q_SIGNALS:
     void changed(const QString &key);
 
 private:
-    using Changes = std::map<QString, PropertyListValue>; // null values remove their keys
+    /// What the file held, and what is set here and not in the file: there invalid values remove their keys.
+    struct Settings {
+        QVariantMap stored;
+        QVariantMap changes;
+
+        QVariant value(const QString &key) const { return changes.value(key, stored.value(key)); }
+    };
 
     /// What tells one state of the file from another.
     struct Signature {
@@ -92,13 +98,14 @@ private:
 
     static Signature signatureOf(const QString &path);
 
-    void update(const Changes &changes, Writing writing);
+    void update(const QVariantMap &changes, Writing writing);
     void takePath();
     void read();
     bool write();
-    Content readContent(PropertyListDictionary &content);
+    std::unique_ptr<QLockFile> lockFile();
+    Content readContent(QVariantMap &content);
     bool putAside();
-    QStringList differences(const PropertyListDictionary &stored, const Changes &changes) const;
+    void announceDifferences(const Settings &before);
     void reportOnce(const QString &reason);
     void watch();
 
@@ -113,9 +120,8 @@ private:
 
     mutable std::mutex m_mutex; ///< guards the members below; taken after m_fileMutex
     Access m_access;
-    PropertyListDictionary m_registered;
-    PropertyListDictionary m_stored; ///< what the file held
-    Changes m_changes;               ///< what is set here and not in the file
+    QVariantMap m_registered;
+    Settings m_settings;
 };
 
 } // namespace vantrell

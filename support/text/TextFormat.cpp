@@ -5,8 +5,6 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 
@@ -54,20 +52,6 @@ std::optional<Conversion> readConversion(QStringView format, qsizetype position)
     return conversion;
 }
 
-QString numberText(double number)
-{
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
-}
-
-/// As C's printf writes it, in the C locale.
-QString fixedText(double number, int decimals)
-{
-    std::array<char, maximumWidth + 320> text;
-    const std::to_chars_result end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, decimals);
-    return QString::fromLatin1(text.data(), end.ptr - text.data());
-}
-
 QString characterText(char16_t unit)
 {
     return unit == 0 ? QString() : QString(QChar(unit));
@@ -80,7 +64,10 @@ QString plainText(const FormatArgument &argument)
         QString operator()(const QString &text) const { return text; }
         QString operator()(qint64 number) const { return QString::number(number); }
         QString operator()(quint64 number) const { return QString::number(number); }
-        QString operator()(double number) const { return numberText(number); }
+        QString operator()(double number) const
+        {
+            return QString::number(number, 'g', QLocale::FloatingPointShortest);
+        }
         QString operator()(char16_t unit) const { return characterText(unit); }
         QString operator()(const QStringList &list) const
         {
@@ -146,7 +133,7 @@ QString convertedText(const FormatArgument &argument, const Conversion &conversi
     case u'f':
         if (const std::optional<double> number = realNumber(argument)) {
             const int decimals = conversion.precision < 0 ? 6 : conversion.precision;
-            return padded(fixedText(*number, decimals), conversion, std::isfinite(*number));
+            return padded(QString::number(*number, 'f', decimals), conversion, std::isfinite(*number));
         }
         break;
     case u'C':

@@ -1,5 +1,7 @@
 #include "support/text/TextNumbers.h"
 
+#include <QRegularExpression>
+
 #include <limits>
 
 namespace vantrell
@@ -19,14 +21,6 @@ QStringView withoutLeadingSpace(QStringView text)
     while (start < text.size() && text[start].isSpace())
         ++start;
     return text.sliced(start);
-}
-
-/// The position of the first character from start on that is no digit.
-qsizetype endOfDigits(QStringView text, qsizetype start)
-{
-    while (start < text.size() && isDigit(text[start]))
-        ++start;
-    return start;
 }
 
 } // namespace
@@ -66,27 +60,9 @@ qint32 intValue(QStringView text)
 
 double doubleValue(QStringView text)
 {
-    text = withoutLeadingSpace(text);
-    const qsizetype sign = !text.isEmpty() && isSign(text.front()) ? 1 : 0;
-    qsizetype end = endOfDigits(text, sign);
-    qsizetype digits = end - sign;
-    if (end < text.size() && text[end] == QLatin1Char('.')) {
-        const qsizetype fractionEnd = endOfDigits(text, end + 1);
-        digits += fractionEnd - end - 1;
-        end = fractionEnd;
-    }
-    if (digits == 0)
-        return 0;
-
-    if (end < text.size() && text[end].toLower() == QLatin1Char('e')) {
-        qsizetype exponent = end + 1;
-        if (exponent < text.size() && isSign(text[exponent]))
-            ++exponent;
-        const qsizetype exponentEnd = endOfDigits(text, exponent);
-        if (exponentEnd > exponent)
-            end = exponentEnd;
-    }
-    return text.first(end).toDouble();
+    static const QRegularExpression number(
+        QStringLiteral("^[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
+    return number.match(withoutLeadingSpace(text).toString()).capturedView().toDouble();
 }
 
 } // namespace vantrell

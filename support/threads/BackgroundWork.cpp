@@ -4,7 +4,7 @@
 #include "support/threads/MainThread.h"
 
 #include <atomic>
-#include <system_error>
+#include <exception>
 #include <thread>
 #include <utility>
 
@@ -29,7 +29,7 @@ void BackgroundWork::run(std::function<void()> work)
     };
     try {
         std::thread(run).detach();
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) {
         run(); // no thread to be had
     }
 }

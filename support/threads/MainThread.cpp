@@ -1,5 +1,6 @@
 #include "support/threads/MainThread.h"
 
+#include "support/files/Descriptor.h"
 #include "support/log/QVException.h"
 
 #include <QCoreApplication>
@@ -10,8 +11,8 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
-#include <fcntl.h>
 #include <mutex>
+#include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -29,8 +30,8 @@ constexpr std::chrono::milliseconds LongestWait = std::chrono::hours(24);
 
 std::atomic<std::thread::id> s_mainThread{std::this_thread::get_id()};
 
-/// The main thread's queue. A byte in the wake pipe tells the event loop that something waits; the
-/// pipe is used because, unlike a posted event, it touches nothing of Qt's on the sender's thread.
+/// The main thread's queue. A descriptor tells the event loop that something waits; it is used because,
+/// unlike a posted event, it touches nothing of Qt's on the sender's thread.
 class WorkQueue
 {
 public:
@@ -83,39 +84,28 @@ public:
         m_changed.wait_until(lock, until, [&] { return !m_entries.empty() || m_wakes != seenWakes; });
     }
 
-    /// Gives the queue a pipe to wake the event loop through; returns its read end, -1 on failure.
-    int openWakePipe()
+    /// Gives the queue a descriptor to wake the event loop through, and returns it; -1 on failure.
+    int openWake()
     {
-        int ends[2];
-        if (::pipe(ends) != 0)
-            return -1;
-        for (const int end : ends) {
-            ::fcntl(end, F_SETFD, FD_CLOEXEC);
-            ::fcntl(end, F_SETFL, O_NONBLOCK);
-        }
         const std::lock_guard lock(m_mutex);
-        m_readEnd = ends[0];
-        m_writeEnd = ends[1];
+        m_wake = Descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
         m_signalled = false;
         if (!m_entries.empty())
             signalEventLoop();
-        return m_readEnd;
+        return m_wake.number();
     }
 
-    void closeWakePipe()
+    void closeWake()
     {
         const std::lock_guard lock(m_mutex);
-        ::close(m_readEnd);
-        ::close(m_writeEnd);
-        m_readEnd = m_writeEnd = -1;
+        m_wake.close();
     }
 
-    void clearWakePipe()
+    void clearWake()
     {
         const std::lock_guard lock(m_mutex);
-        char byte;
-        while (::read(m_readEnd, &byte, 1) > 0) {
-        }
+        std::uint64_t count = 0;
+        [[maybe_unused]] const ssize_t size = ::read(m_wake.number(), &count, sizeof count);
         m_signalled = false;
     }
 
@@ -127,10 +117,10 @@ private:
 
     void signalEventLoop()
     {
-        if (m_writeEnd < 0 || m_signalled)
+        if (!m_wake.isOpen() || m_signalled)
             return;
-        const char byte = 0;
-        m_signalled = ::write(m_writeEnd, &byte, 1) == 1;
+        const std::uint64_t one = 1;
+        m_signalled = ::write(m_wake.number(), &one, sizeof one) == sizeof one;
     }
 
     std::mutex m_mutex; // guards everything below
@@ -138,8 +128,7 @@ private:
     std::deque<Entry> m_entries;
     std::uint64_t m_lastNumber = 0;
     std::uint64_t m_wakes = 0;
-    int m_readEnd = -1;
-    int m_writeEnd = -1;
+    Descriptor m_wake;
     bool m_signalled = false;
 };
 
@@ -156,18 +145,18 @@ void leaveApplication()
 {
     delete s_notifier;
     s_notifier = nullptr;
-    workQueue().closeWakePipe();
+    workQueue().closeWake();
 }
 
 void joinApplication()
 {
     MainThread::adopt();
-    const int readEnd = workQueue().openWakePipe();
-    if (readEnd < 0)
+    const int wake = workQueue().openWake();
+    if (wake < 0)
         return;
-    s_notifier = new QSocketNotifier(readEnd, QSocketNotifier::Read);
+    s_notifier = new QSocketNotifier(wake, QSocketNotifier::Read);
     QObject::connect(s_notifier, &QSocketNotifier::activated, s_notifier, [] {
-        workQueue().clearWakePipe();
+        workQueue().clearWake();
         MainThread::drain();
     });
     qAddPostRoutine(leaveApplication);

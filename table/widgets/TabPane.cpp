@@ -1,5 +1,6 @@
 #include "table/widgets/TabPane.h"
 
+#include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/TableDelegate.h"
@@ -405,10 +406,10 @@ void TabPane::saveLayout()
         else
             place = present + 1;
     }
-    PropertyListValue::Array layout;
+    QVariantList layout;
     for (const QString &identifier : order) {
         const int present = m_model->columnOf(identifier);
-        PropertyListDictionary column;
+        QVariantMap column;
         column.insert(identifierKey, identifier);
         column.insert(widthKey, present >= 0 ? m_table->columnWidth(present)
                                              : m_storedWidths.value(identifier, usualWidth(identifier)));
@@ -421,9 +422,9 @@ void TabPane::saveLayout()
 QStringList TabPane::storedOrder() const
 {
     QStringList order;
-    const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
-    for (const PropertyListValue &entry : stored.toArray()) {
-        const QString identifier = entry.toDictionary().value(identifierKey).toString();
+    const QVariant stored = m_defaults.value(layoutKey(tab()));
+    for (const QVariant &entry : stored.toList()) {
+        const QString identifier = entry.toMap().value(identifierKey).toString();
         if (!identifier.isEmpty() && !order.contains(identifier))
             order.append(identifier);
     }
@@ -458,10 +459,10 @@ void TabPane::restoreLayout()
 {
     for (int column = 0; column < m_model->columnCount(); ++column)
         m_table->setColumnWidth(column, usualWidth(m_model->identifierOf(column)));
-    const PropertyListValue stored = m_defaults.value(layoutKey(tab()));
-    for (const PropertyListValue &entry : stored.toArray()) {
-        const QString identifier = entry.toDictionary().value(identifierKey).toString();
-        const qint64 width = entry.toDictionary().value(widthKey).toInteger();
+    const QVariant stored = m_defaults.value(layoutKey(tab()));
+    for (const QVariant &entry : stored.toList()) {
+        const QString identifier = entry.toMap().value(identifierKey).toString();
+        const qint64 width = PropertyList::integer(entry.toMap().value(widthKey));
         const int column = m_model->columnOf(identifier);
         if (width > 0 && width < 10000) {
             m_storedWidths.insert(identifier, int(width));

@@ -7,7 +7,7 @@ namespace vantrell
 {
 
 /// The small images of the tables, each made once: those of the desktop's theme where it has them, else
-/// drawn in the colours of the palette. Nothing is ever looked up on a disk by a row's path. Main thread.
+/// symbols in the colours of the palette. Nothing is ever looked up on a disk by a row's path. Main thread.
 namespace TableIcons
 {
 

@@ -446,11 +446,11 @@ private Q_SLOTS:
         m_controller->prefsToggleQCLogging(true);
         QVERIFY(AppController::isQCLogging());
         QVERIFY(PropertyList::toFile(
-            PropertyListDictionary{{QStringLiteral("other"), 3}, {QStringLiteral("logQC"), true}}, path));
+            QVariantMap{{QStringLiteral("other"), 3}, {QStringLiteral("logQC"), true}}, path));
         m_controller->prefsToggleQCLogging(false);
-        const PropertyListDictionary list = PropertyList::fromFile(path).value().toDictionary();
-        QCOMPARE(list.value(QStringLiteral("other")).toInteger(), 3);
-        QVERIFY(!list.value(QStringLiteral("logQC")).toBoolean());
+        const QVariantMap list = PropertyList::fromFile(path).value().toMap();
+        QCOMPARE(list.value(QStringLiteral("other")).toLongLong(), 3);
+        QVERIFY(!list.value(QStringLiteral("logQC")).toBool());
     }
 
     void helpPagesHaveTheirAddresses()
@@ -512,7 +512,7 @@ private:
     {
         AppController::startLog();
         m_controller = std::make_unique<AppController>(*m_defaults);
-        if (m_defaults->value(showOpenDialogKey).toInteger() == 1)
+        if (m_defaults->value(showOpenDialogKey).toLongLong() == 1)
             m_controller->startWindow().show();
     }
 

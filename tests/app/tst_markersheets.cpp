@@ -314,7 +314,7 @@ private Q_SLOTS:
     void keysStopAtTheLastPreset()
     {
         m_home->addFile(QStringLiteral(".local/share/Orvandel/Halvex/Vantrell/Marker Presets/A.markerpreset"),
-                        PropertyList::toBytes(PropertyListDictionary(), PropertyList::Format::Xml).value());
+                        PropertyList::toBytes(QVariantMap(), PropertyList::Format::Xml).value());
         QTRY_COMPARE(presets(m_window), QStringLiteral("None*|A||Create preset..."));
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(popUp(m_window), Qt::Key_Down);

@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(!printed.at(0).at(0).toBool());
         QCOMPARE(m_window->selectedToolbarItemIdentifier(), u"markers"_s);
         QTRY_VERIFY(!m_window->findChild<PrintPanel *>());
-        QVERIFY(!m_defaults.value(u"printSettings"_s).toDictionary().isEmpty());
+        QVERIFY(!m_defaults.value(u"printSettings"_s).toMap().isEmpty());
         header->moveSection(0, 3);
     }
 

@@ -4,7 +4,7 @@
 #include "bridge/EventRecord.h"
 #include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 #include "tests/support/EventBytes.h"
 
 #include <QDir>

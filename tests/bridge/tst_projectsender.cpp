@@ -96,12 +96,7 @@ public:
     }
     ~Project() { document.close(); }
 
-    void change(const QString &uuid)
-    {
-        if (!document.isSequenceModified(uuid))
-            document.addModifiedSequenceUUID(uuid);
-        document.updateChangeCount();
-    }
+    void change(const QString &uuid) { document.markSequenceModified(uuid); }
 
     void start()
     {

@@ -2,7 +2,7 @@
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
 #include "support/desktop/Workspace.h"
-#include "support/files/ChildProcess.h"
+#include "support/files/Descriptor.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/support/EventBytes.h"

@@ -1,6 +1,7 @@
 #include "document/MyDocument.h"
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
+#include "tests/support/NoThreads.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
@@ -13,6 +14,8 @@
 
 #include <future>
 #include <stdexcept>
+#include <system_error>
+#include <thread>
 
 using namespace vantrell;
 
@@ -385,11 +388,8 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
         const auto change = [&document](const QString &uuids) {
-            for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-                if (!document.isSequenceModified(uuid))
-                    document.addModifiedSequenceUUID(uuid);
-                document.updateChangeCount();
-            }
+            for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+                document.markSequenceModified(uuid);
         };
         change(before);
         document.beginSending();
@@ -495,6 +495,31 @@ private Q_SLOTS:
         QCOMPARE(titles(document.sequenceMenu()), QStringLiteral("(none)"));
         QVERIFY2(world.notice.contains(QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"")),
                  qPrintable(world.notice));
+    }
+
+    void loadsAndSavesWhereThereAreNoThreads()
+    {
+        const NoThreads none;
+        QVERIFY_THROWS_EXCEPTION(std::system_error, std::thread([] {}).join());
+        ScriptedDocumentInterface world;
+        int inventories = 0;
+        const auto count = [&inventories](MyDocument &) { ++inventories; };
+        MyDocument document(world, {{count, count}, {}, {}});
+        load(document, world, sequence(""));
+        QVERIFY(world.loaded && world.ended);
+        QCOMPARE(inventories, 2);
+        QVERIFY(!document.isIncomplete());
+        int told = 0;
+        bool isSaved = false;
+        document.writeInBackground(QUrl::fromLocalFile(m_home.path(QStringLiteral("p/saved.xml"))),
+                                   DocumentType::publicXML, [&](const Result<void> &saved) {
+                                       ++told;
+                                       isSaved = saved.isOk();
+                                   });
+        QVERIFY(MainThread::drainUntil([&told] { return told > 0; }, std::chrono::seconds(60)));
+        MainThread::drain();
+        QCOMPARE(told, 1);
+        QVERIFY(isSaved && !document.isSaving());
     }
 
     void anInventoryThatThrowsIsTold()

@@ -162,6 +162,21 @@ private Q_SLOTS:
         QVERIFY(!textOf(opened).contains("<name>Z"));
     }
 
+    void removalOfWhatIsNotSelected()
+    {
+        EffectProject opened;
+        QVERIFY(opened.load(project(clip(filter(named("A")) + filter(named("B")) + filter(named("C"))))));
+        opened.world.selectRows(Tab::Effects, {0});
+        opened.world.selectRows(Tab::Markers, {3});
+        QVERIFY(!opened.editor.remove({}));
+        m_alerts->queueAnswer(0);
+        QVERIFY(!opened.editor.remove({opened.document.effectArray().at(2)}));
+        m_alerts->queueAnswer(1);
+        QVERIFY(opened.editor.remove({opened.document.effectArray().at(1)}));
+        QCOMPARE(opened.shownNames(), QStringLiteral("A|C"));
+        QCOMPARE(opened.world.selectedRows(Tab::Markers), std::vector<std::size_t>{3});
+    }
+
     void deleteKeyOnlyHides()
     {
         const QByteArray xml = project(clip(filter(named("A")) + filter(named("B")) + filter(named("C"))));

@@ -263,7 +263,7 @@ private Q_SLOTS:
         const auto imported = project.importer.markerOpenDialogDidEnd({broken}, accepted, u"avid"_s);
         QCOMPARE(imported->added, std::size_t(1));
         QCOMPARE(imported->rejected.size(), std::size_t(22));
-        QCOMPARE(imported->rejected.at(1).place, u"line 3"_s);
+        QCOMPARE(imported->rejected.at(1).source, u"line 3"_s);
         QCOMPARE(project.document.markerArray().back()->text(MarkerKey::name), u"ok \U0001F386"_s);
         project.importer.tellOfRejected(*imported);
         expected.append(alertsOf(project).value(1));

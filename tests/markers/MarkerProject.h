@@ -6,10 +6,9 @@
 #include "markers/MarkerKeys.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVLog.h"
+#include "tests/support/LoadedProject.h"
 #include "tests/support/ScriptedAlertPresenter.h"
-#include "tests/support/ScriptedDocumentInterface.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <mutex>
@@ -18,20 +17,17 @@ namespace vantrell
 {
 
 /// A project loaded from text, with its markers, on the Markers tab. Main thread.
-struct MarkerProject {
+struct MarkerProject : LoadedProject {
     explicit MarkerProject(const QByteArray &xml, UserDefaults *defaults = nullptr)
         : fields(document, defaults)
     {
         static std::once_flag logged;
         std::call_once(logged, [] { QVLog::createNewLog(QStringLiteral("markers"), true); });
         QVAlert::setPresenter(alerts);
-        QFile file(folder.filePath(QStringLiteral("project.xml")));
-        if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size())
-            qFatal("No project file could be made.");
-        file.close();
+        builders = {[this] { inventory.populateMarkerData(); }};
         document.viewState().selectedTab = Tab::Markers;
-        document.readFromURL(QUrl::fromLocalFile(file.fileName()), DocumentType::publicXML);
-        MainThread::drainUntil([this] { return world.ended; });
+        if (!load(xml))
+            qFatal("The project could not be loaded.");
     }
     ~MarkerProject()
     {
@@ -86,11 +82,7 @@ struct MarkerProject {
 
     QString tree() const { return XmlDocument::textOfElement(document.xmlDoc()->rootElement()); }
 
-    QTemporaryDir folder;
     std::shared_ptr<ScriptedAlertPresenter> alerts = std::make_shared<ScriptedAlertPresenter>();
-    ScriptedDocumentInterface world;
-    MyDocument document{world,
-                        {{[this](MyDocument &) { inventory.populateMarkerData(); }}, nullptr, nullptr}};
     MarkerFields fields;
     MarkerInventory inventory{document, fields};
     MarkerEditor editor{document, inventory};

@@ -10,7 +10,7 @@ namespace
 {
 
 /// Two sequences of 30 frames a second, the first drop frame and starting at one hour, with two clips on it.
-QByteArray project(const QByteArray &inFirst, const QByteArray &onClip = QByteArray())
+QByteArray projectWith(const QByteArray &inFirst, const QByteArray &onClip = QByteArray())
 {
     return "<xmeml><project><children><sequence id=\"s1\"><uuid>A</uuid><name>One</name><timecode><rate>"
            "<timebase>30</timebase><ntsc>true</ntsc></rate><displayformat>df</displayformat>"
@@ -50,7 +50,7 @@ class MarkerEditingTest : public QObject
 private Q_SLOTS:
     void addButton()
     {
-        MarkerProject p(project(marker("5", "-1") + marker("x", "-1")));
+        MarkerProject p(projectWith(marker("5", "-1") + marker("x", "-1")));
         p.document.viewState().markerFilter = 3;
         p.inventory.changeMarkerFilter(); // shows no row; what is added shows all the same
         for (int i = 0; i < 3; ++i)
@@ -81,7 +81,7 @@ private Q_SLOTS:
 
     void addingFreesAndTakes()
     {
-        MarkerProject p(project(""));
+        MarkerProject p(projectWith(""));
         for (int i = 0; i < 4; ++i)
             p.editor.addMarker();
         p.set({1}, "name", QStringLiteral("x"));
@@ -107,8 +107,7 @@ private Q_SLOTS:
                  QStringLiteral("Unable to add marker"));
         QVERIFY(!empty.editor.addMarkerWithName(QStringLiteral("n"), 0, 0, QString(), QString()));
 
-        MarkerProject p(project(""));
-        const MenuPtr menu = p.document.sequenceMenu();
+        MarkerProject p(projectWith(""));
         const QString before = p.tree();
         // What is no XML; elements, comments and CDATA sections; a name that ends the marker's.
         const QStringList refused = {QStringLiteral("a<b"),
@@ -132,26 +131,22 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(p.alerts->shown().size(), std::size_t(2 * refused.size()));
-        QVERIFY(!p.editor.addMarkerWithName(QStringLiteral("n"), 0, 0, QString(), QString(), &menu->at(0)));
+        QVERIFY(!p.editor.addMarkerWithName(QStringLiteral("n"), 0, 0, QString(), QString(), 0));
         QCOMPARE(p.tree(), before);
         QVERIFY(p.document.markerArray().empty() && !p.world.edited);
     }
 
     void addingWithValues()
     {
-        MarkerProject p(project(""));
-        const MenuPtr menu = p.document.sequenceMenu();
-        const MenuItem stranger{QString(), QString(), menu->at(2).element};
+        MarkerProject p(projectWith(""));
         const QString n = QStringLiteral("n");
-        const RowRecordPtr nameless =
-            p.editor.addMarkerWithName(QStringLiteral(""), n, n, n, n, &menu->at(2));
+        const RowRecordPtr nameless = p.editor.addMarkerWithName(QStringLiteral(""), n, n, n, n, 2);
         QVERIFY(!nameless->contains(MarkerKey::sequenceName));
         p.editor.addMarkerWithName(QStringLiteral("É&\tü&amp;"), 4294967297, -2, QString(),
-                                   QStringLiteral("BLUE"), &menu->at(2));
+                                   QStringLiteral("BLUE"), 2);
         p.editor.addMarkerWithName(n, QStringLiteral("01:00:01;00"), QStringLiteral("01:00:00;10"), n, n);
-        p.editor.addMarkerWithName(n, QStringLiteral("x"), QStringLiteral("00:00:00:10"), n, n, &stranger);
-        p.editor.addMarkerWithName(n, QStringLiteral("00:00:02:00"), QStringLiteral("00:00:00:10"), n, n,
-                                   &menu->at(2));
+        p.editor.addMarkerWithName(n, QStringLiteral("x"), QStringLiteral("00:00:00:10"), n, n, 9);
+        p.editor.addMarkerWithName(n, QStringLiteral("00:00:02:00"), QStringLiteral("00:00:00:10"), n, n, 2);
         QCOMPARE(
             p.values(QStringLiteral("name comment color in out sequenceUUID sequenceIndex timebase")),
             QStringLiteral(
@@ -166,7 +161,7 @@ private Q_SLOTS:
         // A sequence without a name goes by the first one in it, that of its first marker.
         QCOMPARE(p.marker(4)->get(MarkerKey::sequenceName), QStringLiteral("É&ü&"));
         p.set({1}, "name", QStringLiteral("new"));
-        const RowRecordPtr third = p.editor.addMarkerWithName(n, 0, 0, n, n, &menu->at(2));
+        const RowRecordPtr third = p.editor.addMarkerWithName(n, 0, 0, n, n, 2);
         QCOMPARE(third->get(MarkerKey::sequenceName), QStringLiteral("new"));
         QCOMPARE(p.document.modifiedSequenceUUIDs(), (QStringList{QStringLiteral("B"), QStringLiteral("A")}));
     }
@@ -204,7 +199,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, child);
         const char *comment = " &lt;CHAPTER&gt;Hello&lt;QVCUSTOM_T&gt;3&lt;_QVCUSTOM_T&gt;";
-        MarkerProject p(project(marker("100", "120", comment)));
+        MarkerProject p(projectWith(marker("100", "120", comment)));
         p.set({0}, column.toLatin1().constData(), typed);
         QTEST(MarkerProject::values(*p.marker(0), column), "record");
         const QString name = child.section(QLatin1Char('='), 0, 0);
@@ -215,7 +210,7 @@ private Q_SLOTS:
 
     void severalRowsAndMissingChildren()
     {
-        MarkerProject p(project("<marker/><marker><in>99999999999999999999</in></marker>"));
+        MarkerProject p(projectWith("<marker/><marker><in>99999999999999999999</in></marker>"));
         p.set({}, "name", QStringLiteral("nobody"));
         QVERIFY(!p.world.edited);
         p.set({0, 1, 7}, "color", QStringLiteral("1"));
@@ -229,7 +224,7 @@ private Q_SLOTS:
 
     void whatWasRemovedIsNotEdited()
     {
-        MarkerProject p(project(marker("50", "-1") + marker("60", "-1"), marker("150", "-1")));
+        MarkerProject p(projectWith(marker("50", "-1") + marker("60", "-1"), marker("150", "-1")));
         const RowRecordPtr gone = p.marker(1);
         const RowRecordPtr kept = p.marker(2);
         p.editor.removeXMLMarker(gone);
@@ -264,7 +259,7 @@ private Q_SLOTS:
     void moves()
     {
         const QByteArray onClip = marker("150", "-1");
-        MarkerProject p(project(onClip + marker("50", "-1") + marker("250", "-1"), onClip));
+        MarkerProject p(projectWith(onClip + marker("50", "-1") + marker("250", "-1"), onClip));
         const QString keys =
             QStringLiteral("in sequenceIndex sequenceUUID clipIndex clipID clipUUID clipName timebase");
         // 0: on the clip; 1 to 3: on the sequence, inside, before and after the clip.
@@ -356,7 +351,7 @@ private Q_SLOTS:
     void offsets()
     {
         QFETCH(QString, text);
-        MarkerProject p(project(marker("100", "110") + "<marker/>" + marker("2147483636", "5")));
+        MarkerProject p(projectWith(marker("100", "110") + "<marker/>" + marker("2147483636", "5")));
         p.world.selectRows(Tab::Markers, {0, 1, 2});
         p.editor.offsetMarkers(text);
         QTEST(p.values(QStringLiteral("in")), "in");
@@ -365,7 +360,7 @@ private Q_SLOTS:
 
     void removing()
     {
-        MarkerProject p(project(marker("1", "1") + marker("2", "2") + marker("3", "3")));
+        MarkerProject p(projectWith(marker("1", "1") + marker("2", "2") + marker("3", "3")));
         p.world.selectRows(Tab::Markers, {});
         p.editor.removeMarkers();
         p.world.selectRows(Tab::Markers, {0, 2});
@@ -389,9 +384,25 @@ private Q_SLOTS:
                               QStringLiteral("Are you sure you wish to remove this marker?")}));
     }
 
+    void recordsThatAreNeitherSelectedNorOnShow()
+    {
+        MarkerProject p(projectWith(marker("1", "-1") + marker("2", "-1") + marker("3", "-1")));
+        p.document.viewState().markerFilter = 3;
+        p.inventory.changeMarkerFilter();
+        p.world.selectRows(Tab::Markers, {0});
+        p.editor.setValue({p.marker(2)}, QStringLiteral("name"), QStringLiteral("x"));
+        p.editor.offset({p.marker(0), p.marker(2)}, QStringLiteral("00:00:01:00"), {p.marker(1)});
+        p.editor.offset({p.marker(2)}, QStringLiteral("-00:00:00:01"), {});
+        QVERIFY(!p.editor.remove({}));
+        p.alerts->queueAnswer(1);
+        QVERIFY(p.editor.remove({p.marker(1)}));
+        QCOMPARE(p.values(QStringLiteral("name in")), QStringLiteral("m|31\nx|32"));
+        QCOMPARE(p.world.selectedRows(Tab::Markers), std::vector<std::size_t>{0});
+    }
+
     void recordsWithoutElement()
     {
-        MarkerProject p(project(marker("1", "1") + marker("2", "2"), marker("2", "2")));
+        MarkerProject p(projectWith(marker("1", "1") + marker("2", "2"), marker("2", "2")));
         const auto find = [&p](std::size_t row, const char *name) {
             const auto record = std::make_shared<RowRecord>(*p.marker(row));
             record->remove(MarkerKey::markerElement);
@@ -431,14 +442,12 @@ private Q_SLOTS:
     /// each row, it would take minutes.
     void manyRows()
     {
-        MarkerProject p(project(QByteArray(marker("1", "-1")).repeated(20000)));
+        MarkerProject p(projectWith(QByteArray(marker("1", "-1")).repeated(20000)));
         QElapsedTimer timer;
         timer.start();
-        const MenuPtr menu = p.document.sequenceMenu();
         for (int i = 0; i < 5000; ++i) {
             p.editor.addMarker();
-            p.editor.addMarkerWithName(QStringLiteral("n"), QString(), QString(), QString(), QString(),
-                                       &menu->at(2));
+            p.editor.addMarkerWithName(QStringLiteral("n"), QString(), QString(), QString(), QString(), 2);
         }
         std::vector<std::size_t> rows(30000);
         for (std::size_t i = 0; i < rows.size(); ++i)

@@ -76,9 +76,9 @@ private Q_SLOTS:
     {
         UserDefaults defaults(m_home.path(QStringLiteral("strange.plist")), UserDefaults::Access::Volatile);
         const QString key = QStringLiteral("customMarkerFields");
-        const PropertyListDictionary far{{QStringLiteral("identifier"), QStringLiteral("QVCUSTOM_X")},
-                                         {QStringLiteral("colIndex"), QStringLiteral("-4")}};
-        defaults.setValue(key, PropertyListValue::Array{1, far, QStringLiteral("text"), far});
+        const QVariantMap far{{QStringLiteral("identifier"), QStringLiteral("QVCUSTOM_X")},
+                              {QStringLiteral("colIndex"), QStringLiteral("-4")}};
+        defaults.setValue(key, QVariantList{1, far, QStringLiteral("text"), far});
         MarkerProject project("<xmeml/>", &defaults);
         QCOMPARE(columns(project), QStringLiteral("QVCUSTOM_X"));
         defaults.setValue(key, QStringLiteral("no list"));

@@ -22,7 +22,7 @@ const QString presetFolder = QStringLiteral(".local/share/Orvandel/Halvex/Vantre
 /// A preset that changes the labels of these colours, as "Green=Chapter Blue=" says.
 QByteArray preset(const QString &changes, const QString &without = QString())
 {
-    PropertyListDictionary labels;
+    QVariantMap labels;
     for (const QString &label : defaultLabels.split(QLatin1Char(' '))) {
         if (label != without)
             labels.insert(label, label);

@@ -98,8 +98,7 @@ private Q_SLOTS:
             listOwn(p);
             return all(p) == before;
         };
-        const MenuPtr menu = p.document.sequenceMenu();
-        p.editor.addMarkerWithName(QStringLiteral("new"), 7, -1, QString(), QString(), &menu->at(2));
+        p.editor.addMarkerWithName(QStringLiteral("new"), 7, -1, QString(), QString(), 2);
         QCOMPARE(MarkerProject::values(*p.document.markerArray().back(), owners),
                  QStringLiteral("new|UTwo|Two|24|2|-|-|-"));
         QCOMPARE(p.document.modifiedSequenceUUIDs(), QStringList{QStringLiteral("UTwo")});

@@ -1,5 +1,3 @@
-#include "markers/MarkerColors.h"
-#include "markers/MarkerComment.h"
 #include "markers/MarkerTableValues.h"
 #include "support/text/TextNumbers.h"
 #include "tests/markers/MarkerProject.h"
@@ -10,6 +8,7 @@
 
 #include <QBuffer>
 
+#include <array>
 #include <map>
 
 using namespace vantrell;
@@ -55,6 +54,43 @@ private:
             record.set(RecordKey(QString::fromLatin1(key)), *value);
     }
 
+    /// The comments with tags that random projects have, worked out by hand; in all others no tag is whole.
+    static void readComment(const QString &text, RowRecord &record)
+    {
+        static const std::map<QByteArray, QByteArrayList> tagged = {
+            {"<CHAPTER>", {"chapter=1", "comment=<CHAPTER>"}}, // without its blank the tag stays
+            {" <CHAPTER>a", {"chapter=1", "comment=a"}},
+            {" <SCORING> <COMPRESSION>", {"compression=1", "scoring=1", "comment="}},
+            {"<QVCUSTOM_T>3<_QVCUSTOM_T>", {"QVCUSTOM_T=3", "comment="}},
+        };
+        const QByteArray comment = text.toUtf8();
+        const auto known = tagged.find(comment);
+        for (const QByteArray &part :
+             known == tagged.end() ? QByteArrayList{"comment=" + comment} : known->second) {
+            const qsizetype end = part.indexOf('=');
+            store(record, part.first(end).constData(), QString::fromUtf8(part.sliced(end + 1)));
+        }
+    }
+
+    static int colorOf(XmlNode color)
+    {
+        using Channels = std::array<qint64, 4>; // alpha, red, green, blue
+        static const std::map<Channels, int> colors = {
+            {{0, 255, 127, 0}, 1}, {{0, 255, 255, 0}, 2}, {{0, 48, 191, 72}, 3}, {{0, 48, 191, 191}, 4},
+            {{0, 0, 128, 255}, 5}, {{0, 127, 0, 255}, 6}, {{0, 255, 0, 127}, 7},
+        };
+        static const QStringList names{QStringLiteral("alpha"), QStringLiteral("red"),
+                                       QStringLiteral("green"), QStringLiteral("blue")};
+        Channels channels = {0, 255, 0, 0};
+        for (XmlNode child = color.firstChildElement(); child; child = child.nextSiblingElement()) {
+            const qsizetype channel = names.indexOf(child.name());
+            if (channel >= 0)
+                channels[std::size_t(channel)] = child.stringValue().toLongLong();
+        }
+        const auto known = colors.find(channels);
+        return known == colors.end() ? 0 : known->second;
+    }
+
     static bool isActive(XmlNode marker)
     {
         if (!marker.locationPath().contains(QStringLiteral("angle")))
@@ -70,11 +106,11 @@ private:
         record.set(MarkerKey::markerElement, marker);
         store(record, "name", QVXMLParser::nameForNode(marker));
         if (const auto comment = textAt("./comment[1]/text()", marker))
-            MarkerComment::read(*comment, record);
+            readComment(*comment, record);
         store(record, "in", textAt("./in[1]/text()", marker));
         store(record, "out", textAt("./out[1]/text()", marker));
         if (const XmlNode color = QVXMLParser::nodeForQuery(QStringLiteral("./color[1]"), marker))
-            record.set(MarkerKey::color, MarkerColors::indexOfElement(color));
+            record.set(MarkerKey::color, colorOf(color));
         XmlNode current;
         const QStringList steps = marker.locationPath().split(QLatin1Char('/'));
         for (qsizetype i = 0; i < steps.size(); ++i) {

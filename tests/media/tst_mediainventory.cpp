@@ -3,6 +3,7 @@
 #include "support/log/QVLog.h"
 #include "tests/media/MediaProject.h"
 #include "tests/support/LongSeries.h"
+#include "tests/support/NoThreads.h"
 #include "tests/support/RandomProject.h"
 #include "tests/support/TemporaryHome.h"
 #include "xml/QVXMLParser.h"
@@ -325,6 +326,18 @@ private Q_SLOTS:
             QVERIFY(!opened.document.isPopulating(Tab::Media));
         }
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void nobodyWaitsForFilesThatCannotBeLookedAt()
+    {
+        const NoThreads none;
+        const FileChecks checks({"/", "/Volumes/a/b"});
+        QElapsedTimer timer;
+        timer.start();
+        const auto answers = checks.answers([] { return false; }, std::chrono::minutes(1));
+        QVERIFY(timer.elapsed() < 30'000);
+        QVERIFY(answers && answers->size() == 2);
+        QVERIFY(!answers->at(0) && !answers->at(1));
     }
 
     void aVolumeThatDoesNotAnswer()

@@ -263,7 +263,7 @@ private Q_SLOTS:
                                                        .remove(QRegularExpression(u"<[^>]*>"_s))
                                                        .simplified();
         };
-        const auto store = [&report](const char *key, const PropertyListValue &value) {
+        const auto store = [&report](const char *key, const QVariant &value) {
             report.defaults.setValue(QString::fromLatin1(key), value);
         };
         QCOMPARE(body(), u"<h1>Night Shift.v2</h1>a bc"_s);

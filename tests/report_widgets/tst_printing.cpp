@@ -62,20 +62,20 @@ private Q_SLOTS:
 
     void settings()
     {
-        PropertyListDictionary odd{{u"paper"_s, u"B12"_s},
-                                   {u"margin"_s, 1000},
-                                   {u"copies"_s, -4},
-                                   {u"landscape"_s, u"no"_s},
-                                   {u"printer"_s, 7}};
+        QVariantMap odd{{u"paper"_s, u"B12"_s},
+                        {u"margin"_s, 1000},
+                        {u"copies"_s, -4},
+                        {u"landscape"_s, u"no"_s},
+                        {u"printer"_s, 7}};
         const PrintInfo cleaned(odd);
         QVERIFY(PrintInfo::papers().contains(cleaned.paper()));
         QCOMPARE(cleaned.margin(), 50.0);
         QCOMPARE(cleaned.copies, 1);
         QCOMPARE(cleaned.layout.orientation(), QPageLayout::Portrait);
         QVERIFY(cleaned.printer.isNull());
-        PropertyListDictionary stored{{u"paper"_s, u"Legal"_s},      {u"landscape"_s, true},
-                                      {u"margin"_s, 20.0},           {u"copies"_s, 3},
-                                      {u"headerAndFooter"_s, false}, {u"printer"_s, u"Office"_s}};
+        QVariantMap stored{{u"paper"_s, u"Legal"_s},      {u"landscape"_s, true},
+                           {u"margin"_s, 20.0},           {u"copies"_s, 3},
+                           {u"headerAndFooter"_s, false}, {u"printer"_s, u"Office"_s}};
         QCOMPARE(PrintInfo(stored).settings(), stored);
         QCOMPARE(PrintInfo(stored).layout.fullRect(QPageLayout::Point).size(), QSizeF(1008, 612));
     }

@@ -19,4 +19,15 @@ inline int seriesLength(int length)
 #endif
 }
 
+/// The size of an input that is there to take long: `size`, or a tenth of it under a sanitizer, which is
+/// slower by about that much.
+inline int longWork(int size)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return size / 10;
+#else
+    return size;
+#endif
+}
+
 } // namespace vantrell

@@ -1,11 +1,14 @@
 #pragma once
 
-#include "support/files/ChildProcess.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+
+#include <csignal>
+#include <unistd.h>
 
 namespace vantrell
 {
@@ -25,13 +28,17 @@ inline QString addShellScript(const TemporaryHome &home, const QString &relative
     return path;
 }
 
-/// A process that is ended with the test.
+/// A process that is ended with the test, and those that it started with it.
 class RunningProgram
 {
 public:
     RunningProgram(const QString &program, const QStringList &arguments)
-        : m_process(ChildProcess::start({.program = program, .arguments = arguments, .workingDirectory = {}}))
     {
+        m_process.setChildProcessModifier([] { ::setpgid(0, 0); });
+        m_process.setStandardErrorFile(QProcess::nullDevice());
+        m_process.setStandardOutputFile(QProcess::nullDevice());
+        m_process.start(program, arguments);
+        m_process.waitForStarted();
     }
     ~RunningProgram() { end(); }
     RunningProgram(const RunningProgram &) = delete;
@@ -39,15 +46,16 @@ public:
 
     void end()
     {
-        if (!m_process)
+        if (!hasStarted())
             return;
-        m_process.value().killGroup();
-        m_process.value().waitForEnd(5000);
+        ::kill(static_cast<pid_t>(-id()), SIGKILL);
+        m_process.waitForFinished(5000);
     }
-    bool hasStarted() const { return m_process.isOk(); }
+    bool hasStarted() const { return m_process.state() == QProcess::Running; }
+    qint64 id() const { return m_process.processId(); }
 
 private:
-    Result<ChildProcess> m_process;
+    QProcess m_process;
 };
 
 } // namespace vantrell

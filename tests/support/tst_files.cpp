@@ -76,6 +76,11 @@ private Q_SLOTS:
             QCOMPARE(read.value(), content);
             QCOMPARE(namesIn(folder).size(), 1);
         }
+        // The longest name that a file system takes can be replaced.
+        const QString longest = home.path(QString(255, u'n'));
+        QVERIFY(FileUtilities::writeAtomically(longest, QByteArray("old")));
+        QVERIFY(FileUtilities::writeAtomically(longest, QByteArray("new")));
+        QCOMPARE(contentOf(longest), QByteArray("new"));
         // In small and large pieces the order stays.
         QVERIFY(FileUtilities::writeAtomically(path, [&large](QIODevice &device) -> Result<void> {
             device.write("head\n");
@@ -268,9 +273,9 @@ private Q_SLOTS:
         QCOMPARE(StandardFolders::documents(), home.path(QStringLiteral("Documents")));
         home.addFile(
             QStringLiteral(".config/user-dirs.dirs"),
-            "# comment\nXDG_DESKTOP_DIR=\"$HOME/Schreib\\\"tisch\"\n"
+            "# comment\nXDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n"
             "XDG_DOCUMENTS_DIR=\"relative\"\nXDG_DOCUMENTS_DIR=\"/srv/papers/\"\nXDG_MUSIC_DIR=\"/m");
-        QCOMPARE(StandardFolders::desktop(), home.path(QStringLiteral("Schreib\"tisch")));
+        QCOMPARE(StandardFolders::desktop(), home.path(QStringLiteral("Schreibtisch")));
         QCOMPARE(StandardFolders::documents(), QStringLiteral("/srv/papers"));
         qputenv("XDG_DOCUMENTS_DIR", "/elsewhere");
         QCOMPARE(StandardFolders::documents(), QStringLiteral("/elsewhere"));

@@ -17,8 +17,6 @@
 #include <stdexcept>
 #include <thread>
 
-Q_DECLARE_METATYPE(vantrell::PropertyListValue)
-
 using namespace vantrell;
 
 namespace
@@ -400,23 +398,23 @@ private Q_SLOTS:
 
     void switchedOff_data()
     {
-        QTest::addColumn<PropertyListValue>("value");
+        QTest::addColumn<QVariant>("value");
         QTest::addColumn<bool>("isOff");
-        QTest::newRow("text 1") << PropertyListValue(QStringLiteral("1")) << true;
-        QTest::newRow("number 1") << PropertyListValue(1) << true;
-        QTest::newRow("true") << PropertyListValue(true) << true;
-        QTest::newRow("text YES") << PropertyListValue(QStringLiteral("YES")) << false;
-        QTest::newRow("number 2") << PropertyListValue(2) << false;
-        QTest::newRow("false") << PropertyListValue(false) << false;
-        QTest::newRow("absent") << PropertyListValue() << false;
+        QTest::newRow("text 1") << QVariant(QStringLiteral("1")) << true;
+        QTest::newRow("number 1") << QVariant(1) << true;
+        QTest::newRow("true") << QVariant(true) << true;
+        QTest::newRow("text YES") << QVariant(QStringLiteral("YES")) << false;
+        QTest::newRow("number 2") << QVariant(2) << false;
+        QTest::newRow("false") << QVariant(false) << false;
+        QTest::newRow("absent") << QVariant() << false;
     }
 
     void switchedOff()
     {
-        QFETCH(PropertyListValue, value);
+        QFETCH(QVariant, value);
         QFETCH(bool, isOff);
         const TemporaryHome home;
-        QVERIFY(PropertyList::toFile(PropertyListDictionary{{QStringLiteral("disable-logging"), value}},
+        QVERIFY(PropertyList::toFile(QVariantMap{{QStringLiteral("disable-logging"), value}},
                                      StandardFolders::preferences() +
                                          QStringLiteral("/com.orvandel.global.plist")));
         const Run run("return");

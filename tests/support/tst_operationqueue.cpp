@@ -1,5 +1,5 @@
+#include "support/log/OperationQueue.h"
 #include "support/log/QVLog.h"
-#include "support/threads/OperationQueue.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QTest>

@@ -22,10 +22,10 @@ const QString name = QStringLiteral(".config/com.orvandel.vantrell.plist");
 const QString a = QStringLiteral("a");
 const QString b = QStringLiteral("b");
 
-PropertyListDictionary storedIn(const QString &path)
+QVariantMap storedIn(const QString &path)
 {
-    const Result<PropertyListValue> list = PropertyList::fromFile(path);
-    return list ? list.value().toDictionary() : PropertyListDictionary();
+    const Result<QVariant> list = PropertyList::fromFile(path);
+    return list ? list.value().toMap() : QVariantMap();
 }
 
 /// The keys that the signals named, sorted.
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(second.string(b), QStringLiteral("set & <stored>"));
 
         defaults.removeValue(b);
-        defaults.setValue(a, PropertyListValue());
+        defaults.setValue(a, QVariant());
         QCOMPARE(defaults.string(b), QStringLiteral("registered"));
         QCOMPARE(defaults.integer(a), 1);
         QVERIFY(storedIn(home.path(name)).isEmpty());
@@ -91,7 +91,7 @@ private Q_SLOTS:
         other.setValue(b, 4);
         defaults.setValue(a, 1);
         QCOMPARE(keysOf(spy), QStringList(b));
-        QCOMPARE(storedIn(home.path(name)).value(b).toInteger(), 4);
+        QCOMPARE(storedIn(home.path(name)).value(b).toLongLong(), 4);
         for (int value = 5; value < 8; ++value) {
             other.setValue(b, value);
             QTRY_COMPARE(defaults.integer(b), value);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(defaults.integer(a), 6);
         QVERIFY(QFile::remove(blocked));
         defaults.synchronize();
-        QCOMPARE(storedIn(blocked + QStringLiteral("/settings.plist")).value(a).toInteger(), 6);
+        QCOMPARE(storedIn(blocked + QStringLiteral("/settings.plist")).value(a).toLongLong(), 6);
 
         // What is there and cannot be read is not written over.
         const QString folder = home.path(QStringLiteral("folder.plist"));
@@ -210,9 +210,9 @@ private Q_SLOTS:
             QVERIFY(process->waitForFinished(120'000));
             QCOMPARE(process->exitCode(), 0);
         }
-        const PropertyListDictionary stored = storedIn(home.path(name));
+        const QVariantMap stored = storedIn(home.path(name));
         QCOMPARE(stored.size(), 60);
-        QCOMPARE(stored.value(QStringLiteral("2.19")).toInteger(), 19);
+        QCOMPARE(stored.value(QStringLiteral("2.19")).toLongLong(), 19);
     }
 };
 

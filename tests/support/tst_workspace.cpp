@@ -1,8 +1,8 @@
 #include "support/desktop/Workspace.h"
-#include "support/files/ChildProcess.h"
 #include "support/files/PropertyList.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "tests/support/RunningProgram.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QtDBus/QDBusConnection>
@@ -44,29 +44,6 @@ QByteArray recorderScript(const QString &output)
         .toUtf8();
 }
 
-/// A process that is ended with the test.
-class Running
-{
-public:
-    Running(const QString &program, const QStringList &arguments)
-        : m_process(ChildProcess::start({.program = program, .arguments = arguments, .workingDirectory = {}}))
-    {
-    }
-    ~Running() { end(); }
-    void end()
-    {
-        if (!m_process)
-            return;
-        m_process.value().killGroup();
-        m_process.value().waitForEnd(5000);
-    }
-    bool hasStarted() const { return m_process.isOk(); }
-    qint64 id() const { return m_process.value().id(); }
-
-private:
-    Result<ChildProcess> m_process;
-};
-
 /// Stands in for the file browser of a session.
 class FakeFileBrowser : public QObject
 {
@@ -101,15 +78,9 @@ class TestWorkspace : public QObject
             makeExecutable(
                 m_home->addFile(text("apps/") + relative + text("/Contents/MacOS/Main Program"), script));
         QVERIFY(QDir().mkpath(contents));
-        const PropertyListDictionary keys{{text("CFBundleIdentifier"), identifier},
-                                          {text("CFBundleExecutable"), text("Main Program")}};
+        const QVariantMap keys{{text("CFBundleIdentifier"), identifier},
+                               {text("CFBundleExecutable"), text("Main Program")}};
         QVERIFY(PropertyList::toFile(keys, contents + text("/Info.plist"), PropertyList::Format::Binary));
-    }
-
-    void copySleepTo(const QString &executable)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(executable).path()));
-        QVERIFY(QFile::copy(QFileInfo(text("/bin/sleep")).canonicalFilePath(), executable));
     }
 
 private Q_SLOTS:
@@ -174,18 +145,18 @@ private Q_SLOTS:
         const QString bundle = path(text("apps/Suite/Runner.app"));
         const QString helper = bundle + text("/Contents/Frameworks/helper");
         const QString executable = bundle + text("/Contents/MacOS/Main Program");
-        copySleepTo(helper);
+        QVERIFY(makeSleeper(helper));
         if (script.isEmpty())
-            copySleepTo(executable);
+            QVERIFY(makeSleeper(executable));
         // A process that only reads a file of the bundle.
-        Running reader(text("tail"), {text("-f"), script.isEmpty() ? helper : executable});
+        RunningProgram reader(text("tail"), {text("-f"), script.isEmpty() ? helper : executable});
         QVERIFY(reader.hasStarted());
         QVERIFY(!Workspace::isRunning(identifier));
         QVERIFY(Workspace::runningApplications().empty());
 
-        Running helping(helper, {text("30")});
+        RunningProgram helping(helper, {text("30")});
         QVERIFY(Workspace::isRunning(identifier));
-        Running process(executable, {text("30")});
+        RunningProgram process(executable, {text("30")});
         const auto isMainProgram = [&] { // env takes a moment to become the shell
             const auto applications = Workspace::runningApplications();
             return applications.size() == 1 && applications.front().executablePath == executable &&
@@ -276,8 +247,8 @@ private Q_SLOTS:
         if (daemonProgram.isEmpty())
             QSKIP("no dbus-daemon here");
         const QString address = text("unix:path=") + path(text("bus"));
-        Running daemon(daemonProgram, {text("--session"), text("--nofork"), text("--nopidfile"),
-                                       text("--address=") + address});
+        RunningProgram daemon(daemonProgram, {text("--session"), text("--nofork"), text("--nopidfile"),
+                                              text("--address=") + address});
         QVERIFY(daemon.hasStarted());
         QTRY_VERIFY(QFile::exists(path(text("bus"))));
         qputenv("DBUS_SESSION_BUS_ADDRESS", QFile::encodeName(address));

@@ -454,12 +454,12 @@ void TestTables::copyRows()
 
 void TestTables::moveColumns()
 {
-    PropertyListDictionary field;
+    QVariantMap field;
     const QString take = QStringLiteral("QVCUSTOM_TAKE");
     field.insert(QStringLiteral("identifier"), take);
     field.insert(QStringLiteral("title"), QStringLiteral("Take"));
     const QString key = QStringLiteral("customMarkerFields");
-    project().defaults.setValue(key, PropertyListValue::Array{field});
+    project().defaults.setValue(key, QVariantList{field});
     project().bench.markerFields().setupMarkerFields();
     project().show(Tab::Markers);
     QHeaderView *header = project().markers.table().horizontalHeader();
@@ -467,12 +467,11 @@ void TestTables::moveColumns()
     QCOMPARE(markerText(QStringLiteral("Tide turns"), take), QStringLiteral("3"));
     header->moveSection(1, 2);
     const auto stored = [&] {
-        return project().defaults.value(key).toArray().front().toDictionary().value(
-            QStringLiteral("colIndex"));
+        return project().defaults.value(key).toList().front().toMap().value(QStringLiteral("colIndex"));
     };
     QVERIFY(stored().isNull());
     header->moveSection(10, 3);
-    QCOMPARE(stored().toInteger(), 3);
+    QCOMPARE(stored().toLongLong(), 3);
 
     header->resizeSection(project().markers.model().columnOf(QStringLiteral("comment")), 333);
     project().markers.saveLayout();

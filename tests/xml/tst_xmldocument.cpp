@@ -3,6 +3,7 @@
 #include "xml/XmlDocument.h"
 #include "xml/XmlEdit.h"
 #include "xml/XmlLocationPaths.h"
+#include "xml/XmlParse.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -10,7 +11,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <chrono>
+#include <cstring>
+#include <new>
 #include <string>
 #include <thread>
 
@@ -232,6 +236,11 @@ private Q_SLOTS:
             utf16 += char(unit >> 8);
         }
         add("lone surrogates", utf16, "<a>é!<b/>\U0001F3AC</a>", "line 1: bytes that are no UTF-16LE");
+        add("encoding declared too late",
+            "\n<?xml version=\"1.0\" encoding=\"windows-1252\"?><a>caf\xE9<b/></a>", "<a>café<b/></a>",
+            "line 2: XML declaration allowed only at the start of the document");
+        add("labelled as what has no ASCII", "<?xml version=\"1.0\" encoding=\"IBM037\"?><a>é</a>",
+            "<a>é</a>", "line 1: Document labelled IBM037 but has UTF-8 content");
         add("labelled wrongly", "<?xml version=\"1.0\" encoding=\"UTF-16\"?><a>é</a>", "<a>é</a>",
             "line 1: Document labelled UTF-16 but has UTF-8 content");
     }
@@ -267,6 +276,21 @@ private Q_SLOTS:
             << "<a><b></b></b>" + many + "</a>"
             << QStringLiteral("Content is missing: 14 of 18,018 bytes could be read, and 2,000 elements were "
                               "left out behind that.");
+        // What has no end takes everything behind it, the end of the root included.
+        const auto addUnended = [](const char *name, const char *start) {
+            QTest::newRow(name) << "<a><b>x</b>" + QByteArray(start) + "<c>1</c></a>"
+                                << QStringLiteral("Content is missing: 11 of %1 bytes could be read.")
+                                       .arg(11 + QByteArray(start).size() + 12);
+        };
+        addUnended("comment without an end", "<!--");
+        addUnended("CDATA without an end", "<![CDATA[");
+        addUnended("instruction without an end", "<?p ");
+        const QByteArray much = "<b>" + QByteArray(100'000, 'x') + "</b>\n";
+        QTest::newRow("comment without an end, far from that of the file")
+            << "<a>" + much.repeated(4) + "<!--" + much.repeated(16) + "</a>"
+            << QStringLiteral("Content is missing: 400,034 of 2,000,171 bytes could be read.");
+        QTest::newRow("comment without an end behind the root")
+            << QByteArray("<a><b></b></a><!-- x") << QString();
         QTest::newRow("one element") << QByteArray("<a></a><b></b>")
                                      << QStringLiteral(
                                             "Content is missing: 7 of 14 bytes could be read, and 1 "
@@ -342,6 +366,61 @@ private Q_SLOTS:
         QVERIFY(document);
         QVERIFY(!document->wasRepaired());
         QCOMPARE(saved(*document), xml);
+    }
+
+    void brokenEmptyTagsHoldNothing_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("blank in the end")
+            << QByteArray("<a><b c=\"1\"/ ><d/></a>") << QStringLiteral("<a><b c=\"1\"/>/ &gt;<d/></a>");
+        QTest::newRow("end without its bracket")
+            << QByteArray("<a><b c=\"1\"/?<d/></a>") << QStringLiteral("<a><b c=\"1\"/>/?<d/></a>");
+        QTest::newRow("attribute without a quotation mark")
+            << QByteArray("<a><b c=1/><d/></a>") << QStringLiteral("<a><b/>1/&gt;<d/></a>");
+        QTest::newRow("the tag of an element that has content")
+            << QByteArray("<a><b c=1>x</b>") << QStringLiteral("<a><b>1&gt;x</b></a>");
+    }
+    void brokenEmptyTagsHoldNothing()
+    {
+        QFETCH(QByteArray, xml);
+        QTEST(rootText(xml), "text");
+    }
+
+    void hostileInputCostsNoMore_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("told"); // of the fault or of the refusal
+        const QByteArray declaration = "<?xml version=\"1.0\" encoding=\"windows-1252\"?>";
+        QTest::newRow("bytes that are none of the encoding")
+            << declaration + "<a>" + QByteArray(2'000'000, '\x81') + "</a>"
+            << QStringLiteral("no windows-1252");
+        QTest::newRow("lone surrogates")
+            << QByteArray("<\0a\0>\0", 6) + QByteArray("\0\xD8", 2).repeated(2'000'000) +
+                   QByteArray("<\0/\0a\0>\0", 8)
+            << QStringLiteral("no UTF-16LE");
+        QTest::newRow("names in a namespace with a long URI")
+            << "<a xmlns:b=\"" + QByteArray(1'000'000, 'u') + "\">" + QByteArray("<b:c/>").repeated(200'000) +
+                   "</a>"
+            << QString();
+        QByteArray defaults;
+        for (int i = 0; i < 4000; ++i)
+            defaults += " b" + QByteArray::number(i) + " CDATA \"\"";
+        QTest::newRow("default attributes")
+            << "<!DOCTYPE a [<!ATTLIST c" + defaults + ">]><a>" + QByteArray("<c/>").repeated(20'000) + "</a>"
+            << QStringLiteral("default attributes");
+    }
+    void hostileInputCostsNoMore()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QString, told);
+        // Each took minutes where its cost grew with the square of its length.
+        const auto start = std::chrono::steady_clock::now();
+        const auto document = XmlDocument::fromData(xml, {});
+        QVERIFY(std::chrono::steady_clock::now() - start < std::chrono::seconds(30));
+        const QString fault = document ? document.value()->firstFault() : document.message();
+        QCOMPARE(fault.isEmpty(), told.isEmpty());
+        QVERIFY2(fault.contains(told), qPrintable(fault));
     }
 
     void referencesInARowCostNoMore()
@@ -508,6 +587,39 @@ private Q_SLOTS:
             cancelled = true;
         });
         const auto document = XmlDocument::fromFile(path, {true, &cancelled});
+        canceller.join();
+        QVERIFY(!document);
+        QVERIFY2(document.message().contains(QStringLiteral("cancelled")), qPrintable(document.message()));
+    }
+
+    void readingMayRunOutOfMemory()
+    {
+        for (const int readable : {0, 100, 20'000}) {
+            int left = readable;
+            ParseRequest request;
+            request.source.read = [&left, readable](char *buffer, int length) {
+                if (left == 0)
+                    throw std::bad_alloc();
+                const int count = std::min(left, length);
+                std::memset(buffer, 'x', std::size_t(count));
+                std::memcpy(buffer, "<a>", left == readable ? 3 : 0);
+                left -= count;
+                return count;
+            };
+            XmlTree tree(nullptr);
+            QVERIFY(parseXml(request, tree).outOfMemory);
+        }
+    }
+
+    void cancellingEndsWhatIsNoText()
+    {
+        // Nothing of it reaches the parser; without an end to it, but for the cancel flag.
+        std::atomic<bool> cancelled = false;
+        std::thread canceller([&cancelled] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            cancelled = true;
+        });
+        const auto document = XmlDocument::fromFile(QStringLiteral("/dev/zero"), {true, &cancelled});
         canceller.join();
         QVERIFY(!document);
         QVERIFY2(document.message().contains(QStringLiteral("cancelled")), qPrintable(document.message()));

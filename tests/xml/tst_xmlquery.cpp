@@ -99,13 +99,15 @@ private Q_SLOTS:
         QTest::newRow("function") << QStringLiteral(".//name[starts-with(., 'S')]/text()")
                                   << QStringList{QStringLiteral("S2"), QStringLiteral("S1"),
                                                  QStringLiteral("S1b")};
+        QTest::newRow("document type declaration")
+            << QStringLiteral("/node()") << QStringList{QStringLiteral("/xmeml[1]")};
         QTest::newRow("nothing") << QStringLiteral("./media[1]/video[1]") << QStringList{};
     }
     void finds()
     {
         QFETCH(QString, query);
         const auto document =
-            parsed("<xmeml version=\"5\"><project><name>P</name><children>"
+            parsed("<!DOCTYPE xmeml><xmeml version=\"5\"><project><name>P</name><children>"
                    "<sequence><clipitem id=\"c "
                    "1\"><name>C1</name><sequence><name>S2</name></sequence></clipitem>"
                    "<name>S1</name><name>S1b</name><marker/></sequence>"

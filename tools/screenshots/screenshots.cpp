@@ -132,9 +132,9 @@ private:
 
     void takeSheets(DocumentWindow &window)
     {
-        PropertyListValue::Array fields;
+        QVariantList fields;
         for (const char *title : {"Take", "Camera"})
-            fields.emplace_back(PropertyListDictionary{
+            fields.emplace_back(QVariantMap{
                 {QStringLiteral("identifier"), MarkerFields::formatMarkerFieldName(QLatin1String(title))},
                 {QStringLiteral("title"), QString::fromLatin1(title)}});
         m_defaults.setValue(QStringLiteral("customMarkerFields"), fields);

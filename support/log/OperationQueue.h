@@ -35,6 +35,9 @@ public:
     /// How many operations wait or run.
     int operationCount() const;
 
+    /// Whether the caller is one of the queue's own operations.
+    bool isCallerOperation() const;
+
 private:
     struct State;
     std::shared_ptr<State> m_state;

@@ -1,12 +1,12 @@
-#include "support/threads/OperationQueue.h"
+#include "support/log/OperationQueue.h"
 
 #include "support/log/QVException.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -105,7 +105,7 @@ void OperationQueue::addOperation(std::function<void()> operation)
                 state->runFirst(threadLock);
             }
         });
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) {
         // No further thread can be had. Those there are do the work, or the caller where there is none.
         if (m_state->threads.empty())
             m_state->runFirst(lock);
@@ -124,12 +124,17 @@ void OperationQueue::cancelAllOperations()
 void OperationQueue::waitUntilAllOperationsAreFinished()
 {
     std::unique_lock lock(m_state->mutex);
-    if (t_currentQueue == m_state.get()) {
+    if (isCallerOperation()) {
         while (!m_state->waiting.empty())
             m_state->runFirst(lock);
         return;
     }
     m_state->finished.wait(lock, [&] { return m_state->running == 0 && m_state->waiting.empty(); });
+}
+
+bool OperationQueue::isCallerOperation() const
+{
+    return t_currentQueue == m_state.get();
 }
 
 int OperationQueue::operationCount() const
