@@ -114,11 +114,10 @@ void WindowReports::printDocument()
             print->updateHTMLString(body);
     });
     const Tab tab = m_window.selectedTab();
-    printDocumentWithSettings(m_defaults.value(printSettingsKey).toMap(), true,
-                              [this, tab](bool didPrint) {
-                                  m_window.selectToolbarItem(tab);
-                                  Q_EMIT m_window.reportPrinted(didPrint);
-                              });
+    printDocumentWithSettings(m_defaults.value(printSettingsKey).toMap(), true, [this, tab](bool didPrint) {
+        m_window.selectToolbarItem(tab);
+        Q_EMIT m_window.reportPrinted(didPrint);
+    });
 }
 
 void WindowReports::printDocumentWithSettings(const QVariantMap &settings, bool showPrintPanel,
