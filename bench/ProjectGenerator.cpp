@@ -16,7 +16,7 @@ namespace vantrell::bench
 namespace
 {
 
-/// What a Draw is for: different kinds of the same number have nothing in common.
+/// What a Draw is for: draws of different kinds are independent.
 enum Kind : std::uint64_t { FileKind = 1, SequenceKind, ClipKind, CutKind, OverlayKind, SequenceMarkerKind };
 
 struct Rate {
@@ -69,7 +69,7 @@ struct SequenceTime {
     std::int64_t startFrame;
 };
 
-/// A clip of the first picture track, from which the sound below it follows.
+/// A clip of the first video track; the audio below it follows from it.
 struct Cut {
     std::int64_t file;
     std::int64_t duration;
@@ -110,7 +110,7 @@ public:
     ProjectCounts counts() const { return m_counts; }
 
 private:
-    /// With a target size: as many sequences, of about the wanted number of clips, as fill what is left.
+    /// With a target size: as many sequences of about the wanted number of clips as fit.
     void planSequences()
     {
         if (m_shape.megabytes <= 0)
@@ -118,7 +118,7 @@ private:
         XmlStream probe(nullptr, m_shape.whiteSpace);
         ProjectGenerator measured(m_shape, probe);
         {
-            // The depth at which sequences stand.
+            // The depth of sequences.
             const Element root(probe, "xmeml"), project(probe, "project"), children(probe, "children");
             for (std::int64_t i = 0; i < 3; ++i)
                 measured.writeSequence(probe, i);
@@ -330,7 +330,7 @@ private:
             writeMarker(m_xml, random, random.between(0, file.duration - 1));
     }
 
-    /// The master clips, spread evenly over the bins; every third bin stands inside the one before it.
+    /// The master clips, spread evenly over the bins; every third bin is nested in the previous one.
     void writeBins()
     {
         const std::int64_t bins = m_shape.bins;
@@ -366,7 +366,7 @@ private:
     struct ItemPlace {
         std::int64_t start, end; // frames from the start of the sequence
         bool dissolveBefore, dissolveAfter;
-        std::optional<std::int64_t> linked; // number of the cut that picture and sound share
+        std::optional<std::int64_t> linked; // number of the cut that video and audio share
     };
 
     void writeClipItem(XmlStream &xml, Draw &random, std::int64_t sequence, const std::string &id, Rate rate,
@@ -471,7 +471,7 @@ private:
         xml.leaf("locked", "FALSE");
     }
 
-    /// The first track of picture or of sound: the same cuts, one after the other.
+    /// The first video or audio track: the same cuts, one after the other.
     void writeCutTrack(XmlStream &xml, std::int64_t sequence, Rate rate, std::int64_t cuts,
                        std::int64_t linkedCuts, bool video)
     {
@@ -495,7 +495,7 @@ private:
         writeTrackEnd(xml);
     }
 
-    /// The second picture track: titles and clips with gaps between them.
+    /// The second video track: titles and clips with gaps between them.
     void writeOverlayTrack(XmlStream &xml, std::int64_t sequence, Rate rate, std::int64_t items)
     {
         const Element track(xml, "track");
@@ -520,7 +520,7 @@ private:
 
     void writeSequence(XmlStream &xml, std::int64_t number)
     {
-        // Half of the clips are the cut, 35 in a hundred the sound below it, the rest lies over it.
+        // Half of the clips are the cut, 35 % the audio below it, the rest are on the second video track.
         const std::int64_t sounds = m_shape.clips * 35 / 100;
         const std::int64_t overlays = m_shape.clips * 15 / 100;
         const std::int64_t cuts = m_shape.clips - sounds - overlays;

@@ -7,7 +7,7 @@
 namespace vantrell::bench
 {
 
-/// How large a project is and what is in it.
+/// Size and content of a project.
 struct ProjectShape {
     double megabytes = 0; ///< target size in 1,000,000 bytes; decides `sequences` unless 0
     std::int64_t sequences = 4;
@@ -31,8 +31,8 @@ struct ProjectCounts {
     std::int64_t markers = 0;
 };
 
-/// Writes a project of that shape: the same bytes for the same shape, in memory that does not grow with the
-/// size, since what a clip is follows from its number.
+/// Writes a project of that shape: the same bytes for the same shape, in constant memory, as the properties
+/// of a clip follow from its number.
 ProjectCounts writeProject(const ProjectShape &shape, XmlStream &xml);
 
 } // namespace vantrell::bench

@@ -6,8 +6,8 @@
 namespace vantrell::bench
 {
 
-/// What the same key always draws: the same numbers in the same order on every machine. A clip's
-/// properties are drawn anew wherever they are needed instead of being kept.
+/// Random numbers from a key: the same numbers in the same order on every machine. A clip's properties are
+/// drawn again wherever they are needed instead of being stored.
 class Draw
 {
 public:

@@ -11,8 +11,8 @@
 namespace vantrell::bench
 {
 
-/// Writes XML, one element a line, indented with tabs, through a buffer of fixed size, and counts what it
-/// writes. Without a file it only counts. Texts are UTF-8.
+/// Writes XML, one element per line, indented with tabs, through a buffer of fixed size, and counts the
+/// bytes. Without a file it only counts. Texts are UTF-8.
 class XmlStream
 {
 public:
@@ -27,7 +27,7 @@ public:
     void close();
     /// An element without children.
     void empty(std::string_view name, std::initializer_list<Attribute> attributes);
-    /// An element that holds nothing but a text.
+    /// An element with a text only.
     void leaf(std::string_view name, std::string_view text);
     void leaf(std::string_view name, std::int64_t number);
 
@@ -56,7 +56,7 @@ private:
     std::uint64_t m_elements = 0;
 };
 
-/// An element that is open as long as the object lives.
+/// An element that is open during the lifetime of the object.
 class Element
 {
 public:

@@ -55,8 +55,8 @@ double seconds(const timeval &time)
     return double(time.tv_sec) + double(time.tv_usec) / 1e6;
 }
 
-/// Runs a program to its end with standard output thrown away. Nothing when it cannot be started or ends
-/// with another status than 0; the reason then stands on standard error.
+/// Runs a program to its end with standard output discarded. nullopt when it cannot be started or its exit
+/// status is not 0; the reason is then on standard error.
 std::optional<Sample> run(const std::vector<std::string> &command)
 {
     std::vector<char *> arguments;
@@ -118,7 +118,8 @@ Sample medians(const std::vector<Sample> &samples)
     return {of(&Sample::wallSeconds), of(&Sample::processorSeconds), of(&Sample::peakBytes)};
 }
 
-/// Reads a file once, so that no run pays for the disk. Its size in bytes; nothing when it cannot be read.
+/// Reads a file once, so that it is in the cache for all runs. Its size in bytes; nullopt when it cannot be
+/// read.
 std::optional<double> readThrough(const std::string &path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -170,7 +171,7 @@ void printComparison(const Comparison &comparison)
                 comparison.program.peakBytes / comparison.floor.peakBytes);
 }
 
-/// How many times as much the large file takes, against how many times as large it is.
+/// The growth of the cost against the growth of the file.
 void printGrowth(const Comparison &small, const Comparison &large)
 {
     const double size = large.bytes / small.bytes;

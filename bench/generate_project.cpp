@@ -16,7 +16,7 @@ using namespace vantrell::bench;
 namespace
 {
 
-/// Prints what was written. False when the share of white space is not that of real projects.
+/// Prints what was written. False when the share of white space is unlike that of real projects.
 bool printReport(const ProjectShape &shape, const ProjectCounts &counts, const XmlStream &xml)
 {
     const double share = 100 * double(xml.whiteSpaceBytes()) / double(xml.bytes());

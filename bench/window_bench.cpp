@@ -1,6 +1,6 @@
-// Opens a large project in a window and measures how long the window is deaf: the longest time that any event
-// takes to be handled while the project loads, and what sorting, filtering, scrolling, switching tabs and
-// closing take.
+// Opens a large project in a window and measures how long the window does not respond: the longest time to
+// handle any event while the project loads, and the times of sorting, filtering, scrolling, switching tabs
+// and closing.
 //
 // usage: vantrell-window-bench PROJECT, on a display or with QT_QPA_PLATFORM=offscreen
 
@@ -64,7 +64,7 @@ void printLine(const QString &what, const Watch &watch)
     std::printf("  %-40s %7.1f ms, of the processor %7.1f ms\n", qPrintable(what), wall, watch.processorMs());
 }
 
-/// Notes how long each event takes that is not handled inside another one.
+/// Measures each event that is not handled inside another one.
 class TimedApplication final : public Application
 {
 public:
@@ -110,7 +110,7 @@ private:
     int m_events = 0;
     int m_late = 0;
     double m_longest = 0;
-    bool m_isTold = false; // of events that take long
+    bool m_isTold = false; // whether slow events are printed
 };
 
 void settle(int ms = 0)
@@ -121,7 +121,7 @@ void settle(int ms = 0)
     QCoreApplication::sendPostedEvents();
 }
 
-/// Runs something, with the painting that it takes.
+/// Runs something, including the painting that follows.
 template <typename Operation>
 void measure(const QString &what, QWidget &window, Operation operation)
 {

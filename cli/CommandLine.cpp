@@ -15,7 +15,7 @@ namespace vantrell::cli
 namespace
 {
 
-/// Stands in front of a value that begins with a minus sign, so that the library takes it for text.
+/// Prefixed to a value that begins with a minus sign, so that the library takes it as text.
 constexpr char mark = '\x01';
 
 bool beginsWithMinus(const std::string &argument)
@@ -23,7 +23,7 @@ bool beginsWithMinus(const std::string &argument)
     return argument.size() > 1 && argument[0] == '-';
 }
 
-/// Such as "-12" and "-1..", which is no option's name.
+/// Such as "-12" and "-1..", which are not option names.
 bool isNegativeNumber(const std::string &argument)
 {
     return beginsWithMinus(argument) && std::string("0123456789.,:;").find(argument[1]) != std::string::npos;
@@ -44,8 +44,8 @@ const CLI::App *subcommandNamed(const CLI::App &app, const std::string &name)
     return found.empty() ? &app : found.front();
 }
 
-/// Puts the mark in front of negative numbers, and of what follows an option that takes a value and is no
-/// option's name itself.
+/// Prefixes the mark to negative numbers, and to the argument after an option with a value unless it is an
+/// option name.
 std::vector<std::string> markedValues(const CLI::App &program, std::vector<std::string> arguments)
 {
     const CLI::App *app = &program;
@@ -65,7 +65,7 @@ std::vector<std::string> markedValues(const CLI::App &program, std::vector<std::
     return arguments;
 }
 
-/// What the library says, as the arguments were typed.
+/// The message of the library with the arguments as typed.
 void printWithoutMarks(std::string text, std::FILE *stream)
 {
     text.erase(std::remove(text.begin(), text.end(), mark), text.end());
@@ -78,7 +78,7 @@ void printWithoutMarks(std::string text, std::FILE *stream)
 /// A subcommand of the library with what its handles need.
 struct Subcommand::Node {
     CLI::App &app;
-    std::deque<Node> &nodes; ///< all of the program's
+    std::deque<Node> &nodes; ///< all nodes of the program
     int &status;
 };
 

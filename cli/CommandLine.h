@@ -60,8 +60,8 @@ public:
 
     Subcommand add(const char *name, const std::string &description);
 
-    /// Parses the arguments without the program's name and runs the subcommand that they choose. Prints help,
-    /// the version and complaints about usage. Returns the exit status.
+    /// Parses the arguments, without the program name, and runs the chosen subcommand. Prints help, the
+    /// version and usage errors. Returns the exit status.
     int run(const std::vector<std::string> &arguments);
 
 private:

@@ -7,7 +7,7 @@
 namespace vantrell::cli
 {
 
-/// Writes to standard output; false, with a message, when it cannot be written.
+/// Writes to standard output; false, after a message, when that fails.
 bool print(const QByteArray &bytes);
 /// Writes "vantrell-cli: …" and a line end to standard error.
 void complain(const QString &message);

@@ -32,7 +32,7 @@ struct EditOptions {
 
 const QString standardStream = QStringLiteral("-");
 
-/// Whether two paths name one file, be it there or not.
+/// Whether two paths name the same file, existing or not.
 bool isSameFile(const QString &a, const QString &b)
 {
     const QString canonical = QFileInfo(a).canonicalFilePath();

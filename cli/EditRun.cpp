@@ -5,7 +5,7 @@
 namespace vantrell::cli
 {
 
-/// Applies one operation; false when it named a row that is not there.
+/// Applies one operation; false when a row is out of range.
 struct EditRun::Applier {
     EditRun &run;
     MyDocument &document = run.m_session.document();

@@ -14,8 +14,8 @@ public:
     /// The presenter is the one installed for alerts.
     EditRun(ProjectSession &session, const HeadlessAlertPresenter &presenter);
 
-    /// Applies the operations in order. False, with a message on standard error, as soon as a row is out
-    /// of range or a question was refused; what came before is applied then.
+    /// Applies the operations in order. False, after a message on standard error, as soon as a row is out of
+    /// range or a question was refused; earlier operations stay applied.
     bool apply(const EditScript &script);
 
 private:

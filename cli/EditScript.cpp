@@ -22,7 +22,7 @@ QString quoted(const std::string &name)
     return QLatin1Char('"') + QString::fromStdString(name) + QLatin1Char('"');
 }
 
-/// One operation's members. The first that is missing or of another type than asked for is remembered.
+/// The members of one operation. Remembers the first one that is missing or of the wrong type.
 class Members
 {
 public:
@@ -104,7 +104,7 @@ private:
             setFault(quoted(name) + QStringLiteral(" is missing."));
     }
 
-    /// Numbers beyond the signed ones stay beyond every row.
+    /// Numbers beyond 63 bits stay out of range for every list.
     static std::int64_t integerOf(const Json &number)
     {
         constexpr auto largest = std::numeric_limits<std::int64_t>::max();

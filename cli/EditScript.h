@@ -14,7 +14,7 @@
 namespace vantrell::cli
 {
 
-/// Indexes into an unfiltered list, as they were given: any of them may be out of range.
+/// Indexes into an unfiltered list, as given: any of them may be out of range.
 using RowIndexes = std::set<std::int64_t>;
 
 struct SetCell {
@@ -24,7 +24,7 @@ struct SetCell {
 };
 struct AddMarker {
 };
-/// What the two ways of adding a marker have in common.
+/// Common to both ways of adding a marker.
 struct NewMarker {
     QString name;
     QString comment; ///< null for none
@@ -59,8 +59,8 @@ using EditOperation = std::variant<SetCell, AddMarker, AddFrames, AddTimecode, R
                                    SetEffect, RemoveEffects>;
 using EditScript = std::vector<EditOperation>;
 
-/// Reads the operations from JSON. The failure says which operation is wrong and why: it is unknown, a
-/// member is missing or of another type, or its column is none of the marker table.
+/// Reads the operations from JSON. The failure tells which operation is wrong and why: unknown, a missing
+/// member or one of the wrong type, or a column that the marker table does not have.
 Result<EditScript> readEditScript(const QByteArray &json);
 
 /// The same from a file, or from standard input for "-".

@@ -30,7 +30,7 @@ struct EffectsOptions {
     bool json = false;
 };
 
-/// Names of the type menu's items, in their order.
+/// Names of the items of the type menu, in order.
 const std::vector<std::string> typeNames{"all",          "filter",    "video-filter",
                                          "audio-filter", "generator", "transition"};
 

@@ -12,10 +12,10 @@ namespace vantrell::cli
 
 using Json = nlohmann::ordered_json;
 
-/// The text as JSON takes it; unpaired surrogates become replacement characters.
+/// The text for JSON; unpaired surrogates become replacement characters.
 std::string jsonText(const QString &text);
 
-/// The document that the UTF-8 text holds; discarded when it is none.
+/// Parses UTF-8 text; a discarded value when it is not JSON.
 Json parseJson(const QByteArray &text);
 
 /// One JSON document as UTF-8, with a line end.

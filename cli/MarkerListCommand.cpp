@@ -64,7 +64,7 @@ QByteArray listAsTable(const RowList &rows, const std::vector<RecordKey> &column
     return table.toBytes();
 }
 
-/// The rows; nothing, after a message, when the file cannot be read.
+/// The rows; nullopt, after a message, when the file cannot be read.
 std::optional<RowList> read(const QString &path, const MarkerListOptions &options, qint64 relativeHour)
 {
     std::optional<RowList> rows;

@@ -29,7 +29,7 @@ struct MarkersOptions {
     bool ownOwners = false;
 };
 
-/// The colour index that the value of --color names.
+/// The colour index named by the value of --color.
 std::optional<int> colorOf(const std::string &value)
 {
     const QString text = fromArgument(value);

@@ -7,7 +7,7 @@
 namespace vantrell::cli
 {
 
-/// A whole number of 64 bits, signed or unsigned, as its bits; nothing when the text is anything else.
+/// The bits of a signed or unsigned 64-bit integer; nullopt when the text is anything else.
 std::optional<quint64> wholeNumber(const QString &text);
 
 } // namespace vantrell::cli

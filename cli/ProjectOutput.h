@@ -5,8 +5,8 @@
 namespace vantrell::cli
 {
 
-/// Writes the project as plain XML, whole or not at all; "-" is standard output. False, with a message
-/// on standard error, when it cannot be written or a question about it was refused.
+/// Writes the project as plain XML, atomically; "-" is standard output. False, after a message on standard
+/// error, when writing fails or a question about it was refused.
 bool writeProject(MyDocument &document, const QString &path);
 
 } // namespace vantrell::cli

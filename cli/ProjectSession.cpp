@@ -14,7 +14,7 @@ ProjectSession::ProjectSession(Workbench::Inventories inventories)
 
 ProjectSession::~ProjectSession()
 {
-    static auto &left = *new std::vector<Workbench *>; // what it points at is no leak
+    static auto &left = *new std::vector<Workbench *>; // keeps leak checkers from reporting them
     m_workbench->document().close();
     left.push_back(m_workbench.release());
 }

@@ -11,7 +11,7 @@
 namespace vantrell::cli
 {
 
-/// What --own-owners does, for the help of the commands that have it.
+/// The help text of --own-owners.
 inline constexpr char ownOwnersHelp[] =
     "List each marker under its own sequence and clip, not under those that share their position";
 
@@ -20,16 +20,16 @@ class ProjectSession : private HeadlessDocumentInterface
 {
 public:
     explicit ProjectSession(Workbench::Inventories inventories);
-    /// Ends what runs for the project and leaves its memory to the end of the process, which is near:
-    /// taking a large project apart would only cost time.
+    /// Ends background work. The memory is left to the end of the process: freeing a large project would only
+    /// cost time.
     ~ProjectSession() override;
 
-    /// To be called before open(): lists each marker under its own sequence and clip, or, by position, says
-    /// on standard error when that would make a difference.
+    /// To be called before open(). On: lists each marker under its own sequence and clip. Off: by position,
+    /// with a message on standard error when that makes a difference.
     void setOwnOwners(bool own);
 
-    /// Loads the file and waits for it, inventories included. False, with a message on standard error,
-    /// when there is no project then; a file that had to be repaired is opened with a message.
+    /// Loads the file and waits for the inventories. False, after a message on standard error, when that
+    /// fails; a repaired file is opened with a message.
     bool open(const QString &path);
     /// The same as a document of that type, whatever the file's name.
     bool open(const QString &path, const QString &typeName);

@@ -7,8 +7,8 @@
 namespace vantrell::cli
 {
 
-/// The record with its keys in their order: elements as location paths (null for one that is out of the
-/// tree), dates as ISO 8601 in UTC with seconds. The paths serve for as long as nobody edits the tree.
+/// The record with its keys in order: elements as location paths (null outside the tree), dates as ISO 8601
+/// in UTC with seconds. The paths are valid until the tree is edited.
 Json recordToJson(const RowRecord &record, XmlLocationPaths &paths);
 Json recordsToJson(const RowList &records, XmlLocationPaths &paths);
 

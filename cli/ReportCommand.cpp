@@ -36,7 +36,7 @@ struct ReportOptions {
     bool ownOwners = false;
 };
 
-/// The table that the report is of, and what of it.
+/// The table of the report, and its columns and rows.
 struct ReportChoice {
     Tab tab = Tab::Media;
     TableColumns columns;                ///< of the table
@@ -52,8 +52,7 @@ void setTable(ReportChoice &choice, const std::string &tab)
                                                   : markerColumns;
 }
 
-/// False for a column that no report of the table has. Custom fields become columns at the table's end, in
-/// the order in which they come.
+/// False for an unknown column. Custom fields become columns at the end of the table, in order of appearance.
 bool setColumns(ReportChoice &choice, const QString &list)
 {
     choice.selected = list.split(QLatin1Char(','));
@@ -71,7 +70,7 @@ bool setColumns(ReportChoice &choice, const QString &list)
     return true;
 }
 
-/// False for what is no whole number. A negative one is beyond every list.
+/// False unless all are whole numbers. Negative ones are out of range for every list.
 bool setRows(ReportChoice &choice, const QString &list)
 {
     std::set<quint64> rows;
@@ -85,8 +84,7 @@ bool setRows(ReportChoice &choice, const QString &list)
     return true;
 }
 
-/// Shows the whole list of the tab, in its own order, with the chosen rows selected. False when one of them
-/// is not there.
+/// Shows the whole list of the tab, unsorted, with the chosen rows selected. False when one is out of range.
 bool showRows(ProjectSession &session, const ReportChoice &choice)
 {
     MyDocument &document = session.document();

@@ -24,8 +24,7 @@ struct SendOptions {
     bool ownOwners = false;
 };
 
-/// Sends as the window does and waits for the end of it. What the window would show stands on standard
-/// error then.
+/// Sends as the window does and waits. What the window would show goes to standard error.
 bool sendAndWait(ProjectSender &sender)
 {
     auto outcome = ProjectSender::Outcome::Failed;

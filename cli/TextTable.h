@@ -8,8 +8,8 @@
 namespace vantrell::cli
 {
 
-/// A table for people: aligned columns on a terminal, tab-separated otherwise. Line breaks and tabs in
-/// cells become blanks.
+/// A table for people: aligned columns on a terminal, tab-separated otherwise. Line breaks and tabs in cells
+/// become spaces.
 class TextTable
 {
 public:

@@ -21,7 +21,7 @@ struct TimecodeOptions {
     std::vector<std::string> values;
 };
 
-/// The options with their numbers read.
+/// The parsed options.
 struct Parameters {
     qint64 timebase = 30;
     quint64 startFrame = 0;
@@ -30,7 +30,7 @@ struct Parameters {
     QString startTimecode;
 };
 
-/// What one subcommand prints for its values; nothing, after a message, when a value is wrong.
+/// The output of one subcommand for its values; nullopt, after a message, when a value is wrong.
 using Printer = std::function<std::optional<QStringList>(const Parameters &, const QStringList &)>;
 
 std::optional<QStringList> formatFrames(const Parameters &p, const QStringList &values)

@@ -1,5 +1,5 @@
-# What Debian builds its programs with: optimised programs check the bounds of the C library's buffers
-# and their own stack, and let nothing write to their tables of functions.
+# Debian's hardening options: optimised programs check the bounds of buffers in C library calls and their own
+# stack, and keep their function tables read-only.
 
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)

@@ -1,5 +1,5 @@
-# Run by cpack between gathering the files and packing them: everybody may enter the folders, whatever
-# the umask of whoever makes the package.
+# Run by cpack between collecting and packing the files: makes all folders accessible to everybody, whatever the
+# umask of the build.
 
 file(CHMOD_RECURSE "${CPACK_TEMPORARY_INSTALL_DIRECTORY}" DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -1,5 +1,4 @@
-# Read by cpack: the files in the package are as old as its changelog says, so that one tree gives one
-# package whenever it is made.
+# Read by cpack: dates the files in the package by its changelog, so that builds are reproducible.
 
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
     execute_process(COMMAND dpkg-parsechangelog "-l${CPACK_VANTRELL_CHANGELOG}" -STimestamp

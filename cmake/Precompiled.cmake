@@ -1,6 +1,6 @@
-# Headers that nearly every file includes are compiled once per build. A target reuses the set that suits it;
-# the sets differ in what they hold and in how their users are compiled (libraries position-independent,
-# programs as such), as the compiler takes a set only with the same options.
+# Headers that nearly every file includes are compiled once per build. A target reuses the set that fits; the sets
+# differ in content and in compiler options (libraries are position-independent, programs are not), as a set can be
+# used only with the options that it was compiled with.
 
 set(vantrell_precompiled_std
     <algorithm> <array> <atomic> <chrono> <condition_variable> <cstdint> <functional> <memory> <mutex> <optional>
@@ -30,7 +30,7 @@ target_compile_options(vantrell_precompiled_json PRIVATE ${VANTRELL_JSON_OPTIMIS
 if(VANTRELL_WINDOW)
     vantrell_precompile(window LIBRARIES Qt6::Widgets HEADERS ${vantrell_precompiled_window})
 endif()
-# Qt Test's header depends on which modules a program is compiled for, so all tests are for the same ones.
+# Qt Test's header depends on the Qt modules of a program, so all tests use the same ones.
 if(BUILD_TESTING)
     vantrell_precompile(test LIBRARIES Qt6::Test Qt6::Network HEADERS ${vantrell_precompiled_core} <QTest>)
     set(test_sets test)

@@ -1,5 +1,5 @@
-# What every target of the house has in common: language level, warnings, strict Qt switches and
-# the sanitizer, on one interface target; and one function each for libraries, programs and tests.
+# What all targets share: language level, warnings, strict Qt switches and the sanitizer, on one interface
+# target; and one function each for libraries, programs and tests.
 
 add_library(vantrell_common INTERFACE)
 target_include_directories(vantrell_common INTERFACE "${PROJECT_SOURCE_DIR}")
@@ -22,8 +22,8 @@ elseif(VANTRELL_SANITIZER STREQUAL "thread")
 else()
     message(FATAL_ERROR "VANTRELL_SANITIZER is \"${VANTRELL_SANITIZER}\"; known are \"\", \"address\" and \"thread\".")
 endif()
-# Tests run for as long as they take to compile: no build spends time on optimising them. Nor does a build for
-# tests alone on the code that JSON and the argument parser make of their templates.
+# Tests take about as long to compile as to run, so no build spends time on optimising them; nor does a build for
+# tests only on the template code of JSON and the argument parser.
 set(VANTRELL_TEST_OPTIMISATION $<$<CONFIG:Release>:-O1>)
 set(VANTRELL_JSON_OPTIMISATION "")
 set(VANTRELL_PARSER_OPTIMISATION -O1)
@@ -35,7 +35,7 @@ if(VANTRELL_SANITIZER_FLAGS)
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
 endif()
 
-# The quicker linker where there is one, for programs that are never shipped.
+# A faster linker, if available, for programs that are never shipped.
 include(CheckLinkerFlag)
 check_linker_flag(CXX -fuse-ld=gold VANTRELL_HAS_GOLD)
 set(VANTRELL_TEST_LINKER "")
@@ -47,8 +47,8 @@ if(VANTRELL_SANITIZER_FLAGS)
 endif()
 
 # vantrell_library(<folder> SOURCES ... [PUBLIC libraries ...] [PRIVATE libraries ...] [PRECOMPILED set])
-# makes the static library vantrell_<folder> from the files of the calling folder. Its set of precompiled
-# headers is `window` where its headers need Qt Widgets, else `core`.
+# makes the static library vantrell_<folder> from the files of the calling folder. It uses the precompiled
+# headers `window` if its headers need Qt Widgets, else `core`.
 function(vantrell_library folder)
     cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     if(NOT ARG_PRECOMPILED)
@@ -66,7 +66,7 @@ function(vantrell_library folder)
 endfunction()
 
 # vantrell_argument_parser(<source>): a file that includes CLI11's header, whose code takes longer to optimise than
-# to run. Compiled by itself.
+# to run. Compiled separately.
 function(vantrell_argument_parser source)
     set_source_files_properties("${source}" PROPERTIES
         COMPILE_OPTIONS ${VANTRELL_PARSER_OPTIMISATION} SKIP_PRECOMPILE_HEADERS ON SKIP_UNITY_BUILD_INCLUSION ON)
@@ -80,8 +80,8 @@ function(vantrell_program name)
     target_link_libraries(${name} PRIVATE vantrell_common ${ARG_LIBRARIES})
 endfunction()
 
-# vantrell_moc(<target> <source> <output>) makes what moc says of the source, for the source to include:
-# quicker than AUTOMOC, which compiles a file more for each target.
+# vantrell_moc(<target> <source> <output>) runs moc on the source, which includes the output: faster than
+# AUTOMOC, which compiles one more file for each target.
 function(vantrell_moc target source output)
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/${target}_moc")
     qt6_generate_moc("${source}" "${folder}/${output}")
@@ -90,11 +90,22 @@ function(vantrell_moc target source output)
 endfunction()
 
 # vantrell_test(<folder> <name> [LIBRARIES ...]) makes the Qt Test program tst_<name> from
-# tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and
-# what LIBRARIES adds. SERIES: it tries random cases, of which tools/series runs more. SECONDS: how long it takes
-# under the thread sanitizer where that is long; such tests start first, so that no processor waits for the last one.
+# tests/<folder>/tst_<name>.cpp and registers it with CTest. It links that folder's library and LIBRARIES.
+# SERIES: it tries random cases, of which tools/series runs more. SECONDS: its duration under the thread
+# sanitizer, if long; such tests start first, so that no processor waits for the last one.
+# A test function that takes longer than 45 seconds, for one row of its data, is hung: Qt Test's watchdog ends the
+# program. LONG doubles that, and a series may take five minutes.
 function(vantrell_test folder name)
-    cmake_parse_arguments(ARG "SERIES" "SECONDS" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "SERIES;LONG" "SECONDS" "LIBRARIES" ${ARGN})
+    set(function_seconds 45)
+    set(program_seconds 300)
+    if(ARG_LONG)
+        set(function_seconds 90)
+    endif()
+    if(ARG_SERIES)
+        set(function_seconds 300)
+        set(program_seconds 900)
+    endif()
     set(set test)
     get_target_property(libraries vantrell_${folder} INTERFACE_LINK_LIBRARIES)
     if("Qt6::Widgets" IN_LIST libraries)
@@ -111,8 +122,8 @@ function(vantrell_test folder name)
         ${ARG_LIBRARIES})
     add_test(NAME ${folder}/${name} COMMAND tst_${name})
     set_tests_properties(${folder}/${name} PROPERTIES
-        TIMEOUT 600
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
+        TIMEOUT ${program_seconds}
+        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=${function_seconds}000;QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
     if(ARG_SECONDS)
         set_tests_properties(${folder}/${name} PROPERTIES COST ${ARG_SECONDS})
     endif()

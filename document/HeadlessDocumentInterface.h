@@ -43,10 +43,7 @@ public:
 
     /// The text that the label was last given; empty before.
     QString label(Label label) const { return m_labels.value(label); }
-    void setSortDescriptors(Tab tab, std::vector<SortDescriptor> sort)
-    {
-        m_sort.insert(tab, std::move(sort));
-    }
+    void setSortDescriptors(Tab tab, const std::vector<SortDescriptor> &sort) { m_sort.insert(tab, sort); }
     const std::vector<double> &mediaChart() const { return m_chart; }
 
 private:

@@ -5,8 +5,8 @@
 namespace vantrell
 {
 
-/// Keys of a row that was read from a marker list or an interchange file. Texts are as they stand in
-/// the file; what a format does not carry is absent.
+/// Keys of a row read from a marker list or an interchange file. Texts are unchanged; what a format lacks is
+/// absent.
 namespace ImportedMarkerKey
 {
 inline const TypedKey<QString> name(u"name");

@@ -18,7 +18,7 @@ namespace vantrell
 namespace
 {
 
-/// The fields with tabs between them, and a line feed.
+/// The fields, separated by tabs, and a line feed.
 void appendLine(QString &text, std::initializer_list<QString> fields)
 {
     bool isFirst = true;

@@ -26,20 +26,20 @@ public:
     {
     }
 
-    /// What the menu's commands begin with: the panel to run, nothing when it was refused.
+    /// The start of a menu command: the panel to run, or nullopt when it was refused.
     std::optional<MarkerListPanel> importFCPMarkers() const;
     std::optional<MarkerListPanel> importAvidLocators() const;
     std::optional<MarkerListPanel> importFCPXMarkers() const;
     std::optional<MarkerListPanel> showMarkerListOpenDialog(const QString &format) const;
 
-    /// The rows of several files, in their order.
+    /// The rows of several files, in order.
     struct Rows {
         RowList rows;
         /// Where each one comes from: the file's name, where there are several files, and the line, counted
         /// from 1; of an interchange file the number of the marker.
         QStringList sources;
     };
-    /// A row that no marker could be made of.
+    /// A row that could not be added as a marker.
     struct Rejected {
         QString source;
         QString name;
@@ -47,31 +47,30 @@ public:
 
         QString text() const;
     };
-    /// How far adding has come.
+    /// The progress of adding.
     struct Progress {
-        std::size_t next = 0;  ///< index of the row that comes next
-        std::size_t added = 0; ///< markers that came of the rows before it
+        std::size_t next = 0;  ///< index of the next row
+        std::size_t added = 0; ///< markers added from the rows before it
         std::vector<Rejected> rejected;
     };
 
-    /// Adds what the files hold, in their order, when the panel was accepted. Files that cannot be read
-    /// or hold no markers are passed over; an alert says when none holds any. Nothing when the panel was not
+    /// Adds the markers of the files, in order, when the panel was accepted. Files that cannot be read or
+    /// have no markers are skipped; an alert tells when none has any. nullopt when the panel was not
     /// accepted.
     std::optional<Progress> markerOpenDialogDidEnd(const QStringList &paths, int returnCode,
                                                    const QString &format) const;
 
-    // markerOpenDialogDidEnd() in its steps, for a window that must not wait for all of it
+    // The steps of markerOpenDialogDidEnd(), for a window that must not block
 
-    /// The rows of one file, with the keys of ImportedMarkerKey; nothing for a list that cannot be read
-    /// and for an unknown format. `lines` as in QVMarkerListParser; empty for an interchange file. Any
-    /// thread.
+    /// The rows of one file, with the keys of ImportedMarkerKey; nullopt for a list that cannot be read and
+    /// for an unknown format. `lines` as in QVMarkerListParser; empty for an interchange file. Any thread.
     static std::optional<RowList> rowsOfFile(const QString &path, const QString &format,
                                              std::vector<std::size_t> *lines = nullptr);
     /// Any thread.
     static Rows rowsOfFiles(const QStringList &paths, const QString &format);
     void tellNothingToImport() const;
-    /// Adds the markers of the rows from `progress` on, until all are there or the time is over, at least
-    /// one. Stops when the document is being closed.
+    /// Adds the markers of the rows from `progress` on until all are added or the time is up, at least one.
+    /// Stops when the document is being closed.
     Progress addMarkers(const Rows &rows, Progress progress,
                         std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
     /// One alert for all rows that were rejected, the first twenty with their sources and reasons; nothing

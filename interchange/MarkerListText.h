@@ -14,19 +14,17 @@ namespace vantrell
 namespace MarkerListText
 {
 
-/// 16-bit Unicode text. The byte-order mark gives the byte order and is no part of the text. Bytes
-/// without a mark are taken for such text only when the second byte is zero, which no UTF-8 list has,
-/// and are then little-endian. An unpaired surrogate stays as it is. Null for anything else and for an
-/// odd number of bytes; never null otherwise.
+/// UTF-16 text. The byte-order mark sets the byte order and is dropped. Bytes without a mark count as UTF-16
+/// only when the second byte is zero, as in no UTF-8 list, and are then little-endian. Unpaired surrogates
+/// are kept. Null for anything else and for an odd number of bytes; never null otherwise.
 QString fromUtf16(const QByteArray &bytes);
 
-/// UTF-8 text; a byte-order mark before it is no part of the text. Null when any byte is not UTF-8,
-/// never null otherwise.
+/// UTF-8 text; a byte-order mark is dropped. Null when any byte is invalid, never null otherwise.
 QString fromUtf8(const QByteArray &bytes);
 
-/// Calls visit(index, line) for each piece between line feeds, or between carriage returns in a text
-/// that has no line feed. The piece after the last one counts too, empty or not; a carriage return
-/// before a line feed stays at the end of its line.
+/// Calls visit(index, line) for each line. Lines are separated by line feeds, or by carriage returns in a
+/// text without line feeds. The part after the last separator is a line too, even if empty; a carriage return
+/// before a line feed stays in its line.
 template <typename Visit>
 void forEachLine(QStringView text, Visit visit)
 {
@@ -39,7 +37,7 @@ void forEachLine(QStringView text, Visit visit)
     }
 }
 
-/// The fields between the tabs of a line; false unless there are exactly as many as there is room for.
+/// Splits a line at its tabs; false unless there are exactly as many fields as the array holds.
 template <std::size_t Count>
 bool splitFields(QStringView line, std::array<QStringView, Count> &fields)
 {

@@ -82,8 +82,8 @@ QString timecodeAt(double position, const TimecodeParameters &parameters)
                                               parameters.dropFrame, parameters.startFrame);
 }
 
-/// The timecode with its hour 0 where it equals the given one, the sum of both where it is less, and
-/// unchanged where it is greater.
+/// The timecode with a new hour: 0 if it equals the given one, the sum of both if it is less, unchanged if
+/// greater.
 QString withRelativeHour(QString timecode, qint64 relativeHour)
 {
     timecode.replace(QLatin1Char(';'), QLatin1Char(':'));

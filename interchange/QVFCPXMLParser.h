@@ -7,9 +7,8 @@
 namespace vantrell
 {
 
-/// Reads the markers of Final Cut Pro X interchange files (root element fcpxml) out of a tree of its
-/// own. Stateless; any thread. Numbers are 0 where a time is missing or is no number, and where a
-/// division gives no finite number.
+/// Reads the markers of Final Cut Pro X interchange files (root element fcpxml). Stateless; any thread. A
+/// missing or malformed time, and a quotient that is not finite, count as 0.
 class QVFCPXMLParser
 {
 public:
@@ -18,14 +17,14 @@ public:
     /// The seconds of a rational time ("1001/30000s", "3600s").
     static double secondsFromTimeString(const QString &time);
 
-    /// Frames a second of a frame duration: denominator by numerator. A plain number stands for itself.
+    /// Frames per second of a frame duration: denominator / numerator. A plain number is returned as it is.
     static double fpsFromFrameDuration(const QString &frameDuration);
 
     /// The numerator of a frame duration; a negative one wraps around.
     static quint64 multiplierFromFrameDuration(const QString &frameDuration);
 
-    /// The frames in a time whose timescale is that of the frame duration with the given numerator:
-    /// the time's numerator divided by it, truncated toward zero. A negative count wraps around.
+    /// The frames in a time with the timescale of the frame duration: the time's numerator divided by the
+    /// given numerator of the frame duration, truncated toward zero. A negative count wraps around.
     static quint64 framesFromTimeString(const QString &time, quint64 frameDuration);
 
     /// The markers of the file in its order, with the keys of ImportedMarkerKey: the name, then the

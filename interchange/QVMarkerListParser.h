@@ -11,19 +11,18 @@
 namespace vantrell
 {
 
-/// Reads the marker lists of other editing systems: text with tabs between the fields of a line and no
-/// quoting of any kind. Stateless; any thread, also on any kind of file. A line with another number of
-/// fields than the format has is passed over. Each operation gives the rows in the file's order
-/// (possibly none), with the keys of ImportedMarkerKey, and nothing when the file cannot be read or is
-/// no text in the format's encoding. What was read goes to the log.
+/// Reads the marker lists of other editing systems: lines of tab-separated fields without quoting. Stateless;
+/// any thread. Lines with a wrong number of fields are skipped. Each operation returns the rows in file order
+/// (possibly none), with the keys of ImportedMarkerKey; nullopt when the file cannot be read or is not text
+/// in the encoding of the format. The result is logged.
 class QVMarkerListParser
 {
 public:
     QVMarkerListParser() = delete;
 
-    /// A Final Cut Pro marker list, UTF-16 or else UTF-8 (see MarkerListText): a header line, whatever
-    /// it holds, then lines of seven fields.
-    /// `lines`, where it is not null, gets the number of each row's line, the first of the file 1.
+    /// A Final Cut Pro marker list, UTF-16 or else UTF-8 (see MarkerListText): a header line, whatever it
+    /// holds, then lines of seven fields. `lines`, if not null, gets the line number of each row, counted
+    /// from 1.
     static std::optional<RowList> fcpMarkerListFromFile(const QString &path,
                                                         std::vector<std::size_t> *lines = nullptr);
 
@@ -31,7 +30,7 @@ public:
     static std::optional<RowList> avidLocatorListFromFile(const QString &path,
                                                           std::vector<std::size_t> *lines = nullptr);
 
-    /// Chapter lists of DVD authoring are not read: always nothing.
+    /// DVD chapter lists are not supported: always nullopt.
     static std::optional<RowList> dvdspChapterListFromFile(const QString &path);
 };
 

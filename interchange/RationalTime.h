@@ -9,7 +9,7 @@ namespace vantrell
 namespace RationalTime
 {
 
-/// Numerator and denominator of a time without its trailing "s", 0 where they are no number.
+/// Numerator and denominator of a time without its trailing "s", 0 if malformed.
 struct Parts {
     int count = 0; ///< 1 for a plain number, 2 for a fraction, 0 for anything else
     double first = 0;
@@ -18,17 +18,17 @@ struct Parts {
 };
 Parts partsOf(const QString &time);
 
-/// The number itself, 0 when it is infinite or no number.
+/// The number itself, 0 when it is not finite.
 double finiteOrZero(double value);
 
-/// The quotient, 0 when it is infinite or no number.
+/// The quotient, 0 when it is not finite.
 double quotient(double dividend, double divisor);
 
-/// Truncated toward zero; a negative number as a signed one of 64 bits. What is beyond 64 bits stays
-/// at the smallest signed or the largest unsigned value; 0 when not finite.
+/// Truncated toward zero; negative numbers go through a signed 64-bit integer. Saturates at the smallest
+/// signed and the largest unsigned value; 0 when not finite.
 quint64 unsignedFromDouble(double value);
 
-/// The same as a signed number throughout.
+/// Truncated toward zero, saturating; 0 when not finite.
 qint64 signedFromDouble(double value);
 
 } // namespace RationalTime

@@ -41,12 +41,12 @@ quint64 countFromDouble(double value)
 {
     if (!std::isfinite(value))
         return 0;
-    // Both steps are exact, so that the conversions below are of whole numbers in range.
+    // Both steps are exact, so the conversions below are of whole numbers in range.
     const double whole = std::fmod(std::trunc(value), kTwoToThe64);
     return whole < 0 ? 0 - quint64(-whole) : quint64(whole);
 }
 
-/// Truncated toward zero; the nearest 64-bit value when beyond one, 0 when not a number.
+/// Truncated toward zero, saturating; 0 when not a number.
 qint64 integerFromDouble(double value)
 {
     if (std::isnan(value))
@@ -75,7 +75,7 @@ QString zeroPrefix(qint64 value)
     return value < 10 ? QStringLiteral("0") : QString();
 }
 
-/// The timecode that shows a count as it stands.
+/// The timecode of a count, without any drop-frame conversion.
 QString displayedTimecode(quint64 count, double fps, QLatin1Char separator)
 {
     const double total = double(count);
@@ -115,7 +115,7 @@ struct SuffixRule {
     QLatin1String replacement;
 };
 
-/// In the order in which they are tried, each on what the one before left.
+/// In the order of application, each to the result of the previous one.
 constexpr std::array<SuffixRule, 8> kSuffixRules{{
     {QLatin1String("...."), QLatin1String("00000000")},
     {QLatin1String("..."), QLatin1String(".000000")},

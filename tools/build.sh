@@ -1,13 +1,13 @@
-# Sourced by ./run, ./test and tools/package, which set `root` to the folder of the project: quiet builds of the presets.
+# Sourced by ./run, ./test and the tools, which set `root` to the folder of the project: quiet builds of the presets.
 
-# Without a folder to keep compiled objects in, the builds go without a cache.
+# Builds without a cache when its folder cannot be created.
 [ -n "${HOME:-}" ] || HOME=$(unset HOME && printf '%s' ~)
 export HOME
 if ! mkdir -p "${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}" 2>/dev/null; then
     export CCACHE_DISABLE=1
 fi
 
-# quietly LOG COMMAND...: runs it with its output added to LOG, and shows the log when it fails.
+# quietly LOG COMMAND...: runs it with its output appended to LOG; prints the log when it fails.
 quietly() {
     local log=$1 status=0
     shift
@@ -17,7 +17,7 @@ quietly() {
 }
 
 # configure PRESET [OPTION...]: sets up build/PRESET; OPTIONs are further arguments for cmake.
-# A build folder that came here with a copied or moved tree starts afresh.
+# A build folder that was copied or moved here with its tree is set up anew.
 configure() {
     local preset=$1 folder="$root/build/$1" fresh=()
     shift
@@ -30,8 +30,8 @@ configure() {
     quietly "$folder/build.log" cmake "${fresh[@]}" -S "$root" --preset "$preset" "$@"
 }
 
-# build PRESET [TARGET...]: builds a configured preset, by default all of it. Reports on standard error how far
-# it is: in place on a terminal, else every half minute.
+# build PRESET [TARGET...]: builds a configured preset, by default all of it. Shows progress on standard error: on
+# one line of a terminal, else every half minute.
 build() {
     local preset=$1 log="$root/build/$1/build.log" builder status=0 waited=0
     shift
@@ -51,7 +51,7 @@ build() {
     return "$status"
 }
 
-# steps_done LOG: the last "[done/all]" in the log of a build.
+# steps_done LOG: the last "[done/all]" in a build log.
 steps_done() {
     local steps
     steps=$(tail -c 4096 -- "$1" | grep -oE '^\[[0-9]+/[0-9]+\]' | tail -n 1)

@@ -1,23 +1,22 @@
-# Sourced by ./run, ./test and tools/package: which Debian packages each purpose needs, and their installation.
+# Sourced by ./run, ./test and the tools: the Debian packages for each purpose, and their installation.
 
-# What building the core, the command line, the desktop program and their tests takes.
+# To build the core, the command line, the desktop program and their tests.
 build_packages=(
     g++ cmake ninja-build pkg-config ccache
     qt6-base-dev libxml2-dev libplist-dev libcli11-dev nlohmann-json3-dev
 )
 
-# What the desktop program takes beyond that to run: its icons, and sessions without an X server.
+# Also, to run the desktop program: its icons, and sessions without an X server.
 window_packages=(libqt6svg6 qt6-wayland)
 
-# What building the plug-in and the program that print takes beyond that, and printing on paper.
+# Also, to build the plug-in and the program that print, and to print on paper.
 print_packages=(qt6-webengine-dev libqpdf-dev cups-client)
 
-# What making the Debian package takes beyond building.
+# Also, to make the Debian package.
 packaging_packages=(dpkg-dev file)
 
-# What checking takes beyond that: the formatter; the parser that the benchmark measures against; the
-# validators of what is installed, of the package and of the manual pages; the shells that complete; a
-# display to start the program on; and what reads PDF files back.
+# Also, to run ./test: the formatter; the parser that the benchmark compares with; validators of the installed
+# files, the package and the manual pages; the shells with completions; a display; and PDF readers.
 check_packages=(
     clang-format libxml2-utils
     appstream desktop-file-utils fakeroot libglib2.0-bin lintian mandoc shared-mime-info
@@ -25,6 +24,9 @@ check_packages=(
     x11-utils xvfb
     poppler-utils
 )
+
+# Also, to run tools/lint.
+lint_packages=(clang-tidy)
 
 # missing_packages NAME...: prints those that are not installed, one a line.
 missing_packages() {
@@ -40,8 +42,7 @@ missing_packages() {
     done
 }
 
-# as_root COMMAND...: runs it with the rights to install; a password is asked for only on a terminal.
-# Fails where there are no such rights.
+# as_root COMMAND...: runs it as root; asks for a password only on a terminal. Fails without the rights.
 as_root() {
     if [ "$(id -u)" = 0 ]; then
         "$@"
@@ -52,13 +53,13 @@ as_root() {
     fi
 }
 
-# apt_get ARGUMENT...: apt-get without questions, its talk on standard error.
+# apt_get ARGUMENT...: apt-get without questions, with its output on standard error.
 apt_get() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 "$@" >&2
 }
 
-# install_packages NAME...: installs what is missing among them; asks no one and fetches nothing
-# when nothing is. Fails with one sentence that names what is missing where it cannot install.
+# install_packages NAME...: installs the missing ones; does nothing when all are installed. On failure prints one
+# sentence that names the missing packages.
 install_packages() {
     local missing reason
     mapfile -t missing < <(missing_packages "$@")

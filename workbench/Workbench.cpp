@@ -34,7 +34,7 @@ bool Workbench::open(const QString &path)
 
 bool Workbench::open(const QString &path, const QString &typeName)
 {
-    // Another program is told the path of a project.
+    // The path of a project is passed to another program.
     const bool isProject = typeName == DocumentType::finalCutProProject;
     const QString told = isProject ? QFileInfo(path).absoluteFilePath() : path;
     return m_document.readFromURL(QUrl::fromLocalFile(told), typeName);

@@ -18,16 +18,16 @@
 namespace vantrell
 {
 
-/// One open project with everything that works on it, and no window: what the command line and the
-/// window both own. Main thread.
+/// One open project with everything that works on it, without a window. The command line and the window each
+/// own one. Main thread.
 class Workbench
 {
 public:
     /// The inventories that a load fills.
     enum class Inventories { All, Markers, None };
 
-    /// The interface outlives the workbench, as do the defaults; without them (null) no setting of the
-    /// user is read or stored.
+    /// The interface and the defaults outlive the workbench; without defaults (null) no user settings are
+    /// read or stored.
     explicit Workbench(DocumentInterface &interface, Inventories inventories = Inventories::All,
                        UserDefaults *defaults = nullptr);
     /// Closes the document first.
@@ -47,15 +47,15 @@ public:
     const MarkerListImporter &markerListImporter() const { return m_markerListImporter; }
     const MarkerListExporter &markerListExporter() const { return m_markerListExporter; }
 
-    /// Starts loading a file; its end is told to the interface. False when the file cannot even be tried.
+    /// Starts loading a file; the interface is told when it ends. False when loading cannot be started.
     bool open(const QString &path);
     /// The same as a document of that type, whatever the file's name.
     bool open(const QString &path, const QString &typeName);
 
-    /// The document type that stands for a file by its name.
+    /// The document type of a file by its name.
     static QString typeNameForPath(const QString &path);
-    /// The same, but a project of the editing application also when that has the file open under another
-    /// name. Waits for the application where one runs, for a minute at most. Any thread.
+    /// The same, but also the type of a project of the editing application when that has the file open under
+    /// another name. Asks a running application and waits for at most a minute. Any thread.
     static QString typeNameToSend(const QString &path);
 
 private:

@@ -14,7 +14,7 @@ namespace vantrell
 namespace
 {
 
-/// The escaped query with its references as the characters that they stand for.
+/// The escaped query with its character references resolved.
 QString unescapedReferences(const QString &escaped)
 {
     QString plain;
@@ -41,7 +41,7 @@ QString unescapedReferences(const QString &escaped)
     return plain;
 }
 
-/// The query as it is evaluated: escaped, its references read back.
+/// The query to evaluate: escaped, then with its references resolved.
 std::shared_ptr<const XmlQuery> escapedQuery(const QString &query)
 {
     return XmlQuery::compiled(QVXMLParser::evaluatedText(query));
@@ -52,7 +52,7 @@ void logQueryError(const QString &error)
     QVLog::appendLog(u"XML parsing error: %@", error);
 }
 
-/// A name or UUID as it is shown: with its percent escapes undone, raw when that fails.
+/// A name or UUID for display: percent-decoded, raw when that fails.
 QString shownText(const QString &raw)
 {
     const QString decoded = XmlText::removingPercentEscapes(raw);
@@ -76,8 +76,8 @@ bool isOpen(const std::optional<QString> &edge)
     return edge == QStringLiteral("-1");
 }
 
-/// The track item's edge itself when it is not inside a transition; otherwise walks over the siblings
-/// that carry it, handing each to \a add, and gives back the edge where the group ends.
+/// The track item's edge itself when it is not inside a transition; otherwise walks over the siblings joined
+/// to it, passes each to \a add, and returns the edge where the group ends.
 template <typename Step, typename Add>
 std::optional<QString> groupEdge(XmlNode item, const XmlQuery &edge, const XmlQuery &joint, Step step,
                                  Add add)

@@ -13,60 +13,59 @@
 namespace vantrell
 {
 
-/// Queries and naming rules for project trees. Stateless; any thread, while nobody edits the tree.
-/// Every operation accepts a null node and then gives back nothing. Nothing means "not found"; an
-/// empty text means that what was found is empty. Nodes come in document order.
+/// Queries and naming rules for project trees. Stateless; any thread, while nobody edits the tree. Every
+/// operation accepts a null node and then returns nothing. An empty optional means "not found"; an empty text
+/// means that a node was found and is empty. Nodes come in document order.
 ///
-/// The operations that take a query first pass it through escapeQueryString(); references that this
-/// puts into the query count as the characters that they stand for.
+/// The operations that take a query first pass it through escapeQueryString(); character references in the
+/// result are resolved before the evaluation.
 class QVXMLParser
 {
 public:
-    /// The string values of all nodes found; nothing when none is.
+    /// The string values of all nodes found; nullopt when there are none.
     static std::optional<QStringList> stringValuesForQuery(const QString &query, XmlNode node);
     static std::optional<QString> stringValueForQuery(const QString &query, XmlNode element);
-    /// The nodes found, empty when none is; nothing on a query error, which is logged.
+    /// The nodes found, possibly none; nullopt on a query error, which is logged.
     static std::optional<XmlNodeList> nodesForQuery(const QString &query, XmlNode element);
     static XmlNode nodeForQuery(const QString &query, XmlNode element);
 
-    /// The element's id, percent-decoded; nothing without an id or when its decoding fails.
+    /// The element's id, percent-decoded; nullopt without an id or when decoding fails.
     static std::optional<QString> idAttributeForNode(XmlNode element);
-    /// The percent-decoded path of a URL; nothing when the text is no valid URL.
+    /// The percent-decoded path of a URL; nullopt when the text is not a valid URL.
     static std::optional<QString> filenameFromPathURLString(const QString &url);
 
-    /// The results of all queries in first-seen order, each node once. Once a query failed, each later
-    /// one logs its error again.
+    /// The results of all queries in first-seen order, each node once. After a query has failed, each later
+    /// one logs that error again.
     static XmlNodeList nodesFromQueries(XmlNode node, const QStringList &queries);
-    /// The results on each node in turn, duplicates kept.
+    /// The results for each node in turn, with duplicates.
     static XmlNodeList queryNodes(const XmlNodeList &nodes, const QString &query);
 
     /// The track item and the neighbours joined to it by transitions, in track order.
     static XmlNodeList affectedNodesForClip(XmlNode trackItem);
-    /// The same; the range that the group covers goes to the arguments that are given, in frames, -1
-    /// when it is open.
+    /// The same. The range of the group, in frames, is stored in the arguments that are not null; -1 when
+    /// open.
     static XmlNodeList affectedNodesForClip(XmlNode trackItem, std::int64_t *rangeStart,
                                             std::int64_t *rangeEnd);
 
-    /// The display name: of the name child, else of the first name at any depth, else the id.
+    /// The display name: the name child, else the first name at any depth, else the id.
     static std::optional<QString> nameForNode(XmlNode element);
     static std::optional<QString> nameForNode(XmlNode element, bool immediateChildOnly);
     static std::optional<QString> uuidForNode(XmlNode element);
     static std::optional<QString> uuidForNode(XmlNode element, bool immediateChildOnly);
 
-    /// The nearest ancestor of that name; the node itself is none.
+    /// The nearest ancestor of that name; never the node itself.
     static XmlNode parentWithName(XmlNode node, std::string_view name);
-    /// The same, but nothing once an ancestor is named by one of the limits.
+    /// The same, but null when an ancestor with one of the limiting names comes first.
     static XmlNode parentWithName(XmlNode node, std::string_view name,
                                   std::initializer_list<std::string_view> limits);
 
-    /// The text with its characters from 160 on as decimal references per UTF-16 unit, "&" and carriage
-    /// returns as references, and units 0 to 19 otherwise dropped and logged.
+    /// Replaces UTF-16 units from 160 on by decimal references, "&" and carriage returns by references; other
+    /// units from 0 to 19 are dropped and logged.
     static QString escapeQueryString(const QString &text);
-    /// The text as the evaluation of a query that holds it sees it: escaped, and its references read back
-    /// as the characters that they stand for.
+    /// The text as a query that contains it is evaluated: escaped, then with its references resolved.
     static QString evaluatedText(const QString &text);
 
-    /// The next node in document order after everything that the node holds.
+    /// The next node in document order after the node's subtree.
     static XmlNode nextSiblingForNode(XmlNode node);
 };
 

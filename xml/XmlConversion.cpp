@@ -35,7 +35,7 @@ XmlConversion::XmlConversion(XmlNode node)
     }
 }
 
-/// The copy remembers the number of its original.
+/// The copy stores the id of its original.
 template <typename Made>
 Made *XmlConversion::keep(XmlNodeId id, Made *made)
 {
@@ -65,7 +65,7 @@ void XmlConversion::convertChildren(XmlNodeId id, xmlNode *copy)
 
 void XmlConversion::convert(XmlNodeId id, xmlNode *parent)
 {
-    // Linked by hand: the library would join texts that stand side by side.
+    // Linked by hand, as the library would merge adjacent text nodes.
     xmlNode *const made = converted(id);
     made->parent = parent;
     made->prev = parent->last;
@@ -80,7 +80,7 @@ void XmlConversion::convert(XmlNodeId id, xmlNode *parent)
     }
 }
 
-/// The node by itself, with its text.
+/// The node without its children.
 xmlNode *XmlConversion::converted(XmlNodeId id)
 {
     const XmlTree::Node &node = m_tree.node(id);
@@ -121,7 +121,7 @@ void XmlConversion::convertAttributes(XmlNodeId id, xmlNode *copy)
     }
 }
 
-/// Null for a name in none.
+/// Null for a name without a namespace.
 xmlNs *XmlConversion::namespaceOf(XmlNameId name, xmlNode *element)
 {
     const std::uint32_t uri = m_tree.name(name).uri;

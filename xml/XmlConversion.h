@@ -1,6 +1,6 @@
 #pragma once
 
-// For use inside xml/ only: it speaks the XML library's types.
+// For use inside xml/ only: it uses the XML library's types.
 
 #include "xml/XmlTree.h"
 
@@ -11,8 +11,8 @@
 namespace vantrell
 {
 
-/// A copy in the XML library's terms of everything that hangs together with a node, for evaluations that need
-/// the library. Throws std::bad_alloc.
+/// A copy of the whole tree of a node in the XML library's types, for evaluations by the library. Throws
+/// std::bad_alloc.
 class XmlConversion
 {
 public:
@@ -21,7 +21,7 @@ public:
     xmlDoc *document() const { return m_document.get(); }
     /// The copy of the node.
     xmlNode *node() const { return m_node; }
-    /// The node that the library's is a copy of; null for one that is none.
+    /// The original of a copied node; null when it is not a copy.
     XmlNode original(const xmlNode *copy) const;
 
 private:

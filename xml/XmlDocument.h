@@ -17,26 +17,25 @@ namespace vantrell
 
 class XmlTree;
 
-/// One tree and everything that was ever part of it. Elements that are removed, and copies that are not
-/// used, are kept out of the tree until the document dies: records, menus and caches may go on pointing at
-/// them, and edits on them do no harm. Not thread-safe: several threads may read while none edits. Where
-/// memory runs out, edits throw std::bad_alloc; loading and saving fail.
+/// One tree and everything that was ever part of it. Removed elements and unused copies are kept outside the
+/// tree until the document is destroyed, so that records, menus and caches may still refer to them, and
+/// editing them does no harm. Not thread-safe: several threads may read while none edits. Without memory,
+/// edits throw std::bad_alloc; loading and saving fail.
 class XmlDocument
 {
 public:
     struct LoadOptions {
-        /// Repair what is malformed instead of refusing it.
+        /// Repair malformed input instead of refusing it.
         bool tolerant = true;
-        /// Looked at while parsing; true ends it with a failure. May be null.
+        /// Polled while parsing; setting it ends the parse with a failure. May be null.
         const std::atomic<bool> *cancelled = nullptr;
     };
 
-    /// What stands between the elements of a written tree: line ends and two blanks for each level, or
-    /// nothing.
+    /// White space between written elements: a line end and two blanks per level, or none.
     enum class Layout { Indented, Compact };
 
-    /// Reads a file as it is at the moment of opening; it is never written or mapped. The failure says
-    /// what is wrong with it: missing, a folder, empty, no XML, no root element, nested too deeply.
+    /// Reads a file as of the moment it is opened; the file is neither written nor mapped. The failure tells
+    /// what is wrong: missing, a folder, empty, not XML, no root element, nested too deeply.
     static Result<std::unique_ptr<XmlDocument>> fromFile(const QString &path, const LoadOptions &options);
     static Result<std::unique_ptr<XmlDocument>> fromData(const QByteArray &data, const LoadOptions &options);
 
@@ -44,49 +43,48 @@ public:
     XmlDocument(const XmlDocument &) = delete;
     XmlDocument &operator=(const XmlDocument &) = delete;
 
-    /// The document node, the context of queries on the whole tree; and its root element.
+    /// The document node, which is the context for queries on the whole tree; and the root element.
     XmlNode node() const;
     XmlNode rootElement() const;
 
     /// Whether the input was malformed and had to be repaired, and the first fault found in it.
     bool wasRepaired() const { return m_repaired; }
     const QString &firstFault() const { return m_firstFault; }
-    /// How much of a malformed input is missing from the tree, as a sentence; empty when all of it is there.
+    /// How much of a malformed input is missing from the tree, as a sentence; empty when nothing is.
     const QString &loss() const { return m_loss; }
 
-    /// The declared encoding, empty when there is none. One that is set is declared and written from then on.
+    /// The declared encoding, or empty. Setting one declares it and writes in it from then on.
     QByteArray encoding() const;
     void setEncoding(const QByteArray &encoding);
 
-    /// Writes the tree in its declared encoding (UTF-8 when it has none), whole or not at all. Nothing
-    /// may change the tree meanwhile. Once `cancelled` is set (null for never) writing fails. Any thread.
+    /// Writes the tree in its declared encoding, else UTF-8; save() replaces the file atomically. The tree
+    /// must not change meanwhile. Fails once `cancelled` (may be null) is set. Any thread.
     Result<void> save(const QString &path, const std::atomic<bool> *cancelled = nullptr,
                       Layout layout = Layout::Indented) const;
     Result<void> write(QIODevice &device, const std::atomic<bool> *cancelled = nullptr,
                        Layout layout = Layout::Indented) const;
     /// Indented, in UTF-8 whatever the declared encoding is.
     Result<void> writeUtf8(QIODevice &device, const std::atomic<bool> *cancelled = nullptr) const;
-    /// The element as XML text, without a declaration and without added white space.
+    /// The element as XML text, without a declaration or added white space.
     static QString textOfElement(XmlNode element);
 
-    /// Parses the text of one element; well-formed text only. The element belongs to this document and
-    /// stands outside its tree until it is appended somewhere. The failure is the parser's description.
+    /// Parses the text of one element, which must be well-formed. The element belongs to this document and
+    /// stays outside its tree until it is appended. The failure is the parser's description.
     Result<XmlNode> elementFromText(const QString &xml);
-    /// A deep copy of the element, standing outside the tree.
+    /// A deep copy of the element, outside the tree.
     XmlNode copyOfElement(XmlNode element);
 
-    /// Takes the element out of the tree and keeps it. Nothing happens to one that is out already.
+    /// Takes the element out of the tree and keeps it. No effect on one outside the tree.
     void remove(XmlNode element);
-    /// Makes the element the last child of the parent, wherever it was before. False, and nothing
-    /// changed, when either is missing or the parent lies inside the element.
+    /// Moves the element, in the tree or not, to the end of the parent. False, and no change, when either is
+    /// null or the parent is inside the element.
     bool moveTo(XmlNode element, XmlNode parent);
 
-    /// Counts the changes to elements of the document, so that what was read before can be told from
-    /// what holds now.
+    /// Counts the changes to elements of the document, so that caches can tell whether they are outdated.
     std::uint64_t revision() const { return m_revision; }
     void noteChange() { ++m_revision; }
 
-    /// The document that the node belongs to, in its tree or outside; null for a null handle.
+    /// The document that owns the node, inside its tree or outside; null for a null handle.
     static XmlDocument *owning(XmlNode node);
 
 private:

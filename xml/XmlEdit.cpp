@@ -15,7 +15,7 @@ namespace
 
 using Kind = XmlTree::Kind;
 
-/// The tree that the node is part of. Handles only read; whoever may edit has a way to the document.
+/// The tree of the node, for writing. Handles are read-only; edits go through the document.
 XmlTree &treeOf(XmlNode node)
 {
     return const_cast<XmlTree &>(*node.tree());

@@ -12,14 +12,14 @@ namespace vantrell
 namespace XmlEdit
 {
 
-/// Makes the text all that the element holds. Elements that it held are kept outside the tree.
+/// Replaces the element's content by the text. Child elements are kept outside the tree.
 void setText(XmlNode element, const QString &text);
 
-/// Appends a new element of that name with that text as the parent's last child; null without a parent
-/// or when the name is none that XML allows.
+/// Appends a new element of that name with that text as the parent's last child; null without a parent or
+/// when XML does not allow the name.
 XmlNode appendElement(XmlNode parent, const QString &name, const QString &text);
 
-/// Makes the one attribute all that the element has.
+/// Replaces all of the element's attributes by this one.
 void setOnlyAttribute(XmlNode element, const QString &name, const QString &value);
 
 } // namespace XmlEdit

@@ -27,7 +27,7 @@ Result<void> outcome(XmlOutput &output, const QIODevice &device)
     return Failure{device.errorString()};
 }
 
-/// The new text of a child; null when it keeps what it holds.
+/// The new text of a child; null when its content stays.
 const QString *newTextOf(XmlNode child, const Changes &changes)
 {
     for (const auto &[node, text] : changes.texts) {

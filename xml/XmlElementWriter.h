@@ -14,9 +14,9 @@ class QIODevice;
 namespace vantrell
 {
 
-/// Writes elements as XML text: UTF-8, without a declaration and without added white space. Nothing is
-/// copied but what is written differently, and the tree is only read. Any thread, while nobody edits the
-/// tree. Once `cancelled` is set (null for never) writing fails, as it does when the device does.
+/// Writes elements as XML text: UTF-8, without a declaration or added white space. Only what is written
+/// differently is copied; the tree is read-only. Any thread, while nobody edits the tree. Fails when the
+/// device fails and once `cancelled` (may be null) is set.
 namespace XmlElementWriter
 {
 
@@ -24,7 +24,7 @@ namespace XmlElementWriter
 struct Changes {
     QString attribute; ///< name of its only attribute
     QString value;
-    /// Children of the element, null ones passed over, and the text that is all that each then holds.
+    /// Children of the element, null ones ignored, and the text that replaces the content of each.
     std::vector<std::pair<XmlNode, QString>> texts;
 };
 

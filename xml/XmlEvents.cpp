@@ -13,8 +13,8 @@ namespace
 {
 
 constexpr std::size_t eventBlockSize = std::size_t(1) << 17;
-constexpr std::size_t firstBlockSize = std::size_t(1) << 12; // it grows: most texts are small
-constexpr std::size_t mostFilled = 8;                        // then the parser waits
+constexpr std::size_t firstBlockSize = std::size_t(1) << 12; // grows, as most texts are small
+constexpr std::size_t mostFilled = 8;                        // blocks; then the parser waits
 
 } // namespace
 
@@ -36,7 +36,7 @@ XmlEvents::~XmlEvents()
         m_thread.join();
 }
 
-/// Makes the block one that has that much room.
+/// Makes room for that many bytes in the block.
 void XmlEvents::nextBlock(std::size_t size)
 {
     const bool grows = m_block.size() < eventBlockSize && m_used + size <= eventBlockSize;
@@ -49,7 +49,7 @@ void XmlEvents::nextBlock(std::size_t size)
         m_block.resize(std::max(size, eventBlockSize));
 }
 
-/// Hands the block to the thread; the next one may have another size, none included.
+/// Passes the block to the thread; the next one may have another size, also 0.
 void XmlEvents::handOver()
 {
     if (!m_thread.joinable() && !m_hasNoThread) {

@@ -17,15 +17,15 @@
 namespace vantrell
 {
 
-/// Hands what a parser finds to the builder of a tree, which works on a thread of its own: parsing takes
-/// about as long as building. Events are gathered in blocks; inputs of less than a block, and systems that
-/// have no thread to give, do without one. Its functions are for the parser's thread and throw std::bad_alloc
+/// Passes what a parser finds to the builder of a tree, which works on a thread of its own: parsing takes
+/// about as long as building. Events are gathered in blocks; inputs of less than a block are built without a
+/// thread, as are all when none can be started. To be called on the parser's thread; throws std::bad_alloc
 /// when the builder did.
 class XmlEvents
 {
 public:
     explicit XmlEvents(XmlTreeBuilder &builder);
-    /// Ends the thread.
+    /// Joins the thread.
     ~XmlEvents();
     XmlEvents(const XmlEvents &) = delete;
     XmlEvents &operator=(const XmlEvents &) = delete;
@@ -43,7 +43,7 @@ public:
     void addDoctype() { add(Kind::Doctype, 0); }
     void keepSpace() { add(Kind::KeepSpace, 0); }
 
-    /// Returns when the builder has been told everything.
+    /// Waits until the builder has processed all events.
     void finish();
 
 private:
@@ -62,7 +62,7 @@ private:
         KeepSpace,
     };
 
-    /// A kind with a name or a flag; the length of the text follows where there is one, and the text.
+    /// A kind with a name or a flag; a text follows with its length in front, where the kind has one.
     struct Event {
         std::uint32_t number : 28;
         std::uint32_t kind : 4;
@@ -84,7 +84,7 @@ private:
         std::memcpy(to + sizeof event, &size, sizeof size);
         std::memcpy(to + sizeof event + sizeof size, text.data(), text.size());
     }
-    /// Where so many bytes go.
+    /// Reserves that many bytes of the block.
     char *room(std::size_t size)
     {
         if (m_used + size > m_block.size())
@@ -105,17 +105,17 @@ private:
     };
 
     XmlTreeBuilder &m_builder;
-    Block m_block;          // what events are added to
-    std::size_t m_used = 0; // bytes of it
+    Block m_block;          // the block that events are added to
+    std::size_t m_used = 0; // used bytes of it
     std::thread m_thread;
     bool m_hasNoThread = false;
     std::atomic<bool> m_failed = false;
 
-    std::mutex m_mutex; // guards everything below
+    std::mutex m_mutex; // guards all members below
     std::condition_variable m_changed;
     std::deque<Filled> m_filled;
     std::vector<Block> m_spare;
-    bool m_isWorking = false; // on a block that is no longer among the filled ones
+    bool m_isWorking = false; // on a block taken from the filled ones
     bool m_ended = false;
 };
 

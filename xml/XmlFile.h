@@ -10,8 +10,8 @@
 namespace vantrell
 {
 
-/// A file opened for one sequential read of what it held when it was opened: bytes that another program
-/// appends meanwhile are not part of it, and one that shrinks or goes away ends early.
+/// A file opened for one sequential read of the size that it had then: bytes that another program appends are
+/// ignored; a file that shrinks ends early.
 class XmlFile
 {
 public:
@@ -24,7 +24,7 @@ public:
     /// Up to \a length bytes; 0 at the end, -1 on a failed read.
     int read(char *buffer, int length);
 
-    /// Bytes when it was opened; -1 for what has no size, such as a pipe.
+    /// Bytes when it was opened; -1 without a size, as for a pipe.
     long long size() const { return m_size; }
 
 private:
@@ -32,7 +32,7 @@ private:
 
     int m_descriptor = -1;
     long long m_size = -1;
-    long long m_remaining = -1; ///< bytes; -1 for what has no size, such as a pipe
+    long long m_remaining = -1; ///< bytes; -1 without a size, as for a pipe
 };
 
 } // namespace vantrell

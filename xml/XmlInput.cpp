@@ -14,15 +14,15 @@ namespace
 {
 
 constexpr std::size_t inputBlockSize = std::size_t(1) << 18;
-constexpr std::size_t declarationSize = 4096; // at least so much is looked at for the declaration
+constexpr std::size_t declarationSize = 4096; // bytes searched for the declaration, at least
 
-/// What the first bytes say of the encoding.
+/// What the first bytes tell about the encoding.
 struct Signature {
     std::string_view bytes;
     const char *encoding;
     int unit;            ///< bytes
-    std::size_t skipped; ///< bytes of a mark that is no text
-    bool isOfMany;       ///< whether it only tells a family of encodings, of which the declaration names one
+    std::size_t skipped; ///< bytes of the byte-order mark
+    bool isOfMany;       ///< whether it tells only a family of encodings, which the declaration narrows down
 };
 
 using namespace std::string_view_literals;
@@ -94,7 +94,7 @@ QByteArray declaredEncodingOf(std::string_view text)
     return {};
 }
 
-/// The bytes of the smallest part of a character in the encoding of that name.
+/// The size of a code unit of the encoding, in bytes.
 int unitOf(const QByteArray &upperName)
 {
     if (upperName.contains("UTF-16") || upperName.contains("UTF16") || upperName.contains("UCS-2"))
@@ -102,8 +102,8 @@ int unitOf(const QByteArray &upperName)
     return upperName.contains("UTF-32") || upperName.contains("UTF32") || upperName.contains("UCS-4") ? 4 : 1;
 }
 
-/// Whether the byte is of a character beyond ASCII or a control character. Without branches, so that it
-/// runs on vectors.
+/// Whether the byte belongs to a character beyond ASCII or is a control character. Free of branches, so that
+/// the compiler can vectorise it.
 unsigned char needsLook(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
@@ -128,7 +128,7 @@ const char *firstToLookAt(const char *at, const char *end)
     return at;
 }
 
-/// Line ends in the text. In groups so small that their number fits into a byte, so that it runs on vectors.
+/// Counts line ends, in groups whose count fits into a byte, so that the compiler can vectorise it.
 std::int64_t lineEnds(std::string_view text)
 {
     constexpr std::size_t group = 128;
@@ -145,11 +145,11 @@ std::int64_t lineEnds(std::string_view text)
 struct Character {
     std::size_t length = 1; ///< bytes
     char32_t code = 0;
-    bool isValid = false;  ///< whether the bytes stand for a character
+    bool isValid = false;  ///< whether the bytes encode a character
     bool isCutOff = false; ///< whether more bytes are needed to tell
 };
 
-/// The character that the bytes, of which there is one at least, start with. What is none is one byte long.
+/// The character at the start of the bytes, of which there is at least one. An invalid one is one byte long.
 Character characterAt(std::string_view bytes)
 {
     const auto byte = [&bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
@@ -275,7 +275,7 @@ bool XmlInput::fill()
     m_block.text.assign(m_rest.begin(), m_rest.end());
     m_rest.clear();
     m_handedOut = 0;
-    // A small text takes no large block.
+    // A small text needs no large block.
     const std::size_t size =
         m_source.size < 0 ? inputBlockSize : std::min(inputBlockSize, std::size_t(m_source.size) + 1);
     const std::size_t missing = size - std::min(size, m_raw.size());
@@ -292,7 +292,7 @@ bool XmlInput::fill()
     return !m_unreadable;
 }
 
-/// Reads about so many bytes, more than the start of the text at the first time. Their number; 0 at the end.
+/// Reads about that many bytes, the first time more than the start of the text. Their number; 0 at the end.
 std::size_t XmlInput::readSource(std::size_t wanted)
 {
     const std::size_t before = m_raw.size();
@@ -332,7 +332,7 @@ void XmlInput::chooseEncoding()
     if (!isUtf8 && (isOfMany ? unitOf(upper) > 1 : unitOf(upper) != known->unit || known->unit == 1)) {
         addFault({}, QStringLiteral("Document labelled %1 but has %2 content")
                          .arg(QString::fromLatin1(declared), m_encodingName));
-        m_declared = unitOf(upper) > 1 ? declared : QByteArray(); // other encodings may lack what is in it
+        m_declared = unitOf(upper) > 1 ? declared : QByteArray(); // others may lack some of the characters
         return;
     }
     m_declared = declared;
@@ -373,13 +373,13 @@ std::vector<char> XmlInput::startOfText(const std::string &encoding, int unit)
     if (!setDecoder(encoding, unit) || !m_decoder)
         return start;
     std::vector<char> text;
-    std::size_t place = 0;
-    m_decoder->convert(start, place, text, false);
+    std::size_t offset = 0;
+    m_decoder->convert(start, offset, text, false);
     setDecoder(encoding, unit); // without what it remembers
     return text;
 }
 
-/// Moves what was read to the block, as far as it is whole characters.
+/// Moves the whole characters that were read to the block.
 void XmlInput::decode(bool atEnd)
 {
     if (!m_decoder) {
@@ -403,8 +403,8 @@ void XmlInput::decode(bool atEnd)
     keepValid(atEnd);
 }
 
-/// Leaves out of the block what is no character or none that XML allows. The start of a character at its end
-/// waits for the next block.
+/// Drops from the block invalid bytes and characters that XML forbids. An incomplete character at its end is
+/// kept for the next block.
 void XmlInput::keepValid(bool atEnd)
 {
     std::vector<char> &text = m_block.text;
@@ -450,7 +450,7 @@ void XmlInput::keepValid(bool atEnd)
     m_line += lineEnds({text.data(), text.size()});
 }
 
-/// The first one is what counts. \a before: what of the block stands before the fault.
+/// Only the first fault is kept. \a before: the part of the block before the fault.
 void XmlInput::addFault(std::string_view before, const QString &text)
 {
     if (m_fault.isEmpty()) {

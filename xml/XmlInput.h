@@ -16,21 +16,20 @@
 namespace vantrell
 {
 
-/// Where the bytes of a project come from.
+/// The source of the bytes of a project.
 struct XmlSource {
     /// Fills the buffer with up to the given number of bytes; 0 at the end, -1 on a failed read.
     std::function<int(char *, int)> read;
-    std::int64_t size = -1; ///< bytes; -1 when it is not known
+    std::int64_t size = -1; ///< bytes; -1 when unknown
 };
 
-/// The text of an XML file as UTF-8 that any parser takes: decoded from what the file is encoded in, and
-/// without the characters that XML forbids and the bytes that stand for none, each of which is left out by
-/// itself. The encoding is the one of the byte-order mark or of the first bytes, else the declared one,
-/// else UTF-8. One thread.
+/// The text of an XML file as valid UTF-8, without characters that XML forbids and without invalid bytes;
+/// each is dropped by itself. The encoding is that of the byte-order mark or of the first bytes, else the
+/// declared one, else UTF-8. One thread.
 class XmlInput
 {
 public:
-    /// \a stopsAtFaults ends the text at the first fault. `cancelled`, which may be null, ends it too.
+    /// \a stopsAtFaults ends the text at the first fault. `cancelled` (may be null) ends it too.
     XmlInput(const XmlSource &source, bool stopsAtFaults, const std::atomic<bool> *cancelled);
     ~XmlInput();
     XmlInput(const XmlInput &) = delete;
@@ -41,13 +40,13 @@ public:
 
     bool failed() const { return m_failed; } ///< the source did
     bool wasCancelled() const { return m_cancelled; }
-    /// The encoding that the XML declaration names, as it is written there; empty without one, and when the
-    /// text is in another one that may have more characters.
+    /// The encoding named by the XML declaration, as written; empty without one, and when the text is in
+    /// another encoding that may have more characters.
     const QByteArray &declaredEncoding() const { return m_declared; }
     /// The first fault and its line; empty when there was none.
     const QString &fault() const { return m_fault; }
     std::int64_t faultLine() const { return m_faultLine; }
-    /// The text cannot be decoded at all.
+    /// Whether the text cannot be decoded at all.
     bool isUnreadable() const { return m_unreadable; }
 
     /// How many bytes of the source the first so many bytes of the text came from, as nearly as the blocks
@@ -55,9 +54,9 @@ public:
     std::int64_t sourceOffset(std::int64_t textOffset) const;
     /// Reads on to the end, and counts the start tags from that offset of the text on.
     std::int64_t startTagsFrom(std::int64_t textOffset);
-    /// Whether the text, of which all was read, ends with those bytes, white space apart.
+    /// Whether the text, apart from white space, ends with those bytes; after all of it was read.
     bool endsWith(std::string_view end) const;
-    /// Bytes of the source that were read so far.
+    /// Bytes of the source read so far.
     std::int64_t bytesRead() const { return m_sourceEnd; }
 
 private:
@@ -88,13 +87,13 @@ private:
     const XmlSource &m_source;
     const bool m_stopsAtFaults;
     const std::atomic<bool> *m_cancel;
-    std::vector<char> m_raw;            // what was read and not decoded yet
+    std::vector<char> m_raw;            // read but not decoded yet
     Block m_block;                      // what read() hands out
     Block m_lastBlock;                  // the one before that was not empty
     std::vector<Place> m_places;        // of all blocks so far
     std::size_t m_handedOut = 0;        // bytes of the block
-    std::string m_rest;                 // the start of a character at the end of the block
-    std::unique_ptr<Decoder> m_decoder; // none for UTF-8
+    std::string m_rest;                 // an incomplete character at the end of the block
+    std::unique_ptr<Decoder> m_decoder; // null for UTF-8
     std::int64_t m_sourceEnd = 0;
     std::int64_t m_blockSourceEnd = 0; // what the block came from
     std::int64_t m_line = 1;           // where the block ends

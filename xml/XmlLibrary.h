@@ -9,12 +9,12 @@
 namespace vantrell::XmlLibrary
 {
 
-/// How the XML library hands over an error: newer versions as a constant.
+/// How the XML library passes an error; const in newer versions.
 using ErrorPointer = std::conditional_t<std::is_invocable_v<xmlStructuredErrorFunc, void *, const xmlError *>,
                                         const xmlError *, xmlError *>;
 
-/// Must come before a thread's first use of the library. From then on the library writes nothing to standard
-/// error by itself in that thread. Any thread, any number of times.
+/// To be called before a thread first uses the library. From then on the library writes nothing to standard
+/// error in that thread. Any thread, any number of times.
 void prepare();
 
 } // namespace vantrell::XmlLibrary

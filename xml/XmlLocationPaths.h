@@ -10,7 +10,7 @@ namespace vantrell
 {
 
 /// Location paths of many elements of a tree that nobody edits meanwhile. The children of an element are
-/// counted once, whatever number of them is asked for. One thread.
+/// counted only once. One thread.
 class XmlLocationPaths
 {
 public:
@@ -20,8 +20,8 @@ public:
 private:
     int indexOf(XmlNode element);
 
-    std::unordered_map<XmlNode, QString> m_parents; // paths of elements that were asked for as parents
-    std::unordered_map<XmlNode, int> m_indexes;     // of the children of those
+    std::unordered_map<XmlNode, QString> m_parents; // paths of elements used as parents
+    std::unordered_map<XmlNode, int> m_indexes;     // of their children
 };
 
 } // namespace vantrell

@@ -13,7 +13,7 @@ XmlNameId XmlNames::idOf(const Raw &raw)
 {
     if (raw.prefix || raw.uri)
         return interned(raw);
-    // Parsers keep each name once, so that most have the address that they had before.
+    // Parsers keep each name once, so most names come with an address seen before.
     const auto address = reinterpret_cast<std::uintptr_t>(raw.local);
     Known &known = m_known[(address ^ address >> 10) % m_known.size()];
     if (known.local != raw.local || std::strcmp(known.text, reinterpret_cast<const char *>(raw.local)) != 0) {
@@ -25,7 +25,7 @@ XmlNameId XmlNames::idOf(const Raw &raw)
 
 XmlNameId XmlNames::interned(const Raw &raw)
 {
-    // A prefix that nothing declares is a part of the name.
+    // An undeclared prefix is part of the name.
     if (raw.prefix && !raw.uri) {
         const std::string name = std::string(viewOf(raw.prefix)) + ':' + std::string(viewOf(raw.local));
         return m_tree.intern({}, name, {});

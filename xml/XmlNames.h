@@ -12,8 +12,8 @@
 namespace vantrell
 {
 
-/// The names of a tree that is being parsed. While it is built no other part of it is touched, so that this
-/// may be on another thread than the builder.
+/// The names of a tree that is being parsed. It touches no other part of the tree, so it may run on another
+/// thread than the builder.
 class XmlNames
 {
 public:
@@ -31,11 +31,11 @@ public:
     }
 
     XmlNameId idOf(const Raw &raw);
-    /// A name in no namespace.
+    /// A name without a namespace.
     XmlNameId idOf(std::string_view name) { return m_tree.intern({}, name, {}); }
 
 private:
-    /// A name met before, by its address; its content is compared all the same.
+    /// A known name by its address; the content is compared as well.
     struct Known {
         const unsigned char *local = nullptr;
         const char *text = "";

@@ -13,7 +13,7 @@ namespace
 
 using Kind = XmlTree::Kind;
 
-/// The node behind the handle; for a null handle one of no kind that has anything.
+/// The node of the handle; for a null handle an empty one of no kind.
 const XmlTree::Node &nodeOf(XmlNode handle)
 {
     static constexpr XmlTree::Node none = {0, 0, 0, {0}, 0, 0, std::uint32_t(Kind::Doctype)};

@@ -25,7 +25,7 @@ QByteArray bytesOf(const xmlChar *text)
     return QByteArray(reinterpret_cast<const char *>(text));
 }
 
-/// Follows the parser through a text, reached from its callbacks through its private pointer.
+/// Follows the parser through a text; the parser's callbacks reach it through their private pointer.
 class OutlineBuilder
 {
 public:
@@ -163,7 +163,7 @@ private:
     const int m_levels;
     qsizetype m_read = 0;
     int m_depth = 0;
-    std::vector<std::size_t> m_open; ///< of those in the outline, their indices
+    std::vector<std::size_t> m_open; ///< indexes of the open elements in the outline
     XmlOutline m_outline;
     bool m_isOtherEncoding = false;
     QString m_fault;

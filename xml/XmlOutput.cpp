@@ -12,7 +12,7 @@ namespace
 
 const iconv_t noConverter = iconv_t(-1);
 
-/// The character that well-formed UTF-8 starts with, and its length.
+/// The first character of valid UTF-8, and its length in bytes.
 char32_t firstCharacter(const char *utf8, std::size_t &length)
 {
     const auto first = static_cast<unsigned char>(*utf8);
@@ -52,7 +52,7 @@ bool XmlOutput::setEncoding(const QByteArray &name)
     return m_converter != noConverter;
 }
 
-/// Whether the characters of markup are what they are in ASCII, so that a parser finds the declaration.
+/// Whether markup is encoded as in ASCII, so that a parser finds the declaration.
 bool XmlOutput::keepsMarkup()
 {
     std::string markup = "<?xml version=\"1.0\" encoding='AZaz09._-'?>\n<!DOCTYPE a:b[]><a/>&#38;";
@@ -80,7 +80,7 @@ bool XmlOutput::flush()
     return !m_failed;
 }
 
-/// Text is handed over between whole characters only.
+/// Text is passed on in whole characters only.
 void XmlOutput::convert()
 {
     char *in = m_text.data();

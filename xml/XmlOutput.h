@@ -15,9 +15,8 @@ class QIODevice;
 namespace vantrell
 {
 
-/// Text on its way to a device: gathered, and converted to an encoding, in which characters that it lacks
-/// are written as references. After a failure, which may be that of the device, or the cancel flag, nothing
-/// more is written. One thread.
+/// Buffered text output to a device, converted to an encoding; characters that the encoding lacks are written
+/// as references. Nothing more is written after a failure or once cancelled. One thread.
 class XmlOutput
 {
 public:
@@ -27,8 +26,8 @@ public:
     XmlOutput(const XmlOutput &) = delete;
     XmlOutput &operator=(const XmlOutput &) = delete;
 
-    /// Turns to that encoding, before anything is written; false, and UTF-8 it is, when there is none such
-    /// or none that a parser would recognise.
+    /// Selects the encoding, before anything is written. False, and UTF-8 is kept, when it is unknown or no
+    /// parser would recognise it.
     bool setEncoding(const QByteArray &name);
 
     void write(std::string_view utf8)
@@ -39,7 +38,7 @@ public:
     }
     void write(char ascii) { m_text += ascii; }
 
-    /// Hands over what was gathered. Whether all went well so far.
+    /// Flushes the buffer. False after any failure so far.
     bool flush();
     bool hasFailed() const { return m_failed; }
 
@@ -52,7 +51,7 @@ private:
 
     QIODevice &m_device;
     const std::atomic<bool> *m_cancelled;
-    std::string m_text;      // UTF-8, not handed over yet
+    std::string m_text;      // UTF-8, not passed on yet
     std::string m_converted; // the same in another encoding
     iconv_t m_converter;
     bool m_failed = false;

@@ -37,8 +37,9 @@ bool isXmlTarget(std::string_view target)
            (target[2] | 0x20) == 'l';
 }
 
-/// One parse: what the parser's callbacks, which reach it through the parser's private pointer, hand to the
-/// builder of the tree. The library builds a document of its own as well, that holds the DTD alone.
+/// One parse: passes what the parser's callbacks report to the builder of the tree; the callbacks reach it
+/// through the parser's private pointer. The library also builds a document of its own, with nothing but the
+/// DTD.
 class Parse
 {
 public:
@@ -99,7 +100,7 @@ private:
     static xmlParserCtxt *contextOf(void *context) { return static_cast<xmlParserCtxt *>(context); }
     static Parse *of(void *context) { return static_cast<Parse *>(contextOf(context)->_private); }
 
-    /// Runs what a callback does; no exception may pass through the library.
+    /// Runs the body of a callback; no exception may pass through the library.
     template <typename Action>
     void guard(const Action &action)
     {
@@ -132,7 +133,7 @@ private:
         self->guard([&] { self->m_events.addDoctype(); });
     }
 
-    /// Comes when the internal subset has been read. There is no external one: nothing is fetched.
+    /// Called after the internal subset. There is no external one: nothing is fetched.
     static void externalSubset(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
         of(context)->m_inSubset = false;
@@ -186,7 +187,7 @@ private:
             self->guard([&] { self->onInstruction(viewOf(target), data); });
     }
 
-    /// A reference to an entity that nothing declares: it is left out, what stands beside it is text.
+    /// A reference to an undeclared entity is dropped; the white space around it is data.
     static void reference(void *context, const xmlChar *)
     {
         Parse *const self = of(context);
@@ -266,7 +267,7 @@ private:
             m_events.addNamespace(m_names.idOf(viewOf(namespaceList[2 * i])),
                                   viewOf(namespaceList[2 * i + 1]));
         for (int i = 0; i < attributes; ++i) {
-            // Local name, prefix, URI, begin and end of the value.
+            // Five pointers each: local name, prefix, URI, begin and end of the value.
             const xmlChar **const parts = attributeList + std::ptrdiff_t(5) * i;
             const std::string_view value = viewOf(parts[3], parts[4] - parts[3]);
             m_events.addAttribute(m_names.idOf({parts[0], parts[1], parts[2]}), value);
@@ -311,7 +312,7 @@ private:
 
     void onInstruction(std::string_view target, const xmlChar *data)
     {
-        // A declaration of XML that stands elsewhere than at the start is none.
+        // An XML declaration is one only at the start of the text.
         if (isXmlTarget(target))
             return;
         const XmlNameId name = m_names.idOf(target);
@@ -373,7 +374,7 @@ private:
     XmlTree &m_tree;
     XmlNames m_names;
     XmlTreeBuilder m_builder;
-    XmlEvents m_events; // ends before the builder
+    XmlEvents m_events; // destroyed before the builder
     int m_depth = 0;
     bool m_inSubset = false;
     bool m_repaired = false;

@@ -13,31 +13,31 @@
 namespace vantrell
 {
 
-/// Elements may stand in one another this deep; copying a tree recurses.
+/// The maximum nesting of elements; copying a tree recurses.
 constexpr int maximumElementDepth = 1000;
 
 struct ParseRequest {
     XmlSource source;
-    /// Repair what is malformed. Off, the first fatal error ends the parse.
+    /// Repair malformed input. When off, the first fatal error ends the parse.
     bool tolerant = true;
-    /// Keep all white space, also what stands between elements.
+    /// Keep white space between elements as well.
     bool keepsSpace = false;
-    /// Looked at now and then; once true, the parse ends without a tree. May be null.
+    /// Polled; once true, the parse ends without a tree. May be null.
     const std::atomic<bool> *cancelled = nullptr;
 };
 
-/// How much of an input is missing from its tree.
+/// How much of the input is missing from its tree.
 struct XmlLoss {
-    bool isCutOff = false;            ///< the input ends inside of elements
-    std::int64_t droppedElements = 0; ///< that come after the end of the root element
-    std::int64_t bytesRead = 0;       ///< of the input, up to where the tree ends
-    std::int64_t bytesTotal = -1;     ///< -1 when it is not known
+    bool isCutOff = false;            ///< the input ends inside an element
+    std::int64_t droppedElements = 0; ///< elements after the end of the root element
+    std::int64_t bytesRead = 0;       ///< of the input, up to the end of the tree
+    std::int64_t bytesTotal = -1;     ///< -1 when unknown
 
     bool isLoss() const { return isCutOff || droppedElements > 0; }
 };
 
 struct ParseOutcome {
-    bool hasTree = false;  ///< whether anything could be made of the input
+    bool hasTree = false;  ///< whether the input gave any tree
     bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
     bool tooManyDefaults = false; ///< of attributes
@@ -49,10 +49,10 @@ struct ParseOutcome {
     XmlLoss loss;
 };
 
-/// Parses into an empty tree. White space between elements is left out; white space that is all an element
-/// holds, or that stands beside text, CDATA or a repaired reference in one element, stays. Nothing is
-/// fetched, no entity is declared or expanded, no attribute gets a default. What is written of the tree is
-/// well-formed, whatever was repaired. Any thread.
+/// Parses into an empty tree. White space between elements is dropped; white space that is all the content of
+/// an element, or that is next to text, CDATA or a repaired reference, is kept. Nothing is fetched, no entity
+/// is declared or expanded, no attribute gets a default. The tree is always written as well-formed XML,
+/// whatever was repaired. Any thread.
 ParseOutcome parseXml(const ParseRequest &request, XmlTree &tree);
 
 } // namespace vantrell

@@ -15,8 +15,8 @@
 namespace vantrell
 {
 
-/// One evaluation: visits the nodes below the context once, in document order, and carries along for
-/// each node the set of steps that it is a context of.
+/// One evaluation: visits the nodes below the context once, in document order, and tracks for each node the
+/// set of steps that it is a context of.
 class XmlQueryWalk
 {
 public:
@@ -54,7 +54,7 @@ private:
         const XmlQuery::Step *step;
         std::size_t firstPosition; ///< of its [n] predicates among all
         bool last;
-        std::vector<XmlNameId> names; ///< in the tree; what it has not is left out
+        std::vector<XmlNameId> names; ///< those that the tree has
     };
     using Counters = std::array<std::int64_t, maximumPositions>;
 
@@ -128,13 +128,13 @@ private:
         }
     }
 
-    /// The steps to elements of some names anywhere below, whose paths go on with children alone: while the
-    /// tree's numbers are in document order such elements are found in its lists.
+    /// Finds the steps to named elements at any depth whose paths continue with children only: while node ids
+    /// are in document order, the tree lists such elements.
     void findScannedSteps()
     {
         if ((m_otherNodes | m_attributes) && !m_tree.isTextInOrder())
             return;
-        bool isAlone = true; // no other step to anywhere behind, up to the path's end
+        bool isAlone = true; // no later step of the path is reached by "//"
         for (std::size_t i = m_steps.size(); i-- > 0;) {
             const XmlQuery::Step &step = *m_steps[i].step;
             isAlone = isAlone || m_steps[i].last;
@@ -145,12 +145,12 @@ private:
         }
     }
 
-    /// What visit() does where all steps are scanned ones. The nodes are put into order when all are found.
+    /// What visit() does when all steps are scanned ones. run() sorts the nodes afterwards.
     void scan(XmlNodeId id, std::uint64_t contexts)
     {
         m_isScanned = true;
         std::vector<XmlNameId> names;
-        std::uint64_t lastChildren = 0; // steps that lead to the last one: it is looked for itself
+        std::uint64_t lastChildren = 0; // steps before the last one, which is searched for directly
         for (std::uint64_t rest = contexts; rest; rest &= rest - 1) {
             const auto i = std::size_t(std::countr_zero(rest));
             const bool leads = !m_steps[i].last && isPlainLastChild(m_steps[i + 1]);
@@ -194,8 +194,8 @@ private:
                step.predicates.empty();
     }
 
-    /// Whether anything in the node can match a step that it is a context of. Most elements of a project
-    /// hold one text and nothing else.
+    /// Whether any child of the node can match a step that it is a context of. Most elements of a project
+    /// contain a single text.
     bool holdsCandidates(const XmlTree::Node &node, std::uint64_t contexts) const
     {
         if (contexts & (m_attributes | m_otherNodes))
@@ -213,7 +213,7 @@ private:
         for (XmlNodeId id = node.firstAttribute; id && !isFull(); id = m_tree.node(id).next) {
             if (!isAttributeNamed(id, step.names.front()))
                 continue;
-            // An element has each attribute once: the only position is 1.
+            // Attribute names are unique in an element: the only position is 1.
             const bool passes = std::all_of(
                 step.predicates.begin(), step.predicates.end(), [](const XmlQuery::Predicate &predicate) {
                     return predicate.kind == XmlQuery::Predicate::Kind::Position && predicate.position == 1;
@@ -241,12 +241,12 @@ private:
         case XmlQuery::Test::Name:
             break;
         }
-        // A tree keeps each name once, also those of elements that are made later.
+        // A tree keeps each name once, also for elements created later.
         return node.isElement() &&
                std::find(state.names.begin(), state.names.end(), node.name) != state.names.end();
     }
 
-    /// \a more becomes false once no later sibling can pass.
+    /// \a more becomes false when no later sibling can pass.
     bool passesPredicates(const XmlTree::Node &node, const StepState &state, Counters &counters,
                           bool &more) const
     {
@@ -304,7 +304,7 @@ private:
     std::uint64_t m_scanned = 0;  // those of them that scan() answers
     bool m_isScanned = false;
     std::uint64_t m_attributes = 0; // steps to attributes
-    std::uint64_t m_otherNodes = 0; // steps to children that need not be elements
+    std::uint64_t m_otherNodes = 0; // steps to children of any kind
     std::size_t m_positions = 0;
     std::size_t m_limit;
     XmlNodeList &m_found;
@@ -313,7 +313,7 @@ private:
 namespace
 {
 
-/// Keeps each node once and puts them into document order, in one walk over the tree.
+/// Removes duplicates and sorts into document order, in one walk over the tree.
 void orderAndUnify(XmlNodeList &nodes, XmlNode context)
 {
     std::unordered_set<XmlNode> wanted(nodes.begin(), nodes.end());
@@ -365,7 +365,7 @@ XmlQuery::XmlQuery(const QString &text)
 
 std::shared_ptr<const XmlQuery> XmlQuery::compiled(const QString &text)
 {
-    // Texts without data in them are few; the bound only keeps a misuse from growing without end.
+    // Texts without data in them are few; the limit only stops misuse from growing the table without bound.
     constexpr qsizetype bound = 4096;
     static std::mutex mutex; // guards the table
     static auto &table = *new QHash<QString, std::shared_ptr<const XmlQuery>>;
@@ -382,7 +382,7 @@ std::shared_ptr<const XmlQuery> XmlQuery::compiled(const QString &text)
     return query;
 }
 
-/// Where the paths' steps begin; null when there is nothing.
+/// The node that the paths' steps start from, or null.
 XmlNode XmlQuery::contextOf(XmlNode context) const
 {
     const Path &path = m_paths.front();
@@ -459,8 +459,8 @@ XmlNodeId XmlQuery::firstBelow(const XmlTree &tree, XmlNodeId parent, std::size_
     return 0;
 }
 
-/// The first node found by a query of the form .//a, .//a[1] or the same with /text(), in the
-/// lists of a tree that is in order; nothing where it takes a walk to tell.
+/// The first node found by a query of the form .//a, .//a[1], or these with /text(), from the lists of a tree
+/// that is in order; nullopt when a walk is needed.
 std::optional<XmlNodeId> XmlQuery::firstAnywhere(const XmlTree &tree, XmlNodeId context) const
 {
     const std::vector<Step> &steps = m_paths.front().steps;
@@ -490,7 +490,7 @@ std::optional<XmlNodeId> XmlQuery::firstAnywhere(const XmlTree &tree, XmlNodeId 
     return 0;
 }
 
-/// What it takes to answer first() in a simpler way.
+/// The shape of the query, for first().
 XmlQuery::Form XmlQuery::formOf() const
 {
     if (m_paths.size() != 1 || m_paths.front().steps.empty() || m_paths.front().trailingParents > 0)

@@ -13,34 +13,36 @@
 namespace vantrell
 {
 
-/// One compiled query: location paths with child, descendant and attribute steps, parent steps at the
-/// start and the end, and the predicates [n], [@name="text"] and [text()="text"]; alternatives are
-/// joined by "|", also inside a parenthesised step such as (clipitem | clip). Such a query is answered
-/// in one walk that gives the nodes in document order, each once, and ends as soon as the wanted
-/// number is found; its cost is that of the nodes that it looks at. Whatever else XPath 1.0 has goes
-/// to the XML library's evaluator. Immutable; any thread.
+/// One compiled query: location paths with child, descendant and attribute steps, parent steps at the start
+/// and the end, and the predicates [n], [@name="text"] and [text()="text"]; alternatives are joined by "|",
+/// also inside a parenthesised step such as (clipitem | clip). Such a query is answered in one walk that
+/// finds the nodes in document order, each once, and ends as soon as enough are found; the cost is in
+/// proportion to the nodes visited. The rest of XPath 1.0 goes to the XML library's evaluator. Immutable; any
+/// thread.
 class XmlQuery
 {
 public:
-    /// Compiles. Never fails: a query that is no XPath answers every evaluation with its error.
+    /// Compiles. Never fails: every evaluation of an invalid query gives its error.
     explicit XmlQuery(const QString &text);
 
-    /// The query compiled on its first use in the process and kept; for texts without data in them.
+    /// The query, compiled on its first use and cached; for texts without data in them.
     static std::shared_ptr<const XmlQuery> compiled(const QString &text);
+
+    /// Whether the XML library's evaluator is needed, which copies the whole tree for each evaluation.
+    bool needsLibrary() const { return m_fallback != nullptr; }
 
     struct Answer {
         XmlNodeList nodes;
-        QString error; ///< empty when the evaluation went well
+        QString error; ///< empty on success
     };
 
-    /// The nodes found from the context, at most \a limit of them (0: all). A null context finds
-    /// nothing.
+    /// The nodes found from the context, at most \a limit (0: all). A null context finds none.
     Answer evaluate(XmlNode context, std::size_t limit = 0) const;
 
     /// The first node found, or null.
     XmlNode first(XmlNode context) const;
 
-    /// The string value of the first node found; nothing when there is none.
+    /// The string value of the first node found; nullopt without one.
     std::optional<QString> firstText(XmlNode context) const;
 
 private:
@@ -73,7 +75,7 @@ private:
         int trailingParents = 0; ///< ".." steps at the end
     };
 
-    /// Queries that first() answers in a simpler way: children alone, and elements of one name anywhere.
+    /// Queries with a short cut in first(): child steps only, and elements of one name at any depth.
     enum class Form { Any, Children, Anywhere };
 
     Form formOf() const;
@@ -83,8 +85,8 @@ private:
     std::optional<std::uint32_t> firstAnywhere(const XmlTree &tree, std::uint32_t context) const;
 
     Form m_form = Form::Any;
-    std::vector<Path> m_paths;                                ///< when the walk can answer it
-    std::shared_ptr<const class XmlQueryFallback> m_fallback; ///< when it cannot
+    std::vector<Path> m_paths;                                ///< when the walk answers it
+    std::shared_ptr<const class XmlQueryFallback> m_fallback; ///< otherwise
 };
 
 } // namespace vantrell

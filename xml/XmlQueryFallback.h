@@ -10,7 +10,7 @@ namespace vantrell
 {
 
 /// A query that the XML library evaluates on a copy of the tree: compiled once, evaluated by one thread at a
-/// time. An evaluation takes time and memory in step with the whole tree. A parenthesised step of names,
+/// time. An evaluation takes time and memory in proportion to the whole tree. A parenthesised step of names,
 /// which XPath 1.0 lacks, is rewritten as the union of the full paths.
 class XmlQueryFallback
 {
@@ -22,7 +22,7 @@ public:
 
     XmlQuery::Answer evaluate(XmlNode context) const;
 
-    /// The query with each parenthesised step of names multiplied out; a text without one unchanged.
+    /// The query with each parenthesised step of names expanded; unchanged without one.
     static QString withoutParenthesisedSteps(const QString &text);
 
 private:

@@ -59,7 +59,7 @@ bool XmlQueryParser::parsePath(XmlQuery::Path &path)
                 anywhere = true;
                 leading = false;
             } else if (!accept(u"/")) {
-                return true; // the context or one above it, and nothing further
+                return true; // the context or an ancestor, without further steps
             }
             skipSpace();
         }

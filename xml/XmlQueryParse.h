@@ -7,7 +7,7 @@
 namespace vantrell
 {
 
-/// Reads the text of a query into the steps of an XmlQuery.
+/// Parses the text of a query into the steps of an XmlQuery.
 class XmlQueryParser
 {
 public:
@@ -16,7 +16,7 @@ public:
     {
     }
 
-    /// The paths; nothing when the text is outside what the walk answers.
+    /// The paths; nullopt when the walk cannot answer the query.
     std::optional<std::vector<XmlQuery::Path>> parse();
 
 private:

@@ -15,7 +15,7 @@ namespace
 {
 
 struct Reference {
-    std::size_t length = 0; ///< 0: there is none
+    std::size_t length = 0; ///< 0 without one
     std::uint32_t character = 0;
 };
 
@@ -27,7 +27,7 @@ int digitValue(char c)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 99;
 }
 
-/// The character reference that the text starts with.
+/// The character reference at the start of the text.
 Reference referenceAtStart(std::string_view text)
 {
     if (!text.starts_with("&#"))
@@ -63,18 +63,17 @@ std::size_t lengthWithoutReferences(std::string_view text, std::size_t at)
 
 constexpr char32_t FirstWanted = 160;
 
-/// A character written as a reference, or as two for a surrogate pair.
+/// A character written as a reference, or as two of a surrogate pair.
 struct Written {
     std::size_t at = 0;
-    std::size_t length = 0; ///< 0: there is none any more
+    std::size_t length = 0; ///< 0 when there are no more
     char32_t character = 0;
 };
 
 enum class Wanted { Pairs, AllFrom160 };
 
 /// Finds the characters of a text that are written as references, one after the other. Most texts have none,
-/// so what holds no references is only looked for before one. What lies before one that was found is not
-/// looked at again.
+/// so CDATA sections and the like are searched for only before a reference. Nothing is scanned twice.
 class ReferenceFinder
 {
 public:
@@ -141,7 +140,7 @@ private:
     std::string_view m_text;
     Wanted m_wanted;
     std::size_t m_at = 0;
-    std::size_t m_checked = 0; ///< nothing that begins before it and holds no references goes on behind it
+    std::size_t m_checked = 0; ///< no such section that starts before it extends beyond it
 };
 
 QByteArray asReference(char32_t character)
@@ -159,7 +158,7 @@ QByteArray replaced(QByteArray xml, Wanted wanted, QByteArray (*replacement)(cha
 {
     if (ReferenceFinder({xml.constData(), std::size_t(xml.size())}, wanted).next().length == 0)
         return xml;
-    // The text moves towards its start.
+    // Edited in place: the rest of the text moves towards its start.
     char *const bytes = xml.data();
     ReferenceFinder references({bytes, std::size_t(xml.size())}, wanted);
     Written found = references.next();

@@ -8,24 +8,23 @@
 namespace vantrell
 {
 
-/// Text at the tree's edge: QString outside, UTF-8 inside.
+/// Conversion between QString and the UTF-8 of the tree.
 namespace XmlText
 {
 
-/// The tree's text as a string, never null.
+/// Text of the tree as a string, never null.
 QString fromUtf8(std::string_view text);
 
-/// The string as the tree takes it. Characters that XML forbids are dropped and logged; an unpaired
-/// surrogate is one of them. Any thread.
+/// The string as UTF-8. Characters that XML forbids, such as unpaired surrogates, are dropped and logged. Any
+/// thread.
 QByteArray toUtf8(const QString &text);
 
-/// The text with its percent escapes undone, each escaped byte read as ASCII. Null when an escape is
-/// not whole or stands for a byte beyond ASCII.
+/// Decodes percent escapes as ASCII. Null when an escape is incomplete or stands for a byte beyond ASCII.
 QString removingPercentEscapes(const QString &text);
 
-/// The path of a URL: its percent escapes decoded as UTF-8 (bytes that are none become U+FFFD), without
-/// the trailing slash of a folder; "/" stays. Scheme and host are dropped. Null when the text is no
-/// valid URL, that is when it holds a character that no URL may hold or an escape that is not whole.
+/// The path of a URL, percent-decoded as UTF-8 (invalid bytes become U+FFFD), without the trailing slash of a
+/// folder; "/" stays. Null when the text is not a valid URL: it contains a character that URLs forbid or an
+/// incomplete escape.
 QString pathOfUrl(const QString &url);
 
 } // namespace XmlText

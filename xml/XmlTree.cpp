@@ -19,7 +19,7 @@ XmlTree::XmlTree(XmlDocument *owner)
     , m_nameTable(256)
 {
     m_names.emplace_back();
-    make(Kind::Document); // 0, which stands for no node
+    make(Kind::Document); // id 0 means no node
     make(Kind::Document);
 }
 
@@ -96,13 +96,13 @@ std::string_view XmlTree::prefix(XmlNameId id) const
 
 // Texts
 
-/// A new region, to which the open text moves, with room for so many bytes more.
+/// Starts a new region with room for that many more bytes, and moves the open text to it.
 void XmlTree::makeRegion(std::size_t wanted)
 {
     const bool isFirst = m_texts.empty();
     const std::size_t start = isFirst ? textUnit : 0; // position 0 stands for no text
     const std::size_t size = headerSize + m_openSize + wanted;
-    // A text that grows out of one region will go on growing.
+    // A text that outgrows one region is likely to grow on.
     const std::size_t room = start + (m_openSize > 0 ? 2 * size : size);
     const std::size_t chunks = (room + textChunkSize - 1) / textChunkSize;
     const bool isTooMuch = m_texts.size() + chunks > std::size_t(1) << (32 - textBits);
@@ -165,7 +165,7 @@ void XmlTree::insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child)
     Node &added = node(child);
     added.parent = parent;
     added.next = next;
-    added.previous = node(next).previous; // the last one when it comes in front
+    added.previous = node(next).previous; // of a first child: the last one
     node(next).previous = child;
     if (previous)
         node(previous).next = child;
@@ -259,7 +259,7 @@ void XmlTree::setInOrder(bool textToo)
     m_isTextInOrder = textToo;
 }
 
-/// A node is linked or unlinked. Where text is changed, elements are in order still.
+/// Called when a node is linked or unlinked. Changes of text keep elements in order.
 void XmlTree::noteChange(const Node &changed)
 {
     m_isTextInOrder = false;
@@ -291,13 +291,13 @@ XmlNameId XmlTree::copyName(const XmlTree &from, XmlNameId id)
                   from.uri(known.uri));
 }
 
-/// The node by itself: an element with its attributes, others with their text.
+/// The node without its children: an element with its attributes, others with their text.
 XmlNodeId XmlTree::copyShallow(const XmlTree &from, XmlNodeId id, const std::vector<XmlNameId> &declared)
 {
     const Node &original = from.node(id);
     const XmlNodeId made = make(original.kind(), copyName(from, original.name));
     if (!original.hasChildren()) {
-        // Texts never change, so that copies within a tree share them.
+        // Texts never change, so copies within a tree share them.
         const bool isShared = &from == this || original.text == 0;
         const XmlTextId text = isShared ? original.text : addText(from.text(original.text));
         node(made).text = text;

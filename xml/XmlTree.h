@@ -23,17 +23,16 @@ namespace vantrell
 
 class XmlDocument;
 
-/// The number of a name within its tree.
+/// The index of a name in its tree.
 using XmlNameId = std::uint32_t;
 /// The position of a text within its tree; 0 is none, which differs from an empty one.
 using XmlTextId = std::uint32_t;
-/// The number of a node within its tree; 0 is none.
+/// The index of a node in its tree; 0 means no node.
 using XmlNodeId = std::uint32_t;
 
-/// The nodes, names and texts of one document: compact, and never moved or freed before the tree dies. A
-/// node is 24 bytes in chunks that hold nothing else, and refers to others by their numbers. Each name is
-/// kept once. Several threads may read while none edits. What needs memory and gets none throws
-/// std::bad_alloc.
+/// The nodes, names and texts of one document: compact, and never moved or freed before the tree is
+/// destroyed. A node takes 24 bytes, in chunks of nodes, and refers to others by their ids. Each name is kept
+/// once. Several threads may read while none edits. Throws std::bad_alloc without memory.
 class XmlTree
 {
 public:
@@ -41,20 +40,20 @@ public:
         Document,
         Element,
         Attribute,
-        Namespace, ///< the declaration of one, in front of the attributes; the name is its prefix
+        Namespace, ///< a declaration, in front of the attributes; the name is the prefix
         Text,
         CData,
         Comment,
         Instruction,
-        Doctype, ///< its text is the whole declaration as it is written
+        Doctype, ///< its text is the whole declaration as written
     };
 
     struct Node {
         XmlNodeId parent;
         XmlNodeId next;
-        XmlNodeId previous; ///< of the first one: the last one, so that appending takes no search
+        XmlNodeId previous; ///< of the first child: the last one, so that appending needs no search
         union {
-            XmlNodeId firstChild; ///< of elements and the document
+            XmlNodeId firstChild; ///< of elements and of the document
             XmlTextId text;       ///< of all others
         };
         XmlNodeId firstAttribute; ///< of elements: namespace declarations, then attributes
@@ -67,11 +66,11 @@ public:
         bool hasChildren() const { return isElement() || kind() == Kind::Document; }
     };
 
-    /// A name as it is written, and the namespace that it is in.
+    /// A name as written, and its namespace.
     struct Name {
         std::string qualified; ///< UTF-8, prefix included
-        std::uint32_t localAt; ///< where its local part begins
-        std::uint32_t uri;     ///< number of the namespace; 0 for none
+        std::uint32_t localAt; ///< offset of its local part
+        std::uint32_t uri;     ///< index of the namespace; 0 for none
         QString text;          ///< the same as `qualified`
     };
 
@@ -91,7 +90,7 @@ public:
     // Names
 
     static std::size_t hashOf(std::string_view qualified);
-    /// The name's number; noName when the tree has none such.
+    /// The name's id; noName when the tree does not have it.
     XmlNameId find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const;
     /// The name's number, which it gets now if it has none.
     XmlNameId intern(std::string_view prefix, std::string_view local, std::string_view uri)
@@ -114,7 +113,8 @@ public:
         extendText(text);
         return closeText();
     }
-    /// A text that comes in parts: open, extend, and close or leave it. No other text may be added meanwhile.
+    /// A text that comes in parts: open it, extend it, then close or drop it. No other text may be added
+    /// meanwhile.
     void openText()
     {
         m_openSize = 0;
@@ -165,29 +165,30 @@ public:
     }
     XmlNodeId makeText(Kind kind, std::string_view text);
     void append(XmlNodeId parent, XmlNodeId child);
-    /// For texts; previous 0 is in front.
+    /// For text nodes; previous 0 means in front.
     void insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child);
     void appendAttribute(XmlNodeId element, XmlNodeId attribute);
-    /// Takes all attributes off an element, not its namespace declarations.
+    /// Removes an element's attributes, not its namespace declarations.
     void removeAttributes(XmlNodeId element);
-    /// Takes a child, not an attribute, out of its parent.
+    /// Unlinks a child, not an attribute, from its parent.
     void unlink(XmlNodeId child);
     XmlNodeId previousSibling(XmlNodeId id) const;
     XmlNodeId lastChild(XmlNodeId id) const;
-    /// The next one in document order: below, behind, or behind one above; 0 when it leaves \a top.
+    /// The next node in document order: a child, a sibling, or a sibling of an ancestor; 0 at the end of \a
+    /// top.
     XmlNodeId following(XmlNodeId id, XmlNodeId top) const;
 
-    /// A deep copy, here and without a parent, of an element of this or another tree. Namespaces that it
-    /// uses and that are declared above it are declared on the copy.
+    /// A deep copy, in this tree and without a parent, of an element of this or another tree. Namespaces used
+    /// in it and declared on an ancestor are declared on the copy.
     XmlNodeId copy(const XmlTree &from, XmlNodeId element);
 
-    /// Namespaces that the element or what it holds uses, and that are declared above it: names that have
-    /// them, one for each prefix, in the order of their first use.
+    /// Namespaces used in the element or below and declared on an ancestor: one name with each prefix, in
+    /// order of first use.
     std::vector<XmlNameId> inheritedNamespaces(XmlNodeId element) const;
 
     // Order
 
-    /// An element that is made in document order while the tree is built.
+    /// Adds an element in document order while the tree is built.
     XmlNodeId makeListed(XmlNameId name)
     {
         const XmlNodeId id = make(Kind::Element, name);
@@ -196,14 +197,14 @@ public:
         m_elements[name].push_back(id);
         return id;
     }
-    /// From now on, until an element is moved, added or taken out, the elements of the document are numbered
-    /// in document order, and so is all else but white space that was added late.
+    /// Marks the tree as built: until an element is moved, added or removed, the ids of the elements are in
+    /// document order, as are those of all other nodes except white space added late.
     void setInOrder(bool textToo);
     bool isInOrder() const { return m_orderedEnd > 0; }
     bool isTextInOrder() const { return m_orderedEnd > 0 && m_isTextInOrder; }
-    /// The number behind those of all elements that the node holds, while isInOrder().
+    /// The id past the last element below the node, while isInOrder().
     XmlNodeId endOfElementsIn(XmlNodeId id) const;
-    /// Calls \a found with the number of each element of that name from \a begin to before \a end, in order.
+    /// Calls \a found with the id of each element of that name in [begin, end), in order.
     template <typename Found>
     void findElements(XmlNameId name, XmlNodeId begin, XmlNodeId end, Found found) const
     {
@@ -213,7 +214,7 @@ public:
         for (auto at = std::lower_bound(ids.begin(), ids.end(), begin); at != ids.end() && *at < end; ++at)
             found(*at);
     }
-    /// The first of them; 0 for none.
+    /// The first of them, or 0.
     XmlNodeId firstElementNamed(XmlNameId name, XmlNodeId begin, XmlNodeId end) const
     {
         if (name >= m_elements.size())
@@ -222,14 +223,14 @@ public:
         const auto at = std::lower_bound(ids.begin(), ids.end(), begin);
         return at != ids.end() && *at < end ? *at : 0;
     }
-    /// The number behind those of all that was parsed, while isInOrder().
+    /// The id past the last node that was parsed, while isInOrder().
     XmlNodeId orderedEnd() const { return m_orderedEnd; }
 
-    // What the declaration of the document said
+    // The XML declaration
 
     QByteArray version = QByteArrayLiteral("1.0");
-    QByteArray encoding;   ///< as it was declared; empty when none was
-    int isStandalone = -1; ///< -1: nothing was said
+    QByteArray encoding;   ///< as declared, or empty
+    int isStandalone = -1; ///< -1: not declared
 
 private:
     static constexpr unsigned nodeBits = 14;
@@ -237,7 +238,7 @@ private:
     static constexpr unsigned textBits = 18; ///< of a text's position within a chunk, in units
     static constexpr std::size_t textUnit = 4;
     static constexpr std::size_t textChunkSize = textUnit << textBits;
-    static constexpr std::size_t headerSize = sizeof(std::uint32_t); ///< a text's length, in front of it
+    static constexpr std::size_t headerSize = sizeof(std::uint32_t); ///< the length in front of a text
 
     void noteChange(const Node &changed);
     void makeChunk();
@@ -250,9 +251,9 @@ private:
     XmlDocument *m_owner;
     std::vector<std::unique_ptr<Node[]>> m_nodes;
     XmlNodeId m_nodeCount = 0;
-    XmlNodeId m_orderedEnd = 0; // 0: not in order
+    XmlNodeId m_orderedEnd = 0; // 0 when not in order
     bool m_isTextInOrder = false;
-    std::vector<std::vector<XmlNodeId>> m_elements; // by name, ascending; empty when no longer in order
+    std::vector<std::vector<XmlNodeId>> m_elements; // ids by name, ascending; empty when no longer in order
     std::vector<std::unique_ptr<char[]>> m_textMemory;
     std::vector<char *> m_texts;  // by the upper part of a text's position
     char *m_region = nullptr;     // what new texts are put into: a chunk, or several in a row
@@ -262,8 +263,8 @@ private:
     std::size_t m_openSize = 0;   // of the open text
     std::deque<Name> m_names;
     std::vector<std::string> m_uris;
-    std::unordered_map<std::string, std::uint32_t> m_uriNumbers; // 1 and up
-    std::vector<XmlNameId> m_nameTable; // open addressing, a power of two; noName: free
+    std::unordered_map<std::string, std::uint32_t> m_uriNumbers; // from 1 on
+    std::vector<XmlNameId> m_nameTable; // open addressing, size a power of two; noName means free
 };
 
 } // namespace vantrell

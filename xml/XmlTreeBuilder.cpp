@@ -21,7 +21,7 @@ bool isBlank(std::string_view text)
                        [](char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
 }
 
-/// The text with a blank behind each hyphen that may not stand before the next character.
+/// The text with a blank after each hyphen that must not precede the next character.
 std::string commentText(std::string_view text)
 {
     std::string parted;
@@ -60,7 +60,7 @@ void XmlTreeBuilder::append(XmlNodeId child)
     element.lastChild = child;
 }
 
-/// Tells the tree the open element's last child.
+/// Stores the open element's last child in the tree.
 void XmlTreeBuilder::setLastChild()
 {
     const OpenElement &element = m_open.back();
@@ -110,7 +110,7 @@ void XmlTreeBuilder::endElement()
     endRun();
     if (m_open.empty())
         return;
-    // White space between elements goes, white space that is all stays.
+    // White space between elements is dropped; white space that is all the content is kept.
     if (m_blanks.size() > m_open.back().firstBlank) {
         if (!m_open.back().hasElements)
             keepSpace();
@@ -177,8 +177,8 @@ void XmlTreeBuilder::storeRun()
     append(made);
 }
 
-/// Whether the text is the last white space of its length; indentation repeats. It then is what m_blank
-/// stands for.
+/// Whether the text equals the last white space of its length, as indentation repeats. Then m_blank is set to
+/// it.
 bool XmlTreeBuilder::isKnownBlank(std::string_view text)
 {
     const std::uint32_t last = text.size() < m_lastBlanks.size() ? m_lastBlanks[text.size()] : 0;
@@ -188,7 +188,7 @@ bool XmlTreeBuilder::isKnownBlank(std::string_view text)
     return true;
 }
 
-/// Remembers the text as m_blank when it is white space alone, else false.
+/// Sets m_blank when the text is all white space; false otherwise.
 bool XmlTreeBuilder::storeAsBlank(std::string_view text)
 {
     if (!isBlank(text))
@@ -205,13 +205,13 @@ void XmlTreeBuilder::keepSpace()
     if (m_open.empty())
         return;
     m_open.back().keepsSpace = true;
-    // While a text is open, its end does the rest.
+    // While a text is open, its end does this.
     const bool isOpen = m_run == Run::Text || m_run == Run::CData;
     if (!isOpen && m_blanks.size() > m_open.back().firstBlank)
         addBlanks();
 }
 
-/// Puts the open element's pending blanks into the tree.
+/// Adds the open element's pending blanks to the tree.
 void XmlTreeBuilder::addBlanks()
 {
     OpenElement &element = m_open.back();

@@ -13,17 +13,17 @@
 namespace vantrell
 {
 
-/// Builds a tree from the events of a parser; names belong to the parser's side (XmlNames). Text is gathered
-/// until something else comes, so that a text that arrives in many parts costs no more than one in one part.
+/// Builds a tree from the events of a parser; names are made on the parser's side (XmlNames). Text is
+/// gathered until another event comes, so a text in many parts costs no more than a text in one.
 class XmlTreeBuilder
 {
 public:
-    /// \a keepsSpace: white space between elements is kept as well.
+    /// \a keepsSpace: keep white space between elements.
     XmlTreeBuilder(XmlTree &tree, bool keepsSpace);
 
     void startElement(XmlNameId name);
     void addNamespace(XmlNameId prefix, std::string_view uri); ///< of the element just started
-    /// Of the element just started; one of a name that it has already is passed over.
+    /// Of the element just started; a duplicate name is ignored.
     void addAttribute(XmlNameId name, std::string_view value);
     /// Whether the element just started asks for its white space to be kept.
     void setSpace(bool isKept);
@@ -34,32 +34,32 @@ public:
     void addInstruction(XmlNameId target);
     void addInstruction(XmlNameId target, std::string_view data);
     void addDoctype();
-    /// The open element turns out to hold text: its white space is data, that met so far included.
+    /// The open element contains text: its white space is data, also the white space so far.
     void keepSpace();
 
-    /// Closes what is open.
+    /// Closes all open elements.
     void finish();
-    /// The document type declaration as it is written. One that no parser would take is left out.
+    /// The document type declaration as written; dropped when no parser would accept it.
     void setDoctype(const std::string &text);
 
 private:
     struct OpenElement {
         XmlNodeId node;
-        XmlNodeId lastChild;      ///< which the tree learns at the element's end
-        std::uint32_t firstBlank; ///< its first one in the list of pending blanks
-        bool keepsSpace;          ///< it holds text, CDATA or a reference, or asks for its space to be kept
+        XmlNodeId lastChild;      ///< stored in the tree at the element's end
+        std::uint32_t firstBlank; ///< the first of its pending blanks
+        bool keepsSpace;          ///< it contains text, CDATA or a reference, or has xml:space
         bool asksForSpace;        ///< by xml:space
         bool hasElements;
     };
 
-    /// White space met in an element that may turn out to stand between elements only.
+    /// White space that may turn out to be only between elements.
     struct PendingBlank {
-        XmlNodeId after; ///< the child that it follows; 0 at the element's start
+        XmlNodeId after; ///< the child before it; 0 at the element's start
         std::uint32_t at;
         std::uint32_t length;
     };
 
-    /// What has come since the last event of another kind. Text and CDATA are the tree's open text.
+    /// The text since the last event of another kind. Text and CDATA are the open text of the tree.
     enum class Run { None, Blank, Text, CData };
 
     XmlNodeId parent() const { return m_open.empty() ? XmlTree::documentId : m_open.back().node; }
@@ -83,7 +83,7 @@ private:
     const bool m_keepsSpace;
     std::vector<OpenElement> m_open;
     Run m_run = Run::None;
-    PendingBlank m_blank = {}; // the run, when it is one
+    PendingBlank m_blank = {}; // the run, when it is white space
     std::vector<PendingBlank> m_blanks;
     std::string m_blankBytes;
     std::array<std::uint32_t, 128> m_lastBlanks = {}; // by length: where the last one is, plus 1

@@ -10,7 +10,7 @@
 namespace vantrell
 {
 
-/// Bytes of other kinds as the tree takes them. What is seen must live on meanwhile.
+/// Views of bytes of other types. The bytes must outlive the view.
 inline std::string_view viewOf(const QByteArray &text)
 {
     return {text.constData(), std::size_t(text.size())};

@@ -12,7 +12,7 @@ namespace
 
 using Kind = XmlTree::Kind;
 
-/// Which characters are written as something else.
+/// Which characters are escaped.
 template <std::size_t count>
 constexpr std::array<bool, 256> escaped(const char (&characters)[count])
 {
@@ -114,7 +114,7 @@ void XmlWriter::writeDocument(std::string_view encoding)
 void XmlWriter::writeNode(XmlNodeId top)
 {
     const bool isIndented = m_isIndented;
-    XmlNodeId unformatted = 0; // the element whose text keeps everything in it from being indented
+    XmlNodeId unformatted = 0; // the element whose text keeps its content from being indented
     m_level = 0;
     XmlNodeId at = top;
     while (!m_output.hasFailed()) {
@@ -162,7 +162,7 @@ void XmlWriter::writeNode(XmlNodeId top)
     m_isIndented = isIndented;
 }
 
-/// Deeply nested elements are not indented any further.
+/// The indentation does not grow for deeply nested elements.
 void XmlWriter::indent()
 {
     static constexpr std::string_view blanks = "                                                            ";
@@ -255,7 +255,7 @@ void XmlWriter::writeText(std::string_view text)
     writeEscaped(m_output, text, inText);
 }
 
-/// One section cannot hold the mark of its end.
+/// Splits the section at its end mark, which it cannot contain.
 void XmlWriter::writeCData(std::string_view text)
 {
     constexpr std::string_view end = "]]>";

@@ -14,13 +14,13 @@ namespace vantrell
 class XmlWriter
 {
 public:
-    /// \a isIndented: each element, comment and instruction gets a line of its own, but in elements that
-    /// hold text. \a asciiAttributes: characters beyond ASCII are written as references in attributes.
+    /// \a isIndented: each element, comment and instruction gets a line of its own, except in elements with
+    /// text. \a asciiAttributes: characters beyond ASCII are written as references in attributes.
     XmlWriter(const XmlTree &tree, XmlOutput &output, bool isIndented, bool asciiAttributes);
 
     /// The whole document, with a declaration that names the encoding.
     void writeDocument(std::string_view encoding);
-    /// The node with all that it holds.
+    /// The node and its subtree.
     void writeNode(XmlNodeId node);
 
     /// The parts of an element, for callers that write something else in between.

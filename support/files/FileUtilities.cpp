@@ -92,8 +92,9 @@ public:
     NewFile &operator=(const NewFile &) = delete;
     ~NewFile() override
     {
+        // QFile would not remove it after a write that failed.
         if (!m_isInPlace)
-            remove();
+            ::unlink(m_path.constData());
         UnfinishedFiles::remove(m_path);
     }
 

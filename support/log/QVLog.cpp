@@ -5,7 +5,6 @@
 #include "support/log/OperationQueue.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +13,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <exception>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -51,10 +51,15 @@ QString numberedFile(const QString &base, qint64 number)
     return formatText(u"%@.%li.log", base, number);
 }
 
-/// The current date as in "2026-11-21 02:14:00 +0000".
-QString dateText()
+/// The current date as in "2026-11-21 02:14:00 +0000". By the C library: lines are also written while the
+/// process ends, when Qt's locales may be gone.
+QByteArray dateText()
 {
-    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss '+0000'"));
+    const std::time_t now = std::time(nullptr);
+    std::tm parts = {};
+    gmtime_r(&now, &parts);
+    char text[64];
+    return {text, qsizetype(std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S +0000", &parts))};
 }
 
 bool isLoggingSwitchedOff()
@@ -348,7 +353,7 @@ void QVLog::writeLine(const QString &text)
         return;
     }
     m_isLossTold = false;
-    const QByteArray line = formatText(u"%@ - %@\n", dateText(), text).toUtf8();
+    const QByteArray line = dateText() + " - " + text.toUtf8() + '\n';
     if (writeBytes(line))
         m_bytesWritten += static_cast<quint64>(line.size());
 }

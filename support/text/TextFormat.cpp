@@ -5,6 +5,8 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <optional>
 
@@ -50,6 +52,15 @@ std::optional<Conversion> readConversion(QStringView format, qsizetype position)
     conversion.letter = format[position].unicode();
     conversion.end = position + 1;
     return conversion;
+}
+
+/// As C's printf writes it, in the C locale: ties go to the even digit, unlike QString::number().
+QString fixedText(double number, int decimals)
+{
+    std::array<char, maximumWidth + 320> text; // the largest double has 309 digits
+    const std::to_chars_result end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, decimals);
+    return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
 QString characterText(char16_t unit)
@@ -133,7 +144,7 @@ QString convertedText(const FormatArgument &argument, const Conversion &conversi
     case u'f':
         if (const std::optional<double> number = realNumber(argument)) {
             const int decimals = conversion.precision < 0 ? 6 : conversion.precision;
-            return padded(QString::number(*number, 'f', decimals), conversion, std::isfinite(*number));
+            return padded(fixedText(*number, decimals), conversion, std::isfinite(*number));
         }
         break;
     case u'C':

@@ -25,7 +25,7 @@
 namespace vantrell
 {
 
-/// The sample project in a folder, as a file that a test may change; its media stay away.
+/// The sample project in a folder, as a file that a test may change, without its media.
 inline QString copySample(const QString &folder)
 {
     const QDir samples(qEnvironmentVariable("VANTRELL_SOURCE_DIR") + QStringLiteral("/samples"));
@@ -38,7 +38,7 @@ inline QString copySample(const QString &folder)
     return path;
 }
 
-/// The visible alert box; null when there is none.
+/// The visible alert box, or null.
 inline QMessageBox *visibleBox()
 {
     for (QWidget *const widget : QApplication::topLevelWidgets()) {
@@ -49,7 +49,7 @@ inline QMessageBox *visibleBox()
     return nullptr;
 }
 
-/// Presses the button of the box; false when it has none with that title.
+/// Presses the button with that title; false when the box has none.
 inline bool press(QMessageBox *box, const QString &title)
 {
     for (QAbstractButton *const button : box->buttons()) {
@@ -61,7 +61,7 @@ inline bool press(QMessageBox *box, const QString &title)
     return false;
 }
 
-/// Presses that button of the next alert, from within the operation that raises it.
+/// Presses that button of the next alert while the operation that raised it waits.
 inline void pressLater(const QString &title)
 {
     auto *const timer = new QTimer(qApp);
@@ -73,7 +73,8 @@ inline void pressLater(const QString &title)
     timer->start(5);
 }
 
-/// Calls `look` once an alert has stood for that many milliseconds, from within the operation that raises it.
+/// Calls `look` when an alert has been open for that many milliseconds, while the operation that raised it
+/// waits.
 inline void whenAsked(int milliseconds, const std::function<void(QMessageBox *)> &look)
 {
     auto *const timer = new QTimer(qApp);
@@ -91,7 +92,7 @@ inline void whenAsked(int milliseconds, const std::function<void(QMessageBox *)>
     timer->start(5);
 }
 
-/// The visible open or save panel; null when there is none.
+/// The visible open or save panel, or null.
 inline QFileDialog *visiblePanel()
 {
     for (QWidget *const widget : QApplication::topLevelWidgets()) {
@@ -102,7 +103,7 @@ inline QFileDialog *visiblePanel()
     return nullptr;
 }
 
-/// Ends the visible panel with that path.
+/// Accepts the visible panel with that path.
 inline void choosePath(const QString &path)
 {
     QFileDialog *const panel = visiblePanel();
@@ -119,7 +120,7 @@ inline QList<QAction *> actionsOf(const QMainWindow &window)
     return actions;
 }
 
-/// The command with that title, in the menu with that title when it is given; null when there is none.
+/// The command with that title, in the menu with that title if given; or null.
 inline QAction *commandOf(const QMainWindow &window, const QString &title, const QString &menu = QString())
 {
     for (QAction *const action : actionsOf(window)) {
@@ -142,7 +143,7 @@ inline bool trigger(const QMainWindow &window, const QString &title, const QStri
     return true;
 }
 
-/// Saves, to another place when one is named, and waits for the end of it.
+/// Saves, under another path if given, and waits for the result.
 inline bool saves(DocumentWindow &window, const QString &path = QString())
 {
     QSignalSpy saved(&window, &DocumentWindow::saved);
@@ -171,7 +172,7 @@ inline QStringList columnTexts(const DocumentWindow &window, Tab tab, const QStr
     return texts;
 }
 
-/// Edits a cell as its editor does: the row is selected, and what was typed goes to the model.
+/// Edits a cell as its editor does: selects the row and passes the text to the model.
 inline bool editCell(DocumentWindow &window, Tab tab, int row, const QString &column, const QVariant &value,
                      int role = Qt::EditRole)
 {

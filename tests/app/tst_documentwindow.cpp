@@ -508,7 +508,8 @@ private Q_SLOTS:
         QVERIFY(m_window->isBusy());
         Q_EMIT sheet->cancelled(); // while it reads
         QCOMPARE(imported.count(), 1);
-        QTest::qWait(300);
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QCoreApplication::processEvents();
         QCOMPARE(model.rowCount(), 24);
         QVERIFY(!m_window->isWindowModified());
         QVERIFY(!m_window->isBusy());
@@ -518,7 +519,7 @@ private Q_SLOTS:
         connect(&clock, &QTimer::timeout, &clock, [&ticks] { ++ticks; });
         clock.start(1);
         m_window->importMarkerLists(lists, MarkerListFormat::avid);
-        QTRY_COMPARE_WITH_TIMEOUT(imported.count(), 2, 60000);
+        QTRY_COMPARE_WITH_TIMEOUT(imported.count(), 2, 40000);
         QVERIFY(ticks > 3); // the window was alive
         QCOMPARE(imported.at(1).at(0).value<std::size_t>(), std::size_t(count));
         QCOMPARE(model.rowCount(), 24 + count);
@@ -760,7 +761,7 @@ private:
     {
         make();
         m_window->open(m_path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 60000);
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
     }
     void reopen()
     {

@@ -358,11 +358,11 @@ private:
         return model.headerData(model.columnOf(column), Qt::Horizontal, Qt::DisplayRole).toString();
     }
     /// Moves a column as the user does with the mouse.
-    void move(const QString &column, int place) const
+    void move(const QString &column, int index) const
     {
         const TabPane &pane = m_window->pane(Tab::Markers);
         QHeaderView *const header = pane.table().horizontalHeader();
-        header->moveSection(header->visualIndex(pane.model().columnOf(column)), place);
+        header->moveSection(header->visualIndex(pane.model().columnOf(column)), index);
     }
 
     static MarkerFieldsSheet *openFields(DocumentWindow *window)

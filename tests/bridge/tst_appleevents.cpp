@@ -6,6 +6,7 @@
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/bridge/ScriptedHost.h"
+#include "tests/support/ApplicationBundle.h"
 #include "tests/support/CapturedStandardError.h"
 #include "tests/support/TemporaryHome.h"
 
@@ -220,11 +221,10 @@ class AppleEventsTest : public QObject
     /// Installs an application that writes what it is asked to open to the file "launched", a line each.
     void install(const QByteArray &version = "7.0.3")
     {
-        m_home.addFile(QStringLiteral("apps/Final Cut Pro.app/Contents/Info.plist"),
-                       "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                       "<string>com.apple.FinalCutPro</string><key>CFBundleExecutable</key><string>fcp"
-                       "</string><key>CFBundleShortVersionString</key><string>" +
-                           version + "</string></dict></plist>");
+        addBundle(m_home, QStringLiteral("apps/Final Cut Pro.app"), "com.apple.FinalCutPro",
+                  "<key>CFBundleExecutable</key><string>fcp</string>"
+                  "<key>CFBundleShortVersionString</key><string>" +
+                      version + "</string>");
         const QString program =
             m_home.addFile(QStringLiteral("apps/Final Cut Pro.app/Contents/MacOS/fcp"),
                            "#!/bin/sh\necho \"$1\" >>'" + QFile::encodeName(launchedFile()) + "'\n");

@@ -159,8 +159,8 @@ private Q_SLOTS:
         UserDefaults::standard().setValue(QStringLiteral("applicationsFolder"),
                                           m_home.path(QStringLiteral("apps")));
         QCOMPARE(QVAppleEvents::finalCutProVersionString(), QStringLiteral("7.0"));
-        const auto install = [this](const char *place, const QByteArray &content) {
-            m_home.addFile(QStringLiteral("apps/%1/Contents/Info.plist").arg(QLatin1String(place)),
+        const auto install = [this](const char *bundle, const QByteArray &content) {
+            m_home.addFile(QStringLiteral("apps/%1/Contents/Info.plist").arg(QLatin1String(bundle)),
                            "<plist version=\"1.0\"><dict>" + content + "</dict></plist>");
         };
         const auto version = [](const char *text) {

@@ -3,6 +3,7 @@
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/MainThread.h"
+#include "tests/support/ApplicationBundle.h"
 #include "tests/support/CapturedStandardError.h"
 #include "tests/support/LogLines.h"
 #include "tests/support/RunningProgram.h"
@@ -79,20 +80,18 @@ class PremiereTest : public QObject
                               version + "</Data></VariableForExMan></Configuration>");
     }
 
-    /// The application's bundle; gives where its executable belongs.
+    /// Writes the application's bundle; returns the path for its executable.
     QString installBundle(const QByteArray &version)
     {
-        const QString contents = text("apps/Adobe Premiere Pro CS6/Adobe Premiere Pro CS6.app/Contents");
+        const QString bundle = text("apps/Adobe Premiere Pro CS6/Adobe Premiere Pro CS6.app");
         const QByteArray versionKey = "<key>CFBundleVersion</key><string>" + version + "</string>";
-        m_home->addFile(contents + text("/Info.plist"),
-                        "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                        "<string>com.adobe.AdobePremierePro</string><key>CFBundleExecutable</key>"
-                        "<string>Premiere</string>" +
-                            (version.isEmpty() ? QByteArray() : versionKey) + "</dict></plist>");
-        return path(contents + text("/MacOS/Premiere"));
+        addBundle(*m_home, bundle, "com.adobe.AdobePremierePro",
+                  "<key>CFBundleExecutable</key><string>Premiere</string>" +
+                      (version.isEmpty() ? QByteArray() : versionKey));
+        return path(bundle + text("/Contents/MacOS/Premiere"));
     }
 
-    /// The opener notes its arguments and the script, then does what the commands say.
+    /// The opener records its arguments and the script, then runs the commands.
     void setOpener(const QByteArray &commands = {})
     {
         const QByteArray arguments = path(text("arguments")).toUtf8();
@@ -254,7 +253,7 @@ private Q_SLOTS:
                  QStringList(text("Error: Premiere Pro is not running.")));
         QVERIFY(!QFile::exists(path(text("arguments"))));
         QVPremiereEvents::openFCPXML(text("/x.xml"), true);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(text("started"))), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(text("started"))), 40000);
         QCOMPARE(arguments().size(), qsizetype(7));
         QVERIFY(contentOf(path(text("script"))).contains("premierepro-6.0\"\nbt.body"));
         QVERIFY(m_alerts->shown().empty()); // it was not running when it was configured
@@ -291,8 +290,8 @@ private Q_SLOTS:
         QVERIFY(scriptsLeft().isEmpty());
     }
 
-    /// Cancelled while the Toolkit runs, after the start of Premiere Pro, after an export, and while the
-    /// alert stands that nobody answers.
+    /// Cancelled while the Toolkit runs, after the start of Premiere Pro, after an export, and during an
+    /// unanswered alert.
     void cancelling_data()
     {
         QTest::addColumn<QString>("waitsFor");

@@ -33,7 +33,7 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// The editing application: keeps what it is sent and answers when it is let.
+/// The editing application: records what it is sent and answers when allowed to.
 class ScriptedTransport : public AppleEventTransport
 {
 public:
@@ -154,7 +154,7 @@ class ProjectSenderTest : public QObject
     QString path(const char *relative) const { return m_home->path(text(relative)); }
     QString addProject(const char *relative) const { return m_home->addFile(text(relative), xml); }
 
-    /// The texts of the alert that was shown last, with how many were.
+    /// The number of alerts, and the texts of the last one.
     void compareLastAlert(const char *const *texts, std::size_t count)
     {
         QCOMPARE(m_alerts->shown().size(), count);
@@ -249,7 +249,7 @@ private Q_SLOTS:
 
     void escapesWhatItSends()
     {
-        // The name lies outside of the sequence's own, which is replaced.
+        // The name is outside the sequence that is replaced.
         const QString file = m_home->addFile(
             text("Cut.xml"),
             QByteArray(xml).replace("<uuid>A", "<rest>é\xF0\x9F\x8E\xAC&#13;&lt;</rest><uuid>A"));

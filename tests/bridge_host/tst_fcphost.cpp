@@ -31,7 +31,7 @@ using namespace vantrell;
 namespace
 {
 
-constexpr int Patience = 60000; // milliseconds
+constexpr int Patience = 40000; // milliseconds
 
 const QByteArray Project = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!DOCTYPE xmeml>
@@ -49,7 +49,7 @@ const QByteArray Project = R"(<?xml version="1.0" encoding="UTF-8"?>
 </xmeml>
 )";
 
-/// What is sent for a bin with that name.
+/// The XML sent for a bin with that name.
 QByteArray binNamed(const QByteArray &name)
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><!DOCTYPE xmeml><xmeml version=\"5\"><bin><name>" +
@@ -129,7 +129,7 @@ public:
     bool send(const EventRecord &record) { return send(EventWire::flatten(record).value()); }
     void endSending() { ::shutdown(m_socket.number(), SHUT_WR); }
 
-    /// The next reply; nothing when the host closes before it is whole.
+    /// The next reply; nullopt when the host closes the connection before its end.
     std::optional<EventRecord> reply()
     {
         const auto record = EventWire::read([this](char *buffer, qsizetype maximum) {
@@ -138,7 +138,7 @@ public:
         return record ? std::optional(record.value()) : std::nullopt;
     }
 
-    /// All that comes until the host closes.
+    /// All bytes until the host closes the connection.
     QByteArray rest()
     {
         QByteArray all;
@@ -207,7 +207,7 @@ public:
 
     static QString program() { return qEnvironmentVariable("VANTRELL_BIN_DIR") + latin("/fcp-host"); }
 
-    /// Whether it has come to listen.
+    /// Whether it listens.
     bool isReady() { return hasSaid("fcp-host: listening on " + QFile::encodeName(m_socketPath) + '\n'); }
     bool hasSaid(const QByteArray &text)
     {
@@ -638,7 +638,7 @@ private Q_SLOTS:
         const QString b = addProject("-b c.xml");
         const QString socketPath = Workspace::eventSocketPath(latin("KeyG"));
         QVERIFY(Workspace::openWithApplication(identifier, a));
-        // It may not listen yet; and is found by its socket once it does.
+        // It may not listen yet; it is found by its socket as soon as it does.
         QTRY_COMPARE_WITH_TIMEOUT(openProjects(socketPath), QStringList{a}, Patience);
         QVERIFY(Workspace::isRunning(identifier));
         QVERIFY(Workspace::openWithApplication(identifier, b));

@@ -162,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(path("p.xml")).count("<bin/>"), 2);
     }
 
-    /// With a pipe in the place of the file, which is written when the other end is read.
+    /// The file is a pipe, which is written when the other end is read.
     void answersBeforeALongSave_data()
     {
         QTest::addColumn<bool>("fails");

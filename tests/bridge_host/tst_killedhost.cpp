@@ -13,7 +13,7 @@
 
 using namespace vantrell;
 
-/// One call of an operation for a project's path; whether it says that it failed.
+/// Calls an operation for a project's path; returns whether it reported failure.
 using Operation = std::function<bool(const QString &)>;
 Q_DECLARE_METATYPE(Operation)
 
@@ -27,7 +27,7 @@ QString text(const char *latin1)
 
 } // namespace
 
-/// What the program makes of an application that is killed in the middle of each event.
+/// How the program copes with an application that is killed during each event.
 class KilledHostTest : public QObject
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ private Q_SLOTS:
         const QByteArray project = "<xmeml><sequence id=\"s\"/></xmeml>";
         const QString path = m_home->addFile(text("p.xml"), project);
         FcpHost host(*m_home);
-        // Long enough for the event to be met in its middle, also when the list comes before it.
+        // Long enough to kill the host during the event, also when a list event comes first.
         QVERIFY(host.start({text("--delay"), text("3"), path}));
         const QString event = text(QTest::currentDataTag());
         bool hasFailed = false;
@@ -98,7 +98,7 @@ private Q_SLOTS:
         {
             CapturedStandardError captured;
             std::thread sender([&] { hasFailed = fails(path); });
-            const bool isMet = QTest::qWaitFor([&] { return host.allEvents().contains(event); }, 60000);
+            const bool isMet = QTest::qWaitFor([&] { return host.allEvents().contains(event); }, 40000);
             host.kill();
             sinceKilled.start();
             sender.join();

@@ -163,7 +163,7 @@ private Q_SLOTS:
     void keepsALogOfItsOwn()
     {
         runCli({QStringLiteral("timecode"), QStringLiteral("format"), QStringLiteral("1")});
-        // The file itself is elsewhere for the super-user.
+        // The log file is elsewhere for the superuser.
         QVERIFY(QDir(m_home.path(QStringLiteral(".local/state/Logs/Orvandel"))).exists());
     }
 };

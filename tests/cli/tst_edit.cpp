@@ -124,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(output()) && !QFile::exists(bin));
     }
 
-    /// What an operation makes of odd values is its own affair: status 0.
+    /// Odd values are up to the operations: status 0.
     void oddValues_data()
     {
         QTest::addColumn<QByteArray>("script");

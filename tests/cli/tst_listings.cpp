@@ -1,3 +1,4 @@
+#include "cli/TextTable.h"
 #include "tests/support/CliRun.h"
 #include "tests/support/TemporaryHome.h"
 
@@ -81,6 +82,36 @@ private Q_SLOTS:
         };
         for (const auto &[options, rows] : table)
             QCOMPARE(run((QByteArray("effects ") + options).constData()).output, title + rows);
+    }
+
+    /// Custom fields become columns after the others, also if only a later marker has them.
+    void markers()
+    {
+        const QString path = m_home.addFile(
+            QStringLiteral("m.xml"),
+            "<xmeml><sequence><name>S</name><marker><name>A</name><in>1</in><out>-1</out></marker><marker>"
+            "<name>B</name><comment>c&lt;QVCUSTOM_TAKE&gt;3&lt;_QVCUSTOM_TAKE&gt;</comment><in>30</in>"
+            "<out>45</out></marker></sequence></xmeml>");
+        const CliRun plain = runCli({QStringLiteral("markers"), path});
+        QCOMPARE(plain.messages, QByteArray());
+        QCOMPARE(
+            plain.output,
+            QByteArray("Color\tName\tComment\tIn\tDuration\tSequence\tClip\tChapter\tCompression\tScoring\t"
+                       "QVCUSTOM_TAKE\n"
+                       "Red\tA\t\t00:00:00:01\t00:00:00:00\tS\t\t\t\t\t\n"
+                       "Red\tB\tc\t00:00:01:00\t00:00:00:15\tS\t\t\t\t\t3\n"));
+    }
+
+    /// On a terminal, all columns but the last are two spaces wider than their widest cell.
+    void tables()
+    {
+        cli::TextTable table({QStringLiteral("A"), QStringLiteral("Title"), QStringLiteral("C")});
+        table.addRow({QStringLiteral("wide\tcell"), QString(), QStringLiteral("\r\nx")});
+        table.addRow({QString(), QStringLiteral("ü"), QStringLiteral("longer than all")});
+        QCOMPARE(table.toBytes(true), QByteArray("A          Title  C\n"
+                                                 "wide cell           x\n"
+                                                 "           ü      longer than all\n"));
+        QCOMPARE(table.toBytes(false), QByteArray("A\tTitle\tC\nwide cell\t\t  x\n\tü\tlonger than all\n"));
     }
 
     void wrongUsage()

@@ -5,7 +5,10 @@
 #include <QProcess>
 #include <QTest>
 
+#include <sys/prctl.h>
 #include <sys/stat.h>
+
+#include <linux/capability.h>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;
@@ -58,7 +61,7 @@ private Q_SLOTS:
         m_home.addFile(u"damaged.xml"_s, project("<marker><name>M</marker>"));
     }
 
-    /// The list comes through a pipe, and not before another program has changed the project.
+    /// The list comes through a pipe, after another program has changed the project.
     void changedMeanwhile_data()
     {
         QTest::addColumn<bool>("isConfirmed");
@@ -81,7 +84,7 @@ private Q_SLOTS:
         m_home.addFile(u"changing.xml"_s, theirs);
         list.write(contentOf(m_home.path(u"avid.txt"_s)));
         list.close();
-        QVERIFY(program.waitForFinished(120000));
+        QVERIFY(program.waitForFinished(40000));
         QCOMPARE(program.exitCode(), isConfirmed ? 0 : 1);
         QVERIFY(program.readAllStandardError().contains("changed by another program"));
         QCOMPARE(contentOf(path) == theirs, !isConfirmed);
@@ -185,6 +188,24 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_home.path(u"Edit.xml"_s)), edit);
         QCOMPARE(run(u"import ~/damaged.xml ~/fcp.txt --format fcp --yes -o ~/damaged.xml"_s).status, 0);
         QVERIFY(contentOf(m_home.path(u"damaged.xml"_s)).contains("A \"1\""));
+    }
+
+    /// Without the capability of the superuser to read every file.
+    void unreadable()
+    {
+        const QString path = m_home.addFile(u"secret.txt"_s, "A\t00:00:00:05\tV1\tred\t\n");
+        QVERIFY(QFile::setPermissions(path, {}));
+        QProcess program;
+        program.setChildProcessModifier([] {
+            ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+            ::prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
+        });
+        program.start(qEnvironmentVariable("VANTRELL_BIN_DIR") + u"/vantrell-cli"_s,
+                      {u"marker-list"_s, path, u"--format"_s, u"avid"_s});
+        QVERIFY(program.waitForFinished(40000));
+        QCOMPARE(program.exitCode(), 1);
+        QCOMPARE(program.readAllStandardError(),
+                 "vantrell-cli: The file \"" + path.toUtf8() + "\" may not be read.\n");
     }
 
     void refused()

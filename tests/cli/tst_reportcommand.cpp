@@ -69,7 +69,7 @@ private Q_SLOTS:
                        "<color><alpha>0</alpha><red>0</red><green>128</green><blue>255</blue></color>") +
                 "</sequence></xmeml>");
         m_home.addFile(u"empty.xml"_s, "<xmeml><sequence/></xmeml>");
-        // What the user set for printing from the window is not the command line's.
+        // Print settings of the window do not apply to the command line.
         m_home.addFile(u".config/com.orvandel.vantrell.plist"_s,
                        "<plist><dict><key>projectTitle</key><string>X</string>"
                        "<key>printColorLabels</key><integer>1</integer></dict></plist>");
@@ -165,7 +165,7 @@ private Q_SLOTS:
             ":<h1>Night Shift</h1><h2>Effects</h2><table><thead><th>Name</th></thead><tbody>"
             "<tr><td>Opacity</td></tr></tbody></table>";
         QCOMPARE(contentOf(m_home.path(u"out.PDF"_s)), pdf);
-        // The one beside the program comes first.
+        // The one next to the program takes precedence.
         install(u"bin/vantrell-print-pdf"_s, "#!/bin/sh\necho half >\"$6\"; echo No page. >&2; exit 1\n");
         const CliRun failed = run(call);
         QCOMPARE(failed.messages, "vantrell-cli: No page.\n");

@@ -1,4 +1,5 @@
 #include "support/settings/UserDefaults.h"
+#include "tests/support/ApplicationBundle.h"
 #include "tests/support/CliRun.h"
 #include "tests/support/FcpHost.h"
 #include "tests/support/TemporaryHome.h"
@@ -36,12 +37,7 @@ class SendTest : public QObject
 
     static QString text(const char *latin1) { return QString::fromLatin1(latin1); }
 
-    void installEditor()
-    {
-        m_home.addFile(text("apps/F.app/Contents/Info.plist"),
-                       "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                       "<string>com.apple.FinalCutPro</string></dict></plist>");
-    }
+    void installEditor() { addBundle(m_home, text("apps/F.app"), "com.apple.FinalCutPro"); }
 
 private Q_SLOTS:
     void init()
@@ -51,7 +47,7 @@ private Q_SLOTS:
         UserDefaults::standard().synchronize();
     }
 
-    /// Where no editing application runs.
+    /// Without a running editing application.
     void withoutAnApplication_data()
     {
         QTest::addColumn<QString>("file");

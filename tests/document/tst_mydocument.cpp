@@ -1,6 +1,7 @@
 #include "document/MyDocument.h"
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
+#include "tests/support/ApplicationBundle.h"
 #include "tests/support/NoThreads.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
@@ -52,15 +53,13 @@ class MyDocumentTest : public QObject
     {
         const QUrl url = QUrl::fromLocalFile(m_home.addFile(QStringLiteral("p/project.xml"), content));
         QVERIFY(document.readFromURL(url, type));
-        QVERIFY(MainThread::drainUntil([&world] { return world.ended; }, std::chrono::seconds(60)));
+        QVERIFY(MainThread::drainUntil([&world] { return world.ended; }, std::chrono::seconds(40)));
     }
 
     /// An editing application is installed until the end of the test function.
     void installEditor()
     {
-        m_home.addFile(QStringLiteral("apps/F.app/Contents/Info.plist"),
-                       "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                       "<string>com.apple.FinalCutPro</string></dict></plist>");
+        addBundle(m_home, QStringLiteral("apps/F.app"), "com.apple.FinalCutPro");
         UserDefaults::standard().setValue(applicationsFolder, m_home.path(QStringLiteral("apps")));
     }
 
@@ -240,10 +239,10 @@ private Q_SLOTS:
             QVERIFY(
                 document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
             QVERIFY(
-                MainThread::drainUntil([&] { return alerts->openCount() == 1; }, std::chrono::seconds(60)));
+                MainThread::drainUntil([&] { return alerts->openCount() == 1; }, std::chrono::seconds(40)));
             document.close();
         }
-        QVERIFY(MainThread::drainUntil([&] { return alerts->openCount() == 0; }, std::chrono::seconds(60)));
+        QVERIFY(MainThread::drainUntil([&] { return alerts->openCount() == 0; }, std::chrono::seconds(40)));
 
         installEditor();
         std::atomic<bool> isAsked = false;
@@ -259,7 +258,7 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         MyDocument document(world, services);
         QVERIFY(document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
-        QVERIFY(MainThread::drainUntil([&] { return isAsked.load(); }, std::chrono::seconds(60)));
+        QVERIFY(MainThread::drainUntil([&] { return isAsked.load(); }, std::chrono::seconds(40)));
         document.close();
         document.close(); // tells only once
         QVERIFY(!world.ended);
@@ -349,6 +348,24 @@ private Q_SLOTS:
                 "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xmeml version=\"5\">\n  <sequence id=\"s\">\n"
                 "    <name>S</name>\n    <media>\n      <video>\n        <track/>\n      </video>\n"
                 "    </media>\n  </sequence>\n</xmeml>\n"));
+    }
+
+    void savesAfterACancelledSave()
+    {
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        load(document, world, sequence("<video/>"));
+        const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/again.xml")));
+        document.cancelWriting();
+        QVERIFY(document.writeToURL(target, DocumentType::publicXML));
+        QVERIFY(QFile::remove(target.toLocalFile()));
+        document.cancelWriting();
+        std::optional<bool> isSaved;
+        document.writeInBackground(target, DocumentType::publicXML,
+                                   [&isSaved](const Result<void> &outcome) { isSaved = outcome.isOk(); });
+        QVERIFY(MainThread::drainUntil([&isSaved] { return isSaved.has_value(); }, std::chrono::seconds(40)));
+        QVERIFY(*isSaved);
+        QVERIFY(QFile::exists(target.toLocalFile()));
     }
 
     /// The UUIDs changed before and during a send, each when its sequence is not marked as changed, as
@@ -516,7 +533,7 @@ private Q_SLOTS:
                                        ++told;
                                        isSaved = saved.isOk();
                                    });
-        QVERIFY(MainThread::drainUntil([&told] { return told > 0; }, std::chrono::seconds(60)));
+        QVERIFY(MainThread::drainUntil([&told] { return told > 0; }, std::chrono::seconds(40)));
         MainThread::drain();
         QCOMPARE(told, 1);
         QVERIFY(isSaved && !document.isSaving());

@@ -35,7 +35,7 @@ RowList rowsOf(const QString &texts)
     for (const QString &text : parts) {
         auto row = std::make_shared<RowRecord>();
         row->set(nameKey, RecordValue(text));
-        // Its number, as many rows may have it.
+        // A number that several rows may share.
         row->set(inKey, RecordValue(std::int64_t(text.back().digitValue())));
         rows.push_back(row);
     }
@@ -62,7 +62,8 @@ void TestTableSorting::clicks_data()
     QTest::addColumn<bool>("descending");
     const QString in = QStringLiteral("in");
     const QString name = QStringLiteral("name");
-    // The rows stand as "b2 c1 a2 d1"; equal numbers keep their order upwards, and are turned round too.
+    // The rows are "b2 c1 a2 d1"; equal numbers keep their order when ascending, and are reversed when
+    // descending.
     QTest::newRow("first click") << QString() << false << QStringList{in} << "c1 d1 b2 a2" << in << false;
     QTest::newRow("twice") << QString() << false << QStringList{in, in} << "a2 b2 d1 c1" << in << true;
     QTest::newRow("three times") << QString() << false << QStringList{in, in, in} << "d1 c1 a2 b2" << in
@@ -127,6 +128,10 @@ void TestTableSorting::staysWithoutTheTable()
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
     QVERIFY(media.descriptors().empty());
     QVERIFY(defaults.string(QStringLiteral("mediaSortedColumn")).isNull());
+    for (int i = 0; i < 2; ++i)
+        media.tableViewDidClickTableColumn(QStringLiteral("name"));
+    QCOMPARE(defaults.string(QStringLiteral("mediaSortedColumn")), QStringLiteral("name"));
+    QVERIFY(defaults.boolean(QStringLiteral("mediaSortedDescending")));
 }
 
 } // namespace vantrell

@@ -129,7 +129,7 @@ private Q_SLOTS:
         QVERIFY(!opened.document.isEdited());
         QCOMPARE(opened.world.selectedRows(Tab::Markers).size(), std::size_t(1));
 
-        // The view is sorted backwards: the places are those on show.
+        // The view is sorted backwards: row numbers are those of the view.
         opened.world.setSortDescriptors(Tab::Effects, sortDescriptors("name:desc"));
         opened.inventory.populateFilteredEffectData();
         QCOMPARE(opened.shownNames(), QStringLiteral("Z|On it|G|C|B|A"));

@@ -56,7 +56,7 @@ private Q_SLOTS:
                                        filter(named("B", "AUDIO")) + "</clipitem>")),
              f + " name=A mediaType=Video" + inS + '\n' + f + " name=B mediaType=Audio" + inS +
                  " clip=C clipUUID=V clipID=c%201\n" + g + " name=G mediaType=Video" + inS},
-            // Of a single sequence the tracks alone count.
+            // In a single sequence only the tracks count.
             {"<xmeml>" +
                  sequence("S", clip(filter(named("A")) + sequence("N", "<generatoritem/>")) +
                                    "<clip><filter/></clip>") +
@@ -68,7 +68,7 @@ private Q_SLOTS:
             {project(clip(filter("<enabled>False</enabled><enabled>TRUE</enabled>") + filter("<enabled/>") +
                           filter("<enabled> FALSE</enabled>"))),
              off + '\n' + f + '\n' + f},
-            // Words are parted by white space alone; a name is looked for within the effect.
+            // Words are separated by white space only; a name is searched for within the effect.
             {project(clip("<name>C</name>" + filter(named("A%20B", "vIDEO left-hand o'NEIL\tx")) +
                           filter("<effect><x><name>deep</name></x></effect>") +
                           filter("<effect id=\"E\"/><effect><name>second</name></effect>") +

@@ -32,10 +32,10 @@ QString text(const RowList &rows)
 {
     QStringList texts;
     for (const RowRecordPtr &row : rows) {
-        const QString place = row->contains(ImportedMarkerKey::seconds)
-                                  ? QString::number(row->get(ImportedMarkerKey::seconds), 'g', 17)
-                                  : row->get(ImportedMarkerKey::startTimecode);
-        texts.append(row->size() == 0 ? u"-"_s : row->get(ImportedMarkerKey::name) + u'=' + place);
+        const QString position = row->contains(ImportedMarkerKey::seconds)
+                                     ? QString::number(row->get(ImportedMarkerKey::seconds), 'g', 17)
+                                     : row->get(ImportedMarkerKey::startTimecode);
+        texts.append(row->size() == 0 ? u"-"_s : row->get(ImportedMarkerKey::name) + u'=' + position);
     }
     return texts.join(u' ');
 }
@@ -92,7 +92,7 @@ private Q_SLOTS:
         }
     }
 
-    void places()
+    void positions()
     {
         const struct {
             const char *format;
@@ -101,7 +101,7 @@ private Q_SLOTS:
             const char *timecodes;
             const char *seconds;
         } rows[] = {
-            // The ends of the item, and a hair outside.
+            // The ends of the item, and just outside.
             {at25, fromOneHour,
              "<clip offset='100s' start='10s' duration='10s'>@a=10s @b=20s @c=9999/1000s @d=20001/1000s "
              "</clip>",
@@ -119,6 +119,9 @@ private Q_SLOTS:
             {"name='r1'", fromOneHour, "<gap duration='9s'>@a=1/2s </gap>", "a=01:00:00:30", "a=0.5"},
             {"frameDuration='0/0s'", "tcStart='5/0s'", "<gap offset='7/0s'>@a=1/0s </gap>", "a=00:00:00:00",
              "a=0"},
+            // 2^63 frames a second.
+            {"frameDuration='1/9223372036854775808s'", "", "<gap duration='9s'>@a=1s </gap>", "a=00:00:01:00",
+             "a=1"},
             // Frame 90000 less 25.
             {at25, fromOneHour, "<gap offset='-1s'>@a=0s </gap>", "a=00:59:59:00", "a=-1"},
             {at25, "", "<gap offset='1e308s' start='-1e308s' duration='1e308s'>@a=-1e308s @b=0s </gap>",

@@ -36,7 +36,7 @@ QByteArray markerXml(const char *name, const char *comment, const char *in, cons
            element("in", in) + element("out", out) + "</marker>";
 }
 
-/// A project with what exchanges its markers.
+/// A project with its importer and exporter.
 struct Project : MarkerProject {
     using MarkerProject::MarkerProject;
 
@@ -204,9 +204,9 @@ private Q_SLOTS:
              markerXml("A", "note", "25", "50", orange) +
                  markerXml("\u00e9 &amp; \u0416", "", "0", "-1", blue),
              markerXml("C", "x", "100", "101"), u"C|x|0|100|101\nA|note|1|25|50\n\u00e9 & \u0416||5|0|-1"_s},
-            // A length of no frames is none; white space around a comment goes.
+            // A duration of 0 frames is none; white space around a comment is trimmed.
             {0, markerXml("A", "\n two words ", "25", "25"), {}, u"A|two words|0|25|-1"_s},
-            // A tab or a line feed in a field loses its row.
+            // A tab or a line feed in a field makes its row unreadable.
             {0,
              markerXml("A", "a\tb", "5", "-1") + markerXml("B", "", "6", "-1") +
                  markerXml("C", "a\nb", "7", "-1"),
@@ -256,7 +256,7 @@ private Q_SLOTS:
                                      m_home.path()};
         QCOMPARE(project.importer.markerOpenDialogDidEnd(nothing, accepted, u"fcp"_s)->next, std::size_t(0));
 
-        // Rows that cannot be added are told of together, with their lines.
+        // Rejected rows are reported together, with their lines.
         const QByteArray row = "<\t00:00:00:02\tV1\tred\t\n";
         const QString broken = m_home.addFile(
             u"list.txt"_s, row + "\n" + row + "ok \U0001F386\t00:00:00:02\tV1\tred\t\n" + row.repeated(20));

@@ -67,7 +67,7 @@ private Q_SLOTS:
         other.fields.setObjectValue(QStringLiteral("lens"), QStringLiteral("identifier"), 0);
         other.fields.hideMarkerFieldsDialog();
         QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
-        other.fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 2); // no such place: it stays
+        other.fields.columnMoved(QStringLiteral("QVCUSTOM_TAKE"), 2); // no such index: it stays
         other.fields.setupMarkerFields();
         QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
     }

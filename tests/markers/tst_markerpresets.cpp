@@ -53,7 +53,7 @@ class MarkerPresetsTest : public QObject
     }
     QString selected() const { return m_defaults->string(selectedPreset); }
 
-    /// The pop-up's items with a star behind the chosen one, and "-" for the separator.
+    /// The items of the pop-up, with a star after the selected one and "-" for the separator.
     static QString menu(const ScriptedDocumentInterface &world)
     {
         QStringList items;
@@ -283,7 +283,7 @@ private Q_SLOTS:
         presets.refreshMarkerPresets();
         QCOMPARE(menu(project.world), QStringLiteral("None|A|B*|-|Create preset..."));
         QCOMPARE(project.world.markerLabels.first(), QStringLiteral("b"));
-        // While its file is away the choice is not given up.
+        // The selection is kept while its file is missing.
         QVERIFY(QFile::rename(pathOf(QStringLiteral("B.markerpreset")), pathOf(QStringLiteral("away"))));
         presets.refreshMarkerPresets();
         QCOMPARE(menu(project.world), QStringLiteral("None*|A|-|Create preset..."));

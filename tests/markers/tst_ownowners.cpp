@@ -121,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(sameAfterReading());
     }
 
-    /// After any edit the records are what a new reading of the tree gives.
+    /// After any edit the records equal those of a new load.
     void randomEdits()
     {
         for (quint64 seed = 0; seed < quint64(seriesLength(400)); ++seed) {

@@ -16,8 +16,8 @@ using namespace vantrell;
 namespace
 {
 
-/// Reads markers one by one as the rules are told: over location paths and queries, with nothing kept but
-/// the two caches that the rules have.
+/// A plain reference implementation: reads markers one by one by location paths and queries, with the two
+/// caches that the results depend on.
 class PlainReader
 {
 public:
@@ -208,7 +208,7 @@ QString outline(XmlNode element, XmlNode left)
     return text;
 }
 
-/// A record's columns that were edited with a text that a reload gives back.
+/// The edited columns of a record whose text survives a reload.
 using Edited = std::map<RowRecordPtr, QStringList>;
 
 } // namespace

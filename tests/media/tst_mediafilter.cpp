@@ -75,7 +75,8 @@ private Q_SLOTS:
             {3, "", "", "c"},
             {4, "", "", "bac-def"},
             {0, "/Volumes/Media", "", "ba"},
-            // Neither the volumes, nor what only begins like their folder, nor what has no folder.
+            // Neither the volumes, nor paths that only share a prefix with their folder, nor files without a
+            // folder.
             {0, "/", "", "c"},
             {2, "/Volumes/Media 2", "", "a"},
             {0, "", "filename", "-abcdef"},
@@ -167,7 +168,7 @@ private Q_SLOTS:
                 media.document.viewState().mediaKind = 3;
                 media.filter.changeMediaFilter();
             }
-            MainThread::drainUntil([&] { return hasEnded; }, std::chrono::seconds(60));
+            MainThread::drainUntil([&] { return hasEnded; }, std::chrono::seconds(40));
             worker.join();
             QCOMPARE(media.document.rowsOnShow(Tab::Media).size(), std::size_t(0));
             QCOMPARE(media.document.tableTab(), isOtherTab ? Tab::Effects : Tab::Media);

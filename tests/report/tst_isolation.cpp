@@ -19,21 +19,21 @@ QByteArray output(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray();
+    return process.waitForFinished(40000) ? process.readAllStandardOutput() : QByteArray();
 }
 
 /// In pixels.
 int widthOf(const QString &png)
 {
-    constexpr int place = 16;
+    constexpr int offset = 16;
     const QByteArray bytes = contentOf(png);
-    return bytes.size() > place + 4 ? int(qFromBigEndian<quint32>(bytes.constData() + place)) : 0;
+    return bytes.size() > offset + 4 ? int(qFromBigEndian<quint32>(bytes.constData() + offset)) : 0;
 }
 
 } // namespace
 
-/// Projects whose marker names attempt what a report must not do: a PDF is made of each, with what else the
-/// project holds, and nothing comes of the attempt.
+/// Projects whose marker names attempt what a report must not do: a PDF is made of each, complete with the
+/// rest of the project, and the attempt has no effect.
 class TestIsolation : public QObject
 {
     Q_OBJECT
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(m_connections, 0);
         const QByteArray text = output(u"pdftotext"_s, {pdf, u"-"_s});
         QVERIFY2(text.contains("Before") && !text.contains("SECRET"), text.constData());
-        // The report's own, and what the engine draws in the place of one that it did not get.
+        // The report's own, and what the engine draws instead of one that it did not get.
         const QList<QByteArray> lines =
             output(u"pdfimages"_s, {u"-list"_s, pdf}).trimmed().split('\n').mid(2);
         QVERIFY(!lines.isEmpty());

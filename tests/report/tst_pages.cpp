@@ -18,7 +18,7 @@ QByteArray output(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray();
+    return process.waitForFinished(40000) ? process.readAllStandardOutput() : QByteArray();
 }
 
 QString binFolder()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         const QString pdf = m_home.path(u"out.pdf"_s);
         QProcess process;
         process.start(binFolder() + u'/' + helper, arguments(html, pdf) + options);
-        QVERIFY(process.waitForFinished(60000));
+        QVERIFY(process.waitForFinished(40000));
         QCOMPARE(process.exitCode(), 0);
         QCOMPARE(process.readAllStandardOutput(), QByteArray());
         const QByteArray facts = output(u"pdfinfo"_s, {pdf});
@@ -114,7 +114,7 @@ private Q_SLOTS:
                                             ? QStringList{u"Scoring"_s, u"QVCUSTOM_C"_s}
                                             : QStringList{u"In"_s})
                 QVERIFY2(text.contains(title), qPrintable(title));
-            // A row that went on would leave words of its comment above the first name of the next page.
+            // A split row would leave words of its comment above the first name of the next page.
             const QStringList words = text.simplified().split(u' ');
             int pageComments = 0;
             for (const QString &word : words)
@@ -165,7 +165,7 @@ private Q_SLOTS:
         for (const auto &row : rows) {
             QProcess process;
             process.start(binFolder() + u'/' + helper, row.arguments);
-            QVERIFY(process.waitForFinished(60000));
+            QVERIFY(process.waitForFinished(40000));
             QVERIFY2(process.exitCode() == row.status, qPrintable(row.arguments.join(u' ')));
             QVERIFY(process.readAllStandardOutput().isEmpty() && !process.readAllStandardError().isEmpty());
         }

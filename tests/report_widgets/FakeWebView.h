@@ -10,7 +10,7 @@
 namespace vantrell
 {
 
-/// A web view without a web engine: it notes what it gets, and answers after the time that a test wants.
+/// A web view without a web engine: records its calls, and answers after a time set by the test.
 class FakeWebView final : public WebView
 {
 public:

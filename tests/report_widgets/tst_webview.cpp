@@ -36,7 +36,7 @@ QByteArray output(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray();
+    return process.waitForFinished(40000) ? process.readAllStandardOutput() : QByteArray();
 }
 
 } // namespace
@@ -116,7 +116,7 @@ private Q_SLOTS:
         PrintOperation *const operation = m_print->printOperationWithPrintInfo(info, this);
         QSignalSpy finished(operation, &PrintOperation::finished);
         operation->run();
-        QVERIFY(finished.wait(60000));
+        QVERIFY(finished.wait(40000));
         const QByteArray facts = output(u"pdfinfo"_s, {info.file});
         QVERIFY2(facts.contains("Reel") && facts.contains("841.92 x 594.96"), facts.constData());
         QVERIFY(output(u"pdftotext"_s, {info.file, u"-"_s}).contains("Märker 199"));

@@ -6,7 +6,7 @@
 namespace vantrell
 {
 
-/// Takes what the process writes to standard error while it lives, on whatever thread. One at a time.
+/// Captures what the process writes to standard error, on any thread, during its lifetime. One at a time.
 class CapturedStandardError
 {
 public:
@@ -15,7 +15,7 @@ public:
     CapturedStandardError &operator=(const CapturedStandardError &) = delete;
     ~CapturedStandardError();
 
-    /// What has been written so far.
+    /// The text written so far.
     QByteArray text();
 
 private:

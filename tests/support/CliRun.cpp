@@ -18,7 +18,7 @@ CliRun runProgram(const QString &program, const QStringList &arguments, const QB
     process.write(input);
     process.closeWriteChannel();
     CliRun run;
-    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(40000) && process.exitStatus() == QProcess::NormalExit)
         run.status = process.exitCode();
     run.output = process.readAllStandardOutput();
     run.messages = process.readAllStandardError();

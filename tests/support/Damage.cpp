@@ -125,7 +125,7 @@ QByteArray Damage::damaged(QByteArray file)
     return file;
 }
 
-qsizetype Damage::placeIn(const QByteArray &file)
+qsizetype Damage::offsetIn(const QByteArray &file)
 {
     // Now and then near the start, where the declarations are.
     const qsizetype bound = m_random.oneIn(8) ? std::min<qsizetype>(file.size(), 120) : file.size();
@@ -135,27 +135,27 @@ qsizetype Damage::placeIn(const QByteArray &file)
 void Damage::changeBytes(QByteArray &file)
 {
     for (int i = 1 + m_random.below(8); i > 0 && !file.isEmpty(); --i)
-        file[std::min(placeIn(file), file.size() - 1)] = char(m_random.below(256));
+        file[std::min(offsetIn(file), file.size() - 1)] = char(m_random.below(256));
 }
 
 void Damage::cut(QByteArray &file)
 {
-    const qsizetype place = placeIn(file);
+    const qsizetype offset = offsetIn(file);
     if (m_random.oneIn(2))
-        file.truncate(place);
+        file.truncate(offset);
     else
-        file.remove(place, 1 + m_random.below(m_random.oneIn(2) ? 10 : 2000));
+        file.remove(offset, 1 + m_random.below(m_random.oneIn(2) ? 10 : 2000));
 }
 
 void Damage::duplicate(QByteArray &file)
 {
-    const QByteArray part = file.mid(placeIn(file), 1 + m_random.below(m_random.oneIn(2) ? 20 : 3000));
-    file.insert(placeIn(file), part);
+    const QByteArray part = file.mid(offsetIn(file), 1 + m_random.below(m_random.oneIn(2) ? 20 : 3000));
+    file.insert(offsetIn(file), part);
 }
 
 void Damage::breakTag(QByteArray &file)
 {
-    const qsizetype tag = file.indexOf('<', placeIn(file));
+    const qsizetype tag = file.indexOf('<', offsetIn(file));
     const qsizetype end = tag < 0 ? -1 : file.indexOf('>', tag);
     if (end < 0)
         return;
@@ -179,7 +179,7 @@ void Damage::breakTag(QByteArray &file)
 
 void Damage::insertMarkup(QByteArray &file)
 {
-    file.insert(placeIn(file), m_random.pick(pieces));
+    file.insert(offsetIn(file), m_random.pick(pieces));
 }
 
 void Damage::mislabel(QByteArray &file)

@@ -8,9 +8,8 @@
 namespace vantrell
 {
 
-/// Files as they come out of broken disks, transfers and editors: projects with one to three faults, each
-/// bytes changed, cut, doubled or put in, a tag broken, or an encoding other than the declared one. The same
-/// for the same seed.
+/// Files as left by broken disks, transfers and editors: projects with one to three faults: bytes changed,
+/// cut, duplicated or inserted, a broken tag, or a wrong encoding declaration. Determined by the seed.
 class Damage
 {
 public:
@@ -21,7 +20,7 @@ public:
 
     QByteArray damaged(QByteArray file);
 
-    /// Small projects to damage: what is in no sample, in several encodings.
+    /// Small projects to damage: cases missing in the samples, in several encodings.
     static QByteArrayList smallProjects();
 
 private:
@@ -31,7 +30,7 @@ private:
     void breakTag(QByteArray &file);
     void insertMarkup(QByteArray &file);
     void mislabel(QByteArray &file);
-    qsizetype placeIn(const QByteArray &file);
+    qsizetype offsetIn(const QByteArray &file);
 
     RandomNumbers m_random;
 };

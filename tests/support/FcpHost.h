@@ -13,8 +13,7 @@
 namespace vantrell
 {
 
-/// The program fcp-host with projects open in it, where the programs of the home look for it; killed with
-/// this object.
+/// A running fcp-host with open projects, found by programs with this home. Killed on destruction.
 class FcpHost
 {
 public:
@@ -32,13 +31,13 @@ public:
         return qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/fcp-host");
     }
 
-    /// Has the application installed in the folder, which starts the program when it is asked for.
+    /// Installs the application in the folder; it starts the program on request.
     static bool installBundle(const QString &folder)
     {
         return QProcess::execute(program(), {QStringLiteral("--install-bundle"), folder}) == 0;
     }
 
-    /// Starts it with that command line and waits until it listens; false when it does not.
+    /// Starts it with these arguments and waits until it listens; false when it does not.
     bool start(const QStringList &arguments)
     {
         QFile::remove(m_log);
@@ -47,16 +46,16 @@ public:
         return hasSaid("listening on");
     }
 
-    /// Waits until the text has come on standard error; false when it does not.
+    /// Waits until the text appears on standard error; false when it does not.
     bool hasSaid(const QByteArray &text)
     {
         m_messages += m_process.readAllStandardError();
-        while (!m_messages.contains(text) && m_process.waitForReadyRead(60000))
+        while (!m_messages.contains(text) && m_process.waitForReadyRead(40000))
             m_messages += m_process.readAllStandardError();
         return m_messages.contains(text);
     }
 
-    /// What it is asked stays without an answer, until it goes on.
+    /// Suspends it: requests stay unanswered until goOn().
     void hang() { ::kill(pid_t(m_process.processId()), SIGSTOP); }
     void goOn() { ::kill(pid_t(m_process.processId()), SIGCONT); }
     void kill()
@@ -67,7 +66,7 @@ public:
         m_process.waitForFinished();
     }
 
-    /// The events that came since the start, by their identifiers.
+    /// The identifiers of the events received since the start.
     QStringList allEvents() const
     {
         QStringList identifiers;
@@ -77,7 +76,7 @@ public:
         }
         return identifiers;
     }
-    /// The same but for those that only list the projects.
+    /// The same without those that only list the projects.
     QString events() const
     {
         QStringList identifiers = allEvents();

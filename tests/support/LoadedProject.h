@@ -9,8 +9,8 @@
 namespace vantrell
 {
 
-/// A document in a scripted world, with a folder for its file. What derives from it and adds builders
-/// closes the document in its destructor.
+/// A document with a scripted interface and a folder for its file. A derived class that adds builders must
+/// close the document in its destructor.
 class LoadedProject
 {
 public:
@@ -30,11 +30,11 @@ public:
         document.readFromURL(QUrl::fromLocalFile(file.fileName()), DocumentType::publicXML);
     }
 
-    /// Loads it; false when that did not end in a minute.
+    /// Loads it; false when that did not end in 40 seconds.
     bool load(const QByteArray &xml)
     {
         start(xml);
-        return MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(60));
+        return MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(40));
     }
 
     QString label(Label label) const { return world.label(label); }
@@ -42,7 +42,7 @@ public:
     const QTemporaryDir folder; ///< of the project's file
     ScriptedDocumentInterface world;
     MyDocument document;
-    /// Run on threads of their own by a load, the first two of them.
+    /// Run by a load on threads of their own; at most two.
     std::vector<std::function<void()>> builders;
 
 private:

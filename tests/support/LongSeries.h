@@ -5,9 +5,8 @@
 namespace vantrell
 {
 
-/// How many cases of a series of random ones to try: all of `length` when the environment variable
-/// VANTRELL_SERIES is "full", as tools/series sets it; else a fixed share, always the same first ones: a
-/// quarter, or a twentieth under a sanitizer.
+/// The number of random cases to try: all of `length` when the environment variable VANTRELL_SERIES is
+/// "full", as set by tools/series; else the first quarter, or the first twentieth under a sanitizer.
 inline int seriesLength(int length)
 {
     if (qgetenv("VANTRELL_SERIES") == "full")

@@ -8,7 +8,7 @@
 namespace vantrell
 {
 
-/// The same row of numbers for the same seed on every system.
+/// The same numbers for the same seed on every system.
 class RandomNumbers
 {
 public:
@@ -26,9 +26,8 @@ private:
     quint64 m_state;
 };
 
-/// A small odd project: bins and sequences in one another, clips and multiclips with markers everywhere,
-/// filters, generators and files, and values of every unlikely kind. Well-formed XML, the same for the
-/// same seed.
+/// A small odd project: nested bins and sequences, clips and multiclips with markers everywhere, filters,
+/// generators and files, and unlikely values of every kind. Well-formed XML, determined by the seed.
 class RandomProject
 {
 public:
@@ -52,7 +51,7 @@ private:
     QByteArray timecode();
     QByteArray names();
     QByteArray color();
-    /// The element with one of the texts, or sometimes nothing, an empty element or two of them.
+    /// The element with one of the texts; sometimes none, an empty one or two.
     QByteArray maybe(const QByteArray &name, const QByteArrayList &texts);
     QByteArray idAttribute();
 

@@ -8,8 +8,8 @@
 namespace vantrell
 {
 
-/// Answers alerts from a script. An alert that comes when the script has run out stays open until
-/// answerOpenAlert(), like one that the user looks at. Main thread only.
+/// Answers alerts from a script. After the end of the script an alert stays open until answerOpenAlert(), as
+/// if the user were reading it. Main thread only.
 class ScriptedAlertPresenter final : public AlertPresenter
 {
 public:
@@ -29,16 +29,16 @@ public:
 
     void queueAnswer(int code) { m_answers.push_back(code); }
 
-    /// The user presses a button of the alert that was shown last; false when it is not open.
+    /// Presses a button of the last alert; false when it is not open.
     bool answerOpenAlert(int code);
 
     /// Run once by the next dispatchOneEvent().
     void queueEvent(std::function<void()> event) { m_events.push_back(std::move(event)); }
 
-    /// Every alert from now on cannot be shown.
+    /// From now on no alert can be shown.
     void refuseToShow() { m_refuses = true; }
 
-    /// A window that carries a sheet of somebody else's.
+    /// A window with a sheet that is not an alert.
     void setForeignSheet(AlertParent *parent) { m_foreignSheet = parent; }
 
     const std::vector<Shown> &shown() const { return m_shown; }

@@ -7,7 +7,7 @@
 namespace vantrell
 {
 
-/// A document's world in a test: notes what it was asked for. Main thread.
+/// The interface of a document in a test: records the requests. Main thread.
 class ScriptedDocumentInterface : public HeadlessDocumentInterface
 {
 public:
@@ -44,7 +44,7 @@ public:
     QStringList events;
     MenuPtr sequenceMenu;
     QStringList presetMenu;
-    int selectedPreset = -1; ///< its place in the menu
+    int selectedPreset = -1; ///< its index in the menu
     QStringList markerLabels;
     bool loaded = false;
     bool ended = false; ///< loading is over: every inventory has ended, or it failed

@@ -9,9 +9,9 @@
 namespace vantrell
 {
 
-/// A home folder of its own for one test: HOME and the XDG folders point into it, and so does the
-/// system-wide library folder. The log takes the process for an ordinary user's. All is put back at
-/// the end. One at a time, on the main thread, while no other thread reads the environment.
+/// A home folder for one test: HOME, the XDG folders and the system-wide library folder point into it, and
+/// the log takes the process for that of an ordinary user. Restored on destruction. One at a time, on the
+/// main thread, while no other thread reads the environment.
 class TemporaryHome
 {
 public:
@@ -24,7 +24,7 @@ public:
     QString path() const { return m_folder.path(); }
     QString path(const QString &relative) const { return m_folder.filePath(relative); }
 
-    /// Writes a file in the home, with the folders that lead to it, and gives its path.
+    /// Writes a file in the home, creating its folders, and returns its path.
     QString addFile(const QString &relative, const QByteArray &content) const;
 
 private:
@@ -40,7 +40,7 @@ private:
     std::vector<Variable> m_variables;
 };
 
-/// What a file holds; empty when it cannot be read.
+/// The content of a file; empty when it cannot be read.
 QByteArray contentOf(const QString &path);
 
 } // namespace vantrell

@@ -31,7 +31,7 @@ QStringList namesIn(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-/// No file may grow beyond a size while it lives: what a full disk is to a writer.
+/// Limits the size of files during its lifetime, which looks like a full disk to a writer.
 class FileSizeLimit
 {
 public:
@@ -262,7 +262,7 @@ private Q_SLOTS:
         auto gone = TransientFile::make(path);
         QVERIFY(QFile::remove(path));
         QVERIFY(!gone.value().remove());
-        // A link to nothing stands in the way without being a file.
+        // A dangling link occupies the name without being a file.
         QVERIFY(QFile::link(home.path(QStringLiteral("nowhere")), path));
         QVERIFY(!TransientFile::make(path));
     }

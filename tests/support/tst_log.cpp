@@ -92,7 +92,7 @@ struct Run {
     {
         QProcess process;
         process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(role)});
-        if (process.waitForFinished(60'000))
+        if (process.waitForFinished(40000))
             output = process.readAllStandardError();
         exitedNormally = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     }

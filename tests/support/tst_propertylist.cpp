@@ -162,7 +162,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Whatever is cut off or overwritten, the answer is a value or a failure.
+    /// Whatever is cut off or overwritten, the result is a value or a failure.
     void survivesDamage()
     {
         for (const PropertyList::Format format : {PropertyList::Format::Xml, PropertyList::Format::Binary}) {

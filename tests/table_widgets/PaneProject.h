@@ -31,7 +31,7 @@ public:
     }
     ~PaneProject() { bench.document().close(); }
 
-    /// Loads the project; false when that fails or does not end in a minute.
+    /// Loads the project; false when that fails or does not end in 40 seconds.
     bool load()
     {
         QProcess prepare;
@@ -41,7 +41,7 @@ public:
             return false;
         const QString path = QString::fromUtf8(prepare.readAllStandardOutput()).trimmed();
         if (!bench.open(path) ||
-            !MainThread::drainUntil([this] { return ended; }, std::chrono::seconds(60)) || !loaded)
+            !MainThread::drainUntil([this] { return ended; }, std::chrono::seconds(40)) || !loaded)
             return false;
         for (TabPane *pane : panes)
             pane->setEditingEnabled(true);

@@ -98,9 +98,9 @@ void TestModels::showValues()
     QFETCH(const QString, column);
     m_project->show(tab);
     const QString name = tab == Tab::Media ? QStringLiteral("filename") : QStringLiteral("name");
-    const int place = m_project->rowOf(tab, name, row);
-    QVERIFY(place >= 0);
-    QTEST(m_project->text(tab, place, column), "text");
+    const int modelRow = m_project->rowOf(tab, name, row);
+    QVERIFY(modelRow >= 0);
+    QTEST(m_project->text(tab, modelRow, column), "text");
 }
 
 void TestModels::haveImages_data()
@@ -132,9 +132,9 @@ void TestModels::haveImages()
     QFETCH(const QString, column);
     m_project->show(tab);
     const QString name = tab == Tab::Media ? QStringLiteral("filename") : QStringLiteral("name");
-    const int place = m_project->rowOf(tab, name, row);
-    QVERIFY(place >= 0);
-    const QIcon icon = m_project->cell(tab, place, column).data(Qt::DecorationRole).value<QIcon>();
+    const int modelRow = m_project->rowOf(tab, name, row);
+    QVERIFY(modelRow >= 0);
+    const QIcon icon = m_project->cell(tab, modelRow, column).data(Qt::DecorationRole).value<QIcon>();
     QTEST(!icon.isNull(), "hasImage");
     if (!icon.isNull())
         QCOMPARE(icon.pixmap(QSize(16, 16)).size(), QSize(16, 16));
@@ -145,9 +145,9 @@ void TestModels::offerClipsOfTheRow()
     m_project->show(Tab::Markers);
     const TableModel &model = m_project->markers.model();
     const auto titles = [&](const QString &row, const QString &column) {
-        const int place = m_project->rowOf(Tab::Markers, QStringLiteral("name"), row);
+        const int modelRow = m_project->rowOf(Tab::Markers, QStringLiteral("name"), row);
         QStringList texts;
-        for (const PopUpItem &item : model.popUpItems(m_project->cell(Tab::Markers, place, column)))
+        for (const PopUpItem &item : model.popUpItems(m_project->cell(Tab::Markers, modelRow, column)))
             texts.append(item.title);
         return texts;
     };
@@ -156,7 +156,7 @@ void TestModels::offerClipsOfTheRow()
                               QStringLiteral("Küste bei Nacht (still)"), QStringLiteral("Harbour Wide")};
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Opening"), clip).size() > 10);
-    // What was removed keeps its place but cannot be chosen.
+    // A removed item keeps its index but cannot be selected.
     const QModelIndex cell = m_project->cell(
         Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("First light")),
         clip);

@@ -85,9 +85,9 @@ void TestTables::clickHeader(Tab tab, const QString &column)
 {
     QHeaderView *header = project().pane(tab).table().horizontalHeader();
     const int section = project().pane(tab).model().columnOf(column);
-    const QPoint place(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
+    const QPoint point(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
                        header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, point);
 }
 
 void TestTables::click(const QModelIndex &cell)
@@ -223,15 +223,15 @@ void TestTables::contextMenuSelectsOneRow()
     project().markers.selectRows({0, 1, 2});
     QVTableView &table = project().markers.table();
     const QModelIndex cell = project().cell(Tab::Markers, 1, QStringLiteral("name"));
-    const QPoint place = table.visualRect(cell).center();
-    QVERIFY(table.menuForEvent(place));
+    const QPoint point = table.visualRect(cell).center();
+    QVERIFY(table.menuForEvent(point));
     QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{1});
     // Also with a key held that otherwise takes the row out of the selection, or more into it.
     for (const auto key : {Qt::ControlModifier, Qt::ShiftModifier}) {
         project().markers.selectRows({0, 1, 2});
-        QTest::mouseClick(table.viewport(), Qt::RightButton, key, place);
+        QTest::mouseClick(table.viewport(), Qt::RightButton, key, point);
         QTest::keyPress(&table, key == Qt::ControlModifier ? Qt::Key_Control : Qt::Key_Shift, key);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, table.viewport()->mapToGlobal(place), key);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, point, table.viewport()->mapToGlobal(point), key);
         QCoreApplication::sendEvent(table.viewport(), &event);
         QTest::keyRelease(&table, key == Qt::ControlModifier ? Qt::Key_Control : Qt::Key_Shift);
         QVERIFY(table.menu()->isVisible());
@@ -267,9 +267,9 @@ void TestTables::editTexts()
     const QString name = QStringLiteral("Café du Port");
     const QModelIndex cell = project().cell(Tab::Markers, marker(name), column);
     QVTableView &table = project().markers.table();
-    const QPoint place = table.visualRect(cell).center();
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    const QPoint point = table.visualRect(cell).center();
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, point);
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, point);
     auto *field = table.findChild<QLineEdit *>();
     QVERIFY(field);
     QCOMPARE(field->selectedText(), project().text(Tab::Markers, cell.row(), column));

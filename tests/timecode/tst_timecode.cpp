@@ -233,11 +233,14 @@ void TestTimecode::ratesAndSeconds()
         bool dropFrame;
         QString timecode;
     } rows[] = {
-        {0.5, 25, false, u"00:00:00:13"_s},       {3600, 29.97f, true, u"01:00:00;00"_s},
+        {0.5, 25, false, u"00:00:00:13"_s},
+        {3600, 29.97f, true, u"01:00:00;00"_s},
         {-0.02, 25, false, u"01:14:40:00"_s}, // half a frame before zero is 2^64 − 1
-        {kNoNumber, 25, false, u"00:00:00:00"_s}, {2, float(kNoNumber), false, u"00:00:00:00"_s},
+        {kNoNumber, 25, false, u"00:00:00:00"_s},
+        {2, float(kNoNumber), false, u"00:00:00:00"_s},
         {1e300, 25, true, u"00:00:00;00"_s}, // a multiple of 2^64
         {0, 1e30f, true, u"00:00:00;00"_s},
+        {1, 0x1p63f, false, u"00:00:01:00"_s}, // 2^63 frames at a timebase of 2^63 − 1, the same as a double
     };
     for (const auto &row : rows) {
         compare(QVTimecode::timecodeFromSeconds(row.seconds, row.fps, row.dropFrame), row.timecode,

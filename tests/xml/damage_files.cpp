@@ -35,7 +35,8 @@ QByteArrayList contentsOf(const QStringList &folders)
     return contents;
 }
 
-/// Opens the file with all that a project is looked through for, and saves it; what is wrong, or nothing.
+/// Opens the file, reads everything that a project is read for, and saves it. Returns the problem, or
+/// nothing.
 QString tried(const QString &path, const QString &savedPath, bool &isOpened)
 {
     const auto document = XmlDocument::fromFile(path, {});
@@ -50,9 +51,8 @@ QString tried(const QString &path, const QString &savedPath, bool &isOpened)
 
 } // namespace
 
-/// OUTPUT COUNT FOLDER...: writes the damaged files as OUTPUT/1.xml and so on, and beside each that could be
-/// opened what was saved of it as OUTPUT/saved/1.xml. Status 1 when one was neither opened nor refused with
-/// a reason.
+/// OUTPUT COUNT FOLDER...: writes the damaged files as OUTPUT/1.xml and so on, and those that could be opened
+/// and saved again as OUTPUT/saved/1.xml. Status 1 when one was neither opened nor refused with a reason.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

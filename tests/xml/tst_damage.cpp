@@ -16,7 +16,7 @@ using namespace vantrell;
 namespace
 {
 
-/// Whether the XML library by itself finds the bytes well-formed.
+/// Whether the XML library considers the bytes well-formed.
 bool isWellFormed(const QByteArray &xml)
 {
     const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> parsed(
@@ -35,7 +35,7 @@ class DamageTest : public QObject
     const TemporaryHome m_home;
 
 private Q_SLOTS:
-    /// A share of what tools/damage goes through.
+    /// A share of what tools/damage tries.
     void opensOrTellsWhyNot()
     {
         QByteArrayList projects = Damage::smallProjects();

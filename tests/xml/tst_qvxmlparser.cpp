@@ -100,7 +100,7 @@ private Q_SLOTS:
                  QStringLiteral("1,2,3"));
         QVERIFY(!QVXMLParser::nodesForQuery(QStringLiteral("./f["), r));
         QVERIFY(!QVXMLParser::nodeForQuery(QStringLiteral("./f["), r));
-        // References that the escaping makes stand for their characters, also those that were there.
+        // References made by the escaping count as their characters, as do those already there.
         const QStringList sameId{QStringLiteral("./f[@id=\"é & \U0001F3AC\"]"),
                                  QStringLiteral("./f[@id=\"é &amp; \U0001F3AC\"]"),
                                  QStringLiteral("./f\t[@id=\"é &\x01 \U0001F3AC\"]")};

@@ -425,7 +425,7 @@ private Q_SLOTS:
 
     void referencesInARowCostNoMore()
     {
-        // Each comes as a text of its own: their memory once grew with the square of their number.
+        // Each comes as a text of its own; memory must stay linear in their number.
         const auto document = parsed("<a>" + QByteArray("&#66;").repeated(400'000) + "</a>");
         QCOMPARE(document->rootElement().stringValue(), QString(400'000, QLatin1Char('B')));
     }
@@ -501,7 +501,7 @@ private Q_SLOTS:
         QVERIFY(document->moveTo(b, root.childElement("d")));
         QCOMPARE(XmlDocument::textOfElement(root), QStringLiteral("<a><d><b><c>edited</c></b></d></a>"));
         QVERIFY(!document->moveTo(root.childElement("d"), c));
-        // Replacing what an element holds keeps the elements that it held.
+        // Replacing the content of an element keeps its former child elements.
         XmlEdit::setText(b, QStringLiteral("flat"));
         QCOMPARE(c.stringValue(), QStringLiteral("edited"));
         XmlNode copy = document->copyOfElement(root);
@@ -574,7 +574,7 @@ private Q_SLOTS:
 
     void cancellingEndsALongText()
     {
-        // One text, so that nothing but the reading comes by.
+        // One text, so that only reading can notice the cancel flag.
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("p.xml"));
         QFile file(path);

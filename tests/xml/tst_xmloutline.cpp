@@ -7,7 +7,7 @@ using namespace vantrell;
 namespace
 {
 
-/// "name@depth|text of the element|what it holds" of each element.
+/// "name@depth|text of the element|its content" of each element.
 QString described(const QByteArray &xml, const XmlOutline &outline)
 {
     QStringList texts;

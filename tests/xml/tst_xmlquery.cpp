@@ -3,7 +3,9 @@
 #include "xml/XmlQuery.h"
 #include "xml/XmlQueryFallback.h"
 
+#include <QDirIterator>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <random>
@@ -34,7 +36,7 @@ QStringList described(const XmlNodeList &nodes)
     return texts;
 }
 
-/// A tree of few names, so that queries find things at odd places.
+/// A tree with few different names, so that queries match at odd positions.
 QByteArray randomTree(std::mt19937 &random, int depth)
 {
     static const char *const names[] = {"a", "b", "c", "name"};
@@ -48,6 +50,22 @@ QByteArray randomTree(std::mt19937 &random, int depth)
         xml += random() % 4 == 0 ? QByteArray("t") + QByteArray::number(int(random() % 2))
                                  : randomTree(random, depth - 1);
     return xml + "</" + name + ">";
+}
+
+/// The texts in a source file that are queries: relative paths, and absolute ones that have an index.
+QStringList queriesIn(const QString &source)
+{
+    static const QRegularExpression literals(
+        QStringLiteral("QStringLiteral\\(((?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")+)\\s*\\)"));
+    static const QRegularExpression seams(QStringLiteral("^\\s*\"|\"\\s*\"|\"\\s*$"));
+    static const QRegularExpression query(QStringLiteral("^\\./|^/\\w+\\[\\d"));
+    QStringList queries;
+    for (const QRegularExpressionMatch &match : literals.globalMatch(source)) {
+        const QString text = match.captured(1).remove(seams);
+        if (text.contains(query))
+            queries.append(text);
+    }
+    return queries;
 }
 
 } // namespace
@@ -143,7 +161,7 @@ private Q_SLOTS:
         for (int round = 0; round < 60; ++round) {
             const QByteArray xml = "<r>" + randomTree(random, 5) + randomTree(random, 5) + "</r>";
             const auto document = parsed(xml);
-            // As it was parsed, and with elements taken out and moved.
+            // As parsed, and with elements removed and moved.
             for (const int step : {0, 1}) {
                 if (step == 1) {
                     const XmlNode root = document->rootElement();
@@ -173,6 +191,26 @@ private Q_SLOTS:
         QVERIFY(XmlQuery(QStringLiteral(".//x")).evaluate(XmlNode()).nodes.empty());
     }
 
+    /// The queries are read from the program's sources.
+    void queriesOfTheProgramDoWithoutTheLibrary()
+    {
+        QVERIFY(XmlQuery(QStringLiteral(".//a[last()]")).needsLibrary());
+        const QDir root(qEnvironmentVariable("VANTRELL_SOURCE_DIR"));
+        const QStringList others{QStringLiteral("bench"), QStringLiteral("build"), QStringLiteral("tests")};
+        QStringList queries;
+        for (const QString &folder : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QDirIterator files(root.filePath(folder), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
+                               QDir::Files, QDirIterator::Subdirectories);
+            while (!others.contains(folder) && files.hasNext())
+                queries += queriesIn(QString::fromUtf8(contentOf(files.next())));
+        }
+        queries.removeDuplicates();
+        QVERIFY2(queries.size() > 40, qPrintable(QString::number(queries.size())));
+        queries.append(QStringLiteral(".//sequence/uuid[text()=\"U 1\"]")); // put together by the program
+        for (const QString &query : std::as_const(queries))
+            QVERIFY2(!XmlQuery(query).needsLibrary(), qPrintable(query));
+    }
+
     void errorsAreTold_data()
     {
         QTest::addColumn<QString>("query");
@@ -188,7 +226,7 @@ private Q_SLOTS:
 
     void costGrowsInStepWithTheTree()
     {
-        // Nested contexts and 60,000 siblings: what a quadratic union or sort would take minutes for.
+        // Nested contexts and 60,000 siblings: a quadratic union or sort would take minutes.
         QByteArray xml("<r>");
         for (int i = 0; i < 60000; ++i)
             xml += "<a><b/><a><c/></a></a>";

@@ -91,7 +91,7 @@ private Q_SLOTS:
              {QByteArray("&#55356;"), QByteArray("&#55356;&#57260;"), QByteArray("<!--"), QByteArray("&#00"),
               QByteArray("<a>&#55356;&#57260;")})
             XmlReferences::joinedSurrogates(part.repeated(longWork(1'000'000)));
-        QVERIFY(timer.elapsed() < 60'000);
+        QVERIFY(timer.elapsed() < 40000);
     }
 };
 
