@@ -11,8 +11,8 @@ namespace vantrell
 class ProgressSheet;
 class TabPane;
 
-/// What a window is to its document: hands on to the panes and the progress sheet what it asks. It lives
-/// until the document has ended, which may be after the window. Main thread.
+/// The document's interface to its window: forwards to the panes and the progress sheet. It lives as long as
+/// the document, which may outlive the window. Main thread.
 class DocumentWindowInterface final : public DocumentInterface
 {
 public:
@@ -25,7 +25,7 @@ public:
 
     /// Must be called before the document loads.
     void connectTo(const Panes &panes, ProgressSheet *progress);
-    /// The panes go away; what the document asks from now on is left undone.
+    /// The panes are about to be deleted; later requests of the document are ignored.
     void disconnectFromWindow();
 
     AlertParent *alertParent() override { return &m_alertParent; }

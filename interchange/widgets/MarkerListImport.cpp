@@ -16,7 +16,7 @@ namespace vantrell
 namespace
 {
 
-/// How long a few markers may take to be added: the window answers in between.
+/// How long markers are added before the window handles events again.
 constexpr std::chrono::milliseconds slice{15};
 
 } // namespace
