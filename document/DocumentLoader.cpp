@@ -75,6 +75,7 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
     populateSequences();
     QString notice;
     if (m_xmlDoc->wasRepaired()) {
+        m_damagedFile = url.toLocalFile();
         notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
                      .arg(url.toLocalFile(), m_xmlDoc->firstFault());
         if (!m_xmlDoc->loss().isEmpty())

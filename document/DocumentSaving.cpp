@@ -175,10 +175,8 @@ bool MyDocument::refusesWhileSaving(const QString &alertTitle)
 
 bool MyDocument::confirmSavingRepaired(const QString &path)
 {
-    if (!m_xmlDoc->wasRepaired() || m_fileIsOurs)
-        return true;
-    const bool overItself = QFileInfo(path) == QFileInfo(m_fileURL.toLocalFile());
-    if (!overItself || !QFileInfo::exists(path))
+    const bool isDamaged = !m_damagedFile.isNull() && QFileInfo(path) == QFileInfo(m_damagedFile);
+    if (!isDamaged || !QFileInfo::exists(path))
         return true;
     QString question =
         QStringLiteral("Saving replaces the damaged file with the repaired project. Do you want to save it?");

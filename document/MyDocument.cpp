@@ -6,6 +6,8 @@
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace vantrell
@@ -50,7 +52,8 @@ void MyDocument::close()
 void MyDocument::setFileURL(const QUrl &url)
 {
     m_fileURL = url;
-    m_fileIsOurs = true;
+    if (!m_damagedFile.isNull() && QFileInfo(url.toLocalFile()) == QFileInfo(m_damagedFile))
+        m_damagedFile = QString();
     if (m_written.path == url.toLocalFile())
         m_knownFile->note(m_written.path, m_written.stamp);
 }

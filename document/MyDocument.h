@@ -312,7 +312,7 @@ private:
     std::atomic<bool> m_closing = false;
 
     QUrl m_fileURL;
-    bool m_fileIsOurs = false; ///< what stands there was saved by this document
+    QString m_damagedFile; ///< that was repaired while it was loaded and has not been replaced; null for none
     std::shared_ptr<KnownFile> m_knownFile = std::make_shared<KnownFile>();
     // The saver's while it runs
     std::optional<FileStamp> m_changedFile; ///< what the last save found at the path of the file

@@ -19,8 +19,8 @@ constexpr std::size_t mostFilled = 8;                        // blocks; then the
 } // namespace
 
 XmlEvents::XmlEvents(XmlTreeBuilder &builder)
-    : m_builder(builder)
-    , m_block(firstBlockSize)
+    : m_block(firstBlockSize)
+    , m_builder(builder)
 {
     m_spare.reserve(mostFilled); // so that the thread can give a block back whatever memory there is
 }
@@ -135,49 +135,49 @@ void XmlEvents::replay(const Block &block, std::size_t used)
             std::memcpy(&size, at, sizeof size);
             at += sizeof size;
         }
-        tell(event, {at, std::size_t(size)});
+        tell(m_builder, event, {at, std::size_t(size)});
         at += size;
     }
 }
 
-void XmlEvents::tell(const Event &event, std::string_view text)
+void XmlEvents::tell(XmlTreeBuilder &builder, const Event &event, std::string_view text)
 {
     switch (Kind(event.kind)) {
     case Kind::StartElement:
-        m_builder.startElement(event.number);
+        builder.startElement(event.number);
         break;
     case Kind::EndElement:
-        m_builder.endElement();
+        builder.endElement();
         break;
     case Kind::Namespace:
-        m_builder.addNamespace(event.number, text);
+        builder.addNamespace(event.number, text);
         break;
     case Kind::Attribute:
-        m_builder.addAttribute(event.number, text);
+        builder.addAttribute(event.number, text);
         break;
     case Kind::Space:
-        m_builder.setSpace(event.number != 0);
+        builder.setSpace(event.number != 0);
         break;
     case Kind::Text:
-        m_builder.addText(text);
+        builder.addText(text);
         break;
     case Kind::CData:
-        m_builder.addCData(text);
+        builder.addCData(text);
         break;
     case Kind::Comment:
-        m_builder.addComment(text);
+        builder.addComment(text);
         break;
     case Kind::BareInstruction:
-        m_builder.addInstruction(event.number);
+        builder.addInstruction(event.number);
         break;
     case Kind::Instruction:
-        m_builder.addInstruction(event.number, text);
+        builder.addInstruction(event.number, text);
         break;
     case Kind::Doctype:
-        m_builder.addDoctype();
+        builder.addDoctype();
         break;
     case Kind::KeepSpace:
-        m_builder.keepSpace();
+        builder.keepSpace();
         break;
     }
 }

@@ -252,7 +252,7 @@ int XmlInput::read(char *buffer, int length)
             return 0;
     } while (m_handedOut == m_block.text.size() && fill());
     const std::size_t count = std::min(std::size_t(length), m_block.text.size() - m_handedOut);
-    std::memcpy(buffer, m_block.text.data() + m_handedOut, count);
+    std::copy_n(m_block.text.data() + m_handedOut, count, buffer);
     m_handedOut += count;
     return int(count);
 }

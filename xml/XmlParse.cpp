@@ -373,7 +373,7 @@ private:
     XmlInput m_input;
     XmlTree &m_tree;
     XmlNames m_names;
-    XmlTreeBuilder m_builder;
+    alignas(xmlThreadAlignment) XmlTreeBuilder m_builder;
     XmlEvents m_events; // destroyed before the builder
     int m_depth = 0;
     bool m_inSubset = false;

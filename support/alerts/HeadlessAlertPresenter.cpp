@@ -14,9 +14,6 @@ namespace vantrell
 AlertPresenter::AlertId HeadlessAlertPresenter::begin(const AlertDescription &description, AlertParent *,
                                                       Answer answered)
 {
-    m_shown.push_back(description);
-    const AlertId alert = m_shown.size();
-
     QString line = description.value(AlertKey::MessageText);
     const QString informativeText = description.value(AlertKey::InformativeText);
     if (!informativeText.isEmpty())
@@ -31,7 +28,7 @@ AlertPresenter::AlertId HeadlessAlertPresenter::begin(const AlertDescription &de
     const bool cancelsByDefault =
         isQuestion && description.value(AlertKey::DefaultButtonTitle) == QStringLiteral("Cancel");
     answered(isRefused == cancelsByDefault ? AlertAnswer::Default : AlertAnswer::Alternate);
-    return alert;
+    return 1; // it is gone by now
 }
 
 void HeadlessAlertPresenter::dispatchOneEvent(std::chrono::milliseconds limit)

@@ -2,8 +2,6 @@
 
 #include "support/alerts/AlertPresenter.h"
 
-#include <vector>
-
 namespace vantrell
 {
 
@@ -33,13 +31,9 @@ public:
     /// Whether a question was refused so far.
     bool questionRefused() const { return m_questionRefused; }
 
-    /// What was shown so far, in order.
-    const std::vector<AlertDescription> &shown() const { return m_shown; }
-
 private:
     bool m_assumeYes;
     bool m_questionRefused = false;
-    std::vector<AlertDescription> m_shown;
 };
 
 } // namespace vantrell

@@ -44,24 +44,21 @@ class NumberLocale
 {
 public:
     NumberLocale()
-        : m_locale(newlocale(LC_NUMERIC_MASK, "C", nullptr))
+        : m_previous(uselocale(shared()))
     {
-        if (m_locale)
-            m_previous = uselocale(m_locale);
     }
     NumberLocale(const NumberLocale &) = delete;
     NumberLocale &operator=(const NumberLocale &) = delete;
-    ~NumberLocale()
-    {
-        if (!m_locale)
-            return;
-        uselocale(m_previous);
-        freelocale(m_locale);
-    }
+    ~NumberLocale() { uselocale(m_previous); }
 
 private:
-    locale_t m_locale;
-    locale_t m_previous = nullptr;
+    static locale_t shared()
+    {
+        static const locale_t locale = newlocale(LC_NUMERIC_MASK, "C", nullptr);
+        return locale;
+    }
+
+    const locale_t m_previous;
 };
 
 Failure damaged(const QString &reason)

@@ -11,6 +11,7 @@
 #include "support/widgets/WindowAlertPresenter.h"
 #include "table/widgets/QVTableView.h"
 #include "tests/support/LongSeries.h"
+#include "tests/support/NoMemory.h"
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
@@ -539,6 +540,33 @@ private Q_SLOTS:
         QTRY_COMPARE(imported.count(), 3);
         QTRY_COMPARE(told, QStringLiteral("No markers to import"));
         QCOMPARE(model.rowCount(), 24 + count);
+    }
+
+    void anImportWithoutMemoryEnds()
+    {
+        openSample();
+        const QString list = m_home->addFile(QStringLiteral("list.txt"), "Cue\t01:00:20:00\tV1\tred\tNew\n");
+        QSignalSpy imported(m_window, &DocumentWindow::markersImported);
+        QString told;
+        QTimer clock; // the alert runs in an event loop of its own
+        connect(&clock, &QTimer::timeout, &clock, [&told] {
+            if (QMessageBox *const box = visibleBox()) {
+                told = box->text();
+                press(box, QStringLiteral("OK"));
+            }
+        });
+        clock.start(10);
+        {
+            const NoMemory none(40);
+            m_window->importMarkerLists({list}, MarkerListFormat::avid);
+            QTRY_COMPARE(imported.count(), 1);
+        }
+        QCOMPARE(imported.at(0).at(0).value<std::size_t>(), std::size_t(0));
+        QTRY_COMPARE(told, QStringLiteral("No markers to import"));
+        QVERIFY(!m_window->isBusy() && !m_window->isWindowModified());
+        m_window->importMarkerLists({list}, MarkerListFormat::avid);
+        QTRY_COMPARE(imported.count(), 2);
+        QCOMPARE(imported.at(1).at(0).value<std::size_t>(), std::size_t(1));
     }
 
     void anImportIsAskedAboutBadRows()

@@ -2,6 +2,7 @@
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/support/ApplicationBundle.h"
+#include "tests/support/NoMemory.h"
 #include "tests/support/NoThreads.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/ScriptedDocumentInterface.h"
@@ -446,14 +447,16 @@ private Q_SLOTS:
         QVERIFY(world.notice.contains(QStringLiteral("repaired")));
         const QString loss = QStringLiteral("all 34 bytes could be read");
         QVERIFY(world.notice.contains(loss));
-        QVERIFY(document.writeToURL(QUrl::fromLocalFile(m_home.path(QStringLiteral("p/other.xml"))),
-                                    DocumentType::publicXML));
+        const QUrl original = document.fileURL();
+        const QUrl other = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/other.xml")));
+        QVERIFY(document.writeToURL(other, DocumentType::publicXML));
+        document.setFileURL(other); // which does not make the damaged file any better
         QVERIFY(alerts->shown().empty());
-        QVERIFY(!document.writeToURL(document.fileURL(), DocumentType::publicXML));
-        QCOMPARE(contentOf(document.fileURL().toLocalFile()), damaged);
+        QVERIFY(!document.writeToURL(original, DocumentType::publicXML));
+        QCOMPARE(contentOf(original.toLocalFile()), damaged);
         QVERIFY(alerts->shown().back().text(AlertKey::InformativeText).contains(loss));
-        QVERIFY(document.writeToURL(document.fileURL(), DocumentType::publicXML));
-        QVERIFY(contentOf(document.fileURL().toLocalFile()).endsWith("</xmeml>\n"));
+        QVERIFY(document.writeToURL(original, DocumentType::publicXML));
+        QVERIFY(contentOf(original.toLocalFile()).endsWith("</xmeml>\n"));
         QCOMPARE(alerts->shown().size(), std::size_t(2));
         QCOMPARE(alerts->shown().front().text(AlertKey::DefaultButtonTitle), QStringLiteral("Cancel"));
     }
@@ -551,6 +554,27 @@ private Q_SLOTS:
         MainThread::drain();
         QCOMPARE(told, 1);
         QVERIFY(isSaved && !document.isSaving());
+    }
+
+    void aSaveWithoutMemoryIsTold()
+    {
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        load(document, world, sequence(""));
+        const QString path = m_home.path(QStringLiteral("p/failed.xml"));
+        QStringList told;
+        {
+            const NoMemory none(40);
+            document.writeInBackground(
+                QUrl::fromLocalFile(path), DocumentType::publicXML,
+                [&](const Result<void> &saved) { told.append(saved ? QString() : saved.message()); });
+            QVERIFY(MainThread::drainUntil([&told] { return !told.isEmpty(); }, std::chrono::seconds(40)));
+        }
+        MainThread::drain();
+        QCOMPARE(told.size(), 1);
+        QVERIFY(!told.front().isEmpty());
+        QVERIFY(!document.isSaving() && !QFileInfo::exists(path));
+        QVERIFY(document.writeToURL(QUrl::fromLocalFile(path), DocumentType::publicXML));
     }
 
     void anInventoryThatThrowsIsTold()
