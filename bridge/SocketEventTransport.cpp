@@ -36,7 +36,7 @@ EventResult<Descriptor> connectTo(const QString &path, const QDeadlineTimer &dea
             return EventFailure{EventError::OutOfMemory, qt_error_string(errno)};
         if (errno != EAGAIN && errno != EINTR)
             return EventFailure{EventError::ProcessNotFound,
-                                QStringLiteral("its event socket does not answer: ") +
+                                QStringLiteral("nobody answers on its event socket: ") +
                                     qt_error_string(errno)};
         if (cancel.waitFor(std::min<std::chrono::milliseconds>(10ms, timeLeft(deadline))))
             return EventFailure{EventError::Cancelled, QStringLiteral("it was cancelled")};

@@ -365,6 +365,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence("<video/>"));
         const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/again.xml")));
         document.cancelWriting();
@@ -539,6 +540,7 @@ private Q_SLOTS:
         int inventories = 0;
         const auto count = [&inventories](MyDocument &) { ++inventories; };
         MyDocument document(world, {{count, count}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QVERIFY(world.loaded && world.ended);
         QCOMPARE(inventories, 2);
@@ -560,6 +562,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence(""));
         const QString path = m_home.path(QStringLiteral("p/failed.xml"));
         QStringList told;
