@@ -36,14 +36,6 @@ public:
     virtual void removeMarkerColumn(const QString &identifier) = 0;
     virtual void moveMarkerColumn(const QString &identifier, int index) = 0;
 
-    /// The items of the marker preset pop-up, a separator where the title is null, and the chosen one.
-    virtual void setMarkerPresetMenu(const QStringList &titles, int selected) = 0;
-    /// The titles of the eight colours in the marker filter and in the colour cells; they may be empty.
-    virtual void setMarkerLabels(const QStringList &labels) = 0;
-    /// The sheet that makes a marker preset.
-    virtual void showMarkerPresetSheet() = 0;
-    virtual void hideMarkerPresetSheet() = 0;
-
     virtual void startProgress() = 0;
     virtual void updateProgressLabel(const QString &text) = 0;
     virtual void endProgress() = 0;

@@ -19,10 +19,6 @@ public:
     void addMarkerColumn(const QString &identifier, const QString &title) override;
     void removeMarkerColumn(const QString &identifier) override;
     void moveMarkerColumn(const QString &identifier, int index) override;
-    void setMarkerPresetMenu(const QStringList &, int) override {}
-    void setMarkerLabels(const QStringList &) override {}
-    void showMarkerPresetSheet() override {}
-    void hideMarkerPresetSheet() override {}
     void startProgress() override {}
     void updateProgressLabel(const QString &) override {}
     void endProgress() override {}

@@ -65,26 +65,6 @@ void DocumentWindowInterface::moveMarkerColumn(const QString &identifier, int in
     withPane(Tab::Markers, [&](TabPane &pane) { pane.moveColumn(identifier, index); });
 }
 
-void DocumentWindowInterface::setMarkerPresetMenu(const QStringList &titles, int selected)
-{
-    withPane(Tab::Markers, [&](TabPane &pane) { pane.setMarkerPresetMenu(titles, selected); });
-}
-
-void DocumentWindowInterface::setMarkerLabels(const QStringList &labels)
-{
-    withPane(Tab::Markers, [&](TabPane &pane) { pane.setMarkerLabels(labels); });
-}
-
-void DocumentWindowInterface::showMarkerPresetSheet()
-{
-    withPane(Tab::Markers, [](TabPane &pane) { pane.showMarkerPresetSheet(); });
-}
-
-void DocumentWindowInterface::hideMarkerPresetSheet()
-{
-    withPane(Tab::Markers, [](TabPane &pane) { pane.hideMarkerPresetSheet(); });
-}
-
 void DocumentWindowInterface::startProgress()
 {
     if (m_progress)

@@ -36,10 +36,6 @@ public:
     void addMarkerColumn(const QString &identifier, const QString &title) override;
     void removeMarkerColumn(const QString &identifier) override;
     void moveMarkerColumn(const QString &identifier, int index) override;
-    void setMarkerPresetMenu(const QStringList &titles, int selected) override;
-    void setMarkerLabels(const QStringList &labels) override;
-    void showMarkerPresetSheet() override;
-    void hideMarkerPresetSheet() override;
     void startProgress() override;
     void updateProgressLabel(const QString &text) override;
     void endProgress() override;

@@ -94,14 +94,18 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     makeMenus();
     updateControls();
 
-    connect(m_markerPresetPopUp, &MarkerPresetPopUp::presetChosen, this,
-            [this](int item) { this->workbench().markerPresets().changeMarkerPreset(item); });
+    MarkerPresets *const presets = &workbench.markerPresets();
+    connect(presets, &MarkerPresets::menuChanged, m_markerPresetPopUp, &MarkerPresetPopUp::setMenu);
+    connect(presets, &MarkerPresets::labelsChanged, this, &MarkersPane::setMarkerLabels);
+    connect(presets, &MarkerPresets::sheetRequested, this, &MarkersPane::openPresetSheet);
+    connect(presets, &MarkerPresets::sheetEnded, this, &MarkersPane::closePresetSheet);
+    connect(m_markerPresetPopUp, &MarkerPresetPopUp::presetChosen, presets,
+            &MarkerPresets::changeMarkerPreset);
     connect(m_markerPresetPopUp, &MarkerPresetPopUp::createRequested, this,
             &MarkersPane::showMarkerPresetDialog);
     connect(m_fields, &QPushButton::clicked, this, &MarkersPane::showMarkerFieldsDialog);
     auto *const presetFiles = new FolderWatcher(MarkerPresets::folder(), this);
-    connect(presetFiles, &FolderWatcher::changed, this,
-            [this] { this->workbench().markerPresets().refreshMarkerPresets(); });
+    connect(presetFiles, &FolderWatcher::changed, presets, &MarkerPresets::refreshMarkerPresets);
 }
 
 MarkersPane::~MarkersPane()
@@ -128,11 +132,6 @@ void MarkersPane::makeMenus()
 MarkerTableModel &MarkersPane::markerModel() const
 {
     return static_cast<MarkerTableModel &>(model());
-}
-
-void MarkersPane::setMarkerPresetMenu(const QStringList &titles, int selected)
-{
-    m_markerPresetPopUp->setMenu(titles, selected);
 }
 
 void MarkersPane::setMarkerLabels(const QStringList &labels)
@@ -190,14 +189,14 @@ void MarkersPane::showMarkerPresetDialog()
         workbench().markerPresets().showMarkerPresetDialog();
 }
 
-void MarkersPane::showMarkerPresetSheet()
+void MarkersPane::openPresetSheet()
 {
     m_presetSheet = new MarkerPresetSheet(workbench().markerPresets(), this);
     m_presetSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_presetSheet->open();
 }
 
-void MarkersPane::hideMarkerPresetSheet()
+void MarkersPane::closePresetSheet()
 {
     if (m_presetSheet)
         m_presetSheet->done(QDialog::Accepted);

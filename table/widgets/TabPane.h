@@ -47,11 +47,6 @@ public:
 
     // What a document asks of its interface
 
-    virtual void setMarkerPresetMenu(const QStringList &, int) {}
-    virtual void setMarkerLabels(const QStringList &) {}
-    virtual void showMarkerPresetSheet() {}
-    virtual void hideMarkerPresetSheet() {}
-
     /// Indexes in the rows on show, ascending; empty while another tab's rows are on show.
     std::vector<std::size_t> selectedRows() const;
     void selectRows(const std::vector<std::size_t> &rows);

@@ -42,14 +42,6 @@ public:
                          });
     }
 
-    void setMarkerPresetMenu(const QStringList &titles, int selected) override
-    {
-        presetMenu = titles;
-        selectedPreset = selected;
-    }
-    void setMarkerLabels(const QStringList &labels) override { markerLabels = labels; }
-    void showMarkerPresetSheet() override { events.append(QStringLiteral("show preset sheet")); }
-    void hideMarkerPresetSheet() override { events.append(QStringLiteral("hide preset sheet")); }
     void startProgress() override { events.append(QStringLiteral("start progress")); }
     void updateProgressLabel(const QString &text) override
     {
@@ -59,9 +51,6 @@ public:
 
     QStringList events;
     MenuPtr sequenceMenu;
-    QStringList presetMenu;
-    int selectedPreset = -1; ///< its index in the menu
-    QStringList markerLabels;
     bool loaded = false;
     bool ended = false; ///< loading is over: every inventory has ended, or it failed
     bool edited = false;
