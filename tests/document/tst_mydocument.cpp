@@ -563,6 +563,24 @@ private Q_SLOTS:
         QVERIFY(document.writeToURL(QUrl::fromLocalFile(path), DocumentType::publicXML));
     }
 
+    void theEndOfTheLoadIsToldInSpiteOfAnException()
+    {
+        struct Failing final : ScriptedDocumentInterface {
+            int failures = 3;
+            void loadFinished(bool wasLoaded, const QString &failure, const QString &loadNotice) override
+            {
+                if (failures-- > 0)
+                    throw std::bad_alloc();
+                ScriptedDocumentInterface::loadFinished(wasLoaded, failure, loadNotice);
+            }
+        };
+        Failing world;
+        MyDocument document(world, {});
+        load(document, world, sequence(""));
+        QVERIFY(world.loaded && world.ended);
+        QCOMPARE(world.failures, -1);
+    }
+
     void anInventoryThatThrowsIsTold()
     {
         ScriptedDocumentInterface world;
