@@ -54,8 +54,12 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
     try {
         m_loader = std::thread(load);
     } catch (const std::exception &) {
-        QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
-        m_mainThread->post(load);
+        const bool isQueued = guarded("MyDocument::readFromURL", [&] {
+            QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
+            m_mainThread->post(load);
+        });
+        if (!isQueued)
+            load();
     }
     return true;
 }
@@ -145,7 +149,10 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
             return;
         if (!loaded)
             m_loadFailure = message.isNull() ? QStringLiteral("") : message;
-        Q_EMIT loadFinished(loaded, message, notice);
+        // The queue goes on after an exception; the window would wait for ever.
+        constexpr int attempts = 50;
+        persistently(
+            "MyDocument::reportLoad", [&] { Q_EMIT loadFinished(loaded, message, notice); }, attempts);
     };
     persistently("MyDocument::reportLoad", [&] { m_mainThread->runAndWait(report); });
 }

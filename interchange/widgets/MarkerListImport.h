@@ -41,6 +41,7 @@ Q_SIGNALS:
 private:
     void add(MarkerListImporter::Rows rows);
     void addSome();
+    void finish();
 
     MyDocument &m_document;
     const MarkerListImporter &m_importer;

@@ -580,6 +580,21 @@ private Q_SLOTS:
         QVERIFY(document.writeToURL(QUrl::fromLocalFile(path), DocumentType::publicXML));
     }
 
+    void theEndOfTheLoadIsToldInSpiteOfAnException()
+    {
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        int failures = 3;
+        connect(&document, &MyDocument::loadFinished, &document, [&failures] {
+            if (failures-- > 0)
+                throw std::bad_alloc();
+        });
+        world.watch(document);
+        load(document, world, sequence(""));
+        QVERIFY(world.loaded && world.ended);
+        QCOMPARE(failures, -1);
+    }
+
     void anInventoryThatThrowsIsTold()
     {
         ScriptedDocumentInterface world;
