@@ -240,6 +240,11 @@ private Q_SLOTS:
             utf16 += char(unit >> 8);
         }
         add("lone surrogates", utf16, "<a>é!<b/>\U0001F3AC</a>", "line 1: bytes that are no UTF-16LE");
+        QByteArray utf32;
+        for (const char c : QByteArray("<a>xy<b/>z</a>"))
+            utf32 += QByteArray(1, c) + QByteArray(3, '\0');
+        add("bytes missing in UTF-32", QByteArray(utf32).remove(14, 2), "<a>y<b/>z</a>",
+            "line 1: bytes that are no UTF-32LE");
         add("encoding declared too late",
             "\n<?xml version=\"1.0\" encoding=\"windows-1252\"?><a>caf\xE9<b/></a>", "<a>café<b/></a>",
             "line 2: XML declaration allowed only at the start of the document");
