@@ -31,15 +31,15 @@ quint64 orderOf(std::int64_t integer)
     return quint64(integer) ^ signBit;
 }
 
-/// The bits of a number stand in its order, those of negative ones the other way round.
+/// Bits that compare as the numbers do: those of a negative number are inverted.
 quint64 orderOf(double number)
 {
     const auto bits = std::bit_cast<quint64>(number + 0.0); // one zero only
     return bits & signBit ? ~bits : bits | signBit;
 }
 
-/// The different texts of a column in their order. Many rows have the same text, and a number is sooner
-/// compared than a text.
+/// The different texts of a column in their order. Many rows have the same text, and numbers are compared
+/// faster than texts.
 class TextRanks
 {
 public:
@@ -87,8 +87,8 @@ private:
         return comparison != 0 ? comparison < 0 : m_texts[a].text < m_texts[b].text;
     }
 
-    /// The first eight code units, the first one counting most, or those up to the first that takes more
-    /// than a byte: of two different beginnings the smaller one belongs to the text that comes first.
+    /// The first eight code units as bytes, the first one highest, up to the first above 0xfe, which counts
+    /// as 0xff: of two different beginnings, the smaller is that of the text that comes first.
     static quint64 beginningOf(const QString &text)
     {
         constexpr int units = 8;

@@ -9,10 +9,10 @@
 namespace vantrell
 {
 
-/// The rows in the order of the descriptors, the first one counting most; rows that they do not tell
-/// apart keep their order. Without descriptors nothing moves. An absent value comes first; texts are
-/// compared without regard to case, then exactly; numbers, dates and booleans by value. Each row's value
-/// is asked for once a descriptor. An identifier that is none of the columns' is a record key. Any thread.
+/// The rows in the order of the descriptors, most important first; rows that compare as equal keep their
+/// order, as do all rows without descriptors. An absent value comes first; texts are compared without
+/// regard to case, then exactly; numbers, dates and booleans by value. Each row's value is read once for
+/// each descriptor. An identifier that is none of the columns' is a record key. Any thread.
 RowList sortedRows(RowList rows, const std::vector<SortDescriptor> &descriptors, const Columns &columns = {});
 
 /// The rows in reverse order.

@@ -24,8 +24,8 @@ class RowView : public QObject
     Q_OBJECT
 
 public:
-    /// How the visible rows are ordered: as the list, or by the sort descriptors. Rows that were added since
-    /// are the last ones.
+    /// How the visible rows are ordered: as the list, or by the sort descriptors. Rows that were added
+    /// since come last.
     enum class Order { Document, Sorted };
 
     /// What one rebuild of the visible rows takes from the list.
@@ -82,11 +82,11 @@ public:
     void showList();
     /// Another tab's rows become visible.
     void hide();
-    /// Tells that records of visible rows have changed.
+    /// Reports that records of visible rows have changed.
     void reload();
 
-    /// The table reloads once for all rows that are appended while one of these lives; replaced meanwhile,
-    /// the visible rows lack those that wait. The view outlives it.
+    /// While one of these lives, appended rows wait, and the table reloads once for all of them. Those that
+    /// wait when the visible rows are replaced are not added to them. The view outlives it.
     class Updates
     {
     public:
@@ -105,9 +105,9 @@ public:
     /// Shows the rows that wait.
     void showWaitingRows();
 
-    /// Makes the visible rows anew from the list: takes a snapshot on the main thread, picks and sorts the
+    /// Rebuilds the visible rows from the list: takes a snapshot on the main thread, picks and sorts the
     /// rows on the calling one, with no lock, and shows them on the main thread, unless another rebuild was
-    /// begun meanwhile or, on another thread than the main one, `isWanted` no longer holds then. False when
+    /// started meanwhile or, on another thread than the main one, `isWanted` no longer holds then. False when
     /// the document closes first. Any thread.
     bool rebuild(MainThreadGate &mainThread, const std::function<bool()> &isWanted);
 
@@ -117,7 +117,7 @@ Q_SIGNALS:
     /// Around every change of the visible rows, always in pairs.
     void willReload();
     void didReload();
-    /// An inventory has begun to make the list, or has ended.
+    /// An inventory of the list has started or ended.
     void populatingChanged(bool isPopulating);
 
 private:
@@ -139,7 +139,7 @@ private:
     Order m_order = Order::Document;
     int m_updates = 0; // alive
     RowList m_waitingRows;
-    std::uint64_t m_rebuilds = 0; // begun so far
+    std::uint64_t m_rebuilds = 0; // started so far
 };
 
 } // namespace vantrell

@@ -55,7 +55,7 @@ public:
     /// file's name. False, with the reason in the window, when the type is unknown.
     bool open(const QString &path, const QString &typeName = QString());
 
-    /// The file that the window stands for, and the document type it was last opened or saved as.
+    /// The window's file, and the document type it was last opened or saved as.
     QString path() const { return m_path; }
     QString typeName() const { return m_typeName; }
     State state() const { return m_state.stage(); }
@@ -109,7 +109,7 @@ public Q_SLOTS:
     /// Writes the document to its file in the background, or sends it when it is a project of an editing
     /// application; saved() reports the result.
     void save() { m_saving.saveTo(m_path); }
-    /// Asks for a file and saves to it; from then on the window stands for that file.
+    /// Asks for a file and saves to it; from then on it is the window's file.
     void saveAs() { m_saving.saveAs(); }
     void saveTo(const QString &path) { m_saving.saveTo(path); }
     /// Loads the file again, after a question if changes would be lost.

@@ -42,7 +42,7 @@ public:
     void reset();
 
 Q_SIGNALS:
-    /// An operation has begun or ended.
+    /// An operation has started or ended.
     void changed();
     /// It has ended, and this is what follows.
     void ended(vantrell::WindowState::Next next);

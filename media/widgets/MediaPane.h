@@ -43,7 +43,7 @@ private:
     QPushButton *m_reveal;
     QVGraphView *m_chart;
     std::vector<DriveItem> m_driveItems;
-    int m_driveLookups = 0; // begun so far
+    int m_driveLookups = 0; // started so far
 };
 
 } // namespace vantrell

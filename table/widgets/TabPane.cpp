@@ -39,7 +39,7 @@ QString layoutKey(Tab tab)
     return TableSorting::prefixOf(tab) + QStringLiteral("ColumnLayout");
 }
 
-/// A cell's text in a line of texts.
+/// A cell's text on one line, without tabs.
 QString plain(QString text)
 {
     for (const char16_t separator : {u'\t', u'\n', u'\r'})
@@ -68,7 +68,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
         const QScopedValueRollback<bool> edits(m_edits, true);
         const std::vector<std::size_t> selected = selectedRows();
-        // Let the only row that the edit writes to be the one that was clicked.
+        // An edit that writes to a single row writes to the one that was clicked.
         const Column &edited = m_model->columnAt(m_model->columnOf(column));
         const bool editsOne = edited.edits == Column::Edits::FirstRow;
         const bool isSelected = editsOne
@@ -231,7 +231,7 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
             selection.append(
                 QItemSelectionRange(m_model->index(int(first), 0), m_model->index(int(last), lastColumn)));
     }
-    // In two steps: what changes between two large selections is costly to tell.
+    // In two steps: it is costly to find out what changes between two large selections.
     QItemSelectionModel *selectionModel = m_table->selectionModel();
     const bool wasMuted = std::exchange(m_selectionMuted, true);
     selectionModel->clearSelection();
@@ -345,7 +345,7 @@ void TabPane::addColumn(const Column &column)
     if (storedOrder().contains(identifier)) {
         restoreOrder();
     } else {
-        saveLayout(); // or it would stand elsewhere in a window that gets its columns in another order
+        saveLayout(); // or its position would differ in a window that adds its columns in another order
         m_newColumns.insert(identifier);
     }
     showSortIndicator();
@@ -391,7 +391,7 @@ void TabPane::moveSection(int section, int, int to)
 
 void TabPane::saveLayout()
 {
-    // Columns that are not there now, but may come back, stay behind those that they stood behind.
+    // Columns that are absent now, but may come back, stay after those that they followed.
     QStringList order = columns();
     qsizetype next = 0;
     for (const QString &identifier : storedOrder()) {
@@ -426,7 +426,7 @@ QStringList TabPane::storedOrder() const
     return order;
 }
 
-/// Columns that the stored order does not know come last, as they stand.
+/// Columns that the stored order does not contain come last, in their present order.
 void TabPane::restoreOrder()
 {
     int position = 0;

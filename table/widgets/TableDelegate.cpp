@@ -45,7 +45,7 @@ QRect checkBoxRect(const QStyleOptionViewItem &option)
     return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
 }
 
-/// The edge of a box on a dark ground, where most styles draw none that can be seen.
+/// The frame of a check box on a dark background, where that of most styles cannot be seen.
 void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
 {
     QColor ink = box.palette.color(QPalette::Text);
@@ -58,7 +58,7 @@ void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
     painter->restore();
 }
 
-/// The mark of the current cell around all of it.
+/// Frames the whole current cell.
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
 {
     QStyleOptionFocusRect focus;
@@ -178,7 +178,7 @@ QWidget *TableDelegate::createPopUp(QWidget *parent, const QModelIndex &index) c
     auto *self = const_cast<TableDelegate *>(this);
     connect(list, &PopUpCell::chosen, self, [self, list] {
         Q_EMIT self->commitData(list);
-        // An edit that exchanges the rows has closed it already.
+        // An edit that replaces the rows has closed it already.
         if (!list->isHidden())
             Q_EMIT self->closeEditor(list);
     });
@@ -213,7 +213,7 @@ void TableDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionView
     editor->setGeometry(option.rect);
 }
 
-/// A pop-up cell is closed by its list, not by the focus, which goes to and fro between the two.
+/// A pop-up cell is closed by its list, not by the focus, which changes between the two.
 bool TableDelegate::eventFilter(QObject *object, QEvent *event)
 {
     const bool isFocus = event->type() == QEvent::FocusOut || event->type() == QEvent::Hide;

@@ -147,7 +147,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return image.isNull() ? QVariant() : QVariant(image);
     }
     case Qt::ToolTipRole: {
-        // What the project holds is shown as it stands, whatever it looks like.
+        // Texts of the project are shown literally, even those that look like markup.
         const QString tip = column.hasToolTip ? toolTip(record, column) : QString();
         return tip.isEmpty() ? QVariant() : QVariant(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
     }

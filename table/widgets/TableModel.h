@@ -20,9 +20,9 @@ struct PopUpItem {
     bool isEnabled = true; ///< can be chosen
 };
 
-/// A table over the document's rows on show while those are its tab's, and without rows otherwise. Cells
-/// are edited through the function that the owner gives; the model changes no record. Main thread; the
-/// document outlives the model.
+/// A table of the visible rows of its tab, which has none while another tab's are visible. Cells are edited
+/// through the function that the owner sets; the model changes no record. Main thread; the document outlives
+/// the model.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -39,16 +39,16 @@ public:
 
     const Columns &columns() const { return m_columns; }
     const Column &columnAt(int column) const { return m_columns[std::size_t(column)]; }
-    /// -1 for one that is not there.
+    /// -1 when there is no such column.
     int columnOf(const QString &identifier) const;
-    /// A column that is there already gets the title.
+    /// Changes the title of a column that is present.
     void addColumn(const Column &column);
     void removeColumn(const QString &identifier);
 
     // Rows
 
     const RowRecordPtr &recordAt(int row) const;
-    /// Around an exchange of the rows on show.
+    /// Before and after the visible rows are replaced.
     void willReload();
     void didReload();
     /// The records of these rows changed.
@@ -58,7 +58,7 @@ public:
 
     /// The choices of a pop-up cell.
     virtual std::vector<PopUpItem> popUpItems(const QModelIndex &) const { return {}; }
-    /// The text of the cell in a line of texts.
+    /// The text of the cell as it is copied and read aloud; "1" or "0" of a check box.
     QString cellText(const QModelIndex &index) const;
 
     void setEdit(Edit edit) { m_edit = std::move(edit); }
