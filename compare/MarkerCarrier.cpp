@@ -1,7 +1,6 @@
 #include "compare/MarkerCarrier.h"
 
 #include "document/MyDocument.h"
-#include "document/TableUpdates.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerComment.h"
 #include "markers/MarkerEditor.h"
@@ -121,7 +120,7 @@ std::size_t MarkerCarrier::carry(std::vector<CarriedMarker> &plan, const Sequenc
                                  WithoutPlace withoutPlace)
 {
     std::size_t added = 0;
-    const TableUpdates updates(document);
+    const RowView::Updates updates(document.rowView(Tab::Markers));
     for (CarriedMarker &one : plan) {
         MarkerPlace place = one.place;
         if (place.state == MarkerPlace::State::Gone) {
