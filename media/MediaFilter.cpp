@@ -17,6 +17,7 @@ struct MediaFilter::View {
     std::uint64_t rebuild = 0;
     int kind = 0;
     QString drive; ///< null for all
+    std::function<bool(const RowRecord &)> condition;
     std::vector<SortDescriptor> sort;
     RowList rows;
 };
@@ -163,8 +164,12 @@ void MediaFilter::populateFilteredMediaData()
 MediaFilter::View MediaFilter::snapshot()
 {
     const ViewState &state = m_document.viewState();
-    return {++m_rebuilds, state.mediaKind, state.mediaDrive,
-            m_document.interface().sortDescriptors(Tab::Media), m_document.mediaArray()};
+    return {++m_rebuilds,
+            state.mediaKind,
+            state.mediaDrive,
+            m_condition,
+            m_document.interface().sortDescriptors(Tab::Media),
+            m_document.mediaArray()};
 }
 
 MediaFilter::Shown MediaFilter::filtered(const View &view)
@@ -179,6 +184,8 @@ MediaFilter::Shown MediaFilter::filtered(const View &view)
         if (!type.isNull() && record->get(MediaKey::filetype) != type)
             continue;
         if (!view.drive.isNull() && !isOnDrive(*record, view.drive, volumesFolders))
+            continue;
+        if (view.condition && !view.condition(*record))
             continue;
         statistics.add(*record);
         shown.rows.push_back(record);

@@ -4,6 +4,8 @@
 #include "media/MediaDrives.h"
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 namespace vantrell
 {
@@ -24,6 +26,13 @@ public:
     /// neither a newer rebuild was started nor another tab chosen meanwhile. Any thread.
     void populateFilteredMediaData();
 
+    /// What a file has to pass besides the menus, from the next rebuild on; empty for nothing. It may run on
+    /// any thread.
+    void setCondition(std::function<bool(const RowRecord &)> condition)
+    {
+        m_condition = std::move(condition);
+    }
+
     /// Fills the labels of the filtered media and the chart from a record of statistics
     /// (MediaStatisticsKey).
     void updateMediaStats(const RowRecord &statistics);
@@ -43,6 +52,7 @@ private:
     void show(Shown shown);
 
     MyDocument &m_document;
+    std::function<bool(const RowRecord &)> m_condition;
     std::uint64_t m_rebuilds = 0; // started so far
     RowRecord m_statistics;
 };
