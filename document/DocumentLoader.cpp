@@ -54,18 +54,20 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
     try {
         m_loader = std::thread(load);
     } catch (const std::exception &) {
-        QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
-        m_mainThread->post(load);
+        const bool isQueued = guarded("MyDocument::readFromURL", [&] {
+            QVLog::appendLog(u"There is no thread for loading; it holds up the program.");
+            m_mainThread->post(load);
+        });
+        if (!isQueued)
+            load();
     }
     return true;
 }
 
 void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &url)
 {
-    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
         setPopulating(tab, true);
-        m_mainThread->runAndWait([this, tab] { m_interface.startSpinner(tab); });
-    }
     if (!loadTree(typeName, url))
         return;
     static const XmlQuery sequence(QStringLiteral("./xmeml[1]/sequence[1]"));
@@ -147,7 +149,10 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
             return;
         if (!loaded)
             m_loadFailure = message.isNull() ? QStringLiteral("") : message;
-        m_interface.loadFinished(loaded, message, notice);
+        // The queue goes on after an exception; the window would wait for ever.
+        constexpr int attempts = 50;
+        persistently(
+            "MyDocument::reportLoad", [&] { Q_EMIT loadFinished(loaded, message, notice); }, attempts);
     };
     persistently("MyDocument::reportLoad", [&] { m_mainThread->runAndWait(report); });
 }
@@ -156,12 +161,12 @@ void MyDocument::runInventories()
 {
     const auto reportEnd = [this] {
         persistently("MyDocument::runInventories",
-                     [this] { m_mainThread->post([this] { m_interface.inventoriesFinished(); }); });
+                     [this] { m_mainThread->post([this] { Q_EMIT inventoriesFinished(); }); });
     };
     m_runningInventories = int(m_services.inventoryBuilders.size());
     if (m_runningInventories == 0) {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
-            setPopulating(tab, false);
+            rowView(tab).setPopulating(false);
         reportEnd();
         return;
     }

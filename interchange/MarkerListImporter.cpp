@@ -1,7 +1,6 @@
 #include "interchange/MarkerListImporter.h"
 
 #include "document/MyDocument.h"
-#include "document/TableUpdates.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/QVFCPXMLParser.h"
 #include "interchange/QVMarkerListParser.h"
@@ -58,11 +57,11 @@ MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnC
     guarded("MarkerListImporter::markerOpenDialogDidEnd", [&] {
         const Rows rows = rowsOfFiles(paths, format);
         if (rows.rows.empty()) {
-            tellNothingToImport();
+            tellNothingToImport(rows);
             return;
         }
-        const TableUpdates updates(m_document);
-        progress = addMarkers(rows, {});
+        const RowView::Updates updates(m_document.rowView(Tab::Markers));
+        addMarkers(rows, progress);
     });
     return progress;
 }
@@ -70,7 +69,7 @@ MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnC
 MarkerListImporter::Rows MarkerListImporter::rowsOfFiles(const QStringList &paths, const QString &format)
 {
     Rows all;
-    for (const QString &path : paths) {
+    const auto read = [&](const QString &path) {
         std::vector<std::size_t> lines;
         const RowList found = rowsOfFile(path, format, &lines).value_or(RowList());
         const QString file = paths.size() > 1 ? QFileInfo(path).fileName() + QStringLiteral(", ") : QString();
@@ -80,21 +79,27 @@ MarkerListImporter::Rows MarkerListImporter::rowsOfFiles(const QStringList &path
             all.rows.push_back(found[i]);
             all.sources.append(file + source);
         }
-    }
+    };
+    const bool isWhole = guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
+        for (const QString &path : paths)
+            read(path);
+    });
+    if (!isWhole)
+        all = {{}, {}, false};
     return all;
 }
 
-void MarkerListImporter::tellNothingToImport() const
+void MarkerListImporter::tellNothingToImport(const Rows &rows) const
 {
     QVAlert::alertSheetWithMessageText(
         QStringLiteral("No markers to import"),
-        QStringLiteral("There were no markers in the file or it is an invalid format."),
+        rows.isWhole ? QStringLiteral("There were no markers in the file or it is an invalid format.")
+                     : QStringLiteral("There is not enough memory to read the markers of the file."),
         m_document.interface().alertParent());
 }
 
-MarkerListImporter::Progress
-MarkerListImporter::addMarkers(const Rows &rows, Progress progress,
-                               std::optional<std::chrono::milliseconds> limit) const
+void MarkerListImporter::addMarkers(const Rows &rows, Progress &progress,
+                                    std::optional<std::chrono::milliseconds> limit) const
 {
     const auto start = std::chrono::steady_clock::now();
     guarded("MarkerListImporter::addMarkers", [&] {
@@ -117,7 +122,6 @@ MarkerListImporter::addMarkers(const Rows &rows, Progress progress,
                 break;
         }
     });
-    return progress;
 }
 
 QString MarkerListImporter::Rejected::text() const

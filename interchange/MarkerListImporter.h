@@ -38,6 +38,7 @@ public:
         /// Where each one comes from: the file's name, where there are several files, and the line, counted
         /// from 1; of an interchange file the number of the marker.
         QStringList sources;
+        bool isWhole = true; ///< false when there was not enough memory for all of them
     };
     /// A row that could not be added as a marker.
     struct Rejected {
@@ -66,13 +67,13 @@ public:
     /// for an unknown format. `lines` as in QVMarkerListParser; empty for an interchange file. Any thread.
     static std::optional<RowList> rowsOfFile(const QString &path, const QString &format,
                                              std::vector<std::size_t> *lines = nullptr);
-    /// Any thread.
+    /// Without memory, none. Any thread.
     static Rows rowsOfFiles(const QStringList &paths, const QString &format);
-    void tellNothingToImport() const;
+    void tellNothingToImport(const Rows &rows) const;
     /// Adds the markers of the rows from `progress` on until all are added or the time is up, at least one.
     /// Stops when the document is being closed.
-    Progress addMarkers(const Rows &rows, Progress progress,
-                        std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
+    void addMarkers(const Rows &rows, Progress &progress,
+                    std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
     /// One alert for all rows that were rejected, the first twenty with their sources and reasons; nothing
     /// when none was.
     void tellOfRejected(const Progress &progress) const;

@@ -72,7 +72,7 @@ MyDocument::Services Workbench::services(Inventories inventories)
     if (inventories != Inventories::None)
         builders.push_back([this](MyDocument &) { m_markerInventory.populateMarkerData(); });
     services.projectXMLData = [this](const QString &path) {
-        return QVAppleEvents::getProjectXMLData(path, true, m_fetchCancel);
+        return QVAppleEvents::getProjectXMLData(path, true, false, m_fetchCancel);
     };
     services.sendToFCP = [this](MyDocument &, std::function<void()> ended) {
         return m_projectSender.start([ended = std::move(ended)](ProjectSender::Outcome) {

@@ -32,6 +32,13 @@ QString grouped(std::int64_t number)
     return QLocale(QLocale::English).toString(qlonglong(number));
 }
 
+/// Such as "1 element was" and "1,200 elements were".
+QString counted(std::int64_t elements, QStringView singular, QStringView plural)
+{
+    return elements == 1 ? QStringLiteral("1 element %1").arg(singular)
+                         : QStringLiteral("%1 elements %2").arg(grouped(elements), plural);
+}
+
 QString lossText(const XmlLoss &loss)
 {
     if (!loss.isLoss())
@@ -41,10 +48,18 @@ QString lossText(const XmlLoss &loss)
                                   : QStringLiteral("%1 of %2 bytes could be read")
                                         .arg(grouped(loss.bytesRead), grouped(loss.bytesTotal));
     if (loss.droppedElements > 0) {
-        const QString elements = loss.droppedElements == 1
-                                     ? QStringLiteral("1 element was")
-                                     : QStringLiteral("%1 elements were").arg(grouped(loss.droppedElements));
-        return QStringLiteral("Content is missing: %1, and %2 left out behind that.").arg(bytes, elements);
+        return QStringLiteral("Content is missing: %1, and %2 left out behind that.")
+            .arg(bytes, counted(loss.droppedElements, u"was", u"were"));
+    }
+    if (!loss.isCutOff && loss.elementsInComments > 0) {
+        return QStringLiteral("Content is missing: %1 in a comment that does not end where it should.")
+            .arg(counted(loss.elementsInComments, u"is", u"are"));
+    }
+    if (!loss.isCutOff) {
+        return QStringLiteral(
+                   "Content is missing from its place: the end tag on line %1 matches no start tag, and "
+                   "elements near it or behind it are outside of those that they belong to.")
+            .arg(grouped(loss.mismatchLine));
     }
     return readAll ? QStringLiteral("Content is missing: %1, but the file ends in the middle of an element.")
                          .arg(bytes)
@@ -74,7 +89,7 @@ XmlDocument::~XmlDocument() = default;
 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, const LoadOptions &options)
 {
-    const Result<std::shared_ptr<XmlFile>> file = XmlFile::open(path);
+    const Result<std::shared_ptr<XmlFile>> file = XmlFile::open(path, options.cancelled);
     if (!file)
         return file.failure();
     ParseRequest request;
@@ -122,6 +137,8 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
             return Failure{
                 QStringLiteral("its document type gives elements more default attributes than can be read.")};
         }
+        if (outcome.tooManyHyphens)
+            return Failure{QStringLiteral("a comment in it has more double hyphens than can be read.")};
         if (!outcome.hasTree)
             return Failure{QStringLiteral("it is not well-formed XML (%1).").arg(faultText(outcome))};
         if (!document->rootElement())

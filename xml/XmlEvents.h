@@ -17,8 +17,8 @@
 namespace vantrell
 {
 
-/// What the parser's thread writes often and what the builder's thread does are that many bytes apart: two cache
-/// lines, as processors fetch them in pairs.
+/// What the parser's thread writes often and what the builder's thread does are that many bytes apart: two
+/// cache lines, as processors fetch them in pairs.
 constexpr std::size_t xmlThreadAlignment = 128;
 
 /// Passes what a parser finds to the builder of a tree, which works on a thread of its own: parsing takes

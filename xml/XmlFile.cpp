@@ -6,16 +6,19 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace vantrell
 {
 
-Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path)
+Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path, const std::atomic<bool> *cancelled)
 {
     std::shared_ptr<XmlFile> file(new XmlFile);
-    file->m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    file->m_cancelled = cancelled;
+    file->m_descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (file->m_descriptor < 0) {
         const int reason = errno;
         if (reason == ENOENT || reason == ENOTDIR)
@@ -54,11 +57,25 @@ int XmlFile::read(char *buffer, int length)
         return 0;
     ssize_t count;
     do {
+        if (!waitForData())
+            return -1;
         count = ::read(m_descriptor, buffer, std::size_t(length));
-    } while (count < 0 && errno == EINTR);
+    } while (count < 0 && (errno == EINTR || errno == EAGAIN));
     if (count > 0 && m_remaining >= 0)
         m_remaining -= count;
     return int(count);
+}
+
+/// Pipes and terminals may have nothing for a long time. False once cancelled.
+bool XmlFile::waitForData() const
+{
+    constexpr int cancelInterval = 100; // milliseconds
+    pollfd data = {m_descriptor, POLLIN, 0};
+    while (m_remaining < 0 && poll(&data, 1, cancelInterval) == 0) {
+        if (m_cancelled && m_cancelled->load(std::memory_order_relaxed))
+            return false;
+    }
+    return true;
 }
 
 } // namespace vantrell

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include <functional>
+#include <atomic>
 #include <memory>
 
 namespace vantrell
@@ -15,8 +15,9 @@ namespace vantrell
 class XmlFile
 {
 public:
-    /// The failure says why the file cannot be read as a project.
-    static Result<std::shared_ptr<XmlFile>> open(const QString &path);
+    /// The failure says why the file cannot be read as a project. Setting `cancelled` (may be null) ends the
+    /// wait for a pipe.
+    static Result<std::shared_ptr<XmlFile>> open(const QString &path, const std::atomic<bool> *cancelled);
     ~XmlFile();
     XmlFile(const XmlFile &) = delete;
     XmlFile &operator=(const XmlFile &) = delete;
@@ -29,7 +30,9 @@ public:
 
 private:
     XmlFile() = default;
+    bool waitForData() const;
 
+    const std::atomic<bool> *m_cancelled = nullptr;
     int m_descriptor = -1;
     long long m_size = -1;
     long long m_remaining = -1; ///< bytes; -1 without a size, as for a pipe

@@ -29,21 +29,75 @@ using namespace std::string_view_literals;
 
 constexpr Signature signatures[] = {
     {"\xFF\xFE\0\0"sv, "UTF-32LE", 4, 4, false}, {"\0\0\xFE\xFF"sv, "UTF-32BE", 4, 4, false},
-    {"<\0\0\0"sv, "UTF-32LE", 4, 0, false},      {"\0\0\0<"sv, "UTF-32BE", 4, 0, false},
     {"\xEF\xBB\xBF"sv, "UTF-8", 1, 3, false},    {"\xFF\xFE"sv, "UTF-16LE", 2, 2, false},
-    {"\xFE\xFF"sv, "UTF-16BE", 2, 2, false},     {"<\0"sv, "UTF-16LE", 2, 0, false},
-    {"\0<"sv, "UTF-16BE", 2, 0, false},          {"\x4C\x6F\xA7\x94"sv, "IBM037", 1, 0, true},
+    {"\xFE\xFF"sv, "UTF-16BE", 2, 2, false},     {"\x4C\x6F\xA7\x94"sv, "IBM037", 1, 0, true},
 };
+
+/// An encoding in which all bytes of an ASCII character but one are zero.
+struct WideEncoding {
+    const char *name;
+    std::size_t unit;      ///< bytes
+    std::size_t character; ///< the index of the byte that is not zero
+};
+
+constexpr WideEncoding wideEncodings[] = {
+    {"UTF-32LE", 4, 0}, {"UTF-32BE", 4, 3}, {"UTF-16LE", 2, 0}, {"UTF-16BE", 2, 1}};
+
+/// How many of the first characters, up to \a looked, are ASCII in that encoding.
+std::size_t asciiIn(const WideEncoding &encoding, std::string_view bytes, std::size_t looked)
+{
+    std::size_t matching = 0;
+    for (std::size_t i = 0; i < looked && bytes.size() >= encoding.unit; ++i) {
+        bool isAscii = true;
+        for (std::size_t j = 0; j < encoding.unit; ++j)
+            isAscii = isAscii && (bytes[j] != 0) == (j == encoding.character);
+        matching += isAscii;
+        bytes.remove_prefix(encoding.unit);
+    }
+    return matching;
+}
+
+/// Whether the first three characters or most of the first ones are ASCII in that encoding. Single zero bytes
+/// in another one are no sign of it.
+bool startsIn(const WideEncoding &encoding, std::string_view bytes)
+{
+    const std::size_t looked = std::min<std::size_t>(32, bytes.size() / encoding.unit);
+    return asciiIn(encoding, bytes, 3) == 3 || asciiIn(encoding, bytes, looked) * 2 > looked;
+}
+
+/// The bytes to skip where a character of four bytes is invalid: fewer than four where bytes are missing and
+/// the characters behind them show where they start.
+std::size_t skippedInUtf32(std::string_view bytes)
+{
+    for (std::size_t skipped = 1; skipped < std::min<std::size_t>(4, bytes.size()); ++skipped) {
+        for (const WideEncoding &encoding : wideEncodings) {
+            if (encoding.unit == 4 && asciiIn(encoding, bytes.substr(skipped), 3) == 3)
+                return skipped;
+        }
+    }
+    return 4;
+}
+
+/// What the first bytes tell; none when they tell nothing.
+std::optional<Signature> signatureOf(std::string_view bytes)
+{
+    for (const Signature &mark : signatures) {
+        // A mark of UTF-16 and a zero character look like one of UTF-32.
+        if (!bytes.starts_with(mark.bytes))
+            continue;
+        if (mark.unit < 4 || startsIn(wideEncodings[mark.bytes[0] == 0], bytes.substr(mark.skipped)))
+            return mark;
+    }
+    for (const WideEncoding &encoding : wideEncodings) {
+        if (startsIn(encoding, bytes))
+            return Signature{{}, encoding.name, int(encoding.unit), 0, false};
+    }
+    return std::nullopt;
+}
 
 bool isXmlSpace(char c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-bool startsName(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
-           static_cast<unsigned char>(c) >= 0x80;
 }
 
 /// The text without the white space that it starts with.
@@ -56,8 +110,7 @@ std::string_view withoutBlanks(std::string_view text)
 
 constexpr std::string_view declarationStart = "<?xml";
 
-/// The encoding that the text's XML declaration names, also of one that stands behind white space, where none
-/// may be; empty when it names none.
+/// The encoding named by the text's XML declaration, which may follow white space; empty when it names none.
 QByteArray declaredEncodingOf(std::string_view text)
 {
     constexpr std::string_view start = declarationStart, label = "encoding";
@@ -222,7 +275,8 @@ public:
                 continue;
             if (error == EINVAL && !atEnd)
                 return true; // the rest of the character is to come
-            offset += std::min(m_unit, inLeft);
+            const std::size_t skipped = m_unit == 4 ? skippedInUtf32({in, inLeft}) : m_unit;
+            offset += std::min(skipped, inLeft);
             return false;
         }
         return true;
@@ -287,6 +341,8 @@ bool XmlInput::fill()
         m_block.text.clear();
     else
         decode(atEnd);
+    if (m_isAtStart)
+        skipMarks();
     m_blockSourceEnd = m_sourceEnd - std::int64_t(m_raw.size() + m_rest.size());
     m_ended = m_ended || atEnd;
     return !m_unreadable;
@@ -314,12 +370,7 @@ std::size_t XmlInput::readSource(std::size_t wanted)
 
 void XmlInput::chooseEncoding()
 {
-    const std::string_view raw(m_raw.data(), m_raw.size());
-    const Signature *known = nullptr;
-    for (const Signature &signature : signatures) {
-        if (!known && raw.starts_with(signature.bytes))
-            known = &signature;
-    }
+    const std::optional<Signature> known = signatureOf({m_raw.data(), m_raw.size()});
     m_raw.erase(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(known ? known->skipped : 0));
     const std::vector<char> start =
         known ? startOfText(known->encoding, known->unit) : startOfText("UTF-8", 1);
@@ -365,18 +416,34 @@ bool XmlInput::setDecoder(const std::string &encoding, int unit)
     return !m_unreadable;
 }
 
-/// Turns to the encoding, and gives back the start of the text in it.
+/// Turns to the encoding, and returns the ASCII characters at the start of the text in it that XML allows.
 std::vector<char> XmlInput::startOfText(const std::string &encoding, int unit)
 {
     const std::size_t size = std::min(m_raw.size(), declarationSize * std::size_t(unit));
     std::vector<char> start(m_raw.begin(), m_raw.begin() + std::ptrdiff_t(size));
-    if (!setDecoder(encoding, unit) || !m_decoder)
+    if (!setDecoder(encoding, unit) || !m_decoder) {
+        start.erase(std::remove_if(start.begin(), start.end(), needsLook), start.end());
         return start;
+    }
     std::vector<char> text;
     std::size_t offset = 0;
-    m_decoder->convert(start, offset, text, false);
+    while (!m_decoder->convert(start, offset, text, false)) {
+    }
     setDecoder(encoding, unit); // without what it remembers
+    text.erase(std::remove_if(text.begin(), text.end(), needsLook), text.end());
     return text;
+}
+
+/// Drops byte-order marks at the start of the text, of which parsers pass over no more than one.
+void XmlInput::skipMarks()
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::vector<char> &text = m_block.text;
+    std::string_view rest(text.data(), text.size());
+    while (rest.starts_with(mark))
+        rest.remove_prefix(mark.size());
+    m_isAtStart = rest.empty();
+    text.erase(text.begin(), text.end() - std::ptrdiff_t(rest.size()));
 }
 
 /// Moves the whole characters that were read to the block.
@@ -496,7 +563,7 @@ std::int64_t XmlInput::startTagsFrom(std::int64_t textOffset)
     const auto look = [&](const Block &block) {
         const std::int64_t from = std::max<std::int64_t>(textOffset - block.start, 0);
         for (auto i = std::size_t(from); i < block.text.size(); ++i) {
-            count += previous == '<' && startsName(block.text[i]);
+            count += previous == '<' && startsXmlName(block.text[i]);
             previous = block.text[i];
         }
     };

@@ -16,6 +16,13 @@
 namespace vantrell
 {
 
+/// Whether a name may start with that byte of UTF-8.
+inline bool startsXmlName(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
 /// The source of the bytes of a project.
 struct XmlSource {
     /// Fills the buffer with up to the given number of bytes; 0 at the end, -1 on a failed read.
@@ -80,6 +87,7 @@ private:
     void chooseEncoding();
     bool setDecoder(const std::string &encoding, int unit);
     std::vector<char> startOfText(const std::string &encoding, int unit);
+    void skipMarks();
     void decode(bool atEnd);
     void keepValid(bool atEnd);
     void addFault(std::string_view before, const QString &text);
@@ -98,6 +106,7 @@ private:
     std::int64_t m_blockSourceEnd = 0; // what the block came from
     std::int64_t m_line = 1;           // where the block ends
     bool m_started = false;
+    bool m_isAtStart = true; // nothing of the text came yet
     bool m_ended = false;
     bool m_failed = false;
     bool m_cancelled = false;

@@ -16,6 +16,8 @@ namespace vantrell
 namespace
 {
 
+const QString noMemoryForOutline = QStringLiteral("There is not enough memory to read it.");
+
 struct OutlineContextDeleter {
     void operator()(xmlParserCtxt *context) const { xmlFreeParserCtxt(context); }
 };
@@ -44,7 +46,9 @@ public:
         sax->comment = nullptr;
         sax->processingInstruction = nullptr;
         sax->reference = [](void *parser, const xmlChar *name) {
-            of(parser)->fail(QStringLiteral("Entity '%1' not defined").arg(QString::fromUtf8(bytesOf(name))));
+            of(parser)->guard([name](OutlineBuilder &self) {
+                self.fail(QStringLiteral("Entity '%1' not defined").arg(QString::fromUtf8(bytesOf(name))));
+            });
         };
         sax->entityDecl = [](void *, const xmlChar *, int, const xmlChar *, const xmlChar *, xmlChar *) {};
         sax->unparsedEntityDecl = [](void *, const xmlChar *, const xmlChar *, const xmlChar *,
@@ -64,6 +68,8 @@ public:
 
     Result<std::optional<XmlOutline>> outcome()
     {
+        if (m_outOfMemory)
+            return Failure{noMemoryForOutline};
         if (m_isOtherEncoding)
             return std::optional<XmlOutline>();
         if (m_fault.isEmpty() && (!m_context->wellFormed || m_outline.elements.empty()))
@@ -83,12 +89,14 @@ private:
                              int namespaces, const xmlChar **, int attributes, int defaulted,
                              const xmlChar **attributeList)
     {
-        of(context)->onStartElement(name, namespaces > 0, attributes - defaulted, attributeList);
+        of(context)->guard([&](OutlineBuilder &self) {
+            self.onStartElement(name, namespaces > 0, attributes - defaulted, attributeList);
+        });
     }
 
     static void endElement(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
-        of(context)->onEndElement();
+        of(context)->guard([](OutlineBuilder &self) { self.onEndElement(); });
     }
 
     static void error(void *context, XmlLibrary::ErrorPointer problem)
@@ -98,9 +106,22 @@ private:
             return;
         if (problem->level < XML_ERR_ERROR && !undeclaredEntity)
             return;
-        const QString text = QString::fromUtf8(problem->message).simplified();
-        of(context)->fail(problem->line > 0 ? QStringLiteral("line %1: %2").arg(problem->line).arg(text)
-                                            : text);
+        of(context)->guard([&](OutlineBuilder &self) {
+            const QString text = QString::fromUtf8(problem->message).simplified();
+            self.fail(problem->line > 0 ? QStringLiteral("line %1: %2").arg(problem->line).arg(text) : text);
+        });
+    }
+
+    /// Runs the body of a callback; no exception may pass through the library.
+    template <typename Action>
+    void guard(const Action &action)
+    {
+        try {
+            action(*this);
+        } catch (const std::bad_alloc &) {
+            m_outOfMemory = true;
+            xmlStopParser(m_context);
+        }
     }
 
     void fail(const QString &fault)
@@ -166,6 +187,7 @@ private:
     std::vector<std::size_t> m_open; ///< indexes of the open elements in the outline
     XmlOutline m_outline;
     bool m_isOtherEncoding = false;
+    bool m_outOfMemory = false;
     QString m_fault;
 };
 
@@ -176,7 +198,7 @@ Result<std::optional<XmlOutline>> XmlOutline::read(const QByteArray &xml, int le
     XmlLibrary::prepare();
     const std::unique_ptr<xmlParserCtxt, OutlineContextDeleter> context(xmlNewParserCtxt());
     if (!context)
-        return Failure{QStringLiteral("There is not enough memory to read it.")};
+        return Failure{noMemoryForOutline};
     OutlineBuilder builder(context.get(), xml, levels);
     xmlFreeDoc(xmlCtxtReadIO(context.get(), OutlineBuilder::read, nullptr, &builder, nullptr, nullptr,
                              XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING));

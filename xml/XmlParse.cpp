@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <set>
+#include <utility>
 
 namespace vantrell
 {
@@ -30,6 +32,8 @@ struct DocumentDeleter {
 
 /// Beyond it an element's default attributes would be compared with one another for minutes.
 constexpr std::int64_t maximumDefaultsCost = 1'000'000'000;
+/// Bytes. The library copies a comment at each double hyphen in it.
+constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
 bool isXmlTarget(std::string_view target)
 {
@@ -85,8 +89,9 @@ public:
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
         outcome.tooManyDefaults = m_defaultsCost > maximumDefaultsCost;
+        outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
-        outcome.cancelled = m_cancelled || m_input.wasCancelled();
+        outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
         outcome.outOfMemory = m_outOfMemory;
         const bool hasFault = !m_input.fault().isEmpty();
         const bool inputIsFirst =
@@ -175,7 +180,7 @@ private:
         if (self->m_inSubset)
             xmlSAX2Comment(context, text);
         else
-            self->guard([&] { self->m_events.addComment(viewOf(text)); });
+            self->guard([&] { self->onComment(viewOf(text)); });
     }
 
     static void processingInstruction(void *context, const xmlChar *target, const xmlChar *data)
@@ -206,6 +211,7 @@ private:
         const bool undeclaredEntity = problem.code == XML_WAR_UNDECLARED_ENTITY;
         const QString text = QString::fromUtf8(problem.message).simplified();
         m_lastError = text;
+        m_hasDoubledAttributes = m_hasDoubledAttributes || problem.code == XML_NS_ERR_ATTRIBUTE_REDEFINED;
         if (problem.domain == XML_FROM_NAMESPACE || problem.domain == XML_FROM_VALID)
             return;
         if (problem.level < XML_ERR_ERROR && !undeclaredEntity)
@@ -234,6 +240,32 @@ private:
             m_swallowedFrom = m_lastTagEnd;
         // With the name of the element it is a start tag.
         m_isTagBroken = m_isTagBroken || (problem.code == XML_ERR_GT_REQUIRED && problem.str1);
+        if (problem.code == XML_ERR_TAG_NAME_MISMATCH && m_firstMismatch == 0) {
+            m_firstMismatch = problem.line;
+            m_hasMisplaced = !m_isLeaf;
+        }
+        m_hasContentAfterRoot = m_hasContentAfterRoot || problem.code == XML_ERR_DOCUMENT_END;
+        if (problem.code == XML_ERR_HYPHEN_IN_COMMENT) {
+            m_hyphenCost += textOffset() - m_lastTagEnd;
+            if (m_hyphenCost > maximumHyphenCost || isCancelled())
+                xmlStopParser(m_context);
+        }
+    }
+
+    bool isCancelled() const
+    {
+        return m_request.cancelled && m_request.cancelled->load(std::memory_order_relaxed);
+    }
+
+    /// The library overlooks an end of three hyphens, and the comment goes on to the next end.
+    void onComment(std::string_view text)
+    {
+        constexpr std::string_view end = "-->";
+        if (const std::size_t at = text.find(end); at != std::string_view::npos) {
+            for (std::size_t tag = at + end.size(); tag + 1 < text.size(); ++tag)
+                m_elementsInComments += text[tag] == '<' && startsXmlName(text[tag + 1]);
+        }
+        m_events.addComment(text);
     }
 
     /// Parsers compare each attribute of an element, the defaults included, with all others.
@@ -249,7 +281,7 @@ private:
                         int attributes, const xmlChar **attributeList)
     {
         m_inSubset = false;
-        if (m_request.cancelled && m_request.cancelled->load(std::memory_order_relaxed)) {
+        if (isCancelled()) {
             m_cancelled = true;
             xmlStopParser(m_context);
             return;
@@ -261,20 +293,28 @@ private:
         }
         ++m_depth;
         m_isTagBroken = false;
+        m_isLeaf = true;
+        m_hasStartAfterMismatch = m_firstMismatch > 0;
         m_lastTagEnd = textOffset();
         m_events.startElement(m_names.idOf(name));
         for (int i = 0; i < namespaces; ++i)
             m_events.addNamespace(m_names.idOf(viewOf(namespaceList[2 * i])),
                                   viewOf(namespaceList[2 * i + 1]));
+        std::set<std::pair<std::string_view, std::string_view>> known;
         for (int i = 0; i < attributes; ++i) {
             // Five pointers each: local name, prefix, URI, begin and end of the value.
             const xmlChar **const parts = attributeList + std::ptrdiff_t(5) * i;
             const std::string_view value = viewOf(parts[3], parts[4] - parts[3]);
+            // One name with two prefixes of the same namespace is a fault that only this element has.
+            if (m_hasDoubledAttributes && parts[2] &&
+                !known.emplace(viewOf(parts[2]), viewOf(parts[0])).second)
+                continue;
             m_events.addAttribute(m_names.idOf({parts[0], parts[1], parts[2]}), value);
             const bool isSpace = parts[1] && viewOf(parts[1]) == "xml" && viewOf(parts[0]) == "space";
             if (isSpace && (value == "preserve" || value == "default"))
                 m_events.setSpace(value == "preserve");
         }
+        m_hasDoubledAttributes = false;
     }
 
     /// What xmlByteConsumed() tells of a text in UTF-8. It is wanted at every tag.
@@ -288,6 +328,7 @@ private:
     {
         --m_depth;
         m_isTagBroken = false;
+        m_isLeaf = false;
         m_lastTagEnd = textOffset();
         m_events.endElement();
     }
@@ -339,13 +380,20 @@ private:
                 outcome.loss.bytesTotal = m_input.bytesRead();
             // Where only end tags are missing the last one is there.
             outcome.loss.isCutOff = isOpen && (isSwallowed || !m_input.endsWith("</" + rootName() + '>'));
+            outcome.loss.elementsInComments = m_elementsInComments;
+            // A misspelt end tag ends the element that it should. Where one is missing or too many, those
+            // behind it end other elements.
+            const bool isMisplaced = (isOpen && m_hasMisplaced) || m_hasStartAfterMismatch;
+            if ((isOpen || m_hasContentAfterRoot) && isMisplaced)
+                outcome.loss.mismatchLine = m_firstMismatch;
         }
         m_builder.finish();
         if (!document)
             return;
         // Parsers refuse versions other than 1.
         const QByteArray version(reinterpret_cast<const char *>(document->version));
-        if (version.startsWith("1."))
+        const bool isAllowed = version.size() > 2 && version.startsWith("1.");
+        if (isAllowed)
             m_tree.version = version;
         m_tree.isStandalone = document->standalone;
         m_tree.encoding = m_input.declaredEncoding();
@@ -381,8 +429,16 @@ private:
     bool m_tooDeep = false;
     bool m_cancelled = false;
     bool m_outOfMemory = false;
-    bool m_isTagBroken = false; // the start tag that came last
+    bool m_isTagBroken = false;          // the start tag that came last
+    bool m_hasDoubledAttributes = false; // the start tag to come
+    bool m_hasContentAfterRoot = false;
+    int m_firstMismatch = 0;     // line of the first end tag that is not that of the open element; 0 for none
+    bool m_hasMisplaced = false; // elements, where its end tag is the one that is missing
+    bool m_hasStartAfterMismatch = false;
+    bool m_isLeaf = false; // whether nothing but text came after the last start tag
+    std::int64_t m_elementsInComments = 0;
     std::int64_t m_defaultsCost = 0;
+    std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing
     long m_errorAt = 0;        // the same

@@ -32,8 +32,16 @@ struct XmlLoss {
     std::int64_t droppedElements = 0; ///< elements after the end of the root element
     std::int64_t bytesRead = 0;       ///< of the input, up to the end of the tree
     std::int64_t bytesTotal = -1;     ///< -1 when unknown
+    /// Elements that became a part of a comment whose end was not recognised.
+    std::int64_t elementsInComments = 0;
+    /// The line of an end tag that does not match, where those behind it end other elements than they should;
+    /// 0 for none.
+    int mismatchLine = 0;
 
-    bool isLoss() const { return isCutOff || droppedElements > 0; }
+    bool isLoss() const
+    {
+        return isCutOff || droppedElements > 0 || elementsInComments > 0 || mismatchLine > 0;
+    }
 };
 
 struct ParseOutcome {
@@ -41,6 +49,7 @@ struct ParseOutcome {
     bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
     bool tooManyDefaults = false; ///< of attributes
+    bool tooManyHyphens = false;  ///< in comments
     bool readFailed = false;
     bool cancelled = false;
     bool outOfMemory = false;

@@ -1,6 +1,6 @@
 #include "interchange/widgets/MarkerListImport.h"
 
-#include "document/TableUpdates.h"
+#include "document/MyDocument.h"
 #include "support/log/QVException.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/Persistently.h"
@@ -16,7 +16,7 @@ namespace vantrell
 namespace
 {
 
-/// How long a few markers may take to be added: the window answers in between.
+/// How long markers are added before the window handles events again.
 constexpr std::chrono::milliseconds slice{15};
 
 } // namespace
@@ -45,8 +45,7 @@ void MarkerListImport::start()
             add(std::move(*rows));
     };
     BackgroundWork::run([gate, rows, end, paths = m_paths, format = m_format] {
-        guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]",
-                [&] { *rows = MarkerListImporter::rowsOfFiles(paths, format); });
+        *rows = MarkerListImporter::rowsOfFiles(paths, format);
         persistently("MarkerListImport::start", [&] { gate->post(end); });
     });
 }
@@ -61,15 +60,14 @@ void MarkerListImport::cancel()
 
 void MarkerListImport::add(MarkerListImporter::Rows rows)
 {
-    if (rows.rows.empty()) {
-        const MarkerListImporter &importer = m_importer;
-        Q_EMIT ended(0, 0);
-        importer.tellNothingToImport();
-        return;
-    }
     m_rows = std::move(rows);
-    m_updates = std::make_unique<TableUpdates>(m_document);
-    addSome();
+    const bool isReady = guarded("MarkerListImport::add", [this] {
+        m_updates = std::make_unique<RowView::Updates>(m_document.rowView(Tab::Markers));
+    });
+    if (isReady && !m_rows.rows.empty())
+        addSome();
+    else
+        finish();
 }
 
 void MarkerListImport::addSome()
@@ -77,19 +75,28 @@ void MarkerListImport::addSome()
     if (m_document.isClosing() || m_document.mainThread()->isClosed())
         return;
     const std::size_t total = m_rows.rows.size();
-    const bool goesOn = guarded("MarkerListImport::addSome", [this] {
-        m_progress = m_importer.addMarkers(m_rows, std::move(m_progress), slice);
+    const bool goesOn = guarded("MarkerListImport::addSome", [this, total] {
+        m_importer.addMarkers(m_rows, m_progress, slice);
+        Q_EMIT progressed(m_progress.next, total);
+        if (m_progress.next < total)
+            QTimer::singleShot(0, this, &MarkerListImport::addSome);
     });
-    Q_EMIT progressed(m_progress.next, total);
-    if (goesOn && m_progress.next < total) {
-        QTimer::singleShot(0, this, &MarkerListImport::addSome);
-        return;
-    }
+    if (!goesOn || m_progress.next == total)
+        finish();
+}
+
+/// Tells the outcome, whatever went wrong.
+void MarkerListImport::finish()
+{
     m_updates.reset(); // the table shows them all at once
     const MarkerListImporter &importer = m_importer;
+    const MarkerListImporter::Rows rows = std::move(m_rows);
     const MarkerListImporter::Progress progress = std::move(m_progress);
-    Q_EMIT ended(progress.added, total);
-    importer.tellOfRejected(progress);
+    guarded("MarkerListImport::finish", [&] { Q_EMIT ended(progress.added, rows.rows.size()); });
+    if (rows.rows.empty())
+        importer.tellNothingToImport(rows);
+    else
+        importer.tellOfRejected(progress);
 }
 
 } // namespace vantrell

@@ -1,8 +1,9 @@
 #include "WindowTest.h"
 
-#include "document/TableUpdates.h"
+#include "document/MyDocument.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
+#include "interchange/widgets/MarkerListImport.h"
 #include "markers/MarkerKeys.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVLog.h"
@@ -551,7 +552,7 @@ private Q_SLOTS:
         QTimer clock; // the alert runs in an event loop of its own
         connect(&clock, &QTimer::timeout, &clock, [&told] {
             if (QMessageBox *const box = visibleBox()) {
-                told = box->text();
+                told = box->text() + QLatin1Char('|') + box->informativeText();
                 press(box, QStringLiteral("OK"));
             }
         });
@@ -562,11 +563,18 @@ private Q_SLOTS:
             QTRY_COMPARE(imported.count(), 1);
         }
         QCOMPARE(imported.at(0).at(0).value<std::size_t>(), std::size_t(0));
-        QTRY_COMPARE(told, QStringLiteral("No markers to import"));
+        QTRY_COMPARE(told, QStringLiteral("No markers to import|There is not enough memory to read the "
+                                          "markers of the file."));
         QVERIFY(!m_window->isBusy() && !m_window->isWindowModified());
         m_window->importMarkerLists({list}, MarkerListFormat::avid);
         QTRY_COMPARE(imported.count(), 2);
         QCOMPARE(imported.at(1).at(0).value<std::size_t>(), std::size_t(1));
+        // Nor does one hang when what follows it throws.
+        m_window->importMarkerLists({list}, MarkerListFormat::avid);
+        connect(m_window->findChild<MarkerListImport *>(), &MarkerListImport::progressed, m_window,
+                [] { throw std::bad_alloc(); });
+        QTRY_COMPARE(imported.count(), 3);
+        QVERIFY(!m_window->isBusy());
     }
 
     void anImportIsAskedAboutBadRows()
@@ -650,7 +658,7 @@ private Q_SLOTS:
         m_window->toolbarMarkers();
         MyDocument &document = *m_window->document();
         {
-            const TableUpdates updates(document);
+            const RowView::Updates updates(document.rowView(Tab::Markers));
             m_window->workbench().markerEditor().addMarkerWithName(QStringLiteral("AAA"), 7, -1, QString(),
                                                                    QStringLiteral("red"));
             m_window->pane(Tab::Markers).sortBy(QStringLiteral("name"));

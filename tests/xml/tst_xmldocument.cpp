@@ -18,6 +18,8 @@
 #include <string>
 #include <thread>
 
+#include <sys/stat.h>
+
 using namespace vantrell;
 
 namespace
@@ -143,7 +145,9 @@ private Q_SLOTS:
             utf16 += char(unit.unicode() & 0xFF);
             utf16 += char(unit.unicode() >> 8);
         }
+        QTest::newRow("three byte-order marks") << QByteArray("\xEF\xBB\xBF").repeated(3) + text.toUtf8();
         QTest::newRow("UTF-16, little end first") << utf16;
+        QTest::newRow("UTF-16 without a mark") << utf16.mid(2);
         for (qsizetype i = 0; i < utf16.size(); i += 2)
             std::swap(utf16[i], utf16[i + 1]);
         QTest::newRow("UTF-16, big end first") << utf16;
@@ -236,9 +240,35 @@ private Q_SLOTS:
             utf16 += char(unit >> 8);
         }
         add("lone surrogates", utf16, "<a>é!<b/>\U0001F3AC</a>", "line 1: bytes that are no UTF-16LE");
+        QByteArray utf32;
+        for (const char c : QByteArray("<a>xy<b/>z</a>"))
+            utf32 += QByteArray(1, c) + QByteArray(3, '\0');
+        add("bytes missing in UTF-32", QByteArray(utf32).remove(14, 2), "<a>y<b/>z</a>",
+            "line 1: bytes that are no UTF-32LE");
         add("encoding declared too late",
             "\n<?xml version=\"1.0\" encoding=\"windows-1252\"?><a>caf\xE9<b/></a>", "<a>café<b/></a>",
             "line 2: XML declaration allowed only at the start of the document");
+        // Bytes that make the start look like another encoding, or hide the declared one.
+        const QByteArray western = "xml version=\"1.0\" encoding=\"windows-1252\"?><a>\xE9</a>";
+        add("NUL in front", nul + "<a>é<b/></a>", "<a>é<b/></a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("three NULs in front", nul.repeated(3) + "<a>é<b/></a>", "<a>é<b/></a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("NULs in the first tag", "<" + nul + "a" + nul + ">é<b/></a>", "<a>é<b/></a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("NUL after a mark of UTF-16", utf16.left(2) + nul + nul + utf16.mid(2), "<a>é!<b/>\U0001F3AC</a>",
+            "line 1: bytes that are no UTF-16LE");
+        add("control character before the declaration", "\x01<?" + western, "<a>é</a>",
+            "line 1: the character U+0001, which XML forbids");
+        add("NUL in the declaration", "<?" + QByteArray(western).replace("enc", "enc" + nul), "<a>é</a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("NUL in the name of the encoding",
+            "<?" + QByteArray(western).replace("windows", "win" + nul + "dows"), "<a>é</a>",
+            "line 1: the character U+0000, which XML forbids");
+        add("invalid byte in the name of the encoding",
+            "<?" + QByteArray(western).replace("dows", "\x81"
+                                                       "dows"),
+            "<a>é</a>", "line 1: bytes that are no windows-1252");
         add("labelled as what has no ASCII", "<?xml version=\"1.0\" encoding=\"IBM037\"?><a>é</a>",
             "<a>é</a>", "line 1: Document labelled IBM037 but has UTF-8 content");
         add("labelled wrongly", "<?xml version=\"1.0\" encoding=\"UTF-16\"?><a>é</a>", "<a>é</a>",
@@ -276,6 +306,24 @@ private Q_SLOTS:
             << "<a><b></b></b>" + many + "</a>"
             << QStringLiteral("Content is missing: 14 of 18,018 bytes could be read, and 2,000 elements were "
                               "left out behind that.");
+        // Nothing is left out, but in the lists.
+        const auto misplaced = [](int line) {
+            return QStringLiteral(
+                       "Content is missing from its place: the end tag on line %1 matches no start tag, "
+                       "and elements near it or behind it are outside of those that they belong to.")
+                .arg(line);
+        };
+        QTest::newRow("stray end tag further in")
+            << QByteArray("<a><b>\n<c></c></c><c/></b></a>") << misplaced(2);
+        QTest::newRow("two stray end tags")
+            << QByteArray("<a><b><b>\n\n<c></c></d></e><c/></b></b></a>") << misplaced(3);
+        QTest::newRow("missing end tag") << QByteArray("<a><b><c>1</c>\n<b><c>2</c></b></a>") << misplaced(2);
+        QTest::newRow("misspelt end tag") << QByteArray("<a><b>x</c><b>y</b></a>") << QString();
+        QTest::newRow("stray end tag at the end") << QByteArray("<a><b>x</b></b></a>") << QString();
+        QTest::newRow("end of a comment with three hyphens")
+            << QByteArray("<a><!-- x ---><b>1</b><b/><!-- y --><c/></a>")
+            << QStringLiteral(
+                   "Content is missing: 2 elements are in a comment that does not end where it should.");
         // What has no end takes everything behind it, the end of the root included.
         const auto addUnended = [](const char *name, const char *start) {
             QTest::newRow(name) << "<a><b>x</b>" + QByteArray(start) + "<c>1</c></a>"
@@ -311,6 +359,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("attributes twice")
             << QByteArray("<a b=\"1\" c=\"2\" b=\"3\"/>") << QStringLiteral("<a b=\"1\" c=\"2\"/>");
+        QTest::newRow("attributes twice, by two prefixes")
+            << QByteArray(
+                   "<a xmlns:p=\"u\" xmlns:q=\"u\"><b p:x=\"1\" q:y=\"2\" q:x=\"3\"/><b p:x=\"4\"/></a>")
+            << QStringLiteral("<a xmlns:p=\"u\" xmlns:q=\"u\"><b p:x=\"1\" q:y=\"2\"/><b p:x=\"4\"/></a>");
         QTest::newRow("late declaration")
             << QByteArray("\n <?xml version=\"1.0\"?><a><?XML x?><b/></a>") << QStringLiteral("<a><b/></a>");
         QTest::newRow("hyphens") << QByteArray("<a><b/><!-- x -- y --></a>")
@@ -318,6 +370,7 @@ private Q_SLOTS:
         QTest::newRow("odd names") << QByteArray("<a><b:1/><:c/><d::e f:=\"1\"/></a>")
                                    << QStringLiteral("<a><b:1/><:c/><d::e f:=\"1\"/></a>");
         QTest::newRow("odd version") << QByteArray("<?xml version=\"2.0\"?><a/>") << QStringLiteral("<a/>");
+        QTest::newRow("half a version") << QByteArray("<?xml version=\"1.\"?><a/>") << QStringLiteral("<a/>");
         QTest::newRow("odd doctype") << QByteArray("<!DOCTYPE><a/>") << QStringLiteral("<a/>");
         QTest::newRow("encoding that is no superset of ASCII")
             << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-7\"?><a>+AOk-</a>")
@@ -403,6 +456,8 @@ private Q_SLOTS:
             << "<a xmlns:b=\"" + QByteArray(1'000'000, 'u') + "\">" + QByteArray("<b:c/>").repeated(200'000) +
                    "</a>"
             << QString();
+        QTest::newRow("hyphens in a comment")
+            << "<a><!--" + QByteArray(400'000, '-') + "x--></a>" << QStringLiteral("double hyphens");
         QByteArray defaults;
         for (int i = 0; i < 4000; ++i)
             defaults += " b" + QByteArray::number(i) + " CDATA \"\"";
@@ -620,6 +675,23 @@ private Q_SLOTS:
             cancelled = true;
         });
         const auto document = XmlDocument::fromFile(QStringLiteral("/dev/zero"), {true, &cancelled});
+        canceller.join();
+        QVERIFY(!document);
+        QVERIFY2(document.message().contains(QStringLiteral("cancelled")), qPrintable(document.message()));
+    }
+
+    void cancellingEndsTheWaitForAPipe()
+    {
+        // Nobody ever writes into it.
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("pipe.xml"));
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        std::atomic<bool> cancelled = false;
+        std::thread canceller([&cancelled] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            cancelled = true;
+        });
+        const auto document = XmlDocument::fromFile(path, {true, &cancelled});
         canceller.join();
         QVERIFY(!document);
         QVERIFY2(document.message().contains(QStringLiteral("cancelled")), qPrintable(document.message()));
