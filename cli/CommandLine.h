@@ -10,6 +10,7 @@ namespace vantrell::cli
 {
 
 /// Exit statuses of the program.
+/// Differs: nothing failed, but what was compared is not the same.
 enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2, Differs = 3 };
 
 /// One subcommand's arguments, declared before parsing. A name that begins with a minus sign is an option's,
@@ -27,6 +28,8 @@ public:
                 Need need = Need::Optional);
     /// An option of exactly two values.
     void pair(const char *name, std::vector<std::string> &target, const std::string &help);
+    /// An option that may be given several times, each time with one value.
+    void repeated(const char *name, std::vector<std::string> &target, const std::string &help);
     /// An argument whose value is one of the choices.
     void choice(const char *name, std::string &target, const std::vector<std::string> &choices,
                 const std::string &help, Need need = Need::Optional);

@@ -15,6 +15,7 @@ void addExportCommand(CommandLine &program);
 void addImportCommand(CommandLine &program);
 void addMarkersCommand(CommandLine &program);
 void addEditCommand(CommandLine &program);
+void addRelinkCommand(CommandLine &program);
 void addReportCommand(CommandLine &program);
 void addSendCommand(CommandLine &program);
 void addCompareCommand(CommandLine &program);

@@ -27,6 +27,7 @@ int runProgram(int argc, char **argv)
     cli::addImportCommand(program);
     cli::addMarkersCommand(program);
     cli::addEditCommand(program);
+    cli::addRelinkCommand(program);
     cli::addReportCommand(program);
     cli::addSendCommand(program);
     cli::addCompareCommand(program);
