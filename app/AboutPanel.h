@@ -5,13 +5,13 @@
 namespace vantrell
 {
 
-/// What the program is and which version. Main thread.
+/// Shows the name and version of the program. Main thread.
 class AboutPanel final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The panel, filled from its interface file; null when that cannot be loaded.
+    /// The panel with the content of its interface file; null when that cannot be loaded.
     static AboutPanel *load(QWidget *parent);
 
 private:

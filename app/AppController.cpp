@@ -38,20 +38,19 @@ namespace vantrell
 namespace
 {
 
-const QString programName = QStringLiteral("Vantrell");
 const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 const QString logQCKey = QStringLiteral("logQC");
 
 constexpr int startupActionMs = 1000;
-constexpr std::chrono::milliseconds patience{500}; // with a volume that may have gone
-constexpr int cascadeStep = 28;                    // pixels
+constexpr std::chrono::milliseconds volumeTimeout{500}; // an unmounted network volume may never answer
+constexpr int cascadeStep = 28;                         // pixels
 
 QString qcListPath()
 {
     return StandardFolders::preferences() + QStringLiteral("/com.orvandel.qc.plist");
 }
 
-/// Without "." and "..", which lead on from where a link leads to.
+/// The absolute path without "." and ".."; where these follow a symbolic link, its target counts.
 QString absolutePath(const QString &path)
 {
     const QFileInfo file(QDir::current().absoluteFilePath(path));
@@ -68,7 +67,7 @@ void bringToFront(QWidget &window)
     window.activateWindow();
 }
 
-/// The window whose file the path leads to; null when none does, or a volume does not answer.
+/// The window of the file at that path; null without one, or when a volume does not answer.
 DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *> &windows)
 {
     QStringList files;
@@ -78,13 +77,13 @@ DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *
         files.append(window->path());
     }
     const auto find = [path, files] {
-        qsizetype place = 0;
-        while (place < files.size() && !FileUtilities::isSameFile(path, files[place]))
-            ++place;
-        return place;
+        qsizetype index = 0;
+        while (index < files.size() && !FileUtilities::isSameFile(path, files[index]))
+            ++index;
+        return index;
     };
-    const qsizetype place = answerWithin<qsizetype>(patience, find).value_or(files.size());
-    return place < files.size() ? windows[std::size_t(place)] : nullptr;
+    const qsizetype index = answerWithin<qsizetype>(volumeTimeout, find).value_or(files.size());
+    return index < files.size() ? windows[std::size_t(index)] : nullptr;
 }
 
 QVariantMap qcList()
@@ -155,8 +154,7 @@ bool AppController::applicationShouldOpenUntitledFile()
 void AppController::openFile()
 {
     if (m_openPanel) {
-        m_openPanel->raise();
-        m_openPanel->activateWindow();
+        bringToFront(*m_openPanel);
         return;
     }
     m_openPanel = new QFileDialog(QApplication::activeWindow(),
@@ -164,7 +162,7 @@ void AppController::openFile()
                                   tr("Final Cut Pro 7 projects and XML files (*.fcp *.xml *.FCP *.XML)"));
     m_openPanel->setAttribute(Qt::WA_DeleteOnClose);
     m_openPanel->setFileMode(QFileDialog::ExistingFiles);
-    m_openPanel->setOption(QFileDialog::ReadOnly); // makes no folders
+    m_openPanel->setOption(QFileDialog::ReadOnly); // without the button that makes folders
     connect(m_openPanel, &QFileDialog::filesSelected, this, &AppController::openFiles, Qt::QueuedConnection);
     m_openPanel->setWindowModality(Qt::ApplicationModal);
     m_openPanel->show();
@@ -204,8 +202,7 @@ void AppController::openRecentFile(const QString &path)
 void AppController::openFCPProject()
 {
     if (m_projectLoader) {
-        m_projectLoader->raise();
-        m_projectLoader->activateWindow();
+        bringToFront(*m_projectLoader);
         return;
     }
     const QVFCPProjectLoader::Services services{[this](const QString &path) { return openProject(path); },
@@ -213,7 +210,7 @@ void AppController::openFCPProject()
     m_projectLoader = QVFCPProjectLoader::showOpenDialog(services, QApplication::activeWindow());
 }
 
-/// What Final Cut Pro holds is one of its projects, whatever the file's name says.
+/// A file that is open in Final Cut Pro is a project, whatever its name.
 Result<void> AppController::openProject(const QString &path)
 {
     if (!openDocument(path, DocumentType::finalCutProProject))
@@ -226,7 +223,7 @@ bool AppController::applicationOpenFile(const QString &path)
     return openDocument(path, Workbench::typeNameForPath(path));
 }
 
-/// The same file may be open twice, once as it is on the disk and once as Final Cut Pro holds it.
+/// A file may be open in two windows: as it is on disk, and as the project that Final Cut Pro has open.
 bool AppController::openDocument(const QString &path, const QString &typeName)
 {
     const QString absolute = absolutePath(path);
@@ -243,7 +240,7 @@ bool AppController::openDocument(const QString &path, const QString &typeName)
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
     connect(window, &DocumentWindow::closeCancelled, this, &AppController::stayOpen);
     window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
-    placeWindow(*window);
+    cascade(*window);
     window->show();
     m_startWindow->hide();
     return window->open(absolute, typeName);
@@ -276,8 +273,8 @@ bool AppController::isOpenElsewhere(const QString &path, const DocumentWindow &w
     return windowAt(path, others) != nullptr;
 }
 
-/// Moves the window off the corner where another one stands.
-void AppController::placeWindow(DocumentWindow &window) const
+/// Moves the window diagonally until it covers no other one exactly.
+void AppController::cascade(DocumentWindow &window) const
 {
     if (window.isMaximized() || window.isFullScreen())
         return;
@@ -344,7 +341,7 @@ void AppController::closeNextWindow()
 {
     const std::vector<DocumentWindow *> open = documentWindows();
     if (!open.empty()) {
-        open.front()->closeSettled(); // and then the next one, when it has closed
+        open.front()->closeSettled(); // windowClosed() goes on with the next one
         return;
     }
     QVAlert::closeAll();
@@ -379,54 +376,17 @@ void AppController::helpUserManual()
         Workspace::openFile(manual);
 }
 
-void AppController::helpHalvexHome()
-{
-    openWebPage(WebPage::HalvexHome, m_defaults);
-}
-
-void AppController::helpSupport()
-{
-    openWebPage(WebPage::Support, m_defaults);
-}
-
-void AppController::helpQVHome()
-{
-    openWebPage(WebPage::QVHome, m_defaults);
-}
-
-void AppController::helpReportBug()
-{
-    openWebPage(WebPage::ReportBug, m_defaults);
-}
-
-void AppController::helpSuggestFeature()
-{
-    openWebPage(WebPage::SuggestFeature, m_defaults);
-}
-
 void AppController::showAboutDialog()
 {
     if (!m_aboutPanel)
         m_aboutPanel = AboutPanel::load(QApplication::activeWindow());
     if (m_aboutPanel) {
-        m_aboutPanel->show();
-        m_aboutPanel->raise();
-        m_aboutPanel->activateWindow();
+        bringToFront(*m_aboutPanel);
         return;
     }
     QVLog::appendLog(u"Error: unable to load About dialog. Please report this error to Orvandel.");
     QVAlert::alertSheetWithMessageText(QStringLiteral("Error: unable to load About dialog."),
                                        QStringLiteral("Please report this error to Orvandel."), nullptr);
-}
-
-void AppController::viewLog()
-{
-    Troubleshooting::viewLogForApp(programName);
-}
-
-void AppController::viewTaskLog()
-{
-    Troubleshooting::viewTaskLogForApp(programName);
 }
 
 void AppController::gatherLogs()

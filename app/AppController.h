@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Troubleshooting.h"
+#include "app/WebPages.h"
 #include "support/files/Result.h"
 
 #include <QObject>
@@ -24,76 +26,78 @@ class RecentFiles;
 class StartWindow;
 class UserDefaults;
 
-/// The program as a whole: its start, the windows of its documents, and the commands that belong to none
-/// of them. Main thread.
+/// The controller of the program: start-up, the document windows, and the commands that belong to no window.
+/// Main thread.
 class AppController final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Starts the program's log. It comes before everything that may have something to write into it.
+    /// Starts the program's log; called before anything that may write to it.
     static void startLog();
 
-    /// Starts the alerts, and gives the defaults what they begin with. The defaults outlive the controller.
+    /// Sets up alerts and registers the initial defaults. The defaults outlive the controller.
     explicit AppController(UserDefaults &defaults);
     ~AppController() override;
 
-    /// Shows the start window unless a document is open, and has the start-up action performed a second
-    /// later unless a window is in use by then.
+    /// Shows the start window unless a document is open. Performs the start-up action a second later unless a
+    /// window is in use by then.
     void applicationDidFinishLaunching();
     /// Shows the open panel if the default "showOpenDialogAtStartup" is 1.
     void performStartupAction();
-    /// Opens the file in a window of its own, or brings the window to the front that has it. True when
-    /// that could be tried; what is wrong with the file its window says.
+    /// Opens the file in a new window, or brings the window to the front that has it open. False for a file
+    /// of unknown type; its window reports any other error.
     bool applicationOpenFile(const QString &path);
     void openFiles(const QStringList &paths);
-    /// The program was started again: opens the files, or comes to the front when there are none.
+    /// Another process was started: opens its files, or comes to the front if there are none.
     void startedAgain(const QStringList &paths);
-    /// Opens a file of the list of recent ones as what it was opened as.
+    /// Opens a recent file as the type it was last opened as.
     void openRecentFile(const QString &path);
-    /// Performs the start-up action; the program makes no untitled documents, so this is false.
+    /// Performs the start-up action and returns false: there are no untitled documents.
     bool applicationShouldOpenUntitledFile();
 
-    /// The windows of all documents that are open.
+    /// The windows of all open documents.
     std::vector<DocumentWindow *> documentWindows() const;
-    /// The document that commands are for; null when none is open.
+    /// The window that commands apply to; null without one.
     DocumentWindow *currentWindow() const;
     StartWindow &startWindow() const { return *m_startWindow; }
     RecentFiles &recentFiles() const { return *m_recentFiles; }
-    /// Whether Final Cut Pro runs.
+    /// Knows whether Final Cut Pro is running.
     ApplicationWatch &finalCutPro() const { return *m_finalCutPro; }
-    /// Whether quality-control logging is switched on.
+    /// Whether quality-control logging is enabled.
     static bool isQCLogging();
 
 public Q_SLOTS:
-    /// The open panel.
+    /// Shows the open panel.
     void openFile();
-    /// The list of the projects that are open in Final Cut Pro.
+    /// Shows the list of the projects that are open in Final Cut Pro.
     void openFCPProject();
     void sendToFCP();
-    /// Asks about all changed projects, then closes every window and ends the program. When the user gives
-    /// that up every window stays.
+    /// Asks about all changed projects, then closes every window and quits. If the user cancels, all windows
+    /// stay open.
     void quit();
 
     void prefsToggleQCLogging(bool on);
     void helpUserManual();
-    void helpHalvexHome();
-    void helpSupport();
-    void helpQVHome();
-    void helpReportBug();
-    void helpSuggestFeature();
+    void helpHalvexHome() { openWebPage(WebPage::HalvexHome, m_defaults); }
+    void helpSupport() { openWebPage(WebPage::Support, m_defaults); }
+    void helpQVHome() { openWebPage(WebPage::QVHome, m_defaults); }
+    void helpReportBug() { openWebPage(WebPage::ReportBug, m_defaults); }
+    void helpSuggestFeature() { openWebPage(WebPage::SuggestFeature, m_defaults); }
     void showAboutDialog();
-    void viewLog();
-    void viewTaskLog();
+    void viewLog() { Troubleshooting::viewLogForApp(programName); }
+    void viewTaskLog() { Troubleshooting::viewTaskLogForApp(programName); }
     void gatherLogs();
 
 private:
+    inline static const QString programName = QStringLiteral("Vantrell");
+
     bool openDocument(const QString &path, const QString &typeName);
     Result<void> openProject(const QString &path);
     void noteLoaded(DocumentWindow &window);
     DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
     bool isOpenElsewhere(const QString &path, const DocumentWindow &window) const;
-    void placeWindow(DocumentWindow &window) const;
+    void cascade(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();
     void stayOpen();
@@ -104,7 +108,7 @@ private:
     std::unique_ptr<RecentFiles> m_recentFiles;
     std::unique_ptr<ApplicationWatch> m_finalCutPro;
     std::unique_ptr<StartWindow> m_startWindow;
-    std::vector<QPointer<DocumentWindow>> m_windows; // those that close among them
+    std::vector<QPointer<DocumentWindow>> m_windows; // including those that are closing
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;
     QPointer<QVFCPProjectLoader> m_projectLoader;

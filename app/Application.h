@@ -6,8 +6,8 @@
 namespace vantrell
 {
 
-/// The application: its names, and that no exception leaves an event handler. Made once, on the main
-/// thread.
+/// The application object: sets the program's names and lets no exception out of an event handler. Created
+/// once, on the main thread.
 class Application : public QApplication
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class Application : public QApplication
 public:
     Application(int &argc, char **argv);
 
-    /// Whether there is a display, or a platform that needs none was asked for.
+    /// Whether there is a display, or a platform without one was requested.
     static bool hasDisplay(int argc, char **argv);
 
     bool notify(QObject *receiver, QEvent *event) override;

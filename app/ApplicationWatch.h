@@ -6,8 +6,8 @@
 namespace vantrell
 {
 
-/// Whether another application runs, as it was when that was last looked at. Looking may take as long as
-/// the disk with the applications does, so it goes on in the background. Main thread.
+/// Tells whether another application was running at the last check. Checks run in the background, as they
+/// wait for the disk with the applications. Main thread.
 class ApplicationWatch final : public QObject
 {
     Q_OBJECT
@@ -15,15 +15,15 @@ class ApplicationWatch final : public QObject
 public:
     explicit ApplicationWatch(const QString &bundleIdentifier);
 
-    /// False until the first look has ended.
+    /// False until the first check has ended.
     bool isRunning() const { return m_isRunning; }
 
 public Q_SLOTS:
-    /// Looks again, unless that is going on.
+    /// Starts a check unless one is running.
     void look();
 
 Q_SIGNALS:
-    /// A look has ended.
+    /// A check has ended.
     void looked();
 
 private:

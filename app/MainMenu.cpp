@@ -87,7 +87,7 @@ void MainMenu::makeFileMenu()
     m_openFCPProject = add(m_fileMenu, tr("Open &Final Cut Pro Project…"), {}, &m_controller,
                            &AppController::openFCPProject);
     m_fileMenu->addSeparator();
-    m_close = add(m_fileMenu, tr("&Close"), QKeySequence::Close, &m_window, &QWidget::close);
+    add(m_fileMenu, tr("&Close"), QKeySequence::Close, &m_window, &QWidget::close);
     m_save = add(m_fileMenu, tr("&Save"), QKeySequence::Save, m_document, &DocumentWindow::save);
     m_saveAs = add(m_fileMenu, tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), m_document,
                    &DocumentWindow::saveAs);
@@ -184,14 +184,14 @@ void MainMenu::makeHelpMenu()
     about->setMenuRole(QAction::AboutRole);
 }
 
-/// The columns of the pane that shows, as they stand.
+/// Lists the columns of the current pane in their present order.
 void MainMenu::fillSortMenu()
 {
     m_sortMenu->clear();
     TabPane &pane = m_document->pane(m_document->selectedTab());
     const std::optional<SortDescriptor> sort = pane.shownSort();
     for (const QString &column : pane.columns()) {
-        QString title = pane.model().columnName(pane.model().columnOf(column));
+        QString title = pane.model().columnAt(pane.model().columnOf(column)).name;
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_sortMenu->addAction(title);
         action->setCheckable(true);

@@ -13,15 +13,15 @@ namespace vantrell
 class AppController;
 class DocumentWindow;
 
-/// The menu bar of one window, which owns it. Commands that are not there for the window's document are
-/// hidden or disabled, with a tool tip that says why where that is not plain. Main thread.
+/// The menu bar of one window, which owns it. Commands that do not apply to the window's document are hidden
+/// or disabled; a tool tip says why where that is not obvious. Main thread.
 class MainMenu final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `document` is the window itself when it is one of a document, else null. The controller outlives
-    /// the window.
+    /// `document` is the window itself if it is a document window, else null. The controller outlives the
+    /// window.
     MainMenu(AppController &controller, QMainWindow &window, DocumentWindow *document);
 
 private:
@@ -52,7 +52,6 @@ private:
     QMenu *m_exportMenu = nullptr;
     QMenu *m_sortMenu = nullptr;
     QAction *m_openFCPProject = nullptr;
-    QAction *m_close = nullptr;
     QAction *m_save = nullptr;
     QAction *m_saveAs = nullptr;
     QAction *m_revert = nullptr;
@@ -60,8 +59,8 @@ private:
     QAction *m_exportSequences = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_qcLogging = nullptr;
-    QList<QAction *> m_reportActions;   // printing and its like
-    QList<QAction *> m_documentActions; // need a document that shows its panes
+    QList<QAction *> m_reportActions;   // print and export reports
+    QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab
 };
 

@@ -43,7 +43,7 @@ void QuitSequence::proceed()
     }
 }
 
-/// Whether something is to end first; proceed() is called again then.
+/// Whether a window is still busy; proceed() is called again once it is not.
 bool QuitSequence::waitsForBusyWindow()
 {
     for (DocumentWindow *const window : m_windows()) {

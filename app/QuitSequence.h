@@ -13,24 +13,24 @@ namespace vantrell
 
 class DocumentWindow;
 
-/// Asks about the changes in all windows before any of them closes: one changed project with the question
-/// of its window, several with one question for all, which are saved or reviewed one after the other. What
-/// a window is busy with ends first. Main thread.
+/// Asks about the changes in all windows before any of them closes. A single changed project is asked about
+/// in its window; for several, one question offers to save all or review each in turn. Waits for windows that
+/// are busy. Main thread.
 class QuitSequence final : public QObject, private AlertDelegate
 {
     Q_OBJECT
 
 public:
-    /// `windows` gives the windows that are open.
+    /// `windows` returns the open windows.
     QuitSequence(std::function<std::vector<DocumentWindow *>()> windows, QObject *parent);
 
-    /// Once. settled() or cancelled() tells the end of it.
+    /// Called once; settled() or cancelled() reports the result.
     void start();
 
 Q_SIGNALS:
-    /// No changes are left, but for those that the user gives up.
+    /// All changes are saved or given up.
     void settled();
-    /// The user does not want to quit, after all, or something could not be saved.
+    /// The user has cancelled, or something could not be saved.
     void cancelled();
 
 private:

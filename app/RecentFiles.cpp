@@ -11,7 +11,7 @@ namespace
 {
 
 const QString recentFilesKey = QStringLiteral("recentFiles");
-const QString recentProjectsKey = QStringLiteral("recentFCPProjects"); // some of the recent files
+const QString recentProjectsKey = QStringLiteral("recentFCPProjects"); // a subset of the recent files
 
 } // namespace
 
@@ -51,7 +51,7 @@ void RecentFiles::add(const QString &path, bool isFCPProject)
     store(list.mid(0, maximum), fetched);
 }
 
-/// Each only where it is another than before: every window hears of a change.
+/// Stores only what has changed, as every window is notified.
 void RecentFiles::store(const QStringList &paths, const QStringList &projects)
 {
     QStringList listed;

@@ -9,10 +9,9 @@ namespace vantrell
 
 class UserDefaults;
 
-/// The files that were opened last, the latest first, kept in the user defaults "recentFiles". Whether
-/// they still exist is not looked at: their volume might not answer. A project that was fetched from Final
-/// Cut Pro is fetched from there again, whatever its name ends in; which ones those are is kept in the user
-/// defaults "recentFCPProjects". A path stands for what it was opened as last. Main thread.
+/// The recently opened files, most recent first, kept in the user default "recentFiles". Their existence is
+/// not checked, as a volume might not answer. The user default "recentFCPProjects" lists those last opened as
+/// projects of Final Cut Pro, which are fetched from there again. Main thread.
 class RecentFiles final : public QObject
 {
     Q_OBJECT
@@ -24,16 +23,16 @@ public:
     explicit RecentFiles(UserDefaults &defaults);
 
     QStringList paths() const;
-    /// Whether the file is to be opened as a project that Final Cut Pro holds.
+    /// Whether the file was last opened as a project of Final Cut Pro.
     bool isFCPProject(const QString &path) const;
-    /// Puts the file first.
+    /// Moves the file to the top of the list.
     void add(const QString &path, bool isFCPProject);
-    /// Takes the file out of the list when its folder is there and it is not: a volume may come back.
+    /// Removes a file that no longer exists, unless its folder is gone too: its volume may return.
     void forgetIfGone(const QString &path);
     void clear();
 
 Q_SIGNALS:
-    /// The list is another, whichever process changed it.
+    /// The list has changed, in this or another process.
     void changed();
 
 private:

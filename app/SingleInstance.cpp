@@ -19,7 +19,7 @@ constexpr quint32 protocol = 0x56540001;
 constexpr char taken = 'k';
 constexpr unsigned long retryMs = 50;
 
-/// What the processes of one session have in common, as part of a file name.
+/// The name of the session's display as part of a file name.
 QString sessionName()
 {
     QString name = qEnvironmentVariable("WAYLAND_DISPLAY");
@@ -48,14 +48,14 @@ bool SingleInstance::passOn(const QStringList &paths, std::chrono::milliseconds 
     const QString base = folder + QStringLiteral("/program") + sessionName();
     m_socketPath = base + QStringLiteral(".socket");
     m_lock = std::make_unique<QLockFile>(base + QStringLiteral(".lock"));
-    m_lock->setStaleLockTime(0); // it is stale when its process has gone, however old it is
+    m_lock->setStaleLockTime(0); // stale once its process has ended, however old it is
     const QDeadlineTimer deadline(patience);
     for (;;) {
         if (m_lock->tryLock(0)) {
             listen();
             return false;
         }
-        // The first one may be starting, or ending, just now.
+        // The first process may just be starting or ending.
         const bool isHeld = m_lock->error() == QLockFile::LockFailedError;
         if (isHeld && send(paths, std::chrono::milliseconds(deadline.remainingTime())))
             return true;
@@ -109,7 +109,7 @@ void SingleInstance::accept()
             socket->flush();
             if (!token.isEmpty())
                 qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // lets a window come to the front
-            // Later: opening a window dispatches events, among them that the other process has gone.
+            // Queued: opening a window dispatches events, such as the disconnection of this socket.
             QMetaObject::invokeMethod(
                 this, [this, paths] { Q_EMIT filesPassed(paths); }, Qt::QueuedConnection);
         };

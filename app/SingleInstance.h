@@ -12,10 +12,10 @@
 namespace vantrell
 {
 
-/// Sees to it that one process of the program serves a user's session. The first one holds a lock and
-/// listens on a local socket, both named after the session's display, in the runtime folder; what a process
-/// that ended without a word left of them there counts for nothing. Without a runtime folder every process
-/// is on its own. Main thread.
+/// Ensures that one process of the program serves a user's session. The first process holds a lock and
+/// listens on a local socket in the runtime folder, both named after the session's display; those that a
+/// crashed process left behind are ignored. Without a runtime folder each process is independent. Main
+/// thread.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ class SingleInstance final : public QObject
 public:
     SingleInstance();
 
-    /// True when another process has taken the files over, or has been asked to show itself when there are
-    /// none: this one may end. False when it is to open them itself: it is the first one, or the first one
-    /// did not answer in `patience`. Once.
+    /// True when another process has accepted the files, or a request to come to the front without files:
+    /// this process may exit. False when this process is the first, or the first did not answer within
+    /// `patience`. Called once.
     bool passOn(const QStringList &paths, std::chrono::milliseconds patience = std::chrono::seconds(10));
 
 Q_SIGNALS:
-    /// Another process was started with these files, absolute paths, or without any.
+    /// Another process was started with these files (absolute paths), or without any.
     void filesPassed(const QStringList &paths);
 
 private:

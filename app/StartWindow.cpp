@@ -1,6 +1,7 @@
 #include "app/StartWindow.h"
 
 #include "app/RecentFiles.h"
+#include "support/widgets/FilePanel.h"
 #include "support/widgets/SymbolIcon.h"
 
 #include <QCloseEvent>
@@ -13,10 +14,8 @@
 #include <QIcon>
 #include <QLabel>
 #include <QListWidget>
-#include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace vantrell
@@ -27,8 +26,8 @@ namespace
 
 constexpr int logoSide = 96;
 
-/// A dashed outline around a hint; drawn strongly while a file is above it.
-class DropPlace final : public QLabel
+/// A hint with a dashed outline, highlighted while a file is dragged over the window.
+class DropArea final : public QLabel
 {
 public:
     using QLabel::QLabel;
@@ -47,16 +46,6 @@ protected:
         QLabel::paintEvent(event);
     }
 };
-
-QStringList localFiles(const QMimeData *data)
-{
-    QStringList paths;
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
 
 QString shownFolder(const QString &path)
 {
@@ -99,9 +88,9 @@ QWidget *StartWindow::makeWelcome()
     auto *const open = new QPushButton(tr("&Open…"), welcome);
     open->setDefault(true);
     connect(open, &QPushButton::clicked, this, &StartWindow::openRequested);
-    m_dropPlace = new DropPlace(tr("Drop a project or\nan XML file here"), welcome);
-    m_dropPlace->setAlignment(Qt::AlignCenter);
-    m_dropPlace->setMinimumSize(220, 96);
+    m_dropArea = new DropArea(tr("Drop a project or\nan XML file here"), welcome);
+    m_dropArea->setAlignment(Qt::AlignCenter);
+    m_dropArea->setMinimumSize(220, 96);
     auto *const layout = new QVBoxLayout(welcome);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
@@ -110,7 +99,7 @@ QWidget *StartWindow::makeWelcome()
     purpose->setAlignment(Qt::AlignHCenter);
     layout->addStretch(1);
     layout->addWidget(open);
-    layout->addWidget(m_dropPlace);
+    layout->addWidget(m_dropArea);
     return welcome;
 }
 
@@ -166,24 +155,24 @@ void StartWindow::closeEvent(QCloseEvent *event)
 
 void StartWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (localFiles(event->mimeData()).isEmpty())
+    if (FilePanel::localFiles(event->mimeData()).isEmpty())
         return;
     event->acceptProposedAction();
-    m_dropPlace->setProperty("isTarget", true);
-    m_dropPlace->update();
+    m_dropArea->setProperty("isTarget", true);
+    m_dropArea->update();
 }
 
 void StartWindow::dragLeaveEvent(QDragLeaveEvent *)
 {
-    m_dropPlace->setProperty("isTarget", false);
-    m_dropPlace->update();
+    m_dropArea->setProperty("isTarget", false);
+    m_dropArea->update();
 }
 
 void StartWindow::dropEvent(QDropEvent *event)
 {
     dragLeaveEvent(nullptr);
     event->acceptProposedAction();
-    Q_EMIT filesChosen(localFiles(event->mimeData()));
+    Q_EMIT filesChosen(FilePanel::localFiles(event->mimeData()));
 }
 
 } // namespace vantrell

@@ -10,8 +10,8 @@ namespace vantrell
 
 class RecentFiles;
 
-/// What stands while no document is open: the projects that were opened last, and a place to drop a file.
-/// Closing it ends the program. Main thread.
+/// The window that shows while no document is open: recent projects and an area to drop files on. Closing it
+/// quits the program. Main thread.
 class StartWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 
 Q_SIGNALS:
     void openRequested();
-    /// The user dropped these files, or wants one of the recent ones again.
+    /// The user has dropped files, or chosen a recent one.
     void filesChosen(const QStringList &paths);
     void recentFileChosen(const QString &path);
     void closed();
@@ -40,7 +40,7 @@ private:
 
     RecentFiles &m_recentFiles;
     QListWidget *m_list = nullptr;
-    QLabel *m_dropPlace = nullptr;
+    QLabel *m_dropArea = nullptr;
 };
 
 } // namespace vantrell

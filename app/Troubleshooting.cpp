@@ -41,7 +41,7 @@ QString taskLogPath(const QString &name)
     return QStringLiteral("%1/%2 Tasks.log").arg(logFolder(), name);
 }
 
-/// One line on a helper program that has ended. Any thread.
+/// Logs the end of a helper program. Any thread.
 void appendTaskLog(const QString &name, const QString &line)
 {
     QFile file(taskLogPath(name));

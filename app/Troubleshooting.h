@@ -11,18 +11,18 @@ class QObject;
 namespace vantrell
 {
 
-/// The program's logs for the user and for whoever helps the user. Main thread.
+/// Shows and collects the program's logs. Main thread.
 namespace Troubleshooting
 {
 
-/// Shows the current log in the default application; an alert when there is none.
+/// Opens the current log in the default application; shows an alert without one.
 void viewLogForApp(const QString &name);
 
-/// The same for the log of the helper programs that were run.
+/// The same for the log of the helper programs.
 void viewTaskLogForApp(const QString &name);
 
-/// Collects all logs of the program into one archive in the folder, under a name that is free there, and
-/// returns at once. `ended` gets the archive's path, on the main thread, unless `context` is gone by then.
+/// Collects all logs of the program into an archive with a unique name in the folder, in the background.
+/// `ended` gets the archive's path, on the main thread, unless `context` has been destroyed by then.
 void gatherLogsForAppWithName(const QString &name, const QString &folder, QObject *context,
                               const std::function<void(const Result<QString> &)> &ended);
 

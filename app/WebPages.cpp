@@ -7,54 +7,47 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+#include <array>
+
 namespace vantrell
 {
 
 namespace
 {
 
-const QString familyShortName = QStringLiteral("halvex");
-const QString programShortName = QStringLiteral("vantrell");
+struct Page {
+    QString key; ///< of the user defaults
+    QString address;
+};
 
-QString keyOf(WebPage page)
-{
-    switch (page) {
-    case WebPage::HalvexHome:
-        return QStringLiteral("halvexHomeAddress");
-    case WebPage::QVHome:
-        return QStringLiteral("homeAddress");
-    case WebPage::Support:
-        return QStringLiteral("supportAddress");
-    case WebPage::ReportBug:
-        return QStringLiteral("reportBugAddress");
-    case WebPage::SuggestFeature:
-        return QStringLiteral("suggestFeatureAddress");
-    }
-    return QString();
-}
+/// By WebPage.
+const std::array<Page, 5> pages{
+    {{QStringLiteral("halvexHomeAddress"), QStringLiteral("https://www.orvandel.example/halvex")},
+     {QStringLiteral("homeAddress"), QStringLiteral("https://www.orvandel.example/")},
+     {QStringLiteral("supportAddress"), QStringLiteral("https://www.orvandel.example/support/%@")},
+     {QStringLiteral("reportBugAddress"),
+      QStringLiteral("https://www.orvandel.example/bug?app=%@&subapp=%@")},
+     {QStringLiteral("suggestFeatureAddress"),
+      QStringLiteral("https://www.orvandel.example/feature?app=%@&subapp=%@")}}};
 
 } // namespace
 
 QVariantMap defaultWebAddresses()
 {
-    return {
-        {keyOf(WebPage::HalvexHome), QStringLiteral("https://www.orvandel.example/halvex")},
-        {keyOf(WebPage::QVHome), QStringLiteral("https://www.orvandel.example/")},
-        {keyOf(WebPage::Support), QStringLiteral("https://www.orvandel.example/support/%@")},
-        {keyOf(WebPage::ReportBug), QStringLiteral("https://www.orvandel.example/bug?app=%@&subapp=%@")},
-        {keyOf(WebPage::SuggestFeature),
-         QStringLiteral("https://www.orvandel.example/feature?app=%@&subapp=%@")},
-    };
+    QVariantMap addresses;
+    for (const Page &page : pages)
+        addresses.insert(page.key, page.address);
+    return addresses;
 }
 
 void openWebPage(WebPage page, const UserDefaults &defaults)
 {
-    // Other percent signs belong to the address.
-    QString address = defaults.string(keyOf(page));
-    for (const QString &name : {familyShortName, programShortName}) {
-        const qsizetype place = address.indexOf(QStringLiteral("%@"));
-        if (place >= 0)
-            address.replace(place, 2, name);
+    // Not formatText(): other percent signs are part of the address.
+    QString address = defaults.string(pages.at(std::size_t(page)).key);
+    for (const QString &name : {QStringLiteral("halvex"), QStringLiteral("vantrell")}) {
+        const qsizetype index = address.indexOf(QStringLiteral("%@"));
+        if (index >= 0)
+            address.replace(index, 2, name);
     }
     if (!QDesktopServices::openUrl(QUrl(address)))
         QVAlert::alertSheetWithMessageText(

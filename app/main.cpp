@@ -18,9 +18,9 @@
 namespace
 {
 
-constexpr std::chrono::milliseconds patienceAtEnd{200};
+constexpr std::chrono::milliseconds disposalTimeout{200};
 
-/// Answers what needs no window; false when there is nothing to answer.
+/// Handles the options that need no window; false for any other.
 bool answerOption(const char *option)
 {
     if (std::strcmp(option, "--version") == 0) {
@@ -49,7 +49,7 @@ bool answerOption(const char *option)
     std::_Exit(EXIT_FAILURE);
 }
 
-/// While the application is made, the one fatal message is that there is no usable display.
+/// While the application object is created, the only fatal message is that no display is usable.
 void endOnFatalMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
@@ -57,7 +57,7 @@ void endOnFatalMessage(QtMsgType type, const QMessageLogContext &, const QString
         endWithoutDisplay();
 }
 
-/// The files to open, by paths that hold in every process.
+/// The absolute paths of the files to open, valid in every process.
 QStringList filesOf(const QStringList &arguments)
 {
     QStringList paths;
@@ -105,8 +105,8 @@ int main(int argc, char **argv)
     if (instance.passOn(paths))
         return EXIT_SUCCESS;
     const int status = run(application, instance, paths);
-    // Taking a large project apart is no reason to keep the process.
-    if (!vantrell::BackgroundWork::waitForAll(patienceAtEnd)) {
+    // Disposing of a large project is no reason to keep the process.
+    if (!vantrell::BackgroundWork::waitForAll(disposalTimeout)) {
         vantrell::QVLog::willTerminate();
         std::_Exit(status);
     }

@@ -181,7 +181,7 @@ void measureLoading(TimedApplication &application, AppController &controller, co
     const Watch watch;
     controller.openFiles({path});
     DocumentWindow *const window = controller.currentWindow();
-    while (window->state() == DocumentWindow::State::Loading)
+    while (window->isLoading())
         settle(20);
     std::printf("open: %.1f s\n", watch.wallMs() / 1000);
     application.report("while it loads");

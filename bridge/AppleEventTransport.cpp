@@ -27,9 +27,8 @@ EventResult<EventRecord> AppleEventTransport::addParameter(EventRecord event, Fo
                                                            EventDescriptor value)
 {
     event.setParameter(keyword, std::move(value));
-    const Result<qsizetype> size = EventWire::size(event);
-    if (!size)
-        return EventFailure{EventError::BadParameter, size.message()};
+    if (const auto pieces = EventWire::pieces(event); !pieces)
+        return EventFailure{EventError::BadParameter, pieces.message()};
     return event;
 }
 

@@ -13,13 +13,13 @@
 namespace vantrell
 {
 
-/// Why a step of an exchange failed.
+/// Why a step of an event exchange failed.
 struct EventFailure {
     std::int32_t number; ///< one of EventError, or what the application reported
     QString reason;      ///< a sentence for the log
 };
 
-/// What a step gives back: a value, or an EventFailure.
+/// The result of a step: a value or an EventFailure.
 template <typename T>
 class [[nodiscard]] EventResult
 {
@@ -45,12 +45,12 @@ private:
     std::variant<T, EventFailure> m_state;
 };
 
-/// What makes events and carries them to another application and the replies back. Stateless; any thread,
-/// several at a time.
+/// Creates events, sends them to another application and receives the replies. Stateless; any thread, also
+/// concurrently.
 class AppleEventTransport
 {
 public:
-    /// `systemTimeout` is how long an event may take that asks for the system's time-out.
+    /// `systemTimeout` applies to events with EventRecord::systemTimeout.
     explicit AppleEventTransport(std::chrono::milliseconds systemTimeout = std::chrono::minutes(1))
         : m_systemTimeout(systemTimeout)
     {
@@ -63,17 +63,16 @@ public:
 
     /// The address of the application with that signature.
     virtual EventResult<EventDescriptor> createAddress(FourCharCode signature);
-    /// An event to that address, without parameters.
+    /// An event for that address, without parameters.
     virtual EventResult<EventRecord> createEvent(FourCharCode eventClass, FourCharCode identifier,
                                                  const EventDescriptor &address);
-    /// The event with one parameter more. Fails when it could not be carried with it: it is too large, or a
-    /// value of a size that its type does not have.
+    /// The event with one more parameter. Fails when it could not be sent: it is too large, or the value's
+    /// size is invalid for its type.
     virtual EventResult<EventRecord> addParameter(EventRecord event, FourCharCode keyword,
                                                   EventDescriptor value);
 
-    /// Sends the event and waits for its reply; fails when the event's time-out has passed, when the
-    /// application ends or sends something else than a reply, and at once on cancelling. A reply that
-    /// reports an error is none of these.
+    /// Sends the event and waits for its reply. Fails when the event times out, when the application ends or
+    /// sends anything but a reply, and at once on cancelling. A reply that reports an error is not a failure.
     virtual EventResult<EventRecord> send(const EventRecord &event, const EventCancel &cancel) = 0;
 
 private:

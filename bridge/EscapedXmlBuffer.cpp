@@ -1,9 +1,12 @@
 #include "bridge/EscapedXmlBuffer.h"
 
-#include <QChar>
+#include "bridge/QVAppleEvents.h"
+
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace vantrell
 {
@@ -11,26 +14,21 @@ namespace vantrell
 namespace
 {
 
-constexpr char32_t firstEscaped = 160;
-
-bool isCopied(char c)
+/// How many of the bytes end before what may be an incomplete character.
+qsizetype completeSize(const QByteArray &bytes)
 {
-    return static_cast<unsigned char>(c) < 0x80 && c != '\r';
+    const auto byteBefore = [&](qsizetype i) { return i > 0 ? uchar(bytes.at(i - 1)) : uchar(0); };
+    qsizetype end = bytes.size();
+    while (end > bytes.size() - 3 && (byteBefore(end) & 0xC0) == 0x80)
+        --end;
+    return byteBefore(end) >= 0xC0 ? end - 1 : end;
 }
 
-/// How many bytes the character has that begins with this one; 1 when none does.
-int lengthFrom(unsigned char first)
+/// A byte-order mark is a character like any other.
+QString decoded(QByteArrayView utf8)
 {
-    if (first >= 0xC2 && first < 0xE0)
-        return 2;
-    if (first >= 0xE0 && first < 0xF0)
-        return 3;
-    return first >= 0xF0 && first < 0xF5 ? 4 : 1;
-}
-
-QByteArray reference(char32_t unit)
-{
-    return "&#" + QByteArray::number(uint(unit)) + ';';
+    using Flag = QStringConverter::Flag;
+    return QStringDecoder(QStringConverter::Utf8, Flag::Stateless | Flag::ConvertInitialBom).decode(utf8);
 }
 
 } // namespace
@@ -42,64 +40,27 @@ EscapedXmlBuffer::EscapedXmlBuffer()
 
 QByteArray EscapedXmlBuffer::take()
 {
+    m_escaped += QVAppleEvents::escapedXml(decoded(std::exchange(m_pending, QByteArray())));
     return std::exchange(m_escaped, QByteArray());
 }
 
 qint64 EscapedXmlBuffer::writeData(const char *data, qint64 size)
 {
+    constexpr qsizetype portion = qsizetype(1) << 20; // bytes decoded at a time
     try {
-        append(data, data + size);
+        for (QByteArrayView rest(data, size); !rest.isEmpty();) {
+            const QByteArrayView part = rest.first(std::min(portion, rest.size()));
+            m_pending.append(part);
+            const qsizetype complete = completeSize(m_pending);
+            m_escaped += QVAppleEvents::escapedXml(decoded(QByteArrayView(m_pending).first(complete)));
+            m_pending.remove(0, complete);
+            rest = rest.sliced(part.size());
+        }
         return size;
     } catch (const std::bad_alloc &) {
         setErrorString(QStringLiteral("There is not enough memory."));
         return -1;
     }
-}
-
-void EscapedXmlBuffer::append(const char *data, const char *end)
-{
-    while (data != end) {
-        if (m_met > 0 && (static_cast<unsigned char>(*data) & 0xC0) == 0x80) {
-            m_character[std::size_t(m_met++)] = *data++;
-            if (m_met == m_length)
-                appendCharacter();
-            continue;
-        }
-        if (m_met > 0) // cut off: a character of its own that stands for what cannot be read
-            appendCharacter();
-        const char *const plain = data;
-        data = std::find_if_not(data, end, isCopied);
-        m_escaped.append(plain, data - plain);
-        if (data == end)
-            return;
-        if (*data == '\r') {
-            m_escaped += "&#13;";
-        } else {
-            m_character[0] = *data;
-            m_met = 1;
-            m_length = lengthFrom(static_cast<unsigned char>(*data));
-            if (m_length == 1)
-                appendCharacter();
-        }
-        ++data;
-    }
-}
-
-void EscapedXmlBuffer::appendCharacter()
-{
-    char32_t character = QChar::ReplacementCharacter;
-    if (m_met == m_length && m_length > 1) {
-        character = static_cast<unsigned char>(m_character[0]) & (0xFFU >> (m_length + 1));
-        for (int i = 1; i < m_length; ++i)
-            character = character << 6 | (static_cast<unsigned char>(m_character[std::size_t(i)]) & 0x3FU);
-    }
-    if (character < firstEscaped)
-        m_escaped.append(m_character.data(), m_length);
-    else if (QChar::requiresSurrogates(character))
-        m_escaped += reference(QChar::highSurrogate(character)) + reference(QChar::lowSurrogate(character));
-    else
-        m_escaped += reference(character);
-    m_met = 0;
 }
 
 } // namespace vantrell

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 struct EventCancel::State {
     std::atomic<bool> isCancelled = false;
-    /// Readable from the moment of cancelling on. Not open when there are no descriptors left.
+    /// Readable once cancelled. Not open when the process has run out of descriptors.
     const Descriptor wake{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
 };
 
@@ -27,15 +27,11 @@ EventCancel::EventCancel()
 {
 }
 
-EventCancel::EventCancel(const EventCancel &other) = default;
-EventCancel &EventCancel::operator=(const EventCancel &other) = default;
-EventCancel::~EventCancel() = default;
-
 void EventCancel::cancel()
 {
     m_state->isCancelled = true;
     const std::uint64_t one = 1;
-    // Fails only when there is no descriptor, or when it is readable already.
+    // Fails only without a descriptor or when it is readable already.
     [[maybe_unused]] const ssize_t written = ::write(m_state->wake.number(), &one, sizeof(one));
 }
 
@@ -58,7 +54,7 @@ short EventCancel::poll(int descriptor, short events, std::chrono::milliseconds 
                                       pollfd{m_state->wake.number(), POLLIN, 0}};
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
-        // Without a descriptor to wake it, it looks by itself.
+        // Without a descriptor that wakes it, it checks the flag regularly.
         const auto turn =
             std::clamp<std::chrono::milliseconds>(left, 0ms, m_state->wake.isOpen() ? 60s : 50ms);
         const int ready = ::poll(watched.data(), watched.size(), int(turn.count()));

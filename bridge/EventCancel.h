@@ -6,25 +6,24 @@
 namespace vantrell
 {
 
-/// Ends what is waiting for another application: one for each document that may be closed meanwhile. Copies
-/// are cheap and stand for the same; once cancelled it stays so. Any thread.
+/// Cancels waiting for other applications, for instance when a document is closed. Copies share one state and
+/// are cheap; once cancelled, it stays cancelled. Any thread.
 class EventCancel
 {
 public:
-    EventCancel();
-    EventCancel(const EventCancel &other);
-    EventCancel &operator=(const EventCancel &other);
-    ~EventCancel();
+    static constexpr std::chrono::milliseconds forever = std::chrono::hours(24 * 365);
 
-    /// Ends every wait that was given this or a copy, those to come included.
+    EventCancel();
+
+    /// Ends every present and future wait on this object and its copies. May be called in a signal handler.
     void cancel();
     bool isCancelled() const;
 
-    /// Waits so long, or until it is cancelled; whether it is.
+    /// Waits for that time or until it is cancelled; returns whether it is.
     bool waitFor(std::chrono::milliseconds time) const;
 
-    /// Waits for one of poll()'s `events` on the file descriptor, or until it is cancelled or the time is
-    /// up. What happened there; 0 when nothing did.
+    /// Waits for one of poll()'s `events` on the file descriptor, for that time at most and until it is
+    /// cancelled. Returns the events that occurred; 0 for none.
     short poll(int descriptor, short events, std::chrono::milliseconds time) const;
 
 private:

@@ -2,7 +2,7 @@
 
 #include "bridge/EventRecord.h"
 
-/// The codes of the events that Final Cut Pro answers.
+/// The codes of the events that Final Cut Pro handles.
 namespace vantrell::EventCode
 {
 
@@ -47,7 +47,7 @@ inline constexpr FourCharCode Record{"reco"};
 
 } // namespace vantrell::EventCode
 
-/// The error numbers of events: what a reply reports and what a failed step has.
+/// The error numbers of replies and failed steps.
 namespace vantrell::EventError
 {
 
@@ -55,11 +55,11 @@ inline constexpr std::int32_t FileNotFound = -43;
 inline constexpr std::int32_t BadParameter = -50;
 inline constexpr std::int32_t OutOfMemory = -108;
 inline constexpr std::int32_t Cancelled = -128;
-inline constexpr std::int32_t ProcessNotFound = -600;   ///< nobody takes events there
-inline constexpr std::int32_t ConnectionInvalid = -609; ///< it ended before the reply
-inline constexpr std::int32_t CorruptData = -1702;      ///< the bytes are no event
-inline constexpr std::int32_t EventNotHandled = -1708;  ///< the application does not know it
+inline constexpr std::int32_t ProcessNotFound = -600;   ///< no application receives events there
+inline constexpr std::int32_t ConnectionInvalid = -609; ///< the application ended before the reply
+inline constexpr std::int32_t CorruptData = -1702;      ///< the bytes are not an event
+inline constexpr std::int32_t EventNotHandled = -1708;  ///< unknown to the application
 inline constexpr std::int32_t TimedOut = -1712;
-inline constexpr std::int32_t NotPermitted = -10004; ///< the application is another user's
+inline constexpr std::int32_t NotPermitted = -10004; ///< the application belongs to another user
 
 } // namespace vantrell::EventError

@@ -11,15 +11,15 @@
 namespace vantrell
 {
 
-/// Writes what failed to the system log, and together with its cause, if one is given, to the log.
+/// Writes the message to the system log and, with its cause if there is one, to the log.
 void reportEventFailure(const QString &message, const QString &cause = {});
 
-/// One event to Final Cut Pro, from its making to its reply. The first step that fails is reported; the
-/// steps behind it then do nothing. One thread.
+/// One event to Final Cut Pro, from its creation to its reply. The first failing step is reported; later
+/// steps then do nothing. One thread.
 class EventExchange
 {
 public:
-    /// What the steps that all events have in common say when they fail; "%ld" is the error's number.
+    /// The messages of the steps that all events have in common; "%ld" is the error number.
     struct Messages {
         QStringView address = u"Error creating app description";
         QStringView event = u"Error creating AppleEvent";
@@ -29,10 +29,10 @@ public:
     EventExchange(FourCharCode identifier, const EventCancel &cancel);
     EventExchange(FourCharCode identifier, const EventCancel &cancel, const Messages &messages);
 
-    /// Adds a parameter; the message is for its failure.
+    /// Adds a parameter; the message reports its failure.
     void add(FourCharCode keyword, EventDescriptor value, QStringView message);
     enum class Unreferred { Fails, IsLeftOut };
-    /// Adds the reference to a file; what happens without one, the last argument says.
+    /// Adds a reference to a file; the last argument says what happens when none can be made.
     void addFile(FourCharCode keyword, const QString &path, QStringView message,
                  Unreferred unreferred = Unreferred::Fails);
 
@@ -41,7 +41,7 @@ public:
     /// The reply; nothing when this or an earlier step failed. A reply that reports an error is a failure.
     std::optional<EventRecord> send();
 
-    /// Says nothing about failures from now on.
+    /// Failures are not reported from now on.
     void silence() { m_isSilent = true; }
 
 private:

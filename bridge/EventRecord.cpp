@@ -69,12 +69,6 @@ EventDescriptor::EventDescriptor(FourCharCode type, QByteArray bytes)
 {
 }
 
-EventDescriptor::EventDescriptor(const EventDescriptor &other) = default;
-EventDescriptor::EventDescriptor(EventDescriptor &&other) noexcept = default;
-EventDescriptor &EventDescriptor::operator=(const EventDescriptor &other) = default;
-EventDescriptor &EventDescriptor::operator=(EventDescriptor &&other) noexcept = default;
-EventDescriptor::~EventDescriptor() = default;
-
 EventDescriptor EventDescriptor::fromUtf8(QByteArray utf8)
 {
     return {EventCode::Utf8, std::move(utf8)};

@@ -11,8 +11,8 @@
 namespace vantrell
 {
 
-/// Four bytes that name a class, an event, a parameter or a type. Its own type, so that no number and no
-/// text is taken for one.
+/// Four bytes that name a class, an event, a parameter or a type. A type of its own, so that no number or
+/// text converts to it.
 struct FourCharCode {
     std::uint32_t value = 0; ///< the first character is the highest byte
 
@@ -30,26 +30,21 @@ struct FourCharCode {
 
     friend constexpr auto operator<=>(FourCharCode, FourCharCode) = default;
 
-    /// The four characters, or the number in hexadecimal digits when one of them is no printable ASCII.
+    /// The four characters, or the number in hexadecimal digits unless all four are printable ASCII.
     QString text() const;
 };
 
 struct EventParameter;
 
-/// A typed value of an event: bytes, a list of values, or a record of values with keywords in their
-/// order. Bytes are implicitly shared; a copy does not copy them. A value; one thread at a time.
+/// A typed value of an event: bytes, a list of values, or an ordered record of values with keywords. Bytes
+/// are implicitly shared. A value type; one thread at a time.
 class EventDescriptor
 {
 public:
     /// The empty value, of type `null`.
     EventDescriptor();
-    /// Any type but `list` and `reco` with its bytes as they are.
+    /// A value of any type except `list` and `reco`; the bytes are not checked.
     EventDescriptor(FourCharCode type, QByteArray bytes);
-    EventDescriptor(const EventDescriptor &other);
-    EventDescriptor(EventDescriptor &&other) noexcept;
-    EventDescriptor &operator=(const EventDescriptor &other);
-    EventDescriptor &operator=(EventDescriptor &&other) noexcept;
-    ~EventDescriptor();
 
     static EventDescriptor fromUtf8(QByteArray utf8);
     /// The text of a file URL, or of a path with percent escapes, as UTF-8.
@@ -68,7 +63,7 @@ public:
     bool isList() const;
     bool isRecord() const;
 
-    // Nothing when the value is of another type or of a size that its type does not have.
+    // Nothing when the value has another type or a size that is invalid for its type.
     std::optional<QByteArray> toUtf8() const;
     std::optional<QByteArray> toFileUrl() const;
     std::optional<bool> toBool() const;
@@ -76,13 +71,13 @@ public:
     std::optional<FourCharCode> toSignature() const;
     std::optional<QByteArray> toFileReference() const;
 
-    /// What a value has that is neither list nor record; empty otherwise.
+    /// Empty for a list or record.
     const QByteArray &bytes() const { return m_bytes; }
-    /// The values of a list; empty otherwise.
+    /// Empty unless it is a list.
     const std::vector<EventDescriptor> &items() const { return m_items; }
-    /// The values of a record with their keywords; empty otherwise.
+    /// Empty unless it is a record.
     const std::vector<EventParameter> &fields() const { return m_fields; }
-    /// The first value of a record with that keyword; null when there is none.
+    /// The first field with that keyword; null without one.
     const EventDescriptor *field(FourCharCode keyword) const;
 
     friend bool operator==(const EventDescriptor &a, const EventDescriptor &b);
@@ -101,20 +96,20 @@ struct EventParameter {
     friend bool operator==(const EventParameter &a, const EventParameter &b) = default;
 };
 
-/// One event, or the reply to one. A value; one thread at a time.
+/// One event, or the reply to one. A value type; one thread at a time.
 struct EventRecord {
-    /// Time-outs that stand for something else than their number of ticks.
+    /// Time-outs that are not a number of ticks.
     static constexpr std::int32_t systemTimeout = -1; ///< one minute
     static constexpr std::int32_t noTimeout = -2;
 
     FourCharCode eventClass;
     FourCharCode identifier;
-    EventDescriptor address;              ///< of the application that it goes to; null in a reply
-    std::int32_t returnId = -1;           ///< -1: one is made up
+    EventDescriptor address;              ///< of the receiving application; null in a reply
+    std::int32_t returnId = -1;           ///< -1: chosen automatically
     std::int32_t transaction = 0;         ///< 0: none
     std::int32_t sendMode = 3;            ///< 3: the sender waits for the reply
     std::int32_t priority = 1;            ///< 1: high
-    std::int32_t timeout = systemTimeout; ///< ticks, of which a second has 60
+    std::int32_t timeout = systemTimeout; ///< ticks; 60 are a second
     std::vector<EventParameter> parameters;
 
     /// A reply without parameters: `aevt`, `ansr`.
@@ -124,9 +119,9 @@ struct EventRecord {
 
     /// The first parameter with that keyword; null when there is none.
     const EventDescriptor *parameter(FourCharCode keyword) const;
-    /// Takes it out of the event; nothing when there is none.
+    /// Removes the parameter and returns its value; nothing when there is none.
     std::optional<EventDescriptor> takeParameter(FourCharCode keyword);
-    /// Replaces the parameter, or adds it after the others.
+    /// Replaces the parameter, or appends it.
     void setParameter(FourCharCode keyword, EventDescriptor value);
 
     /// The number of the error that a reply reports; 0 for none.

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <new>
+#include <utility>
 
 namespace vantrell::EventWire
 {
@@ -21,10 +21,10 @@ constexpr std::uint32_t Version = 1;
 constexpr qsizetype PrefixSize = 12; ///< magic, version, length
 constexpr qsizetype ValueHeadSize = 8;
 constexpr qsizetype KeywordSize = 4;
-constexpr qsizetype LargeSize = 4096;                 ///< from here on bytes make a piece of their own
-constexpr qsizetype MaximumStep = qsizetype(1) << 24; ///< by which the room for arriving bytes grows
+constexpr qsizetype LargeSize = 4096;                 ///< from which on bytes are a piece of their own
+constexpr qsizetype MaximumStep = qsizetype(1) << 24; ///< by which the memory for arriving bytes grows
 
-/// Whether a value of that type may have so many bytes; lists and records are none of these.
+/// Whether a value of that type, no list or record, may have that many bytes.
 bool isKnown(FourCharCode type, qsizetype size)
 {
     struct FixedSize {
@@ -61,83 +61,91 @@ QString tooMany()
     return QStringLiteral("The event holds more than %1 values.").arg(maximumValues);
 }
 
-/// Measures a record and finds what cannot go over the wire.
-class Measure
-{
-public:
-    /// Bytes of the record behind its prefix.
-    Result<qsizetype> bodySize(const EventRecord &record)
-    {
-        qsizetype size = 7 * 4 + 4 + valueSize(record.address, 0);
-        for (const EventParameter &parameter : record.parameters)
-            size += KeywordSize + valueSize(parameter.value, 0);
-        if (m_fault.isEmpty() && size > maximumSize - PrefixSize)
-            m_fault = QStringLiteral("The event is larger than %1 bytes.").arg(maximumSize);
-        if (!m_fault.isEmpty())
-            return Failure{m_fault};
-        return size;
-    }
-
-    qsizetype contentSize(const EventDescriptor &value, int depth)
-    {
-        if (!isContainer(value.type())) {
-            if (!isKnown(value.type(), value.bytes().size()))
-                m_fault = unknownValue(value.type(), value.bytes().size());
-            return value.bytes().size();
-        }
-        if (depth >= maximumDepth) {
-            m_fault = tooDeep();
-            return 0;
-        }
-        qsizetype size = 4;
-        for (const EventDescriptor &item : value.items())
-            size += valueSize(item, depth + 1);
-        for (const EventParameter &field : value.fields())
-            size += KeywordSize + valueSize(field.value, depth + 1);
-        return size;
-    }
-
-private:
-    qsizetype valueSize(const EventDescriptor &value, int depth)
-    {
-        if (++m_values > maximumValues)
-            m_fault = tooMany();
-        return m_fault.isEmpty() ? ValueHeadSize + contentSize(value, depth) : 0;
-    }
-
-    int m_values = 0;
-    QString m_fault;
-};
-
+/// Writes one record. After the first fault the result is that fault.
 class Writer
 {
 public:
+    Result<std::vector<QByteArray>> record(const EventRecord &record)
+    {
+        code(Magic);
+        number(Version);
+        const Length length = beginLength();
+        code(record.eventClass);
+        code(record.identifier);
+        for (const std::int32_t field :
+             {record.returnId, record.transaction, record.sendMode, record.priority, record.timeout})
+            number(static_cast<std::uint32_t>(field));
+        value(record.address, 0);
+        parameters(record.parameters, 0);
+        endLength(length);
+        if (m_size > maximumSize)
+            fail(QStringLiteral("The event is larger than %1 bytes.").arg(maximumSize));
+        if (!m_fault.isEmpty())
+            return Failure{m_fault};
+        return std::move(m_pieces);
+    }
+
+private:
+    /// A length that is filled in once its content has been written.
+    struct Length {
+        std::size_t piece;
+        qsizetype position;   ///< in the piece
+        qsizetype sizeBefore; ///< of the record, including the length itself
+    };
+
+    Length beginLength()
+    {
+        const Length length{m_pieces.size() - 1, m_pieces.back().size(), m_size + 4};
+        number(0);
+        return length;
+    }
+
+    void endLength(const Length &length)
+    {
+        qToBigEndian(static_cast<std::uint32_t>(m_size - length.sizeBefore),
+                     m_pieces[length.piece].data() + length.position);
+    }
+
+    void fail(const QString &fault)
+    {
+        if (m_fault.isEmpty())
+            m_fault = fault;
+    }
+
     void number(std::uint32_t value)
     {
-        const qsizetype end = m_current.size();
-        m_current.resize(end + 4);
-        qToBigEndian(value, m_current.data() + end);
+        std::array<char, 4> digits{};
+        qToBigEndian(value, digits.data());
+        m_pieces.back().append(digits.data(), 4);
+        m_size += 4;
     }
-    void number(std::int32_t value) { number(static_cast<std::uint32_t>(value)); }
-    void count(std::size_t value) { number(static_cast<std::uint32_t>(value)); }
     void code(FourCharCode code) { number(code.value); }
 
     void bytes(const QByteArray &bytes)
     {
+        m_size += bytes.size();
         if (bytes.size() < LargeSize) {
-            m_current += bytes;
+            m_pieces.back() += bytes;
             return;
         }
-        m_pieces.push_back(std::exchange(m_current, {}));
         m_pieces.push_back(bytes);
+        m_pieces.emplace_back();
     }
 
     void value(const EventDescriptor &value, int depth)
     {
+        if (++m_values > maximumValues)
+            fail(tooMany());
+        if (isContainer(value.type()) && depth >= maximumDepth)
+            fail(tooDeep());
+        if (!isContainer(value.type()) && !isKnown(value.type(), value.bytes().size()))
+            fail(unknownValue(value.type(), value.bytes().size()));
+        if (!m_fault.isEmpty())
+            return;
         code(value.type());
-        count(static_cast<std::size_t>(Measure().contentSize(value, depth)));
+        const Length length = beginLength();
         if (value.isList()) {
-            count(value.items().size());
+            number(static_cast<std::uint32_t>(value.items().size()));
             for (const EventDescriptor &item : value.items())
                 this->value(item, depth + 1);
         } else if (value.isRecord()) {
@@ -145,30 +153,25 @@ public:
         } else {
             bytes(value.bytes());
         }
+        endLength(length);
     }
 
     void parameters(const std::vector<EventParameter> &list, int depth)
     {
-        count(list.size());
+        number(static_cast<std::uint32_t>(list.size()));
         for (const EventParameter &entry : list) {
             code(entry.keyword);
             value(entry.value, depth);
         }
     }
 
-    std::vector<QByteArray> take()
-    {
-        if (!m_current.isEmpty())
-            m_pieces.push_back(std::exchange(m_current, {}));
-        return std::move(m_pieces);
-    }
-
-private:
-    std::vector<QByteArray> m_pieces;
-    QByteArray m_current;
+    std::vector<QByteArray> m_pieces{QByteArray()};
+    qsizetype m_size = 0;
+    int m_values = 0;
+    QString m_fault;
 };
 
-/// Reads one record. Once something is wrong, m_fault says what, and everything read is zero.
+/// Reads one record. After the first fault everything reads as zero.
 class Reader
 {
 public:
@@ -214,7 +217,7 @@ private:
             m_fault = fault;
     }
 
-    /// Takes so many bytes from what is left of the record; whether they are there to be read.
+    /// Subtracts the size from what is left of the record; false when the record is too short for it.
     bool claim(qsizetype size)
     {
         if (!isFaulty() && size > m_left)
@@ -229,35 +232,14 @@ private:
     void fetch(char *target, qsizetype size)
     {
         while (size > 0 && !isFaulty()) {
-            if (m_position == m_buffered && size >= qsizetype(m_buffer.size())) {
-                const qsizetype got = fromSource(target, size);
-                target += got;
-                size -= got;
-                continue;
-            }
-            if (m_position == m_buffered) {
-                // Never beyond the record: what is asked for now and what is left after it.
-                const qsizetype most = std::min(size + m_left, qsizetype(m_buffer.size()));
-                m_buffered = fromSource(m_buffer.data(), most);
-                m_position = 0;
-                continue;
-            }
-            const qsizetype count = std::min(size, m_buffered - m_position);
-            std::memcpy(target, m_buffer.data() + m_position, std::size_t(count));
-            m_position += count;
-            target += count;
-            size -= count;
+            const qsizetype got = m_source(target, size);
+            if (got == 0)
+                fail(QStringLiteral("The event is cut off."));
+            else if (got < 0 || got > size)
+                fail(QStringLiteral("Reading the event failed."));
+            target += got;
+            size -= got;
         }
-    }
-
-    qsizetype fromSource(char *target, qsizetype size)
-    {
-        const qsizetype got = m_source(target, size);
-        if (got == 0)
-            fail(QStringLiteral("The event is cut off."));
-        else if (got < 0 || got > size)
-            fail(QStringLiteral("Reading the event failed."));
-        return isFaulty() ? 0 : got;
     }
 
     std::uint32_t number()
@@ -270,7 +252,7 @@ private:
 
     FourCharCode code() { return FourCharCode(number()); }
 
-    /// The room grows with what has arrived, whatever size was announced.
+    /// Memory grows with the bytes that have arrived, whatever size was announced.
     QByteArray bytes(qsizetype size)
     {
         QByteArray bytes;
@@ -286,7 +268,7 @@ private:
         return bytes;
     }
 
-    /// The number of entries that follow, each of so many bytes at least, in a room of so many bytes.
+    /// The number of entries that follow, each of at least `entrySize` bytes.
     std::uint32_t count(qsizetype entrySize)
     {
         const std::uint32_t count = number();
@@ -312,19 +294,19 @@ private:
         return {type, bytes(size)};
     }
 
-    /// Within a list or record, what is left is what is left of it.
+    /// Within a list or record, m_left counts the bytes left of it.
     EventDescriptor container(FourCharCode type, qsizetype size, int depth)
     {
         if (depth >= maximumDepth)
             fail(tooDeep());
         if (!claim(size))
             return {};
-        const qsizetype leftBehind = std::exchange(m_left, size);
+        const qsizetype leftAfter = std::exchange(m_left, size);
         EventDescriptor value = type == EventCode::List ? EventDescriptor::fromList(items(depth + 1))
                                                         : EventDescriptor::fromRecord(parameters(depth + 1));
         if (m_left > 0)
             fail(QStringLiteral("A list or record is shorter than it says."));
-        m_left = leftBehind;
+        m_left = leftAfter;
         return value;
     }
 
@@ -347,66 +329,16 @@ private:
     }
 
     const Source &m_source;
-    qsizetype m_left = 0; ///< bytes of the record, or of the list or record in it, not claimed yet
+    qsizetype m_left = 0; ///< bytes of the record, or of the list or record in it, that are not claimed yet
     int m_values = 0;
     QString m_fault;
-    std::array<char, 4096> m_buffer = {}; ///< read ahead, never beyond the record
-    qsizetype m_buffered = 0;
-    qsizetype m_position = 0;
 };
 
 } // namespace
 
-Result<qsizetype> size(const EventRecord &record)
-{
-    const Result<qsizetype> body = Measure().bodySize(record);
-    if (!body)
-        return body;
-    return PrefixSize + body.value();
-}
-
 Result<std::vector<QByteArray>> pieces(const EventRecord &record)
 {
-    const Result<qsizetype> body = Measure().bodySize(record);
-    if (!body)
-        return body.failure();
-    Writer writer;
-    writer.code(Magic);
-    writer.number(Version);
-    writer.count(static_cast<std::size_t>(body.value()));
-    writer.code(record.eventClass);
-    writer.code(record.identifier);
-    for (const std::int32_t field :
-         {record.returnId, record.transaction, record.sendMode, record.priority, record.timeout})
-        writer.number(field);
-    writer.value(record.address, 0);
-    writer.parameters(record.parameters, 0);
-    return writer.take();
-}
-
-Result<QByteArray> flatten(const EventRecord &record)
-{
-    const auto parts = pieces(record);
-    if (!parts)
-        return parts.failure();
-    QByteArray bytes;
-    for (const QByteArray &part : parts.value())
-        bytes += part;
-    return bytes;
-}
-
-Result<EventRecord> unflatten(QByteArrayView bytes)
-{
-    const Source source = [&bytes](char *buffer, qsizetype maximum) {
-        const qsizetype count = std::min(maximum, bytes.size());
-        std::memcpy(buffer, bytes.data(), std::size_t(count));
-        bytes = bytes.sliced(count);
-        return count;
-    };
-    Result<EventRecord> record = read(source);
-    if (record && !bytes.isEmpty())
-        return Failure{QStringLiteral("The event is longer than it says.")};
-    return record;
+    return Writer().record(record);
 }
 
 Result<EventRecord> read(const Source &source)

@@ -4,7 +4,6 @@
 #include "support/files/Result.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
 
 #include <functional>
 #include <vector>
@@ -18,31 +17,23 @@
 ///               (4) and the values; for a record the number of its fields (4), for each its keyword (4)
 ///               and value
 ///
-/// Reading trusts nothing: what is cut off, too long, nested too deeply or of an unknown version, type or
-/// size is a failure, and memory is taken only as bytes arrive. Any thread.
+/// The reader validates all input: truncated, oversized or too deeply nested data and unknown versions, types
+/// or sizes are failures, and memory is allocated only as bytes arrive. Any thread.
 namespace vantrell::EventWire
 {
 
 /// Bytes of a whole record.
 inline constexpr qsizetype maximumSize = 0x7fffffff;
-/// Lists and records may stand in one another this deep.
+/// Nesting depth of lists and records.
 inline constexpr int maximumDepth = 16;
-/// Values of a record, those in lists and records included.
+/// Values of a record, including those in its lists and records.
 inline constexpr int maximumValues = 65536;
 
-/// Bytes of the record; a failure says why it cannot be written.
-Result<qsizetype> size(const EventRecord &record);
-
-/// The record in pieces to be written one after the other. Large texts are shared, not copied.
+/// The record in pieces to be written one after the other; large texts are shared, not copied. A failure
+/// says why the record cannot be written.
 Result<std::vector<QByteArray>> pieces(const EventRecord &record);
 
-/// The record in one piece.
-Result<QByteArray> flatten(const EventRecord &record);
-
-/// The record that the bytes are, to the last one.
-Result<EventRecord> unflatten(QByteArrayView bytes);
-
-/// Puts up to so many bytes (at least 1) into the buffer and gives their number; 0 at the end, -1 when
+/// Stores up to `maximum` bytes (at least 1) in the buffer and returns their number; 0 at the end, -1 when
 /// reading failed.
 using Source = std::function<qsizetype(char *buffer, qsizetype maximum)>;
 

@@ -11,20 +11,19 @@ namespace vantrell
 /// Bytes of a file reference.
 inline constexpr qsizetype fileReferenceSize = 80;
 
-/// A reference to an existing regular file, by which another program of this user finds the path. It
-/// names user, device and file number; a short path stands in it, a longer one in a file that only this
-/// user can read, in the folder "references" of the runtime folder. Such a file serves for a day after the
-/// latest reference to its path was made. Nothing when there is no such file, or when its path is long and
-/// there is no runtime folder. Links are followed and their paths kept. Any thread.
+/// A reference to an existing regular file, from which another program of this user gets the path. It holds
+/// user, device and file number, and a path of up to 54 bytes. A longer path is kept, readable by this user
+/// only, in the folder "references" of the runtime folder for a day after the last reference to it was made.
+/// Nothing without such a file, or for a long path without a runtime folder. Symbolic links are followed but
+/// not resolved in the path. Any thread.
 std::optional<QByteArray> fileReferenceForPath(const QString &path);
 
-/// The absolute path, while it still leads to the file that the reference was made for. Nothing when the
-/// file has gone or was replaced, when another user made the reference, and for bytes that are none. Any
-/// thread.
+/// The absolute path while it still leads to the file that the reference was made for. Nothing when the file
+/// is gone or was replaced, for another user's reference, and for invalid bytes. Any thread.
 std::optional<QString> pathForFileReference(const QByteArray &reference);
 
-/// The absolute path that the reference was made for, whatever stands there by now. Nothing when another
-/// user made it, and for bytes that are none. Any thread.
+/// The absolute path that the reference was made for, whether or not the file is still there. Nothing for
+/// another user's reference and for invalid bytes. Any thread.
 std::optional<QString> pathInFileReference(const QByteArray &reference);
 
 } // namespace vantrell

@@ -20,8 +20,8 @@ namespace vantrell
 namespace
 {
 
-/// The "uuid" elements of a project's sequences by the texts in them; of those with the same text the
-/// first in the document. Made in one walk; the tree must not change while it serves.
+/// The "uuid" elements of a project's sequences by their text; of several with the same text, the first in
+/// document order. Built in one pass; the tree must not change meanwhile.
 class UuidIndex
 {
 public:
@@ -36,13 +36,13 @@ public:
         if (!isPlain(uuid))
             return QVXMLParser::nodeForQuery(m_query + QStringLiteral("[text()=\"%1\"]").arg(uuid),
                                              m_project);
-        if (!m_isMade)
-            make();
+        if (!m_isBuilt)
+            build();
         return m_elements.value(uuid);
     }
 
 private:
-    /// Whether a query takes the text literally.
+    /// Whether the text means itself in a query.
     static bool isPlain(const QString &uuid)
     {
         return std::none_of(uuid.begin(), uuid.end(), [](QChar c) {
@@ -50,9 +50,9 @@ private:
         });
     }
 
-    void make()
+    void build()
     {
-        m_isMade = true;
+        m_isBuilt = true;
         for (const XmlNode element : XmlQuery(m_query).evaluate(m_project).nodes) {
             for (XmlNode child = element.firstChild(); child; child = child.nextSibling()) {
                 if (!child.isText())
@@ -66,7 +66,7 @@ private:
 
     XmlNode m_project;
     QString m_query;
-    bool m_isMade = false;
+    bool m_isBuilt = false;
     QHash<QString, XmlNode> m_elements;
 };
 
@@ -92,7 +92,7 @@ QStringList changedSequences(const MyDocument &document)
     return document.modifiedSequenceUUIDs().value_or(QStringList());
 }
 
-/// The sequence around the node, or the node itself when it is one.
+/// The node itself if it is a sequence, else the nearest one around it.
 XmlNode sequenceOf(XmlNode node)
 {
     return node.isElement("sequence") ? node : QVXMLParser::parentWithName(node, "sequence");

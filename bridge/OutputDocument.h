@@ -13,9 +13,8 @@ class QIODevice;
 namespace vantrell
 {
 
-/// The document of a project's changed sequences that goes back to the editing application: one bin that
-/// holds a renamed copy of each. The project's tree is only read. Main thread, unless a member says
-/// otherwise.
+/// The document that returns a project's changed sequences to the editing application: one bin with a renamed
+/// copy of each. The project's tree is only read. Main thread, unless a member says otherwise.
 class OutputDocument
 {
 public:
@@ -28,16 +27,16 @@ public:
     /// The text of the output document; an empty bin when no sequence was changed.
     QString generateXMLOutput();
 
-    /// Writes it as UTF-8 in place of a file, or to a new one, whole or not at all.
+    /// Writes it to a file as UTF-8, atomically.
     Result<void> writeChangedSequences(const QString &path);
 
-    /// Writes it as UTF-8 for these UUIDs, in their order. Any thread, while nobody edits the tree. Once
-    /// `cancelled` is set (null for never) writing fails.
+    /// Writes it as UTF-8 for these UUIDs, in their order. Fails once `cancelled` (which may be null) is set.
+    /// Any thread, while nobody edits the tree.
     Result<void> write(const QStringList &modifiedUUIDs, QIODevice &device,
                        const std::atomic<bool> *cancelled = nullptr);
 
-    /// Gives the sequence its id with "-Processed" as its only attribute and as its name, and a new
-    /// UUID; name and UUID only where it has such a child. Returns the element.
+    /// Sets the sequence's only attribute and its name to its id with "-Processed" appended, and gives it a
+    /// new UUID; name and UUID only if it has such children. Returns the element.
     static XmlNode renameSequence(XmlNode sequence);
 
 private:

@@ -33,7 +33,7 @@ void ProjectSender::close()
     m_isClosed = true;
     m_cancel->cancel();
     if (!m_document.mainThread()->isClosed())
-        m_document.mainThread()->close(); // or what waits there would be waited for
+        m_document.mainThread()->close(); // or joining could wait for ever
     if (m_thread.joinable())
         m_thread.join();
 }
@@ -56,7 +56,7 @@ bool ProjectSender::start(std::function<void(Outcome)> ended)
     try {
         m_thread = std::thread(run);
     } catch (const std::system_error &) {
-        run(); // no thread to be had
+        run(); // no thread available
     }
     return true;
 }
@@ -131,7 +131,7 @@ ProjectSender::Outcome ProjectSender::sendToPremierePro(const QString &path)
                              QStringLiteral("An error occurred while sending data."));
         return Outcome::Failed;
     }
-    QVPremiereEvents::openFCPXML(file.value().path(), *m_cancel);
+    QVPremiereEvents::openFCPXML(file.value().path(), true, *m_cancel);
     if (m_cancel->waitFor(QVPremiereEvents::waits().opened))
         return Outcome::Closed;
     end(MyDocument::SendResult::ProjectSent);
@@ -140,7 +140,7 @@ ProjectSender::Outcome ProjectSender::sendToPremierePro(const QString &path)
     return Outcome::Sent;
 }
 
-/// The output document as it goes to Final Cut Pro; null when it could not be made.
+/// The output document, escaped for Final Cut Pro; null when it could not be made.
 QByteArray ProjectSender::outputDocument(const QStringList &modifiedUUIDs)
 {
     EscapedXmlBuffer xml;
@@ -152,7 +152,7 @@ QByteArray ProjectSender::outputDocument(const QStringList &modifiedUUIDs)
     return QByteArray();
 }
 
-/// Writes the whole project beside the document's file.
+/// Writes the whole project to a file beside the document's.
 Result<TransientFile> ProjectSender::writeProject(const QString &path)
 {
     const auto write = [&]() -> Result<TransientFile> {
@@ -173,14 +173,14 @@ Result<TransientFile> ProjectSender::writeProject(const QString &path)
     return file;
 }
 
-/// False when the document has been closed.
+/// False once the document has been closed.
 bool ProjectSender::onMainThread(const std::function<void()> &work)
 {
     return m_document.mainThread()->runAndWait(work);
 }
 
-/// Shows the progress sheet and has the tree stay as it is; gives the changed sequences in it. Nothing when
-/// the document has been closed.
+/// Shows the progress sheet, locks the tree against edits and returns the changed sequences. Nothing once the
+/// document has been closed.
 std::optional<QStringList> ProjectSender::begin(const QString &label)
 {
     m_document.startProgress();

@@ -18,20 +18,20 @@ namespace vantrell
 class EventCancel;
 class TransientFile;
 
-/// Sends a document to the editing application that it belongs to: its changed sequences to Final Cut Pro,
-/// or the whole project to Premiere Pro. Tells the outcome in an alert on the document's window. What is
-/// changed while the changes so far are on their way counts as changed afterwards.
+/// Sends a document to its editing application: the changed sequences to Final Cut Pro, or the whole project
+/// to Premiere Pro. An alert on the document's window reports the outcome. Changes made during the send
+/// remain unsent changes.
 ///
-/// The document's own things are looked at and changed on the main thread; the tree is read beside it, while
-/// which MyDocument::isSaving() holds and nothing may be edited. After that it may.
+/// The document itself is accessed on the main thread only. Its tree is read on the sender's thread; until
+/// that is done MyDocument::isSaving() is true and nothing may be edited.
 class ProjectSender
 {
 public:
     enum class Outcome {
         Sent,
         NothingToSend, ///< no sequence was changed
-        Failed,        ///< an alert has told so
-        Closed,        ///< the document was closed meanwhile, or another send of it goes on
+        Failed,        ///< an alert has said so
+        Closed,        ///< the document was closed meanwhile, or is being sent already
     };
 
     /// The document outlives this object.
@@ -41,20 +41,20 @@ public:
     ProjectSender(const ProjectSender &) = delete;
     ProjectSender &operator=(const ProjectSender &) = delete;
 
-    /// The whole send, alert included; one at a time. Blocks until the application has answered (for up
-    /// to ten minutes) and the user the alert. Any thread; where it is the main thread, the window stands
-    /// still.
+    /// The whole send, including the alert; one at a time. Blocks until the application has answered, which
+    /// may take up to ten minutes, and the user has dismissed the alert. Any thread; on the main thread it
+    /// blocks the window.
     Outcome sendToFCP();
 
-    /// The same on a thread of its own. `ended`, which may be empty, is called on the main thread when it
-    /// is over, and not at all when the document is closed before. False when that is going on already, or
-    /// the document is being saved. Main thread.
+    /// The same on a thread of its own. `ended`, which may be empty, is called on the main thread when it is
+    /// done, unless the document is closed first. False when a send is running already or the document is
+    /// being saved. Main thread.
     bool start(std::function<void(Outcome)> ended);
-    /// Whether what start() began is not over. Main thread.
+    /// Whether a send begun by start() is running. Main thread.
     bool isSending() const { return m_isSending; }
 
-    /// Ends what a send waits for, and the send with it, without an alert; later ones end at once. For
-    /// a document that is being closed: closes its gate to the main thread too. Any thread.
+    /// Cancels a running send without an alert, and any later one. For a document that is being closed: also
+    /// closes its gate to the main thread. Any thread.
     void close();
 
 private:

@@ -9,9 +9,6 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cstddef>
 
 namespace vantrell
 {
@@ -33,22 +30,6 @@ QString applicationPath()
 bool isEscaped(QChar unit)
 {
     return unit.unicode() >= 160 || unit == QLatin1Char('\r');
-}
-
-/// A decimal reference to one UTF-16 unit.
-struct Reference {
-    std::array<char, 8> text{'&', '#'};
-    std::ptrdiff_t size;
-};
-
-Reference referenceTo(QChar unit)
-{
-    Reference reference;
-    char *const end =
-        std::to_chars(reference.text.data() + 2, reference.text.data() + 7, unsigned(unit.unicode())).ptr;
-    *end = ';';
-    reference.size = end + 1 - reference.text.data();
-    return reference;
 }
 
 } // namespace
@@ -94,7 +75,7 @@ std::int64_t QVAppleEvents::maximumXMEMLVersionOf(const QString &version)
     QStringList components;
     if (!version.isNull())
         components = version.split(QLatin1Char('.'));
-    // The count grows with each turn: one or no component ends with two, and the third then counts as 0.
+    // The number of components grows meanwhile: one or none becomes two, and the missing third counts as 0.
     for (qsizetype i = 0; i < 3 - components.size(); ++i)
         components.append(QStringLiteral("0"));
     const std::int64_t major = integerValue(components.value(0));
@@ -114,22 +95,14 @@ QString QVAppleEvents::escapeCharactersInXMLString(const QString &text)
 
 QByteArray QVAppleEvents::escapedXml(QStringView text)
 {
-    qsizetype size = 0;
-    for (const QChar unit : text)
-        size += isEscaped(unit) ? referenceTo(unit).size : unit.unicode() < 0x80 ? 1 : 2;
-    QByteArray escaped(size, Qt::Uninitialized);
-    char *to = escaped.data();
-    for (const QChar unit : text) {
-        const char16_t code = unit.unicode();
-        if (isEscaped(unit)) {
-            const Reference reference = referenceTo(unit);
-            to = std::copy_n(reference.text.data(), reference.size, to);
-        } else if (code < 0x80) {
-            *to++ = char(code);
-        } else { // below 160: two bytes of UTF-8
-            *to++ = char(0xc0 | code >> 6);
-            *to++ = char(0x80 | (code & 0x3f));
-        }
+    QByteArray escaped;
+    escaped.reserve(text.size());
+    while (!text.isEmpty()) {
+        const auto *const special = std::find_if(text.begin(), text.end(), isEscaped);
+        escaped += text.first(special - text.begin()).toUtf8();
+        text = text.sliced(special - text.begin());
+        for (; !text.isEmpty() && isEscaped(text.front()); text = text.sliced(1))
+            escaped.append("&#").append(QByteArray::number(text.front().unicode())).append(';');
     }
     return escaped;
 }

@@ -11,6 +11,7 @@
 #include "xml/XmlQuery.h"
 #include "xml/XmlReferences.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -22,10 +23,8 @@ namespace vantrell
 namespace
 {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr std::int32_t ImportTimeout = 36000; // ticks
-constexpr std::chrono::milliseconds LookInterval(200);
+constexpr std::chrono::milliseconds PollInterval(200);
 
 constexpr QStringView CannotAddProject = u"Error adding project file to AppleEvent query";
 constexpr QStringView CannotAddDestination = u"Error adding destination project file to AppleEvent query";
@@ -37,7 +36,7 @@ EventDescriptor projectUrl(const QString &path)
     return EventDescriptor::fromFileUrl(QUrl::toPercentEncoding(path, "/!$&'()*+,;=:@"));
 }
 
-/// The paths among the open projects of a reply that lead to files.
+/// The open projects in a reply whose files exist.
 QStringList openProjectsIn(const EventRecord &reply)
 {
     QStringList paths;
@@ -63,23 +62,23 @@ bool contains(const QStringList &paths, const QString &path)
     });
 }
 
-/// Asks for the project to be opened, launching the application if need be; whether that could be asked.
+/// Requests opening the project, launching the application if need be; returns whether that succeeded.
 bool requestOpening(const QString &path)
 {
     return Workspace::openWithApplication(QVAppleEvents::finalCutProIdentifier(), path);
 }
 
-/// Waits until the project is open; as long at most as an event may take.
+/// Waits until the project is open, no longer than an event may take.
 void waitUntilOpen(const QString &path, const EventCancel &cancel)
 {
-    const auto end = Clock::now() + sharedEventTransport()->systemTimeout();
+    const QDeadlineTimer deadline(sharedEventTransport()->systemTimeout());
     do {
         EventExchange exchange(EventCode::ListOpenProjects, cancel);
         exchange.silence();
         const auto reply = exchange.send();
         if (reply && contains(openProjectsIn(*reply), path))
             return;
-    } while (!cancel.waitFor(LookInterval) && Clock::now() < end);
+    } while (!cancel.waitFor(PollInterval) && !deadline.hasExpired());
 }
 
 /// The text in a reply.
@@ -95,11 +94,11 @@ std::optional<QByteArray> xmlDataIn(EventRecord reply)
         reportEventFailure(QStringLiteral("Error retrieving XML data"));
         return {};
     }
-    value.reset(); // the bytes have one owner again and are shortened in place
+    value.reset(); // so that the bytes are not shared and can be shortened in place
     return QVAppleEvents::formatData(std::move(*data));
 }
 
-/// What an operation that gets XML asks for.
+/// The request of an operation that gets XML.
 struct XmlRequest {
     FourCharCode event;
     QString project;
@@ -124,20 +123,20 @@ std::optional<QByteArray> fetchXml(const XmlRequest &request, const EventCancel 
     return xmlDataIn(std::move(*reply));
 }
 
-/// Has the project opened where the request allows it. Nothing when it cannot be asked for its XML, else
-/// whether it was open before.
+/// Has the project opened where the request allows it. Nothing when its XML cannot be requested, else whether
+/// it was open before.
 std::optional<bool> findProject(const XmlRequest &request, const EventCancel &cancel)
 {
     const bool wasRunning = QVAppleEvents::isFCPRunning();
     if (!wasRunning && !request.launch)
         return {};
-    bool wasAsked = !wasRunning && requestOpening(request.project);
+    bool wasRequested = !wasRunning && requestOpening(request.project);
     const QStringList open = QVAppleEvents::listOfOpenFCPProjects(cancel).value_or(QStringList());
     if (contains(open, request.project))
         return wasRunning; // else it has just been opened
     if (request.launch) {
-        wasAsked = requestOpening(request.project) || wasAsked;
-        if (wasAsked)
+        wasRequested = requestOpening(request.project) || wasRequested;
+        if (wasRequested)
             waitUntilOpen(request.project, cancel);
     } else if (request.event != EventCode::ExportContents) {
         reportEventFailure(QStringLiteral("Error: project is not open."));
@@ -183,7 +182,7 @@ bool importXml(QByteArray escapedXml, const QString &projectPath, const EventCan
     return exchange.send().has_value();
 }
 
-/// Whether it is running; written to the system log when it is not.
+/// Whether Final Cut Pro is running; if not, the system log says so.
 bool checkRunning()
 {
     const bool isRunning = QVAppleEvents::isFCPRunning();
@@ -252,27 +251,10 @@ std::optional<QByteArray> QVAppleEvents::getProjectXMLData(const QString &path, 
                      {EventCode::ExportProjectXml, path, {}, launchFCP, closeProject}, cancel);
 }
 
-std::optional<QByteArray> QVAppleEvents::getProjectXMLData(const QString &path, bool launchFCP,
-                                                           const EventCancel &cancel)
-{
-    return getProjectXMLData(path, launchFCP, false, cancel);
-}
-
 std::optional<QString> QVAppleEvents::getProjectXML(const QString &path, bool launchFCP, bool closeProject,
                                                     const EventCancel &cancel)
 {
     return textOf(getProjectXMLData(path, launchFCP, closeProject, cancel));
-}
-
-std::optional<QString> QVAppleEvents::getProjectXML(const QString &path, bool launchFCP,
-                                                    const EventCancel &cancel)
-{
-    return getProjectXML(path, launchFCP, false, cancel);
-}
-
-std::optional<QString> QVAppleEvents::getProjectXML(const QString &path, const EventCancel &cancel)
-{
-    return getProjectXML(path, false, cancel);
 }
 
 std::optional<QByteArray> QVAppleEvents::getItemXMLData(const QString &item, const QString &project,
@@ -283,28 +265,10 @@ std::optional<QByteArray> QVAppleEvents::getItemXMLData(const QString &item, con
                      {EventCode::ExportItemXml, project, item, launchFCP, closeProject}, cancel);
 }
 
-std::optional<QByteArray> QVAppleEvents::getItemXMLData(const QString &item, const QString &project,
-                                                        bool launchFCP, const EventCancel &cancel)
-{
-    return getItemXMLData(item, project, launchFCP, false, cancel);
-}
-
 std::optional<QString> QVAppleEvents::getItemXML(const QString &item, const QString &project, bool launchFCP,
                                                  bool closeProject, const EventCancel &cancel)
 {
     return textOf(getItemXMLData(item, project, launchFCP, closeProject, cancel));
-}
-
-std::optional<QString> QVAppleEvents::getItemXML(const QString &item, const QString &project, bool launchFCP,
-                                                 const EventCancel &cancel)
-{
-    return getItemXML(item, project, launchFCP, false, cancel);
-}
-
-std::optional<QString> QVAppleEvents::getItemXML(const QString &item, const QString &project,
-                                                 const EventCancel &cancel)
-{
-    return getItemXML(item, project, false, cancel);
 }
 
 std::optional<QByteArray> QVAppleEvents::getTOCData(const QString &path, bool launchFCP,
@@ -319,17 +283,12 @@ std::optional<QString> QVAppleEvents::getTOC(const QString &path, bool launchFCP
     return textOf(getTOCData(path, launchFCP, cancel));
 }
 
-std::optional<QString> QVAppleEvents::getTOC(const QString &path, const EventCancel &cancel)
-{
-    return getTOC(path, false, cancel);
-}
-
 std::optional<ProjectSequences> QVAppleEvents::sequencesInProject(const QString &path,
                                                                   const EventCancel &cancel)
 {
     std::optional<ProjectSequences> sequences;
     guarded("QVAppleEvents::sequencesInProject", [&] {
-        auto data = finalCutProMajorVersion() < 7 ? getProjectXMLData(path, true, cancel)
+        auto data = finalCutProMajorVersion() < 7 ? getProjectXMLData(path, true, false, cancel)
                                                   : getTOCData(path, true, cancel);
         if (data && !data->isEmpty())
             sequences = sequencesIn(std::move(*data));

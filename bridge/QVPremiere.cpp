@@ -15,7 +15,7 @@ namespace vantrell
 namespace
 {
 
-/// The product version in the configuration of an installation; nothing without one.
+/// The product version in an installation's configuration; nothing without one.
 std::optional<QString> productVersion(const QString &installation)
 {
     const auto configuration = XmlDocument::fromFile(

@@ -14,15 +14,15 @@ public:
 
     static QString bundleIdentifier();
 
-    /// The product versions of the installations in the applications folder whose configuration tells one,
-    /// by the names of their folders.
+    /// The product versions of the installations in the applications folder, ordered by folder name;
+    /// installations whose configuration has no version are left out.
     static QStringList premiereVersions();
 
-    /// Major and minor version of the Premiere Pro that runs, as in "6.0"; null when none runs or its
-    /// property list does not tell.
+    /// Major and minor version of the running Premiere Pro, such as "6.0"; null when none is running or its
+    /// property list has no version.
     static QString runningPremiereVersion();
 
-    /// The Creative Suite number of a version: the version without ".0" at its end.
+    /// The Creative Suite number of a version: the version without a trailing ".0".
     static QString creativeSuiteNumber(const QString &version);
 };
 

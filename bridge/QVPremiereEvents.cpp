@@ -97,7 +97,7 @@ void runScript(const QString &path, const QString &number, const EventCancel &ca
     std::this_thread::sleep_for(waits.ended);
 }
 
-/// What executeScript() does; exceptions are for its caller.
+/// executeScript() without its exception handling.
 void execute(const QString &command, bool shouldLaunch, const EventCancel &cancel)
 {
     QVPremiereEvents::createQeObject(cancel);
@@ -171,30 +171,15 @@ void QVPremiereEvents::openFCPXML(const QString &path, bool shouldLaunch, const 
     executeScript(formatText(u"app.openFCPXML('%@')", path), shouldLaunch, cancel);
 }
 
-void QVPremiereEvents::openFCPXML(const QString &path, const EventCancel &cancel)
-{
-    openFCPXML(path, true, cancel);
-}
-
 void QVPremiereEvents::exportFCPXML(const QString &path, bool shouldLaunch, const EventCancel &cancel)
 {
     executeScript(formatText(u"app.project.exportFinalCutProXML('%@')", path), shouldLaunch, cancel);
     cancel.waitFor(waits().exported);
 }
 
-void QVPremiereEvents::exportFCPXML(const QString &path, const EventCancel &cancel)
-{
-    exportFCPXML(path, true, cancel);
-}
-
 void QVPremiereEvents::openProject(const QString &path, bool shouldLaunch, const EventCancel &cancel)
 {
     executeScript(formatText(u"app.openDocument('%@')", path), shouldLaunch, cancel);
-}
-
-void QVPremiereEvents::openProject(const QString &path, const EventCancel &cancel)
-{
-    openProject(path, true, cancel);
 }
 
 QString QVPremiereEvents::scriptText(const QString &command, const QString &targetVersion)

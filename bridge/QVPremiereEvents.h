@@ -9,36 +9,33 @@
 namespace vantrell
 {
 
-/// Has Premiere Pro run a command: a script that carries it there is written to a file and run by the
-/// ExtendScript Toolkit. Nothing comes back; what goes wrong is logged. Every operation blocks until the
-/// Toolkit has ended or its time is up, and returns early once it is cancelled. Paths stand in the
-/// commands as they are. Stateless but for the settings; any thread.
+/// Has Premiere Pro run a command: the ExtendScript Toolkit runs a script file that forwards it. There is no
+/// result; errors are logged. Every operation blocks until the Toolkit has ended or timed out, and returns
+/// early when it is cancelled. Paths are inserted into the commands without escaping. Stateless except for
+/// the settings; any thread.
 class QVPremiereEvents
 {
 public:
     QVPremiereEvents() = delete;
 
-    /// Makes the empty file in each installed Premiere Pro's folder that tells it, at its next start, to
-    /// take commands. An alert asks for that start when one runs and a file was made.
+    /// Creates the empty file in the folder of each installed Premiere Pro that enables scripting at its next
+    /// start. If Premiere Pro is running and a file was created, an alert asks for a restart.
     static void createQeObject(const EventCancel &cancel = {});
 
-    /// Runs one command, an ExtendScript expression. Starts Premiere Pro when it does not run and
-    /// `shouldLaunch` is set.
+    /// Runs one command, an ExtendScript expression. Launches Premiere Pro if it is not running and
+    /// `shouldLaunch` is true.
     static void executeScript(const QString &command, bool shouldLaunch, const EventCancel &cancel = {});
 
-    // Imports an xmeml file, exports the open project as one, opens a project.
+    /// Imports an xmeml file.
+    static void openFCPXML(const QString &path, bool shouldLaunch = true, const EventCancel &cancel = {});
+    /// Exports the open project as xmeml.
+    static void exportFCPXML(const QString &path, bool shouldLaunch = true, const EventCancel &cancel = {});
+    static void openProject(const QString &path, bool shouldLaunch = true, const EventCancel &cancel = {});
 
-    static void openFCPXML(const QString &path, bool shouldLaunch, const EventCancel &cancel = {});
-    static void openFCPXML(const QString &path, const EventCancel &cancel = {});
-    static void exportFCPXML(const QString &path, bool shouldLaunch, const EventCancel &cancel = {});
-    static void exportFCPXML(const QString &path, const EventCancel &cancel = {});
-    static void openProject(const QString &path, bool shouldLaunch, const EventCancel &cancel = {});
-    static void openProject(const QString &path, const EventCancel &cancel = {});
-
-    /// The script that carries a command to the Premiere Pro of that version, as in "6.0".
+    /// The script that forwards a command to the Premiere Pro of that version, such as "6.0".
     static QString scriptText(const QString &command, const QString &targetVersion);
 
-    /// How long things are waited for.
+    /// Durations of the waits.
     struct Waits {
         std::chrono::milliseconds launch{3000};   ///< after starting Premiere Pro
         std::chrono::milliseconds script{30000};  ///< for the Toolkit's end
@@ -49,7 +46,7 @@ public:
     static Waits waits();
     static void setWaits(const Waits &waits);
 
-    /// Sets the program that has the Toolkit run a script; empty: "/usr/bin/open".
+    /// Sets the program that opens a script with the Toolkit; empty for "/usr/bin/open".
     static void setOpenProgram(const QString &program);
 };
 

@@ -7,10 +7,10 @@
 namespace vantrell
 {
 
-/// The transport of all operations of the process: the one that was set, else sockets. Any thread.
+/// The transport that the whole process uses: the one that was set, else sockets. Any thread.
 std::shared_ptr<AppleEventTransport> sharedEventTransport();
 
-/// Takes its place from the next event on; null: sockets. Any thread.
+/// Replaces it from the next event on; null restores sockets. Any thread.
 void setSharedEventTransport(std::shared_ptr<AppleEventTransport> transport);
 
 } // namespace vantrell

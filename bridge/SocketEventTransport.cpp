@@ -1,16 +1,15 @@
 #include "bridge/SocketEventTransport.h"
 
 #include "bridge/EventCodes.h"
+#include "bridge/EventConnection.h"
 #include "bridge/EventWire.h"
-#include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
 #include "support/files/Descriptor.h"
 
+#include <QDeadlineTimer>
+
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <poll.h>
-#include <sys/socket.h>
 
 namespace vantrell
 {
@@ -18,125 +17,33 @@ namespace vantrell
 namespace
 {
 
-using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds Forever = std::chrono::hours(24 * 365);
-constexpr qsizetype Portion = qsizetype(1) << 20; ///< written in one go, so that cancelling is noticed
-
-QString systemError()
+std::chrono::milliseconds timeLeft(const QDeadlineTimer &deadline)
 {
-    return QString::fromLocal8Bit(std::strerror(errno));
+    return std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration());
 }
 
-/// One connection to an application. Once a step has failed, failure() says why.
-class Connection
+/// A connection to the application's event socket.
+EventResult<Descriptor> connectTo(const QString &path, const QDeadlineTimer &deadline,
+                                  const EventCancel &cancel)
 {
-public:
-    Connection(std::chrono::milliseconds timeout, const EventCancel &cancel)
-        : m_deadline(Clock::now() + timeout)
-        , m_cancel(cancel)
-    {
+    for (;;) {
+        Descriptor socket = connectedSocket(path);
+        if (socket.isOpen())
+            return socket;
+        if (errno == EMFILE || errno == ENFILE || errno == ENOMEM)
+            return EventFailure{EventError::OutOfMemory, qt_error_string(errno)};
+        if (errno != EAGAIN && errno != EINTR)
+            return EventFailure{EventError::ProcessNotFound,
+                                QStringLiteral("nobody answers on its event socket: ") +
+                                    qt_error_string(errno)};
+        if (cancel.waitFor(std::min<std::chrono::milliseconds>(10ms, timeLeft(deadline))))
+            return EventFailure{EventError::Cancelled, QStringLiteral("it was cancelled")};
+        if (deadline.hasExpired())
+            return EventFailure{EventError::TimedOut, QStringLiteral("its time-out has passed")};
     }
-
-    const EventFailure &failure() const { return m_failure; }
-    bool hasFailed() const { return m_failure.number != 0; }
-
-    bool open(const QString &path, uid_t user)
-    {
-        const auto address = socketAddress(path);
-        if (!address)
-            return fail(EventError::ProcessNotFound, QStringLiteral("it has no event socket"));
-        m_socket = Descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-        if (!m_socket.isOpen())
-            return fail(EventError::OutOfMemory, systemError());
-        while (::connect(m_socket.number(), reinterpret_cast<const sockaddr *>(&*address),
-                         sizeof(*address)) != 0) {
-            // EAGAIN: others are waiting to be accepted, as many as may wait.
-            if (errno != EAGAIN && errno != EINTR)
-                return fail(EventError::ProcessNotFound,
-                            QStringLiteral("nobody answers on its event socket: ") + systemError());
-            if (m_cancel.waitFor(std::min<std::chrono::milliseconds>(10ms, left())) || left() <= 0ms)
-                return failWaiting();
-        }
-        ucred peer{};
-        socklen_t size = sizeof(peer);
-        if (::getsockopt(m_socket.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0 || peer.uid != user)
-            return fail(EventError::NotPermitted, QStringLiteral("its event socket is another user's"));
-        return true;
-    }
-
-    bool write(const QByteArray &bytes)
-    {
-        qsizetype position = 0;
-        while (position < bytes.size()) {
-            if (!wait(POLLOUT))
-                return false;
-            const qsizetype size = std::min(bytes.size() - position, Portion);
-            const ssize_t sent = ::send(m_socket.number(), bytes.constData() + position, std::size_t(size),
-                                        MSG_NOSIGNAL | MSG_DONTWAIT);
-            if (sent < 0 && !isTransient())
-                return fail(EventError::ConnectionInvalid,
-                            QStringLiteral("the event could not be written: ") + systemError());
-            position += std::max<ssize_t>(sent, 0);
-        }
-        return true;
-    }
-
-    /// An EventWire::Source.
-    qsizetype read(char *buffer, qsizetype maximum)
-    {
-        while (wait(POLLIN)) {
-            const ssize_t got = ::recv(m_socket.number(), buffer, std::size_t(maximum), MSG_DONTWAIT);
-            if (got > 0)
-                return got;
-            if (got == 0)
-                fail(EventError::ConnectionInvalid,
-                     QStringLiteral("the application ended before its reply was whole"));
-            else if (!isTransient())
-                fail(EventError::ConnectionInvalid,
-                     QStringLiteral("the reply could not be read: ") + systemError());
-        }
-        return -1;
-    }
-
-private:
-    std::chrono::milliseconds left() const
-    {
-        return std::chrono::ceil<std::chrono::milliseconds>(m_deadline - Clock::now());
-    }
-
-    static bool isTransient() { return errno == EAGAIN || errno == EINTR; }
-
-    /// Waits until the socket is ready or has ended; false on a failure.
-    bool wait(short events)
-    {
-        if (hasFailed())
-            return false;
-        const auto time = left();
-        if (time > 0ms && m_cancel.poll(m_socket.number(), events, time) != 0)
-            return true;
-        return failWaiting();
-    }
-
-    bool failWaiting()
-    {
-        if (m_cancel.isCancelled())
-            return fail(EventError::Cancelled, QStringLiteral("it was cancelled"));
-        return fail(EventError::TimedOut, QStringLiteral("its time-out has passed"));
-    }
-
-    bool fail(std::int32_t number, const QString &reason)
-    {
-        m_failure = {number, reason};
-        return false;
-    }
-
-    const Clock::time_point m_deadline;
-    const EventCancel &m_cancel;
-    Descriptor m_socket;
-    EventFailure m_failure{0, {}};
-};
+}
 
 } // namespace
 
@@ -150,7 +57,7 @@ EventResult<EventRecord> SocketEventTransport::send(const EventRecord &event, co
 {
     auto timeout = systemTimeout();
     if (event.timeout == EventRecord::noTimeout)
-        timeout = Forever;
+        timeout = EventCancel::forever;
     else if (event.timeout >= 0)
         timeout = std::chrono::milliseconds(std::int64_t(event.timeout) * 1000 / 60);
     const auto signature = event.address.toSignature();
@@ -160,17 +67,21 @@ EventResult<EventRecord> SocketEventTransport::send(const EventRecord &event, co
     if (!pieces)
         return EventFailure{EventError::BadParameter, pieces.message()};
 
-    Connection connection(timeout, cancel);
-    if (!connection.open(Workspace::eventSocketPath(signature->text()), m_user))
-        return connection.failure();
+    const QDeadlineTimer deadline(timeout);
+    auto socket = connectTo(Workspace::eventSocketPath(signature->text()), deadline, cancel);
+    if (!socket)
+        return socket.failure();
+    EventConnection connection(std::move(socket.value()), cancel, [&] { return timeLeft(deadline); });
+    if (!connection.belongsTo(m_user))
+        return EventFailure{EventError::NotPermitted, QStringLiteral("its event socket is another user's")};
     for (const QByteArray &piece : pieces.value()) {
         if (!connection.write(piece))
-            return connection.failure();
+            return *connection.failure();
     }
     Result<EventRecord> reply =
         EventWire::read([&](char *buffer, qsizetype maximum) { return connection.read(buffer, maximum); });
-    if (connection.hasFailed())
-        return connection.failure();
+    if (connection.failure())
+        return *connection.failure();
     if (!reply)
         return EventFailure{EventError::CorruptData, reply.message()};
     if (reply.value().eventClass != EventCode::CoreClass || reply.value().identifier != EventCode::Answer)

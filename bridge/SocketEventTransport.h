@@ -8,13 +8,13 @@
 namespace vantrell
 {
 
-/// Events over the Unix-domain socket of the application that they are addressed to
-/// (Workspace::eventSocketPath()): one connection each, one flattened record each way. The time-out is that
-/// of the whole exchange. Large texts are neither copied nor held twice.
+/// Sends events over the Unix-domain socket of the application that they are addressed to
+/// (Workspace::eventSocketPath()): one connection per event, one flattened record in each direction. The
+/// time-out covers the whole exchange. Large texts are neither copied nor held twice.
 class SocketEventTransport : public AppleEventTransport
 {
 public:
-    /// Speaks with programs of that user alone.
+    /// Only talks to programs of that user.
     explicit SocketEventTransport(std::chrono::milliseconds systemTimeout = std::chrono::minutes(1),
                                   uid_t user = ::geteuid());
 

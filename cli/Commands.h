@@ -17,6 +17,8 @@ void addMarkersCommand(CommandLine &program);
 void addEditCommand(CommandLine &program);
 void addReportCommand(CommandLine &program);
 void addSendCommand(CommandLine &program);
+void addCompareCommand(CommandLine &program);
+void addCarryCommand(CommandLine &program);
 void addTimecodeCommand(CommandLine &program);
 
 } // namespace vantrell::cli

@@ -67,7 +67,7 @@ private:
     template <typename Change>
     bool edit(Tab tab, const RowIndexes &rows, Change change) const
     {
-        const RowList &list = document.listOf(tab);
+        const RowList &list = document.rowView(tab).list();
         const bool isInRange =
             rows.empty() || (*rows.begin() >= 0 && std::size_t(*rows.rbegin()) < list.size());
         if (!isInRange)

@@ -6,8 +6,6 @@
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
 #include "effects/EffectColumns.h"
-#include "effects/EffectKeys.h"
-#include "rows/RecordText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
@@ -34,37 +32,11 @@ struct EffectsOptions {
 const std::vector<std::string> typeNames{"all",          "filter",    "video-filter",
                                          "audio-filter", "generator", "transition"};
 
-QString effectsCellText(const RowRecord &effect, const TableColumn &column)
-{
-    const RecordKey key(column.identifier);
-    const RecordValue *value = effect.find(key);
-    if (!value)
-        return QString();
-    if (key == EffectKey::enabled)
-        return effect.get(EffectKey::enabled) != 0 ? QStringLiteral("yes") : QStringLiteral("no");
-    return plainText(*value);
-}
-
-QByteArray effectsAsTable(const RowList &effects)
-{
-    QStringList titles;
-    for (const TableColumn &column : effectColumns)
-        titles.append(column.title);
-    TextTable table(titles);
-    for (const RowRecordPtr &effect : effects) {
-        QStringList cells;
-        for (const TableColumn &column : effectColumns)
-            cells.append(effectsCellText(*effect, column));
-        table.addRow(cells);
-    }
-    return table.toBytes();
-}
-
 QByteArray effectsAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     return toBytes(Json{{"effects", recordsToJson(session.document().rowsOnShow(Tab::Effects), paths)},
-                        {"status", jsonText(session.label(Label::EffectStatus))}});
+                        {"status", jsonText(session.document().label(Label::EffectStatus))}});
 }
 
 int effects(const EffectsOptions &options)
@@ -79,7 +51,7 @@ int effects(const EffectsOptions &options)
     ProjectSession session(Workbench::Inventories::All);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Effects, sort);
+    session.document().rowView(Tab::Effects).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Effects;
     view.effectType = int(std::find(typeNames.begin(), typeNames.end(), options.type) - typeNames.begin());
@@ -87,7 +59,8 @@ int effects(const EffectsOptions &options)
     view.effectSearch = fromArgument(options.search);
     session.workbench().effectInventory().populateFilteredEffectData();
     const QByteArray output =
-        options.json ? effectsAsJson(session) : effectsAsTable(session.document().rowsOnShow(Tab::Effects));
+        options.json ? effectsAsJson(session)
+                     : TextTable(session.document().rowsOnShow(Tab::Effects), effectColumns).toBytes();
     return print(output) ? Done : Failed;
 }
 

@@ -5,9 +5,8 @@
 #include "cli/ProjectSession.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
-#include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
-#include "markers/MarkerTableValues.h"
+#include "markers/MarkerKeys.h"
 #include "support/files/ProgramArguments.h"
 
 #include <QSet>
@@ -27,34 +26,6 @@ struct MarkersOptions {
     bool ownOwners = false;
 };
 
-QString yesOrEmpty(const RowRecord &marker, TypedKey<std::int64_t> flag)
-{
-    return marker.get(flag) == 1 ? QStringLiteral("yes") : QString();
-}
-
-QString markersCellText(const RowRecord &marker, RecordKey key)
-{
-    if (key == MarkerKey::color) {
-        const std::int64_t color = marker.get(MarkerKey::color);
-        const bool known = color >= 0 && color < std::int64_t(MarkerColors::count);
-        return known ? MarkerColors::table()[std::size_t(color)].label : QString::number(color);
-    }
-    if (key == MarkerKey::in)
-        return MarkerTableValues::inText(marker);
-    if (key == MarkerKey::out)
-        return MarkerTableValues::outText(marker);
-    if (key == MarkerKey::sequence)
-        return marker.get(MarkerKey::sequenceName);
-    if (key == MarkerKey::clip)
-        return marker.get(MarkerKey::clipName);
-    for (const TypedKey<std::int64_t> &flag :
-         {MarkerKey::chapter, MarkerKey::compression, MarkerKey::scoring}) {
-        if (key == flag)
-            return yesOrEmpty(marker, flag);
-    }
-    return marker.text(key);
-}
-
 /// The custom fields that the markers have, in the order in which they come.
 QStringList customFieldsOf(const RowList &markers)
 {
@@ -64,7 +35,7 @@ QStringList customFieldsOf(const RowList &markers)
         for (std::size_t i = 0; i < marker->size(); ++i) {
             const RecordKey key = marker->keyAt(i);
             const QString text = key.isConstant() ? QString() : key.text();
-            if (text.startsWith(MarkerKey::customPrefix) && !seen.contains(text)) {
+            if (isMarkerField(text) && !seen.contains(text)) {
                 seen.insert(text);
                 fields.append(text);
             }
@@ -75,24 +46,10 @@ QStringList customFieldsOf(const RowList &markers)
 
 QByteArray markersAsTable(const RowList &markers)
 {
-    std::vector<RecordKey> columns;
-    QStringList titles;
-    for (const TableColumn &column : markerColumns) {
-        columns.emplace_back(column.identifier);
-        titles.append(column.title.isEmpty() ? QStringLiteral("Color") : column.title);
-    }
-    for (const QString &field : customFieldsOf(markers)) {
-        columns.emplace_back(field);
-        titles.append(field);
-    }
-    TextTable table(titles);
-    for (const RowRecordPtr &marker : markers) {
-        QStringList cells;
-        for (const RecordKey &column : columns)
-            cells.append(markersCellText(*marker, column));
-        table.addRow(cells);
-    }
-    return table.toBytes();
+    Columns columns = markerColumns;
+    for (const QString &field : customFieldsOf(markers))
+        columns.push_back(markerFieldColumn(field, field));
+    return TextTable(markers, columns).toBytes();
 }
 
 int markers(const MarkersOptions &options)
@@ -115,7 +72,7 @@ int markers(const MarkersOptions &options)
     session.setOwnOwners(options.ownOwners);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Markers, sort);
+    session.document().rowView(Tab::Markers).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Markers;
     view.markerFilter = color ? *color + 1 : 0;

@@ -6,9 +6,6 @@
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
 #include "media/MediaColumns.h"
-#include "media/MediaFile.h"
-#include "media/MediaKeys.h"
-#include "rows/RecordText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
@@ -49,40 +46,12 @@ QString driveOf(const std::string &argument)
     return drive.isEmpty() ? QString() : drive;
 }
 
-QString mediaCellText(const RowRecord &file, const TableColumn &column)
-{
-    const RecordKey key(column.identifier);
-    const RecordValue *value = file.find(key);
-    if (!value)
-        return QString();
-    if (key == MediaKey::filesize)
-        return MediaFile::formatFileSize(double(file.get(MediaKey::filesize)));
-    if (key == MediaKey::missing)
-        return QStringLiteral("missing");
-    return plainText(*value);
-}
-
-QByteArray mediaAsTable(const RowList &files)
-{
-    QStringList titles;
-    for (const TableColumn &column : mediaColumns)
-        titles.append(column.title);
-    TextTable table(titles);
-    for (const RowRecordPtr &file : files) {
-        QStringList cells;
-        for (const TableColumn &column : mediaColumns)
-            cells.append(mediaCellText(*file, column));
-        table.addRow(cells);
-    }
-    return table.toBytes();
-}
-
 QByteArray mediaAsJson(ProjectSession &session)
 {
     XmlLocationPaths paths;
     Json texts = Json::array();
     for (const Label label : labels)
-        texts.push_back(jsonText(session.label(label)));
+        texts.push_back(jsonText(session.document().label(label)));
     return toBytes(Json{{"files", recordsToJson(session.document().rowsOnShow(Tab::Media), paths)},
                         {"statistics", recordToJson(session.workbench().mediaFilter().statistics(), paths)},
                         {"labels", std::move(texts)}});
@@ -100,14 +69,15 @@ int media(const MediaOptions &options)
     ProjectSession session(Workbench::Inventories::All);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    session.setSortDescriptors(Tab::Media, sort);
+    session.document().rowView(Tab::Media).setSortDescriptors(sort);
     ViewState &view = session.document().viewState();
     view.selectedTab = Tab::Media;
     view.mediaKind = menuItemOfKind(options.kind);
     view.mediaDrive = driveOf(options.drive);
     session.workbench().mediaFilter().populateFilteredMediaData();
     const QByteArray output =
-        options.json ? mediaAsJson(session) : mediaAsTable(session.document().rowsOnShow(Tab::Media));
+        options.json ? mediaAsJson(session)
+                     : TextTable(session.document().rowsOnShow(Tab::Media), mediaColumns).toBytes();
     return print(output) ? Done : Failed;
 }
 

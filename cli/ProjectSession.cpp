@@ -10,6 +10,11 @@ namespace vantrell::cli
 ProjectSession::ProjectSession(Workbench::Inventories inventories)
     : m_workbench(new Workbench(*this, inventories))
 {
+    QObject::connect(&document(), &MyDocument::loadFinished, &m_loop,
+                     [this](bool loaded, const QString &message, const QString &notice) {
+                         loadEnded(loaded, message, notice);
+                     });
+    QObject::connect(&document(), &MyDocument::inventoriesFinished, &m_loop, [this] { inventoriesEnded(); });
 }
 
 ProjectSession::~ProjectSession()
@@ -41,7 +46,7 @@ bool ProjectSession::open(const QString &path, const QString &typeName)
     return m_loaded;
 }
 
-void ProjectSession::loadFinished(bool loaded, const QString &message, const QString &notice)
+void ProjectSession::loadEnded(bool loaded, const QString &message, const QString &notice)
 {
     m_loaded = loaded;
     if (!notice.isEmpty())
@@ -54,16 +59,16 @@ void ProjectSession::loadFinished(bool loaded, const QString &message, const QSt
     m_loop.quit();
 }
 
-void ProjectSession::inventoriesFinished()
+void ProjectSession::inventoriesEnded()
 {
+    m_ended = true;
+    m_loop.quit(); // whatever goes wrong now
     if (document().isIncomplete()) {
         complain(incompleteLists);
         m_loaded = false;
     }
     if (m_comparesOwners)
         tellOwners();
-    m_ended = true;
-    m_loop.quit();
 }
 
 void ProjectSession::tellOwners()

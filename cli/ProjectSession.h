@@ -37,14 +37,11 @@ public:
     Workbench &workbench() { return *m_workbench; }
     MyDocument &document() { return m_workbench->document(); }
 
-    /// What the tables are sorted by, and the texts beside them.
-    using HeadlessDocumentInterface::label;
     using HeadlessDocumentInterface::selectRows;
-    using HeadlessDocumentInterface::setSortDescriptors;
 
 private:
-    void loadFinished(bool loaded, const QString &message, const QString &notice) override;
-    void inventoriesFinished() override;
+    void loadEnded(bool loaded, const QString &message, const QString &notice);
+    void inventoriesEnded();
     void tellOwners();
 
     QEventLoop m_loop;

@@ -39,7 +39,7 @@ struct ReportOptions {
 /// The table of the report, and its columns and rows.
 struct ReportChoice {
     Tab tab = Tab::Media;
-    TableColumns columns;                ///< of the table
+    Columns columns;                     ///< of the table
     std::optional<QStringList> selected; ///< identifiers; nothing for the first columns
     std::vector<std::size_t> rows;       ///< ascending; empty for all
 };
@@ -57,15 +57,12 @@ bool setColumns(ReportChoice &choice, const QString &list)
 {
     choice.selected = list.split(QLatin1Char(','));
     for (const QString &id : *choice.selected) {
-        const bool isColumn =
-            std::any_of(choice.columns.begin(), choice.columns.end(), [&id](const TableColumn &column) {
-                return column.identifier == id && !column.title.isEmpty();
-            });
-        if (isColumn)
+        const Column *column = findColumn(choice.columns, id);
+        if (column && !column->title.isEmpty())
             continue;
-        if (choice.tab != Tab::Markers || !id.startsWith(MarkerKey::customPrefix))
+        if (choice.tab != Tab::Markers || !isMarkerField(id))
             return false;
-        choice.columns.push_back({id, id});
+        choice.columns.push_back(markerFieldColumn(id, id));
     }
     return true;
 }
@@ -88,11 +85,11 @@ bool setRows(ReportChoice &choice, const QString &list)
 bool showRows(ProjectSession &session, const ReportChoice &choice)
 {
     MyDocument &document = session.document();
-    const RowList &list = document.listOf(choice.tab);
-    if (!choice.rows.empty() && choice.rows.back() >= list.size())
+    RowView &view = document.rowView(choice.tab);
+    if (!choice.rows.empty() && choice.rows.back() >= view.list().size())
         return false;
     document.viewState().selectedTab = choice.tab;
-    document.setTableArray(choice.tab, list);
+    view.show(view.list());
     session.selectRows(choice.tab, choice.rows);
     return true;
 }

@@ -3,12 +3,10 @@
 #include "cli/Console.h"
 #include "support/files/ProgramArguments.h"
 
-#include <algorithm>
-
 namespace vantrell::cli
 {
 
-std::optional<SortDescriptor> readSortOption(const std::string &value, const TableColumns &columns,
+std::optional<SortDescriptor> readSortOption(const std::string &value, const Columns &columns,
                                              const QString &customPrefix)
 {
     SortDescriptor sort{fromArgument(value), false};
@@ -17,17 +15,14 @@ std::optional<SortDescriptor> readSortOption(const std::string &value, const Tab
         sort.column.chop(suffix.size());
         sort.descending = true;
     }
-    const bool isColumn = std::any_of(columns.begin(), columns.end(), [&sort](const TableColumn &column) {
-        return column.identifier == sort.column;
-    });
     const bool isCustom = !customPrefix.isNull() && sort.column.startsWith(customPrefix);
-    return isColumn || isCustom ? std::optional<SortDescriptor>(sort) : std::nullopt;
+    return isCustom || findColumn(columns, sort.column) ? std::optional<SortDescriptor>(sort) : std::nullopt;
 }
 
-std::string sortChoices(const TableColumns &columns)
+std::string sortChoices(const Columns &columns)
 {
     QStringList identifiers;
-    for (const TableColumn &column : columns)
+    for (const Column &column : columns)
         identifiers.append(column.identifier);
     return identifiers.join(QStringLiteral(", ")).toStdString();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
-#include "rows/TableColumn.h"
+#include "rows/Column.h"
+#include "rows/SortDescriptor.h"
 
 #include <optional>
 #include <string>
@@ -11,10 +11,10 @@ namespace vantrell::cli
 
 /// Reads the value of --sort, "ID" or "ID:desc"; nothing unless ID is one of the columns or begins with
 /// the prefix of columns that users add (null for none).
-std::optional<SortDescriptor> readSortOption(const std::string &value, const TableColumns &columns,
+std::optional<SortDescriptor> readSortOption(const std::string &value, const Columns &columns,
                                              const QString &customPrefix = QString());
 
 /// The columns' identifiers for a help text, joined by commas.
-std::string sortChoices(const TableColumns &columns);
+std::string sortChoices(const Columns &columns);
 
 } // namespace vantrell::cli

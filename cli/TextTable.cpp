@@ -7,6 +7,20 @@
 namespace vantrell::cli
 {
 
+TextTable::TextTable(const RowList &rows, const Columns &columns)
+{
+    QStringList cells;
+    for (const Column &column : columns)
+        cells.append(column.name);
+    addRow(cells);
+    for (const RowRecordPtr &row : rows) {
+        cells.clear();
+        for (const Column &column : columns)
+            cells.append(column.textOf(*row));
+        addRow(cells);
+    }
+}
+
 void TextTable::addRow(const QStringList &cells)
 {
     QStringList row = cells;

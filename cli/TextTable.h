@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rows/Column.h"
+
 #include <QByteArray>
 #include <QStringList>
 
@@ -14,6 +16,8 @@ class TextTable
 {
 public:
     explicit TextTable(const QStringList &titles) { addRow(titles); }
+    /// What the columns list of the rows, under the names of the columns.
+    TextTable(const RowList &rows, const Columns &columns);
 
     /// As many cells as there are titles.
     void addRow(const QStringList &cells);

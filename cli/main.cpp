@@ -29,6 +29,8 @@ int runProgram(int argc, char **argv)
     cli::addEditCommand(program);
     cli::addReportCommand(program);
     cli::addSendCommand(program);
+    cli::addCompareCommand(program);
+    cli::addCarryCommand(program);
     cli::addTimecodeCommand(program);
     return program.run({argv + 1, argv + argc});
 }

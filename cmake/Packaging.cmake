@@ -1,5 +1,5 @@
-# The Debian packages: `cpack` in the build folder makes them of an optimised build with the window, vantrell and,
-# where printing is built, vantrell-print. Their revision, and the time stamp of the files in them, are those of
+# The Debian packages vantrell and, where printing is built, vantrell-print: run `cpack` in the folder of an
+# optimised build with the window. Their revision and the time stamps of their files are taken from
 # packaging/debian/changelog.
 
 set(changelog "${PROJECT_SOURCE_DIR}/packaging/debian/changelog")
@@ -20,38 +20,38 @@ set(CPACK_DEBIAN_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "media, effects and markers of editing projects")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [[
-Vantrell shows film and video editors what an editing project holds: the
-media that its clips use, the effects on them and the markers set in them. It
-reads xmeml projects, the XML that editing systems exchange, repairs damaged
-ones as far as that goes, and writes what was changed back.
+Vantrell shows film and video editors the contents of an editing project: the
+media that its clips use, their effects and their markers. It reads xmeml
+projects, the XML format that editing systems exchange, repairs damaged ones
+as far as possible, and saves changes.
 
- * Media: kind, size, date, use, and which files are missing.
- * Effects: filters and generators, to be found, switched off and removed.
- * Markers: edited in place, moved in time, added, removed, and exchanged with
-   the marker lists of other systems.
+ * Media: kind, size, date, usage count, and missing files.
+ * Effects: find, disable and remove filters and generators.
+ * Markers: edit, add, move and remove markers, and exchange marker lists with
+   other editing systems.
 
-The package holds the desktop program, vantrell, the command line,
+The package contains the desktop program vantrell, the command line program
 vantrell-cli, which works without a window system, and fcp-host, which stands
 in for the editing application.]])
 
 set(CPACK_DEBIAN_MAIN_PACKAGE_NAME vantrell)
 set(CPACK_DEBIAN_MAIN_DESCRIPTION "${CPACK_DEBIAN_PACKAGE_DESCRIPTION}")
 
-# The libraries come by themselves. The icons need a plug-in that is loaded by name, as does a session
-# without an X server, and files are opened through xdg-open.
+# Library dependencies are found automatically. Icons and Wayland sessions need plug-ins that are loaded by name,
+# and files are opened with xdg-open.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_MAIN_PACKAGE_DEPENDS "libqt6svg6, xdg-utils")
 set(CPACK_DEBIAN_MAIN_PACKAGE_RECOMMENDS "qt6-wayland, vantrell-print")
 
-# The plug-in fits the program that it was built with. Printers are reached through lp.
+# The plug-in requires the program that it was built with. Printing uses lp.
 set(CPACK_DEBIAN_PRINT_PACKAGE_NAME vantrell-print)
 set(CPACK_DEBIAN_PRINT_PACKAGE_DEPENDS "vantrell (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_PRINT_PACKAGE_RECOMMENDS cups-client)
 set(CPACK_DEBIAN_PRINT_DESCRIPTION [[
-Vantrell shows film and video editors what an editing project holds. This
-package lets it print what its tabs list, with a preview, and make PDF files
-of it, also on machines without a display. It needs a web engine, which the
-other packages do without.]])
+Vantrell shows film and video editors the contents of an editing project. This
+package lets it print reports of the tabs, with a preview, and make PDF files,
+also on machines without a display. It needs a web engine, unlike the main
+package.]])
 
 set(CPACK_COMPONENTS_ALL cli desktop debian)
 if(VANTRELL_HAS_PRINT)

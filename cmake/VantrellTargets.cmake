@@ -14,6 +14,9 @@ target_compile_definitions(vantrell_common INTERFACE
 if(VANTRELL_SANITIZER STREQUAL "")
 elseif(VANTRELL_SANITIZER STREQUAL "address")
     set(VANTRELL_SANITIZER_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # Checks of pointers take half of the time that a test takes to compile; in its own code the address sanitizer
+    # makes nearly the same ones.
+    set(VANTRELL_TEST_SANITIZER_FLAGS -fno-sanitize=null,alignment,object-size,vptr)
 elseif(VANTRELL_SANITIZER STREQUAL "thread")
     set(VANTRELL_SANITIZER_FLAGS -fsanitize=thread -fno-omit-frame-pointer)
     # Two libraries that are not built for the sanitizer may synchronise unseen; and a test that starts a
@@ -115,7 +118,7 @@ function(vantrell_test folder name)
     add_executable(tst_${name} "${source}")
     set_target_properties(tst_${name} PROPERTIES UNITY_BUILD OFF)
     vantrell_moc(tst_${name} "${source}" tst_${name}.moc)
-    target_compile_options(tst_${name} PRIVATE ${VANTRELL_TEST_OPTIMISATION})
+    target_compile_options(tst_${name} PRIVATE ${VANTRELL_TEST_OPTIMISATION} ${VANTRELL_TEST_SANITIZER_FLAGS})
     target_link_options(tst_${name} PRIVATE ${VANTRELL_TEST_LINKER})
     target_precompile_headers(tst_${name} REUSE_FROM vantrell_precompiled_${set})
     target_link_libraries(tst_${name} PRIVATE vantrell_${folder} vantrell_testsupport Qt6::Test Qt6::Network

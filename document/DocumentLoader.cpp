@@ -21,6 +21,12 @@ namespace
 QString whyNoProject(XmlNode root)
 {
     const QString xmeml = QStringLiteral("xmeml");
+    const XmlNode content = root.firstChildElement();
+    if (root.name() == xmeml && root.namespaceUri().isNull() && content && !content.namespaceUri().isNull()) {
+        return QStringLiteral(
+                   "its element \"%1\" is in the namespace \"%2\", while those of a project are in none")
+            .arg(content.name(), content.namespaceUri());
+    }
     if (root.name().section(QLatin1Char(':'), -1) == xmeml && !root.namespaceUri().isNull()) {
         return QStringLiteral(
                    "its root element \"%1\" is in the namespace \"%2\", while those of a project are "
@@ -66,10 +72,8 @@ bool MyDocument::readFromURL(const QUrl &url, const QString &typeName)
 
 void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &url)
 {
-    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
         setPopulating(tab, true);
-        m_mainThread->runAndWait([this, tab] { m_interface.startSpinner(tab); });
-    }
     if (!loadTree(typeName, url))
         return;
     static const XmlQuery sequence(QStringLiteral("./xmeml[1]/sequence[1]"));
@@ -80,7 +84,7 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
         QVLog::appendLog(u"XML type: project");
     populateSequences();
     QString notice;
-    if (m_xmlDoc->wasRepaired()) {
+    if (m_xmlDoc->wasRepaired() || !m_xmlDoc->loss().isEmpty()) {
         m_damagedFile = url.toLocalFile();
         notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
                      .arg(url.toLocalFile(), m_xmlDoc->firstFault());
@@ -154,7 +158,7 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
         // The queue goes on after an exception; the window would wait for ever.
         constexpr int attempts = 50;
         persistently(
-            "MyDocument::reportLoad", [&] { m_interface.loadFinished(loaded, message, notice); }, attempts);
+            "MyDocument::reportLoad", [&] { Q_EMIT loadFinished(loaded, message, notice); }, attempts);
     };
     persistently("MyDocument::reportLoad", [&] { m_mainThread->runAndWait(report); });
 }
@@ -163,12 +167,12 @@ void MyDocument::runInventories()
 {
     const auto reportEnd = [this] {
         persistently("MyDocument::runInventories",
-                     [this] { m_mainThread->post([this] { m_interface.inventoriesFinished(); }); });
+                     [this] { m_mainThread->post([this] { Q_EMIT inventoriesFinished(); }); });
     };
     m_runningInventories = int(m_services.inventoryBuilders.size());
     if (m_runningInventories == 0) {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers})
-            setPopulating(tab, false);
+            rowView(tab).setPopulating(false);
         reportEnd();
         return;
     }

@@ -1,13 +1,13 @@
 #include "document/MyDocument.h"
 
 #include "support/alerts/AlertUntil.h"
+#include "support/log/QVException.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
 #include <QFileInfo>
 
-#include <unordered_set>
 #include <utility>
 
 namespace vantrell
@@ -19,6 +19,13 @@ MyDocument::MyDocument(DocumentInterface &interface, Services services)
     , m_mainThread(std::make_shared<MainThreadGate>())
     , m_sequenceMenu(std::make_shared<Menu>(Menu{{QStringLiteral("(none)"), QString(), XmlNode()}}))
 {
+    for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+        connect(&rowView(tab), &RowView::willBecomeVisible, this, [this, tab] {
+            const Tab visible = std::exchange(m_tableTab, tab);
+            rowView(visible).hide();
+        });
+    }
+    rowView(m_tableTab).show({}, RowView::Order::Document);
 }
 
 MyDocument::~MyDocument()
@@ -74,7 +81,7 @@ void MyDocument::populateSequences()
         const std::lock_guard lock(m_lock);
         m_sequenceMenu = menu;
     }
-    m_mainThread->runAndWait([this, &menu] { m_interface.setSequenceMenu(menu); });
+    m_mainThread->runAndWait([this] { Q_EMIT sequenceMenuChanged(); });
 }
 
 MenuPtr MyDocument::sequenceMenu() const
@@ -109,31 +116,30 @@ std::int64_t MyDocument::frameCountFromTimecode(const QString &timecode, const R
         object.get(TimecodeKey::dropFrame), quint64(object.get(TimecodeKey::startFrame))));
 }
 
-void MyDocument::setListOf(Tab tab, RowList rows)
+void MyDocument::setPopulating(Tab tab, bool populating)
 {
-    m_lists[std::size_t(tab)] = std::move(rows);
+    rowView(tab).setPopulating(populating);
+    m_mainThread->runAndWait([&] { Q_EMIT rowView(tab).populatingChanged(populating); });
 }
 
-void MyDocument::removeRows(Tab tab, const RowList &rows)
+void MyDocument::populate(Tab tab, const char *operation, const std::function<void()> &build)
 {
-    const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
-    const auto isRemoved = [&](const RowRecordPtr &row) {
-        return removed.size() == 1 ? row == *removed.begin() : removed.contains(row);
-    };
-    std::erase_if(m_lists[std::size_t(tab)], isRemoved);
-    if (m_tableTab == tab)
-        std::erase_if(m_tableArray, isRemoved);
+    setPopulating(tab, true);
+    if (!guarded(operation, build))
+        noteIncomplete();
+    setPopulating(tab, false);
 }
 
-void MyDocument::appendToListOf(Tab tab, RowRecordPtr row)
+bool MyDocument::rebuildRows(Tab tab)
 {
-    m_lists[std::size_t(tab)].push_back(std::move(row));
+    return rowView(tab).rebuild(*m_mainThread, [this, tab] { return m_viewState.selectedTab == tab; });
 }
 
-const RowList &MyDocument::rowsOnShow(Tab tab) const
+bool MyDocument::isSelected(Tab tab)
 {
-    static const RowList none;
-    return tab == m_tableTab ? m_tableArray : none;
+    bool selected = false;
+    m_mainThread->runAndWait([&] { selected = m_viewState.selectedTab == tab; });
+    return selected;
 }
 
 RowList MyDocument::selectedRecords(Tab tab) const
@@ -147,49 +153,10 @@ RowList MyDocument::selectedRecords(Tab tab) const
     return records;
 }
 
-void MyDocument::setTableArray(Tab tab, RowList rows, RowOrder order)
+void MyDocument::setLabel(Label label, const QString &text)
 {
-    m_interface.tableWillReload();
-    m_tableTab = tab;
-    m_tableOrder = order;
-    m_tableArray = std::move(rows);
-    m_waitingTableRows.clear();
-    m_interface.tableDidReload();
-}
-
-void MyDocument::showList(Tab tab)
-{
-    if (m_tableTab != tab || m_tableArray != listOf(tab)) {
-        setTableArray(tab, listOf(tab), RowOrder::Document);
-        return;
-    }
-    m_interface.tableWillReload();
-    m_tableOrder = RowOrder::Document;
-    m_waitingTableRows.clear();
-    m_interface.tableDidReload();
-}
-
-void MyDocument::appendToTableArray(RowRecordPtr row)
-{
-    ++m_tableUpdates;
-    m_waitingTableRows.push_back(std::move(row));
-    endTableUpdates();
-}
-
-void MyDocument::endTableUpdates()
-{
-    if (--m_tableUpdates == 0)
-        showWaitingRows();
-}
-
-void MyDocument::showWaitingRows()
-{
-    if (m_waitingTableRows.empty())
-        return;
-    m_interface.tableWillReload();
-    m_tableArray.insert(m_tableArray.end(), m_waitingTableRows.begin(), m_waitingTableRows.end());
-    m_waitingTableRows.clear();
-    m_interface.tableDidReload();
+    m_labels.insert(label, text);
+    Q_EMIT labelChanged(label, text);
 }
 
 void MyDocument::addModifiedSequenceUUID(const QString &uuid)
@@ -219,7 +186,7 @@ void MyDocument::updateChangeCount()
 {
     ++m_changeCount;
     if (m_changeCount == 1)
-        m_interface.setEdited(true);
+        Q_EMIT editedChanged(true);
 }
 
 void MyDocument::clearChangeCount()
@@ -227,7 +194,7 @@ void MyDocument::clearChangeCount()
     m_changeCount = 0;
     if (m_sending)
         m_sending->changes = 0;
-    m_interface.setEdited(false);
+    Q_EMIT editedChanged(false);
 }
 
 void MyDocument::beginSending()
@@ -235,13 +202,13 @@ void MyDocument::beginSending()
     m_sending = {m_changeCount, m_modifiedSequenceUUIDs ? m_modifiedSequenceUUIDs->size() : 0};
     m_isReadToBeSent = true;
     m_modifiedSet.clear(); // so that a sequence that is changed again is added again
-    m_interface.editingAllowedChanged();
+    Q_EMIT editingAllowedChanged();
 }
 
 void MyDocument::endReadingToSend()
 {
     if (std::exchange(m_isReadToBeSent, false))
-        m_interface.editingAllowedChanged();
+        Q_EMIT editingAllowedChanged();
 }
 
 void MyDocument::endSending(SendResult result)
@@ -253,7 +220,7 @@ void MyDocument::endSending(SendResult result)
     if (result != SendResult::Failed) {
         m_changeCount -= sent->changes;
         if (m_changeCount == 0)
-            m_interface.setEdited(false);
+            Q_EMIT editedChanged(false);
     }
     const QStringList all = m_modifiedSequenceUUIDs.value_or(QStringList());
     const qsizetype count = sent->sequences;

@@ -4,12 +4,15 @@
 #include "document/DocumentInterface.h"
 #include "document/KnownFile.h"
 #include "document/Menu.h"
-#include "rows/RowRecord.h"
+#include "document/Tab.h"
+#include "rows/RowView.h"
 #include "support/files/Result.h"
 #include "support/threads/MainThread.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>
+#include <QHash>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -83,8 +86,10 @@ struct ViewState {
 /// Loading runs on threads of its own: the loader parses, builds the sequence menu and starts the
 /// inventories side by side. Until all of them have ended the tree is only read; after that it belongs
 /// to the main thread. Unless a member says otherwise it is for the main thread.
-class MyDocument
+class MyDocument : public QObject
 {
+    Q_OBJECT
+
 public:
     /// What the document needs of the folders above it.
     struct Services {
@@ -105,9 +110,7 @@ public:
 
     MyDocument(DocumentInterface &interface, Services services);
     /// Closes first.
-    ~MyDocument();
-    MyDocument(const MyDocument &) = delete;
-    MyDocument &operator=(const MyDocument &) = delete;
+    ~MyDocument() override;
 
     // Loading and saving
 
@@ -129,7 +132,7 @@ public:
     /// failure is SaveFailure::changedElsewhere, and overwriteChangedFile() makes the next save replace it.
     void writeInBackground(const QUrl &url, const QString &typeName,
                            std::function<void(const Result<void> &)> done);
-    /// What the last save found in the place of the document's file may be overwritten; what comes there
+    /// What the last save found at the path of the document's file may be overwritten; what comes there
     /// later may not.
     void overwriteChangedFile();
     /// The document's file as it was read or written last.
@@ -185,7 +188,7 @@ public:
     MenuPtr sequenceMenu() const;
     /// The clips of a sequence, video tracks first; "(none)" alone for a null element. Any thread.
     MenuPtr clipMenuForSequence(XmlNode sequence);
-    /// The clip ids by the places of the clip menu; null for an element without a location. Any thread.
+    /// The clip ids by the indexes of the clip menu; null for an element without a location. Any thread.
     std::shared_ptr<const QStringList> clipIDsForSequence(XmlNode sequence);
 
     // Timecode by a record's own parameters
@@ -195,52 +198,35 @@ public:
 
     // Inventories
 
-    const RowList &mediaArray() const { return m_lists[std::size_t(Tab::Media)]; }
-    const RowList &effectArray() const { return m_lists[std::size_t(Tab::Effects)]; }
-    const RowList &markerArray() const { return m_lists[std::size_t(Tab::Markers)]; }
-    const RowList &listOf(Tab tab) const { return m_lists[std::size_t(tab)]; }
-    /// Replaces a list whole.
-    void setListOf(Tab tab, RowList rows);
-    /// Takes rows out of a list, and out of the rows on show where those are the list's, unannounced.
-    void removeRows(Tab tab, const RowList &rows);
-    /// Adds one row at the end of a list.
-    void appendToListOf(Tab tab, RowRecordPtr row);
+    const RowList &mediaArray() const { return rowView(Tab::Media).list(); }
+    const RowList &effectArray() const { return rowView(Tab::Effects).list(); }
+    const RowList &markerArray() const { return rowView(Tab::Markers).list(); }
+    /// The lists, and what the tabs show of them. One of the views is visible.
+    RowView &rowView(Tab tab) { return m_rowViews[std::size_t(tab)]; }
+    const RowView &rowView(Tab tab) const { return m_rowViews[std::size_t(tab)]; }
 
+    /// Makes a tab's list: runs `build`, between the two RowView::populatingChanged() that tell of it. What
+    /// `build` throws is logged under the name of the operation, and noteIncomplete() is called. On the
+    /// inventory's thread.
+    void populate(Tab tab, const char *operation, const std::function<void()> &build);
     /// True from the start of a load until the tab's list is there. Any thread.
-    bool isPopulating(Tab tab) const { return m_populating[std::size_t(tab)]; }
-    void setPopulating(Tab tab, bool populating) { m_populating[std::size_t(tab)] = populating; }
-    /// How many rows a tab's running inventory has found so far. Any thread.
-    std::size_t foundSoFar(Tab tab) const
-    {
-        return m_found[std::size_t(tab)].load(std::memory_order_relaxed);
-    }
-    void setFoundSoFar(Tab tab, std::size_t count)
-    {
-        m_found[std::size_t(tab)].store(count, std::memory_order_relaxed);
-    }
+    bool isPopulating(Tab tab) const { return rowView(tab).isPopulating(); }
+    /// Makes the visible rows of the tab anew, as RowView::rebuild() does; on another thread than the main
+    /// one only while the tab is the selected one. Any thread.
+    bool rebuildRows(Tab tab);
+    /// Whether the tab is the selected one; false for a document that is closing. Any thread.
+    bool isSelected(Tab tab);
 
-    /// The rows on show, and the tab that shows them; the tables of the other tabs have no rows.
-    const RowList &tableArray() const { return m_tableArray; }
+    /// The visible rows, and the tab that they belong to; the tables of the other tabs have no rows.
+    const RowList &tableArray() const { return rowsOnShow(m_tableTab); }
     Tab tableTab() const { return m_tableTab; }
-    const RowList &rowsOnShow(Tab tab) const;
+    const RowList &rowsOnShow(Tab tab) const { return rowView(tab).visibleRows(); }
     /// The selected ones of the rows on show, in their order.
     RowList selectedRecords(Tab tab) const;
-    /// How the rows on show are ordered: as the project has them, or by what their table is sorted by.
-    enum class RowOrder { Document, Sorted };
-    /// Exchanges the rows on show, announcing it before and after.
-    void setTableArray(Tab tab, RowList rows, RowOrder order = RowOrder::Sorted);
-    /// The same with all rows of the list, which costs next to nothing when they are on show already.
-    void showList(Tab tab);
-    /// That of the rows that were exchanged last; rows that were added since stand at their end.
-    RowOrder tableOrder() const { return m_tableOrder; }
-    /// Adds one row to those on show, announced the same way.
-    void appendToTableArray(RowRecordPtr row);
-    /// Between these two, which may be nested, rows that are added wait: they come at the outer end,
-    /// announced once. Rows that were exchanged meanwhile take the place of those that wait.
-    void beginTableUpdates() { ++m_tableUpdates; }
-    void endTableUpdates();
-    /// Shows the rows that wait.
-    void showWaitingRows();
+
+    /// The text that the label was given last; null before.
+    QString label(Label label) const { return m_labels.value(label); }
+    void setLabel(Label label, const QString &text);
 
     ViewState &viewState() { return m_viewState; }
 
@@ -289,9 +275,27 @@ public:
     /// Takes the sheet away; the work goes on.
     void cancelProgress();
 
+Q_SIGNALS:
+    // On the main thread, all of them.
+
+    /// Loading ended: the project is there, or the message says why not. The notice is empty unless
+    /// the user should know something about the file, such as that it had to be repaired.
+    void loadFinished(bool loaded, const QString &message, const QString &notice);
+    /// Every inventory of a loaded project has ended; from now on the tree belongs to the main thread.
+    void inventoriesFinished();
+    void sequenceMenuChanged();
+    void labelChanged(Label label, const QString &text);
+    /// What was done, or why nothing was, for the tab to show for a while; a clause without a full stop.
+    void messageGiven(Tab tab, const QString &text);
+    /// The tree is read to be sent and may not be edited, or may be edited again; see isSaving().
+    void editingAllowedChanged();
+    /// The document has changes that were not saved or sent, or has none any more.
+    void editedChanged(bool isEdited);
+
 private:
     bool loadTree(const QString &typeName, const QUrl &url);
     void failLoading(const QString &message);
+    void setPopulating(Tab tab, bool populating);
     void reportLoad(bool loaded, const QString &message, const QString &notice);
     void runInventories();
     Result<void> prepareSaving(const QUrl &url);
@@ -311,7 +315,7 @@ private:
     QString m_damagedFile; ///< that was repaired while it was loaded and has not been replaced; null for none
     std::shared_ptr<KnownFile> m_knownFile = std::make_shared<KnownFile>();
     // The saver's while it runs
-    std::optional<FileStamp> m_changedFile; ///< what the last save found in the place of the file
+    std::optional<FileStamp> m_changedFile; ///< what the last save found at the path of the file
     struct {
         QString path;
         std::optional<FileStamp> stamp;
@@ -326,14 +330,9 @@ private:
     MenuPtr m_sequenceMenu;
     ClipMenus m_clipMenus;
 
-    std::array<RowList, 3> m_lists;
-    std::array<std::atomic<bool>, 3> m_populating = {};
-    std::array<std::atomic<std::size_t>, 3> m_found = {};
-    RowList m_tableArray;
+    std::array<RowView, 3> m_rowViews; // by tab
     Tab m_tableTab = Tab::Media;
-    RowOrder m_tableOrder = RowOrder::Document;
-    int m_tableUpdates = 0;
-    RowList m_waitingTableRows;
+    QHash<Label, QString> m_labels;
     ViewState m_viewState;
 
     std::optional<QStringList> m_modifiedSequenceUUIDs;

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
-#include "rows/RowSort.h"
+#include "document/Tab.h"
+#include "rows/RowView.h"
 
 #include <QString>
-
-#include <optional>
 
 namespace vantrell
 {
@@ -19,9 +17,8 @@ class UserDefaults;
 class TableSorting
 {
 public:
-    /// The document and the defaults outlive this object.
-    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab,
-                 SortValueOfColumn valueOfColumn = recordValueOfColumn);
+    /// Sets what the tab's view is sorted by. Document and defaults outlive this object.
+    TableSorting(MyDocument &document, UserDefaults &defaults, Tab tab);
 
     Tab tab() const { return m_tab; }
     /// "media", "effect" or "marker": what the keys of the tab's table begin with in the user defaults.
@@ -29,7 +26,7 @@ public:
 
     /// The column that was clicked last; empty before the first click ever. Rows that it does not tell apart
     /// stay in the order of the clicks before.
-    const std::vector<SortDescriptor> &descriptors() const { return m_descriptors; }
+    const std::vector<SortDescriptor> &descriptors() const { return m_view.sortDescriptors(); }
 
     /// Sorts the rows on show by the column: ascending at first, the other way round when it is the one
     /// that was sorted by last. What goes wrong is logged, and the click is ignored.
@@ -38,11 +35,9 @@ public:
 private:
     QString key(QStringView format) const;
 
-    MyDocument &m_document;
+    RowView &m_view;
     UserDefaults &m_defaults;
     Tab m_tab;
-    SortValueOfColumn m_valueOfColumn;
-    std::vector<SortDescriptor> m_descriptors;
 };
 
 } // namespace vantrell

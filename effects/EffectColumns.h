@@ -1,18 +1,11 @@
 #pragma once
 
-#include "rows/TableColumn.h"
+#include "rows/Column.h"
 
 namespace vantrell
 {
 
 /// The columns of the effects table, in order.
-inline const TableColumns effectColumns{
-    {QStringLiteral("enabled"), QStringLiteral("Enabled"), true},
-    {QStringLiteral("name"), QStringLiteral("Name")},
-    {QStringLiteral("effectType"), QStringLiteral("Type")},
-    {QStringLiteral("mediaType"), QStringLiteral("Media")},
-    {QStringLiteral("clip"), QStringLiteral("Clip")},
-    {QStringLiteral("sequence"), QStringLiteral("Sequence")},
-};
+extern const Columns effectColumns;
 
 } // namespace vantrell

@@ -109,7 +109,7 @@ bool EffectEditor::remove(const RowList &effects)
         if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
         removeElements(effects);
-        m_document.setListOf(Tab::Effects, without(m_document.effectArray(), effects));
+        m_document.rowView(Tab::Effects).setList(without(m_document.effectArray(), effects));
         m_inventory.populateFilteredEffectData();
         isRemoved = true;
     });
@@ -141,7 +141,7 @@ void EffectEditor::hideSelectedEffects()
         const RowList selected = m_document.selectedRecords(Tab::Effects);
         if (selected.empty())
             return;
-        m_document.setTableArray(Tab::Effects, without(m_document.rowsOnShow(Tab::Effects), selected));
+        m_document.rowView(Tab::Effects).show(without(m_document.rowsOnShow(Tab::Effects), selected));
         m_document.interface().selectRows(Tab::Effects, {});
         m_inventory.updateEffectStatusText();
     });

@@ -1,8 +1,8 @@
 #include "effects/EffectInventory.h"
 
+#include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
 #include "effects/EffectReader.h"
-#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 
@@ -11,16 +11,6 @@
 
 namespace vantrell
 {
-
-/// What a rebuild is made of, taken on the main thread.
-struct EffectInventory::View {
-    std::uint64_t rebuild = 0;
-    int type = 0;
-    bool showsDefaults = false;
-    QString search;
-    std::vector<SortDescriptor> sort;
-    RowList rows;
-};
 
 namespace
 {
@@ -58,33 +48,45 @@ bool isDefaultEffect(const QString &name)
     return defaults.contains(name);
 }
 
+/// Whether an effect is one that the user wants to see, for any thread.
+std::function<bool(const RowRecord &)> chosen(const ViewState &state)
+{
+    const QStringMatcher search(state.effectSearch, Qt::CaseInsensitive);
+    return
+        [type = state.effectType, showsDefaults = state.effectShowDefaults, search](const RowRecord &effect) {
+            if (!passesType(effect, type))
+                return false;
+            const QString name = effect.get(EffectKey::name);
+            if (!showsDefaults && isDefaultEffect(name))
+                return false;
+            // An effect without a name passes every search.
+            return search.pattern().isEmpty() || name.isNull() || search.indexIn(name) >= 0;
+        };
+}
+
 } // namespace
 
 EffectInventory::EffectInventory(MyDocument &document)
     : m_document(document)
 {
+    m_document.rowView(Tab::Effects).setFilter(effectColumns, [this] {
+        return RowView::Filter{.passes = chosen(m_document.viewState()),
+                               .shown = [this] { updateEffectStatusText(); }};
+    });
 }
 
 void EffectInventory::populateEffectData()
 {
-    if (!guarded("EffectInventory::populateEffectData", [this] { build(); }))
-        m_document.noteIncomplete();
-    m_document.setPopulating(Tab::Effects, false);
-    bool isShowing = false;
-    m_document.mainThread()->runAndWait([&] {
-        m_document.interface().stopSpinner(Tab::Effects);
-        isShowing = m_document.viewState().selectedTab == Tab::Effects;
-    });
+    m_document.populate(Tab::Effects, "EffectInventory::populateEffectData", [this] { build(); });
     QVLog::appendLog(u"Finished populating effects");
-    if (isShowing)
+    if (m_document.isSelected(Tab::Effects))
         populateFilteredEffectData();
 }
 
 void EffectInventory::build()
 {
     QVLog::appendLog(u"Populating effects...");
-    m_document.setPopulating(Tab::Effects, true);
-    m_document.mainThread()->runAndWait([this] { m_document.interface().startSpinner(Tab::Effects); });
+    RowView &view = m_document.rowView(Tab::Effects);
     RowList records;
     if (m_document.xmlDoc()) {
         EffectReader reader;
@@ -94,26 +96,17 @@ void EffectInventory::build()
             if (m_document.isClosing())
                 return;
             records.push_back(reader.recordOf(element));
-            m_document.setFoundSoFar(Tab::Effects, records.size());
+            view.setFoundSoFar(records.size());
         }
     }
-    m_document.mainThread()->runAndWait([&] { m_document.setListOf(Tab::Effects, std::move(records)); });
+    m_document.mainThread()->runAndWait([&] { view.setList(std::move(records)); });
 }
 
 void EffectInventory::populateFilteredEffectData()
 {
     guarded("EffectInventory::populateFilteredEffectData", [this] {
         QVLog::appendLog(u"Filtering effects...");
-        View view;
-        if (m_document.mainThread()->runAndWait([&] { view = snapshot(); })) {
-            RowList rows = filtered(view);
-            const bool isWorker = !MainThread::isMainThread();
-            m_document.mainThread()->runAndWait([&] {
-                const bool isOutdated = isWorker && m_document.viewState().selectedTab != Tab::Effects;
-                if (view.rebuild == m_rebuilds && !isOutdated)
-                    show(std::move(rows));
-            });
-        }
+        m_document.rebuildRows(Tab::Effects);
     });
     QVLog::appendLog(u"Finished filtering effects");
 }
@@ -128,40 +121,6 @@ void EffectInventory::effectSearchAction()
     populateFilteredEffectData();
 }
 
-EffectInventory::View EffectInventory::snapshot()
-{
-    const ViewState &state = m_document.viewState();
-    return {++m_rebuilds,
-            state.effectType,
-            state.effectShowDefaults,
-            state.effectSearch,
-            m_document.interface().sortDescriptors(Tab::Effects),
-            m_document.effectArray()};
-}
-
-RowList EffectInventory::filtered(const View &view)
-{
-    RowList rows;
-    const QStringMatcher search(view.search, Qt::CaseInsensitive);
-    for (const RowRecordPtr &record : view.rows) {
-        if (!passesType(*record, view.type))
-            continue;
-        const QString name = record->get(EffectKey::name);
-        if (!view.showsDefaults && isDefaultEffect(name))
-            continue;
-        // An effect without a name passes every search.
-        if (view.search.isEmpty() || name.isNull() || search.indexIn(name) >= 0)
-            rows.push_back(record);
-    }
-    return sortedRows(std::move(rows), view.sort);
-}
-
-void EffectInventory::show(RowList rows)
-{
-    m_document.setTableArray(Tab::Effects, std::move(rows));
-    updateEffectStatusText();
-}
-
 void EffectInventory::updateEffectStatusText()
 {
     const std::size_t count = m_document.rowsOnShow(Tab::Effects).size();
@@ -169,7 +128,7 @@ void EffectInventory::updateEffectStatusText()
     QString text = formatText(u"%i item%@", count, count == 1 ? u"" : u"s");
     if (selected > 0)
         text += formatText(u" (%i selected)", selected);
-    m_document.interface().setLabel(Label::EffectStatus, text);
+    m_document.setLabel(Label::EffectStatus, text);
 }
 
 } // namespace vantrell

@@ -2,8 +2,6 @@
 
 #include "document/MyDocument.h"
 
-#include <cstdint>
-
 namespace vantrell
 {
 
@@ -20,8 +18,7 @@ public:
     /// time.
     void populateEffectData();
 
-    /// Rebuilds the rows on show and the status text. Off the main thread it shows them only if neither a
-    /// newer rebuild was started nor another tab chosen meanwhile. Any thread.
+    /// Rebuilds the rows on show and the status text; see MyDocument::rebuildRows(). Any thread.
     void populateFilteredEffectData();
 
     /// The actions of the type menu (and of the show-defaults box) and of the search field.
@@ -32,15 +29,9 @@ public:
     void updateEffectStatusText();
 
 private:
-    struct View;
-
     void build();
-    View snapshot();
-    static RowList filtered(const View &view);
-    void show(RowList rows);
 
     MyDocument &m_document;
-    std::uint64_t m_rebuilds = 0; // started so far
 };
 
 } // namespace vantrell

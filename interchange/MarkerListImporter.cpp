@@ -1,7 +1,6 @@
 #include "interchange/MarkerListImporter.h"
 
 #include "document/MyDocument.h"
-#include "document/TableUpdates.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/QVFCPXMLParser.h"
 #include "interchange/QVMarkerListParser.h"
@@ -61,7 +60,7 @@ MarkerListImporter::markerOpenDialogDidEnd(const QStringList &paths, int returnC
             tellNothingToImport(rows);
             return;
         }
-        const TableUpdates updates(m_document);
+        const RowView::Updates updates(m_document.rowView(Tab::Markers));
         addMarkers(rows, progress);
     });
     return progress;

@@ -1,7 +1,6 @@
 #include "interchange/NoteImporter.h"
 
 #include "document/MyDocument.h"
-#include "document/TableUpdates.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerEditor.h"
 #include "markers/MarkerFields.h"
@@ -110,7 +109,7 @@ std::size_t NoteImporter::add(std::vector<PlannedNote> &notes, std::int64_t item
 {
     std::size_t added = 0;
     guarded("NoteImporter::add", [&] {
-        const TableUpdates updates(m_document);
+        const RowView::Updates updates(m_document.rowView(Tab::Markers));
         for (PlannedNote &note : notes) {
             if (note.state != PlannedNote::State::Add)
                 continue;

@@ -212,8 +212,7 @@ void MarkerEditor::offset(const RowList &records, const QString &text, const Row
 
 void MarkerEditor::reloadTable()
 {
-    m_document.interface().tableWillReload();
-    m_document.interface().tableDidReload();
+    m_document.rowView(Tab::Markers).reload();
 }
 
 } // namespace vantrell

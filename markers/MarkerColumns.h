@@ -1,33 +1,23 @@
 #pragma once
 
-#include "markers/MarkerKeys.h"
-#include "rows/TableColumn.h"
-
-#include <algorithm>
+#include "rows/Column.h"
 
 namespace vantrell
 {
 
 /// The columns of the marker table, in order; those of custom fields follow.
-inline const TableColumns markerColumns{
-    {QStringLiteral("color"), QStringLiteral("")},
-    {QStringLiteral("name"), QStringLiteral("Name")},
-    {QStringLiteral("comment"), QStringLiteral("Comment")},
-    {QStringLiteral("in"), QStringLiteral("In")},
-    {QStringLiteral("out"), QStringLiteral("Duration")},
-    {QStringLiteral("sequence"), QStringLiteral("Sequence")},
-    {QStringLiteral("clip"), QStringLiteral("Clip")},
-    {QStringLiteral("chapter"), QStringLiteral("Chapter"), true},
-    {QStringLiteral("compression"), QStringLiteral("Compression"), true},
-    {QStringLiteral("scoring"), QStringLiteral("Scoring"), true},
-};
+extern const Columns markerColumns;
 
-/// Whether the identifier is one of those or a custom field's.
+/// The column of a custom field.
+Column markerFieldColumn(const QString &identifier, const QString &title);
+
+/// Whether the identifier is that of a custom field's column.
+bool isMarkerField(const QString &identifier);
+
+/// Whether the marker table may have a column with the identifier.
 inline bool isMarkerColumn(const QString &identifier)
 {
-    return identifier.startsWith(MarkerKey::customPrefix) ||
-           std::any_of(markerColumns.begin(), markerColumns.end(),
-                       [&identifier](const TableColumn &column) { return column.identifier == identifier; });
+    return isMarkerField(identifier) || findColumn(markerColumns, identifier);
 }
 
 } // namespace vantrell

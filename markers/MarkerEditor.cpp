@@ -161,9 +161,7 @@ XmlNode MarkerEditor::parentSequence(std::optional<std::int64_t> parentItem) con
 void MarkerEditor::addRecord(const RowRecordPtr &record)
 {
     freeSlots().add(*record);
-    m_document.appendToListOf(Tab::Markers, record);
-    if (m_document.tableTab() == Tab::Markers)
-        m_document.appendToTableArray(record);
+    m_document.rowView(Tab::Markers).append(record);
 }
 
 void MarkerEditor::removeMarkers()
@@ -192,7 +190,7 @@ bool MarkerEditor::remove(const RowList &records)
             removeXMLMarker(record);
             freeSlots().remove(*record);
         }
-        m_document.removeRows(Tab::Markers, records);
+        m_document.rowView(Tab::Markers).remove(records);
         m_inventory.populateFilteredMarkerData();
         isRemoved = true;
     });
@@ -211,7 +209,7 @@ void MarkerEditor::dropRemovedMarkers()
     }
     if (kept.size() == m_document.markerArray().size())
         return;
-    m_document.setListOf(Tab::Markers, std::move(kept));
+    m_document.rowView(Tab::Markers).setList(std::move(kept));
     if (m_document.tableTab() == Tab::Markers)
         m_inventory.populateFilteredMarkerData();
 }

@@ -68,10 +68,8 @@ void MarkerFields::setupMarkerFields()
         if (placed)
             interface.moveMarkerColumn(field.identifier, int(*field.colIndex));
     }
-    if (m_document.tableTab() == Tab::Markers) {
-        interface.tableWillReload();
-        interface.tableDidReload();
-    }
+    if (m_document.tableTab() == Tab::Markers)
+        m_document.rowView(Tab::Markers).reload();
 }
 
 void MarkerFields::definitionsChanged()

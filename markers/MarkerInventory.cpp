@@ -1,11 +1,11 @@
 #include "markers/MarkerInventory.h"
 
 #include "markers/MarkerColors.h"
+#include "markers/MarkerColumns.h"
 #include "markers/MarkerComment.h"
 #include "markers/MarkerFields.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOwners.h"
-#include "markers/MarkerTableValues.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 #include "xml/QVXMLParser.h"
@@ -89,34 +89,35 @@ MarkerInventory::MarkerInventory(MyDocument &document, MarkerFields &fields)
     : m_document(document)
     , m_fields(fields)
 {
+    m_document.rowView(Tab::Markers).setFilter(markerColumns, [this] {
+        RowView::Filter filter{.order = RowView::Order::Document};
+        if (const int item = m_document.viewState().markerFilter; item != 0) {
+            filter.passes = [item](const RowRecord &marker) {
+                return marker.get(MarkerKey::color) == item - 1;
+            };
+            filter.order = RowView::Order::Sorted;
+        }
+        return filter;
+    });
 }
 
 void MarkerInventory::populateMarkerData()
 {
-    MainThreadGate &mainThread = *m_document.mainThread();
     QVLog::appendLog(u"Populating markers...");
-    m_document.setPopulating(Tab::Markers, true);
-    mainThread.runAndWait([this] { m_document.interface().startSpinner(Tab::Markers); });
-    const bool isWhole = guarded("-[MyDocument populateMarkerData]", [&] {
+    m_document.populate(Tab::Markers, "-[MyDocument populateMarkerData]", [this] {
         std::optional<Extracted> extracted = extract();
         if (!extracted)
             return;
-        mainThread.runAndWait([&] {
+        m_document.mainThread()->runAndWait([&] {
             m_listed = extracted->rows.size();
-            m_document.setListOf(Tab::Markers, std::move(extracted->rows));
+            m_document.rowView(Tab::Markers).setList(std::move(extracted->rows));
             m_listedUnderOthers = extracted->underOthers;
             ++m_generation;
             m_fields.setupMarkerFields();
         });
     });
-    if (!isWhole)
-        m_document.noteIncomplete();
-    m_document.setPopulating(Tab::Markers, false);
-    mainThread.runAndWait([this] { m_document.interface().stopSpinner(Tab::Markers); });
     QVLog::appendLog(u"Finished populating markers");
-    bool onShow = false;
-    mainThread.runAndWait([&] { onShow = m_document.viewState().selectedTab == Tab::Markers; });
-    if (onShow)
+    if (m_document.isSelected(Tab::Markers))
         populateFilteredMarkerData();
 }
 
@@ -146,7 +147,7 @@ std::optional<MarkerInventory::Extracted> MarkerInventory::extract() const
         record.merge(owner.keys);
         extracted.underOthers += owner.isOwn ? 0 : 1;
         rows.push_back(std::make_shared<RowRecord>(record));
-        m_document.setFoundSoFar(Tab::Markers, rows.size());
+        m_document.rowView(Tab::Markers).setFoundSoFar(rows.size());
     }
     rows.shrink_to_fit();
     return extracted;
@@ -164,39 +165,9 @@ QString MarkerInventory::listedUnderOthersText() const
 
 void MarkerInventory::populateFilteredMarkerData()
 {
-    struct View {
-        std::uint64_t rebuild = 0;
-        Tab tab = Tab::Markers;
-        int filter = 0;
-        std::vector<SortDescriptor> sort;
-        RowList rows;
-    };
-    MainThreadGate &mainThread = *m_document.mainThread();
     guarded("MarkerInventory::populateFilteredMarkerData", [&] {
         QVLog::appendLog(u"Filtering markers...");
-        View view;
-        mainThread.runAndWait([&] {
-            view.rebuild = ++m_lastRebuild;
-            view.tab = m_document.viewState().selectedTab;
-            view.filter = m_document.viewState().markerFilter;
-            view.sort = m_document.interface().sortDescriptors(Tab::Markers);
-            if (view.filter != 0)
-                view.rows = m_document.markerArray();
-        });
-        if (view.filter != 0) {
-            std::erase_if(view.rows, [&view](const RowRecordPtr &record) {
-                return record->get(MarkerKey::color) != view.filter - 1;
-            });
-            view.rows = sortedRows(std::move(view.rows), view.sort, MarkerTableValues::sortValueOfColumn);
-        }
-        mainThread.runAndWait([&] {
-            if (view.rebuild != m_lastRebuild || view.tab != m_document.viewState().selectedTab)
-                return;
-            if (view.filter == 0)
-                m_document.showList(Tab::Markers);
-            else
-                m_document.setTableArray(Tab::Markers, std::move(view.rows));
-        });
+        m_document.rebuildRows(Tab::Markers);
         QVLog::appendLog(u"Finished filtering markers");
     });
 }

@@ -25,8 +25,7 @@ public:
     void populateMarkerData();
 
     /// Rebuilds the rows on show: all markers in their order, or those of the chosen colour as the table
-    /// is sorted. Any thread while nobody edits markers. Of rebuilds that overlap the last one started
-    /// counts; one during which the tab changed is dropped.
+    /// is sorted; see MyDocument::rebuildRows(). Any thread while nobody edits markers.
     void populateFilteredMarkerData();
     /// The action of the colour filter. Main thread.
     void changeMarkerFilter();
@@ -56,7 +55,6 @@ private:
     std::size_t m_listed = 0;
     std::size_t m_listedUnderOthers = 0; // of those
     std::uint64_t m_generation = 0;      // main thread
-    std::uint64_t m_lastRebuild = 0;     // of the filtered view; main thread
 };
 
 } // namespace vantrell

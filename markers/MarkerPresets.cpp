@@ -117,14 +117,14 @@ void MarkerPresets::showMarkerPresetDialog()
     m_rows.clear();
     for (const MarkerColor &color : MarkerColors::table())
         m_rows.push_back({color.icon(), color.label});
-    m_document.interface().showMarkerPresetSheet();
+    Q_EMIT sheetRequested();
     m_selected = rememberedItem();
     showMenu();
 }
 
 void MarkerPresets::cancelMarkerPresetDialog()
 {
-    m_document.interface().hideMarkerPresetSheet();
+    Q_EMIT sheetEnded();
 }
 
 bool MarkerPresets::addMarkerPreset(const QString &typedName)
@@ -161,7 +161,7 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
     }
     populateMarkerPresets();
     changeMarkerPreset(int(m_items.indexOf(name, 1))); // not the "None" that is no preset
-    interface.hideMarkerPresetSheet();
+    Q_EMIT sheetEnded();
     return true;
 }
 
@@ -189,8 +189,7 @@ int MarkerPresets::rememberedItem() const
 
 void MarkerPresets::showMenu()
 {
-    m_document.interface().setMarkerPresetMenu(
-        m_items + QStringList{QString(), QStringLiteral("Create preset...")}, m_selected);
+    Q_EMIT menuChanged(m_items + QStringList{QString(), QStringLiteral("Create preset...")}, m_selected);
 }
 
 void MarkerPresets::apply()
@@ -199,7 +198,7 @@ void MarkerPresets::apply()
     QStringList labels;
     for (const MarkerColor &color : MarkerColors::table())
         labels.append(m_markerLabelDict ? m_markerLabelDict->value(color.label).toString() : color.label);
-    m_document.interface().setMarkerLabels(labels);
+    Q_EMIT labelsChanged(labels);
 }
 
 void MarkerPresets::storeChoice()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -22,8 +23,10 @@ struct MarkerPresetRow {
 /// The marker presets of a document: property lists in a folder of the user's, each of which gives the
 /// eight marker colours labels of its own. The chosen one's name is kept in the user defaults
 /// "selectedPreset", which all documents share. Main thread.
-class MarkerPresets
+class MarkerPresets : public QObject
 {
+    Q_OBJECT
+
 public:
     /// The document outlives this object, as do the defaults; without them (null) there are no presets, and
     /// nothing is read or stored.
@@ -56,6 +59,15 @@ public:
 
     /// The chosen preset by default label; nothing for "None" and while its file cannot be read.
     const std::optional<QVariantMap> &markerLabelDict() const { return m_markerLabelDict; }
+
+Q_SIGNALS:
+    /// The items of the preset pop-up, a separator where the title is null, and the chosen one.
+    void menuChanged(const QStringList &titles, int selected);
+    /// The titles of the eight colours in the marker filter and in the colour cells; they may be empty.
+    void labelsChanged(const QStringList &labels);
+    /// The sheet that makes a preset is to open, and to close.
+    void sheetRequested();
+    void sheetEnded();
 
 private:
     void findPresets();

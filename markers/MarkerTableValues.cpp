@@ -8,21 +8,6 @@
 namespace vantrell::MarkerTableValues
 {
 
-namespace
-{
-
-const QString inColumn = QStringLiteral("in");
-const QString outColumn = QStringLiteral("out");
-
-/// The record's in or out point from the zero of timecode, in frames; it wraps around.
-std::int64_t absolutePosition(const RowRecord &record, bool in)
-{
-    const std::int64_t position = integerValue(record.get(in ? MarkerKey::in : MarkerKey::out));
-    return std::int64_t(quint64(position) + quint64(record.get(TimecodeKey::startFrame)));
-}
-
-} // namespace
-
 QString inText(const RowRecord &record)
 {
     return MyDocument::timecodeFromFrameCount(intValue(record.get(MarkerKey::in)), record);
@@ -39,27 +24,31 @@ QString outText(const RowRecord &record)
                                               record.get(TimecodeKey::dropFrame), 0);
 }
 
+QString reportedOutText(const RowRecord &record)
+{
+    const std::int32_t out = intValue(record.get(MarkerKey::out));
+    if (out == -1)
+        return QStringLiteral("00:00:00:00");
+    const auto duration = std::int32_t(quint32(out) - quint32(intValue(record.get(MarkerKey::in))));
+    return MyDocument::timecodeFromFrameCount(duration, record);
+}
+
+std::int64_t absolutePosition(const RowRecord &record, Point point)
+{
+    const std::int64_t position =
+        integerValue(record.get(point == Point::In ? MarkerKey::in : MarkerKey::out));
+    return std::int64_t(quint64(position) + quint64(record.get(TimecodeKey::startFrame)));
+}
+
 std::strong_ordering compareIntegersFromString(const RowRecord &a, const RowRecord &b, const QString &key)
 {
-    const bool in = key == inColumn;
-    return absolutePosition(a, in) <=> absolutePosition(b, in);
+    const Point point = key == MarkerKey::in.text() ? Point::In : Point::Out;
+    return absolutePosition(a, point) <=> absolutePosition(b, point);
 }
 
 std::strong_ordering compareIntegersFromString(const QString &a, const QString &b)
 {
     return integerValue(a) <=> integerValue(b);
-}
-
-SortValue sortValueOfColumn(const QString &column)
-{
-    if (column == QStringLiteral("sequence"))
-        return recordValueOfColumn(MarkerKey::sequenceName.text());
-    if (column == QStringLiteral("clip"))
-        return recordValueOfColumn(MarkerKey::clipName.text());
-    if (column != inColumn && column != outColumn)
-        return recordValueOfColumn(column);
-    const bool in = column == inColumn;
-    return [in](const RowRecord &row) { return std::optional<RecordValue>(absolutePosition(row, in)); };
 }
 
 } // namespace vantrell::MarkerTableValues

@@ -1,31 +1,18 @@
 #include "media/MediaFilter.h"
 
+#include "media/MediaColumns.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
-#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
+#include <optional>
 
 namespace vantrell
 {
-
-/// What a rebuild is made of, taken on the main thread.
-struct MediaFilter::View {
-    std::uint64_t rebuild = 0;
-    int kind = 0;
-    QString drive; ///< null for all
-    std::vector<SortDescriptor> sort;
-    RowList rows;
-};
-
-struct MediaFilter::Shown {
-    RowList rows;
-    std::uint64_t totalSize = 0; ///< bytes
-    RowRecord statistics;
-};
 
 namespace
 {
@@ -125,11 +112,58 @@ double freeSpace()
     return error ? 0 : double(space.available);
 }
 
+/// The files that the user wants to see, and their statistics. On the thread of one rebuild.
+class Choice
+{
+public:
+    explicit Choice(const ViewState &state)
+        : m_type(wantedType(state.mediaKind))
+        , m_drive(state.mediaDrive)
+    {
+    }
+
+    bool passes(const RowRecord &record)
+    {
+        if (!m_type.isNull() && record.get(MediaKey::filetype) != m_type)
+            return false;
+        if (!m_drive.isNull() && !isOnDrive(record, m_drive, volumesFolders()))
+            return false;
+        m_statistics.add(record);
+        return true;
+    }
+
+    const Statistics &statistics() const { return m_statistics; }
+
+private:
+    /// Those that the root volume leaves out; asked for once, as a volume may be slow to answer.
+    const QStringList &volumesFolders()
+    {
+        if (!m_volumesFolders) {
+            m_volumesFolders.emplace();
+            if (m_drive == QStringLiteral("/"))
+                *m_volumesFolders << QStringLiteral("/Volumes") << answeringVolumesFolders();
+        }
+        return *m_volumesFolders;
+    }
+
+    QString m_type;  // null for every kind
+    QString m_drive; // null for all
+    std::optional<QStringList> m_volumesFolders;
+    Statistics m_statistics;
+};
+
 } // namespace
 
 MediaFilter::MediaFilter(MyDocument &document)
     : m_document(document)
 {
+    m_document.rowView(Tab::Media).setFilter(mediaColumns, [this] {
+        const auto choice = std::make_shared<Choice>(m_document.viewState());
+        return RowView::Filter{
+            .passes = [choice](const RowRecord &record) { return choice->passes(record); },
+            .shown = [this,
+                      choice] { noteShown(choice->statistics().record(), choice->statistics().total()); }};
+    });
 }
 
 void MediaFilter::changeMediaFilter()
@@ -146,77 +180,36 @@ void MediaFilter::populateFilteredMediaData()
 {
     guarded("-[MyDocument populateFilteredMediaData]", [this] {
         QVLog::appendLog(u"Started filtering media...");
-        View view;
-        if (!m_document.mainThread()->runAndWait([&] { view = snapshot(); }))
-            return;
-        Shown shown = filtered(view);
-        const bool isWorker = !MainThread::isMainThread();
-        m_document.mainThread()->runAndWait([&] {
-            const bool isOutdated = isWorker && m_document.viewState().selectedTab != Tab::Media;
-            if (view.rebuild == m_rebuilds && !isOutdated)
-                show(std::move(shown));
-        });
-        QVLog::appendLog(u"Finished filtering media");
+        if (m_document.rebuildRows(Tab::Media))
+            QVLog::appendLog(u"Finished filtering media");
     });
 }
 
-MediaFilter::View MediaFilter::snapshot()
+void MediaFilter::noteShown(RowRecord statistics, std::uint64_t totalSize)
 {
-    const ViewState &state = m_document.viewState();
-    return {++m_rebuilds, state.mediaKind, state.mediaDrive,
-            m_document.interface().sortDescriptors(Tab::Media), m_document.mediaArray()};
-}
-
-MediaFilter::Shown MediaFilter::filtered(const View &view)
-{
-    Shown shown;
-    Statistics statistics;
-    const QString type = wantedType(view.kind);
-    QStringList volumesFolders;
-    if (view.drive == QStringLiteral("/"))
-        volumesFolders = QStringList(QStringLiteral("/Volumes")) + answeringVolumesFolders();
-    for (const RowRecordPtr &record : view.rows) {
-        if (!type.isNull() && record->get(MediaKey::filetype) != type)
-            continue;
-        if (!view.drive.isNull() && !isOnDrive(*record, view.drive, volumesFolders))
-            continue;
-        statistics.add(*record);
-        shown.rows.push_back(record);
-    }
-    shown.rows = sortedRows(std::move(shown.rows), view.sort);
-    shown.totalSize = statistics.total();
-    shown.statistics = statistics.record();
-    return shown;
-}
-
-void MediaFilter::show(Shown shown)
-{
-    m_statistics = std::move(shown.statistics);
-    m_document.setTableArray(Tab::Media, std::move(shown.rows));
+    m_statistics = std::move(statistics);
     updateMediaStats(m_statistics);
-    DocumentInterface &interface = m_document.interface();
-    interface.setLabel(Label::MediaTotalSize,
-                       formatText(u"Total size: %@", MediaFile::formatFileSize(double(shown.totalSize))));
-    interface.setLabel(Label::MediaTotalFiles,
-                       formatText(u"Total number of files: %i", m_document.mediaArray().size()));
+    m_document.setLabel(Label::MediaTotalSize,
+                        formatText(u"Total size: %@", MediaFile::formatFileSize(double(totalSize))));
+    m_document.setLabel(Label::MediaTotalFiles,
+                        formatText(u"Total number of files: %i", m_document.mediaArray().size()));
 }
 
 void MediaFilter::updateMediaStats(const RowRecord &statistics)
 {
     guarded("-[MyDocument updateMediaStats:]", [&] {
         using namespace MediaStatisticsKey;
-        DocumentInterface &interface = m_document.interface();
         const double total = bytesOf(statistics, totalSize);
-        interface.setLabel(Label::MediaFilteredTotalSize,
-                           formatText(u"Total size of filtered media: %@", MediaFile::formatFileSize(total)));
-        interface.setLabel(
+        m_document.setLabel(Label::MediaFilteredTotalSize, formatText(u"Total size of filtered media: %@",
+                                                                      MediaFile::formatFileSize(total)));
+        m_document.setLabel(
             Label::MediaFilteredTotalFiles,
             formatText(u"Number of filtered media files: %i", m_document.rowsOnShow(Tab::Media).size()));
-        interface.setLabel(Label::MediaLargestFile,
-                           fileText(u"Largest", statistics, largestFile, largestFileSize));
-        interface.setLabel(Label::MediaSmallestFile,
-                           fileText(u"Smallest", statistics, smallestFile, smallestFileSize));
-        interface.setMediaChart({total, freeSpace()});
+        m_document.setLabel(Label::MediaLargestFile,
+                            fileText(u"Largest", statistics, largestFile, largestFileSize));
+        m_document.setLabel(Label::MediaSmallestFile,
+                            fileText(u"Smallest", statistics, smallestFile, smallestFileSize));
+        Q_EMIT chartChanged({total, freeSpace()});
     });
 }
 

@@ -3,7 +3,10 @@
 #include "document/MyDocument.h"
 #include "media/MediaDrives.h"
 
+#include <QObject>
+
 #include <cstdint>
+#include <vector>
 
 namespace vantrell
 {
@@ -11,8 +14,10 @@ namespace vantrell
 /// The media files on show: those of the inventory that the kind and drive menus leave, sorted as the
 /// table is, with their statistics, labels and chart. Main thread unless a member says otherwise. The
 /// document must be closed before the object goes away.
-class MediaFilter
+class MediaFilter : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit MediaFilter(MyDocument &document);
 
@@ -20,8 +25,7 @@ public:
     void changeMediaFilter();
     void switchMediaFilter();
 
-    /// Rebuilds the rows on show, the labels and the chart. Off the main thread it shows them only if
-    /// neither a newer rebuild was started nor another tab chosen meanwhile. Any thread.
+    /// Rebuilds the rows on show, the labels and the chart; see MyDocument::rebuildRows(). Any thread.
     void populateFilteredMediaData();
 
     /// Fills the labels of the filtered media and the chart from a record of statistics
@@ -34,16 +38,14 @@ public:
     /// Refills the drive menu.
     static void populateDrivePopUp(std::vector<DriveItem> &menu) { vantrell::populateDrivePopUp(menu); }
 
-private:
-    struct View;
-    struct Shown;
+Q_SIGNALS:
+    /// The values of the media chart: bytes of the files on show and free bytes of the start-up volume.
+    void chartChanged(const std::vector<double> &values);
 
-    View snapshot();
-    static Shown filtered(const View &view);
-    void show(Shown shown);
+private:
+    void noteShown(RowRecord statistics, std::uint64_t totalSize);
 
     MyDocument &m_document;
-    std::uint64_t m_rebuilds = 0; // started so far
     RowRecord m_statistics;
 };
 

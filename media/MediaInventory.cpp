@@ -70,23 +70,14 @@ void MediaInventory::setFileCheck(const FileChecks::Check &check, std::chrono::m
 
 void MediaInventory::populateMediaData()
 {
-    if (!guarded("-[MyDocument populateMediaData]", [this] { build(); }))
-        m_document.noteIncomplete();
-    m_document.setPopulating(Tab::Media, false);
-    bool isShowing = false;
-    m_document.mainThread()->runAndWait([&] {
-        m_document.interface().stopSpinner(Tab::Media);
-        isShowing = m_document.viewState().selectedTab == Tab::Media;
-    });
-    if (isShowing)
+    m_document.populate(Tab::Media, "-[MyDocument populateMediaData]", [this] { build(); });
+    if (m_document.isSelected(Tab::Media))
         m_filter.populateFilteredMediaData();
 }
 
 void MediaInventory::build()
 {
     QVLog::appendLog(u"Populating media...");
-    m_document.setPopulating(Tab::Media, true);
-    m_document.mainThread()->runAndWait([this] { m_document.interface().startSpinner(Tab::Media); });
     m_mediaOpQueue = std::make_unique<OperationQueue>(OperationQueue::processorCount());
     m_tempUsageDict.clear();
     RowList records;
@@ -111,13 +102,12 @@ void MediaInventory::build()
         records = recordsOf(files, *answers, total);
     }
     const std::size_t count = records.size();
-    m_document.mainThread()->runAndWait([&] { m_document.setListOf(Tab::Media, std::move(records)); });
+    m_document.mainThread()->runAndWait([&] { m_document.rowView(Tab::Media).setList(std::move(records)); });
     QVLog::appendLog(u"Finished populating media");
     m_document.mainThread()->runAndWait([&] {
-        DocumentInterface &interface = m_document.interface();
-        interface.setLabel(Label::MediaTotalSize,
-                           formatText(u"Total size: %@", MediaFile::formatFileSize(double(total))));
-        interface.setLabel(Label::MediaTotalFiles, formatText(u"Total number of files: %i", count));
+        m_document.setLabel(Label::MediaTotalSize,
+                            formatText(u"Total size: %@", MediaFile::formatFileSize(double(total))));
+        m_document.setLabel(Label::MediaTotalFiles, formatText(u"Total number of files: %i", count));
     });
 }
 
@@ -138,7 +128,7 @@ bool MediaInventory::collect(std::vector<File> &files, XmlNodeList &sequences) c
             continue;
         files.push_back({url, QVXMLParser::filenameFromPathURLString(url),
                          QVXMLParser::idAttributeForNode(node.parent().parent())});
-        m_document.setFoundSoFar(Tab::Media, files.size());
+        m_document.rowView(Tab::Media).setFoundSoFar(files.size());
     }
     return true;
 }
@@ -229,7 +219,7 @@ void MediaInventory::withFileOfRow(std::size_t row, bool (*action)(const QString
 {
     const QString path = pathOfRow(row);
     const auto tell = [document = &m_document, name = QFileInfo(path).fileName()] {
-        document->interface().showMessage(Tab::Media, formatText(u"“%@” is missing", name));
+        Q_EMIT document->messageGiven(Tab::Media, formatText(u"“%@” is missing", name));
     };
     withExistingFile(path, action, [gate = m_document.mainThread(), tell] { gate->post(tell); });
 }

@@ -10,7 +10,7 @@ namespace vantrell::PaperSize
 QString ofCountry()
 {
 #ifdef _NL_PAPER_HEIGHT
-    // The number itself stands in the place of a pointer.
+    // The number is returned as the pointer itself.
     constexpr quintptr letterHeight = 279; // millimetres
     const auto height = quintptr(nl_langinfo(_NL_PAPER_HEIGHT)) & 0xffffffff;
     const bool isLetter = height == letterHeight;

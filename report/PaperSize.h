@@ -5,8 +5,8 @@
 namespace vantrell::PaperSize
 {
 
-/// What the user's country prints on: "A4" or "Letter". Once the locale has been set, as a QCoreApplication
-/// does. Any thread.
+/// The usual paper of the user's country: "A4" or "Letter". Requires the locale to be set, as by
+/// QCoreApplication. Any thread.
 QString ofCountry();
 
 } // namespace vantrell::PaperSize

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rows/TableColumn.h"
+#include "rows/Column.h"
 
 #include <QString>
 
@@ -9,12 +9,12 @@
 namespace vantrell
 {
 
-/// A column of the printed table, as the column chooser shows it.
+/// A column of the printed table in the column chooser.
 struct PrintColumn {
-    QString title;           ///< the column's header title
-    QString id;              ///< the record key that it shows
-    int selected = 0;        ///< 1 while the user wants it in the report
-    TableColumn tableColumn; ///< the column itself
+    QString title;      ///< the column's header title
+    QString id;         ///< the key of the record values that it shows
+    int selected = 0;   ///< 1 if the report includes it, else 0
+    Column tableColumn; ///< the column itself
 };
 
 using PrintColumns = std::vector<PrintColumn>;

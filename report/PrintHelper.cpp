@@ -9,8 +9,6 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
-#include <array>
-
 namespace vantrell::PrintHelper
 {
 
@@ -19,7 +17,7 @@ namespace
 
 constexpr int timeoutMs = 60 * 60 * 1000;
 
-/// A file with a name of its own that also an interrupt removes.
+/// A temporary file with a unique name, removed even if the program is interrupted.
 class TemporaryFile
 {
 public:
@@ -55,16 +53,12 @@ Result<void> copy(const QString &from, QIODevice &to)
     QFile source(from);
     if (!source.open(QIODevice::ReadOnly))
         return Failure{source.errorString()};
-    std::array<char, 64 * 1024> block;
-    for (;;) {
-        const qint64 size = source.read(block.data(), qint64(block.size()));
-        if (size < 0)
-            return Failure{source.errorString()};
-        if (size == 0)
-            return {};
-        if (to.write(block.data(), size) != size)
-            return Failure{to.errorString()};
-    }
+    const auto *const content = reinterpret_cast<const char *>(source.map(0, source.size()));
+    if (!content)
+        return Failure{source.errorString()};
+    if (to.write(content, source.size()) != source.size())
+        return Failure{to.errorString()};
+    return {};
 }
 
 QStringList argumentsFor(const Pages &pages)
@@ -84,8 +78,8 @@ QStringList argumentsFor(const Pages &pages)
 QString find()
 {
     const QDir folder(QCoreApplication::applicationDirPath());
-    for (const char *place : {"vantrell-print-pdf", "../libexec/vantrell/vantrell-print-pdf"}) {
-        const QFileInfo program(folder.filePath(QString::fromLatin1(place)));
+    for (const char *path : {"vantrell-print-pdf", "../libexec/vantrell/vantrell-print-pdf"}) {
+        const QFileInfo program(folder.filePath(QString::fromLatin1(path)));
         if (program.isFile() && program.isExecutable())
             return program.canonicalFilePath();
     }

@@ -8,44 +8,43 @@
 #include <functional>
 #include <optional>
 
-/// The program that makes PDF files of reports. It comes with the package "vantrell-print", so that programs
-/// without a window system need no web engine. It is started as
+/// Runs the program that makes PDF files of reports. It is part of the package "vantrell-print", so that
+/// programs without a window need no web engine. Its command line is
 ///
 ///     vantrell-print-pdf --html FILE --images FOLDER -o OUTPUT [--paper NAME] [--landscape] [--margin MM]
 ///                        [--no-numbers]
 ///
-/// FILE is the report, HTML in UTF-8, which the text itself does not say; it may have hundreds of megabytes,
-/// and its name ends in ".html". FOLDER holds the pictures that the report names by "file://" and their
-/// paths. The texts of a report come from a project file and may hold markup: no script in them runs, and
-/// nothing is read but FILE, OUTPUT and what lies in FOLDER, nor anything from the network. OUTPUT is there,
-/// empty, and is replaced or filled; its caller puts it into its place once the program has ended, so it need
-/// not be written atomically. All three are absolute paths.
+/// FILE is the report, HTML in UTF-8 without an encoding declaration; it may have hundreds of megabytes, and
+/// its name ends in ".html". FOLDER holds the pictures, which the report refers to by "file://" URLs. Reports
+/// contain text from project files, which may include markup: no script runs, no file is read except FILE and
+/// those in FOLDER, and nothing is loaded from the network. OUTPUT is an existing empty file that is replaced
+/// or filled; the caller renames it afterwards, so it need not be written atomically. All three are absolute
+/// paths.
 ///
-/// The pages are of the size that the user's country uses, upright, numbered, with margins of 15 mm, unless
-/// the options say otherwise; the text is as wide as a page allows. There is no display. Nothing comes from
-/// standard input and nothing goes to standard output. The exit status is 0 when OUTPUT is whole, else 1 (2
-/// for wrong usage), with a sentence for the user on standard error. The program ends when the one that
-/// started it does.
+/// Unless options say otherwise, pages have the paper size of the user's country, portrait orientation,
+/// numbers and margins of 15 mm; text uses the full width. The program needs no display and uses neither
+/// standard input nor standard output. The exit status is 0 when OUTPUT is complete, else 1, or 2 for wrong
+/// usage, with a message for the user on standard error. The program ends with its parent process.
 namespace vantrell::PrintHelper
 {
 
-/// The program's path: in the folder of the running program, else in ../libexec/vantrell as seen from there;
-/// null when it is in neither.
+/// The path of the program, in the folder of the running program or in ../libexec/vantrell relative to it;
+/// null when it is not installed.
 QString find();
 
-/// What a user is told when it is not there.
+/// The message for the user when it is not installed.
 QString missingMessage();
 
-/// What the pages are to be like.
+/// The page setup.
 struct Pages {
-    QString paper; ///< null for what the country uses
+    QString paper; ///< null for that of the user's country
     bool isLandscape = false;
     double margin = 15; ///< millimetres
     bool withNumbers = true;
 };
 
-/// Has the program make a PDF of the HTML, whole or not at all; waits for it, an hour at the most, or
-/// until `isCancelled`, asked every few milliseconds, holds. Any thread.
+/// Runs the program to make a PDF file, written atomically, of the HTML. Waits up to an hour, or until
+/// `isCancelled`, called every few milliseconds, returns true. Any thread.
 Result<void> writePDF(const QString &program, const FileUtilities::Writer &html, const QString &imageFolder,
                       const QString &output, const std::optional<Pages> &pages = std::nullopt,
                       const std::function<bool()> &isCancelled = {});

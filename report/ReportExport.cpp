@@ -3,6 +3,8 @@
 #include "report/ReportTable.h"
 #include "support/files/FileUtilities.h"
 
+#include <QTextStream>
+
 #include <algorithm>
 
 namespace vantrell::ReportExport
@@ -13,7 +15,7 @@ namespace
 
 constexpr QStringView recordEnd = u"\r\n";
 
-/// The text with the label in brackets behind it.
+/// The text followed by the label in parentheses.
 QString labelled(QString text, const QString &label)
 {
     if (label.isEmpty())
@@ -69,7 +71,7 @@ void appendPageCell(QString &text, const ReportCell &cell)
 
 } // namespace
 
-void writeCSV(const ReportTable &table, const TextSink &sink)
+void writeCSV(const ReportTable &table, QTextStream &out)
 {
     const auto columns = std::size_t(table.columnTitles().size());
     QString line(QChar::ByteOrderMark);
@@ -78,7 +80,7 @@ void writeCSV(const ReportTable &table, const TextSink &sink)
             line.append(u',');
         appendField(line, table.columnTitles().at(qsizetype(i)));
     }
-    sink(line.append(recordEnd));
+    out << line.append(recordEnd);
     table.forEachRow([&](const RowRecord &row) {
         line.resize(0); // keeps its memory
         for (std::size_t i = 0; i < columns; ++i) {
@@ -87,26 +89,26 @@ void writeCSV(const ReportTable &table, const TextSink &sink)
             const ReportCell cell = table.cell(row, i);
             appendField(line, labelled(cell.isMissing ? QString() : cell.text, cell.label));
         }
-        sink(line.append(recordEnd));
+        out << line.append(recordEnd);
     });
 }
 
-void writePage(const ReportTable &table, const TextSink &sink)
+void writePage(const ReportTable &table, QTextStream &out)
 {
     QString text = pageStart(table);
     text.append(u"<table>\n<thead><tr>");
     for (const QString &title : table.columnTitles())
         text.append(u"<th>").append(title.toHtmlEscaped()).append(u"</th>");
-    sink(text.append(u"</tr></thead>\n<tbody>\n"));
+    out << text.append(u"</tr></thead>\n<tbody>\n");
     const auto columns = std::size_t(table.columnTitles().size());
     table.forEachRow([&](const RowRecord &row) {
         text.resize(0); // keeps its memory
         text.append(u"<tr>");
         for (std::size_t i = 0; i < columns; ++i)
             appendPageCell(text, table.cell(row, i));
-        sink(text.append(u"</tr>\n"));
+        out << text.append(u"</tr>\n");
     });
-    sink(u"</tbody></table></body></html>\n");
+    out << QStringView(u"</tbody></table></body></html>\n");
 }
 
 } // namespace vantrell::ReportExport

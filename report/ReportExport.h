@@ -1,24 +1,24 @@
 #pragma once
 
-#include "report/TextSink.h"
+class QTextStream;
 
 namespace vantrell
 {
 
 class ReportTable;
 
-/// The report as a file for other programs. Both hand on the text row by row.
+/// Reports as files for other programs, written row by row.
 namespace ReportExport
 {
 
-/// A table of comma-separated values (RFC 4180) with a byte-order mark and the titles in its first record.
-/// Texts are exact, also those that a spreadsheet takes for formulas; what a record does not have is an empty
-/// field.
-void writeCSV(const ReportTable &table, const TextSink &sink);
+/// A table of comma-separated values (RFC 4180) with a byte-order mark and the column titles in its first
+/// record. Text is not altered, even if a spreadsheet would take it for a formula; missing values are empty
+/// fields.
+void writeCSV(const ReportTable &table, QTextStream &out);
 
-/// A page that needs no other file: the pictures are in it, once each. Texts read as they are: markup in them
-/// is shown, not obeyed, and line ends are kept.
-void writePage(const ReportTable &table, const TextSink &sink);
+/// A self-contained HTML page with each picture embedded once. Markup in text is escaped, and line breaks are
+/// kept.
+void writePage(const ReportTable &table, QTextStream &out);
 
 } // namespace ReportExport
 } // namespace vantrell

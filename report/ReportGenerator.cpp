@@ -8,6 +8,8 @@
 #include "support/files/FileUtilities.h"
 #include "support/settings/UserDefaults.h"
 
+#include <QTextStream>
+
 namespace vantrell
 {
 
@@ -19,8 +21,7 @@ const QString printColorLabelsKey = QStringLiteral("printColorLabels");
 
 constexpr std::size_t firstSelected = 3; // columns, until the user chooses others
 
-/// What the preset calls each colour; an empty label stays empty, and a colour that it does not name keeps
-/// its own name.
+/// The preset's label of each colour, which may be empty; the name of a colour without a label.
 std::array<QString, MarkerColors::count> colorLabels(const MarkerPresets &presets)
 {
     std::array<QString, MarkerColors::count> labels;
@@ -49,11 +50,11 @@ ReportGenerator::ReportGenerator(MyDocument &document, const MarkerPresets &pres
     });
 }
 
-void ReportGenerator::setPrintTable(Tab table, const TableColumns &columns)
+void ReportGenerator::setPrintTable(Tab table, const Columns &columns)
 {
     m_printTableRef = table;
     m_printColumnArray.clear();
-    for (const TableColumn &column : columns) {
+    for (const Column &column : columns) {
         if (column.title.isEmpty())
             continue;
         const int selected = m_printColumnArray.size() < firstSelected ? 1 : 0;
@@ -61,11 +62,11 @@ void ReportGenerator::setPrintTable(Tab table, const TableColumns &columns)
     }
 }
 
-void ReportGenerator::setColumnSelected(std::size_t place, bool selected)
+void ReportGenerator::setColumnSelected(std::size_t index, bool selected)
 {
-    if (place >= m_printColumnArray.size())
+    if (index >= m_printColumnArray.size())
         return;
-    m_printColumnArray[place].selected = selected ? 1 : 0;
+    m_printColumnArray[index].selected = selected ? 1 : 0;
     updateBody();
 }
 
@@ -73,15 +74,18 @@ QString ReportGenerator::generateHTMLForPrinting(bool wholeDocument) const
 {
     const ReportTable content = table();
     QString text;
-    if (!content.isEmpty())
-        ReportHTML::write(content, wholeDocument, [&text](QStringView piece) { text.append(piece); });
+    if (content.isEmpty())
+        return text;
+    QTextStream out(&text);
+    ReportHTML::write(content, wholeDocument, out);
+    out.flush();
     return text;
 }
 
 Result<void> ReportGenerator::writeHTML(QIODevice &device, bool wholeDocument) const
 {
-    return write(device, [wholeDocument](const ReportTable &content, const TextSink &sink) {
-        ReportHTML::write(content, wholeDocument, sink);
+    return write(device, [wholeDocument](const ReportTable &content, QTextStream &out) {
+        ReportHTML::write(content, wholeDocument, out);
     });
 }
 
@@ -114,14 +118,17 @@ ReportTable ReportGenerator::table() const
 
 Result<void>
 ReportGenerator::write(QIODevice &device,
-                       const std::function<void(const ReportTable &, const TextSink &)> &writer) const
+                       const std::function<void(const ReportTable &, QTextStream &)> &writer) const
 {
     const ReportTable content = table();
     if (content.isEmpty())
         return Failure{QStringLiteral("There are no rows to report.")};
-    Utf8Output output(device);
-    writer(content, output.sink());
-    return output.finish();
+    QTextStream out(&device); // in UTF-8
+    writer(content, out);
+    out.flush();
+    if (out.status() != QTextStream::Ok)
+        return Failure{device.errorString()};
+    return {};
 }
 
 void ReportGenerator::updateBody() const

@@ -2,7 +2,7 @@
 
 #include "document/DocumentInterface.h"
 #include "report/PrintColumn.h"
-#include "report/TextSink.h"
+#include "support/files/Result.h"
 
 #include <QObject>
 #include <QString>
@@ -11,6 +11,7 @@
 #include <optional>
 
 class QIODevice;
+class QTextStream;
 
 namespace vantrell
 {
@@ -20,58 +21,57 @@ class MyDocument;
 class ReportTable;
 class UserDefaults;
 
-/// The report of a document: a title and the chosen columns of one table, of its selected rows or of all rows
-/// on show. Main thread.
+/// Generates the report of a document: a title and the chosen columns of one table, for its selected rows or
+/// all visible ones. Main thread.
 ///
-/// To print: setPrintTable(), then generateHTMLForPrinting() or one of the functions that write. While the
-/// report is shown, setBodyConsumer() has it made anew whenever the user changes what it depends on. A report
-/// takes one pass over its rows.
+/// First call setPrintTable(), then generateHTMLForPrinting() or one of the write functions. While a preview
+/// is shown, setBodyConsumer() has the report generated again after each relevant change. A report takes one
+/// pass over its rows.
 class ReportGenerator
 {
 public:
-    /// All of these outlive this object. The presets give the colours their labels. Of the defaults,
-    /// "projectTitle" is the title (absent: the file's name without its extension) and "printColorLabels",
-    /// when it is 1, puts the colour's label behind a marker's name; without defaults (null) both are absent.
-    /// The folder holds the pictures; a file that is not there is left out.
+    /// The arguments outlive this object. The presets provide the labels of colours. The user default
+    /// "projectTitle" is the title (by default the file's name without its extension); "printColorLabels", if
+    /// 1, appends the colour's label to a marker's name. The defaults may be null. The folder holds the
+    /// pictures; missing ones are left out.
     ReportGenerator(MyDocument &document, const MarkerPresets &presets, UserDefaults *defaults,
                     const QString &imageFolder);
     ReportGenerator(const ReportGenerator &) = delete;
     ReportGenerator &operator=(const ReportGenerator &) = delete;
 
-    /// Makes this the printed table, with its columns in the order in which the table has them. Those without
-    /// a title are left out, and the first three others are selected.
-    void setPrintTable(Tab table, const TableColumns &columns);
-    /// The last printed table; nothing before the first.
+    /// Sets the printed table and its columns in their present order. Columns without a title are left out;
+    /// the first three others are selected.
+    void setPrintTable(Tab table, const Columns &columns);
+    /// The table printed last; nothing before the first print.
     std::optional<Tab> printTableRef() const { return m_printTableRef; }
-    /// Its columns, as the column chooser shows them.
+    /// Its columns for the column chooser.
     const PrintColumns &printColumnArray() const { return m_printColumnArray; }
-    /// The user ticked a column in the chooser, or took the tick away; the consumer gets the new body.
-    /// Nothing happens for a place that is not there.
-    void setColumnSelected(std::size_t place, bool selected);
+    /// Includes the column with that index in the report or removes it, and passes the new body to the
+    /// consumer. An invalid index is ignored.
+    void setColumnSelected(std::size_t index, bool selected);
 
     /// The whole report as HTML; null when the printed table has no rows.
     QString generateHTMLForPrinting() const { return generateHTMLForPrinting(true); }
-    /// The same, or, with the flag off, only what the body of the document holds.
+    /// The same, or only the content of its body if the flag is false.
     QString generateHTMLForPrinting(bool wholeDocument) const;
 
-    // The report in UTF-8, written to an open device in one pass. A Failure when there are no rows, and when
-    // the device cannot be written.
+    // These write the report in UTF-8 to an open device, in one pass. They fail without rows and on write
+    // errors.
 
-    /// What generateHTMLForPrinting() gives.
+    /// The result of generateHTMLForPrinting().
     Result<void> writeHTML(QIODevice &device, bool wholeDocument) const;
     /// See ReportExport.
     Result<void> writeCSV(QIODevice &device) const;
     Result<void> writePage(QIODevice &device) const;
 
-    /// From now on gets the body of the report (the flag off) after each change of the selected columns and
-    /// of the two defaults, whoever made it, unless there are no rows; null for none. For
-    /// ReportHTML::bodyScript().
+    /// Sets the function that gets the body of the report after each change of the selected columns or of the
+    /// two user defaults, unless there are no rows; may be null. See ReportHTML::bodyScript().
     void setBodyConsumer(std::function<void(const QString &body)> consumer);
 
 private:
     ReportTable table() const;
     Result<void> write(QIODevice &device,
-                       const std::function<void(const ReportTable &, const TextSink &)> &writer) const;
+                       const std::function<void(const ReportTable &, QTextStream &)> &writer) const;
     void updateBody() const;
 
     MyDocument &m_document;
@@ -81,7 +81,7 @@ private:
     std::optional<Tab> m_printTableRef;
     PrintColumns m_printColumnArray;
     std::function<void(const QString &)> m_bodyConsumer;
-    QObject m_observer; ///< of the defaults; ends that before the members above go
+    QObject m_observer; ///< of the defaults; destroyed, and so disconnected, before the other members
 };
 
 } // namespace vantrell

@@ -2,6 +2,8 @@
 
 #include "report/ReportTable.h"
 
+#include <QTextStream>
+
 namespace vantrell::ReportHTML
 {
 
@@ -32,7 +34,7 @@ void appendCell(QString &text, const ReportTable &table, const ReportCell &cell)
 
 } // namespace
 
-void write(const ReportTable &table, bool wholeDocument, const TextSink &sink)
+void write(const ReportTable &table, bool wholeDocument, QTextStream &out)
 {
     QString text;
     if (wholeDocument)
@@ -44,7 +46,7 @@ void write(const ReportTable &table, bool wholeDocument, const TextSink &sink)
     for (const QString &title : table.columnTitles())
         append(text, u"<th>", title, u"</th>");
     text.append(u"</thead><tbody>");
-    sink(text);
+    out << text;
     const auto columns = std::size_t(table.columnTitles().size());
     table.forEachRow([&](const RowRecord &row) {
         text.resize(0); // keeps its memory
@@ -52,11 +54,11 @@ void write(const ReportTable &table, bool wholeDocument, const TextSink &sink)
         for (std::size_t i = 0; i < columns; ++i)
             appendCell(text, table, table.cell(row, i));
         text.append(u"</tr>");
-        sink(text);
+        out << text;
     });
-    sink(u"</tbody></table>");
+    out << QStringView(u"</tbody></table>");
     if (wholeDocument)
-        sink(u"</body></html>");
+        out << QStringView(u"</body></html>");
 }
 
 QString bodyScript(const QString &body)

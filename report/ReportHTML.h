@@ -1,24 +1,24 @@
 #pragma once
 
-#include "report/TextSink.h"
-
 #include <QString>
+
+class QTextStream;
 
 namespace vantrell
 {
 
 class ReportTable;
 
-/// The report as HTML for printing. Texts go in as they are, so that markup in them is markup; pictures are
-/// named by the paths of their files.
+/// The report as HTML for printing. Text is not escaped, so markup in it takes effect; pictures are referred
+/// to by file path.
 namespace ReportHTML
 {
 
-/// Hands on the text row by row: a whole document, or what its body holds.
-void write(const ReportTable &table, bool wholeDocument, const TextSink &sink);
+/// Writes row by row the whole document, or only the content of its body.
+void write(const ReportTable &table, bool wholeDocument, QTextStream &out);
 
-/// The script that makes the text the body of the page that is shown: apostrophes get a backslash, line ends
-/// and tabs are dropped. Backslashes stay as they are, so that one in the text acts on what follows it.
+/// The script that replaces the body of the page. Apostrophes are escaped by a backslash; line breaks and
+/// tabs are dropped. Backslashes are not escaped, so one in the text affects the character that follows it.
 QString bodyScript(const QString &body);
 
 } // namespace ReportHTML

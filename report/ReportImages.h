@@ -9,25 +9,25 @@
 namespace vantrell
 {
 
-/// The pictures that a report shows beside names: PNG files of the program, one for each marker colour,
-/// then a clip and a sequence. Any thread.
+/// The pictures that a report shows beside names: PNG files of the program for each marker colour, followed
+/// by a clip and a sequence. Any thread.
 class ReportImages
 {
 public:
-    static constexpr std::size_t clip = MarkerColors::count; // the colours have the places before it
+    static constexpr std::size_t clip = MarkerColors::count; // after the colours
     static constexpr std::size_t sequence = clip + 1;
     static constexpr std::size_t count = sequence + 1;
 
-    /// Looks once which of the files are in the folder; none are for an empty path.
+    /// Checks once which of the files exist in the folder; none for an empty path.
     explicit ReportImages(const QString &folder);
 
-    /// The folder with the program's own: share/vantrell/report-images beside the folder of the running
-    /// program, in a build as in an installation.
+    /// The folder of the program's own pictures: ../share/vantrell/report-images relative to the folder of
+    /// the running program, in a build as well as installed.
     static QString standardFolder();
 
     /// The file's name without ".png".
     static QString name(std::size_t image);
-    /// Empty when the folder has no such file.
+    /// Empty without such a file.
     const QString &path(std::size_t image) const { return m_paths[image]; }
 
 private:

@@ -13,28 +13,14 @@ namespace vantrell
 namespace
 {
 
+const QString parent = QStringLiteral("parent"); // the column of a marker's owner, of any kind
 const RecordKey parentType(u"parentType");
-
-/// The frames between the points, with 32-bit numbers that wrap around.
-std::int32_t difference(std::int32_t out, std::int32_t in)
-{
-    return std::int32_t(quint32(out) - quint32(in));
-}
 
 std::size_t colorOf(const RowRecord &marker)
 {
     const std::int64_t color = marker.get(MarkerKey::color);
     const bool isKnown = color > 0 && color < std::int64_t(MarkerColors::count);
     return isKnown ? std::size_t(color) : 0;
-}
-
-QString durationText(const RowRecord &marker)
-{
-    const std::int32_t out = intValue(marker.get(MarkerKey::out));
-    if (out == -1)
-        return QStringLiteral("00:00:00:00");
-    // As an in point would be shown: the sequence's start frame is added to the duration too.
-    return MyDocument::timecodeFromFrameCount(difference(out, intValue(marker.get(MarkerKey::in))), marker);
 }
 
 } // namespace
@@ -50,7 +36,7 @@ ReportTable::ReportTable(MyDocument &document, std::optional<Tab> table, const P
         if (column.selected != 1 || column.title.isEmpty())
             continue;
         m_columnTitles.append(column.title);
-        m_columns.push_back(columnOf(column));
+        m_columns.push_back(column.tableColumn);
     }
     if (!table)
         return;
@@ -92,72 +78,41 @@ void ReportTable::forEachRow(const std::function<void(const RowRecord &)> &use) 
     }
 }
 
-ReportTable::Column ReportTable::columnOf(const PrintColumn &printed) const
-{
-    Column column;
-    if (!printed.id.isEmpty())
-        column.key = RecordKey(printed.id);
-    column.isCheckBox = printed.tableColumn.isCheckBox;
-    if (column.key == MarkerKey::sequence)
-        column.ownerName = MarkerKey::sequenceName;
-    else if (column.key == MarkerKey::clip)
-        column.ownerName = MarkerKey::clipName;
-    if (m_table != Tab::Markers)
-        return column;
-    if (column.key == MarkerKey::name)
-        column.kind = Kind::MarkerName;
-    else if (column.key == MarkerKey::in)
-        column.kind = Kind::MarkerIn;
-    else if (column.key == MarkerKey::out)
-        column.kind = Kind::MarkerOut;
-    else if (printed.id == QStringLiteral("parent"))
-        column.kind = Kind::MarkerParent;
-    return column;
-}
-
 ReportCell ReportTable::valueCell(const RowRecord &row, const Column &column)
 {
-    const RecordValue *value = column.key ? row.find(*column.key) : nullptr;
-    if (value && column.ownerName && std::holds_alternative<XmlNode>(*value))
-        value = row.find(*column.ownerName);
     ReportCell cell;
-    if (column.isCheckBox) {
+    if (column.reportText) {
+        cell.text = column.reportText(row);
+        return cell;
+    }
+    const RecordValue *value = row.find(column.key);
+    if (value && column.nameKey && std::holds_alternative<XmlNode>(*value))
+        value = row.find(*column.nameKey);
+    if (column.kind == Column::Kind::CheckBox) {
         const bool isChecked = value && integerValue(plainText(*value)) == 1;
         cell.text = isChecked ? QStringLiteral("Yes") : QStringLiteral("No");
-    } else if (value) {
-        cell.text = plainText(*value);
     } else {
-        cell.isMissing = true;
-        cell.text = column.ownerName ? QStringLiteral("(null)") : QStringLiteral("Unknown");
+        cell.isMissing = !value;
+        cell.text = value ? plainText(*value) : column.missingText;
     }
     return cell;
 }
 
-ReportCell ReportTable::cell(const RowRecord &row, std::size_t place) const
+ReportCell ReportTable::cell(const RowRecord &row, std::size_t index) const
 {
-    const Column &column = m_columns[place];
-    switch (column.kind) {
-    case Kind::Value:
-        break;
-    case Kind::MarkerName: {
+    const Column &column = m_columns[index];
+    ReportCell cell = valueCell(row, column);
+    if (m_table != Tab::Markers)
+        return cell;
+    if (column.key == MarkerKey::name) {
         const std::size_t color = colorOf(row);
-        ReportCell cell = valueCell(row, column);
         cell.image = imageIfThere(color);
         cell.label = m_options.colorLabels[color];
-        return cell;
-    }
-    case Kind::MarkerIn:
-        return {MyDocument::timecodeFromFrameCount(intValue(row.get(MarkerKey::in)), row), {}, {}};
-    case Kind::MarkerOut:
-        return {durationText(row), {}, {}};
-    case Kind::MarkerParent: {
-        ReportCell cell = valueCell(row, column);
+    } else if (column.identifier == parent) {
         const bool isClip = row.text(parentType) == QStringLiteral("clip");
         cell.image = imageIfThere(isClip ? ReportImages::clip : ReportImages::sequence);
-        return cell;
     }
-    }
-    return valueCell(row, column);
+    return cell;
 }
 
 std::optional<std::size_t> ReportTable::imageIfThere(std::size_t image) const

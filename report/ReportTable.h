@@ -18,29 +18,29 @@ namespace vantrell
 
 class MyDocument;
 
-/// What one cell of a report says, without markup.
+/// The content of one cell of a report, without markup.
 struct ReportCell {
     QString text;
-    QString label;                    ///< of a marker's colour; it follows in brackets unless it is empty
-    std::optional<std::size_t> image; ///< a place among ReportImages, of a file that is there
-    bool isMissing = false;           ///< the record has no value: text is "Unknown" or "(null)"
+    QString label;                    ///< of a marker's colour, appended in parentheses; may be empty
+    std::optional<std::size_t> image; ///< index into ReportImages, of an existing file
+    bool isMissing = false;           ///< without a value; the text is the column's for that
 };
 
-/// What a report shows, however it is written: title, columns and rows of the printed table, for as long as
-/// nobody changes the document. Main thread.
+/// The content of a report in any format: title, columns and rows of the printed table. Valid until the
+/// document changes. Main thread.
 class ReportTable
 {
 public:
     struct Options {
         QString title;
-        /// A marker's label by its colour index; empty for none.
+        /// The labels of marker colours by index; may be empty.
         std::array<QString, MarkerColors::count> colorLabels;
-        /// The folder of the pictures; empty for a report without them.
+        /// The folder of the pictures; empty for none.
         QString imageFolder;
     };
 
-    /// The selected rows of the table, or all rows on show when none is selected; without a table (nothing)
-    /// all rows on show. Of the columns those that are selected and have a title.
+    /// Takes the selected rows of the table, or all visible rows if none is selected or there is no table,
+    /// and those columns that are selected and have a title.
     ReportTable(MyDocument &document, std::optional<Tab> table, const PrintColumns &columns, Options options);
 
     const QString &title() const { return m_options.title; }
@@ -50,23 +50,13 @@ public:
     const ReportImages &images() const { return m_images; }
 
     bool isEmpty() const;
-    /// Calls with each row of the report, in the table's order.
+    /// Calls the function for each row of the report, in table order.
     void forEachRow(const std::function<void(const RowRecord &)> &use) const;
 
-    /// The cell of the row in the column at that place of columnTitles().
+    /// The cell of the row in the column with that index in columnTitles().
     ReportCell cell(const RowRecord &row, std::size_t column) const;
 
 private:
-    enum class Kind { Value, MarkerName, MarkerIn, MarkerOut, MarkerParent };
-
-    struct Column {
-        std::optional<RecordKey> key;
-        std::optional<RecordKey> ownerName; ///< stands for a value that is an element
-        bool isCheckBox = false;
-        Kind kind = Kind::Value;
-    };
-
-    Column columnOf(const PrintColumn &printed) const;
     static ReportCell valueCell(const RowRecord &row, const Column &column);
     std::optional<std::size_t> imageIfThere(std::size_t image) const;
 
@@ -74,10 +64,10 @@ private:
     Options m_options;
     ReportImages m_images;
     QStringList m_columnTitles;
-    std::vector<Column> m_columns;
+    Columns m_columns;
     const RowList &m_rows;
     bool m_hasSelection = false;
-    std::vector<std::size_t> m_selection; ///< places in m_rows, ascending
+    std::vector<std::size_t> m_selection; ///< indices into m_rows, ascending
 };
 
 } // namespace vantrell

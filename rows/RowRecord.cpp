@@ -35,7 +35,7 @@ public:
         return slot;
     }
 
-    /// The layout with one key more at its end.
+    /// The layout with one more key at its end.
     const Layout *with(std::uint32_t number) const
     {
         const std::lock_guard lock(m_mutex);
@@ -49,7 +49,7 @@ public:
 
 private:
     const std::vector<std::uint32_t> m_numbers;
-    mutable std::mutex m_mutex;                       // guards the one below
+    mutable std::mutex m_mutex;                       // guards m_larger
     mutable std::map<std::uint32_t, Layout> m_larger; ///< by the number of the key that comes last
 };
 

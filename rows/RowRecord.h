@@ -38,7 +38,7 @@ public:
     /// The value; null when the key is absent.
     const RecordValue *find(const RecordKey &key) const;
 
-    /// Replaces the key's value where it stands, or adds the key at the end.
+    /// Replaces the key's value, whose index stays the same, or adds the key at the end.
     void set(const RecordKey &key, RecordValue value);
     template <typename Value>
     void set(const TypedKey<Value> &key, typename TypedKey<Value>::ValueType value)

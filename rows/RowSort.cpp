@@ -12,14 +12,14 @@ namespace vantrell
 namespace
 {
 
-/// A row's place in the order, as numbers: first by kind, then by value, both ascending.
-struct Place {
+/// What orders a row, as numbers: first by kind, then by value, both ascending.
+struct Rank {
     enum class Kind : quint32 { Absent, Integer, Number, Text } kind = Kind::Absent;
     quint32 row = 0; // before sorting
     quint64 value = 0;
 };
 
-bool comesBefore(const Place &a, const Place &b)
+bool comesBefore(const Rank &a, const Rank &b)
 {
     return a.kind != b.kind ? a.kind < b.kind : a.value < b.value;
 }
@@ -31,15 +31,15 @@ quint64 orderOf(std::int64_t integer)
     return quint64(integer) ^ signBit;
 }
 
-/// The bits of a number stand in its order, those of negative ones the other way round.
+/// Bits that compare as the numbers do: those of a negative number are inverted.
 quint64 orderOf(double number)
 {
     const auto bits = std::bit_cast<quint64>(number + 0.0); // one zero only
     return bits & signBit ? ~bits : bits | signBit;
 }
 
-/// The different texts of a column in their order. Many rows have the same text, and a number is sooner
-/// compared than a text.
+/// The different texts of a column in their order. Many rows have the same text, and numbers are compared
+/// faster than texts.
 class TextRanks
 {
 public:
@@ -87,8 +87,8 @@ private:
         return comparison != 0 ? comparison < 0 : m_texts[a].text < m_texts[b].text;
     }
 
-    /// The first eight code units, the first one counting most, or those up to the first that takes more
-    /// than a byte: of two different beginnings the smaller one belongs to the text that comes first.
+    /// The first eight code units as bytes, the first one highest, up to the first above 0xfe, which counts
+    /// as 0xff: of two different beginnings, the smaller is that of the text that comes first.
     static quint64 beginningOf(const QString &text)
     {
         constexpr int units = 8;
@@ -108,72 +108,63 @@ private:
     std::vector<Text> m_texts;
 };
 
-Place placeOf(const std::optional<RecordValue> &value, TextRanks &texts)
+Rank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
 {
-    Place place;
+    Rank rank;
     if (!value)
-        return place;
+        return rank;
     if (const auto *text = std::get_if<QString>(&*value)) {
-        place.kind = Place::Kind::Text;
-        place.value = texts.add(*text);
+        rank.kind = Rank::Kind::Text;
+        rank.value = texts.add(*text);
     } else if (const auto *number = std::get_if<double>(&*value)) {
-        place.kind = Place::Kind::Number;
-        place.value = orderOf(*number);
+        rank.kind = Rank::Kind::Number;
+        rank.value = orderOf(*number);
     } else if (const auto *integer = std::get_if<std::int64_t>(&*value)) {
-        place.kind = Place::Kind::Integer;
-        place.value = orderOf(*integer);
+        rank.kind = Rank::Kind::Integer;
+        rank.value = orderOf(*integer);
     } else if (const auto *flag = std::get_if<bool>(&*value)) {
-        place.kind = Place::Kind::Integer;
-        place.value = orderOf(std::int64_t(*flag));
+        rank.kind = Rank::Kind::Integer;
+        rank.value = orderOf(std::int64_t(*flag));
     } else if (const auto *date = std::get_if<QDateTime>(&*value)) {
-        place.kind = Place::Kind::Integer;
-        place.value = orderOf(std::int64_t(date->toMSecsSinceEpoch()));
+        rank.kind = Rank::Kind::Integer;
+        rank.value = orderOf(std::int64_t(date->toMSecsSinceEpoch()));
     }
-    return place;
+    return rank;
 }
 
-std::vector<Place> placesOf(const RowList &rows, const SortValue &valueOf)
+std::vector<Rank> ranksOf(const RowList &rows, const Column &column)
 {
-    std::vector<Place> places;
-    places.reserve(rows.size());
+    std::vector<Rank> ranks;
+    ranks.reserve(rows.size());
     TextRanks texts;
     for (const RowRecordPtr &row : rows) {
-        places.push_back(placeOf(valueOf(*row), texts));
-        places.back().row = quint32(places.size() - 1);
+        ranks.push_back(rankOf(column.sortValueOf(*row), texts));
+        ranks.back().row = quint32(ranks.size() - 1);
     }
-    const std::vector<quint64> ranks = texts.ranks();
-    for (Place &place : places) {
-        if (place.kind == Place::Kind::Text)
-            place.value = ranks[place.value];
+    const std::vector<quint64> textRanks = texts.ranks();
+    for (Rank &rank : ranks) {
+        if (rank.kind == Rank::Kind::Text)
+            rank.value = textRanks[rank.value];
     }
-    return places;
+    return ranks;
 }
 
 } // namespace
 
-SortValue recordValueOfColumn(const QString &column)
-{
-    const RecordKey key(column);
-    return [key](const RowRecord &row) -> std::optional<RecordValue> {
-        const RecordValue *value = row.find(key);
-        return value ? std::optional<RecordValue>(*value) : std::nullopt;
-    };
-}
-
-RowList sortedRows(RowList rows, const std::vector<SortDescriptor> &descriptors,
-                   const SortValueOfColumn &valueOfColumn)
+RowList sortedRows(RowList rows, const std::vector<SortDescriptor> &descriptors, const Columns &columns)
 {
     // The least important column first: each stable pass keeps the order of those before it.
     for (auto descriptor = descriptors.rbegin(); descriptor != descriptors.rend(); ++descriptor) {
-        std::vector<Place> places = placesOf(rows, valueOfColumn(descriptor->column));
+        const Column *known = findColumn(columns, descriptor->column);
+        std::vector<Rank> ranks = ranksOf(rows, known ? *known : Column{descriptor->column});
         const bool descending = descriptor->descending;
-        std::stable_sort(places.begin(), places.end(), [descending](const Place &a, const Place &b) {
+        std::stable_sort(ranks.begin(), ranks.end(), [descending](const Rank &a, const Rank &b) {
             return descending ? comesBefore(b, a) : comesBefore(a, b);
         });
         RowList sorted;
         sorted.reserve(rows.size());
-        for (const Place &place : places)
-            sorted.push_back(std::move(rows[place.row]));
+        for (const Rank &rank : ranks)
+            sorted.push_back(std::move(rows[rank.row]));
         rows = std::move(sorted);
     }
     return rows;

@@ -20,6 +20,7 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     if (defaults && defaults->boolean(MarkerInventory::ownOwnersDefault))
         m_markerInventory.setOwnerListing(OwnerListing::Own);
     m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
+    m_isMade = true;
 }
 
 Workbench::~Workbench()
@@ -72,7 +73,7 @@ MyDocument::Services Workbench::services(Inventories inventories)
     if (inventories != Inventories::None)
         builders.push_back([this](MyDocument &) { m_markerInventory.populateMarkerData(); });
     services.projectXMLData = [this](const QString &path) {
-        return QVAppleEvents::getProjectXMLData(path, true, m_fetchCancel);
+        return QVAppleEvents::getProjectXMLData(path, true, false, m_fetchCancel);
     };
     services.sendToFCP = [this](MyDocument &, std::function<void()> ended) {
         return m_projectSender.start([ended = std::move(ended)](ProjectSender::Outcome) {
@@ -81,6 +82,8 @@ MyDocument::Services Workbench::services(Inventories inventories)
         });
     };
     services.closing = [this] {
+        if (!m_isMade)
+            return;
         m_fetchCancel.cancel();
         m_projectSender.close();
     };

@@ -43,22 +43,39 @@ struct WideEncoding {
 constexpr WideEncoding wideEncodings[] = {
     {"UTF-32LE", 4, 0}, {"UTF-32BE", 4, 3}, {"UTF-16LE", 2, 0}, {"UTF-16BE", 2, 1}};
 
+/// How many of the first characters, up to \a looked, are ASCII in that encoding.
+std::size_t asciiIn(const WideEncoding &encoding, std::string_view bytes, std::size_t looked)
+{
+    std::size_t matching = 0;
+    for (std::size_t i = 0; i < looked && bytes.size() >= encoding.unit; ++i) {
+        bool isAscii = true;
+        for (std::size_t j = 0; j < encoding.unit; ++j)
+            isAscii = isAscii && (bytes[j] != 0) == (j == encoding.character);
+        matching += isAscii;
+        bytes.remove_prefix(encoding.unit);
+    }
+    return matching;
+}
+
 /// Whether the first three characters or most of the first ones are ASCII in that encoding. Single zero bytes
 /// in another one are no sign of it.
 bool startsIn(const WideEncoding &encoding, std::string_view bytes)
 {
-    constexpr std::size_t looked = 32; // characters
-    std::size_t matching = 0;
-    const std::size_t count = std::min(looked, bytes.size() / encoding.unit);
-    for (std::size_t i = 0; i < count; ++i) {
-        bool isAscii = true;
-        for (std::size_t j = 0; j < encoding.unit; ++j)
-            isAscii = isAscii && (bytes[i * encoding.unit + j] != 0) == (j == encoding.character);
-        matching += isAscii;
-        if (matching == 3 && i == 2)
-            return true;
+    const std::size_t looked = std::min<std::size_t>(32, bytes.size() / encoding.unit);
+    return asciiIn(encoding, bytes, 3) == 3 || asciiIn(encoding, bytes, looked) * 2 > looked;
+}
+
+/// The bytes to skip where a character of four bytes is invalid: fewer than four where bytes are missing and
+/// the characters behind them show where they start.
+std::size_t skippedInUtf32(std::string_view bytes)
+{
+    for (std::size_t skipped = 1; skipped < std::min<std::size_t>(4, bytes.size()); ++skipped) {
+        for (const WideEncoding &encoding : wideEncodings) {
+            if (encoding.unit == 4 && asciiIn(encoding, bytes.substr(skipped), 3) == 3)
+                return skipped;
+        }
     }
-    return matching * 2 > count;
+    return 4;
 }
 
 /// What the first bytes tell; none when they tell nothing.
@@ -258,7 +275,8 @@ public:
                 continue;
             if (error == EINVAL && !atEnd)
                 return true; // the rest of the character is to come
-            offset += std::min(m_unit, inLeft);
+            const std::size_t skipped = m_unit == 4 ? skippedInUtf32({in, inLeft}) : m_unit;
+            offset += std::min(skipped, inLeft);
             return false;
         }
         return true;

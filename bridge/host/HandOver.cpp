@@ -5,14 +5,18 @@
 #include "bridge/host/HostCodes.h"
 #include "bridge/host/HostConnection.h"
 
+#include <QDeadlineTimer>
+
 #include <chrono>
-#include <poll.h>
 
 namespace vantrell::HandOver
 {
 
 namespace
 {
+
+constexpr std::chrono::seconds patience(10); // with a host that is just starting
+constexpr std::chrono::milliseconds retryInterval(20);
 
 Result<EventRecord> openEvent(const QStringList &files)
 {
@@ -52,10 +56,10 @@ Result<void> send(HostConnection &connection, const EventRecord &event)
 
 } // namespace
 
-Result<Outcome> run(HostSocket &socket, const QStringList &files, int stop)
+Result<Outcome> run(HostSocket &socket, const QStringList &files, const EventCancel &stop)
 {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (std::chrono::steady_clock::now() < end) {
+    const QDeadlineTimer deadline(patience);
+    while (!deadline.hasExpired()) {
         const Result<HostSocket::Claim> claim = socket.claim();
         if (!claim)
             return claim.failure();
@@ -69,10 +73,11 @@ Result<Outcome> run(HostSocket &socket, const QStringList &files, int stop)
                 return event.failure();
             HostConnection connection(std::move(other), stop);
             const Result<void> sent = send(connection, event.value());
-            return sent ? Result<Outcome>(Outcome::Done) : Result<Outcome>(sent.failure());
+            if (!sent)
+                return sent.failure();
+            return Outcome::Done;
         }
-        pollfd waiting = {stop, POLLIN, 0};
-        if (::poll(&waiting, 1, 20) > 0)
+        if (stop.waitFor(retryInterval))
             break;
     }
     return Failure{QStringLiteral("Another host has claimed \"%1\" and does not answer.").arg(socket.path())};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bridge/EventCancel.h"
 #include "bridge/host/HostSocket.h"
 #include "support/files/Result.h"
 
@@ -10,12 +11,11 @@ namespace vantrell::HandOver
 
 enum class Outcome {
     Done,  ///< the other host has opened the files
-    Nobody ///< no other host is there; the socket is claimed
+    Nobody ///< there is no other host; the socket is claimed
 };
 
-/// Claims the socket, or has the host that listens there open the files; one that is just starting is
-/// waited for, ten seconds at most. Fails too when the files could not be opened there, or once the file
-/// descriptor \a stop can be read from. Main thread.
-Result<Outcome> run(HostSocket &socket, const QStringList &files, int stop);
+/// Claims the socket, or has the host that listens there open the files. Waits up to ten seconds for a host
+/// that is just starting. Fails when the files cannot be opened there, and on \a stop. Main thread.
+Result<Outcome> run(HostSocket &socket, const QStringList &files, const EventCancel &stop);
 
 } // namespace vantrell::HandOver

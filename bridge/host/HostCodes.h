@@ -2,7 +2,7 @@
 
 #include "bridge/EventRecord.h"
 
-/// The codes of what every application understands.
+/// The codes of the events that every application handles.
 namespace vantrell::HostCode
 {
 

@@ -52,7 +52,7 @@ EventRecord outcomeReply(const Result<void> &outcome, std::int32_t errorNumber)
     return outcome ? EventRecord::reply() : refusal(errorNumber, outcome.message());
 }
 
-/// The text of the item's identifier; null when there is none.
+/// The identifier of the item; null without one.
 QString identifierIn(const EventRecord &event)
 {
     const EventDescriptor *value = event.parameter(EventCode::ItemIdentifier);
@@ -60,8 +60,8 @@ QString identifierIn(const EventRecord &event)
     return identifier ? QString::fromUtf8(*identifier) : QString();
 }
 
-/// The absolute path that `fcpU` names as a path or as a file URL, its percent escapes undone; the project's
-/// own when the event has none, null when what it has is no such path.
+/// The absolute path in `fcpU`, a path or file URL with percent escapes; the project's own path without that
+/// parameter, null when it is invalid.
 QString targetOf(const EventRecord &event, const HostProject &project)
 {
     const EventDescriptor *value = event.parameter(EventCode::ProjectUrl);
@@ -250,7 +250,7 @@ std::shared_ptr<HostProject> HostEvents::projectOf(const EventRecord &event) con
 {
     const EventDescriptor *value = event.parameter(EventCode::Project);
     const auto reference = value ? value->toFileReference() : std::nullopt;
-    // The import of another sender may have replaced the file since; the project is the same.
+    // Another import may have replaced the file since the reference was made; it is still the same project.
     const auto path = reference ? pathInFileReference(*reference) : std::nullopt;
     return path ? m_projects.openAt(*path) : nullptr;
 }

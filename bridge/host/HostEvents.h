@@ -10,29 +10,29 @@
 namespace vantrell
 {
 
-/// Numbers of the errors that the host replies with, beside those of EventError.
+/// Error numbers of the host, in addition to those of EventError.
 namespace HostError
 {
 inline constexpr std::int32_t fileNotSaved = -36;
 inline constexpr std::int32_t fileExists = -48;
 inline constexpr std::int32_t missingParameter = -1701;
-inline constexpr std::int32_t noSuchObject = -1728; ///< no such project, or not open; no such item in it
+inline constexpr std::int32_t noSuchObject = -1728; ///< no such open project, or no such item in it
 inline constexpr std::int32_t failed = -10000;
 } // namespace HostError
 
-/// Does what an event asks for and makes its reply. What goes wrong is told on standard error, and is the
-/// number `errn` and the text `errs` of the reply. Any thread.
+/// Handles events and creates their replies. Errors are reported on standard error, and as the number `errn`
+/// and the text `errs` of the reply. Any thread.
 class HostEvents
 {
 public:
-    /// The projects outlive this object. Imports may be of a version up to \a maximumXmemlVersion.
+    /// The projects outlive this object. Imports of versions beyond \a maximumXmemlVersion are refused.
     HostEvents(HostProjects &projects, std::int64_t maximumXmemlVersion)
         : m_projects(projects)
         , m_maximumVersion(maximumXmemlVersion)
     {
     }
 
-    /// From now on the event with that identifier is answered with an error; empty for none.
+    /// From now on every event with that identifier fails; empty for none.
     void setFailingEvent(const QString &identifier) { m_failingEvent = identifier; }
 
     EventRecord replyTo(const EventRecord &event);
@@ -55,7 +55,7 @@ private:
 
     HostProjects &m_projects;
     const std::int64_t m_maximumVersion;
-    QString m_failingEvent; // set before there are threads
+    QString m_failingEvent; // set before any thread is started
 };
 
 } // namespace vantrell

@@ -89,7 +89,7 @@ void HostLog::append(const EventRecord &event) const
 {
     if (!m_file.isOpen())
         return;
-    // One call a line, so that those of several threads do not mix.
+    // One call per line, so that lines of different threads do not mix.
     const QByteArray line = json(event) + '\n';
     if (::write(m_file.number(), line.constData(), std::size_t(line.size())) != line.size())
         hostMessage(QStringLiteral("an event could not be logged: %1.").arg(qt_error_string(errno)));

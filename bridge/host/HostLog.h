@@ -10,20 +10,20 @@
 namespace vantrell
 {
 
-/// A file to which events are appended as they come, one line of JSON each. Any thread.
+/// A log file of events, one line of JSON each. Any thread.
 class HostLog
 {
 public:
-    /// A log that keeps nothing.
+    /// A log that discards everything.
     HostLog() = default;
-    /// Makes the file where there is none, for its owner only.
+    /// Creates the file if necessary, readable by its owner only.
     static Result<HostLog> open(const QString &path);
 
-    /// What is not written is told on standard error.
+    /// A failure is reported on standard error.
     void append(const EventRecord &event) const;
 
-    /// The event as one JSON object, without a line end. A file reference shows the path that it leads to,
-    /// if any, and its length; texts are whole.
+    /// The event as one JSON object without a line end. A file reference is shown as its length and, if it is
+    /// valid, its path.
     static QByteArray json(const EventRecord &event);
 
 private:

@@ -5,7 +5,7 @@
 namespace vantrell
 {
 
-/// Writes "fcp-host: …" and a line end to standard error, in one step. Any thread.
+/// Writes a line that begins with "fcp-host: " to standard error with one call. Any thread.
 void hostMessage(const QString &message);
 
 } // namespace vantrell

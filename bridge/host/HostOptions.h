@@ -9,24 +9,24 @@
 namespace vantrell
 {
 
-/// What fcp-host was told on its command line.
+/// The command line options of fcp-host.
 struct HostOptions {
-    QString version = QStringLiteral("7.0.3"); ///< of the application that is played
+    QString version = QStringLiteral("7.0.3"); ///< of the simulated application
     QString socketFolder;                      ///< empty: that of Workspace::eventSocketPath()
     QStringList files;                         ///< projects that are open from the start
-    QStringList closedFiles;                   ///< projects that are known and closed
-    bool handsOver = false;                    ///< gives the files to a host that runs already
+    QStringList closedFiles;                   ///< known projects that are closed
+    bool handsOver = false;                    ///< passes the files to a running host
     QString logPath;                           ///< empty: none
     std::chrono::milliseconds delay{0};        ///< before each answer
-    QString failingEvent;                      ///< identifier of the event that is refused; empty: none
+    QString failingEvent;                      ///< identifier of the event that fails; empty: none
     bool truncates = false;                    ///< replies are cut short
-    QString bundleFolder;                      ///< where to write a bundle instead of running; empty: run
+    QString bundleFolder;                      ///< where to write a bundle instead of running; empty: none
 
-    /// Reads the command line. Nothing, and the exit status in \a status, when the program is to end: after
-    /// the help or a message on standard error.
+    /// Parses the command line. Nothing when the program is to exit with \a status, after the help or an
+    /// error message has been printed.
     static std::optional<HostOptions> read(int argc, char **argv, int &status);
 
-    /// The options that a bundle's executable starts the host with, as arguments.
+    /// The arguments with which a bundle's executable starts the host.
     QStringList bundleArguments() const;
 };
 

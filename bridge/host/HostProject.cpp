@@ -18,10 +18,10 @@ namespace vantrell
 namespace
 {
 
-/// Writing more takes so long that an import is answered before.
-constexpr qsizetype mostWrittenBefore = 50'000'000; // bytes
+/// Larger projects are saved in the background.
+constexpr qsizetype largestSavedAtOnce = 50'000'000; // bytes
 
-Result<void> saveAndTell(ProjectText text, const QString &path)
+Result<void> saveAndReport(ProjectText text, const QString &path)
 {
     Result<void> saved = text.save(path);
     hostMessage(saved ? QStringLiteral("saved \"%1\"").arg(path) : saved.message());
@@ -39,7 +39,7 @@ HostProject::~HostProject()
 {
     finishSaving();
     if (m_isOpen && !m_isSaved) [[maybe_unused]]
-        const Result<void> saved = saveAndTell(m_text, m_path);
+        const Result<void> saved = saveAndReport(m_text, m_path);
 }
 
 Result<void> HostProject::open()
@@ -74,7 +74,7 @@ Result<void> HostProject::close(const QString &savesTo)
     if (!m_isOpen)
         return {};
     finishSaving();
-    // The file holds what the project does: nothing but an import changes one, and it saves.
+    // A saved file is up to date: only imports change a project, and they save it.
     if (!savesTo.isEmpty() && (savesTo != m_path || !m_isSaved || !QFileInfo::exists(m_path))) {
         if (const Result<void> saved = m_text.save(savesTo); !saved)
             return saved;
@@ -137,7 +137,7 @@ Result<void> HostProject::add(const ImportedXml &imported)
     m_isSaved = false;
     hostMessage(QStringLiteral("imported into \"%1\"").arg(m_path));
     startSaving();
-    if (m_text.size() > mostWrittenBefore)
+    if (m_text.size() > largestSavedAtOnce)
         return {};
     finishSaving();
     if (m_isSaved)
@@ -197,11 +197,11 @@ Result<XmlNode> HostProject::item(const QString &identifier)
 
 void HostProject::startSaving()
 {
-    const auto save = [text = m_text, path = m_path] { return saveAndTell(text, path); };
+    const auto save = [text = m_text, path = m_path] { return saveAndReport(text, path); };
     try {
         m_saving = std::async(std::launch::async, save);
     } catch (const std::system_error &) {
-        std::promise<Result<void>> saved; // no thread to be had
+        std::promise<Result<void>> saved; // no thread available
         saved.set_value(save());
         m_saving = saved.get_future();
     }

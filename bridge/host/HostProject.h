@@ -17,9 +17,8 @@
 namespace vantrell
 {
 
-/// A project that the host knows: an xmeml file and, while the project is open, its text, which is kept as
-/// it is, comments and all. Any thread; operations on one project wait for one another. Each fails while
-/// the project is not open.
+/// A project of the host: an xmeml file and, while the project is open, its text, unchanged down to the
+/// comments. Any thread; operations on one project are serialised, and fail while it is not open.
 class HostProject
 {
 public:
@@ -27,36 +26,36 @@ public:
     explicit HostProject(const QString &path);
     HostProject(const HostProject &) = delete;
     HostProject &operator=(const HostProject &) = delete;
-    /// Waits for a save that goes on; one that failed is tried once more.
+    /// Waits for a running save; a failed one is repeated.
     ~HostProject();
 
     const QString &path() const { return m_path; }
-    /// Never waits: false while the file is still being read.
+    /// Never blocks: false while the file is still being read.
     bool isOpen() const { return m_isOpen; }
 
-    /// Reads the file, unless the project is open. Only a well-formed xmeml is opened.
+    /// Reads the file unless the project is open. Fails unless it is well-formed xmeml.
     Result<void> open();
-    /// Opens an empty project that bears the file's name. The file is left as it is.
+    /// Opens an empty project named after the file, which is not touched.
     Result<void> openEmpty(std::int64_t xmemlVersion);
-    /// Closes it; nothing happens to one that is closed. With \a savesTo a path, it is saved there first
-    /// unless that is its own file and is there; a project that cannot be saved stays open.
+    /// Closes the project if it is open. If \a savesTo is not empty, the project is first saved there, unless
+    /// that is its own existing file; it stays open if that fails.
     Result<void> close(const QString &savesTo = QString());
 
     /// The whole project in UTF-8.
     Result<QByteArray> xml();
-    /// The item with that UUID or id as an xmeml of its own, in UTF-8.
+    /// The item with that UUID or id as an xmeml document in UTF-8.
     Result<QByteArray> itemXml(const QString &identifier);
-    /// The bins and sequences as an xmeml, in UTF-8.
+    /// The bins and sequences as an xmeml document in UTF-8.
     Result<QByteArray> tableOfContents();
     /// The name of the item with that UUID or id.
     Result<QString> itemName(const QString &identifier);
 
-    /// Puts the items at the end of the project and saves its file; standard error tells both. Returns when
-    /// that is done, and for a project of more than 50 MB before. A save that fails before the return undoes
-    /// the import and is a failure; one that fails later is tried again with the next import, save or close
-    /// and by the destructor.
+    /// Appends the items to the project and saves its file, reporting both on standard error. A project of
+    /// more than 50 MB is saved in the background. If saving fails before the function returns, the import is
+    /// undone and the result is a failure; a background save that fails is repeated by the next import, save
+    /// or close and by the destructor.
     Result<void> add(const ImportedXml &imported);
-    /// Writes the project to that file, whole or not at all.
+    /// Writes the project to that file atomically.
     Result<void> save(const QString &path);
 
 private:

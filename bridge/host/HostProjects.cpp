@@ -54,7 +54,7 @@ Result<std::shared_ptr<HostProject>> HostProjects::makeNew(std::int64_t xmemlVer
     QFile file(folder + QStringLiteral("/Vantrell.xml"));
     for (int number = 2; find(file.fileName()) || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
          ++number) {
-        // What is there, or is an open project whose file is gone, keeps its name.
+        // Skip names of existing files and of open projects whose file is gone.
         if (!find(file.fileName()) && !QFileInfo::exists(file.fileName())) {
             return Failure{QStringLiteral("The file \"%1\" could not be made: %2.")
                                .arg(file.fileName(), file.errorString())};

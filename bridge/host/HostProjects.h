@@ -12,25 +12,25 @@
 namespace vantrell
 {
 
-/// The projects that the host knows, open or closed, in the order in which it came to know them. Any
-/// thread; nothing but open() waits for an operation on a project.
+/// The projects of the host, open or closed, in the order in which they were added. Any thread; only open()
+/// waits for an operation on a project.
 class HostProjects
 {
 public:
-    /// New projects go beside the first one known; without one they go to \a folder.
+    /// New projects are created beside the first known one, or in \a folder without one.
     explicit HostProjects(const QString &folder);
 
-    /// Gets to know a project, which stays closed when it was not open.
+    /// Adds a project, closed, unless it is known.
     void add(const QString &path) { at(path); }
-    /// Opens the project of that file, known or not. Returns when it is open.
+    /// Opens the project of that file, adding it if necessary. Blocks until it is open.
     Result<void> open(const QString &path);
-    /// The open project of that file; null when there is none.
+    /// The open project of that file; null without one.
     std::shared_ptr<HostProject> openAt(const QString &path) const;
     std::vector<std::shared_ptr<HostProject>> allOpen() const;
 
-    /// A new empty open project "Vantrell.xml", "Vantrell 2.xml" and so on. Its file is made, still empty.
+    /// Creates an empty open project "Vantrell.xml", "Vantrell 2.xml" and so on, and its file, still empty.
     Result<std::shared_ptr<HostProject>> makeNew(std::int64_t xmemlVersion);
-    /// Forgets a new project that came to nothing, and removes its file.
+    /// Removes a new project whose import failed, and its file.
     void discard(const std::shared_ptr<HostProject> &project);
 
 private:

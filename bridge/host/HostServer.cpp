@@ -14,47 +14,32 @@ namespace
 {
 
 constexpr std::size_t mostClients = 64;
-
-/// Waits so long (for ever when negative) or until the descriptor can be read from; whether it can.
-bool waitFor(int descriptor, std::chrono::milliseconds time)
-{
-    pollfd waiting = {descriptor, POLLIN, 0};
-    int ready = 0;
-    do
-        ready = ::poll(&waiting, 1, int(time.count()));
-    while (ready < 0 && errno == EINTR);
-    return ready > 0;
-}
+constexpr std::chrono::milliseconds retryInterval(100); // without free descriptors
 
 } // namespace
 
-void HostServer::serve(int listener, int stop)
+void HostServer::serve(int listener)
 {
-    for (;;) {
-        pollfd waiting[] = {{listener, POLLIN, 0}, {stop, POLLIN, 0}};
-        if (::poll(waiting, std::size(waiting), -1) < 0 && errno != EINTR)
-            break;
-        if (waiting[1].revents != 0)
-            break;
-        if (waiting[0].revents != 0)
-            accept(listener, stop);
+    while (!m_stop.isCancelled()) {
+        if (m_stop.poll(listener, POLLIN, EventCancel::forever) != 0)
+            accept(listener);
     }
     for (Client &client : m_clients)
         client.thread.join();
     m_clients.clear();
 }
 
-void HostServer::accept(int listener, int stop)
+void HostServer::accept(int listener)
 {
     Descriptor socket(::accept4(listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
-    joinThoseDone();
+    joinFinished();
     if (!socket.isOpen()) {
-        // Without descriptors to spare, those of others have to be closed first.
+        // Out of descriptors or memory: other connections have to end first.
         if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM)
-            waitFor(stop, std::chrono::milliseconds(100));
+            m_stop.waitFor(retryInterval);
         return;
     }
-    HostConnection connection(std::move(socket), stop);
+    HostConnection connection(std::move(socket), m_stop);
     if (!connection.isOfThisUser()) {
         hostMessage(QStringLiteral("refused a connection of another user"));
         return;
@@ -65,10 +50,10 @@ void HostServer::accept(int listener, int stop)
     }
     Client &client = m_clients.emplace_back();
     try {
-        client.thread = std::thread([this, &client, stop, moved = std::move(connection)]() mutable {
+        client.thread = std::thread([this, &client, moved = std::move(connection)]() mutable {
             {
                 HostConnection own = std::move(moved);
-                answer(own, stop);
+                answer(own);
             }
             client.isDone = true;
         });
@@ -78,7 +63,7 @@ void HostServer::accept(int listener, int stop)
     }
 }
 
-void HostServer::answer(HostConnection &connection, int stop)
+void HostServer::answer(HostConnection &connection)
 {
     try {
         for (;;) {
@@ -90,7 +75,7 @@ void HostServer::answer(HostConnection &connection, int stop)
             if (!event.value())
                 return;
             m_log.append(*event.value());
-            if (m_manner.delay.count() > 0 && waitFor(stop, m_manner.delay))
+            if (m_manner.delay.count() > 0 && m_stop.waitFor(m_manner.delay))
                 return;
             const auto extent =
                 m_manner.truncates ? HostConnection::Extent::Half : HostConnection::Extent::Whole;
@@ -105,7 +90,7 @@ void HostServer::answer(HostConnection &connection, int stop)
     }
 }
 
-void HostServer::joinThoseDone()
+void HostServer::joinFinished()
 {
     std::erase_if(m_clients, [](Client &client) {
         if (!client.isDone)

@@ -12,27 +12,27 @@
 namespace vantrell
 {
 
-/// Answers events on a listening socket, each connection on a thread of its own, so that none waits for
-/// another. Main thread.
+/// Answers events on a listening socket, each connection on a thread of its own, so that none blocks another.
+/// Main thread.
 class HostServer
 {
 public:
     struct Manner {
         std::chrono::milliseconds delay{0}; ///< before each answer
-        bool truncates = false;             ///< each reply ends in the middle, and so does its connection
+        bool truncates = false;             ///< each connection is closed in the middle of its first reply
     };
 
-    /// Both outlive this object.
-    HostServer(HostEvents &events, const HostLog &log, Manner manner)
+    /// Events and log outlive this object.
+    HostServer(HostEvents &events, const HostLog &log, Manner manner, const EventCancel &stop)
         : m_events(events)
         , m_log(log)
         , m_manner(manner)
+        , m_stop(stop)
     {
     }
 
-    /// Serves the connections that come in until \a stop can be read from; what is being answered then is
-    /// given up, a save excepted.
-    void serve(int listener, int stop);
+    /// Serves incoming connections until it is stopped; pending answers are dropped then, except for saves.
+    void serve(int listener);
 
 private:
     struct Client {
@@ -40,13 +40,14 @@ private:
         std::atomic<bool> isDone = false;
     };
 
-    void accept(int listener, int stop);
-    void answer(HostConnection &connection, int stop);
-    void joinThoseDone();
+    void accept(int listener);
+    void answer(HostConnection &connection);
+    void joinFinished();
 
     HostEvents &m_events;
     const HostLog &m_log;
     const Manner m_manner;
+    const EventCancel m_stop;
     std::list<Client> m_clients;
 };
 

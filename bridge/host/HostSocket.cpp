@@ -1,5 +1,6 @@
 #include "bridge/host/HostSocket.h"
 
+#include "bridge/EventConnection.h"
 #include "support/desktop/SocketAddress.h"
 
 #include <QDir>
@@ -19,24 +20,6 @@ namespace vantrell
 
 namespace
 {
-
-/// A connection to whoever listens there; not open, with errno set, when there is none.
-Descriptor connectTo(const QString &path, int flags)
-{
-    const std::optional<sockaddr_un> address = socketAddress(path);
-    if (!address) {
-        errno = ENAMETOOLONG;
-        return Descriptor();
-    }
-    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
-    if (socket.isOpen() &&
-        ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
-        const int error = errno;
-        socket.close();
-        errno = error;
-    }
-    return socket;
-}
 
 Failure folderFailure(const QString &folder, int error)
 {
@@ -73,7 +56,7 @@ Result<HostSocket::Claim> HostSocket::claim()
         return folderFailure(m_folder, errno);
     if (status.st_uid != ::geteuid())
         return folderFailure(m_folder, EPERM);
-    // File systems without locks leave it at the question whether somebody answers.
+    // On file systems without locks only the check below remains.
     if (::flock(folder.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return Claim::Taken;
     if (isAnswered())
@@ -88,7 +71,7 @@ Result<void> HostSocket::listen()
         return Failure{
             QStringLiteral("The socket \"%1\" cannot be made: %2.").arg(path(), qt_error_string(error))};
     };
-    // It gets its name when it listens and others are shut out: there is no moment when it refuses.
+    // Renamed into place once it is listening and protected: clients never see a socket that refuses them.
     const QString unfinishedPath = m_folder + QStringLiteral("/.KeyG");
     const QByteArray name = QFile::encodeName(path());
     const QByteArray unfinished = QFile::encodeName(unfinishedPath);
@@ -113,13 +96,12 @@ Result<void> HostSocket::listen()
 
 Descriptor HostSocket::connect() const
 {
-    return connectTo(path(), 0);
+    return connectedSocket(path());
 }
 
 bool HostSocket::isAnswered() const
 {
-    return connectTo(path(), SOCK_NONBLOCK).isOpen() ||
-           errno == EAGAIN; // EAGAIN: it has many callers already
+    return connect().isOpen() || errno == EAGAIN;
 }
 
 } // namespace vantrell

@@ -11,8 +11,8 @@
 namespace vantrell
 {
 
-/// The Unix-domain socket of the application's signature, "KeyG", in a folder, and the claim to it: one
-/// process at a time listens there. Main thread.
+/// The Unix-domain socket "KeyG", named after the application's signature, in a folder. One process at a time
+/// claims it and listens there. Main thread.
 class HostSocket
 {
 public:
@@ -20,7 +20,7 @@ public:
         : m_folder(folder)
     {
     }
-    /// Removes the socket, unless another one has taken its place.
+    /// Removes the socket, unless it has been replaced by another one.
     ~HostSocket();
     HostSocket(const HostSocket &) = delete;
     HostSocket &operator=(const HostSocket &) = delete;
@@ -28,16 +28,16 @@ public:
     QString path() const;
 
     enum class Claim { Own, Taken };
-    /// Claims the socket, making its folder, for its owner only, where there is none. Taken: another
-    /// process has claimed it or answers on it. May be called again after that.
+    /// Claims the socket, creating its folder, accessible to its owner only, if necessary. Taken: another
+    /// process has claimed it or answers on it; the call may be repeated.
     Result<Claim> claim();
-    /// Listens, in place of what an earlier process left behind. After claim() gave Own.
+    /// Listens, replacing a socket that an earlier process left behind. After claim() has returned Own.
     Result<void> listen();
 
-    /// Connections can be accepted from it; -1 before listen().
+    /// The listening descriptor; -1 before listen().
     int descriptor() const { return m_listener.number(); }
 
-    /// A connection to whoever listens there; not open when nobody does.
+    /// A connection to the listening process; not open without one.
     Descriptor connect() const;
 
 private:

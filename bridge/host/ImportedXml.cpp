@@ -16,14 +16,14 @@ namespace vantrell
 namespace
 {
 
-constexpr int ItemLevel = 3; // the root, its project, the project's children, what they hold
+constexpr int ItemLevel = 3; // root, project, children, items
 
 Failure refused(const QString &reason)
 {
     return Failure{QStringLiteral("The document cannot be imported: ") + reason};
 }
 
-/// The elements that are items, by their indices.
+/// The indices of the elements that are items.
 std::vector<qsizetype> itemsOf(const XmlOutline &outline)
 {
     std::vector<qsizetype> items;
@@ -38,7 +38,7 @@ std::vector<qsizetype> itemsOf(const XmlOutline &outline)
     return items;
 }
 
-/// Whether an element above the items may declare namespaces that names in them need.
+/// Whether an ancestor of the items declares namespaces, which they may depend on.
 bool inheritsNamespaces(const XmlOutline &outline)
 {
     return std::any_of(outline.elements.begin(), outline.elements.end(), [](const auto &element) {
@@ -46,7 +46,7 @@ bool inheritsNamespaces(const XmlOutline &outline)
     });
 }
 
-/// The document's items alone, in UTF-8, each with the namespaces that it uses.
+/// A document of the items only, in UTF-8, each with the namespaces that it uses.
 Result<QByteArray> plainForm(const QByteArray &xml)
 {
     auto parsed = XmlDocument::fromData(XmlReferences::joinedSurrogates(xml), {.tolerant = false});

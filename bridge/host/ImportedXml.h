@@ -10,15 +10,15 @@
 namespace vantrell
 {
 
-/// An xmeml document that was sent to the application, and what of it goes into a project. A value.
+/// An imported xmeml document and its items. A value type.
 struct ImportedXml {
     QByteArray xml;
-    /// Bins, clips and sequences, in document order; a project gives what it holds. Parts of the text, which
-    /// mean the same wherever they stand. Never empty.
+    /// Bins, clips and sequences in document order, those inside a project included. They are parts of the
+    /// text that can be inserted into any other document. Never empty.
     std::vector<QByteArrayView> items;
 
-    /// Reads a document in UTF-8. The failure says what is wrong with it: not well-formed, no xmeml, of a
-    /// version beyond \a maximumVersion, without an item. Any thread.
+    /// Parses a document in UTF-8. Fails, with the reason, when it is not well-formed, not xmeml, of a
+    /// version beyond \a maximumVersion, or without items. Any thread.
     static Result<ImportedXml> read(const QByteArray &xml, std::int64_t maximumVersion);
 };
 

@@ -15,7 +15,7 @@ namespace vantrell::ProjectItems
 namespace
 {
 
-/// Appends what lies directly in the container, and in the bins there, in document order.
+/// Appends the items of the container and its bins in document order.
 void appendItems(XmlNode container, XmlNodeList &items)
 {
     for (XmlNode item = container.firstChildElement(); item; item = item.nextSiblingElement()) {
@@ -43,7 +43,7 @@ XmlNode find(const XmlNodeList &items, const QString &identifier)
     return XmlNode();
 }
 
-/// Appends to the listing what the container lists of the project, and that of its bins.
+/// Appends the bins and sequences of the container to the listing, recursively.
 void listItems(XmlNode container, XmlNode listing)
 {
     for (XmlNode item = container.firstChildElement(); item; item = item.nextSiblingElement()) {

@@ -8,13 +8,12 @@
 namespace vantrell::ProjectItems
 {
 
-/// The bin, clip or sequence with that UUID, else the one with that id, which may be given as it is written
-/// or with its percent escapes undone. What lies directly in the project or in its bins comes before
-/// sequences that lie in others. Null when there is none.
+/// The bin, clip or sequence with that UUID, else the one with that id, as written or percent-decoded. Items
+/// directly in the project or in its bins take precedence over nested sequences. Null without one.
 XmlNode find(XmlNode root, const QString &identifier);
 
-/// The project's bins and sequences, each with its UUID, id and name as far as it has them, as an xmeml in
-/// UTF-8. They lie in one another as they do in the project.
+/// The project's bins and sequences with their UUIDs, ids and names, nested as in the project, as an xmeml
+/// document in UTF-8.
 QByteArray tableOfContents(XmlNode root);
 
 } // namespace vantrell::ProjectItems

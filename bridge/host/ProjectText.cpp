@@ -13,11 +13,11 @@ namespace vantrell
 namespace
 {
 
-constexpr int ChildrenLevel = 2; // the root, its project, and what the project's children stand in
+constexpr int ChildrenLevel = 2; // root, project, children
 
 const QByteArray lineEnd = "\n";
 
-/// The name of the element that starts there, as it is written.
+/// The name, as written, of the element that starts at that offset.
 QByteArray writtenName(const QByteArray &xml, qsizetype begin)
 {
     qsizetype end = begin + 1;
@@ -34,7 +34,7 @@ Result<ProjectText> ProjectText::fromFile(const QString &path)
         if (Result<ProjectText> text = fromUtf8(std::move(content.value())))
             return text;
     }
-    // In another encoding, or no project: then this tells why.
+    // Another encoding, or not a project, for which this gives the reason.
     auto document = XmlDocument::fromFile(path, {.tolerant = false});
     if (!document)
         return document.failure();
@@ -74,13 +74,13 @@ Result<ProjectText> ProjectText::fromUtf8(QByteArray xml)
     const XmlOutline::Element &container = outline.value()->elements[std::size_t(index)];
 
     ProjectText text;
-    const qsizetype place = container.close;
-    qsizetype rest = place;
-    text.m_parts.push_back({xml, 0, place});
-    text.m_place = 1;
-    if (container.content == container.close && xml.at(place) == '/') {
+    const qsizetype insertion = container.close;
+    qsizetype rest = insertion;
+    text.m_parts.push_back({xml, 0, insertion});
+    text.m_insertion = 1;
+    if (container.content == container.close && xml.at(insertion) == '/') {
         rest += 2;
-        text.m_parts.push_back({xml, place, rest - place});
+        text.m_parts.push_back({xml, insertion, rest - insertion});
         text.m_gap = 1;
         text.m_opening = ">";
         text.m_closing = "</" + writtenName(xml, container.begin) + '>';
@@ -105,14 +105,14 @@ const QByteArray &ProjectText::xml()
     if (!m_xml.isNull() || m_parts.empty())
         return m_xml;
     m_xml.reserve(size());
-    qsizetype place = 0;
+    qsizetype insertion = 0;
     for (std::size_t i = 0; i < m_parts.size(); ++i) {
-        if (i == m_place)
-            place = m_xml.size();
+        if (i == m_insertion)
+            insertion = m_xml.size();
         m_xml.append(m_parts[i].view());
     }
-    m_parts = {{m_xml, 0, place}, {m_xml, place, m_xml.size() - place}}; // lets go of what they were
-    m_place = 1;
+    m_parts = {{m_xml, 0, insertion}, {m_xml, insertion, m_xml.size() - insertion}}; // releases the old parts
+    m_insertion = 1;
     return m_xml;
 }
 
@@ -120,16 +120,16 @@ ProjectText ProjectText::with(const ImportedXml &imported) const
 {
     ProjectText text;
     text.m_encoding = m_encoding;
-    const auto place = m_parts.begin() + std::ptrdiff_t(m_place);
-    text.m_parts.assign(m_parts.begin(), place);
+    const auto insertion = m_parts.begin() + std::ptrdiff_t(m_insertion);
+    text.m_parts.assign(m_parts.begin(), insertion);
     text.m_parts.push_back(whole(m_opening));
     for (const QByteArrayView item : imported.items) {
         text.m_parts.push_back({imported.xml, item.data() - imported.xml.constData(), item.size()});
         text.m_parts.push_back(whole(lineEnd));
     }
-    text.m_place = text.m_parts.size();
+    text.m_insertion = text.m_parts.size();
     text.m_parts.push_back(whole(m_closing));
-    text.m_parts.insert(text.m_parts.end(), place + std::ptrdiff_t(m_gap), m_parts.end());
+    text.m_parts.insert(text.m_parts.end(), insertion + std::ptrdiff_t(m_gap), m_parts.end());
     return text;
 }
 

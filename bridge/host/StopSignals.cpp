@@ -3,9 +3,6 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <cstdint>
-#include <sys/eventfd.h>
-#include <unistd.h>
 
 namespace vantrell
 {
@@ -13,34 +10,37 @@ namespace vantrell
 namespace
 {
 
-// For the signal handler: where it writes.
-std::atomic<int> s_event = -1;
-static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<EventCancel *> s_stop = nullptr; // for the signal handler
+static_assert(std::atomic<EventCancel *>::is_always_lock_free);
 
-void tell(int)
+void handleSignal(int)
 {
     const int savedError = errno;
-    const std::uint64_t one = 1;
-    [[maybe_unused]] const ssize_t written = ::write(s_event, &one, sizeof one);
+    if (EventCancel *const cancel = s_stop)
+        cancel->cancel();
     errno = savedError;
 }
 
 } // namespace
 
 StopSignals::StopSignals()
-    : m_event(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
-    s_event = m_event.number();
+    s_stop = &m_stop;
     struct sigaction action = {};
-    action.sa_handler = tell;
+    action.sa_handler = handleSignal;
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction present = {};
-        // What the caller has the process ignore stays ignored.
+        // Signals that the process was started to ignore stay ignored.
         if (::sigaction(number, nullptr, &present) == 0 && present.sa_handler != SIG_IGN)
             ::sigaction(number, &action, nullptr);
     }
     std::signal(SIGPIPE, SIG_IGN);
+}
+
+StopSignals::~StopSignals()
+{
+    s_stop = nullptr;
 }
 
 } // namespace vantrell

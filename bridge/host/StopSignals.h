@@ -1,24 +1,25 @@
 #pragma once
 
-#include "support/files/Descriptor.h"
+#include "bridge/EventCancel.h"
 
 namespace vantrell
 {
 
-/// Turns an interrupt, a hang-up or a request to terminate into something to wait for. The second one ends
-/// the process at once. One for the process.
+/// Turns SIGINT, SIGTERM and SIGHUP into a cancellation. The second signal ends the process at once. One for
+/// the process.
 class StopSignals
 {
 public:
     StopSignals();
+    ~StopSignals();
     StopSignals(const StopSignals &) = delete;
     StopSignals &operator=(const StopSignals &) = delete;
 
-    /// Can be read from, and stays so, once a signal has come. Any thread may poll it; nobody reads.
-    int descriptor() const { return m_event.number(); }
+    /// Cancelled once a signal has come. Any thread.
+    const EventCancel &stop() const { return m_stop; }
 
 private:
-    Descriptor m_event;
+    EventCancel m_stop;
 };
 
 } // namespace vantrell

@@ -39,8 +39,8 @@ int installBundle(const HostOptions &options)
     return Done;
 }
 
-/// Opens the files and gets to know those that stay closed.
-Result<void> takeUp(const HostOptions &options, HostProjects &projects)
+/// Opens the files, and registers those that stay closed.
+Result<void> addProjects(const HostOptions &options, HostProjects &projects)
 {
     for (const QString &file : options.files) {
         if (Result<void> opened = projects.open(file); !opened)
@@ -54,8 +54,8 @@ Result<void> takeUp(const HostOptions &options, HostProjects &projects)
     return {};
 }
 
-/// Whether this process is to play the application; otherwise how it ends.
-bool claimSocket(const HostOptions &options, HostSocket &socket, int stop, int &status)
+/// Whether this process plays the application; otherwise `status` is its exit status.
+bool claimSocket(const HostOptions &options, HostSocket &socket, const EventCancel &stop, int &status)
 {
     if (options.handsOver) {
         const Result<HandOver::Outcome> outcome = HandOver::run(socket, options.files, stop);
@@ -83,7 +83,7 @@ int run(const HostOptions &options)
     const StopSignals signals;
     HostSocket socket(folder);
     int status = Done;
-    if (!claimSocket(options, socket, signals.descriptor(), status))
+    if (!claimSocket(options, socket, signals.stop(), status))
         return status;
     HostLog log;
     if (!options.logPath.isEmpty()) {
@@ -92,17 +92,17 @@ int run(const HostOptions &options)
             return fail(opened.message());
         log = std::move(opened.value());
     }
-    // It listens while it still reads the files, so that whoever calls meanwhile is answered after that.
+    // It listens before it reads the files: early callers wait instead of failing.
     if (const Result<void> listening = socket.listen(); !listening)
         return fail(listening.message());
     HostProjects projects(folder);
-    if (const Result<void> takenUp = takeUp(options, projects); !takenUp)
-        return fail(takenUp.message());
+    if (const Result<void> added = addProjects(options, projects); !added)
+        return fail(added.message());
     HostEvents events(projects, QVAppleEvents::maximumXMEMLVersionOf(options.version));
     events.setFailingEvent(options.failingEvent);
-    HostServer server(events, log, {options.delay, options.truncates});
+    HostServer server(events, log, {options.delay, options.truncates}, signals.stop());
     hostMessage(QStringLiteral("listening on %1").arg(socket.path()));
-    server.serve(socket.descriptor(), signals.descriptor());
+    server.serve(socket.descriptor());
     return Done;
 }
 

@@ -92,7 +92,7 @@ void QVFCPProjectLoader::makeContent()
     layout->addWidget(buttons);
 }
 
-/// What stands in the place of the list while there is none.
+/// The page that replaces the list while there is none.
 QWidget *QVFCPProjectLoader::makeMessagePage()
 {
     auto *const page = new QFrame(m_content);
@@ -162,7 +162,7 @@ void QVFCPProjectLoader::fillTable()
         auto *const item = new QListWidgetItem(m_services.iconOfFile(path), path, m_table);
         item->setToolTip(path);
     }
-    // The keyboard then opens the one project that there mostly is.
+    // Usually there is only one project: Return opens it.
     m_table->setCurrentRow(0);
     m_content->setCurrentWidget(m_table);
     m_table->setFocus();
@@ -177,7 +177,7 @@ void QVFCPProjectLoader::openProject()
     }
     if (chosen.isEmpty())
         return;
-    const Services services = m_services; // the dialog may go while a document opens
+    const Services services = m_services; // the dialog may be deleted while a document opens
     accept();
     for (const QString &path : std::as_const(chosen)) {
         const Result<void> opened = services.openDocument(path);

@@ -20,40 +20,40 @@ class QStackedWidget;
 namespace vantrell
 {
 
-/// The dialog that lists the projects that are open in Final Cut Pro and opens the chosen ones as documents.
-/// The list is asked for in the background, so that a Final Cut Pro that does not answer holds up no window.
-/// The dialog takes the place of every other window while it shows, and deletes itself when it is closed.
-/// Main thread.
+/// The dialog that lists the projects open in Final Cut Pro and opens the selected ones as documents. The
+/// list is requested in the background, so that an unresponsive Final Cut Pro blocks no window.
+/// Application-modal; deletes itself when closed. Main thread.
 class QVFCPProjectLoader final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What the dialog needs of the program.
+    /// What the dialog needs from the program.
     struct Services {
-        /// Opens the project at that path as a document and displays it. The failure is shown to the user.
+        /// Opens the project at that path as a document and displays it; a failure is shown to the user.
         std::function<Result<void>(const QString &path)> openDocument;
-        /// The icon of a file, by its name alone.
+        /// The icon of a file, derived from its name only.
         std::function<QIcon(const QString &path)> iconOfFile;
     };
 
-    /// Shows the dialog over that window; null for none. Null when it cannot be made, which the user has
-    /// been told then.
+    /// Shows the dialog over that window, which may be null. Returns null, after an alert, when it cannot be
+    /// created.
     static QVFCPProjectLoader *showOpenDialog(const Services &services, QWidget *parent);
     ~QVFCPProjectLoader() override;
 
-    /// Whether the answer to the question for the projects is still out.
+    /// Whether the list has been requested and has not arrived yet.
     bool isReading() const { return m_isReading; }
-    /// The paths of the projects, as Final Cut Pro gave them; empty while they are read.
+    /// The paths of the projects in the order of Final Cut Pro; empty until they have arrived.
     const QStringList &projects() const { return m_projects; }
 
 public Q_SLOTS:
-    /// Opens the selected projects in their order and closes the dialog; nothing without a selection.
+    /// Opens the selected projects from top to bottom and closes the dialog; does nothing without a
+    /// selection.
     void openProject();
     void closeDialog();
 
 Q_SIGNALS:
-    /// The list is there, or nothing came of the question.
+    /// The list has arrived, or the request has failed.
     void listRead();
 
 private:
@@ -67,7 +67,7 @@ private:
     void showMessage(const QString &text);
 
     const Services m_services;
-    EventCancel m_cancel; // ends the question, which may outlive the dialog
+    EventCancel m_cancel; // cancels the request, which may outlive the dialog
     bool m_isReading = false;
     QStringList m_projects;
 

@@ -5,24 +5,24 @@
 namespace vantrell
 {
 
-/// Asks what shall become of a file that another program has changed since the project was opened, before a
-/// save replaces it. Cancel is the default. Opened with open().
+/// Asks what to do before a save replaces a file that another program has changed since the project was
+/// opened. Cancel is the default. Shown with open().
 class ChangedFileSheet final : public QMessageBox
 {
     Q_OBJECT
 
 public:
     enum class Choice {
-        Cancel,    ///< the file and the project stay as they are
-        Overwrite, ///< the project replaces what the other program saved
-        SaveAs,    ///< the project goes to another file
-        Reload,    ///< the file is opened again, and the changes made here are given up
+        Cancel,    ///< neither the file nor the project changes
+        Overwrite, ///< the project replaces the other program's changes
+        SaveAs,    ///< the project is saved to another file
+        Reload,    ///< the file is loaded again, and the unsaved changes are lost
     };
 
     ChangedFileSheet(const QString &fileName, QWidget *parent);
 
 Q_SIGNALS:
-    /// Once, when the sheet has left the window.
+    /// Emitted once, after the sheet has closed.
     void chosen(vantrell::ChangedFileSheet::Choice choice);
 };
 

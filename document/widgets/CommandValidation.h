@@ -10,19 +10,22 @@ namespace vantrell
 
 class MyDocument;
 
-/// Commands of the menus that are not always there.
+/// Whether the document is a project of an editing application, which is sent instead of saved; false for
+/// null.
+bool isProject(const MyDocument *document);
+
+/// Menu commands that are not always available.
 enum class DocumentCommand { OpenFCPProject, Save, SaveAs, Revert, Send, ExportChangedSequences };
 
-/// How a command stands in the menu.
+/// The state of a menu command.
 struct CommandState {
     bool isVisible = true;
     bool isEnabled = true;
-    QString title;                        ///< null: the command keeps its own
-    std::optional<QKeySequence> shortcut; ///< nothing: the command keeps its own
+    QString title;                        ///< null: unchanged
+    std::optional<QKeySequence> shortcut; ///< nothing: unchanged
 };
 
-/// The state of a command for the current document, null when there is none, and for a Final Cut Pro that
-/// runs or does not. Main thread.
+/// The state of a command for the current document, which may be null. Main thread.
 CommandState validateUserInterfaceItem(DocumentCommand command, const MyDocument *document,
                                        bool isFinalCutProRunning);
 

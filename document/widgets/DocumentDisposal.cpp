@@ -28,7 +28,7 @@ struct Disposed {
 
 void DocumentDisposal::dispose(std::unique_ptr<Workbench> workbench, std::shared_ptr<void> world)
 {
-    // From here on no worker waits for the main thread through the document's door.
+    // From here on no worker of the document waits for the main thread.
     workbench->document().mainThread()->close();
     const auto disposed = std::make_shared<Disposed>(Disposed{std::move(workbench), std::move(world)});
     BackgroundWork::run([disposed] { disposed->end(); });

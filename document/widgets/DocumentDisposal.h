@@ -7,15 +7,15 @@ namespace vantrell
 
 class Workbench;
 
-/// Ends documents whose windows have closed, on a thread of its own: waiting for their workers and taking
-/// the tree of a large project apart holds up no window. Main thread.
+/// Destroys the documents of closed windows on a thread of its own, so that waiting for their workers and
+/// freeing the tree of a large project blocks no window. Main thread.
 class DocumentDisposal
 {
 public:
     DocumentDisposal() = delete;
 
-    /// Takes a document that nobody uses any more but its own workers. `world` is what they may still ask
-    /// for, the document's interface foremost; it is let go on the main thread, after the document.
+    /// Takes ownership of a document that is used by its own workers only. `world` owns what these may still
+    /// use, such as the document's interface; it is released on the main thread after the document.
     static void dispose(std::unique_ptr<Workbench> workbench, std::shared_ptr<void> world);
 };
 

@@ -8,8 +8,10 @@
 #include "interchange/widgets/MarkerListImport.h"
 #include "markers/widgets/MarkersPane.h"
 #include "media/widgets/MediaPane.h"
+#include "support/files/FileUtilities.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/SymbolIcon.h"
 #include "support/widgets/SymbolView.h"
@@ -18,7 +20,7 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QDialog>
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -26,17 +28,13 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QMimeDatabase>
 #include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QToolBar>
-#include <QUrl>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace vantrell
 {
@@ -44,10 +42,9 @@ namespace vantrell
 namespace
 {
 
-const QString placeKey = QStringLiteral("documentWindowPlace");
+const QString geometryKey = QStringLiteral("documentWindowPlace");
 
 constexpr int redrawMs = 50;
-constexpr int progressDelayMs = 400; // what is over sooner shows no sheet
 
 struct ToolBarItem {
     QString identifier;
@@ -74,7 +71,7 @@ QIcon movieIcon(const QString &symbol)
     return themeIcon({type.iconName(), type.genericIconName()}, symbol);
 }
 
-/// Lets the window draw itself, while the user can do nothing to it.
+/// Lets the window repaint itself; user input waits.
 void letWindowRedraw()
 {
     const NestedEvents nested;
@@ -83,38 +80,29 @@ void letWindowRedraw()
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-QStringList localFiles(const QMimeData *data)
-{
-    QStringList paths;
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
-
 } // namespace
 
 DocumentWindow::DocumentWindow(UserDefaults &defaults)
     : m_defaults(defaults)
-    , m_progressDelay(new QTimer(this))
 {
     setAcceptDrops(true);
     setUnifiedTitleAndToolBarOnMac(true);
     makeToolBar();
     makeContent();
-    m_progress = new ProgressSheet(this);
-    m_progressDelay->setSingleShot(true);
-    m_progressDelay->setInterval(progressDelayMs);
-    connect(m_progressDelay, &QTimer::timeout, this, &DocumentWindow::showProgress);
-    connect(m_progress, &ProgressSheet::cancelled, this, &DocumentWindow::cancelProgress);
+    connect(&m_work.sheet(), &ProgressSheet::cancelled, this, &DocumentWindow::cancelProgress);
+    connect(&m_work, &WindowWork::changed, this, [this] {
+        updateEditing();
+        Q_EMIT menusChanged();
+    });
+    connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
-    restorePlace();
+    if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
+        resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
 
 DocumentWindow::~DocumentWindow()
 {
-    m_closing = true;
+    m_state.close();
     endSession();
 }
 
@@ -156,7 +144,7 @@ void DocumentWindow::makeContent()
     setCentralWidget(central);
 }
 
-/// What stands in the place of the panes when there is nothing to show in them.
+/// The page that replaces the panes when the project could not be loaded.
 QWidget *DocumentWindow::makeFailurePage()
 {
     auto *const page = new QWidget(m_content);
@@ -186,43 +174,40 @@ bool DocumentWindow::open(const QString &path, const QString &typeName)
 {
     startSession(path, typeName.isNull() ? Workbench::typeNameForPath(path) : typeName);
     if (!m_workbench->open(path, m_typeName)) {
-        showFailure(tr("The file is of no type that can be opened."));
+        showLoadFailure(tr("The file is of no type that can be opened."));
         return false;
     }
     const QPointer<DocumentWindow> self(this);
     toolbarMedia();
-    if (self && m_workbench && !m_closing)
+    if (self && m_workbench && !m_state.isClosed())
         m_workbench->markerPresets().populateMarkerPresets();
     return true;
 }
 
 void DocumentWindow::startSession(const QString &path, const QString &typeName)
 {
-    m_typeName = typeName;
     m_interface = std::make_shared<DocumentWindowInterface>(this);
     m_workbench = std::make_unique<Workbench>(*m_interface, Workbench::Inventories::All, &m_defaults);
     m_panes = {new MediaPane(*m_workbench, m_defaults), new EffectsPane(*m_workbench, m_defaults),
                new MarkersPane(*m_workbench, m_defaults)};
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
-    m_interface->connectTo(m_panes, m_progress);
-    connect(m_interface.get(), &DocumentWindowInterface::loadEnded, this, &DocumentWindow::loadEnded);
-    connect(m_interface.get(), &DocumentWindowInterface::inventoriesEnded, this,
-            &DocumentWindow::inventoriesEnded);
-    connect(m_interface.get(), &DocumentWindowInterface::mayEditChanged, this,
-            &DocumentWindow::updateEditing);
-    connect(m_interface.get(), &DocumentWindowInterface::editedChanged, this, [this](bool edited) {
+    m_interface->connectTo(m_panes, &m_work.sheet());
+    const MyDocument *const document = &m_workbench->document();
+    connect(document, &MyDocument::loadFinished, this, &DocumentWindow::loadEnded);
+    connect(document, &MyDocument::inventoriesFinished, this, &DocumentWindow::inventoriesEnded);
+    connect(document, &MyDocument::editingAllowedChanged, this, &DocumentWindow::updateEditing);
+    connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
         Q_EMIT menusChanged();
     });
-    m_state = State::Loading;
-    m_treeLoaded = false;
+    m_state.load();
     m_notice->setNotice(QString());
     m_ownersNotice->setNotice(QString());
     m_toolBar->setEnabled(true);
     setWindowModified(false);
     updateEditing();
-    setPath(path);
+    setFile(path, typeName);
 }
 
 void DocumentWindow::endSession()
@@ -230,26 +215,28 @@ void DocumentWindow::endSession()
     if (!m_workbench)
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
-    closePrintPanel();
+    m_reports.close();
+    m_workbench->document().disconnect(this);
     m_interface->disconnectFromWindow();
-    forgetBusiness();
-    m_progress->endProgress();
+    qDeleteAll(findChildren<MarkerListImport *>());
+    m_work.reset();
+    m_sending.reset();
+    m_state.load();
     for (TabPane *&pane : m_panes) {
         pane->saveLayout();
         delete pane;
         pane = nullptr;
     }
-    m_treeLoaded = false;
     DocumentDisposal::dispose(std::move(m_workbench), std::move(m_interface));
 }
 
 void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &notice)
 {
     if (!loaded) {
-        showFailure(message);
+        showLoadFailure(message);
         return;
     }
-    m_treeLoaded = true;
+    m_state.treeLoaded();
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
@@ -259,25 +246,25 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
 
 void DocumentWindow::inventoriesEnded()
 {
-    m_state = State::Ready;
+    m_state.listsFilled();
     if (m_workbench->document().isIncomplete()) {
         const QString before = m_notice->notice();
         m_notice->setNotice(before + (before.isEmpty() ? QString() : QStringLiteral("\n")) + incompleteLists,
                             NoticeBar::Kind::Lasting);
     }
-    rememberFile();
+    m_saving.rememberFile();
     updateEditing();
-    tellOwners();
+    updateOwnersNotice();
     applyOwnerListing();
     Q_EMIT menusChanged();
 }
 
-void DocumentWindow::showFailure(const QString &message)
+void DocumentWindow::showLoadFailure(const QString &message)
 {
-    m_state = State::Failed;
+    m_state.loadFailed();
     m_toolBar->setEnabled(false);
     m_failure->setText(tr("“%1” could not be opened.").arg(QFileInfo(m_path).fileName()));
-    // Without a message the user has been told that there is no Final Cut Pro.
+    // An empty message: an alert has said that there is no Final Cut Pro.
     m_failureReason->setText(message.isEmpty() || message == LoadFailure::noProject
                                  ? tr("Project files are read by way of Final Cut Pro 7, which gave "
                                       "no project. An XML export of it opens without.")
@@ -289,7 +276,7 @@ void DocumentWindow::showFailure(const QString &message)
 
 bool DocumentWindow::mayEdit() const
 {
-    return m_state == State::Ready && !m_isBusy && !m_workbench->document().isSaving();
+    return state() == State::Ready && !isBusy() && !m_workbench->document().isSaving();
 }
 
 void DocumentWindow::updateEditing()
@@ -298,7 +285,6 @@ void DocumentWindow::updateEditing()
         pane->setEditingEnabled(mayEdit());
 }
 
-/// What is being typed into a cell counts as typed.
 void DocumentWindow::commitEditing()
 {
     for (TabPane *const pane : m_panes) {
@@ -307,83 +293,27 @@ void DocumentWindow::commitEditing()
     }
 }
 
-void DocumentWindow::beginBusy(const QString &text, std::function<void()> cancel)
+/// What follows a long operation.
+void DocumentWindow::workEnded(WindowState::Next next)
 {
-    m_isBusy = true;
-    m_isCancellable = true;
-    m_givesUpForClosing = false;
-    m_cancelBusy = std::move(cancel);
-    m_focusBefore = focusWidget();
-    m_progress->setCancelTitle(QString());
-    m_progress->updateProgressLabel(text);
-    m_progressDelay->start();
-    updateEditing();
-    m_focusMeanwhile = focusWidget();
-    Q_EMIT menusChanged();
-}
-
-void DocumentWindow::endBusy()
-{
-    m_progressDelay->stop();
-    m_progress->endProgress();
-    m_isBusy = false;
-    m_cancelBusy = nullptr;
-    updateEditing();
-    // Controls that were out of use meanwhile lost the focus.
-    const bool isUnmoved = !focusWidget() || focusWidget() == m_focusMeanwhile;
-    if (isUnmoved && m_focusBefore && m_focusBefore != focusWidget() && m_focusBefore->isVisible())
-        m_focusBefore->setFocus();
-    Q_EMIT menusChanged();
-    applyOwnerListing();
-    if (std::exchange(m_closesWhenIdle, false))
+    if (next == WindowState::Next::Close)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-}
-
-/// What goes on ends with its document, without a word.
-void DocumentWindow::forgetBusiness()
-{
-    qDeleteAll(findChildren<MarkerListImport *>());
-    m_progressDelay->stop();
-    m_isBusy = m_isSending = m_givesUpForClosing = false;
-    m_closesWhenIdle = m_closesWhenSaved = m_revertsWhenUnwound = m_isSettling = false;
-    m_noticeBefore.reset();
-    m_cancelBusy = nullptr;
-}
-
-void DocumentWindow::showProgress()
-{
-    // Over an alert the sheet would keep the user from answering it.
-    const auto dialogs = findChildren<QDialog *>();
-    const bool carriesSheet = std::any_of(dialogs.begin(), dialogs.end(), [this](const QDialog *dialog) {
-        return dialog != m_progress && dialog->isVisible();
-    });
-    if (carriesSheet) {
-        m_progressDelay->start();
-        return;
-    }
-    m_progress->startProgress();
-    m_progress->setCancellable(m_isCancellable);
-}
-
-void DocumentWindow::setCancellable(bool cancellable)
-{
-    m_isCancellable = cancellable;
-    m_progress->setCancellable(cancellable);
+    else
+        applyOwnerListing();
 }
 
 void DocumentWindow::cancelProgress()
 {
-    if (m_isBusy) {
-        const auto cancel = m_cancelBusy;
-        cancel();
-    } else if (m_isSending) {
-        hideSending();
-    }
+    if (isBusy())
+        m_work.cancel();
+    else
+        m_sending.hide();
 }
 
-void DocumentWindow::setPath(const QString &path)
+void DocumentWindow::setFile(const QString &path, const QString &typeName)
 {
     m_path = path;
+    m_typeName = typeName;
     setWindowFilePath(path);
     const QString name = QFileInfo(path).fileName();
     // The file itself may be open in another window.
@@ -394,24 +324,38 @@ void DocumentWindow::setPath(const QString &path)
 
 MyDocument *DocumentWindow::document() const
 {
-    // The kind of a document that is still loading belongs to its loader.
-    return m_treeLoaded && !m_closing ? &m_workbench->document() : nullptr;
+    // Until the tree is there, the document's kind is written by the loader thread.
+    return m_state.hasTree() ? &m_workbench->document() : nullptr;
 }
 
 QString DocumentWindow::message() const
 {
-    if (m_state == State::Failed)
+    if (state() == State::Failed)
         return (m_failure->text() + QLatin1Char('\n') + m_failureReason->text()).trimmed();
     return m_notice->notice();
 }
 
 bool DocumentWindow::refusesAfterFailedLoad()
 {
-    if (m_state != State::Failed || m_closing)
+    if (state() != State::Failed)
         return false;
-    QVAlert::alertSheetWithMessageText(m_failure->text(), QString(), QString(), QString(),
-                                       m_failureReason->text(), m_interface->alertParent(), false);
+    showFailure(m_failure->text(), m_failureReason->text());
     return true;
+}
+
+void DocumentWindow::showFailure(const QString &title, const QString &reason)
+{
+    QVAlert::alertSheetWithMessageText(title, QString(), QString(), QString(), reason, alertParent(), false);
+}
+
+AlertParent *DocumentWindow::alertParent() const
+{
+    return m_interface->alertParent();
+}
+
+void DocumentWindow::setNotice(const QString &text)
+{
+    m_notice->setNotice(text);
 }
 
 Tab DocumentWindow::selectedTab() const
@@ -434,7 +378,7 @@ void DocumentWindow::toolbarMedia()
         showPane(Tab::Media);
         const QPointer<DocumentWindow> self(this);
         letWindowRedraw();
-        if (self && m_workbench && !m_closing && selectedTab() == Tab::Media)
+        if (self && m_workbench && !isClosing() && selectedTab() == Tab::Media)
             m_workbench->mediaFilter().populateFilteredMediaData();
     });
 }
@@ -455,44 +399,54 @@ void DocumentWindow::toolbarMarkers()
     });
 }
 
-void DocumentWindow::toolbar(Tab tab)
-{
-    (this->*toolBarItems()[std::size_t(tab)].action)();
-}
-
 void DocumentWindow::showPane(Tab tab)
 {
-    if (m_state != State::Failed) {
+    if (state() != State::Failed) {
         m_content->setCurrentWidget(&pane(tab));
         pane(tab).table().setFocus();
     }
     m_workbench->document().viewState().selectedTab = tab;
+    selectToolbarItem(tab);
+    Q_EMIT menusChanged();
+}
+
+void DocumentWindow::selectToolbarItem(Tab tab)
+{
     m_selectedToolbarItemIdentifier = toolBarItems()[std::size_t(tab)].identifier;
     m_toolBarItems->actions().at(int(tab))->setChecked(true);
-    Q_EMIT menusChanged();
+}
+
+void DocumentWindow::reload()
+{
+    const Tab tab = selectedTab();
+    endSession();
+    open(m_path, m_typeName);
+    if (state() != State::Failed && !isClosing() && tab != Tab::Media)
+        (this->*toolBarItems()[std::size_t(tab)].action)();
 }
 
 void DocumentWindow::applyDefaultsChange(const QString &key)
 {
     for (TabPane *const pane : m_panes) {
-        if (pane && !m_closing)
+        if (pane && !isClosing())
             pane->applyDefaultsChange(key);
     }
     if (key == MarkerInventory::ownOwnersDefault)
         applyOwnerListing();
 }
 
-/// Says when markers are listed under other owners than their own.
-void DocumentWindow::tellOwners()
+/// Tells the user when markers are listed under other owners than their own.
+void DocumentWindow::updateOwnersNotice()
 {
     const QString text = m_workbench->markerInventory().listedUnderOthersText();
     m_ownersNotice->setNotice(text.isEmpty() ? text : text + QLatin1Char('.'));
 }
 
-/// Lists the markers anew when the user wants other owners listed; as soon as nothing else goes on.
+/// Lists the markers again when the user has changed which owners are listed, unless something else is going
+/// on.
 void DocumentWindow::applyOwnerListing()
 {
-    if (m_closing || !m_workbench || !mayEdit() || m_closesWhenIdle)
+    if (!m_workbench || !mayEdit())
         return;
     MarkerInventory &inventory = m_workbench->markerInventory();
     const auto wanted =
@@ -501,35 +455,34 @@ void DocumentWindow::applyOwnerListing()
         return;
     commitEditing();
     inventory.setOwnerListing(wanted);
-    beginBusy(tr("Listing markers…"), {});
-    setCancellable(false);
+    m_work.begin(tr("Listing markers…"), WindowState::Work::Fixed);
     m_workbench->document().runInBackground([&inventory] { inventory.populateMarkerData(); },
                                             [this] {
-                                                endBusy();
-                                                tellOwners();
+                                                m_work.end();
+                                                updateOwnersNotice();
                                             });
-}
-
-MarkersPane &DocumentWindow::markersPane() const
-{
-    return static_cast<MarkersPane &>(pane(Tab::Markers));
 }
 
 void DocumentWindow::showMarkerFieldsDialog()
 {
     toolbarMarkers();
-    markersPane().showMarkerFieldsDialog();
+    static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerFieldsDialog();
 }
 
 void DocumentWindow::showMarkerPresetDialog()
 {
     toolbarMarkers();
-    markersPane().showMarkerPresetDialog();
+    static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerPresetDialog();
 }
 
 QString DocumentWindow::folder() const
 {
     return QFileInfo(m_path).path();
+}
+
+QString DocumentWindow::fileTitle() const
+{
+    return FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName());
 }
 
 void DocumentWindow::copySelection()
@@ -538,7 +491,7 @@ void DocumentWindow::copySelection()
         field->copy();
         return;
     }
-    pane(selectedTab()).copySelection();
+    currentPane().copySelection();
 }
 
 void DocumentWindow::selectAllRows()
@@ -547,7 +500,7 @@ void DocumentWindow::selectAllRows()
         field->selectAll();
         return;
     }
-    pane(selectedTab()).table().selectAll();
+    currentPane().table().selectAll();
 }
 
 void DocumentWindow::findEffects()
@@ -570,31 +523,39 @@ void DocumentWindow::removeSelection()
     if (selectedTab() == Tab::Effects)
         static_cast<EffectsPane &>(pane(Tab::Effects)).removeEffects();
     else if (selectedTab() == Tab::Markers)
-        markersPane().removeMarkers();
+        static_cast<MarkersPane &>(pane(Tab::Markers)).removeMarkers();
 }
 
-void DocumentWindow::restorePlace()
+void DocumentWindow::closeEvent(QCloseEvent *event)
 {
-    if (restoreGeometry(m_defaults.value(placeKey).toByteArray()))
-        return;
-    const QSize available = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(1180, 720).boundedTo(available * 0.9));
+    const bool mayClose = isClosing() || m_saving.mayClose();
+    event->setAccepted(mayClose);
+    if (mayClose && !isClosing())
+        shutDown();
 }
 
-void DocumentWindow::storePlace()
+void DocumentWindow::shutDown()
 {
-    m_defaults.setValue(placeKey, saveGeometry());
+    m_state.close();
+    m_defaults.setValue(geometryKey, saveGeometry());
+    if (m_workbench) {
+        QVAlert::closeAlertsForParent(alertParent());
+        m_workbench->document().mainThread()->close();
+    }
+    hide();
+    Q_EMIT closed();
+    NestedEvents::whenUnwound(this, [this] { deleteLater(); });
 }
 
 void DocumentWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!localFiles(event->mimeData()).isEmpty())
+    if (!FilePanel::localFiles(event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void DocumentWindow::dropEvent(QDropEvent *event)
 {
-    const QStringList paths = localFiles(event->mimeData());
+    const QStringList paths = FilePanel::localFiles(event->mimeData());
     if (paths.isEmpty())
         return;
     event->acceptProposedAction();

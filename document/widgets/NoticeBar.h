@@ -11,9 +11,8 @@ class QToolButton;
 namespace vantrell
 {
 
-/// A line across the top of a window that tells something about its file, until the user puts it away
-/// or, where it must not be overlooked, until it no longer holds.
-/// Hidden while it has nothing to tell.
+/// A bar across the top of a window with a notice about its file, which the user can dismiss unless it is
+/// important. Hidden without a notice.
 class NoticeBar final : public QFrame
 {
     Q_OBJECT
@@ -23,7 +22,7 @@ public:
 
     enum class Kind {
         Dismissible,
-        Lasting, ///< stays until another notice takes its place
+        Lasting, ///< stays until it is replaced by another notice
     };
 
     /// An empty text hides the bar.
@@ -31,7 +30,7 @@ public:
     QString notice() const;
     Kind kind() const { return m_kind; }
 
-    /// A button behind the notice, which puts the notice away.
+    /// Adds a button after the notice, which also dismisses it.
     void setAction(const QString &title, std::function<void()> action);
 
 private:

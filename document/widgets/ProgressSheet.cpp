@@ -70,7 +70,7 @@ void ProgressSheet::reject()
 void ProgressSheet::endProgress()
 {
     hide();
-    m_progressBar->setRange(0, 1); // stands still
+    m_progressBar->setRange(0, 1); // not animated
 }
 
 } // namespace vantrell

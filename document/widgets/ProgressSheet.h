@@ -11,7 +11,7 @@ class QPushButton;
 namespace vantrell
 {
 
-/// The sheet on a document window that shows that something long goes on. Main thread.
+/// The sheet on a document window that shows the progress of a long operation. Main thread.
 class ProgressSheet final : public QDialog
 {
     Q_OBJECT
@@ -22,11 +22,11 @@ public:
     /// Shows the sheet, or brings it to the front.
     void startProgress();
     void updateProgressLabel(const QString &text);
-    /// How much is done; until it is told the bar shows only that something goes on.
+    /// Sets the progress; until then the bar is indeterminate.
     void setProgress(std::size_t done, std::size_t total);
-    /// Whether the Cancel button can be pressed; it can when the sheet is shown.
+    /// Enables or disables the Cancel button, which is enabled when the sheet appears.
     void setCancellable(bool cancellable);
-    /// What the Cancel button says; "Cancel" when it is null.
+    /// Sets the title of the Cancel button; null for "Cancel".
     void setCancelTitle(const QString &title);
     void endProgress();
 

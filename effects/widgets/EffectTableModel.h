@@ -13,15 +13,8 @@ class EffectTableModel : public TableModel
 public:
     explicit EffectTableModel(MyDocument &document, QObject *parent = nullptr);
 
-    Cell cellOf(int column) const override;
-
 protected:
-    bool isEditable(int column) const override;
-    bool isChecked(const RowRecord &record, int column) const override;
-    QString text(const RowRecord &record, int column) const override;
-    QIcon icon(const RowRecord &record, int column) const override;
-    QString toolTip(const RowRecord &record, int column) const override;
-    Qt::Alignment alignment(int column) const override;
+    QIcon icon(const RowRecord &record, const Column &column) const override;
 };
 
 } // namespace vantrell

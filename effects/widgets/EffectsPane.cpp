@@ -26,7 +26,7 @@ constexpr int searchDelay = 120; // milliseconds after the last key
 } // namespace
 
 EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
-    : TabPane(workbench, defaults, new EffectTableModel(workbench.document()), recordValueOfColumn, parent)
+    : TabPane(workbench, defaults, new EffectTableModel(workbench.document()), parent)
     , m_types(new QComboBox(this))
     , m_showDefaults(new QCheckBox(tr("Show &defaults"), this))
     , m_search(new QLineEdit(this))
@@ -94,10 +94,10 @@ void EffectsPane::removeEffects()
 {
     if (!isEditingEnabled())
         return;
-    // The places stay selected, whatever rows stand there afterwards.
-    const std::vector<std::size_t> places = selectedRows();
+    // The indexes stay selected, whatever rows have them afterwards.
+    const std::vector<std::size_t> rows = selectedRows();
     workbench().effectEditor().removeEffects();
-    selectRows(places);
+    selectRows(rows);
 }
 
 void EffectsPane::focusSearch()

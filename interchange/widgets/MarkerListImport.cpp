@@ -1,6 +1,6 @@
 #include "interchange/widgets/MarkerListImport.h"
 
-#include "document/TableUpdates.h"
+#include "document/MyDocument.h"
 #include "support/log/QVException.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/Persistently.h"
@@ -16,7 +16,7 @@ namespace vantrell
 namespace
 {
 
-/// How long a few markers may take to be added: the window answers in between.
+/// How long markers are added before the window handles events again.
 constexpr std::chrono::milliseconds slice{15};
 
 } // namespace
@@ -61,8 +61,9 @@ void MarkerListImport::cancel()
 void MarkerListImport::add(MarkerListImporter::Rows rows)
 {
     m_rows = std::move(rows);
-    const bool isReady =
-        guarded("MarkerListImport::add", [this] { m_updates = std::make_unique<TableUpdates>(m_document); });
+    const bool isReady = guarded("MarkerListImport::add", [this] {
+        m_updates = std::make_unique<RowView::Updates>(m_document.rowView(Tab::Markers));
+    });
     if (isReady && !m_rows.rows.empty())
         addSome();
     else

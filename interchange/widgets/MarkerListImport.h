@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/MarkerListImporter.h"
+#include "rows/RowView.h"
 
 #include <QObject>
 #include <QStringList>
@@ -12,11 +13,10 @@
 namespace vantrell
 {
 
-class TableUpdates;
 class MyDocument;
 
-/// One import of marker lists that holds up no window: the files are read on a thread of its own, which
-/// may be given up, then their markers are added a few at a time. Main thread; the document and its
+/// One import of marker lists that does not block the window: the files are read on a background thread,
+/// which can be cancelled, and then markers are added a few at a time. Main thread; the document and its
 /// importer outlive it.
 class MarkerListImport final : public QObject
 {
@@ -28,14 +28,14 @@ public:
     ~MarkerListImport() override;
 
     void start();
-    /// Ends the import without a change; no effect once markers are being added.
+    /// Cancels the import; no effect once markers are being added.
     void cancel();
 
 Q_SIGNALS:
-    /// So many of the markers have been added.
+    /// `done` of the markers have been added.
     void progressed(std::size_t done, std::size_t total);
-    /// The import is over, with so many markers added of so many that the files hold; both are 0 when it
-    /// was cancelled and, before an alert, when the files hold none.
+    /// The import has ended with `imported` of the files' `total` markers added. Both are 0 when it was
+    /// cancelled and when the files contain no markers; an alert then follows.
     void ended(std::size_t imported, std::size_t total);
 
 private:
@@ -47,10 +47,10 @@ private:
     const MarkerListImporter &m_importer;
     const QStringList m_paths;
     const QString m_format;
-    std::shared_ptr<bool> m_isWanted = std::make_shared<bool>(true); // what the reading looks at when it ends
+    std::shared_ptr<bool> m_isWanted = std::make_shared<bool>(true); // checked when reading has ended
     MarkerListImporter::Rows m_rows;
     MarkerListImporter::Progress m_progress;
-    std::unique_ptr<TableUpdates> m_updates; // while markers are being added
+    std::unique_ptr<RowView::Updates> m_updates; // while markers are being added
 };
 
 } // namespace vantrell

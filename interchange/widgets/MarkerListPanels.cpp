@@ -1,9 +1,8 @@
 #include "interchange/widgets/MarkerListPanels.h"
 
-#include <QCoreApplication>
-#include <QFileDialog>
+#include "support/widgets/FilePanel.h"
 
-#include <utility>
+#include <QCoreApplication>
 
 namespace vantrell
 {
@@ -22,49 +21,34 @@ QString filterOf(const MarkerListPanel &panel)
         panel.format == MarkerListFormat::fcpx ? text("Final Cut Pro X XML files") : text("Marker lists");
     const QString filter =
         QStringLiteral("%1 (*.%2 *.%3)").arg(kind, panel.extension, panel.extension.toUpper());
-    // Text is text, whatever its name ends in.
+    // Text files may have any extension.
     return panel.typeIdentifier.isNull() ? filter : filter + QStringLiteral(";;") + text("All files (*)");
-}
-
-QFileDialog *makeDialog(const MarkerListPanel &panel, QWidget *window, const QString &folder)
-{
-    auto *const dialog = new QFileDialog(window, QString(), folder, filterOf(panel));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowModality(Qt::WindowModal);
-    return dialog;
 }
 
 } // namespace
 
 void runMarkerListOpenPanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
-                            std::function<void(const QStringList &)> chosen)
+                            const std::function<void(const QStringList &)> &chosen)
 {
-    QFileDialog *const dialog = makeDialog(panel, window, folder);
-    dialog->setWindowTitle(text("Import Markers"));
-    dialog->setLabelText(QFileDialog::Accept, text("Import"));
-    dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setOption(QFileDialog::ReadOnly); // makes no folders
-    QObject::connect(dialog, &QFileDialog::accepted, window, [dialog, chosen = std::move(chosen)] {
-        dialog->hide(); // an alert then is the window's only sheet
-        chosen(dialog->selectedFiles());
-    });
-    dialog->open();
+    FilePanel::runForOpening({.window = window,
+                              .title = text("Import Markers"),
+                              .folder = folder,
+                              .filter = filterOf(panel),
+                              .acceptLabel = text("Import")},
+                             chosen);
 }
 
 void runMarkerListSavePanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
-                            std::function<void(const QString &)> chosen)
+                            const std::function<void(const QString &)> &chosen)
 {
-    QFileDialog *const dialog = makeDialog(panel, window, folder);
-    dialog->setWindowTitle(text("Export Markers"));
-    dialog->setLabelText(QFileDialog::Accept, text("Export"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(panel.extension);
-    dialog->selectFile(panel.proposedName);
-    QObject::connect(dialog, &QFileDialog::accepted, window, [dialog, chosen = std::move(chosen)] {
-        dialog->hide();
-        chosen(dialog->selectedFiles().value(0));
-    });
-    dialog->open();
+    FilePanel::runForSaving({.window = window,
+                             .title = text("Export Markers"),
+                             .folder = folder,
+                             .filter = filterOf(panel),
+                             .extension = panel.extension,
+                             .proposedName = panel.proposedName,
+                             .acceptLabel = text("Export")},
+                            chosen);
 }
 
 } // namespace vantrell

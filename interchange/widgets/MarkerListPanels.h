@@ -11,13 +11,13 @@ class QWidget;
 namespace vantrell
 {
 
-/// Runs the file panel that chooses marker lists, as a sheet on the window, and hands on what was chosen,
-/// when it was closed with its OK button. Returns at once. Main thread.
+/// Shows the panel that chooses marker lists as a sheet on the window; `chosen` is called if it is accepted.
+/// Returns at once. Main thread.
 void runMarkerListOpenPanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
-                            std::function<void(const QStringList &)> chosen);
+                            const std::function<void(const QStringList &)> &chosen);
 
 /// The same for the panel that chooses where a marker list is written.
 void runMarkerListSavePanel(const MarkerListPanel &panel, QWidget *window, const QString &folder,
-                            std::function<void(const QString &)> chosen);
+                            const std::function<void(const QString &)> &chosen);
 
 } // namespace vantrell

@@ -43,7 +43,7 @@ void MarkerPresetPopUp::showPopup()
 void MarkerPresetPopUp::hidePopup()
 {
     ControlPopUp::hidePopup();
-    // What was chosen is told after this.
+    // The choice is reported after this.
     QTimer::singleShot(0, this, [this] { setCreateEnabled(view()->isVisible()); });
 }
 

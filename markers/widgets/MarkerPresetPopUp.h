@@ -8,7 +8,7 @@ namespace vantrell
 {
 
 /// The pop-up of the marker presets, with the command that makes a new one as its last item. That one is
-/// reached through the open list alone, so that neither the wheel nor the arrow keys run into it.
+/// enabled in the open list only, so that neither the wheel nor the arrow keys choose it.
 class MarkerPresetPopUp : public ControlPopUp
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ namespace
 const QString iconColumn = QStringLiteral("icon");
 const QString labelColumn = QStringLiteral("label");
 
-/// The rows stand in the order of the colours.
+/// The rows are in the order of the colours.
 class PresetRows final : public SheetTableModel
 {
 public:

@@ -1,36 +1,14 @@
 #include "markers/widgets/MarkerTableModel.h"
 
 #include "markers/MarkerColors.h"
-#include "markers/MarkerColumns.h"
 #include "markers/MarkerKeys.h"
-#include "markers/MarkerTableValues.h"
 #include "table/widgets/TableIcons.h"
 
 namespace vantrell
 {
 
-namespace
-{
-
-/// The places of the columns in markerColumns; those of custom fields follow.
-enum MarkerColumn { Color, Name, Comment, In, Out, Sequence, Clip, Chapter, Compression, Scoring };
-
-const TypedKey<std::int64_t> &flagKey(int column)
-{
-    return column == Chapter       ? MarkerKey::chapter
-           : column == Compression ? MarkerKey::compression
-                                   : MarkerKey::scoring;
-}
-
-bool isFlag(int column)
-{
-    return column == Chapter || column == Compression || column == Scoring;
-}
-
-} // namespace
-
 MarkerTableModel::MarkerTableModel(MyDocument &document, QObject *parent)
-    : TableModel(document, Tab::Markers, markerColumns, parent)
+    : TableModel(document, Tab::Markers, parent)
 {
     for (const MarkerColor &color : MarkerColors::table())
         m_colorLabels.append(color.label);
@@ -47,13 +25,6 @@ void MarkerTableModel::sequenceMenuChanged()
     rowsChanged(0, rowCount() - 1);
 }
 
-TableModel::Cell MarkerTableModel::cellOf(int column) const
-{
-    if (column == Color || column == Sequence || column == Clip)
-        return Cell::PopUp;
-    return isFlag(column) ? Cell::CheckBox : Cell::Text;
-}
-
 /// The clips of the record's sequence; null when it has none.
 MenuPtr MarkerTableModel::clipMenu(const RowRecord &record) const
 {
@@ -65,22 +36,21 @@ MenuPtr MarkerTableModel::clipMenu(const RowRecord &record) const
     return sequence ? document().clipMenuForSequence(sequence) : nullptr;
 }
 
-QString MarkerTableModel::menuTitle(const MenuPtr &menu, std::int64_t item) const
+MenuPtr MarkerTableModel::ownerMenu(const RowRecord &record, const Column &column) const
 {
-    return menu && item >= 0 && item < std::int64_t(menu->size()) ? (*menu)[std::size_t(item)].title
-                                                                  : QString();
+    return column.key == MarkerKey::sequence ? document().sequenceMenu() : clipMenu(record);
 }
 
 std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) const
 {
     std::vector<PopUpItem> items;
-    if (index.column() == Color) {
+    const Column &column = columnAt(index.column());
+    if (column.key == MarkerKey::color) {
         for (int i = 0; i < m_colorLabels.size(); ++i)
             items.push_back({m_colorLabels[i], TableIcons::marker(i), true});
         return items;
     }
-    const RowRecord &record = *recordAt(index.row());
-    const MenuPtr menu = index.column() == Sequence ? document().sequenceMenu() : clipMenu(record);
+    const MenuPtr menu = ownerMenu(*recordAt(index.row()), column);
     if (!menu)
         return items;
     for (const MenuItem &item : *menu)
@@ -89,94 +59,45 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
     return items;
 }
 
-QVariant MarkerTableModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    const bool isColor = orientation == Qt::Horizontal && section == Color;
-    if (isColor && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
-        return tr("Color");
-    return TableModel::headerData(section, orientation, role);
-}
-
 QVariant MarkerTableModel::data(const QModelIndex &index, int role) const
 {
-    if (role == Qt::DisplayRole && index.column() == Color)
+    if (role == Qt::DisplayRole && index.isValid() && columnAt(index.column()).key == MarkerKey::color)
         return QVariant();
     return TableModel::data(index, role);
 }
 
-bool MarkerTableModel::isChecked(const RowRecord &record, int column) const
+int MarkerTableModel::popUpIndex(const RowRecord &record, const Column &column) const
 {
-    return record.get(flagKey(column)) == 1;
-}
-
-int MarkerTableModel::popUpIndex(const RowRecord &record, int column) const
-{
-    switch (column) {
-    case Color:
+    if (column.key == MarkerKey::color)
         return int(record.get(MarkerKey::color));
-    case Sequence:
-        return int(record.get(MarkerKey::sequenceIndex));
-    default:
-        return int(record.get(MarkerKey::clipIndex));
-    }
+    return int(
+        record.get(column.key == MarkerKey::sequence ? MarkerKey::sequenceIndex : MarkerKey::clipIndex));
 }
 
-QString MarkerTableModel::text(const RowRecord &record, int column) const
+QString MarkerTableModel::text(const RowRecord &record, const Column &column) const
 {
-    switch (column) {
-    case Color:
-        return m_colorLabels.value(popUpIndex(record, column));
-    case In:
-        return MarkerTableValues::inText(record);
-    case Out:
-        return MarkerTableValues::outText(record);
-    case Sequence:
-        return menuTitle(document().sequenceMenu(), record.get(MarkerKey::sequenceIndex));
-    case Clip:
-        return menuTitle(clipMenu(record), record.get(MarkerKey::clipIndex));
-    case Chapter:
-    case Compression:
-    case Scoring:
-        return isChecked(record, column) ? tr("on") : tr("off");
-    default:
+    if (column.kind != Column::Kind::PopUp)
         return TableModel::text(record, column);
-    }
+    const int item = popUpIndex(record, column);
+    if (column.key == MarkerKey::color)
+        return m_colorLabels.value(item);
+    const MenuPtr menu = ownerMenu(record, column);
+    return menu && item >= 0 && item < int(menu->size()) ? (*menu)[std::size_t(item)].title : QString();
 }
 
-QIcon MarkerTableModel::icon(const RowRecord &record, int column) const
+QIcon MarkerTableModel::icon(const RowRecord &record, const Column &column) const
 {
-    if (column == Color)
-        return TableIcons::marker(int(record.get(MarkerKey::color)));
-    if (column == Sequence && record.get(MarkerKey::sequenceIndex) > 0)
-        return TableIcons::named(QStringLiteral("sequence"));
-    if (column == Clip && record.get(MarkerKey::clipIndex) > 0)
-        return TableIcons::named(QStringLiteral("clip"));
-    return QIcon();
+    if (column.kind != Column::Kind::PopUp)
+        return QIcon();
+    const int item = popUpIndex(record, column);
+    if (column.key == MarkerKey::color)
+        return TableIcons::marker(item);
+    return item > 0 ? TableIcons::named(column.identifier) : QIcon();
 }
 
-QString MarkerTableModel::toolTip(const RowRecord &record, int column) const
+QString MarkerTableModel::toolTip(const RowRecord &record, const Column &column) const
 {
-    switch (column) {
-    case Color:
-        return text(record, column);
-    case Sequence:
-        return record.get(MarkerKey::sequenceName);
-    case Clip:
-        return record.get(MarkerKey::clipName);
-    case In:
-    case Out:
-    case Chapter:
-    case Compression:
-    case Scoring:
-        return QString();
-    default:
-        return TableModel::text(record, column);
-    }
-}
-
-Qt::Alignment MarkerTableModel::alignment(int column) const
-{
-    return isFlag(column) || column == Color ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    return column.key == MarkerKey::color ? text(record, column) : TableModel::toolTip(record, column);
 }
 
 } // namespace vantrell

@@ -22,24 +22,20 @@ public:
     /// The sequence menu was exchanged.
     void sequenceMenuChanged();
 
-    Cell cellOf(int column) const override;
     std::vector<PopUpItem> popUpItems(const QModelIndex &index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     /// A colour cell shows its swatch alone.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
 protected:
-    bool isEditable(int) const override { return true; }
-    bool isChecked(const RowRecord &record, int column) const override;
-    int popUpIndex(const RowRecord &record, int column) const override;
-    QString text(const RowRecord &record, int column) const override;
-    QIcon icon(const RowRecord &record, int column) const override;
-    QString toolTip(const RowRecord &record, int column) const override;
-    Qt::Alignment alignment(int column) const override;
+    int popUpIndex(const RowRecord &record, const Column &column) const override;
+    QString text(const RowRecord &record, const Column &column) const override;
+    QIcon icon(const RowRecord &record, const Column &column) const override;
+    QString toolTip(const RowRecord &record, const Column &column) const override;
 
 private:
     MenuPtr clipMenu(const RowRecord &record) const;
-    QString menuTitle(const MenuPtr &menu, std::int64_t item) const;
+    /// The menu of a cell that shows a sequence or clip; null for none.
+    MenuPtr ownerMenu(const RowRecord &record, const Column &column) const;
 
     QStringList m_colorLabels;
 };

@@ -1,6 +1,5 @@
 #include "markers/widgets/MarkersPane.h"
 
-#include "markers/MarkerTableValues.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
@@ -36,8 +35,7 @@ bool isOpen(const QDialog *sheet)
 } // namespace
 
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
-    : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()),
-              MarkerTableValues::sortValueOfColumn, parent)
+    : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()), parent)
     , m_defaults(defaults)
     , m_filter(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
@@ -85,23 +83,29 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     connect(m_offset, &QPushButton::clicked, this, &MarkersPane::showMarkerOffsetWindow);
 
     table().setAccessibleName(tr("Markers"));
+    connect(&workbench.document(), &MyDocument::sequenceMenuChanged, &markerModel(),
+            &MarkerTableModel::sequenceMenuChanged);
     table().addWatchKeys({13, 3}, "editCurrentCell");
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
-        const bool isText = model().cellOf(index.column()) == TableModel::Cell::Text;
+        const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
             table().edit(index);
     });
     makeMenus();
     updateControls();
 
-    connect(m_markerPresetPopUp, &MarkerPresetPopUp::presetChosen, this,
-            [this](int item) { this->workbench().markerPresets().changeMarkerPreset(item); });
+    MarkerPresets *const presets = &workbench.markerPresets();
+    connect(presets, &MarkerPresets::menuChanged, m_markerPresetPopUp, &MarkerPresetPopUp::setMenu);
+    connect(presets, &MarkerPresets::labelsChanged, this, &MarkersPane::setMarkerLabels);
+    connect(presets, &MarkerPresets::sheetRequested, this, &MarkersPane::openPresetSheet);
+    connect(presets, &MarkerPresets::sheetEnded, this, &MarkersPane::closePresetSheet);
+    connect(m_markerPresetPopUp, &MarkerPresetPopUp::presetChosen, presets,
+            &MarkerPresets::changeMarkerPreset);
     connect(m_markerPresetPopUp, &MarkerPresetPopUp::createRequested, this,
             &MarkersPane::showMarkerPresetDialog);
     connect(m_fields, &QPushButton::clicked, this, &MarkersPane::showMarkerFieldsDialog);
     auto *const presetFiles = new FolderWatcher(MarkerPresets::folder(), this);
-    connect(presetFiles, &FolderWatcher::changed, this,
-            [this] { this->workbench().markerPresets().refreshMarkerPresets(); });
+    connect(presetFiles, &FolderWatcher::changed, presets, &MarkerPresets::refreshMarkerPresets);
 }
 
 MarkersPane::~MarkersPane()
@@ -128,16 +132,6 @@ void MarkersPane::makeMenus()
 MarkerTableModel &MarkersPane::markerModel() const
 {
     return static_cast<MarkerTableModel &>(model());
-}
-
-void MarkersPane::setSequenceMenu(const MenuPtr &)
-{
-    markerModel().sequenceMenuChanged();
-}
-
-void MarkersPane::setMarkerPresetMenu(const QStringList &titles, int selected)
-{
-    m_markerPresetPopUp->setMenu(titles, selected);
 }
 
 void MarkersPane::setMarkerLabels(const QStringList &labels)
@@ -195,14 +189,14 @@ void MarkersPane::showMarkerPresetDialog()
         workbench().markerPresets().showMarkerPresetDialog();
 }
 
-void MarkersPane::showMarkerPresetSheet()
+void MarkersPane::openPresetSheet()
 {
     m_presetSheet = new MarkerPresetSheet(workbench().markerPresets(), this);
     m_presetSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_presetSheet->open();
 }
 
-void MarkersPane::hideMarkerPresetSheet()
+void MarkersPane::closePresetSheet()
 {
     if (m_presetSheet)
         m_presetSheet->done(QDialog::Accepted);

@@ -24,11 +24,6 @@ public:
     /// Closes the sheet of the fields.
     ~MarkersPane() override;
 
-    void setSequenceMenu(const MenuPtr &menu) override;
-    void setMarkerPresetMenu(const QStringList &titles, int selected) override;
-    void setMarkerLabels(const QStringList &labels) override;
-    void showMarkerPresetSheet() override;
-    void hideMarkerPresetSheet() override;
     void setEditingEnabled(bool enabled) override;
     void applyDefaultsChange(const QString &key) override;
 
@@ -56,6 +51,9 @@ protected:
 private:
     MarkerTableModel &markerModel() const;
     void makeMenus();
+    void setMarkerLabels(const QStringList &labels);
+    void openPresetSheet();
+    void closePresetSheet();
 
     UserDefaults &m_defaults;
     QComboBox *m_filter;

@@ -26,7 +26,7 @@ namespace vantrell
 {
 
 MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
-    : TabPane(workbench, defaults, new MediaTableModel(workbench.document()), recordValueOfColumn, parent)
+    : TabPane(workbench, defaults, new MediaTableModel(workbench.document()), parent)
     , m_kinds(new QComboBox(this))
     , m_drives(new QComboBox(this))
     , m_reveal(new QPushButton(tr("&Reveal"), this))
@@ -35,6 +35,7 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     makeControls();
     makeFooter();
     table().setAccessibleName(tr("Media files"));
+    connect(&workbench.mediaFilter(), &MediaFilter::chartChanged, this, &MediaPane::setMediaChart);
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
         this->workbench().mediaInventory().mediaTableViewDoubleClick(index.row());
     });
@@ -108,15 +109,15 @@ void MediaPane::setDrives(std::vector<DriveItem> drives)
     const QString chosen = workbench().document().viewState().mediaDrive;
     m_driveItems = std::move(drives);
     m_drives->clear();
-    int place = 0;
+    int index = 0;
     for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
         const DriveItem &drive = m_driveItems[i];
         m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path), drive.title);
         if (!chosen.isNull() && drive.path == chosen)
-            place = int(i);
+            index = int(i);
     }
-    m_drives->setCurrentIndex(place);
-    if (!chosen.isNull() && place == 0 && workbench().document().viewState().selectedTab == Tab::Media)
+    m_drives->setCurrentIndex(index);
+    if (!chosen.isNull() && index == 0 && workbench().document().viewState().selectedTab == Tab::Media)
         applyFilters(); // the chosen drive has gone
 }
 

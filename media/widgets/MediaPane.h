@@ -20,7 +20,6 @@ public:
 
     /// Refills the drive menu; the chosen drive stays chosen while it is there.
     void prepareToShow() override;
-    void setMediaChart(const std::vector<double> &values) override;
 
 public Q_SLOTS:
     /// Shows the first selected file in the file browser.
@@ -33,6 +32,7 @@ protected:
     QString filteredText() const override;
 
 private:
+    void setMediaChart(const std::vector<double> &values);
     void setDrives(std::vector<DriveItem> drives);
     void makeControls();
     void makeFooter();
@@ -43,7 +43,7 @@ private:
     QPushButton *m_reveal;
     QVGraphView *m_chart;
     std::vector<DriveItem> m_driveItems;
-    int m_driveLookups = 0; // begun so far
+    int m_driveLookups = 0; // started so far
 };
 
 } // namespace vantrell

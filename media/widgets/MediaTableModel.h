@@ -15,19 +15,16 @@ class MediaTableModel : public TableModel
 public:
     explicit MediaTableModel(MyDocument &document, QObject *parent = nullptr);
 
-    Cell cellOf(int column) const override;
-
     /// The volume that a folder lies on: "/", or the folder's first two components below the root when it
     /// begins with "/Volumes". Null for "/Volumes" itself. Other folders that hold the mounted volumes
     /// count as that one does.
     static QString volumeOf(const QString &directory, const QStringList &volumesFolders);
 
 protected:
-    bool isChecked(const RowRecord &record, int column) const override;
-    QString text(const RowRecord &record, int column) const override;
-    QIcon icon(const RowRecord &record, int column) const override;
-    QString toolTip(const RowRecord &record, int column) const override;
-    Qt::Alignment alignment(int column) const override;
+    QString text(const RowRecord &record, const Column &column) const override;
+    QIcon icon(const RowRecord &record, const Column &column) const override;
+    /// The whole path of the file.
+    QString toolTip(const RowRecord &record, const Column &column) const override;
 
 private:
     QStringList m_volumesFolders;

@@ -22,7 +22,7 @@ public:
     void setType(int type) { m_type = type; }
     const std::vector<double> &values() const { return m_values; }
     void setValues(const std::vector<double> &values) { m_values = values; }
-    /// Draws the chart anew, soon.
+    /// Schedules a repaint.
     void refresh() { update(); }
 
     QSize sizeHint() const override;

@@ -46,7 +46,7 @@ void addNumber(QPDF &pdf, QPDFPageObjectHelper &page, const QPDFObjectHandle &fo
     const QPDFObjectHandle::Rectangle box = page.getMediaBox().getArrayAsRectangle();
     const double left = (box.llx + box.urx - widthOf(text)) / 2;
     const double baseline = box.lly + std::max(lowestBaseline, (lowerMargin - fontSize) / 2);
-    // The engine's own content leaves its scale behind.
+    // The engine's own content changes the scale.
     page.addPageContents(pdf.newStream("q\n"), true);
     page.addPageContents(pdf.newStream("\nQ\nq 0.35 g BT " + name + " " + std::to_string(fontSize) + " Tf " +
                                        std::to_string(left) + " " + std::to_string(baseline) + " Td (" +

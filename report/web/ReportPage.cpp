@@ -1,6 +1,5 @@
 #include "report/web/ReportPage.h"
 
-#include "report/web/ReportStyle.h"
 #include "report/web/RequestFilter.h"
 
 #include <QPageLayout>
@@ -22,8 +21,8 @@ namespace
 
 constexpr quint32 ownWorld = QWebEngineScript::ApplicationWorld;
 
-/// Forbids the page, before any of it is read, what the filter of requests forbids it too, and beyond that
-/// what it could take out of its own text. The policy holds from when it is inserted; its element goes again.
+/// Sets a content policy before the page is parsed. It repeats the restrictions of the request filter and
+/// also forbids inline resources. The policy stays in force after its element has been removed.
 const QString policyScript = QStringLiteral(
     "(() => { const root = document.appendChild(document.createElement('html')),"
     "meta = document.createElement('meta');"
@@ -31,6 +30,25 @@ const QString policyScript = QStringLiteral(
     "meta.content = \"default-src 'none'; img-src file:; style-src 'unsafe-inline'; base-uri 'none'; "
     "form-action 'none'\";"
     "root.appendChild(document.createElement('head')).appendChild(meta); root.remove(); })();");
+
+/// The style of reports on paper and screen, in addition to that in their own text: table heads on every
+/// page, unbroken rows, text within the page width. Timecodes stay on one line; other words are broken where
+/// they would make the table wider than the page. Tables of seven or more columns have a smaller font.
+const QString styleRules =
+    QStringLiteral("h1 {font-size: 22px; margin: 0 0 2px 7px;}"
+                   "h2 {font-size: 15px; font-weight: normal; color: #444; margin: 0 0 14px 7px;}"
+                   "h1, h2 {break-after: avoid; overflow-wrap: anywhere;}"
+                   "table {border-collapse: collapse;}"
+                   "thead {display: table-header-group; break-inside: avoid;}"
+                   "tr {break-inside: avoid;}"
+                   "th {padding: 7px; vertical-align: bottom; border-bottom: 1.5px solid #000;}"
+                   "td {vertical-align: top; border-bottom: 0.5px solid #bbb; overflow-wrap: "
+                   "anywhere; min-width: 6.3em;}"
+                   "td:first-child {min-width: 9em;}"
+                   "td img {height: 1.15em; vertical-align: -0.2em;}"
+                   "th:first-child:nth-last-child(n+7), th:first-child:nth-last-child(n+7) ~ th,"
+                   "td:first-child:nth-last-child(n+7), td:first-child:nth-last-child(n+7) ~ td"
+                   "{font-size: 10px; padding: 4px;}");
 
 QWebEngineScript script(const QString &name, const QString &source, QWebEngineScript::InjectionPoint when)
 {
@@ -43,7 +61,7 @@ QWebEngineScript script(const QString &name, const QString &source, QWebEngineSc
     return script;
 }
 
-/// Keeps nothing beyond its own life.
+/// A profile that stores nothing permanently.
 QWebEngineProfile *makeProfile()
 {
     auto *const profile = new QWebEngineProfile;
@@ -58,7 +76,7 @@ QWebEngineProfile *makeProfile()
 
 void forbidAll(QWebEngineSettings &settings)
 {
-    // What is named here is on by default, or could be made so by the environment.
+    // These are enabled by default, or could be enabled through the environment.
     for (const QWebEngineSettings::WebAttribute attribute :
          {QWebEngineSettings::JavascriptEnabled, QWebEngineSettings::JavascriptCanOpenWindows,
           QWebEngineSettings::JavascriptCanAccessClipboard, QWebEngineSettings::LocalStorageEnabled,
@@ -70,7 +88,7 @@ void forbidAll(QWebEngineSettings &settings)
           QWebEngineSettings::PdfViewerEnabled, QWebEngineSettings::NavigateOnDropEnabled,
           QWebEngineSettings::FocusOnNavigationEnabled})
         settings.setAttribute(attribute, false);
-    // The pictures are files, as the page is; the filter lets no other through.
+    // Needed for the pictures; the filter blocks all other files.
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     settings.setDefaultTextEncoding(QStringLiteral("utf-8"));
@@ -88,14 +106,14 @@ ReportPage::ReportPage(QWebEngineProfile *profile, const QString &imageFolder, Q
     , m_filter(new RequestFilter(imageFolder, profile))
 {
     profile->setUrlRequestInterceptor(m_filter);
-    // The page must be gone before its profile.
+    // The page must be destroyed before its profile.
     connect(this, &QObject::destroyed, profile, &QObject::deleteLater);
     forbidAll(*settings());
     scripts().insert(script(QStringLiteral("policy"), policyScript, QWebEngineScript::DocumentCreation));
     scripts().insert(script(QStringLiteral("style"),
                             QStringLiteral("document.head.appendChild(document.createElement('style'))"
                                            ".textContent = '%1';")
-                                .arg(ReportStyle::rules()),
+                                .arg(styleRules),
                             QWebEngineScript::DocumentReady));
     connect(this, &QWebEnginePage::loadFinished, this, [this] { m_mayNavigate = false; });
     connect(this, &QWebEnginePage::fullScreenRequested, this,
@@ -145,7 +163,7 @@ QStringList ReportPage::chooseFiles(FileSelectionMode, const QStringList &, cons
 void ReportPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int,
                                           const QString &)
 {
-    // What was blocked is nothing that the user needs to hear of.
+    // Messages about blocked content do not concern the user.
 }
 
 } // namespace vantrell

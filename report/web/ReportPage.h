@@ -13,9 +13,10 @@ namespace vantrell
 
 class RequestFilter;
 
-/// The page that shows one report and does nothing else. Texts of a report may hold any markup, so it runs no
-/// script of the page, loads nothing but the pictures of one folder, follows no link, opens no window, stores
-/// nothing and asks for nothing. Scripts of this class run where those of a page cannot reach them.
+/// A page that only shows one report. The text of a report may contain any markup, so the page runs no
+/// scripts of its own, loads only the pictures of one folder, follows no links, opens no windows, stores
+/// nothing and requests no permissions. The scripts of this class run in a separate world that page scripts
+/// cannot reach.
 ///
 /// Main thread, after WebEngine::prepare().
 class ReportPage final : public QWebEnginePage
@@ -23,18 +24,18 @@ class ReportPage final : public QWebEnginePage
     Q_OBJECT
 
 public:
-    /// An absolute path.
+    /// The folder is an absolute path.
     explicit ReportPage(const QString &imageFolder, QObject *parent = nullptr);
     ~ReportPage() override;
 
-    /// Shows the HTML of a file in UTF-8 whose name ends in ".html", an absolute path. loadFinished() tells
-    /// the end of it.
+    /// Loads an HTML file in UTF-8 by its absolute path, which ends in ".html". loadFinished() reports the
+    /// result.
     void loadReport(const QString &file);
 
-    /// Runs a script and hands on its value, null for none. After loadFinished().
+    /// Runs a script and passes on its value, null for none. After loadFinished().
     void run(const QString &script, const std::function<void(const QVariant &)> &use = {});
 
-    /// Hands on a PDF of what is shown; empty when none could be made.
+    /// Passes on a PDF of the page; empty if that failed.
     void makePdf(const QPageLayout &layout, const std::function<void(const QByteArray &)> &use);
 
 protected:
@@ -46,7 +47,6 @@ protected:
 
 private:
     ReportPage(QWebEngineProfile *profile, const QString &imageFolder, QObject *parent);
-    void addScripts();
 
     RequestFilter *m_filter;
     QUrl m_document;

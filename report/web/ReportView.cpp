@@ -36,7 +36,7 @@ ReportView::ReportView(const QString &imageFolder)
 
 ReportView::~ReportView()
 {
-    delete m_page; // before the view, which would be told of its end
+    delete m_page; // before the view, which it would notify
 }
 
 QWidget *ReportView::widget()
@@ -48,7 +48,7 @@ void ReportView::makePage()
 {
     m_page = new ReportPage(m_imageFolder, this);
     connect(m_page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
-        // Of a load that was given up for another one nobody wants to hear.
+        // Ignore a load that was replaced by another one.
         const bool isCurrent = info.url().fileName() == QStringLiteral("%1.html").arg(m_file);
         if (isCurrent && info.status() != QWebEngineLoadingInfo::LoadStartedStatus)
             loadEnded(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
@@ -103,7 +103,7 @@ void ReportView::setPaper(const QPageLayout &paper)
     fitToPaper();
 }
 
-/// The widget's width stands for the paper's, on which the margins are blank.
+/// Scales the page so that the paper is as wide as the widget, and adds its margins.
 void ReportView::fitToPaper()
 {
     const double width = m_paper.fullRect(QPageLayout::Millimeter).width() * cssPixelsPerMillimetre;
@@ -127,7 +127,7 @@ bool ReportView::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/// The page is gone with its process; a new one shows it again, unless it cannot.
+/// The render process has crashed: loads the page again, unless the crash happened while loading.
 void ReportView::processEnded()
 {
     if (m_loaded)

@@ -39,12 +39,12 @@ private:
     void processEnded();
 
     const QString m_imageFolder;
-    QTemporaryDir m_folder; // of what is shown
+    QTemporaryDir m_folder; // of the page's file
     int m_file = 0;
     QPointer<QWebEngineView> m_view;
     QPointer<ReportPage> m_page;
     Loaded m_loaded;
-    QString m_bodyScript; // what replaced the body since the load
+    QString m_bodyScript; // replaced the body since the last load
     QPageLayout m_paper;
 };
 

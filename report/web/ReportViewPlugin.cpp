@@ -7,7 +7,7 @@
 #include <QQuickWindow>
 
 QT_BEGIN_NAMESPACE
-// Qt Gui has it for the web engine; no header of the public ones declares it.
+// Exported by Qt Gui for the web engine, but not declared in any public header.
 Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext *context);
 QT_END_NAMESPACE
 
@@ -17,8 +17,8 @@ namespace vantrell
 namespace
 {
 
-/// The engine takes for granted that the program shares contexts of OpenGL from its start on. It gets one
-/// now, so that only those who print load a driver. Where there is none, it draws without.
+/// The engine expects an OpenGL context that is shared since the program's start. Creating it here avoids
+/// loading a driver unless something is printed. Without OpenGL the engine renders in software.
 void shareContexts()
 {
     if (QOpenGLContext::globalShareContext())

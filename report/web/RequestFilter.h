@@ -7,17 +7,17 @@
 namespace vantrell
 {
 
-/// Lets a page have its own text and the pictures of one folder, and nothing else: no host, no other file,
-/// and the text only as what the page itself shows. Main thread.
+/// Allows a page to load its own document, as its main frame only, and the pictures of one folder; blocks all
+/// other files and the network. Main thread.
 class RequestFilter final : public QWebEngineUrlRequestInterceptor
 {
     Q_OBJECT
 
 public:
-    /// PNG files directly in the folder, an absolute path.
+    /// Allows the PNG files directly in the folder, an absolute path.
     explicit RequestFilter(const QString &imageFolder, QObject *parent = nullptr);
 
-    /// The file that the page shows from now on.
+    /// Sets the document that may be loaded.
     void setDocument(const QUrl &document) { m_document = document; }
 
     bool isOwnImage(const QUrl &url) const;

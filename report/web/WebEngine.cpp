@@ -23,7 +23,7 @@ constexpr const char *noSandboxName = "QTWEBENGINE_DISABLE_SANDBOX";
 std::optional<QByteArray> flagsBefore;
 bool isPrepared = false;
 
-/// Whether a process may have a name space of its own for users, in which the engine locks up its children.
+/// Whether a process may create a user namespace, which the sandbox of the engine needs.
 bool maySandbox()
 {
     const pid_t child = fork();
@@ -44,7 +44,7 @@ Result<void> prepare()
     if (isPrepared)
         return {};
     QByteArray flags = qgetenv(flagsName);
-    // No name of a host leads anywhere, nor does an address. Shared memory may be scarce in containers.
+    // No host name or address can be resolved. Shared memory may be scarce in containers.
     flags += " --disable-gpu --disable-dev-shm-usage --dns-prefetch-disable --disable-background-networking"
              " --host-resolver-rules=\"MAP * ~NOTFOUND\"";
     if (geteuid() == 0) {
@@ -59,7 +59,7 @@ Result<void> prepare()
     if (qEnvironmentVariableIsSet(flagsName))
         flagsBefore = qgetenv(flagsName);
     qputenv(flagsName, flags);
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false")); // how it was started
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false")); // logs the command line
     isPrepared = true;
     return {};
 }

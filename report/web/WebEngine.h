@@ -2,17 +2,17 @@
 
 #include "support/files/Result.h"
 
-/// What holds of the web engine in every program that uses it. Main thread.
+/// Set-up of the web engine, the same in every program that uses it. Main thread.
 namespace vantrell::WebEngine
 {
 
-/// To be called before anything of the engine is used. Sets, in the environment, how it starts: drawing
-/// without a graphics processor, reaching no host. For root alone it works without its sandbox, which a line
-/// on standard error says. A Failure when the system lets it have none, as it would then end the process.
+/// Must be called before the engine is used. Sets environment variables so that it starts without GPU
+/// rendering and without network access. Only root runs it without its sandbox, as a line on standard error
+/// says. Fails if the system allows no sandbox, since the engine would then abort the process.
 Result<void> prepare();
 
-/// Takes what prepare() set out of the environment again, so that no program started later sees it. Once the
-/// engine runs.
+/// Restores the environment, once the engine is running, so that programs started later do not inherit the
+/// changes of prepare().
 void restoreEnvironment();
 
 } // namespace vantrell::WebEngine

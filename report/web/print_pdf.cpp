@@ -53,29 +53,22 @@ std::optional<QPageSize> sizeNamed(const QString &name)
     return std::nullopt;
 }
 
-/// Nothing for wrong usage, after a message.
+/// Nothing, after a message, for wrong usage.
 std::optional<Order> orderOf(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Makes a PDF of a report."));
-    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("The report, in UTF-8."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption images(QStringLiteral("images"),
-                                    QStringLiteral("The folder of the pictures that it may show."),
-                                    QStringLiteral("FOLDER"));
-    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
-                                    QStringLiteral("The PDF."), QStringLiteral("OUTPUT"));
-    const QCommandLineOption paper(
-        QStringLiteral("paper"),
-        QStringLiteral("A4, Letter or another name; what the country uses unless given."),
-        QStringLiteral("NAME"), PaperSize::ofCountry());
-    const QCommandLineOption landscape(QStringLiteral("landscape"),
-                                       QStringLiteral("Turns the pages on their side."));
-    const QCommandLineOption margin(QStringLiteral("margin"),
-                                    QStringLiteral("The margins in millimetres; 15 unless given."),
-                                    QStringLiteral("MM"), QString::number(standardMargin));
-    const QCommandLineOption noNumbers(QStringLiteral("no-numbers"),
-                                       QStringLiteral("Leaves the pages without numbers."));
+    // answerOption() prints the help, so the options have no descriptions.
+    const auto option = [](const QStringList &names, const char *value, const QString &standard = {}) {
+        return QCommandLineOption(names, QString(), QString::fromLatin1(value), standard);
+    };
+    const QCommandLineOption html = option({QStringLiteral("html")}, "FILE");
+    const QCommandLineOption images = option({QStringLiteral("images")}, "FOLDER");
+    const QCommandLineOption output = option({QStringLiteral("o"), QStringLiteral("output")}, "OUTPUT");
+    const QCommandLineOption paper = option({QStringLiteral("paper")}, "NAME", PaperSize::ofCountry());
+    const QCommandLineOption margin =
+        option({QStringLiteral("margin")}, "MM", QString::number(standardMargin));
+    const QCommandLineOption landscape(QStringLiteral("landscape"));
+    const QCommandLineOption noNumbers(QStringLiteral("no-numbers"));
     parser.addOptions({html, images, output, paper, landscape, margin, noNumbers});
     if (!parser.parse(arguments)) {
         complain(parser.errorText());
@@ -112,7 +105,7 @@ Result<void> write(const QString &path, const QByteArray &pdf)
     return {};
 }
 
-/// Goes through the page's load, its heading, its pages and the file, and ends the program.
+/// Loads the page, reads its title, makes the PDF, writes it to the file and ends the program.
 class Printing
 {
 public:
@@ -122,7 +115,7 @@ public:
     {
         QObject::connect(&m_page, &QWebEnginePage::loadFinished, &m_page, [this](bool isLoaded) {
             if (std::exchange(m_hasLoaded, true))
-                return; // where the page tried to go to
+                return; // a blocked navigation of the page
             if (isLoaded)
                 readTitle();
             else
@@ -171,7 +164,7 @@ bool isOneOf(const char *argument, std::initializer_list<const char *> options)
                        [argument](const char *option) { return std::strcmp(argument, option) == 0; });
 }
 
-/// Answers what needs no web engine; false when there is nothing to answer.
+/// Handles the options that need no web engine; false for any other.
 bool answerOption(const char *option)
 {
     if (std::strcmp(option, "--version") == 0) {
@@ -201,11 +194,11 @@ bool answerOption(const char *option)
 
 int main(int argc, char **argv)
 {
-    // Whoever wants the PDF is waiting for it, or has gone.
+    // Without its parent nobody waits for the PDF.
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (argc == 2 && answerOption(argv[1]))
         return EXIT_SUCCESS;
-    std::setlocale(LC_ALL, ""); // says the country's paper
+    std::setlocale(LC_ALL, ""); // determines the paper size
     QCoreApplication::setApplicationName(QStringLiteral("vantrell-print-pdf"));
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -220,7 +213,7 @@ int main(int argc, char **argv)
         complain(prepared.message());
         return failed;
     }
-    int count = 1; // the application would look for options of its own among the others
+    int count = 1; // hides the arguments from the application, which has options of its own
     const QGuiApplication application(count, argv);
     const Printing printing(std::move(*order));
     return QCoreApplication::exec();

@@ -2,10 +2,10 @@
 
 #include "report/PrintHelper.h"
 #include "report/widgets/ReportOptions.h"
+#include "support/widgets/FilePanel.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -58,11 +58,6 @@ ReportFormat ExportReportSheet::format() const
     return ReportFormat(m_format->currentData().toInt());
 }
 
-void ExportReportSheet::setFormat(ReportFormat format)
-{
-    m_format->setCurrentIndex(m_format->findData(int(format)));
-}
-
 QString ExportReportSheet::extensionOf(ReportFormat format)
 {
     switch (format) {
@@ -79,22 +74,20 @@ QString ExportReportSheet::extensionOf(ReportFormat format)
 void ExportReportSheet::askForFile()
 {
     const QString extension = extensionOf(format());
-    auto *const dialog = new QFileDialog(
-        this, tr("Export Report"), m_folder,
-        QStringLiteral("%1 (*.%2 *.%3)").arg(m_format->currentText(), extension, extension.toUpper()));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setLabelText(QFileDialog::Accept, tr("Export"));
-    dialog->setDefaultSuffix(extension);
-    dialog->selectFile(QStringLiteral("%1.%2").arg(m_fileTitle, extension));
-    dialog->setWindowModality(Qt::WindowModal);
-    connect(dialog, &QFileDialog::accepted, this, [this, dialog] {
-        dialog->hide();
-        hide(); // an alert then is the window's only sheet
-        Q_EMIT chosen(dialog->selectedFiles().value(0), format());
-        accept();
-    });
-    dialog->open();
+    FilePanel::runForSaving(
+        {.window = this,
+         .title = tr("Export Report"),
+         .folder = m_folder,
+         .filter =
+             QStringLiteral("%1 (*.%2 *.%3)").arg(m_format->currentText(), extension, extension.toUpper()),
+         .extension = extension,
+         .proposedName = QStringLiteral("%1.%2").arg(m_fileTitle, extension),
+         .acceptLabel = tr("Export")},
+        [this](const QString &path) {
+            hide(); // an alert then is the window's only sheet
+            Q_EMIT chosen(path, format());
+            accept();
+        });
 }
 
 } // namespace vantrell

@@ -10,27 +10,25 @@ namespace vantrell
 class ReportGenerator;
 class UserDefaults;
 
-/// What a report is written as.
+/// The file formats of reports.
 enum class ReportFormat { Page, Pdf, Csv };
 
-/// The sheet that asks what a report shows and what it is written as, then where to. It deletes itself once
-/// it is closed. Main thread; the generator and the defaults outlive the sheet.
+/// The sheet that asks for the contents and the format of a report, and then for its file. Deletes itself
+/// when closed. Main thread; the generator and the defaults outlive the sheet.
 class ExportReportSheet final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `fileTitle` is the report's title unless the user gives it one, and what the file is named after; the
-    /// panel for the file begins in the folder.
+    /// `fileTitle` is the default title of the report and the proposed name of its file, in the given folder.
     ExportReportSheet(ReportGenerator &report, UserDefaults &defaults, const QString &fileTitle,
                       const QString &folder, QWidget *window);
 
     ReportFormat format() const;
-    void setFormat(ReportFormat format);
     static QString extensionOf(ReportFormat format);
 
 Q_SIGNALS:
-    /// The user has chosen.
+    /// The user has chosen a file.
     void chosen(const QString &path, vantrell::ReportFormat format);
 
 private:

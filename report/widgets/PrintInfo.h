@@ -11,41 +11,40 @@
 namespace vantrell
 {
 
-/// How and where a page is printed. What is printed begins at the top of the first page and is as wide as the
-/// margins leave room for.
+/// The settings of a print. Content starts at the top of the first page and fills the width between the
+/// margins.
 struct PrintInfo {
     QPageLayout layout;
     QString printer; ///< its name; null for a PDF file
     QString file;    ///< of the PDF
     int copies = 1;  ///< at most mostCopies
     QString jobTitle;
-    bool headerAndFooter = true; ///< the number at the foot of each page
+    bool headerAndFooter = true; ///< page numbers
 
-    /// The paper of the user's country, upright, with margins of 15 mm.
+    /// The paper of the user's country in portrait orientation, with margins of 15 mm.
     PrintInfo();
-    /// The same with what the dictionary says otherwise: "paper" (a size's name such as "A4"), "landscape",
-    /// "margin" (millimetres), "printer",
-    /// "file", "copies", "headerAndFooter". What makes no sense is passed over.
+    /// The same with the values of a dictionary: "paper" (a size name such as "A4"), "landscape", "margin"
+    /// (millimetres), "printer", "file", "copies", "headerAndFooter". Invalid values are ignored.
     explicit PrintInfo(const QVariantMap &settings);
 
-    /// The dictionary that makes the same settings, whatever the file.
+    /// The settings as such a dictionary, without the file.
     QVariantMap settings() const;
 
-    /// The same for the program that makes PDF files.
+    /// The page setup for the program that makes PDF files.
     PrintHelper::Pages pages() const;
 
-    /// The names of the papers that there are to choose from, those of the printing system too.
+    /// The names of the available paper sizes, as used by the printing system.
     static QStringList papers();
     QString paper() const { return layout.pageSize().key(); }
-    /// Nothing for a name that is none of those.
+    /// Any other name is ignored.
     void setPaper(const QString &paper);
 
     double margin() const; ///< millimetres
-    /// Within the limits below.
+    /// Limited to the range below.
     void setMargin(double millimetres);
 
     static constexpr int mostCopies = 999;
-    static constexpr double narrowestMargin = 5; ///< millimetres, which printers leave blank anyway
+    static constexpr double narrowestMargin = 5; ///< millimetres; printers cannot print closer to the edge
     static constexpr double widestMargin = 50;
 };
 

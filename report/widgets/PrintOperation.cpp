@@ -21,7 +21,7 @@ constexpr int spoolTimeoutMs = 10 * 60 * 1000;
 
 const QString sourceScript = QStringLiteral("'<!DOCTYPE html>' + document.documentElement.outerHTML");
 
-/// Hands the pages to the printing system as they are; they are turned already.
+/// Sends the pages, which already have the right orientation, to the printing system.
 Result<void> spool(const PrintInfo &info, const QByteArray &pdf, const std::function<bool()> &isCancelled)
 {
     const Result<TaskRunner::Output> run =

@@ -14,14 +14,14 @@ namespace vantrell
 
 class WebView;
 
-/// One page on its way to paper or into a PDF file. Another process lays it out, so that the window goes on
-/// meanwhile and a cancelled operation takes no more time. Main thread.
+/// Prints the page of a web view to a printer or a PDF file. The layout is done by another process, so that
+/// the window stays responsive and cancelling takes effect at once. Main thread.
 class PrintOperation final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes a PDF of the HTML, whole or not at all; gives up once `isCancelled` holds. Any thread.
+    /// Makes a PDF file of the HTML, atomically; gives up once `isCancelled` returns true. Any thread.
     using PdfMaker = std::function<Result<void>(const QByteArray &html, const QString &output,
                                                 const PrintHelper::Pages &pages,
                                                 const std::function<bool()> &isCancelled)>;
@@ -33,17 +33,17 @@ public:
     const PrintInfo &printInfo() const { return m_info; }
     void setPrintInfo(const PrintInfo &info) { m_info = info; }
 
-    /// Starts it; finished() tells the end. Once.
+    /// Called once; finished() reports the result.
     void run();
-    /// Ends it, if it has not ended: no file is changed then and nothing goes to the printer.
+    /// Cancels a running operation: no file is changed and nothing is sent to the printer.
     void cancel();
     bool isRunning() const { return m_state == State::Running; }
     bool isCancelled() const { return m_state == State::Cancelled; }
 
 Q_SIGNALS:
-    /// What is being done now, for the user.
+    /// The current step, for the user.
     void progressed(const QString &text);
-    /// A Failure says what went wrong, without a message when the operation was cancelled.
+    /// The failure has no message when the operation was cancelled.
     void finished(const vantrell::Result<void> &printed);
 
 private:

@@ -3,11 +3,11 @@
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/QVPrint.h"
 #include "report/widgets/QVPrintViewController.h"
+#include "support/widgets/FilePanel.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QFrame>
@@ -90,7 +90,7 @@ PrintPanel::PrintPanel(QVPrint &print, const QStringList &printers, QWidget *win
 
 PrintPanel::~PrintPanel()
 {
-    delete m_operation; // it works on the view
+    delete m_operation; // before the view is taken away
     m_print.hidePrintView();
 }
 
@@ -125,7 +125,7 @@ void PrintPanel::setPrintInfo(const PrintInfo &info)
                                            QSignalBlocker(m_paper), QSignalBlocker(m_orientation),
                                            QSignalBlocker(m_margin)};
         const int printer = info.printer.isNull() ? 0 : m_printer->findData(info.printer);
-        m_printer->setCurrentIndex(std::max(printer, 0)); // it may be gone
+        m_printer->setCurrentIndex(std::max(printer, 0)); // it may have been removed
         m_copies->setValue(info.copies);
         m_paper->setCurrentIndex(m_paper->findData(info.paper()));
         m_orientation->setCurrentIndex(m_orientation->findData(int(info.layout.orientation())));
@@ -167,18 +167,14 @@ void PrintPanel::print()
         run(info);
         return;
     }
-    auto *const dialog = new QFileDialog(this, tr("Save as PDF"), QFileInfo(m_proposedFile).path(),
-                                         tr("PDF files (*.pdf *.PDF)"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QStringLiteral("pdf"));
-    dialog->selectFile(QFileInfo(m_proposedFile).fileName());
-    dialog->setWindowModality(Qt::WindowModal);
-    connect(dialog, &QFileDialog::accepted, this, [this, dialog] {
-        dialog->hide();
-        printTo(dialog->selectedFiles().value(0));
-    });
-    dialog->open();
+    const QFileInfo proposed(m_proposedFile);
+    FilePanel::runForSaving({.window = this,
+                             .title = tr("Save as PDF"),
+                             .folder = proposed.path(),
+                             .filter = tr("PDF files (*.pdf *.PDF)"),
+                             .extension = QStringLiteral("pdf"),
+                             .proposedName = proposed.fileName()},
+                            [this](const QString &path) { printTo(path); });
 }
 
 void PrintPanel::printTo(const QString &file)

@@ -22,15 +22,14 @@ class PrintOperation;
 class QVPrint;
 class QVPrintViewController;
 
-/// The print panel: printer, copies and paper, an accessory pane of the program that prints, and a preview of
-/// the page that the shared web view shows. A sheet on its window; it deletes itself once it is closed. Main
-/// thread.
+/// The print panel: printer, copies and paper, an accessory pane, and the shared web view as preview. A sheet
+/// on its window that deletes itself when closed. Main thread.
 class PrintPanel final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The printers that there are to choose from besides the PDF file.
+    /// Offers the printers in addition to a PDF file.
     PrintPanel(QVPrint &print, const QStringList &printers, QWidget *window);
     ~PrintPanel() override;
 
@@ -39,21 +38,21 @@ public:
 
     void setPrintInfo(const PrintInfo &info);
     PrintInfo printInfo() const;
-    /// What gives the printed pages their title, asked when they are printed.
+    /// Sets the function that is called for the job title when printing starts.
     void setJobTitle(std::function<QString()> jobTitle) { m_jobTitle = std::move(jobTitle); }
-    /// Where the panel for the file of a PDF begins, and the name that it proposes.
+    /// Sets the folder and name that the file panel of a PDF proposes.
     void setProposedFile(const QString &path) { m_proposedFile = path; }
 
-    /// Shows the controller's view beside the preview, which follows it from now on.
+    /// Shows the controller's view beside the preview, which is updated with it from now on.
     void addAccessoryController(QVPrintViewController *controller);
 
-    /// Prints what the panel says: asks for a file first where that is a PDF.
+    /// Prints with the settings of the panel; asks for a file first if it is a PDF.
     void print();
-    /// What the panel for the file ends with.
+    /// Prints to a PDF file.
     void printTo(const QString &file);
 
 Q_SIGNALS:
-    /// The panel is over; the info says what was printed where.
+    /// The panel has closed; the info has the settings used.
     void ended(bool didPrint, const vantrell::PrintInfo &info);
 
 protected:

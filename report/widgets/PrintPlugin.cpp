@@ -37,7 +37,7 @@ Result<WebViewPlugin *> load()
     const QString path = find();
     if (path.isNull())
         return Failure{missingMessage()};
-    QPluginLoader loader(path); // which leaves the plug-in loaded
+    QPluginLoader loader(path); // its destructor does not unload the plug-in
     if (auto *const plugin = qobject_cast<WebViewPlugin *>(loader.instance()))
         return plugin;
     return Failure{QCoreApplication::translate("PrintPlugin",

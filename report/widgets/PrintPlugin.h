@@ -9,22 +9,22 @@ namespace vantrell
 
 class WebViewPlugin;
 
-/// The plug-in that shows and prints reports. It comes with the package "vantrell-print"; a program that
-/// never prints loads nothing of the web engine. Main thread.
+/// Loads the plug-in that shows and prints reports, which is part of the package "vantrell-print". A program
+/// that never prints does not load the web engine. Main thread.
 namespace PrintPlugin
 {
 
-/// Its path, ../lib/vantrell/plugins as seen from the folder of the running program; null when it is not
-/// installed.
+/// The path of the plug-in, in ../lib/vantrell/plugins relative to the folder of the running program; null
+/// when it is not installed.
 QString find();
 
-/// What a user is told when it is not there.
+/// The message for the user when it is not installed.
 QString missingMessage();
 
-/// Loads it once, for the life of the process.
+/// Loads the plug-in, which then stays loaded.
 Result<WebViewPlugin *> load();
 
-/// From now on load() gives this one, which lives longer than its use; null for the one that is installed.
+/// For tests: load() returns this plug-in from now on; null restores the installed one.
 void replace(WebViewPlugin *plugin);
 
 } // namespace PrintPlugin

@@ -14,8 +14,8 @@ namespace vantrell
 
 class PrintOperation;
 
-/// The sheet that shows how far a print operation is, cancels it, and says why it failed. It deletes itself
-/// once it is closed; the operation is cancelled then if it still runs. Main thread.
+/// The sheet that shows the progress of a print operation, or why it failed. Deletes itself when closed,
+/// which cancels a running operation. Main thread.
 class PrintProgress final : public QDialog
 {
     Q_OBJECT

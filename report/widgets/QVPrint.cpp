@@ -22,11 +22,11 @@ namespace vantrell
 namespace
 {
 
-constexpr int roundMs = 50; // of waiting for an event
+constexpr int roundMs = 50; // of waiting for events
 constexpr int windowSize = 10;
 const QString bodySourceScript = QStringLiteral("document.body.innerHTML");
 
-/// Dispatches events until `isDone` holds.
+/// Dispatches events until `isDone` returns true.
 template <typename Predicate>
 void waitUntil(const Predicate &isDone)
 {
@@ -61,7 +61,7 @@ Result<QVPrint *> QVPrint::sharedController(const QString &imageFolder)
                         if (program.isNull())
                             return Result<void>(Failure{PrintHelper::missingMessage()});
                         const auto write = [&html](QIODevice &device) {
-                            device.write(html); // whoever opened it looks at its errors
+                            device.write(html); // errors are checked by whoever opened the device
                             return Result<void>();
                         };
                         return PrintHelper::writePDF(program, write, imageFolder, output, pages, isCancelled);
@@ -102,7 +102,7 @@ bool QVPrint::setHTMLString(const QString &html)
         if (generation != m_generation)
             return;
         isLoaded = true;
-        // Not from within the engine, which does not expect events to be dispatched there.
+        // Queued: updating the preview dispatches events, which the engine does not expect here.
         QTimer::singleShot(0, this, &QVPrint::pageChanged);
     });
     ++m_loads;

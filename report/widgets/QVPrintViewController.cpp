@@ -19,7 +19,7 @@ void QVPrintViewController::updatePreview()
     m_dummyValue = !m_dummyValue;
     const NestedEvents nested;
     Q_EMIT dummyValueChanged();
-    // The user's input waits: it could end what the caller works on.
+    // User input could delete objects that the caller is using.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -1,14 +1,13 @@
 #include "report/widgets/ReportOptions.h"
 
 #include "report/ReportGenerator.h"
-#include "report/widgets/PrintColumnModel.h"
 #include "support/settings/UserDefaults.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
+#include <QListWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -21,7 +20,7 @@ namespace
 const QString projectTitleKey = QStringLiteral("projectTitle");
 const QString printColorLabelsKey = QStringLiteral("printColorLabels");
 
-// A report that takes longer than the first to make follows a title that is being typed after the second.
+// If generating the report takes longer than slowMs, it follows typing in the title after slowDelayMs.
 constexpr int slowMs = 30;
 constexpr int slowDelayMs = 400;
 
@@ -33,7 +32,7 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     , m_defaults(defaults)
     , m_title(new QLineEdit(this))
     , m_colorLabels(new QCheckBox(tr("Colour &labels behind marker names"), this))
-    , m_columns(new QListView(this))
+    , m_columns(new QListWidget(this))
     , m_titleDelay(new QTimer(this))
 {
     auto *const titleLabel = new QLabel(tr("Report &title"), this);
@@ -54,10 +53,16 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     auto *const columnsLabel = new QLabel(tr("&Columns"), this);
     columnsLabel->setBuddy(m_columns);
     m_columns->setAccessibleName(tr("Columns of the report"));
-    m_columns->setModel(new PrintColumnModel(report, m_columns));
+    for (const PrintColumn &column : report.printColumnArray()) {
+        auto *const item = new QListWidgetItem(column.title, m_columns);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        item->setCheckState(column.selected == 1 ? Qt::Checked : Qt::Unchecked);
+    }
     m_columns->setUniformItemSizes(true);
-    if (m_columns->model()->rowCount() > 0)
-        m_columns->setCurrentIndex(m_columns->model()->index(0, 0));
+    m_columns->setCurrentRow(0);
+    connect(m_columns, &QListWidget::itemChanged, this, [this, &report](const QListWidgetItem *item) {
+        report.setColumnSelected(std::size_t(m_columns->row(item)), item->checkState() == Qt::Checked);
+    });
 
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -83,7 +88,7 @@ void ReportOptions::showDefault(const QString &key)
     }
 }
 
-/// No text leaves the title to the file.
+/// Without text the title is that of the file.
 void ReportOptions::storeTitle()
 {
     m_titleDelay->stop();

@@ -4,7 +4,7 @@
 
 class QCheckBox;
 class QLineEdit;
-class QListView;
+class QListWidget;
 class QTimer;
 
 namespace vantrell
@@ -13,15 +13,15 @@ namespace vantrell
 class ReportGenerator;
 class UserDefaults;
 
-/// What a report shows, for the user to choose: its title, the labels of marker colours, and the columns.
-/// Title and labels are settings of the user, which are followed; all of them go to the report at once. Main
-/// thread; the generator and the defaults outlive the widget.
+/// The options of a report: title, labels of marker colours, and columns. Title and labels are kept in the
+/// user defaults; every change affects the report at once. Main thread; the generator and the defaults
+/// outlive the widget.
 class ReportOptions final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `fileTitle` is the report's title unless the user gives it one.
+    /// `fileTitle` is the default title of the report.
     ReportOptions(ReportGenerator &report, UserDefaults &defaults, const QString &fileTitle, QWidget *parent);
 
 private:
@@ -31,7 +31,7 @@ private:
     UserDefaults &m_defaults;
     QLineEdit *m_title;
     QCheckBox *m_colorLabels;
-    QListView *m_columns;
+    QListWidget *m_columns;
     QTimer *m_titleDelay;
 };
 

@@ -15,9 +15,9 @@ class QWidget;
 namespace vantrell
 {
 
-/// A page of HTML and what can be done with it. Nothing that the page itself asks for happens beyond showing
-/// it: it runs no script, loads nothing but the pictures of one folder and follows no link. Main thread; what
-/// is called back may come at any later time, and does not once the view is gone.
+/// A view of an HTML page. The page itself can only be shown: it runs no scripts, loads only the pictures of
+/// one folder and follows no links. Main thread; callbacks may be called at any later time, but not once the
+/// view is destroyed.
 class WebView
 {
 public:
@@ -25,26 +25,26 @@ public:
 
     virtual ~WebView() = default;
 
-    /// What shows the page; it belongs to whoever puts it into a window, and must outlive the view.
+    /// The widget of the page. It belongs to the window that it is put into and must outlive the view.
     virtual QWidget *widget() = 0;
 
-    /// Shows the whole document in place of what is shown; a load that still runs is given up without a word.
+    /// Loads a document; a running load is dropped without calling its callback.
     virtual void load(const QString &html, Loaded loaded) = 0;
-    /// Runs the script, which gives the page another body, and tells once the page has it.
+    /// Runs the script, which replaces the body of the page, and calls back when that is done.
     virtual void replaceBody(const QString &script, std::function<void()> replaced) = 0;
-    /// Runs a script where scripts of the page could not reach it, and hands on its value, null for none.
+    /// Runs a script separately from those of the page, and passes on its value, null for none.
     virtual void run(const QString &script, std::function<void(const QVariant &)> use) = 0;
-    /// Shows the page as wide as it is on paper, with the margins.
+    /// Shows the page as on that paper, with its margins.
     virtual void setPaper(const QPageLayout &paper) = 0;
 };
 
-/// What the plug-in of the package vantrell-print holds.
+/// The plug-in of the package vantrell-print.
 class WebViewPlugin
 {
 public:
     virtual ~WebViewPlugin() = default;
 
-    /// Starts the web engine if need be. The folder of the pictures is an absolute path.
+    /// Starts the web engine if necessary. The folder of the pictures is an absolute path.
     virtual Result<std::unique_ptr<WebView>> makeWebView(const QString &imageFolder) = 0;
 };
 

@@ -6,7 +6,7 @@
 namespace vantrell
 {
 
-/// An icon that stands in a window, drawn for the theme and the screen of the moment. Main thread.
+/// An icon in a window, drawn for the current theme and screen. Main thread.
 class SymbolView final : public QWidget
 {
     Q_OBJECT

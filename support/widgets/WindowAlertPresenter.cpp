@@ -34,8 +34,8 @@ bool isCancel(const QString &title)
     return title == QStringLiteral("Cancel") || title == QCoreApplication::translate("Alert", "Cancel");
 }
 
-/// The buttons in the places that the platform gives to their roles, each with its answer. Escape stands
-/// for "Cancel" where there is one, else for the alternate button, else for the default one.
+/// The buttons, in the order that the platform gives to their roles, each with its answer. Escape presses
+/// "Cancel" if there is one, else the alternate button, else the default one.
 std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescription &description)
 {
     std::map<QAbstractButton *, int> answers;
@@ -71,7 +71,7 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     return answers;
 }
 
-/// Both texts as they stand, whatever characters they hold.
+/// Both texts literally, even if they look like markup.
 void setTexts(QMessageBox &box, const AlertDescription &description)
 {
     box.setTextFormat(Qt::PlainText);

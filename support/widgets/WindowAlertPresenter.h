@@ -13,7 +13,7 @@ namespace vantrell
 
 class UserDefaults;
 
-/// A window as the parent of alerts. It may outlive the window: alerts for it then stand on their own.
+/// A window as the parent of alerts. It may outlive the window: alerts for it then have no parent.
 class WindowAlertParent final : public AlertParent
 {
 public:
@@ -41,8 +41,7 @@ public:
     }
     ~WindowAlertPresenter() override;
 
-    /// Gives the box the program's own icon: questions, news and warnings look alike, and the texts tell them
-    /// apart.
+    /// Gives the box the program's own icon, the same for questions, notices and warnings.
     static void setIcon(QMessageBox &box);
 
     AlertId begin(const AlertDescription &description, AlertParent *parent, Answer answered) override;

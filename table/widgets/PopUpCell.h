@@ -22,7 +22,7 @@ public:
 
 Q_SIGNALS:
     void chosen();
-    /// The list is closed; a choice is told after this.
+    /// The list was closed; a choice is reported after this.
     void popupHidden();
 
 private:

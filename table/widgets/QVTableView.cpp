@@ -45,11 +45,11 @@ char16_t characterOf(const QKeyEvent &event)
 bool isPopUp(const QModelIndex &index)
 {
     const auto *model = qobject_cast<const TableModel *>(index.model());
-    return model && model->cellOf(index.column()) == TableModel::Cell::PopUp &&
+    return model && model->columnAt(index.column()).kind == Column::Kind::PopUp &&
            model->flags(index).testFlag(Qt::ItemIsEditable);
 }
 
-/// Whether a click into the cell does something to its row by itself.
+/// Whether a click on the cell does more than select its row.
 bool actsOnClick(const QModelIndex &index)
 {
     return index.flags().testFlag(Qt::ItemIsUserCheckable) || isPopUp(index);
@@ -94,7 +94,7 @@ QMenu *QVTableView::menuForEvent(const QPoint &position)
 {
     const QModelIndex index = indexAt(position);
     if (index.isValid()) {
-        // Whatever keys are held, which setCurrentIndex() and selectRow() would look at.
+        // Unlike QTableView's setCurrentIndex() and selectRow(), whatever keys are held.
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
         selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }

@@ -42,13 +42,13 @@ public:
     void setKeyDownHandler(KeyHandler handler) { m_keyDown = std::move(handler); }
     void setKeyUpHandler(KeyHandler handler) { m_keyUp = std::move(handler); }
 
-    /// The context menu, which belongs to somebody else.
+    /// The context menu, which the table does not own.
     void setMenu(QMenu *menu) { m_menu = menu; }
     /// Selects the row at the position alone and gives the menu.
     QMenu *menuForEvent(const QPoint &position);
     QMenu *menu() const { return m_menu; }
 
-    /// What stands in the table while it has no rows.
+    /// Shown in the table while it has no rows.
     QString placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString &text);
 

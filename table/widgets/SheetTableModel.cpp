@@ -3,7 +3,7 @@
 namespace vantrell
 {
 
-SheetTableModel::SheetTableModel(TableColumns columns, QObject *parent)
+SheetTableModel::SheetTableModel(Columns columns, QObject *parent)
     : QAbstractTableModel(parent)
     , m_columns(std::move(columns))
 {

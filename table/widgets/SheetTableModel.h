@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rows/TableColumn.h"
+#include "rows/Column.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>
@@ -28,7 +28,7 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 protected:
-    SheetTableModel(TableColumns columns, QObject *parent);
+    SheetTableModel(Columns columns, QObject *parent);
 
     virtual int rows() const = 0;
     virtual QString text(int row, const QString &column) const = 0;
@@ -40,7 +40,7 @@ protected:
     virtual QString description(int row, int column) const;
 
 private:
-    TableColumns m_columns;
+    Columns m_columns;
 };
 
 } // namespace vantrell

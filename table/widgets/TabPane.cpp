@@ -34,29 +34,12 @@ constexpr int messageMs = 30000;
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 
-/// In characters of average width.
-int defaultWidth(const QString &column)
-{
-    static const QHash<QString, int> widths{
-        {QStringLiteral("filename"), 32},  {QStringLiteral("filetype"), 13},
-        {QStringLiteral("filesize"), 13},  {QStringLiteral("modDate"), 24},
-        {QStringLiteral("usageCount"), 9}, {QStringLiteral("missing"), 11},
-        {QStringLiteral("directory"), 40}, {QStringLiteral("enabled"), 11},
-        {QStringLiteral("name"), 28},      {QStringLiteral("effectType"), 13},
-        {QStringLiteral("mediaType"), 10}, {QStringLiteral("clip"), 32},
-        {QStringLiteral("sequence"), 34},  {QStringLiteral("color"), 7},
-        {QStringLiteral("comment"), 32},   {QStringLiteral("in"), 15},
-        {QStringLiteral("out"), 15},       {QStringLiteral("chapter"), 11},
-        {QStringLiteral("scoring"), 11},   {QStringLiteral("compression"), 16}};
-    return widths.value(column, 16);
-}
-
 QString layoutKey(Tab tab)
 {
     return TableSorting::prefixOf(tab) + QStringLiteral("ColumnLayout");
 }
 
-/// A cell's text in a line of texts.
+/// A cell's text on one line, without tabs.
 QString plain(QString text)
 {
     for (const char16_t separator : {u'\t', u'\n', u'\r'})
@@ -66,12 +49,11 @@ QString plain(QString text)
 
 } // namespace
 
-TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model,
-                 SortValueOfColumn sortValues, QWidget *parent)
+TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent)
     : QWidget(parent)
     , m_workbench(workbench)
     , m_defaults(defaults)
-    , m_sorting(workbench.document(), defaults, model->tab(), std::move(sortValues))
+    , m_sorting(workbench.document(), defaults, model->tab())
     , m_model(model)
     , m_table(new QVTableView(this))
     , m_controls(new QHBoxLayout)
@@ -86,20 +68,21 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
         const QScopedValueRollback<bool> edits(m_edits, true);
         const std::vector<std::size_t> selected = selectedRows();
-        // Of several rows only the first one moves to another owner: let it be the one that was clicked.
-        const bool moves = column == QStringLiteral("sequence") || column == QStringLiteral("clip");
-        const bool isSelected = moves
+        // An edit that writes to a single row writes to the one that was clicked.
+        const Column &edited = m_model->columnAt(m_model->columnOf(column));
+        const bool editsOne = edited.edits == Column::Edits::FirstRow;
+        const bool isSelected = editsOne
                                     ? !selected.empty() && selected.front() == std::size_t(row)
                                     : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
-        const bool isOneRow = moves || !isSelected;
+        const bool isOneRow = editsOne || !isSelected;
         if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
             return;
         if (!isSelected)
             selectRows({std::size_t(row)});
         commitEdit(row, column, text);
-        const std::vector<std::size_t> edited = selectedRows();
-        if (!edited.empty())
-            m_model->rowsChanged(int(edited.front()), int(edited.back()));
+        const std::vector<std::size_t> changed = selectedRows();
+        if (!changed.empty())
+            m_model->rowsChanged(int(changed.front()), int(changed.back()));
     });
     m_table->setModel(m_model);
     m_table->setItemDelegate(new TableDelegate(m_table));
@@ -135,6 +118,19 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     connect(m_table, &QVTableView::copyRequested, this, &TabPane::copySelection);
     connect(m_busyTimer, &QTimer::timeout, this, &TabPane::updateBusy);
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
+    const RowView &view = m_model->view();
+    connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
+    connect(&view, &RowView::didReload, this, &TabPane::tableDidReload);
+    connect(&view, &RowView::populatingChanged, this, &TabPane::setSpinning);
+    const MyDocument &document = m_workbench.document();
+    connect(&document, &MyDocument::labelChanged, this, [this](Label label, const QString &text) {
+        if (QLabel *widget = m_labels.value(label))
+            widget->setText(text);
+    });
+    connect(&document, &MyDocument::messageGiven, this, [this](Tab given, const QString &text) {
+        if (given == tab())
+            showMessage(text);
+    });
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
@@ -159,7 +155,7 @@ void TabPane::tableDidReload()
     if (m_reloads == 0 || --m_reloads > 0)
         return;
     m_model->didReload();
-    m_isFilled = m_workbench.document().tableTab() == tab();
+    m_isFilled = m_model->view().isVisible();
     if (m_isFilled)
         restoreRows();
     showSortIndicator();
@@ -170,7 +166,7 @@ void TabPane::tableDidReload()
 
 void TabPane::rememberRows()
 {
-    if (m_workbench.document().tableTab() != tab())
+    if (!m_model->view().isVisible())
         return;
     m_keptSelection.clear();
     for (const std::size_t row : selectedRows())
@@ -187,7 +183,7 @@ void TabPane::restoreRows()
     std::ptrdiff_t current = -1;
     if (!m_keptSelection.empty() || m_keptCurrent) {
         const std::unordered_set<RowRecordPtr> kept(m_keptSelection.begin(), m_keptSelection.end());
-        const RowList &rows = m_workbench.document().rowsOnShow(tab());
+        const RowList &rows = m_model->view().visibleRows();
         for (std::size_t row = 0; row < rows.size(); ++row) {
             if (kept.contains(rows[row]))
                 selected.push_back(row);
@@ -219,7 +215,7 @@ std::vector<std::size_t> TabPane::selectedRows() const
 
 void TabPane::selectRows(const std::vector<std::size_t> &rows)
 {
-    if (m_workbench.document().tableTab() != tab()) {
+    if (!m_model->view().isVisible()) {
         m_keptSelection.clear();
         return;
     }
@@ -235,7 +231,7 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
             selection.append(
                 QItemSelectionRange(m_model->index(int(first), 0), m_model->index(int(last), lastColumn)));
     }
-    // In two steps: what changes between two large selections is costly to tell.
+    // In two steps: it is costly to find out what changes between two large selections.
     QItemSelectionModel *selectionModel = m_table->selectionModel();
     const bool wasMuted = std::exchange(m_selectionMuted, true);
     selectionModel->clearSelection();
@@ -248,20 +244,20 @@ void TabPane::selectRows(const std::vector<std::size_t> &rows)
 bool TabPane::showsChoice(const std::vector<std::size_t> &rows, const QString &column,
                           const QString &item) const
 {
-    const int place = m_model->columnOf(column);
-    if (place < 0 || m_model->cellOf(place) != TableModel::Cell::PopUp)
+    const int section = m_model->columnOf(column);
+    if (section < 0 || m_model->columnAt(section).kind != Column::Kind::PopUp)
         return false;
     return std::all_of(rows.begin(), rows.end(), [&](std::size_t row) {
-        return m_model->index(int(row), place).data(Qt::EditRole).toString() == item;
+        return m_model->index(int(row), section).data(Qt::EditRole).toString() == item;
     });
 }
 
 void TabPane::editCell(std::size_t row, const QString &column)
 {
-    const int place = m_model->columnOf(column);
-    if (place < 0 || row >= std::size_t(m_model->rowCount()))
+    const int section = m_model->columnOf(column);
+    if (section < 0 || row >= std::size_t(m_model->rowCount()))
         return;
-    const QModelIndex index = m_model->index(int(row), place);
+    const QModelIndex index = m_model->index(int(row), section);
     m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(index);
     if (index.flags().testFlag(Qt::ItemIsEditable))
@@ -307,14 +303,13 @@ void TabPane::sortBy(const QString &identifier)
 
 void TabPane::clickHeader(int section)
 {
-    sortBy(m_model->identifierOf(section));
+    sortBy(m_model->columnAt(section).identifier);
 }
 
 std::optional<SortDescriptor> TabPane::shownSort() const
 {
-    const MyDocument &document = m_workbench.document();
-    const bool isSorted =
-        document.tableTab() == tab() && document.tableOrder() == MyDocument::RowOrder::Sorted;
+    const RowView &view = m_model->view();
+    const bool isSorted = view.isVisible() && view.order() == RowView::Order::Sorted;
     const auto &descriptors = m_sorting.descriptors();
     return isSorted && !descriptors.empty() ? std::optional(descriptors.front()) : std::nullopt;
 }
@@ -333,24 +328,24 @@ QStringList TabPane::columns() const
 {
     const QHeaderView *header = m_table->horizontalHeader();
     QStringList identifiers;
-    for (int place = 0; place < m_model->columnCount(); ++place)
-        identifiers.append(m_model->identifierOf(header->logicalIndex(place)));
+    for (int position = 0; position < m_model->columnCount(); ++position)
+        identifiers.append(m_model->columnAt(header->logicalIndex(position)).identifier);
     return identifiers;
 }
 
-void TabPane::addColumn(const QString &identifier, const QString &title)
+void TabPane::addColumn(const Column &column)
 {
-    if (m_model->columnOf(identifier) >= 0) {
-        m_model->addColumn(identifier, title);
+    const QString &identifier = column.identifier;
+    const bool isPresent = m_model->columnOf(identifier) >= 0;
+    m_model->addColumn(column);
+    if (isPresent)
         return;
-    }
-    m_model->addColumn(identifier, title);
     m_table->setColumnWidth(m_model->columnOf(identifier),
                             m_storedWidths.value(identifier, usualWidth(identifier)));
     if (storedOrder().contains(identifier)) {
         restoreOrder();
     } else {
-        saveLayout(); // or it would stand elsewhere in a window that gets its columns in another order
+        saveLayout(); // or its position would differ in a window that adds its columns in another order
         m_newColumns.insert(identifier);
     }
     showSortIndicator();
@@ -371,11 +366,11 @@ void TabPane::moveColumn(const QString &identifier, int index)
 {
     if (!m_newColumns.remove(identifier))
         return;
-    placeColumn(identifier, index);
+    moveColumnTo(identifier, index);
     saveLayout();
 }
 
-void TabPane::placeColumn(const QString &identifier, int index)
+void TabPane::moveColumnTo(const QString &identifier, int index)
 {
     QHeaderView *header = m_table->horizontalHeader();
     const int column = m_model->columnOf(identifier);
@@ -391,20 +386,20 @@ void TabPane::moveSection(int section, int, int to)
         return;
     m_newColumns.clear();
     saveLayout(); // at once: other windows follow
-    columnMoved(m_model->identifierOf(section), to);
+    columnMoved(m_model->columnAt(section).identifier, to);
 }
 
 void TabPane::saveLayout()
 {
-    // Columns that are not there now, but may come back, stay behind those that they stood behind.
+    // Columns that are absent now, but may come back, stay after those that they followed.
     QStringList order = columns();
-    qsizetype place = 0;
+    qsizetype next = 0;
     for (const QString &identifier : storedOrder()) {
         const qsizetype present = order.indexOf(identifier);
         if (present < 0)
-            order.insert(place++, identifier);
+            order.insert(next++, identifier);
         else
-            place = present + 1;
+            next = present + 1;
     }
     QVariantList layout;
     for (const QString &identifier : order) {
@@ -431,13 +426,13 @@ QStringList TabPane::storedOrder() const
     return order;
 }
 
-/// Columns that the stored order does not know come last, as they stand.
+/// Columns that the stored order does not contain come last, in their present order.
 void TabPane::restoreOrder()
 {
-    int place = 0;
+    int position = 0;
     for (const QString &identifier : storedOrder()) {
         if (m_model->columnOf(identifier) >= 0)
-            placeColumn(identifier, place++);
+            moveColumnTo(identifier, position++);
     }
 }
 
@@ -450,15 +445,16 @@ void TabPane::applyDefaultsChange(const QString &key)
 }
 
 /// In pixels.
-int TabPane::usualWidth(const QString &column) const
+int TabPane::usualWidth(const QString &identifier) const
 {
-    return defaultWidth(column) * fontMetrics().averageCharWidth();
+    const Column *column = findColumn(m_model->columns(), identifier);
+    return (column ? *column : Column()).width * fontMetrics().averageCharWidth();
 }
 
 void TabPane::restoreLayout()
 {
     for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, usualWidth(m_model->identifierOf(column)));
+        m_table->setColumnWidth(column, usualWidth(m_model->columnAt(column).identifier));
     const QVariant stored = m_defaults.value(layoutKey(tab()));
     for (const QVariant &entry : stored.toList()) {
         const QString identifier = entry.toMap().value(identifierKey).toString();
@@ -519,12 +515,6 @@ QLabel *TabPane::makeLabel(Label label, QWidget *parent)
     return widget;
 }
 
-void TabPane::setLabel(Label label, const QString &text)
-{
-    if (QLabel *widget = m_labels.value(label))
-        widget->setText(text);
-}
-
 void TabPane::setSpinning(bool spinning)
 {
     m_spinning = spinning;
@@ -540,7 +530,7 @@ void TabPane::setSpinning(bool spinning)
 
 void TabPane::updateBusy()
 {
-    const std::size_t found = m_workbench.document().foundSoFar(tab());
+    const std::size_t found = m_model->view().foundSoFar();
     m_busyText->setText(m_spinning && found > 0 ? tr("%1 so far").arg(QLocale().toString(qulonglong(found)))
                                                 : QString());
     updatePlaceholder();
@@ -548,15 +538,15 @@ void TabPane::updateBusy()
 
 void TabPane::updatePlaceholder()
 {
-    const MyDocument &document = m_workbench.document();
+    const RowView &view = m_model->view();
     if (m_spinning)
-        m_table->setPlaceholder(loadingText(document.foundSoFar(tab())));
-    else if (!document.xmlDoc())
+        m_table->setPlaceholder(loadingText(view.foundSoFar()));
+    else if (!m_workbench.document().xmlDoc())
         m_table->setPlaceholder(tr("No project is loaded."));
     else if (!m_isFilled)
         m_table->setPlaceholder(QString());
     else
-        m_table->setPlaceholder(document.listOf(tab()).empty() ? emptyText() : filteredText());
+        m_table->setPlaceholder(view.list().empty() ? emptyText() : filteredText());
 }
 
 void TabPane::commitEdit(int, const QString &, const QString &) {}

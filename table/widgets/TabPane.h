@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
 #include "document/TableSorting.h"
 #include "rows/RowRecord.h"
 
@@ -30,8 +29,9 @@ class UserDefaults;
 class Workbench;
 
 /// One of the three panes of a document window: its table with the controls above and below it. The
-/// window makes all three, shows one, and hands on to them what the document asks of its interface. Main
-/// thread; the workbench and the defaults outlive the pane.
+/// window makes all three, shows one, and forwards to them what the document asks of its interface; they
+/// connect to the document's signals themselves. Main thread; the workbench and the defaults outlive the
+/// pane.
 class TabPane : public QWidget
 {
     Q_OBJECT
@@ -48,38 +48,23 @@ public:
 
     // What a document asks of its interface
 
-    /// Around an exchange of the rows on show, of whatever tab; always in pairs. Selected rows that are
-    /// still there, or are there again, stay selected.
-    void tableWillReload();
-    void tableDidReload();
-    /// Shows that the pane's inventory is being built, with the count of what was found so far.
-    void setSpinning(bool spinning);
-    /// Labels of other panes are passed over.
-    virtual void setLabel(Label label, const QString &text);
-    virtual void setSequenceMenu(const MenuPtr &) {}
-    virtual void setMarkerPresetMenu(const QStringList &, int) {}
-    virtual void setMarkerLabels(const QStringList &) {}
-    virtual void showMarkerPresetSheet() {}
-    virtual void hideMarkerPresetSheet() {}
-    virtual void setMediaChart(const std::vector<double> &) {}
-
-    /// Places among the rows on show, ascending; empty while another tab's rows are on show.
+    /// Indexes of visible rows, ascending; empty while another tab's rows are visible.
     std::vector<std::size_t> selectedRows() const;
     void selectRows(const std::vector<std::size_t> &rows);
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
-    const std::vector<SortDescriptor> &sortDescriptors() const { return m_sorting.descriptors(); }
-    /// What the rows on show are sorted by, which the arrow in the header tells; nothing while they stand as
-    /// the project has them.
+    /// What the visible rows are sorted by, as the arrow in the header shows; nothing while they are in
+    /// document order.
     std::optional<SortDescriptor> shownSort() const;
-    /// As a click on the column's title: sorts by it, and the other way round when it is sorted by it.
+    /// Does what a click on the column's title does: sorts by it, or reverses the order if the rows are
+    /// sorted by it already.
     void sortBy(const QString &identifier);
 
-    /// The columns by their identifiers as they stand from left to right, and changes to them. A column
-    /// that is there already gets the title. Where the stored layout has a place for a column it stands
-    /// there; moveColumn() moves only one that is new to the layout, and once.
+    /// The identifiers of the columns from left to right, and changes to them. Adding a column that is
+    /// present changes its title. The position of one that the stored layout contains comes from the layout;
+    /// moveColumn() moves only a column that is new to the layout, and only once.
     QStringList columns() const;
-    void addColumn(const QString &identifier, const QString &title);
+    void addColumn(const Column &column);
     void removeColumn(const QString &identifier);
     void moveColumn(const QString &identifier, int index);
 
@@ -88,7 +73,7 @@ public:
     /// Whether the project may be changed; false until all its inventories are there.
     virtual void setEditingEnabled(bool enabled);
 
-    /// Shows below the table, for a while, what was done.
+    /// Shows a message below the table for a while.
     void showMessage(const QString &text);
 
     /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout", which decides on
@@ -99,8 +84,8 @@ public:
     /// A setting that all documents share changed.
     virtual void applyDefaultsChange(const QString &key);
 
-    /// The selected rows as lines of texts with tabs between them, columns as they stand; copySelection()
-    /// puts them on the clipboard.
+    /// The selected rows, one a line: the texts of the columns from left to right, separated by tabs.
+    /// copySelection() copies them to the clipboard.
     QString selectionText() const;
 
 public Q_SLOTS:
@@ -111,8 +96,7 @@ Q_SIGNALS:
 
 protected:
     /// The model becomes the pane's.
-    TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, SortValueOfColumn sortValues,
-            QWidget *parent);
+    TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent);
 
     Workbench &workbench() const { return m_workbench; }
     /// Puts the controls above the table, from the left, with a gap where one is null; the keyboard reaches
@@ -120,34 +104,37 @@ protected:
     void addControls(std::initializer_list<QWidget *> controls);
     /// Below the table.
     QVBoxLayout &footer() const { return *m_footer; }
-    /// A line of text below the table that the label's texts go to.
+    /// A line below the table that shows the label's text.
     QLabel *makeLabel(Label label, QWidget *parent);
     QLabel *labelOf(Label label) const { return m_labels.value(label); }
     bool isEditingEnabled() const { return m_editingEnabled; }
 
     /// A cell was edited: writes it into the project. The row is selected.
     virtual void commitEdit(int row, const QString &column, const QString &text);
-    /// The user moved a column; the index is its new place.
+    /// The user moved a column; the index is its new position from the left.
     virtual void columnMoved(const QString &, int) {}
-    /// What showMessage() shows, for a pane with a line of text of its own; empty once it has stood long
-    /// enough.
+    /// Shows the text of showMessage(), empty when its time is up. A pane with a status line of its own
+    /// overrides it.
     virtual void setMessage(const QString &text);
     /// The selection or the rows changed.
     virtual void updateControls() {}
-    /// What stands in a table without rows: while all is read, and when the list is empty.
+    /// Shown in a table without rows: during a load, and when the list is empty.
     virtual QString loadingText(std::size_t found) const = 0;
     virtual QString emptyText() const = 0;
-    /// When the list is not empty but the filters leave nothing of it.
+    /// When the list is not empty but no row passes the filters.
     virtual QString filteredText() const = 0;
 
 private:
+    void tableWillReload();
+    void tableDidReload();
+    void setSpinning(bool spinning);
     bool showsChoice(const std::vector<std::size_t> &rows, const QString &column, const QString &item) const;
     void clickHeader(int section);
     void showSortIndicator();
     QStringList storedOrder() const;
     void restoreOrder();
-    void placeColumn(const QString &identifier, int index);
-    int usualWidth(const QString &column) const;
+    void moveColumnTo(const QString &identifier, int index);
+    int usualWidth(const QString &identifier) const;
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void updateBusy();
@@ -168,7 +155,7 @@ private:
     QLabel *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
-    QSet<QString> m_newColumns;         // added where nobody had placed them
+    QSet<QString> m_newColumns;         // added without a position in the stored layout
     QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
 
     bool m_spinning = false;
@@ -176,8 +163,8 @@ private:
     bool m_isFilled = false;     // the table has got the rows of its list
     bool m_movesColumns = false; // by the program
     bool m_storesLayout = false;
-    bool m_edits = false; // a cell's edit is being carried out
-    int m_reloads = 0;    // begun and not ended
+    bool m_edits = false; // an edit of a cell is in progress
+    int m_reloads = 0;    // in progress
     bool m_selectionMuted = false;
     RowList m_keptSelection;
     RowRecordPtr m_keptCurrent;

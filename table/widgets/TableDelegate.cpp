@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QSet>
 #include <QStyle>
 #include <QTimer>
 
@@ -28,9 +27,9 @@ const TableModel &modelOf(const QModelIndex &index)
     return *static_cast<const TableModel *>(index.model());
 }
 
-TableModel::Cell cellOf(const QModelIndex &index)
+const Column &columnOf(const QModelIndex &index)
 {
-    return modelOf(index).cellOf(index.column());
+    return modelOf(index).columnAt(index.column());
 }
 
 QStyle &styleOf(const QStyleOptionViewItem &option)
@@ -46,7 +45,7 @@ QRect checkBoxRect(const QStyleOptionViewItem &option)
     return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
 }
 
-/// The edge of a box on a dark ground, where most styles draw none that can be seen.
+/// The frame of a check box on a dark background, where that of most styles cannot be seen.
 void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
 {
     QColor ink = box.palette.color(QPalette::Text);
@@ -59,7 +58,7 @@ void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
     painter->restore();
 }
 
-/// The mark of the current cell around all of it.
+/// Frames the whole current cell.
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
 {
     QStyleOptionFocusRect focus;
@@ -71,35 +70,27 @@ void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect
     styleOf(cell).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, cell.widget);
 }
 
-/// Names whose beginning and end both tell them apart.
-bool isLeaf(const QString &column)
-{
-    static const QSet<QString> columns{QStringLiteral("filename"), QStringLiteral("directory"),
-                                       QStringLiteral("clip"), QStringLiteral("sequence")};
-    return columns.contains(column);
-}
-
 } // namespace
 
 void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->decorationSize = QSize(iconSide, iconSide);
-    if (isLeaf(modelOf(index).identifierOf(index.column())))
+    if (columnOf(index).elidesMiddle)
         option->textElideMode = Qt::ElideMiddle;
 }
 
 void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
-    switch (cellOf(index)) {
-    case TableModel::Cell::CheckBox:
+    switch (columnOf(index).kind) {
+    case Column::Kind::CheckBox:
         paintCheckBox(painter, option, index);
         break;
-    case TableModel::Cell::PopUp:
+    case Column::Kind::PopUp:
         paintPopUp(painter, option, index);
         break;
-    case TableModel::Cell::Text:
+    case Column::Kind::Text:
         QStyledItemDelegate::paint(painter, option, index);
         break;
     }
@@ -134,7 +125,7 @@ void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &op
     const QRect whole = cell.rect;
     const int arrow = iconSide / 2;
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 2;
-    // The background goes over the whole cell; icon and text leave the arrow its place.
+    // The background goes over the whole cell; icon and text leave room for the arrow.
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
     cell.rect.adjust(0, 0, -(arrow + 2 * margin), 0);
     cell.backgroundBrush = QBrush();
@@ -162,9 +153,9 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
                                      const QModelIndex &index) const
 {
     QWidget *editor = nullptr;
-    if (cellOf(index) == TableModel::Cell::PopUp) {
+    if (columnOf(index).kind == Column::Kind::PopUp) {
         editor = createPopUp(parent, index);
-    } else if (cellOf(index) == TableModel::Cell::Text) {
+    } else if (columnOf(index).kind == Column::Kind::Text) {
         auto *field = new QLineEdit(parent);
         field->setMaxLength(std::numeric_limits<int>::max()); // or a long text would lose its end
         field->setText(index.data(Qt::EditRole).toString());
@@ -172,7 +163,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = field;
     }
     if (editor)
-        editor->setAccessibleName(modelOf(index).columnName(index.column()));
+        editor->setAccessibleName(columnOf(index).name);
     return editor;
 }
 
@@ -187,7 +178,7 @@ QWidget *TableDelegate::createPopUp(QWidget *parent, const QModelIndex &index) c
     auto *self = const_cast<TableDelegate *>(this);
     connect(list, &PopUpCell::chosen, self, [self, list] {
         Q_EMIT self->commitData(list);
-        // An edit that exchanges the rows has closed it already.
+        // An edit that replaces the rows has closed it already.
         if (!list->isHidden())
             Q_EMIT self->closeEditor(list);
     });
@@ -222,7 +213,7 @@ void TableDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionView
     editor->setGeometry(option.rect);
 }
 
-/// A pop-up cell is closed by its list, not by the focus, which goes to and fro between the two.
+/// A pop-up cell is closed by its list, not by the focus, which changes between the two.
 bool TableDelegate::eventFilter(QObject *object, QEvent *event)
 {
     const bool isFocus = event->type() == QEvent::FocusOut || event->type() == QEvent::Hide;

@@ -3,82 +3,50 @@
 #include <QLocale>
 #include <QTextDocument>
 
-#include <algorithm>
-
 namespace vantrell
 {
 
-namespace
-{
-
-QString textOf(const RecordValue &value)
-{
-    if (const auto *text = std::get_if<QString>(&value))
-        return *text;
-    if (const auto *integer = std::get_if<std::int64_t>(&value))
-        return QString::number(*integer);
-    if (const auto *number = std::get_if<double>(&value))
-        return QString::number(*number);
-    if (const auto *date = std::get_if<QDateTime>(&value))
-        return QLocale().toString(date->toLocalTime(), QLocale::ShortFormat);
-    return QString();
-}
-
-} // namespace
-
-TableModel::TableModel(MyDocument &document, Tab tab, TableColumns columns, QObject *parent)
+TableModel::TableModel(MyDocument &document, Tab tab, QObject *parent)
     : QAbstractTableModel(parent)
     , m_document(document)
     , m_tab(tab)
-    , m_columns(std::move(columns))
+    , m_columns(view().columns())
 {
-    for (const TableColumn &column : m_columns)
-        m_keys.push_back(RecordKey(column.identifier));
 }
 
 int TableModel::columnOf(const QString &identifier) const
 {
-    const auto found =
-        std::find_if(m_columns.begin(), m_columns.end(),
-                     [&identifier](const TableColumn &column) { return column.identifier == identifier; });
-    return found == m_columns.end() ? -1 : int(found - m_columns.begin());
+    const Column *found = findColumn(m_columns, identifier);
+    return found ? int(found - m_columns.data()) : -1;
 }
 
-QString TableModel::columnName(int column) const
+void TableModel::addColumn(const Column &column)
 {
-    const QVariant name = headerData(column, Qt::Horizontal, Qt::AccessibleTextRole);
-    return name.isValid() ? name.toString() : headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-}
-
-void TableModel::addColumn(const QString &identifier, const QString &title)
-{
-    const int present = columnOf(identifier);
+    const int present = columnOf(column.identifier);
     if (present >= 0) {
-        m_columns[std::size_t(present)].title = title;
+        m_columns[std::size_t(present)] = column;
         Q_EMIT headerDataChanged(Qt::Horizontal, present, present);
         return;
     }
-    const int place = int(m_columns.size());
-    beginInsertColumns(QModelIndex(), place, place);
-    m_columns.push_back({identifier, title});
-    m_keys.push_back(RecordKey(identifier));
+    const int index = int(m_columns.size());
+    beginInsertColumns(QModelIndex(), index, index);
+    m_columns.push_back(column);
     endInsertColumns();
 }
 
 void TableModel::removeColumn(const QString &identifier)
 {
-    const int place = columnOf(identifier);
-    if (place < 0)
+    const int index = columnOf(identifier);
+    if (index < 0)
         return;
-    beginRemoveColumns(QModelIndex(), place, place);
-    m_columns.erase(m_columns.begin() + place);
-    m_keys.erase(m_keys.begin() + place);
+    beginRemoveColumns(QModelIndex(), index, index);
+    m_columns.erase(m_columns.begin() + index);
     endRemoveColumns();
 }
 
 const RowRecordPtr &TableModel::recordAt(int row) const
 {
-    return m_document.rowsOnShow(m_tab)[std::size_t(row)];
+    return view().visibleRows()[std::size_t(row)];
 }
 
 void TableModel::willReload()
@@ -99,8 +67,9 @@ void TableModel::rowsChanged(int first, int last)
 
 QString TableModel::cellText(const QModelIndex &index) const
 {
-    if (cellOf(index.column()) == Cell::CheckBox)
-        return isChecked(*recordAt(index.row()), index.column()) ? QStringLiteral("1") : QStringLiteral("0");
+    const Column &column = columnAt(index.column());
+    if (column.kind == Column::Kind::CheckBox)
+        return isChecked(*recordAt(index.row()), column) ? QStringLiteral("1") : QStringLiteral("0");
     return data(index, Qt::AccessibleTextRole).toString();
 }
 
@@ -120,7 +89,7 @@ bool TableModel::contains(const QModelIndex &index) const
 
 int TableModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_document.rowsOnShow(m_tab).size());
+    return parent.isValid() ? 0 : int(view().visibleRows().size());
 }
 
 int TableModel::columnCount(const QModelIndex &parent) const
@@ -132,10 +101,13 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return QVariant();
+    const Column &column = columnAt(section);
     if (role == Qt::DisplayRole)
-        return m_columns[std::size_t(section)].title;
+        return column.title;
+    if (column.title.isEmpty() && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
+        return column.name;
     if (role == Qt::TextAlignmentRole)
-        return QVariant(alignment(section));
+        return QVariant(column.alignment | Qt::AlignVCenter);
     return QVariant();
 }
 
@@ -144,8 +116,9 @@ Qt::ItemFlags TableModel::flags(const QModelIndex &index) const
     if (!contains(index))
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    if (m_editingEnabled && isEditable(index.column()))
-        flags |= cellOf(index.column()) == Cell::CheckBox ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
+    const Column &column = columnAt(index.column());
+    if (m_editingEnabled && column.edits != Column::Edits::Nothing)
+        flags |= column.kind == Column::Kind::CheckBox ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
     return flags;
 }
 
@@ -154,19 +127,19 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     if (!contains(index))
         return QVariant();
     const RowRecord &record = *recordAt(index.row());
-    const int column = index.column();
-    const Cell cell = cellOf(column);
+    const Column &column = columnAt(index.column());
+    const bool isCheckBox = column.kind == Column::Kind::CheckBox;
     switch (role) {
     case Qt::DisplayRole:
-        return cell == Cell::CheckBox ? QVariant() : QVariant(text(record, column));
+        return isCheckBox ? QVariant() : QVariant(text(record, column));
     case Qt::AccessibleTextRole:
         return text(record, column);
     case Qt::EditRole:
-        if (cell == Cell::PopUp)
+        if (column.kind == Column::Kind::PopUp)
             return popUpIndex(record, column);
-        return cell == Cell::CheckBox ? QVariant() : QVariant(text(record, column));
+        return isCheckBox ? QVariant() : QVariant(text(record, column));
     case Qt::CheckStateRole:
-        if (cell != Cell::CheckBox)
+        if (!isCheckBox)
             return QVariant();
         return int(isChecked(record, column) ? Qt::Checked : Qt::Unchecked);
     case Qt::DecorationRole: {
@@ -174,12 +147,12 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return image.isNull() ? QVariant() : QVariant(image);
     }
     case Qt::ToolTipRole: {
-        // What the project holds is shown as it stands, whatever it looks like.
-        const QString tip = toolTip(record, column);
+        // Texts of the project are shown literally, even those that look like markup.
+        const QString tip = column.hasToolTip ? toolTip(record, column) : QString();
         return tip.isEmpty() ? QVariant() : QVariant(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
     }
     case Qt::TextAlignmentRole:
-        return QVariant(alignment(column));
+        return QVariant(column.alignment | Qt::AlignVCenter);
     default:
         return QVariant();
     }
@@ -191,7 +164,7 @@ bool TableModel::setData(const QModelIndex &index, const QVariant &value, int ro
         return false;
     const Qt::ItemFlags can = flags(index);
     // The edit may remove the column or the row: nothing of the index is used after it.
-    const QString column = identifierOf(index.column());
+    const QString column = columnAt(index.column()).identifier;
     if (role == Qt::CheckStateRole && can.testFlag(Qt::ItemIsUserCheckable)) {
         const bool on = value.toInt() == Qt::Checked;
         m_edit(index.row(), column, on ? QStringLiteral("1") : QStringLiteral("0"));
@@ -204,10 +177,19 @@ bool TableModel::setData(const QModelIndex &index, const QVariant &value, int ro
     return false;
 }
 
-QString TableModel::text(const RowRecord &record, int column) const
+bool TableModel::isChecked(const RowRecord &record, const Column &column)
 {
-    const RecordValue *value = record.find(m_keys[std::size_t(column)]);
-    return value ? textOf(*value) : QString();
+    const RecordValue *value = record.find(column.key);
+    return value && (*value == RecordValue(true) || *value == RecordValue(std::int64_t(1)));
+}
+
+QString TableModel::text(const RowRecord &record, const Column &column) const
+{
+    if (column.kind == Column::Kind::CheckBox)
+        return isChecked(record, column) ? tr("on") : tr("off");
+    const RecordValue *value = record.find(column.key);
+    const auto *date = value ? std::get_if<QDateTime>(value) : nullptr;
+    return date ? QLocale().toString(date->toLocalTime(), QLocale::ShortFormat) : column.textOf(record);
 }
 
 } // namespace vantrell

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/MyDocument.h"
-#include "rows/TableColumn.h"
+#include "rows/Column.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>
@@ -20,38 +20,35 @@ struct PopUpItem {
     bool isEnabled = true; ///< can be chosen
 };
 
-/// A table over the document's rows on show while those are its tab's, and without rows otherwise. Cells
-/// are edited through the function that the owner gives; the model changes no record. Main thread; the
-/// document outlives the model.
+/// A table of the visible rows of its tab, which has none while another tab's are visible. Cells are edited
+/// through the function that the owner sets; the model changes no record. Main thread; the document outlives
+/// the model.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum class Cell { Text, CheckBox, PopUp };
-
-    /// Writes what was typed or chosen: a text, "1" or "0" of a check box, the place in a pop-up menu.
+    /// Writes what was typed or chosen: a text, "1" or "0" of a check box, the index in a pop-up menu.
     using Edit = std::function<void(int row, const QString &column, const QString &text)>;
 
     Tab tab() const { return m_tab; }
     MyDocument &document() const { return m_document; }
+    RowView &view() const { return m_document.rowView(m_tab); }
 
-    // Columns, in the order of their making
+    // Columns, in the order in which they were added
 
-    const TableColumns &columns() const { return m_columns; }
-    /// -1 for one that is not there.
+    const Columns &columns() const { return m_columns; }
+    const Column &columnAt(int column) const { return m_columns[std::size_t(column)]; }
+    /// -1 when there is no such column.
     int columnOf(const QString &identifier) const;
-    /// What a column is called where its title may be empty.
-    QString columnName(int column) const;
-    const QString &identifierOf(int column) const { return m_columns[std::size_t(column)].identifier; }
-    /// A column that is there already gets the title.
-    void addColumn(const QString &identifier, const QString &title);
+    /// Changes the title of a column that is present.
+    void addColumn(const Column &column);
     void removeColumn(const QString &identifier);
 
     // Rows
 
     const RowRecordPtr &recordAt(int row) const;
-    /// Around an exchange of the rows on show.
+    /// Before and after the visible rows are replaced.
     void willReload();
     void didReload();
     /// The records of these rows changed.
@@ -59,10 +56,9 @@ public:
 
     // Cells
 
-    virtual Cell cellOf(int column) const = 0;
     /// The choices of a pop-up cell.
     virtual std::vector<PopUpItem> popUpItems(const QModelIndex &) const { return {}; }
-    /// The text of the cell in a line of texts.
+    /// The text of the cell as it is copied and read aloud; "1" or "0" of a check box.
     QString cellText(const QModelIndex &index) const;
 
     void setEdit(Edit edit) { m_edit = std::move(edit); }
@@ -77,24 +73,26 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 protected:
-    TableModel(MyDocument &document, Tab tab, TableColumns columns, QObject *parent);
+    /// With the columns of the tab's view.
+    TableModel(MyDocument &document, Tab tab, QObject *parent);
 
-    virtual bool isEditable(int) const { return false; }
-    /// Whether a check box is ticked; the place of a pop-up cell's choice, -1 for none.
-    virtual bool isChecked(const RowRecord &, int) const { return false; }
-    virtual int popUpIndex(const RowRecord &, int) const { return -1; }
-    virtual QString text(const RowRecord &record, int column) const;
-    virtual QIcon icon(const RowRecord &, int) const { return QIcon(); }
-    virtual QString toolTip(const RowRecord &, int) const { return QString(); }
-    virtual Qt::Alignment alignment(int) const { return Qt::AlignLeft | Qt::AlignVCenter; }
+    static bool isChecked(const RowRecord &record, const Column &column);
+    /// The index of a pop-up cell's choice, -1 for none.
+    virtual int popUpIndex(const RowRecord &, const Column &) const { return -1; }
+    virtual QString text(const RowRecord &record, const Column &column) const;
+    virtual QIcon icon(const RowRecord &, const Column &) const { return QIcon(); }
+    /// Of a column that has tool tips.
+    virtual QString toolTip(const RowRecord &record, const Column &column) const
+    {
+        return column.textOf(record);
+    }
 
 private:
     bool contains(const QModelIndex &index) const;
 
     MyDocument &m_document;
     Tab m_tab;
-    TableColumns m_columns;
-    std::vector<RecordKey> m_keys; // of the columns
+    Columns m_columns;
     Edit m_edit;
     bool m_editingEnabled = false;
 };

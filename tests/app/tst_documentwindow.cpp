@@ -1,6 +1,6 @@
 #include "WindowTest.h"
 
-#include "document/TableUpdates.h"
+#include "document/MyDocument.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
 #include "interchange/widgets/MarkerListImport.h"
@@ -658,7 +658,7 @@ private Q_SLOTS:
         m_window->toolbarMarkers();
         MyDocument &document = *m_window->document();
         {
-            const TableUpdates updates(document);
+            const RowView::Updates updates(document.rowView(Tab::Markers));
             m_window->workbench().markerEditor().addMarkerWithName(QStringLiteral("AAA"), 7, -1, QString(),
                                                                    QStringLiteral("red"));
             m_window->pane(Tab::Markers).sortBy(QStringLiteral("name"));

@@ -2,10 +2,10 @@
 
 #include "bridge/EventCancel.h"
 #include "bridge/EventRecord.h"
-#include "bridge/EventWire.h"
 #include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
 #include "support/files/Descriptor.h"
+#include "tests/support/EventBytes.h"
 
 #include <QDir>
 #include <QFileInfo>

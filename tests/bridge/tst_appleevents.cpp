@@ -594,7 +594,7 @@ private Q_SLOTS:
         });
         QElapsedTimer timer;
         timer.start();
-        QVERIFY(!QVAppleEvents::getProjectXMLData(m_project, true, cancel));
+        QVERIFY(!QVAppleEvents::getProjectXMLData(m_project, true, false, cancel));
         QVERIFY(timer.elapsed() < 30'000);
         user.join();
     }

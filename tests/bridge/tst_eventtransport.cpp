@@ -1,6 +1,7 @@
 #include "bridge/EventCodes.h"
 #include "bridge/SocketEventTransport.h"
 #include "tests/bridge/ScriptedHost.h"
+#include "tests/support/EventBytes.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QElapsedTimer>

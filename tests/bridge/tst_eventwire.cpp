@@ -1,6 +1,6 @@
 #include "bridge/EventCodes.h"
-#include "bridge/EventWire.h"
 #include "bridge/FileReference.h"
+#include "tests/support/EventBytes.h"
 
 #include <QTest>
 

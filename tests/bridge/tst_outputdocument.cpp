@@ -36,6 +36,7 @@ class OutputDocumentTest : public QObject
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         document.readFromURL(QUrl::fromLocalFile(m_home.addFile(QStringLiteral("p.xml"), xml)),
                              DocumentType::publicXML);
         MainThread::drainUntil([&world] { return world.ended; });
@@ -224,6 +225,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         const QString source = m_home.addFile(
             QStringLiteral("p.xml"), "<xmeml>" + sequence("s", "<uuid>U</uuid><x>é</x>") + "</xmeml>");
         document.readFromURL(QUrl::fromLocalFile(source), DocumentType::publicXML);

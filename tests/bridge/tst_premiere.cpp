@@ -322,7 +322,7 @@ private Q_SLOTS:
         QElapsedTimer timer;
         timer.start();
         std::thread command([&] {
-            QVPremiereEvents::exportFCPXML(text("/x.xml"), cancel);
+            QVPremiereEvents::exportFCPXML(text("/x.xml"), true, cancel);
             hasEnded = true;
         });
         const auto hasBegun = [&] {

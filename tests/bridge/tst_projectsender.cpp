@@ -87,6 +87,7 @@ public:
     Project(const QString &path, const QStringList &changed, bool toPremiere = false)
         : document(world, services())
     {
+        world.watch(document);
         document.readFromURL(QUrl::fromLocalFile(path), DocumentType::publicXML);
         MainThread::drainUntil([this] { return world.ended; }, aMinute);
         world.events.clear();

@@ -1,11 +1,11 @@
 #include "bridge/EventCodes.h"
-#include "bridge/EventWire.h"
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
 #include "support/desktop/Workspace.h"
 #include "support/files/Descriptor.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "tests/support/EventBytes.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>

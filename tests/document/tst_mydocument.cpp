@@ -98,6 +98,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, xml);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, xml);
         QVERIFY(world.loaded);
         QTEST(qint64(document.xmlType()), "type");
@@ -133,6 +134,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, tracks);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence(tracks));
         const XmlNode element = document.sequenceMenu()->at(1).element;
         QTEST(titles(document.clipMenuForSequence(element)), "menu");
@@ -159,6 +161,7 @@ private Q_SLOTS:
         ScriptedDocumentInterface world;
         bool built = false;
         MyDocument document(world, {{[&built](MyDocument &) { built = true; }}, {}, {}});
+        world.watch(document);
         load(document, world, content, type);
         QVAlert::setPresenter(nullptr);
         QVERIFY(!world.loaded);
@@ -213,6 +216,7 @@ private Q_SLOTS:
         };
         ScriptedDocumentInterface world;
         MyDocument document(world, {{}, source, {}});
+        world.watch(document);
         document.setPremiereProject(true);
         load(document, world, "not looked at", DocumentType::finalCutProProject);
         QCOMPARE(asked, m_home.path(QStringLiteral("p/project.xml")));
@@ -237,6 +241,7 @@ private Q_SLOTS:
         {
             ScriptedDocumentInterface world;
             MyDocument document(world, {});
+            world.watch(document);
             QVERIFY(
                 document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
             QVERIFY(
@@ -258,6 +263,7 @@ private Q_SLOTS:
         services.closing = [&] { closed.set_value(); };
         ScriptedDocumentInterface world;
         MyDocument document(world, services);
+        world.watch(document);
         QVERIFY(document.readFromURL(QUrl::fromLocalFile(m_home.path()), DocumentType::finalCutProProject));
         QVERIFY(MainThread::drainUntil([&] { return isAsked.load(); }, std::chrono::seconds(40)));
         document.close();
@@ -269,6 +275,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         QVERIFY(!document.readFromURL(QUrl::fromLocalFile(m_home.path()), QStringLiteral("public.text")));
         QVERIFY(!document.isPopulating(Tab::Media));
     }
@@ -283,6 +290,7 @@ private Q_SLOTS:
                 std::this_thread::yield();
         };
         MyDocument document(world, {{builder, builder, builder}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QCOMPARE(arrived.load(), 3);
     }
@@ -303,6 +311,7 @@ private Q_SLOTS:
                     std::this_thread::yield();
             };
             MyDocument document(world, {{builder}, {}, {}});
+            world.watch(document);
             QVERIFY(document.readFromURL(QUrl::fromLocalFile(path), DocumentType::publicXML));
             MainThread::drainUntil([] { return false; }, std::chrono::milliseconds(delay));
             document.close();
@@ -322,6 +331,7 @@ private Q_SLOTS:
                                         end = std::move(ended);
                                         return isStarted;
                                     }});
+        world.watch(document);
         load(document, world, sequence("<video>\n<track/>\n</video>"));
         const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/out.xml")));
         QVERIFY(!document.writeToURL(target, DocumentType::finalCutProProject));
@@ -355,6 +365,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence("<video/>"));
         const QUrl target = QUrl::fromLocalFile(m_home.path(QStringLiteral("p/again.xml")));
         document.cancelWriting();
@@ -405,6 +416,7 @@ private Q_SLOTS:
         QFETCH(int, result);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         const auto change = [&document](const QString &uuids) {
             for (const QString &uuid : uuids.split(QLatin1Char(' '), Qt::SkipEmptyParts))
                 document.markSequenceModified(uuid);
@@ -430,6 +442,7 @@ private Q_SLOTS:
         QVAlert::setPresenter(alerts);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         const QByteArray damaged("<xmeml><project><name>A & B</name>");
         load(document, world, damaged);
         QVERIFY(world.notice.contains(QStringLiteral("repaired")));
@@ -470,6 +483,7 @@ private Q_SLOTS:
         QVAlert::setPresenter(alerts);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, "<xmeml/>");
         if (isRemembered)
             document.knownFile()->rememberContent();
@@ -506,15 +520,26 @@ private Q_SLOTS:
         QVERIFY(document.knownFile()->changeAt(path));
     }
 
-    void aRootInANamespaceIsTold()
+    void namespacesAreTold_data()
     {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("root") << QByteArray("<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>")
+                              << QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"");
+        QTest::newRow("content") << QByteArray("<xmeml><project xmlns=\"urn:y\"/></xmeml>")
+                                 << QStringLiteral("\"project\" is in the namespace \"urn:y\"");
+    }
+    void namespacesAreTold()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QString, told);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
-        load(document, world, "<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>");
+        world.watch(document);
+        load(document, world, xml);
         QVERIFY(world.loaded);
         QCOMPARE(titles(document.sequenceMenu()), QStringLiteral("(none)"));
-        QVERIFY2(world.notice.contains(QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"")),
-                 qPrintable(world.notice));
+        QVERIFY2(world.notice.contains(told), qPrintable(world.notice));
     }
 
     void loadsAndSavesWhereThereAreNoThreads()
@@ -525,6 +550,7 @@ private Q_SLOTS:
         int inventories = 0;
         const auto count = [&inventories](MyDocument &) { ++inventories; };
         MyDocument document(world, {{count, count}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QVERIFY(world.loaded && world.ended);
         QCOMPARE(inventories, 2);
@@ -546,6 +572,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         load(document, world, sequence(""));
         const QString path = m_home.path(QStringLiteral("p/failed.xml"));
         QStringList told;
@@ -565,20 +592,17 @@ private Q_SLOTS:
 
     void theEndOfTheLoadIsToldInSpiteOfAnException()
     {
-        struct Failing final : ScriptedDocumentInterface {
-            int failures = 3;
-            void loadFinished(bool wasLoaded, const QString &failure, const QString &loadNotice) override
-            {
-                if (failures-- > 0)
-                    throw std::bad_alloc();
-                ScriptedDocumentInterface::loadFinished(wasLoaded, failure, loadNotice);
-            }
-        };
-        Failing world;
+        ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        int failures = 3;
+        connect(&document, &MyDocument::loadFinished, &document, [&failures] {
+            if (failures-- > 0)
+                throw std::bad_alloc();
+        });
+        world.watch(document);
         load(document, world, sequence(""));
         QVERIFY(world.loaded && world.ended);
-        QCOMPARE(world.failures, -1);
+        QCOMPARE(failures, -1);
     }
 
     void anInventoryThatThrowsIsTold()
@@ -587,6 +611,7 @@ private Q_SLOTS:
         int others = 0;
         const auto fails = [](MyDocument &) { throw std::bad_alloc(); };
         MyDocument document(world, {{fails, [&others](MyDocument &) { ++others; }}, {}, {}});
+        world.watch(document);
         load(document, world, sequence(""));
         QVERIFY(world.loaded && world.ended);
         QCOMPARE(others, 1);
@@ -611,6 +636,7 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
+        world.watch(document);
         QVERIFY(!document.modifiedSequenceUUIDs());
         for (const char *uuid : {"B", "A", "B"})
             document.addModifiedSequenceUUID(QString::fromLatin1(uuid));
@@ -625,12 +651,13 @@ private Q_SLOTS:
     {
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
-        document.setTableArray(Tab::Markers, {std::make_shared<RowRecord>()});
-        document.appendToTableArray(std::make_shared<RowRecord>());
+        world.watch(document);
+        document.rowView(Tab::Markers).show({std::make_shared<RowRecord>()});
+        document.rowView(Tab::Markers).append(std::make_shared<RowRecord>());
         QCOMPARE(document.rowsOnShow(Tab::Markers).size(), std::size_t(2));
         QVERIFY(document.rowsOnShow(Tab::Media).empty());
         QCOMPARE(world.events.join(QLatin1Char('|')),
-                 QStringLiteral("will reload|did reload|will reload|did reload"));
+                 QStringLiteral("will reload|did reload|will reload|did reload|will reload|did reload"));
     }
 };
 

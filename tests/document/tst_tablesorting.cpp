@@ -42,6 +42,14 @@ RowList rowsOf(const QString &texts)
     return rows;
 }
 
+const Columns columns{
+    {.identifier = QStringLiteral("in"), .reversesWhole = true},
+    {.identifier = QStringLiteral("bad"),
+     .sortValue = [](const RowRecord &) -> std::optional<RecordValue> {
+         throw std::runtime_error("no such column");
+     }},
+};
+
 QString textsOf(const RowList &rows)
 {
     QStringList texts;
@@ -90,7 +98,9 @@ void TestTableSorting::clicks()
     }
     ScriptedDocumentInterface world;
     MyDocument document(world, {});
-    document.setTableArray(Tab::Markers, rowsOf(QStringLiteral("b2 c1 a2 d1")));
+    document.rowView(Tab::Markers).setFilter(columns, {});
+    world.watch(document);
+    document.rowView(Tab::Markers).show(rowsOf(QStringLiteral("b2 c1 a2 d1")));
     world.events.clear();
 
     TableSorting sorting(document, defaults, Tab::Markers);
@@ -113,17 +123,14 @@ void TestTableSorting::staysWithoutTheTable()
     UserDefaults defaults(QString(), UserDefaults::Access::Volatile);
     ScriptedDocumentInterface world;
     MyDocument document(world, {});
-    document.setTableArray(Tab::Media, rowsOf(QStringLiteral("b2 a1")));
+    document.rowView(Tab::Media).setFilter(columns, {});
+    document.rowView(Tab::Media).show(rowsOf(QStringLiteral("b2 a1")));
     TableSorting markers(document, defaults, Tab::Markers);
     markers.tableViewDidClickTableColumn(QStringLiteral("name"));
     QCOMPARE(document.tableTab(), Tab::Media);
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
 
-    TableSorting media(document, defaults, Tab::Media, [](const QString &column) -> SortValue {
-        if (column == QStringLiteral("bad"))
-            throw std::runtime_error("no such column");
-        return recordValueOfColumn(column);
-    });
+    TableSorting media(document, defaults, Tab::Media);
     media.tableViewDidClickTableColumn(QStringLiteral("bad"));
     QCOMPARE(textsOf(document.tableArray()), QStringLiteral("b2 a1"));
     QVERIFY(media.descriptors().empty());

@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(opened.world.selectedRows(Tab::Markers).size(), std::size_t(1));
 
         // The view is sorted backwards: row numbers are those of the view.
-        opened.world.setSortDescriptors(Tab::Effects, sortDescriptors("name:desc"));
+        opened.document.rowView(Tab::Effects).setSortDescriptors(sortDescriptors("name:desc"));
         opened.inventory.populateFilteredEffectData();
         QCOMPARE(opened.shownNames(), QStringLiteral("Z|On it|G|C|B|A"));
         opened.world.selectRows(Tab::Effects, {2, 3, 5, 99});

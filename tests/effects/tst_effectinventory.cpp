@@ -159,7 +159,7 @@ private Q_SLOTS:
                  filter("") + filter(named("Hum", "audio") + "<enabled>FALSE</enabled>")) +
             "<generatoritem>" + named("Text") + "</generatoritem>")));
         for (const Case &row : table) {
-            opened.world.setSortDescriptors(Tab::Effects, sortDescriptors(row.sort));
+            opened.document.rowView(Tab::Effects).setSortDescriptors(sortDescriptors(row.sort));
             ViewState &view = opened.document.viewState();
             view.effectType = row.type;
             view.effectShowDefaults = row.showDefaults;
@@ -206,7 +206,7 @@ private Q_SLOTS:
         EffectProject opened;
         opened.document.close();
         const RowList before{std::make_shared<RowRecord>()};
-        opened.document.setListOf(Tab::Effects, before);
+        opened.document.rowView(Tab::Effects).setList(before);
         std::thread([&opened] { opened.inventory.populateEffectData(); }).join();
         QVERIFY(opened.document.effectArray() == before);
         QVERIFY(!opened.document.isPopulating(Tab::Effects));

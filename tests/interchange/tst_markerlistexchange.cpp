@@ -144,7 +144,7 @@ private Q_SLOTS:
             marker->set(TimecodeKey::timebase, row.timebase);
             marker->set(TimecodeKey::dropFrame, row.dropFrame);
             marker->set(TimecodeKey::startFrame, row.startFrame);
-            project.document.setListOf(Tab::Markers, {marker, marker});
+            project.document.rowView(Tab::Markers).setList({marker, marker});
             QVERIFY(project.exporter.markerSaveDialogDidEnd(path, accepted, u"fcp"_s));
             QCOMPARE(contentOf(path), fcpHeader + row.fcp + row.fcp);
             QVERIFY(project.exporter.markerSaveDialogDidEnd(path, accepted, u"avid"_s));
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(contentOf(QVLog::availableLogs().value(0))
                     .contains(" - Error saving avid marker list: " + reason.toUtf8() + '\n'));
 
-        project.document.setPopulating(Tab::Markers, true);
+        project.document.rowView(Tab::Markers).setPopulating(true);
         QVERIFY(!project.importer.importFCPXMarkers() && !project.exporter.exportAvidLocators());
         expected +=
             QList<QString>(2, u"Markers are still loading: Please wait for markers to finish loading before "

@@ -250,7 +250,7 @@ private Q_SLOTS:
         QVERIFY(refuses([&] { p.editor.setXMLMarkerSequence(XmlNode(), clip, kept); }));
 
         // The rows of markers that went with their owner go, too.
-        p.document.setTableArray(Tab::Markers, p.document.markerArray());
+        p.document.rowView(Tab::Markers).show(p.document.markerArray());
         p.editor.dropRemovedMarkers();
         QCOMPARE(p.document.markerArray(), RowList{kept});
         QCOMPARE(p.document.rowsOnShow(Tab::Markers), RowList{kept});

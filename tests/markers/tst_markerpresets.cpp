@@ -32,6 +32,42 @@ QByteArray preset(const QString &changes, const QString &without = QString())
     return PropertyList::toBytes(labels, PropertyList::Format::Xml).value();
 }
 
+/// The presets of a project, and what they tell.
+struct Presets : LoadedProject {
+    explicit Presets(UserDefaults *defaults)
+        : presets(document, defaults)
+    {
+        QObject::connect(&presets, &MarkerPresets::menuChanged, &presets,
+                         [this](const QStringList &titles, int selected) {
+                             items = titles;
+                             chosen = selected;
+                         });
+        QObject::connect(&presets, &MarkerPresets::labelsChanged, &presets,
+                         [this](const QStringList &titles) { labels = titles.join(QLatin1Char(' ')); });
+        QObject::connect(&presets, &MarkerPresets::sheetRequested, &presets,
+                         [this] { sheets.append(QStringLiteral("requested")); });
+        QObject::connect(&presets, &MarkerPresets::sheetEnded, &presets,
+                         [this] { sheets.append(QStringLiteral("ended")); });
+    }
+    MarkerPresets *operator->() { return &presets; }
+
+    /// The items of the pop-up, with a star after the chosen one and "-" for the separator.
+    QString menu() const
+    {
+        QStringList texts;
+        for (int i = 0; i < items.size(); ++i)
+            texts.append((items[i].isNull() ? QStringLiteral("-") : items[i]) +
+                         (i == chosen ? QStringLiteral("*") : QString()));
+        return texts.join(QLatin1Char('|'));
+    }
+
+    MarkerPresets presets;
+    QStringList items;
+    int chosen = -1;
+    QString labels;
+    QStringList sheets;
+};
+
 } // namespace
 
 class MarkerPresetsTest : public QObject
@@ -52,22 +88,6 @@ class MarkerPresetsTest : public QObject
         return QDir(m_home->path(presetFolder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     QString selected() const { return m_defaults->string(selectedPreset); }
-
-    /// The items of the pop-up, with a star after the selected one and "-" for the separator.
-    static QString menu(const ScriptedDocumentInterface &world)
-    {
-        QStringList items;
-        for (int i = 0; i < world.presetMenu.size(); ++i) {
-            const QString &title = world.presetMenu.at(i);
-            items.append((title.isNull() ? QStringLiteral("-") : title) +
-                         (i == world.selectedPreset ? QStringLiteral("*") : QString()));
-        }
-        return items.join(QLatin1Char('|'));
-    }
-    static QString labels(const ScriptedDocumentInterface &world)
-    {
-        return world.markerLabels.join(QLatin1Char(' '));
-    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -91,12 +111,11 @@ private Q_SLOTS:
 
     void withoutFolder()
     {
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
-        QCOMPARE(labels(project.world), defaultLabels);
-        QVERIFY(!presets.markerLabelDict());
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|-|Create preset..."));
+        QCOMPARE(presets.labels, defaultLabels);
+        QVERIFY(!presets->markerLabelDict());
         QVERIFY(!QFile::exists(m_home->path(QStringLiteral(".local"))));
     }
 
@@ -120,28 +139,26 @@ private Q_SLOTS:
         addPreset(QStringLiteral("Cut 10"), preset(QString()));
         addPreset(QStringLiteral("Cut 9"), content);
         m_home->addFile(presetFolder + QStringLiteral("/notes.txt"), "");
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        QStringList items = project.world.presetMenu;
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        QStringList items = presets.items;
         items.sort();
         QCOMPARE(items.join(QLatin1Char('|')), QStringLiteral("|Create preset...|Cut 10|Cut 9|None"));
-        const int item = int(project.world.presetMenu.indexOf(QStringLiteral("Cut 9")));
-        presets.changeMarkerPreset(item);
-        QCOMPARE(project.world.selectedPreset, item);
-        QCOMPARE(labels(project.world), expected);
-        QCOMPARE(presets.markerLabelDict().has_value(), expected != defaultLabels);
+        const int item = int(presets.items.indexOf(QStringLiteral("Cut 9")));
+        presets->changeMarkerPreset(item);
+        QCOMPARE(presets.chosen, item);
+        QCOMPARE(presets.labels, expected);
+        QCOMPARE(presets->markerLabelDict().has_value(), expected != defaultLabels);
         QCOMPARE(selected(), QStringLiteral("Cut 9"));
 
         // The next document begins with it.
-        LoadedProject next;
-        MarkerPresets nextPresets(next.document, m_defaults.get());
-        nextPresets.populateMarkerPresets();
-        QCOMPARE(next.world.selectedPreset, item);
-        QCOMPARE(labels(next.world), expected);
-        nextPresets.changeMarkerPreset(0);
-        QCOMPARE(labels(next.world), defaultLabels);
-        QVERIFY(!nextPresets.markerLabelDict());
+        Presets nextPresets(m_defaults.get());
+        nextPresets->populateMarkerPresets();
+        QCOMPARE(nextPresets.chosen, item);
+        QCOMPARE(nextPresets.labels, expected);
+        nextPresets->changeMarkerPreset(0);
+        QCOMPARE(nextPresets.labels, defaultLabels);
+        QVERIFY(!nextPresets->markerLabelDict());
         QCOMPARE(selected(), QStringLiteral("None"));
     }
 
@@ -149,26 +166,24 @@ private Q_SLOTS:
     {
         m_home->addFile(presetFolder + QStringLiteral("/Loud.MarkerPreset"), preset(QString()));
         QDir().mkpath(pathOf(QStringLiteral("Folder.markerpreset")));
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
+        Presets presets(m_defaults.get());
         m_defaults->setValue(selectedPreset, QStringLiteral("Loud"));
-        presets.populateMarkerPresets(); // listed by whatever case, read by one
-        QCOMPARE(menu(project.world), QStringLiteral("None|Folder|Loud*|-|Create preset..."));
-        QVERIFY(!presets.markerLabelDict());
-        presets.changeMarkerPreset(1);
-        QVERIFY(!presets.markerLabelDict());
-        QCOMPARE(labels(project.world), defaultLabels);
-        presets.changeMarkerPreset(4);
+        presets->populateMarkerPresets(); // listed by whatever case, read by one
+        QCOMPARE(presets.menu(), QStringLiteral("None|Folder|Loud*|-|Create preset..."));
+        QVERIFY(!presets->markerLabelDict());
+        presets->changeMarkerPreset(1);
+        QVERIFY(!presets->markerLabelDict());
+        QCOMPARE(presets.labels, defaultLabels);
+        presets->changeMarkerPreset(4);
         QCOMPARE(selected(), QStringLiteral("Folder"));
     }
 
     void aLostPresetIsNone()
     {
         m_defaults->setValue(selectedPreset, QStringLiteral("Create preset..."));
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|-|Create preset..."));
         QCOMPARE(selected(), QStringLiteral("None"));
     }
 
@@ -197,22 +212,21 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, alert);
         m_alerts->queueAnswer(AlertAnswer::Default);
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        presets.showMarkerPresetDialog();
-        QCOMPARE(presets.markerPresetTableDataArray().at(4).icon, QStringLiteral("marker-turquoise"));
-        presets.setObjectValue(QStringLiteral("Fix"), QStringLiteral("label"), 4);
-        presets.setObjectValue(QStringLiteral("no"), QStringLiteral("icon"), 4);
-        presets.setObjectValue(QString(), QStringLiteral("label"), 7);
-        QCOMPARE(presets.addMarkerPreset(name), alert.isEmpty());
-        QStringList events{QStringLiteral("show preset sheet")};
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->showMarkerPresetDialog();
+        QCOMPARE(presets->markerPresetTableDataArray().at(4).icon, QStringLiteral("marker-turquoise"));
+        presets->setObjectValue(QStringLiteral("Fix"), QStringLiteral("label"), 4);
+        presets->setObjectValue(QStringLiteral("no"), QStringLiteral("icon"), 4);
+        presets->setObjectValue(QString(), QStringLiteral("label"), 7);
+        QCOMPARE(presets->addMarkerPreset(name), alert.isEmpty());
+        QStringList sheets{QStringLiteral("requested")};
         if (alert.isEmpty()) {
-            events.append(QStringLiteral("hide preset sheet"));
+            sheets.append(QStringLiteral("ended"));
             QCOMPARE(files(), QStringList(file + QStringLiteral(".markerpreset")));
-            QCOMPARE(menu(project.world), QStringLiteral("None|%1*|-|Create preset...").arg(file));
-            QCOMPARE(labels(project.world), QStringLiteral("Red Orange Yellow Green Fix Blue Purple "));
-            QCOMPARE(presets.markerLabelDict()->value(QStringLiteral("Turquoise")).toString(),
+            QCOMPARE(presets.menu(), QStringLiteral("None|%1*|-|Create preset...").arg(file));
+            QCOMPARE(presets.labels, QStringLiteral("Red Orange Yellow Green Fix Blue Purple "));
+            QCOMPARE(presets->markerLabelDict()->value(QStringLiteral("Turquoise")).toString(),
                      QStringLiteral("Fix"));
             QCOMPARE(selected(), file);
             QVERIFY(m_alerts->shown().empty());
@@ -222,7 +236,7 @@ private Q_SLOTS:
             QCOMPARE(m_alerts->shown().at(0).text(AlertKey::MessageText), alert);
             QCOMPARE(selected(), QStringLiteral("None"));
         }
-        QCOMPARE(project.world.events, events);
+        QCOMPARE(presets.sheets, sheets);
     }
 
     void overwriting_data()
@@ -240,11 +254,10 @@ private Q_SLOTS:
         const QByteArray before = preset(QStringLiteral("Red=Old"));
         addPreset(QStringLiteral("Cut"), before);
         m_alerts->queueAnswer(answer);
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        presets.showMarkerPresetDialog();
-        QCOMPARE(presets.addMarkerPreset(QStringLiteral("Cut")), overwrites);
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->showMarkerPresetDialog();
+        QCOMPARE(presets->addMarkerPreset(QStringLiteral("Cut")), overwrites);
         QCOMPARE(contentOf(pathOf(QStringLiteral("Cut.markerpreset"))) == before, !overwrites);
         QCOMPARE(selected(), overwrites ? QStringLiteral("Cut") : QStringLiteral("None"));
         const ScriptedAlertPresenter::Shown &question = m_alerts->shown().at(0);
@@ -258,53 +271,50 @@ private Q_SLOTS:
     {
         const QString file = m_home->addFile(presetFolder, "a file");
         m_alerts->queueAnswer(AlertAnswer::Default);
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
-        presets.showMarkerPresetDialog();
-        QVERIFY(!presets.addMarkerPreset(QStringLiteral("Cut")));
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|-|Create preset..."));
+        presets->showMarkerPresetDialog();
+        QVERIFY(!presets->addMarkerPreset(QStringLiteral("Cut")));
         QCOMPARE(m_alerts->shown().at(0).text(AlertKey::InformativeText),
                  QStringLiteral("Please ensure your permissions are correct for the directory ") + file);
         QCOMPARE(contentOf(file), QByteArray("a file"));
-        presets.cancelMarkerPresetDialog();
-        QCOMPARE(project.world.events.last(), QStringLiteral("hide preset sheet"));
+        presets->cancelMarkerPresetDialog();
+        QCOMPARE(presets.sheets.last(), QStringLiteral("ended"));
     }
 
     void changesFromElsewhere()
     {
         addPreset(QStringLiteral("A"), preset(QStringLiteral("Red=a")));
-        LoadedProject project;
-        MarkerPresets presets(project.document, m_defaults.get());
-        presets.populateMarkerPresets();
-        presets.changeMarkerPreset(1);
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->changeMarkerPreset(1);
         addPreset(QStringLiteral("B"), preset(QStringLiteral("Red=b")));
         m_defaults->setValue(selectedPreset, QStringLiteral("B"));
-        presets.refreshMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None|A|B*|-|Create preset..."));
-        QCOMPARE(project.world.markerLabels.first(), QStringLiteral("b"));
+        presets->refreshMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None|A|B*|-|Create preset..."));
+        QCOMPARE(presets.labels.section(QLatin1Char(' '), 0, 0), QStringLiteral("b"));
         // The selection is kept while its file is missing.
         QVERIFY(QFile::rename(pathOf(QStringLiteral("B.markerpreset")), pathOf(QStringLiteral("away"))));
-        presets.refreshMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None*|A|-|Create preset..."));
-        QCOMPARE(labels(project.world), defaultLabels);
+        presets->refreshMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|A|-|Create preset..."));
+        QCOMPARE(presets.labels, defaultLabels);
         QCOMPARE(selected(), QStringLiteral("B"));
         addPreset(QStringLiteral("B"), preset(QStringLiteral("Red=again")));
-        presets.refreshMarkerPresets();
-        QCOMPARE(project.world.markerLabels.first(), QStringLiteral("again"));
+        presets->refreshMarkerPresets();
+        QCOMPARE(presets.labels.section(QLatin1Char(' '), 0, 0), QStringLiteral("again"));
     }
 
     void withoutDefaultsNothingIsReadOrStored()
     {
         addPreset(QStringLiteral("A"), preset(QStringLiteral("Red=a")));
-        LoadedProject project;
-        MarkerPresets presets(project.document, nullptr);
-        presets.populateMarkerPresets();
-        QCOMPARE(menu(project.world), QStringLiteral("None*|-|Create preset..."));
-        presets.showMarkerPresetDialog();
-        QVERIFY(!presets.addMarkerPreset(QStringLiteral("B")));
+        Presets presets(nullptr);
+        presets->populateMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|-|Create preset..."));
+        presets->showMarkerPresetDialog();
+        QVERIFY(!presets->addMarkerPreset(QStringLiteral("B")));
         QCOMPARE(files(), QStringList(QStringLiteral("A.markerpreset")));
-        QVERIFY(!presets.markerLabelDict());
+        QVERIFY(!presets->markerLabelDict());
     }
 };
 

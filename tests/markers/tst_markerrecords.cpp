@@ -262,7 +262,8 @@ private Q_SLOTS:
                               "</sequence></children></project></xmeml>");
         const auto names = [&](int filter, const char *column, bool descending) {
             project.document.viewState().markerFilter = filter;
-            project.world.setSortDescriptors(Tab::Markers, {{QString::fromLatin1(column), descending}});
+            project.document.rowView(Tab::Markers)
+                .setSortDescriptors({{QString::fromLatin1(column), descending}});
             project.inventory.changeMarkerFilter();
             QString text;
             for (const RowRecordPtr &record : project.document.rowsOnShow(Tab::Markers))

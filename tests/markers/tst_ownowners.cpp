@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(p.document.modifiedSequenceUUIDs()->last(), QStringLiteral("UInner"));
         p.set({8}, "clip", QStringLiteral("0")); // no sequence holds it
         QCOMPARE(MarkerProject::values(*p.marker(8), owners), QStringLiteral("on master|-|-|0|-|m|Master|-"));
-        p.document.setListOf(Tab::Markers, RowList(p.document.markerArray()));
+        p.document.rowView(Tab::Markers).setList(RowList(p.document.markerArray()));
         QVERIFY(!sameAfterReading()); // the order is another
         QVERIFY(sameAfterReading());
     }
@@ -146,8 +146,8 @@ private Q_SLOTS:
                             MarkerProject::values(*read, keys) == now,
                             qPrintable(QString::number(seed) + now + MarkerProject::values(*read, keys)));
                 }
-                p.document.setListOf(Tab::Markers, before);
-                p.document.setTableArray(Tab::Markers, before);
+                p.document.rowView(Tab::Markers).setList(before);
+                p.document.rowView(Tab::Markers).show(before);
             }
         }
     }

@@ -306,7 +306,7 @@ private Q_SLOTS:
                                     .arg(seed)
                                     .arg(records.join(QLatin1Char('\n')), expected.join(QLatin1Char('\n')))));
             std::size_t shown = 0;
-            p.world.setSortDescriptors(Tab::Markers, {{QStringLiteral("in"), false}});
+            p.document.rowView(Tab::Markers).setSortDescriptors({{QStringLiteral("in"), false}});
             for (int color = 0; color < 8; ++color) {
                 p.document.viewState().markerFilter = color + 1;
                 p.inventory.changeMarkerFilter();

@@ -32,12 +32,11 @@ struct FilteredMedia : MediaProject {
     {
         const auto pathless = std::make_shared<RowRecord>();
         pathless->set(MediaKey::missing, true);
-        document.setListOf(Tab::Media,
-                           {file("Movie Clip", "/Volumes/Media", "b", 2048),
-                            file("Audio Clip", "/Volumes/Media 2/x", "a", 2048),
-                            file("Image", "/home/me", "c", 0), pathless,
-                            file("Unknown", "/mounts/Disk", "d", 100), file("Movie Clip", "/VolumesOld", "e"),
-                            file("Audio Clip", "", "f", 3000)});
+        document.rowView(Tab::Media)
+            .setList({file("Movie Clip", "/Volumes/Media", "b", 2048),
+                      file("Audio Clip", "/Volumes/Media 2/x", "a", 2048), file("Image", "/home/me", "c", 0),
+                      pathless, file("Unknown", "/mounts/Disk", "d", 100),
+                      file("Movie Clip", "/VolumesOld", "e"), file("Audio Clip", "", "f", 3000)});
     }
 
     QString names() const
@@ -86,7 +85,7 @@ private Q_SLOTS:
         StandardFolders::setVolumesFolder(QStringLiteral("/mounts"));
         for (const Case &row : table) {
             FilteredMedia media;
-            media.world.setSortDescriptors(Tab::Media, sortDescriptors(row.sort));
+            media.document.rowView(Tab::Media).setSortDescriptors(sortDescriptors(row.sort));
             media.document.viewState().mediaKind = row.kind;
             media.document.viewState().mediaDrive = *row.drive ? QString::fromLatin1(row.drive) : QString();
             media.filter.changeMediaFilter();
@@ -113,6 +112,9 @@ private Q_SLOTS:
         };
         for (const Case &row : table) {
             FilteredMedia media;
+            std::vector<double> chart;
+            QObject::connect(&media.filter, &MediaFilter::chartChanged, &media.filter,
+                             [&chart](const std::vector<double> &values) { chart = values; });
             media.document.viewState().mediaKind = row.kind;
             media.filter.populateFilteredMediaData();
             const std::pair<Label, QByteArray> labels[] = {
@@ -126,21 +128,21 @@ private Q_SLOTS:
             for (const auto &[label, text] : labels)
                 QCOMPARE(media.label(label).toUtf8(), text);
             QCOMPARE(media.filter.statistics().get(MediaStatisticsKey::totalSize), row.total);
-            QCOMPARE(media.world.mediaChart().at(0), double(row.total));
-            QVERIFY(media.world.mediaChart().at(1) > 0);
+            QCOMPARE(chart.at(0), double(row.total));
+            QVERIFY(chart.at(1) > 0);
         }
     }
 
     void equalAndUnknownNames()
     {
         MediaProject media;
-        media.document.setListOf(Tab::Media, {file("Image", "/", "1", 5), file("Image", "/", "2", 5)});
+        media.document.rowView(Tab::Media).setList({file("Image", "/", "1", 5), file("Image", "/", "2", 5)});
         media.filter.switchMediaFilter();
         QCOMPARE(media.filter.statistics().get(MediaStatisticsKey::largestFile), QStringLiteral("1"));
         QCOMPARE(media.filter.statistics().get(MediaStatisticsKey::smallestFile), QStringLiteral("1"));
         const auto nameless = std::make_shared<RowRecord>();
         nameless->set(MediaKey::filesize, 1);
-        media.document.setListOf(Tab::Media, {nameless});
+        media.document.rowView(Tab::Media).setList({nameless});
         media.filter.populateFilteredMediaData();
         QCOMPARE(media.filter.statistics().size(), std::size_t(2));
         QCOMPARE(media.label(Label::MediaLargestFile), QStringLiteral("Largest file: Unknown"));
@@ -153,8 +155,8 @@ private Q_SLOTS:
         // anything, must be what was asked for last.
         for (const bool isOtherTab : {false, true}) {
             FilteredMedia media;
-            media.document.setListOf(Tab::Media, RowList(60000, media.document.mediaArray().front()));
-            media.world.setSortDescriptors(Tab::Media, sortDescriptors("filename"));
+            media.document.rowView(Tab::Media).setList(RowList(60000, media.document.mediaArray().front()));
+            media.document.rowView(Tab::Media).setSortDescriptors(sortDescriptors("filename"));
             bool hasEnded = false;
             std::thread worker([&] {
                 media.filter.populateFilteredMediaData();
@@ -163,7 +165,7 @@ private Q_SLOTS:
             MainThread::drainUntil([&] { return hasEnded; }, std::chrono::milliseconds(1));
             if (isOtherTab) {
                 media.document.viewState().selectedTab = Tab::Effects;
-                media.document.setTableArray(Tab::Effects, {});
+                media.document.rowView(Tab::Effects).show({});
             } else {
                 media.document.viewState().mediaKind = 3;
                 media.filter.changeMediaFilter();

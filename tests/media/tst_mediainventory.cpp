@@ -375,7 +375,7 @@ private Q_SLOTS:
     void withoutAProject()
     {
         MediaProject opened;
-        opened.document.setListOf(Tab::Media, {std::make_shared<RowRecord>()});
+        opened.document.rowView(Tab::Media).setList({std::make_shared<RowRecord>()});
         std::thread run([&opened] {
             opened.inventory.populateMediaData();
             opened.document.mainThread()->post([&opened] { opened.world.ended = true; });

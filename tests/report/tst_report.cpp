@@ -33,9 +33,9 @@ struct Report {
             home.addFile(u"images/%1.png"_s.arg(QLatin1String(name)), name);
     }
 
-    void show(Tab tab, const TableColumns &columns, const RowList &rows)
+    void show(Tab tab, const Columns &columns, const RowList &rows)
     {
-        document.setTableArray(tab, rows);
+        document.rowView(tab).show(rows);
         generator.setPrintTable(tab, columns);
     }
 
@@ -79,7 +79,7 @@ RowRecordPtr record(std::initializer_list<std::pair<const char16_t *, RecordValu
 {
     auto row = std::make_shared<RowRecord>();
     for (const auto &[key, value] : values)
-        row->set(RecordKey(key), value);
+        row->set(RecordKey(QString::fromUtf16(key)), value);
     return row;
 }
 
@@ -178,7 +178,7 @@ private Q_SLOTS:
     void markerTable()
     {
         Report report;
-        TableColumns columns = markerColumns;
+        Columns columns = markerColumns;
         columns.push_back({u"QVCUSTOM_TAKE"_s, u"Take"_s});
         columns.push_back({u"parent"_s, u"Parent"_s});
         report.show(Tab::Markers, columns, markers());
@@ -220,7 +220,7 @@ private Q_SLOTS:
     void columnsAndRows()
     {
         Report report;
-        TableColumns columns = markerColumns;
+        Columns columns = markerColumns;
         std::swap(columns[1], columns[7]); // name and chapter
         report.show(Tab::Markers, columns, {named(u"a"), named(u"b"), named(u"c"), named(u"d"), named(u"e")});
         report.generator.setColumnSelected(1, false);
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QVERIFY(report.generator.generateHTMLForPrinting().isNull());
         // Another tab shows its rows now.
         report.world.selectRows(Tab::Media, {});
-        report.document.setTableArray(Tab::Markers, {named(u"a")});
+        report.document.rowView(Tab::Markers).show({named(u"a")});
         QVERIFY(report.generator.generateHTMLForPrinting().isNull());
     }
 
@@ -327,7 +327,9 @@ private Q_SLOTS:
         Report report;
         report.defaults.setValue(u"printColorLabels"_s, 1);
         report.show(Tab::Markers,
-                    {{u"name"_s, u"Name, first"_s}, {u"comment"_s, u"Com\"ment"_s}, {u"clip"_s, u"Clip"_s}},
+                    {{u"name"_s, u"Name, first"_s},
+                     {u"comment"_s, u"Com\"ment"_s},
+                     *findColumn(markerColumns, u"clip"_s)},
                     {marker({{u"name", text(u"=1+1")}, {u"comment", text(u"a,b")}}),
                      marker({{u"comment", text(u"\"q\"\r\nnext")},
                              {u"clip", XmlNode()},
@@ -368,7 +370,7 @@ private Q_SLOTS:
         CountingDevice thousand;
         QVERIFY(report.generator.writeHTML(thousand, true));
         rows.resize(100000, rows.front());
-        report.document.setTableArray(Tab::Markers, rows);
+        report.document.rowView(Tab::Markers).show(rows);
         CountingDevice all;
         QVERIFY(report.generator.writeHTML(all, true));
         const QByteArray row = "<tr><td><img src=\"file://" + report.home.path(u"images"_s).toUtf8() +

@@ -1,5 +1,6 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerColumns.h"
+#include "markers/MarkerKeys.h"
 #include "markers/MarkerPresets.h"
 #include "report/ReportGenerator.h"
 #include "report/widgets/PrintOperation.h"
@@ -196,11 +197,13 @@ private Q_SLOTS:
         ReportGenerator report(document, presets, &defaults, QString());
         auto row = std::make_shared<RowRecord>();
         row->set(MarkerKey::name, u"Cut"_s);
-        document.setTableArray(Tab::Markers, {row});
-        report.setPrintTable(Tab::Markers, {{u"name"_s, u"Name"_s},
-                                            {u"chapter"_s, u"Chapter"_s, true},
-                                            {u"clip"_s, u"Clip"_s},
-                                            {u"sequence"_s, u"Sequence"_s}});
+        document.rowView(Tab::Markers).show({row});
+        report.setPrintTable(
+            Tab::Markers,
+            {{u"name"_s, u"Name"_s},
+             {.identifier = u"chapter"_s, .title = u"Chapter"_s, .kind = Column::Kind::CheckBox},
+             {u"clip"_s, u"Clip"_s},
+             {u"sequence"_s, u"Sequence"_s}});
         QStringList bodies;
         report.setBodyConsumer([&bodies](const QString &body) { bodies.append(body); });
         ReportOptions options(report, defaults, u"File"_s, nullptr);

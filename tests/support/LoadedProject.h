@@ -17,6 +17,7 @@ public:
     LoadedProject()
         : document(world, services())
     {
+        world.watch(document);
     }
     ~LoadedProject() { document.close(); }
 
@@ -37,7 +38,7 @@ public:
         return MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(40));
     }
 
-    QString label(Label label) const { return world.label(label); }
+    QString label(Label label) const { return document.label(label); }
 
     const QTemporaryDir folder; ///< of the project's file
     ScriptedDocumentInterface world;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/HeadlessDocumentInterface.h"
+#include "document/MyDocument.h"
 
 #include <QStringList>
 
@@ -11,41 +12,45 @@ namespace vantrell
 class ScriptedDocumentInterface : public HeadlessDocumentInterface
 {
 public:
-    void startSpinner(Tab tab) override { note(QStringLiteral("start"), tab); }
-    void stopSpinner(Tab tab) override { note(QStringLiteral("stop"), tab); }
-    void tableWillReload() override { events.append(QStringLiteral("will reload")); }
-    void tableDidReload() override { events.append(QStringLiteral("did reload")); }
-    void showMessage(Tab tab, const QString &text) override { note(text, tab); }
-    void setSequenceMenu(const MenuPtr &menu) override { sequenceMenu = menu; }
-    void setMarkerPresetMenu(const QStringList &titles, int selected) override
+    /// From now on also notes what the document tells.
+    void watch(MyDocument &document)
     {
-        presetMenu = titles;
-        selectedPreset = selected;
+        for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+            const RowView *view = &document.rowView(tab);
+            QObject::connect(view, &RowView::willReload, view,
+                             [this] { events.append(QStringLiteral("will reload")); });
+            QObject::connect(view, &RowView::didReload, view,
+                             [this] { events.append(QStringLiteral("did reload")); });
+            QObject::connect(view, &RowView::populatingChanged, view, [this, tab](bool isPopulating) {
+                note(isPopulating ? QStringLiteral("start") : QStringLiteral("stop"), tab);
+            });
+        }
+        const MyDocument *watched = &document;
+        QObject::connect(watched, &MyDocument::messageGiven, watched,
+                         [this](Tab tab, const QString &text) { note(text, tab); });
+        QObject::connect(watched, &MyDocument::sequenceMenuChanged, watched,
+                         [this, watched] { sequenceMenu = watched->sequenceMenu(); });
+        QObject::connect(watched, &MyDocument::editedChanged, watched,
+                         [this](bool isEdited) { edited = isEdited; });
+        QObject::connect(watched, &MyDocument::inventoriesFinished, watched, [this] { ended = true; });
+        QObject::connect(watched, &MyDocument::loadFinished, watched,
+                         [this](bool wasLoaded, const QString &failure, const QString &loadNotice) {
+                             loaded = wasLoaded;
+                             message = failure;
+                             notice = loadNotice;
+                             ended = ended || !loaded;
+                         });
     }
-    void setMarkerLabels(const QStringList &labels) override { markerLabels = labels; }
-    void showMarkerPresetSheet() override { events.append(QStringLiteral("show preset sheet")); }
-    void hideMarkerPresetSheet() override { events.append(QStringLiteral("hide preset sheet")); }
+
     void startProgress() override { events.append(QStringLiteral("start progress")); }
     void updateProgressLabel(const QString &text) override
     {
         events.append(QStringLiteral("progress: ") + text);
     }
     void endProgress() override { events.append(QStringLiteral("end progress")); }
-    void setEdited(bool isEdited) override { edited = isEdited; }
-    void inventoriesFinished() override { ended = true; }
-    void loadFinished(bool wasLoaded, const QString &failure, const QString &loadNotice) override
-    {
-        loaded = wasLoaded;
-        message = failure;
-        notice = loadNotice;
-        ended = ended || !loaded;
-    }
 
     QStringList events;
     MenuPtr sequenceMenu;
-    QStringList presetMenu;
-    int selectedPreset = -1; ///< its index in the menu
-    QStringList markerLabels;
     bool loaded = false;
     bool ended = false; ///< loading is over: every inventory has ended, or it failed
     bool edited = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "effects/widgets/EffectsPane.h"
+#include "markers/MarkerColumns.h"
 #include "markers/widgets/MarkersPane.h"
 #include "media/widgets/MediaPane.h"
 #include "support/settings/UserDefaults.h"
@@ -28,6 +29,7 @@ public:
         , effects(bench, defaults)
         , markers(bench, defaults)
     {
+        watch(bench.document());
     }
     ~PaneProject() { bench.document().close(); }
 
@@ -85,35 +87,16 @@ public:
         return pane(tab).model().cellText(cell(tab, row, column));
     }
 
-    void tableWillReload() override
-    {
-        for (TabPane *pane : panes)
-            pane->tableWillReload();
-    }
-    void tableDidReload() override
-    {
-        for (TabPane *pane : panes)
-            pane->tableDidReload();
-    }
-    void setLabel(Label label, const QString &text) override
-    {
-        ScriptedDocumentInterface::setLabel(label, text);
-        for (TabPane *pane : panes)
-            pane->setLabel(label, text);
-    }
-    void setSequenceMenu(const MenuPtr &menu) override { markers.setSequenceMenu(menu); }
-    void setMediaChart(const std::vector<double> &values) override { media.setMediaChart(values); }
     std::vector<std::size_t> selectedRows(Tab tab) override { return pane(tab).selectedRows(); }
     void selectRows(Tab tab, const std::vector<std::size_t> &rows) override { pane(tab).selectRows(rows); }
     void editCell(Tab tab, std::size_t row, const QString &column) override
     {
         pane(tab).editCell(row, column);
     }
-    std::vector<SortDescriptor> sortDescriptors(Tab tab) override { return pane(tab).sortDescriptors(); }
     QStringList markerColumns() override { return markers.columns(); }
     void addMarkerColumn(const QString &identifier, const QString &title) override
     {
-        markers.addColumn(identifier, title);
+        markers.addColumn(markerFieldColumn(identifier, title));
     }
     void removeMarkerColumn(const QString &identifier) override { markers.removeColumn(identifier); }
     void moveMarkerColumn(const QString &identifier, int index) override

@@ -54,8 +54,8 @@ void TestModels::obeyTheRulesOfModels()
             QCOMPARE(project.pane(other).model().rowCount() > 0, other == tab);
     }
     const int columns = project.markers.model().columnCount();
-    project.markers.addColumn(QStringLiteral("QVCUSTOM_TAKE"), QStringLiteral("Take"));
-    project.markers.addColumn(QStringLiteral("QVCUSTOM_TAKE"), QStringLiteral("Take no."));
+    project.addMarkerColumn(QStringLiteral("QVCUSTOM_TAKE"), QStringLiteral("Take"));
+    project.addMarkerColumn(QStringLiteral("QVCUSTOM_TAKE"), QStringLiteral("Take no."));
     QCOMPARE(project.markers.model().columnCount(), columns + 1);
     project.markers.removeColumn(QStringLiteral("QVCUSTOM_TAKE"));
     QCOMPARE(project.markers.model().columnCount(), columns);

@@ -178,11 +178,13 @@ void TestTables::hideEffectsByKey()
     QTest::keyClick(&table, Qt::Key_Delete);
     QCOMPARE(project().effects.model().rowCount(), count);
     project().effects.selectRows({0, 2});
-    QCOMPARE(project().label(Label::EffectStatus), QStringLiteral("%1 items (2 selected)").arg(count));
+    QCOMPARE(project().bench.document().label(Label::EffectStatus),
+             QStringLiteral("%1 items (2 selected)").arg(count));
     QTest::keyClick(&table, Qt::Key_Backspace);
     QCOMPARE(project().effects.model().rowCount(), count - 2);
     QVERIFY(project().effects.selectedRows().empty());
-    QCOMPARE(project().label(Label::EffectStatus), QStringLiteral("%1 items").arg(count - 2));
+    QCOMPARE(project().bench.document().label(Label::EffectStatus),
+             QStringLiteral("%1 items").arg(count - 2));
     QVERIFY(!project().edited);
 
     project().show(Tab::Markers);
@@ -476,7 +478,7 @@ void TestTables::moveColumns()
     header->resizeSection(project().markers.model().columnOf(QStringLiteral("comment")), 333);
     project().markers.saveLayout();
     MarkersPane next(project().bench, project().defaults);
-    next.addColumn(take, QStringLiteral("Take"));
+    next.addColumn(markerFieldColumn(take, QStringLiteral("Take")));
     QCOMPARE(next.columns(), project().markers.columns());
     QCOMPARE(next.table().columnWidth(next.model().columnOf(QStringLiteral("comment"))), 333);
 }

@@ -94,7 +94,7 @@ public:
         m_controller.openFiles({project});
         DocumentWindow &window = *m_controller.currentWindow();
         window.resize(1180, 660);
-        while (window.state() == DocumentWindow::State::Loading)
+        while (window.isLoading())
             wait(50);
         if (window.state() != DocumentWindow::State::Ready) {
             std::fprintf(stderr, "%s\n", qPrintable(window.message()));
@@ -179,7 +179,7 @@ private:
         take(*loader, "fcp-projects");
         loader->openProject();
         DocumentWindow &window = *m_controller.currentWindow();
-        waitFor("project", [&window] { return window.state() != DocumentWindow::State::Loading; });
+        waitFor("project", [&window] { return !window.isLoading(); });
         window.toolbarMarkers();
         TableModel &markers = window.pane(Tab::Markers).model();
         markers.setData(markers.index(16, markers.columnOf(QStringLiteral("name"))),

@@ -1,0 +1,286 @@
+#include "document/widgets/WindowSaving.h"
+
+#include "document/widgets/ChangedFileSheet.h"
+#include "document/widgets/CommandValidation.h"
+#include "document/widgets/DocumentWindow.h"
+#include "document/widgets/WindowWork.h"
+#include "media/AnswerWithin.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/widgets/FilePanel.h"
+#include "support/widgets/NestedEvents.h"
+#include "workbench/Workbench.h"
+
+#include <QFileInfo>
+#include <QPointer>
+
+#include <chrono>
+
+namespace vantrell
+{
+
+namespace
+{
+
+const QString closeQuestion = QStringLiteral("closeQuestionDidEnd:returnCode:contextInfo:");
+const QString revertQuestion = QStringLiteral("revertQuestionDidEnd:returnCode:contextInfo:");
+constexpr std::chrono::milliseconds volumeTimeout{500}; // an unmounted network volume may never answer
+
+} // namespace
+
+void WindowSaving::saveTo(const QString &path)
+{
+    if (isProject(m_window.document())) {
+        m_window.sendToFCP();
+        return;
+    }
+    const auto *const sheet = m_window.findChild<ChangedFileSheet *>();
+    if (sheet && sheet->isVisible())
+        return; // its answer decides on this save too
+    m_window.commitEditing();
+    MyDocument *const document = m_window.document();
+    if (m_window.refusesAfterFailedLoad() || !document || m_state.isBusy() || m_state.isSending()) {
+        finish(false);
+        return;
+    }
+    if (path != m_window.path() && m_isOpenElsewhere && m_isOpenElsewhere(path)) {
+        m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
+                             tr("The file is open in another window. Close that window first, or choose "
+                                "another name."));
+        finish(false);
+        return;
+    }
+    const QPointer window(&m_window);
+    document->writeInBackground(QUrl::fromLocalFile(path), DocumentType::finalCutProXMLFile,
+                                [this, path, window](const Result<void> &written) {
+                                    if (window && !m_state.isClosed()) // not closed by a question
+                                        writeEnded(path, written);
+                                });
+    // The question whether to replace a damaged file has been answered by now.
+    if (window && !m_state.isClosed() && document->isSaving())
+        m_work.begin(tr("Saving “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Cancellable,
+                     [document] { document->cancelWriting(); });
+}
+
+void WindowSaving::writeEnded(const QString &path, const Result<void> &written)
+{
+    if (m_state.isBusy())
+        m_work.end();
+    const QString reason = written.message();
+    if (reason == SaveFailure::changedElsewhere) {
+        askAboutChangedFile(path);
+        return;
+    }
+    const bool isKnown = reason == SaveFailure::notOverwritten || reason == SaveFailure::cancelled;
+    if (!written && !isKnown)
+        m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
+                             reason);
+    if (written)
+        saved(path);
+    finish(written.isOk());
+}
+
+/// Another program has changed the file: the save ends with the user's choice.
+void WindowSaving::askAboutChangedFile(const QString &path)
+{
+    using Choice = ChangedFileSheet::Choice;
+    auto *const sheet = new ChangedFileSheet(QFileInfo(path).fileName(), &m_window);
+    QObject::connect(sheet, &ChangedFileSheet::chosen, &m_window, [this, path](Choice choice) {
+        if (m_state.isClosed())
+            return;
+        if (choice == Choice::Overwrite) {
+            m_window.document()->overwriteChangedFile();
+            saveTo(path);
+        } else if (choice == Choice::SaveAs) {
+            runSavePanel([this] { finish(false); });
+        } else {
+            finish(false);
+            if (choice == Choice::Reload && !m_state.isClosed())
+                revertWithoutQuestion();
+        }
+    });
+    sheet->open();
+}
+
+void WindowSaving::saved(const QString &path)
+{
+    MyDocument &document = m_window.workbench().document();
+    document.setFileURL(QUrl::fromLocalFile(path));
+    document.clearChangeCount();
+    m_window.setNotice(QString());
+    m_window.setFile(path, DocumentType::finalCutProXMLFile);
+    rememberFile();
+    Q_EMIT m_window.loaded(path);
+}
+
+void WindowSaving::finish(bool isSaved)
+{
+    Q_EMIT m_window.saved(isSaved);
+    if (m_state.saveEnded())
+        changesEnded(isSaved);
+}
+
+void WindowSaving::rememberFile()
+{
+    BackgroundWork::run([file = m_window.workbench().document().knownFile()] { file->rememberContent(); });
+}
+
+void WindowSaving::saveAs()
+{
+    m_window.commitEditing();
+    if (!m_window.refusesAfterFailedLoad() && m_window.document() && !m_state.isBusy())
+        runSavePanel();
+}
+
+void WindowSaving::runSavePanel(const std::function<void()> &whenCancelled)
+{
+    FilePanel::runForSaving(
+        {.window = &m_window,
+         .title = tr("Save As"),
+         .folder = m_window.folder(),
+         .filter = tr("XML files (*.xml *.XML)"),
+         .extension = QStringLiteral("xml"),
+         .proposedName = QFileInfo(m_window.path()).fileName()},
+        [this](const QString &path) { saveTo(path); }, whenCancelled);
+}
+
+void WindowSaving::revert()
+{
+    m_window.commitEditing();
+    const MyDocument *const document = m_window.document();
+    if (!document || m_state.isBusy())
+        return;
+    if (!document->isEdited()) {
+        revertWithoutQuestion();
+        return;
+    }
+    QVAlert::alertSheetWithMessageText(
+        tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_window.path()).fileName()),
+        tr("Cancel"), tr("Revert"), QString(), tr("Your changes since it was last saved will be lost."),
+        m_window.alertParent(), this, revertQuestion, false, nullptr);
+}
+
+void WindowSaving::revertWithoutQuestion()
+{
+    if (m_state.isBusy())
+        return;
+    // An operation that waits for an answer in another window keeps this document alive; edits made until
+    // then would be lost.
+    m_work.begin(
+        tr("Waiting for the question in another window…"), WindowState::Work::Expendable,
+        [this] { m_work.end(); }, WindowState::Next::Revert);
+    NestedEvents::whenUnwound(&m_window, [this] {
+        if (m_state.isClosed() || m_state.next() != WindowState::Next::Revert)
+            return;
+        m_work.end();
+        reload();
+    });
+}
+
+void WindowSaving::reload()
+{
+    // If the file has gone, the open document is the only copy of the project.
+    const auto isReadable = [path = m_window.path()] { return QFileInfo(path).isReadable(); };
+    if (answerWithin<bool>(volumeTimeout, isReadable).value_or(false))
+        m_window.reload();
+    else
+        m_window.showFailure(tr("“%1” cannot be read any more.").arg(QFileInfo(m_window.path()).fileName()),
+                             tr("The project stays open as it is. You can save it to another place."));
+}
+
+bool WindowSaving::mayClose()
+{
+    m_window.commitEditing();
+    if (m_state.isBusy()) {
+        m_state.closeWhenIdle();
+        m_work.cancelIfExpendable();
+        return false;
+    }
+    const MyDocument *const document = m_window.document();
+    if (!document || !document->isEdited())
+        return true;
+    askBeforeClosing();
+    return false;
+}
+
+void WindowSaving::settleChanges(Settling settling)
+{
+    m_window.commitEditing();
+    const MyDocument *const document = m_window.document();
+    m_state.settle();
+    if (!document || !document->isEdited()) {
+        changesEnded(true);
+    } else if (settling == Settling::Ask) {
+        askBeforeClosing();
+    } else {
+        m_state.saveForClosing();
+        if (!m_state.isSending())
+            m_window.save();
+    }
+}
+
+void WindowSaving::closeSettled()
+{
+    if (m_state.changes() == WindowState::Changes::GivenUp && !m_state.isBusy())
+        m_window.shutDown();
+    else
+        m_window.close();
+}
+
+void WindowSaving::askBeforeClosing()
+{
+    if (!m_state.ask())
+        return;
+    m_window.hideSending(); // or its sheet would cover the question
+    QVAlert::alertSheetWithMessageText(
+        tr("Do you want to save the changes made to “%1”?").arg(QFileInfo(m_window.path()).fileName()),
+        isProject(m_window.document()) ? tr("Send") : tr("Save"), tr("Don’t Save"), tr("Cancel"),
+        m_state.isSending() ? tr("They are being sent. Your changes may be lost if you don’t wait for that.")
+                            : tr("Your changes will be lost if you don’t save them."),
+        m_window.alertParent(), this, closeQuestion, false, nullptr);
+}
+
+bool WindowSaving::respondsTo(const QString &selector) const
+{
+    return selector == closeQuestion || selector == revertQuestion;
+}
+
+void WindowSaving::perform(const QString &selector, QVAlert *, int code)
+{
+    if (m_state.isClosed())
+        return;
+    if (selector == closeQuestion)
+        closeQuestionEnded(code);
+    else if (code == AlertAnswer::Alternate)
+        revertWithoutQuestion();
+}
+
+void WindowSaving::closeQuestionEnded(int code)
+{
+    if (code == AlertAnswer::Alternate) {
+        m_state.answerGiveUp();
+        changesEnded(true);
+    } else if (code != AlertAnswer::Default) {
+        m_state.answerCancel();
+        changesEnded(false);
+    } else if (!m_window.document()->isEdited()) {
+        m_state.answerCancel(); // sent while the question showed: nothing is left to save
+        changesEnded(true);
+    } else {
+        m_state.answerSave();
+        if (!m_state.isSending())
+            m_window.save();
+    }
+}
+
+/// The changes have been dealt with, or the user wants to keep the window.
+void WindowSaving::changesEnded(bool areSettled)
+{
+    if (m_state.takePurpose() == WindowState::Purpose::Settle)
+        Q_EMIT m_window.changesSettled(areSettled);
+    else if (areSettled)
+        m_window.shutDown();
+    else
+        Q_EMIT m_window.closeCancelled();
+}
+
+} // namespace vantrell

@@ -1,0 +1,154 @@
+#include "rows/RowView.h"
+
+#include "rows/RowSort.h"
+
+#include <unordered_set>
+#include <utility>
+
+namespace vantrell
+{
+
+/// What a rebuild is made of.
+struct RowView::Snapshot {
+    std::uint64_t rebuild = 0;
+    Filter filter;
+    std::vector<SortDescriptor> sortDescriptors;
+    RowList rows;
+
+    bool isWholeList() const { return !filter.passes && filter.order == Order::Document; }
+
+    void compute(const Columns &columns)
+    {
+        if (filter.passes)
+            std::erase_if(rows, [this](const RowRecordPtr &row) { return !filter.passes(*row); });
+        if (filter.order == Order::Sorted)
+            rows = sortedRows(std::move(rows), sortDescriptors, columns);
+    }
+};
+
+void RowView::setFilter(const Columns &columns, FilterMaker maker)
+{
+    m_columns = &columns;
+    m_makeFilter = std::move(maker);
+}
+
+const Columns &RowView::columns() const
+{
+    static const Columns none;
+    return m_columns ? *m_columns : none;
+}
+
+void RowView::append(const RowRecordPtr &row)
+{
+    m_list.push_back(row);
+    if (!m_isVisible)
+        return;
+    m_waitingRows.push_back(row);
+    if (m_updates == 0)
+        showWaitingRows();
+}
+
+void RowView::remove(const RowList &rows)
+{
+    const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
+    const auto isRemoved = [&](const RowRecordPtr &row) {
+        return removed.size() == 1 ? row == *removed.begin() : removed.contains(row);
+    };
+    std::erase_if(m_list, isRemoved);
+    std::erase_if(m_visibleRows, isRemoved);
+}
+
+void RowView::show(RowList rows, Order order)
+{
+    if (!m_isVisible)
+        Q_EMIT willBecomeVisible();
+    Q_EMIT willReload();
+    m_isVisible = true;
+    m_order = order;
+    m_visibleRows = std::move(rows);
+    m_waitingRows.clear();
+    Q_EMIT didReload();
+}
+
+void RowView::showList()
+{
+    if (!m_isVisible || m_visibleRows != m_list) {
+        show(m_list, Order::Document);
+        return;
+    }
+    Q_EMIT willReload();
+    m_order = Order::Document;
+    m_waitingRows.clear();
+    Q_EMIT didReload();
+}
+
+void RowView::hide()
+{
+    if (!m_isVisible)
+        return;
+    Q_EMIT willReload();
+    m_isVisible = false;
+    m_visibleRows.clear();
+    m_waitingRows.clear();
+    Q_EMIT didReload();
+}
+
+void RowView::reload()
+{
+    Q_EMIT willReload();
+    Q_EMIT didReload();
+}
+
+RowView::Updates::~Updates()
+{
+    if (--m_view.m_updates == 0)
+        m_view.showWaitingRows();
+}
+
+void RowView::showWaitingRows()
+{
+    if (m_waitingRows.empty())
+        return;
+    Q_EMIT willReload();
+    m_visibleRows.insert(m_visibleRows.end(), m_waitingRows.begin(), m_waitingRows.end());
+    m_waitingRows.clear();
+    Q_EMIT didReload();
+}
+
+bool RowView::rebuild(MainThreadGate &mainThread, const std::function<bool()> &isWanted)
+{
+    Snapshot taken;
+    if (!mainThread.runAndWait([&] { taken = snapshot(); }))
+        return false;
+    taken.compute(columns());
+    const bool isWorker = !MainThread::isMainThread();
+    return mainThread.runAndWait([&] {
+        const bool isOutdated = taken.rebuild != m_rebuilds || (isWorker && !isWanted());
+        if (!isOutdated)
+            commit(std::move(taken));
+    });
+}
+
+RowView::Snapshot RowView::snapshot()
+{
+    Snapshot taken;
+    taken.rebuild = ++m_rebuilds;
+    if (m_makeFilter)
+        taken.filter = m_makeFilter();
+    taken.sortDescriptors = m_sortDescriptors;
+    if (!taken.isWholeList())
+        taken.rows = m_list;
+    return taken;
+}
+
+void RowView::commit(Snapshot snapshot)
+{
+    if (snapshot.isWholeList())
+        showList();
+    else
+        show(std::move(snapshot.rows), snapshot.filter.order);
+    if (snapshot.filter.shown)
+        snapshot.filter.shown();
+}
+
+} // namespace vantrell

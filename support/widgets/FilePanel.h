@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QMimeData;
+class QWidget;
+
+/// File panels, shown as a sheet on a window. Each function returns at once; `chosen` is called once the
+/// panel has been hidden, so that an alert can be the window's only sheet. Main thread.
+namespace vantrell::FilePanel
+{
+
+struct Request {
+    QWidget *window = nullptr;
+    QString title = {};
+    QString folder = {};
+    QString filter = {};
+    QString extension = {};    ///< added to a name without one
+    QString proposedName = {}; ///< of a file to be saved
+    QString acceptLabel = {};  ///< null for the system's own
+};
+
+/// Lets the user choose existing files.
+void runForOpening(const Request &request, const std::function<void(const QStringList &paths)> &chosen);
+
+/// Lets the user choose where a file is saved.
+void runForSaving(const Request &request, const std::function<void(const QString &path)> &chosen,
+                  const std::function<void()> &cancelled = {});
+
+/// The paths of the local files among what is being dragged.
+QStringList localFiles(const QMimeData *data);
+
+} // namespace vantrell::FilePanel
