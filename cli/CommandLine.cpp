@@ -101,7 +101,11 @@ void Subcommand::value(const char *name, std::optional<std::string> &target, con
 void Subcommand::values(const char *name, std::vector<std::string> &target, const std::string &help,
                         Need need)
 {
-    m_node->app.add_option(name, target, help)->transform(withoutMark)->required(need == Need::Required);
+    CLI::Option *option =
+        m_node->app.add_option(name, target, help)->transform(withoutMark)->required(need == Need::Required);
+    // An option takes one value each time that it is given, so that arguments may follow it.
+    if (name[0] == '-')
+        option->allow_extra_args(false);
 }
 
 void Subcommand::pair(const char *name, std::vector<std::string> &target, const std::string &help)

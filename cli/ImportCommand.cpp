@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/NoteCommands.h"
 #include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
@@ -14,18 +15,22 @@ namespace vantrell::cli
 namespace
 {
 
-struct ImportOptions {
-    std::string file;
-    std::vector<std::string> lists;
+struct ImportOptions : NoteImportOptions {
     std::string format;
-    std::string output;
     bool yes = false;
 };
 
-int importMarkers(const ImportOptions &options)
+int importMarkers(const ImportOptions &options, bool hasOptionsOfAuto)
 {
+    if (hasOptionsOfAuto && options.format != "auto")
+        return refuseUsage(QStringLiteral("--sequence, --time, --rate, --map, --preview and --json go with "
+                                          "--format auto only."));
+    if (options.format != "auto" && options.output.empty())
+        return refuseUsage(QStringLiteral("-o is required."));
     if (options.yes)
         QVAlert::setPresenter(std::make_shared<HeadlessAlertPresenter>(true));
+    if (options.format == "auto")
+        return importNotes(options);
     ProjectSession session(Workbench::Inventories::Markers);
     if (!session.open(fromArgument(options.file)))
         return Failed;
@@ -54,12 +59,31 @@ void addImportCommand(CommandLine &program)
     Subcommand command = program.add("import", "Add the markers of other systems' marker lists to a project");
     command.value("FILE", options->file, "The project", Subcommand::Need::Required);
     command.values("LIST", options->lists, "The marker lists", Subcommand::Need::Required);
-    command.choice("--format", options->format, {"fcp", "avid", "fcpx"}, "fcp, avid or fcpx",
-                   Subcommand::Need::Required);
-    command.value("-o", options->output, "The project to write; \"-\" is standard output",
-                  Subcommand::Need::Required);
+    command.choice("--format", options->format, {"auto", "fcp", "avid", "fcpx"},
+                   "auto for notes in any known form; fcp, avid or fcpx", Subcommand::Need::Required);
+    command.value(
+        "--sequence", options->sequence,
+        "The sequence to add to, by name or number; otherwise the one that the list's name holds, or the "
+        "first (auto)");
+    command.value("--time", options->time,
+                  "What the times are: record, elapsed, offset=TC or first=TC (auto)");
+    command.value(
+        "--rate", options->rate,
+        "The list's frame rate: 23.976, 24, 25, 29.97, 29.97df, 30, 50, 59.94, 59.94df or 60 (auto)");
+    command.values(
+        "--map", options->map,
+        "COLUMN=ROLE, a column by its title or number: time, duration, end, name, comment, color, user, "
+        "track, type, ignore or field:TITLE (auto)");
+    command.flag("--preview", options->preview, "Only tell what would be added (auto)");
+    command.flag("--json", options->json, "Print one JSON document (auto)");
+    command.value("-o", options->output, "The project to write; \"-\" is standard output");
     command.flag("--yes", options->yes, "Answer questions with the button that goes ahead");
-    command.onRun([options] { return importMarkers(*options); });
+    command.onRun([options, command] {
+        bool hasOptionsOfAuto = false;
+        for (const char *name : {"--sequence", "--time", "--rate", "--map", "--preview", "--json"})
+            hasOptionsOfAuto = hasOptionsOfAuto || command.isGiven(name);
+        return importMarkers(*options, hasOptionsOfAuto);
+    });
 }
 
 } // namespace vantrell::cli

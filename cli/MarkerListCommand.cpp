@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/NoteCommands.h"
 #include "cli/Numbers.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
@@ -95,6 +96,8 @@ int markerList(const MarkerListOptions &options, bool hasOptionsOfFcpx)
     if (hasOptionsOfFcpx && options.format != "fcpx")
         return refuseUsage(QStringLiteral("--seconds, --strip-duplicates, --all-storylines and "
                                           "--relative-hour go with --format fcpx only."));
+    if (options.format == "auto")
+        return listNotes(options.file, options.json);
     const QString hourText = fromArgument(options.relativeHour);
     const std::optional<quint64> hour = wholeNumber(hourText);
     if (!hour)
@@ -112,8 +115,8 @@ void addMarkerListCommand(CommandLine &program)
     auto options = std::make_shared<MarkerListOptions>();
     Subcommand command = program.add("marker-list", "List the markers of another system's marker list file");
     command.value("LIST", options->file, "The marker list", Subcommand::Need::Required);
-    command.choice("--format", options->format, {"fcp", "avid", "fcpx"}, "fcp, avid or fcpx",
-                   Subcommand::Need::Required);
+    command.choice("--format", options->format, {"auto", "fcp", "avid", "fcpx"},
+                   "auto for notes in any known form; fcp, avid or fcpx", Subcommand::Need::Required);
     command.flag("--seconds", options->seconds, "Seconds in place of timecodes (fcpx)");
     command.flag("--strip-duplicates", options->stripDuplicates,
                  "Only the first of the markers at one place (fcpx)");

@@ -1,17 +1,13 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/Numbers.h"
+#include "cli/MarkerChoices.h"
+#include "cli/MarkerJson.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
-#include "markers/MarkerColors.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerKeys.h"
-#include "markers/MarkerTableValues.h"
 #include "support/files/ProgramArguments.h"
-
-#include <nlohmann/json.hpp>
 
 #include <QSet>
 #include <memory>
@@ -29,14 +25,6 @@ struct MarkersOptions {
     bool json = false;
     bool ownOwners = false;
 };
-
-/// The colour index named by the value of --color.
-std::optional<int> colorOf(const std::string &value)
-{
-    const QString text = fromArgument(value);
-    const bool isIndex = text.size() == 1 && text >= QStringLiteral("0") && text <= QStringLiteral("7");
-    return isIndex ? std::optional<int>(text.toInt()) : MarkerColors::find(text);
-}
 
 /// The custom fields that the markers have, in the order in which they come.
 QStringList customFieldsOf(const RowList &markers)
@@ -64,24 +52,11 @@ QByteArray markersAsTable(const RowList &markers)
     return TextTable(markers, columns).toBytes();
 }
 
-QByteArray markersAsJson(const RowList &markers)
-{
-    XmlLocationPaths paths;
-    Json list = Json::array();
-    for (const RowRecordPtr &marker : markers) {
-        Json json = recordToJson(*marker, paths);
-        json.push_back({"display", Json{{"in", jsonText(MarkerTableValues::inText(*marker))},
-                                        {"out", jsonText(MarkerTableValues::outText(*marker))}}});
-        list.push_back(std::move(json));
-    }
-    return toBytes(list);
-}
-
 int markers(const MarkersOptions &options)
 {
     std::optional<int> color;
     if (options.color) {
-        color = colorOf(*options.color);
+        color = colorChoice(*options.color);
         if (!color)
             return refuseUsage(QStringLiteral("--color: there is no such colour."));
     }
@@ -113,9 +88,7 @@ void addMarkersCommand(CommandLine &program)
     auto options = std::make_shared<MarkersOptions>();
     Subcommand command = program.add("markers", "List the markers of a project");
     command.value("FILE", options->file, "The project", Subcommand::Need::Required);
-    command.value("--color", options->color,
-                  "Only markers of one colour: red, orange, yellow, green, turquoise, blue, purple, "
-                  "pink, or 0 to 7");
+    command.value("--color", options->color, colorHelp);
     command.value("--sort", options->sort,
                   "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
                   "come in document order. Columns: " +

@@ -3,6 +3,7 @@
 #include "markers/MarkerEditor.h"
 
 #include "markers/MarkerColors.h"
+#include "markers/MarkerComment.h"
 #include "markers/MarkerElement.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
@@ -87,15 +88,33 @@ RowRecordPtr MarkerEditor::addMarkerWithName(const QString &name, const QString 
     return record;
 }
 
+RowRecordPtr MarkerEditor::addMarkerWithTexts(const QString &name, std::int64_t inPoint,
+                                              std::int64_t outPoint, const QString &comment,
+                                              const QString &colorName,
+                                              std::optional<std::int64_t> parentItem,
+                                              const Rejected &rejected)
+{
+    RowRecordPtr record;
+    const bool ended = guarded("MarkerEditor::addMarkerWithTexts", [&] {
+        record = addElement(name, inPoint, outPoint, comment, colorName, parentItem, rejected, true);
+    });
+    if (!ended && rejected)
+        rejected(internalError);
+    return record;
+}
+
 RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                                       const QString &comment, const QString &colorName,
-                                      std::optional<std::int64_t> parentItem, const Rejected &rejected)
+                                      std::optional<std::int64_t> parentItem, const Rejected &rejected,
+                                      bool asTexts)
 {
     XmlDocument *tree = m_document.xmlDoc();
     if (!tree)
         return nullptr;
     const int color = MarkerColors::indexOfName(colorName);
-    const Result<XmlNode> made = MarkerElement::make(*tree, name, comment, color, inPoint, outPoint);
+    const Result<XmlNode> made =
+        asTexts ? MarkerElement::makeWithTexts(*tree, name, comment, color, inPoint, outPoint)
+                : MarkerElement::make(*tree, name, comment, color, inPoint, outPoint);
     if (!made) {
         if (rejected)
             rejected(made.message());
@@ -119,7 +138,9 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
     info.timing.store(*record);
     if (!name.isNull())
         record->set(MarkerKey::name, name);
-    if (!comment.isNull())
+    if (asTexts)
+        MarkerComment::read(comment, *record);
+    else if (!comment.isNull())
         record->set(MarkerKey::comment, comment);
     record->set(MarkerKey::color, color);
     record->set(MarkerKey::in, formatText(u"%i", inPoint));

@@ -49,6 +49,11 @@ public:
                                    const QString &colorName,
                                    std::optional<std::int64_t> parentItem = std::nullopt,
                                    const Rejected &rejected = {});
+    /// The same in frames with the name and comment as texts: characters that mean something in XML stay as
+    /// they are, and tags in the comment are read as in a file.
+    RowRecordPtr addMarkerWithTexts(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
+                                    const QString &comment, const QString &colorName,
+                                    std::optional<std::int64_t> parentItem, const Rejected &rejected = {});
 
     // Removing
 
@@ -95,7 +100,8 @@ private:
 
     RowRecordPtr addElement(const QString &name, std::int64_t inPoint, std::int64_t outPoint,
                             const QString &comment, const QString &colorName,
-                            std::optional<std::int64_t> parentItem, const Rejected &rejected);
+                            std::optional<std::int64_t> parentItem, const Rejected &rejected,
+                            bool asTexts = false);
     XmlNode parentSequence(std::optional<std::int64_t> parentItem) const;
     void addRecord(const RowRecordPtr &record);
 

@@ -3,6 +3,7 @@
 #include "markers/MarkerColors.h"
 #include "support/text/TextFormat.h"
 #include "xml/QVXMLParser.h"
+#include "xml/XmlEdit.h"
 #include "xml/XmlReferences.h"
 
 namespace vantrell::MarkerElement
@@ -24,6 +25,18 @@ Result<XmlNode> make(XmlDocument &document, const QString &name, const QString &
     if (!made || !(name.contains(markup) || comment.contains(markup)))
         return made;
     return Failure{QStringLiteral("The name or comment holds XML markup.")};
+}
+
+Result<XmlNode> makeWithTexts(XmlDocument &document, const QString &name, const QString &comment, int color,
+                              std::int64_t inPoint, std::int64_t outPoint)
+{
+    const QString none = QStringLiteral("");
+    Result<XmlNode> made = make(document, none, none, color, inPoint, outPoint);
+    if (made) {
+        XmlEdit::setText(made.value().childElement("name"), name);
+        XmlEdit::setText(made.value().childElement("comment"), comment);
+    }
+    return made;
 }
 
 } // namespace vantrell::MarkerElement

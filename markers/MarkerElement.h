@@ -16,4 +16,9 @@ namespace vantrell::MarkerElement
 Result<XmlNode> make(XmlDocument &document, const QString &name, const QString &comment, int color,
                      std::int64_t inPoint, std::int64_t outPoint);
 
+/// The same with the name and comment as texts, whatever characters they hold; those that XML forbids are
+/// dropped.
+Result<XmlNode> makeWithTexts(XmlDocument &document, const QString &name, const QString &comment, int color,
+                              std::int64_t inPoint, std::int64_t outPoint);
+
 } // namespace vantrell::MarkerElement

@@ -1,0 +1,85 @@
+#include "interchange/NoteExporter.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerColors.h"
+#include "markers/MarkerKeys.h"
+#include "markers/MarkerTableValues.h"
+#include "support/text/TextNumbers.h"
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+WrittenNote noteOf(const RowRecord &marker)
+{
+    WrittenNote note;
+    note.name = marker.get(MarkerKey::name);
+    note.comment = marker.get(MarkerKey::comment).trimmed();
+    note.time = MarkerTableValues::inText(marker);
+    note.duration = MarkerTableValues::outText(marker);
+    note.in = intValue(marker.get(MarkerKey::in));
+    const std::int64_t out = integerValue(marker.get(MarkerKey::out));
+    note.length = out < 0 ? 0 : std::max<qint64>(out - note.in, 0);
+    note.endTime =
+        MyDocument::timecodeFromFrameCount(std::int32_t(note.in + std::max<qint64>(note.length, 1)), marker);
+    note.color = int(marker.get(MarkerKey::color));
+    note.sequence = marker.get(MarkerKey::sequenceName);
+    note.clip = marker.get(MarkerKey::clipName);
+    note.rate = NoteRate::ofSequence(marker.get(TimecodeKey::timebase), marker.get(TimecodeKey::ntsc),
+                                     marker.get(TimecodeKey::dropFrame));
+    note.isChapter = marker.get(MarkerKey::chapter) == 1;
+    note.isCompression = marker.get(MarkerKey::compression) == 1;
+    note.isScoring = marker.get(MarkerKey::scoring) == 1;
+    for (std::size_t i = 0; i < marker.size(); ++i) {
+        const RecordKey key = marker.keyAt(i);
+        if (!key.isConstant() && key.text().startsWith(MarkerKey::customPrefix))
+            note.fields.emplace_back(key.text().sliced(MarkerKey::customPrefix.size()), marker.text(key));
+    }
+    return note;
+}
+
+bool holds(const RowRecord &marker, const QString &search)
+{
+    const WrittenNote note = noteOf(marker);
+    const auto contains = [&search](const QString &text) {
+        return text.contains(search, Qt::CaseInsensitive);
+    };
+    return contains(note.name) || contains(note.comment) || contains(note.time) || contains(note.duration) ||
+           contains(note.sequence) || contains(note.clip) ||
+           std::any_of(note.fields.begin(), note.fields.end(),
+                       [&](const auto &field) { return contains(field.second); });
+}
+
+} // namespace
+
+RowList NoteExporter::markers(const Filter &filter) const
+{
+    const MenuPtr menu = m_document.sequenceMenu();
+    RowList taken;
+    for (const RowRecordPtr &marker : m_document.markerArray()) {
+        if (filter.color && marker->get(MarkerKey::color) != *filter.color)
+            continue;
+        if (filter.sequence &&
+            !(marker->get(MarkerKey::sequence) == menu->at(std::size_t(*filter.sequence)).element))
+            continue;
+        if (!filter.search.isEmpty() && !holds(*marker, filter.search))
+            continue;
+        taken.push_back(marker);
+    }
+    return taken;
+}
+
+NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers) const
+{
+    std::vector<WrittenNote> notes;
+    notes.reserve(markers.size());
+    for (const RowRecordPtr &marker : markers)
+        notes.push_back(noteOf(*marker));
+    return NoteWriter::write(format, notes);
+}
+
+} // namespace vantrell

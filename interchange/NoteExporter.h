@@ -1,0 +1,45 @@
+#pragma once
+
+#include "interchange/notes/NoteWriter.h"
+#include "rows/RowRecord.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace vantrell
+{
+
+class MyDocument;
+
+/// Makes lists for other systems of a document's markers. Main thread.
+class NoteExporter
+{
+public:
+    /// Which markers are written; all conditions hold.
+    struct Filter {
+        std::optional<int> color;             ///< index of MarkerColors::table()
+        std::optional<std::int64_t> sequence; ///< item of the sequence menu
+        /// A text that one of the marker's texts holds, in whatever case: its name, comment and custom
+        /// fields, the timecodes, and the names of its sequence and clip.
+        QString search;
+    };
+
+    /// The document outlives the exporter.
+    explicit NoteExporter(MyDocument &document)
+        : m_document(document)
+    {
+    }
+
+    /// The document's markers that the filter takes, in their order.
+    RowList markers(const Filter &filter) const;
+
+    /// The markers as a list in a format of NoteWriter. The timecodes are those that the marker table shows.
+    NoteWriter::Written list(const QString &format, const RowList &markers) const;
+
+private:
+    MyDocument &m_document;
+};
+
+} // namespace vantrell

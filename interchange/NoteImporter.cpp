@@ -1,0 +1,136 @@
+#include "interchange/NoteImporter.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerColors.h"
+#include "markers/MarkerEditor.h"
+#include "markers/MarkerFields.h"
+#include "markers/MarkerKeys.h"
+#include "markers/SequenceTiming.h"
+#include "support/log/QVException.h"
+#include "support/text/TextNumbers.h"
+
+#include <QFileInfo>
+
+namespace vantrell
+{
+
+namespace
+{
+
+/// Whether the name stands in the text as words of its own, in whatever case.
+bool holdsWords(const QString &text, const QString &name)
+{
+    if (name.isEmpty())
+        return false;
+    for (qsizetype at = text.indexOf(name, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(name, at + 1, Qt::CaseInsensitive)) {
+        const qsizetype end = at + name.size();
+        if ((at == 0 || !text.at(at - 1).isLetterOrNumber()) &&
+            (end == text.size() || !text.at(end).isLetterOrNumber()))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+std::optional<std::int64_t> NoteImporter::sequenceNamed(const QString &text) const
+{
+    const MenuPtr menu = m_document.sequenceMenu();
+    for (std::size_t i = 1; i < menu->size(); ++i) {
+        if ((*menu)[i].title == text)
+            return std::int64_t(i);
+    }
+    bool isNumber = false;
+    const qlonglong number = text.toLongLong(&isNumber);
+    if (isNumber && number >= 1 && number < qlonglong(menu->size()))
+        return number;
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> NoteImporter::sequenceNamedBy(const QString &path, const NoteList &list) const
+{
+    const QString file = QFileInfo(path).completeBaseName();
+    const MenuPtr menu = m_document.sequenceMenu();
+    std::optional<std::int64_t> found;
+    qsizetype longest = 0;
+    for (std::size_t i = 1; i < menu->size(); ++i) {
+        const QString &title = (*menu)[i].title;
+        if (title.size() > longest && holdsWords(file, title)) {
+            longest = title.size();
+            found = std::int64_t(i);
+        }
+    }
+    for (std::size_t i = 1; i < menu->size() && !found && !list.title.isEmpty(); ++i) {
+        if ((*menu)[i].title.compare(list.title, Qt::CaseInsensitive) == 0)
+            found = std::int64_t(i);
+    }
+    return found;
+}
+
+bool NoteImporter::isSequenceNamedBy(const QString &path, const NoteList &list) const
+{
+    return sequenceNamedBy(path, list).has_value();
+}
+
+std::optional<std::int64_t> NoteImporter::guessedSequence(const QString &path, const NoteList &list) const
+{
+    if (const std::optional<std::int64_t> found = sequenceNamedBy(path, list))
+        return found;
+    return m_document.sequenceMenu()->size() > 1 ? std::optional<std::int64_t>(1) : std::nullopt;
+}
+
+NoteSequence NoteImporter::sequenceAt(std::int64_t item) const
+{
+    const XmlNode element = m_document.sequenceMenu()->at(std::size_t(item)).element;
+    const SequenceTiming timing = SequenceTiming::ofFirstElements(element);
+    NoteSequence sequence;
+    sequence.rate = NoteRate::ofSequence(timing.timebase, timing.ntsc, timing.dropFrame);
+    sequence.startFrame = timing.startFrame;
+    const std::int64_t duration = integerValue(element.childElement("duration").stringValue());
+    if (duration > 0)
+        sequence.duration = duration;
+    return sequence;
+}
+
+NoteMatches NoteImporter::matchesOf(std::int64_t item) const
+{
+    const XmlNode element = m_document.sequenceMenu()->at(std::size_t(item)).element;
+    NoteMatches matches;
+    for (const RowRecordPtr &marker : m_document.markerArray()) {
+        if (marker->get(MarkerKey::markerElement).parent() == element)
+            matches.add(integerValue(marker->get(MarkerKey::in)), marker->get(MarkerKey::name),
+                        marker->get(MarkerKey::comment));
+    }
+    return matches;
+}
+
+std::size_t NoteImporter::add(std::vector<PlannedNote> &notes, std::int64_t item) const
+{
+    std::size_t added = 0;
+    guarded("NoteImporter::add", [&] {
+        const RowView::Updates updates(m_document.rowView(Tab::Markers));
+        for (PlannedNote &note : notes) {
+            if (note.state != PlannedNote::State::Add)
+                continue;
+            QString reason = QStringLiteral("There is no sequence to add it to.");
+            const RowRecordPtr record = m_editor.addMarkerWithTexts(
+                note.name, note.in, note.duration > 0 ? note.in + note.duration : -1, note.comment,
+                MarkerColors::table()[std::size_t(note.color)].name, item,
+                [&reason](const QString &given) { reason = given; });
+            if (!record) {
+                note.state = PlannedNote::State::Unreadable;
+                note.reason = reason;
+                continue;
+            }
+            ++added;
+            if (note.isChapter)
+                m_editor.updateXMLMarker(record, MarkerKey::chapter.text(), QStringLiteral("1"));
+            for (const auto &[title, value] : note.fields)
+                m_editor.updateXMLMarker(record, MarkerFields::formatMarkerFieldName(title), value);
+        }
+    });
+    return added;
+}
+
+} // namespace vantrell

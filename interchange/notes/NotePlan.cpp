@@ -1,0 +1,304 @@
+#include "interchange/notes/NotePlan.h"
+
+#include "interchange/notes/NoteColors.h"
+#include "markers/MarkerComment.h"
+#include "markers/MarkerKeys.h"
+#include "timecode/QVTimecode.h"
+#include "xml/XmlText.h"
+
+namespace vantrell
+{
+
+namespace
+{
+
+using Position = NoteTime::Position;
+
+QString matchKey(qint64 in, const QString &name, const QString &comment)
+{
+    return QString::number(in) + QChar(u'\0') + name.trimmed() + QChar(u'\0') + comment.trimmed();
+}
+
+/// As a file keeps it.
+QString allowedText(QStringView text)
+{
+    return text.isEmpty() ? QStringLiteral("")
+                          : XmlText::fromUtf8(XmlText::toUtf8(text.toString()).toStdString());
+}
+
+/// The comment of the marker's record once it is written.
+QString commentAsRead(const QString &comment)
+{
+    RowRecord record;
+    MarkerComment::read(comment, record);
+    return record.get(MarkerKey::comment);
+}
+
+/// Converts the times of one list.
+class Converter
+{
+public:
+    Converter(const NoteSequence &sequence, const NoteRate &listRate)
+        : m_sequence(sequence)
+        , m_listRate(listRate)
+    {
+    }
+
+    /// The sequence's first timecode on the scale of the time: in frames of the list. The label of a frame
+    /// that the list's rate does not have is a fraction.
+    Position recordOrigin(const NoteTime &time) const { return positionOfFrame(m_sequence.startFrame, time); }
+
+    /// A frame of the sequence, counted from timecode zero, on that scale.
+    Position positionOfFrame(qint64 frame, const NoteTime &time) const
+    {
+        const bool isBelow = frame < 0;
+        const NoteRate::Label label = m_sequence.rate.labelOf(isBelow ? -frame : frame);
+        Position position;
+        if (time.kind == NoteTime::Kind::Seconds) {
+            // Seconds of the timecode
+            position = {(WideInteger(label.seconds) * m_sequence.rate.timebase + label.frames) *
+                            m_listRate.numerator(),
+                        WideInteger(m_sequence.rate.timebase) * m_listRate.denominator()};
+        } else {
+            const qint64 scale = m_sequence.rate.timebase;
+            position = {WideInteger(m_listRate.framesAt(label.seconds, 0)) * scale +
+                            WideInteger(label.frames) * m_listRate.timebase,
+                        scale};
+        }
+        if (isBelow)
+            position.numerator = -position.numerator;
+        return position;
+    }
+
+    qint64 frames(const Position &position) const
+    {
+        return convertedFrames(position, m_listRate, m_sequence.rate);
+    }
+
+    bool isInside(qint64 in) const { return in >= 0 && (!m_sequence.duration || in < *m_sequence.duration); }
+
+private:
+    const NoteSequence &m_sequence;
+    NoteRate m_listRate;
+};
+
+/// The frame of a timecode in the user shorthand; nothing for anything else.
+std::optional<qint64> frameOfShorthand(const QString &text, const NoteRate &rate, const QString &start)
+{
+    const bool isNegative = text.startsWith(QLatin1Char('-'));
+    const QString timecode =
+        QVTimecode::timecodeFromUserString(isNegative ? text.sliced(1) : text, rate.dropFrame, start);
+    const std::optional<NoteTime> time = NoteTime::parse(timecode, NoteUnit::Frames);
+    if (text.isEmpty() || !time || time->kind != NoteTime::Kind::Timecode)
+        return std::nullopt;
+    const qint64 frame = rate.framesAt(time->seconds, time->frames);
+    return isNegative ? -frame : frame;
+}
+
+QString startTimecode(const NoteSequence &sequence)
+{
+    const NoteRate::Label label = sequence.rate.labelOf(std::max<qint64>(sequence.startFrame, 0));
+    return QVTimecode::formatHours(label.seconds / 3600, label.seconds / 60 % 60, label.seconds % 60,
+                                   label.frames, sequence.rate.dropFrame);
+}
+
+class Planner
+{
+public:
+    Planner(const NoteList &list, const NoteSequence &sequence, const NoteSettings &settings,
+            NoteMatches &matches)
+        : m_list(list)
+        , m_sequence(sequence)
+        , m_rate(settings.rate ? *settings.rate : list.rate.value_or(sequence.rate))
+        , m_converter(sequence, m_rate)
+        , m_matches(matches)
+    {
+        for (std::size_t i = 0; i < list.columns.size(); ++i) {
+            for (const NoteColumnChoice &choice : settings.choices) {
+                if (list.columns[i].kind == NoteRole::Field && choice.means(i, list.headers))
+                    m_fieldColumns.push_back(std::uint32_t(i));
+            }
+        }
+    }
+
+    /// False for a timecode that is none.
+    bool setMeaning(const NoteSettings &settings)
+    {
+        m_meaning = settings.meaning == NoteMeaning::Guessed ? guessedMeaning() : settings.meaning;
+        if (m_meaning == NoteMeaning::Record || m_meaning == NoteMeaning::Elapsed)
+            return true;
+        const bool isFirst = m_meaning == NoteMeaning::First;
+        const std::optional<qint64> frame =
+            frameOfShorthand(settings.timecode, m_sequence.rate,
+                             isFirst ? startTimecode(m_sequence) : QStringLiteral("00:00:00:00"));
+        if (!frame)
+            return false;
+        m_frame = *frame;
+        for (const NoteRow &row : m_list.rows) {
+            const std::optional<NoteTime> time = timeOf(row);
+            if (!m_first && time)
+                m_first = time->framesFromZero(m_rate);
+        }
+        return true;
+    }
+
+    std::vector<PlannedNote> plan()
+    {
+        std::vector<PlannedNote> notes;
+        notes.reserve(m_list.rows.size() + m_list.unreadable.size());
+        auto unreadable = m_list.unreadable.begin();
+        const auto tellUnreadable = [&](std::size_t before) {
+            for (; unreadable != m_list.unreadable.end() && unreadable->line < before; ++unreadable) {
+                PlannedNote note;
+                note.line = unreadable->line;
+                note.reason = unreadable->reason;
+                notes.push_back(std::move(note));
+            }
+        };
+        for (const NoteRow &row : m_list.rows) {
+            tellUnreadable(row.line);
+            notes.push_back(planned(row));
+        }
+        tellUnreadable(std::size_t(-1));
+        return notes;
+    }
+
+private:
+    /// Nothing for a time that the rate does not have.
+    std::optional<NoteTime> timeOf(const NoteRow &row) const
+    {
+        const std::optional<NoteTime> time = NoteTime::parse(row.time, m_list.timeUnit);
+        return time && time->fits(m_rate) ? time : std::nullopt;
+    }
+
+    NoteMeaning guessedMeaning() const
+    {
+        std::size_t asRecord = 0;
+        std::size_t asElapsed = 0;
+        std::size_t timecodes = 0;
+        std::size_t rows = 0;
+        for (const NoteRow &row : m_list.rows) {
+            const std::optional<NoteTime> time = timeOf(row);
+            if (!time)
+                continue;
+            ++rows;
+            timecodes += time->kind == NoteTime::Kind::Timecode ? 1 : 0;
+            asRecord += m_converter.isInside(inOf(*time, NoteMeaning::Record)) ? 1 : 0;
+            asElapsed += m_converter.isInside(inOf(*time, NoteMeaning::Elapsed)) ? 1 : 0;
+        }
+        if (asRecord == asElapsed)
+            return timecodes * 2 >= rows ? NoteMeaning::Record : NoteMeaning::Elapsed;
+        return asRecord > asElapsed ? NoteMeaning::Record : NoteMeaning::Elapsed;
+    }
+
+    qint64 inOf(const NoteTime &time, NoteMeaning meaning) const
+    {
+        const Position position = time.framesFromZero(m_rate);
+        switch (meaning) {
+        case NoteMeaning::Record:
+            return m_converter.frames(position.minus(m_converter.recordOrigin(time)));
+        case NoteMeaning::Offset:
+            return m_converter.frames(
+                position.minus(m_converter.positionOfFrame(m_sequence.startFrame - m_frame, time)));
+        case NoteMeaning::First:
+            return m_converter.frames(position.minus(m_first.value_or(Position()))) + m_frame -
+                   m_sequence.startFrame;
+        case NoteMeaning::Elapsed:
+        case NoteMeaning::Guessed:
+            break;
+        }
+        return m_converter.frames(position);
+    }
+
+    qint64 durationOf(const NoteRow &row, const NoteTime &time) const
+    {
+        const std::optional<NoteTime> duration = NoteTime::parse(row.duration, m_list.durationUnit);
+        if (duration && duration->fits(m_rate))
+            return std::max<qint64>(m_converter.frames(duration->framesFromZero(m_rate)), 0);
+        const std::optional<NoteTime> end = NoteTime::parse(row.end, m_list.timeUnit);
+        if (!end || !end->fits(m_rate))
+            return 0;
+        const Position length = end->framesFromZero(m_rate).minus(time.framesFromZero(m_rate));
+        return std::max<qint64>(m_converter.frames(length), 0);
+    }
+
+    PlannedNote planned(const NoteRow &row)
+    {
+        PlannedNote note;
+        note.line = row.line;
+        note.isRow = true;
+        note.name = allowedText(row.name);
+        note.comment = allowedText(row.comment);
+        note.color = NoteColors::indexOf(row.color, row.colorValue);
+        note.isChapter = row.type.compare(u"chapter", Qt::CaseInsensitive) == 0;
+        const std::optional<NoteTime> time = timeOf(row);
+        if (!time) {
+            note.reason = QStringLiteral("%1 frames a second have no “%2”.").arg(m_rate.name(), row.time);
+            return note;
+        }
+        note.in = inOf(*time, m_meaning);
+        note.duration = durationOf(row, *time);
+        for (const auto &[column, value] : row.fields) {
+            if (std::find(m_fieldColumns.begin(), m_fieldColumns.end(), column) != m_fieldColumns.end())
+                note.fields.emplace_back(m_list.columns[column].title, allowedText(value));
+        }
+        const QString comment = commentAsRead(note.comment);
+        if (!m_converter.isInside(note.in)) {
+            note.state = PlannedNote::State::Outside;
+        } else if (m_matches.contains(note.in, note.name, comment)) {
+            note.state = PlannedNote::State::There;
+        } else {
+            note.state = PlannedNote::State::Add;
+            m_matches.add(note.in, note.name, comment);
+        }
+        return note;
+    }
+
+    const NoteList &m_list;
+    const NoteSequence &m_sequence;
+    const NoteRate m_rate;
+    const Converter m_converter;
+    NoteMatches &m_matches;
+    std::vector<std::uint32_t> m_fieldColumns;
+    NoteMeaning m_meaning = NoteMeaning::Record;
+    qint64 m_frame = 0;              ///< of the timecode of the settings
+    std::optional<Position> m_first; ///< of the first row
+};
+
+} // namespace
+
+void NoteMatches::add(qint64 in, const QString &name, const QString &comment)
+{
+    m_keys.insert(matchKey(in, name, comment));
+}
+
+bool NoteMatches::contains(qint64 in, const QString &name, const QString &comment) const
+{
+    return m_keys.contains(matchKey(in, name, comment));
+}
+
+QString nameOf(PlannedNote::State state)
+{
+    switch (state) {
+    case PlannedNote::State::Add:
+        return QStringLiteral("add");
+    case PlannedNote::State::Outside:
+        return QStringLiteral("outside");
+    case PlannedNote::State::There:
+        return QStringLiteral("there");
+    case PlannedNote::State::Unreadable:
+        break;
+    }
+    return QStringLiteral("unreadable");
+}
+
+std::optional<std::vector<PlannedNote>> planNotes(const NoteList &list, const NoteSequence &sequence,
+                                                  const NoteSettings &settings, NoteMatches &matches)
+{
+    Planner planner(list, sequence, settings, matches);
+    if (!planner.setMeaning(settings))
+        return std::nullopt;
+    return planner.plan();
+}
+
+} // namespace vantrell

@@ -1,0 +1,149 @@
+#include "tests/support/CliRun.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace vantrell;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray sequence(const char *name, const QByteArray &markers)
+{
+    return QByteArray("<sequence><name>") + name +
+           "</name><duration>1000</duration><timecode><rate><timebase>25</timebase></rate><frame>90000</"
+           "frame>"
+           "</timecode>" +
+           markers + "</sequence>";
+}
+
+} // namespace
+
+class NotesTest : public QObject
+{
+    Q_OBJECT
+
+    const TemporaryHome m_home;
+
+    /// "~" stands for the home.
+    CliRun run(const QString &arguments) const
+    {
+        return runCli(QString(arguments).replace(u'~', m_home.path()).split(u' '));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_home.addFile(u"project.xml"_s,
+                       "<xmeml><project><children>" +
+                           sequence("Edit",
+                                    "<marker><name>M</name><comment>c</comment><in>25</in><out>-1</out>"
+                                    "</marker>") +
+                           sequence("Reel 2", "") + "</children></project></xmeml>");
+        m_home.addFile(u"notes.csv"_s, "Name,Comment,In,Colour,Scene\n"
+                                       "A & <b>,\"x \"\"y\"\"\nz\",01:00:02:00,blue,12\n"
+                                       "M,c,01:00:01:00,,\n"
+                                       "late,,01:01:00:00,,\nnone,,,,\n");
+        m_home.addFile(u"show_reel 2_v3.txt"_s, "00:00 Intro\n00:10 Title\n");
+    }
+
+    void read()
+    {
+        const CliRun result = run(u"marker-list ~/notes.csv --format auto --json"_s);
+        QCOMPARE(result.status, 0);
+        QCOMPARE(
+            result.output,
+            QByteArray(
+                "{\"shape\":\"table\",\"encoding\":\"UTF-8\",\"delimiter\":\"comma\","
+                "\"columns\":[\"name\",\"comment\",\"time\",\"color\",\"field:Scene\"],\"rows\":["
+                "{\"line\":2,\"time\":\"01:00:02:00\",\"name\":\"A & <b>\",\"comment\":\"x \\\"y\\\"\\nz\","
+                "\"color\":\"blue\",\"fields\":{\"Scene\":\"12\"}},"
+                "{\"line\":4,\"time\":\"01:00:01:00\",\"name\":\"M\",\"comment\":\"c\"},"
+                "{\"line\":5,\"time\":\"01:01:00:00\",\"name\":\"late\"}],"
+                "\"unreadable\":[{\"line\":6,\"reason\":\"There is no time.\"}]}\n"));
+        QCOMPARE(run(u"marker-list ~/missing --format auto --json"_s).status, 1);
+    }
+
+    void addedOnce()
+    {
+        const QString import = u"import ~/project.xml ~/notes.csv --format auto --map scene=field:Scene"_s;
+        const QByteArray planned(
+            "{\"sequence\":1,\"rows\":["
+            "{\"line\":2,\"name\":\"A & <b>\",\"comment\":\"x \\\"y\\\"\\nz\",\"in\":50,"
+            "\"duration\":0,\"color\":5,\"state\":\"add\"},"
+            "{\"line\":4,\"name\":\"M\",\"comment\":\"c\",\"in\":25,\"duration\":0,\"color\":0,"
+            "\"state\":\"there\"},"
+            "{\"line\":5,\"name\":\"late\",\"comment\":\"\",\"in\":1500,\"duration\":0,"
+            "\"color\":0,\"state\":\"outside\"},"
+            "{\"line\":6,\"state\":\"unreadable\",\"reason\":\"There is no time.\"}]}\n");
+        QCOMPARE(run(import + u" --preview --json"_s).output, planned);
+        const CliRun result = run(import + u" --json -o ~/out.xml"_s);
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.output, planned);
+        QCOMPARE(result.messages, QByteArray("vantrell-cli: notes.csv, line 6: There is no time.\n"
+                                             "vantrell-cli: 1 of 4 rows added\n"));
+        const QByteArray markers = run(u"markers ~/out.xml --json"_s).output;
+        QVERIFY2(markers.contains("\"name\":\"A & <b>\""), markers.constData());
+        QVERIFY2(markers.contains("\"comment\":\"x \\\"y\\\"\\nz\""), markers.constData());
+        QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"12\""), markers.constData());
+        const CliRun again = run(u"import ~/out.xml ~/notes.csv --format auto -o ~/again.xml"_s);
+        QCOMPARE(again.status, 1);
+        QVERIFY(again.messages.endsWith("0 of 4 rows added\n"));
+        QVERIFY(!QFile::exists(m_home.path(u"again.xml"_s)));
+    }
+
+    void chosenSequence()
+    {
+        const auto sequenceOf = [this](const QString &options) {
+            return run(u"import ~/project.xml %1 --format auto --preview --json"_s.arg(options))
+                .output.left(14);
+        };
+        QCOMPARE(sequenceOf(u"~/notes.csv"_s), QByteArray("{\"sequence\":1,"));
+        QCOMPARE(sequenceOf(u"~/notes.csv --sequence 2"_s), QByteArray("{\"sequence\":2,"));
+        const CliRun guessed =
+            runCli({u"import"_s, m_home.path(u"project.xml"_s), m_home.path(u"show_reel 2_v3.txt"_s),
+                    u"--format"_s, u"auto"_s, u"--preview"_s, u"--json"_s});
+        QVERIFY2(guessed.output.startsWith("{\"sequence\":2,") && guessed.output.contains("\"in\":250,"),
+                 guessed.output.constData());
+    }
+
+    void exported()
+    {
+        const struct {
+            const char *arguments;
+            QByteArray output;
+        } rows[] = {
+            {"--format avid8", "Vantrell\t01:00:01:00\tV1\tred\tc\t1\tM\t#FF0000\n"},
+            {"--format edl --search m", "TITLE: Edit\nFCM: NON-DROP FRAME\n* LOC: 01:00:01:00 RED     M\n"},
+            {"--format chapters --color 0 --sequence Edit", "00:01 M\n"},
+            {"--format chapters --color blue", ""},
+            {"--format chapters --sequence 2", ""},
+            {"--format chapters --search nothing", ""},
+        };
+        for (const auto &row : rows) {
+            const CliRun result = run(u"export ~/project.xml "_s + QString::fromLatin1(row.arguments));
+            QCOMPARE(result.output, row.output);
+            QCOMPARE(result.status, 0);
+        }
+        QCOMPARE(run(u"export ~/project.xml --format json"_s).output,
+                 run(u"markers ~/project.xml --json"_s).output);
+    }
+
+    void refused()
+    {
+        for (const char *arguments :
+             {"import ~/project.xml ~/notes.csv --format auto",
+              "import ~/project.xml ~/notes.csv --format fcp --preview",
+              "import ~/project.xml ~/notes.csv --format auto --preview --rate 26",
+              "import ~/project.xml ~/notes.csv --format auto --preview --time offset=soon",
+              "import ~/project.xml ~/notes.csv --format auto --preview --map 1=title",
+              "export ~/project.xml --format csv --color mauve"})
+            QVERIFY2(run(QString::fromLatin1(arguments)).status == 2, arguments);
+        QCOMPARE(run(u"export ~/project.xml --format csv --sequence 3"_s).status, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(NotesTest)
+#include "tst_notes.moc"
