@@ -122,14 +122,14 @@ bool MyDocument::redo()
 
 bool MyDocument::restoreNext(Restoring what)
 {
-    const auto mayRestore = [&] { return what == Restoring::Undo ? canUndo() : canRedo(); };
-    if (!mayRestore())
+    const auto isPossible = [&] { return what == Restoring::Undo ? canUndo() : canRedo(); };
+    if (!isPossible())
         return false;
     bool isDone = false;
     const bool isWhole = guarded("MyDocument::restoreNext", [&] {
         {
             const Reload reload(rowView(m_tableTab));
-            if (!mayRestore()) // what was being typed became another step
+            if (!isPossible()) // what was being typed became another step
                 return;
             restore(what);
         }
