@@ -115,8 +115,7 @@ struct UndoProject {
         }
         MarkerListImporter::Progress progress;
         while (progress.next < rows.rows.size())
-            progress = workbench.markerListImporter().addMarkers(rows, std::move(progress),
-                                                                 std::chrono::milliseconds(0));
+            workbench.markerListImporter().addMarkers(rows, progress, std::chrono::milliseconds(0));
     }
 
     const QTemporaryDir folder;

@@ -182,7 +182,12 @@ private Q_SLOTS:
                     states.resize(++now);
                     numbers.resize(now);
                     states.push_back(p.state());
-                    numbers.push_back(++last);
+                    // Dropping rows of what is no longer in the tree changes nothing that could be saved.
+                    const ProjectState &earlier = states[now - 1];
+                    const bool dropsOnly = states[now].file == earlier.file &&
+                                           (states[now].markers.size() < earlier.markers.size() ||
+                                            states[now].effects.size() < earlier.effects.size());
+                    numbers.push_back(dropsOnly ? numbers[now - 1] : ++last);
                 }
                 }
                 QVERIFY2(p.state() == states[now] && isShownRight(p), where.constData());
