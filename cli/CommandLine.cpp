@@ -104,6 +104,16 @@ void Subcommand::values(const char *name, std::vector<std::string> &target, cons
     m_node->app.add_option(name, target, help)->transform(withoutMark)->required(need == Need::Required);
 }
 
+void Subcommand::pair(const char *name, std::vector<std::string> &target, const std::string &help)
+{
+    m_node->app.add_option(name, target, help)->transform(withoutMark)->expected(2);
+}
+
+void Subcommand::repeated(const char *name, std::vector<std::string> &target, const std::string &help)
+{
+    m_node->app.add_option(name, target, help)->transform(withoutMark)->allow_extra_args(false);
+}
+
 void Subcommand::choice(const char *name, std::string &target, const std::vector<std::string> &choices,
                         const std::string &help, Need need)
 {

@@ -10,7 +10,8 @@ namespace vantrell::cli
 {
 
 /// Exit statuses of the program.
-enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
+/// Differs: nothing failed, but what was compared is not the same.
+enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2, Differs = 3 };
 
 /// One subcommand's arguments, declared before parsing. A name that begins with a minus sign is an option's,
 /// any other a positional argument's. The targets outlive the parsing; they keep their value when the
@@ -25,6 +26,10 @@ public:
     void value(const char *name, std::optional<std::string> &target, const std::string &help);
     void values(const char *name, std::vector<std::string> &target, const std::string &help,
                 Need need = Need::Optional);
+    /// An option of exactly two values.
+    void pair(const char *name, std::vector<std::string> &target, const std::string &help);
+    /// An option that may be given several times, each time with one value.
+    void repeated(const char *name, std::vector<std::string> &target, const std::string &help);
     /// An argument whose value is one of the choices.
     void choice(const char *name, std::string &target, const std::vector<std::string> &choices,
                 const std::string &help, Need need = Need::Optional);

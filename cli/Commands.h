@@ -15,8 +15,11 @@ void addExportCommand(CommandLine &program);
 void addImportCommand(CommandLine &program);
 void addMarkersCommand(CommandLine &program);
 void addEditCommand(CommandLine &program);
+void addRelinkCommand(CommandLine &program);
 void addReportCommand(CommandLine &program);
 void addSendCommand(CommandLine &program);
+void addCompareCommand(CommandLine &program);
+void addCarryCommand(CommandLine &program);
 void addTimecodeCommand(CommandLine &program);
 
 } // namespace vantrell::cli

@@ -61,14 +61,14 @@ void ProjectSession::loadEnded(bool loaded, const QString &message, const QStrin
 
 void ProjectSession::inventoriesEnded()
 {
+    m_ended = true;
+    m_loop.quit(); // whatever goes wrong now
     if (document().isIncomplete()) {
         complain(incompleteLists);
         m_loaded = false;
     }
     if (m_comparesOwners)
         tellOwners();
-    m_ended = true;
-    m_loop.quit();
 }
 
 void ProjectSession::tellOwners()

@@ -27,8 +27,11 @@ int runProgram(int argc, char **argv)
     cli::addImportCommand(program);
     cli::addMarkersCommand(program);
     cli::addEditCommand(program);
+    cli::addRelinkCommand(program);
     cli::addReportCommand(program);
     cli::addSendCommand(program);
+    cli::addCompareCommand(program);
+    cli::addCarryCommand(program);
     cli::addTimecodeCommand(program);
     return program.run({argv + 1, argv + argc});
 }

@@ -21,6 +21,12 @@ namespace
 QString whyNoProject(XmlNode root)
 {
     const QString xmeml = QStringLiteral("xmeml");
+    const XmlNode content = root.firstChildElement();
+    if (root.name() == xmeml && root.namespaceUri().isNull() && content && !content.namespaceUri().isNull()) {
+        return QStringLiteral(
+                   "its element \"%1\" is in the namespace \"%2\", while those of a project are in none")
+            .arg(content.name(), content.namespaceUri());
+    }
     if (root.name().section(QLatin1Char(':'), -1) == xmeml && !root.namespaceUri().isNull()) {
         return QStringLiteral(
                    "its root element \"%1\" is in the namespace \"%2\", while those of a project are "
@@ -78,7 +84,7 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
         QVLog::appendLog(u"XML type: project");
     populateSequences();
     QString notice;
-    if (m_xmlDoc->wasRepaired()) {
+    if (m_xmlDoc->wasRepaired() || !m_xmlDoc->loss().isEmpty()) {
         m_damagedFile = url.toLocalFile();
         notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
                      .arg(url.toLocalFile(), m_xmlDoc->firstFault());

@@ -116,9 +116,10 @@ double freeSpace()
 class Choice
 {
 public:
-    explicit Choice(const ViewState &state)
+    Choice(const ViewState &state, const std::function<bool(const RowRecord &)> &condition)
         : m_type(wantedType(state.mediaKind))
         , m_drive(state.mediaDrive)
+        , m_condition(condition)
     {
     }
 
@@ -127,6 +128,8 @@ public:
         if (!m_type.isNull() && record.get(MediaKey::filetype) != m_type)
             return false;
         if (!m_drive.isNull() && !isOnDrive(record, m_drive, volumesFolders()))
+            return false;
+        if (m_condition && !m_condition(record))
             return false;
         m_statistics.add(record);
         return true;
@@ -148,6 +151,7 @@ private:
 
     QString m_type;  // null for every kind
     QString m_drive; // null for all
+    std::function<bool(const RowRecord &)> m_condition;
     std::optional<QStringList> m_volumesFolders;
     Statistics m_statistics;
 };
@@ -158,7 +162,7 @@ MediaFilter::MediaFilter(MyDocument &document)
     : m_document(document)
 {
     m_document.rowView(Tab::Media).setFilter(mediaColumns, [this] {
-        const auto choice = std::make_shared<Choice>(m_document.viewState());
+        const auto choice = std::make_shared<Choice>(m_document.viewState(), m_condition);
         return RowView::Filter{
             .passes = [choice](const RowRecord &record) { return choice->passes(record); },
             .shown = [this,

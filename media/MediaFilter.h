@@ -6,6 +6,8 @@
 #include <QObject>
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace vantrell
@@ -28,6 +30,13 @@ public:
     /// Rebuilds the rows on show, the labels and the chart; see MyDocument::rebuildRows(). Any thread.
     void populateFilteredMediaData();
 
+    /// What a file has to pass besides the menus, from the next rebuild on; empty for nothing. It may run on
+    /// any thread.
+    void setCondition(std::function<bool(const RowRecord &)> condition)
+    {
+        m_condition = std::move(condition);
+    }
+
     /// Fills the labels of the filtered media and the chart from a record of statistics
     /// (MediaStatisticsKey).
     void updateMediaStats(const RowRecord &statistics);
@@ -46,6 +55,7 @@ private:
     void noteShown(RowRecord statistics, std::uint64_t totalSize);
 
     MyDocument &m_document;
+    std::function<bool(const RowRecord &)> m_condition;
     RowRecord m_statistics;
 };
 

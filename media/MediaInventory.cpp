@@ -91,9 +91,10 @@ void MediaInventory::build()
         std::vector<QByteArray> paths;
         paths.reserve(files.size());
         const QString folder = projectFolder();
-        for (const File &file : files)
-            paths.push_back(
-                QFile::encodeName(MediaFile::absolutePath(file.path.value_or(QString()), folder)));
+        for (const File &file : files) {
+            const QString place = m_mappings.placeOf(file.url, file.path.value_or(QString()));
+            paths.push_back(QFile::encodeName(MediaFile::absolutePath(place, folder)));
+        }
         const FileChecks checks(std::move(paths), m_check);
         countUsage(files, MediaUsage(m_document.xmlNode(), m_document.xmlType(), sequences, isClosing));
         const std::optional<FileChecks::Answers> answers = checks.answers(isClosing, m_patience);
@@ -230,15 +231,25 @@ QString MediaInventory::projectFolder() const
     return QFileInfo(m_document.fileURL().toLocalFile()).absolutePath();
 }
 
+QStringList MediaInventory::placesOf(const RowList &records) const
+{
+    const QString folder = projectFolder();
+    QStringList places;
+    places.reserve(qsizetype(records.size()));
+    for (const RowRecordPtr &record : records) {
+        const QString path =
+            MediaFile::joinedPath(record->get(MediaKey::directory), record->get(MediaKey::filename));
+        const QString place = m_mappings.placeOf(record->get(MediaKey::rawpath), path);
+        places.append(place.isEmpty() ? QString() : MediaFile::absolutePath(place, folder));
+    }
+    return places;
+}
+
 /// Null for a row that is not there or has no path.
 QString MediaInventory::pathOfRow(std::size_t row) const
 {
     const RowList &rows = m_document.rowsOnShow(Tab::Media);
-    if (row >= rows.size())
-        return QString();
-    const QString path =
-        MediaFile::joinedPath(rows[row]->get(MediaKey::directory), rows[row]->get(MediaKey::filename));
-    return MediaFile::absolutePath(path, projectFolder());
+    return row < rows.size() ? placesOf({rows[row]}).front() : QString();
 }
 
 } // namespace vantrell

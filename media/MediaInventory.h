@@ -4,16 +4,19 @@
 #include "media/FileChecks.h"
 #include "media/MediaFilter.h"
 #include "media/MediaUsage.h"
+#include "media/PathMapping.h"
 #include "support/log/OperationQueue.h"
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace vantrell
@@ -51,6 +54,14 @@ public:
     void revealMediaInFinder();
     void mediaTableViewDoubleClick(std::ptrdiff_t clickedRow);
 
+    /// Where files are looked for, from the next run on. The records keep the paths of the project. Main
+    /// thread, while no run goes on.
+    void setPathMappings(PathMappings mappings) { m_mappings = std::move(mappings); }
+    const PathMappings &pathMappings() const { return m_mappings; }
+
+    /// The paths of the records' files on this machine; null for a record without a path. Main thread.
+    QStringList placesOf(const RowList &records) const;
+
     /// Replaces how files are looked at, and the patience. Before a run.
     void setFileCheck(const FileChecks::Check &check, std::chrono::milliseconds checkPatience);
 
@@ -74,6 +85,7 @@ private:
     MediaFilter &m_filter;
     FileChecks::Check m_check = FileChecks::lookUp;
     std::chrono::milliseconds m_patience = patience;
+    PathMappings m_mappings;
 
     /// As wide as the machine has processors; made and ended by each run, on whose thread alone it is
     /// touched. Cancelled when the run notices that the document closes.

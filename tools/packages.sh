@@ -3,7 +3,7 @@
 # To build the core, the command line, the desktop program and their tests.
 build_packages=(
     g++ cmake ninja-build pkg-config ccache
-    qt6-base-dev libxml2-dev libplist-dev libcli11-dev nlohmann-json3-dev
+    qt6-base-dev libxml2-dev libplist-dev libxxhash-dev libssl-dev libcli11-dev nlohmann-json3-dev
 )
 
 # Also, to run the desktop program: its icons, and sessions without an X server.
@@ -16,13 +16,15 @@ print_packages=(qt6-webengine-dev libqpdf-dev cups-client)
 packaging_packages=(dpkg-dev file)
 
 # Also, to run ./test: the formatter; the parser that the benchmark compares with; validators of the installed
-# files, the package and the manual pages; the shells with completions; a display; and PDF readers.
+# files, the package and the manual pages; the shells with completions; a display; PDF readers; and what
+# computes checksums to compare with.
 check_packages=(
     clang-format libxml2-utils
     appstream desktop-file-utils fakeroot libglib2.0-bin lintian mandoc shared-mime-info
     bash-completion zsh
     x11-utils xvfb
     poppler-utils
+    xxhash
 )
 
 # Also, to run tools/lint.

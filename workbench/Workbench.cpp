@@ -20,6 +20,7 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     if (defaults && defaults->boolean(MarkerInventory::ownOwnersDefault))
         m_markerInventory.setOwnerListing(OwnerListing::Own);
     m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
+    m_isMade = true;
 }
 
 Workbench::~Workbench()
@@ -81,6 +82,8 @@ MyDocument::Services Workbench::services(Inventories inventories)
         });
     };
     services.closing = [this] {
+        if (!m_isMade)
+            return;
         m_fetchCancel.cancel();
         m_projectSender.close();
     };

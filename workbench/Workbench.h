@@ -61,6 +61,7 @@ public:
 private:
     MyDocument::Services services(Inventories inventories);
 
+    bool m_isMade = false; // until then there is nothing to close but the document
     EventCancel m_fetchCancel;
     MyDocument m_document;
     ProjectSender m_projectSender{m_document};

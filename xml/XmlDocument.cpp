@@ -56,12 +56,23 @@ QString lossText(const XmlLoss &loss)
         return QStringLiteral("Content is missing: %1 in a comment that does not end where it should.")
             .arg(counted(loss.elementsInComments, u"is", u"are"));
     }
-    if (!loss.isCutOff) {
+    if (!loss.isCutOff && loss.misplacedLine > 0) {
         return QStringLiteral(
-                   "Content is missing from its place: the end tag on line %1 matches no start tag, and "
-                   "elements near it or behind it are outside of those that they belong to.")
-            .arg(grouped(loss.mismatchLine));
+                   "Content is missing from its place: the tags do not match, so elements near or behind "
+                   "line %1 may be outside of those that they belong to.")
+            .arg(grouped(loss.misplacedLine));
     }
+    if (!loss.isCutOff && loss.droppedReferences > 0) {
+        return QStringLiteral(
+                   "Content is missing: \"&\" stands for no character in %1, the first on line %2.")
+            .arg(loss.droppedReferences == 1
+                     ? QStringLiteral("1 place")
+                     : QStringLiteral("%1 places").arg(grouped(loss.droppedReferences)),
+                 grouped(loss.firstDropped));
+    }
+    if (!loss.isCutOff)
+        return QStringLiteral(
+            "Content is missing: the entities that the document type declares are not kept.");
     return readAll ? QStringLiteral("Content is missing: %1, but the file ends in the middle of an element.")
                          .arg(bytes)
                    : QStringLiteral("Content is missing: %1.").arg(bytes);

@@ -19,9 +19,9 @@ void ignoreMessage(void *, const char *, ...) {}
 void prepare()
 {
     static std::once_flag once;
-    std::call_once(once, [] { xmlInitParser(); });
     xmlSetStructuredErrorFunc(nullptr, ignoreError);
     xmlSetGenericErrorFunc(nullptr, ignoreMessage);
+    std::call_once(once, [] { xmlInitParser(); });
 }
 
 } // namespace vantrell::XmlLibrary

@@ -38,14 +38,14 @@ private:
     /// A known name by its address; the content is compared as well.
     struct Known {
         const unsigned char *local = nullptr;
-        const char *text = "";
-        XmlNameId id = XmlTree::noName;
+        const char *text = nullptr;
+        XmlNameId id = 0;
     };
 
     XmlNameId interned(const Raw &raw);
 
     XmlTree &m_tree;
-    std::array<Known, 1024> m_known;
+    std::array<Known, 1024> m_known = {};
     std::unordered_map<const unsigned char *, std::uint32_t> m_uris; // numbers, by where the URI is
 };
 

@@ -2,6 +2,7 @@
 
 #include <QIODevice>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vantrell
@@ -59,8 +60,8 @@ bool XmlOutput::keepsMarkup()
     char *in = markup.data();
     std::size_t inLeft = markup.size();
     const bool isWhole = convertPart(in, inLeft);
-    const bool isSame = isWhole && m_converted == markup;
-    m_converted.clear();
+    const bool isSame = isWhole && std::string_view(m_converted.data(), m_convertedSize) == markup;
+    m_convertedSize = 0;
     return isSame;
 }
 
@@ -70,30 +71,37 @@ bool XmlOutput::flush()
         m_failed = true;
     if (m_converter != noConverter && !m_failed)
         convert();
-    const std::string &bytes = m_converter != noConverter ? m_converted : m_text;
+    const bool isConverted = m_converter != noConverter;
     if (!m_failed) {
-        const auto size = qint64(bytes.size());
-        m_failed = m_device.write(bytes.data(), size) != size;
+        const auto size = qint64(isConverted ? m_convertedSize : m_text.size());
+        m_failed = m_device.write(isConverted ? m_converted.data() : m_text.data(), size) != size;
     }
     m_text.clear();
-    m_converted.clear();
+    m_convertedSize = 0;
     return !m_failed;
 }
 
-/// Text is passed on in whole characters only.
+/// In small parts of whole characters: at each one that the encoding lacks, iconv() goes through all of its
+/// input again.
 void XmlOutput::convert()
 {
+    constexpr std::ptrdiff_t partSize = 128;
     char *in = m_text.data();
-    std::size_t inLeft = m_text.size();
-    while (inLeft > 0) {
-        if (convertPart(in, inLeft))
+    const char *const end = in + m_text.size();
+    while (in != end) {
+        std::ptrdiff_t size = std::min(partSize, end - in);
+        while (in + size != end && (in[size] & 0xC0) == 0x80)
+            --size;
+        auto inLeft = std::size_t(size);
+        if (convertPart(in, inLeft) || errno == E2BIG)
             continue;
-        if (errno == E2BIG)
-            continue;
+        if (m_cancelled && *m_cancelled) {
+            m_failed = true;
+            return;
+        }
         std::size_t length = 0;
         std::string reference = "&#" + std::to_string(std::uint32_t(firstCharacter(in, length))) + ";";
         in += length;
-        inLeft -= length;
         char *referenceIn = reference.data();
         std::size_t referenceLeft = reference.size();
         if (!convertPart(referenceIn, referenceLeft)) {
@@ -103,17 +111,17 @@ void XmlOutput::convert()
     }
 }
 
-/// False with errno set where it stopped early.
+/// False with errno set where it stopped early. There may be a character that the encoding lacks at every
+/// step, so each needs no more room than the text in front of it.
 bool XmlOutput::convertPart(char *&in, std::size_t &inLeft)
 {
-    const std::size_t size = m_converted.size();
-    m_converted.resize(size + inLeft * 4 + 64);
-    char *out = m_converted.data() + size;
-    std::size_t outLeft = m_converted.size() - size;
+    constexpr std::size_t wanted = 4096; // bytes
+    if (m_converted.size() < m_convertedSize + wanted)
+        m_converted.resize(std::max(2 * m_converted.size(), m_convertedSize + wanted));
+    char *out = m_converted.data() + m_convertedSize;
+    std::size_t outLeft = m_converted.size() - m_convertedSize;
     const std::size_t result = iconv(m_converter, &in, &inLeft, &out, &outLeft);
-    const int error = errno;
-    m_converted.resize(m_converted.size() - outLeft);
-    errno = error;
+    m_convertedSize = std::size_t(out - m_converted.data());
     return result != std::size_t(-1);
 }
 

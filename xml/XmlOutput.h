@@ -52,7 +52,8 @@ private:
     QIODevice &m_device;
     const std::atomic<bool> *m_cancelled;
     std::string m_text;      // UTF-8, not passed on yet
-    std::string m_converted; // the same in another encoding
+    std::string m_converted; // the same in another encoding, and room for more
+    std::size_t m_convertedSize = 0;
     iconv_t m_converter;
     bool m_failed = false;
 };

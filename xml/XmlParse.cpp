@@ -11,6 +11,7 @@
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <set>
@@ -68,16 +69,18 @@ public:
         sax->comment = comment;
         sax->processingInstruction = processingInstruction;
         sax->reference = reference;
-        sax->entityDecl = [](void *, const xmlChar *, int, const xmlChar *, const xmlChar *, xmlChar *) {};
-        sax->unparsedEntityDecl = [](void *, const xmlChar *, const xmlChar *, const xmlChar *,
-                                     const xmlChar *) {};
+        sax->getEntity = getEntity;
+        sax->entityDecl = [](void *parser, const xmlChar *, int, const xmlChar *, const xmlChar *,
+                             xmlChar *) { of(parser)->m_hasEntities = true; };
+        sax->unparsedEntityDecl = [](void *parser, const xmlChar *, const xmlChar *, const xmlChar *,
+                                     const xmlChar *) { of(parser)->m_hasEntities = true; };
         sax->serror = error;
     }
 
     ParseOutcome run()
     {
         int options = XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_IGNORE_ENC |
-                      XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+                      XML_PARSE_OLDSAX | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
         if (m_request.tolerant)
             options |= XML_PARSE_RECOVER;
         const std::unique_ptr<xmlDoc, DocumentDeleter> document(
@@ -165,7 +168,20 @@ private:
     static void characters(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
+        // A reference that onReference() has passed on already.
+        if (length == 1 && self->m_referenceEnd >= 0 && self->m_referenceEnd == self->textOffset())
+            return;
         self->guard([&] { self->onText(viewOf(text, length)); });
+    }
+
+    /// Of the predefined entities; others are never declared.
+    static xmlEntity *getEntity(void *context, const xmlChar *name)
+    {
+        xmlEntity *const entity = xmlGetPredefinedEntity(name);
+        Parse *const self = of(context);
+        if (entity)
+            self->guard([&] { self->onReference(viewOf(entity->content)); });
+        return entity;
     }
 
     static void cdata(void *context, const xmlChar *text, int length)
@@ -230,6 +246,27 @@ private:
         }
     }
 
+    /// Behind its first error the library drops the references in content.
+    void onReference(std::string_view character)
+    {
+        if (m_context->wellFormed || m_context->instate != XML_PARSER_CONTENT)
+            return;
+        onText(character);
+        m_referenceEnd = textOffset();
+    }
+
+    /// Text in front of a misplaced "]]>" is passed over when it was not reported yet; what follows its first
+    /// bracket comes as text.
+    void saveTextBeforeBrackets()
+    {
+        constexpr std::string_view brackets = "]]>";
+        const xmlParserInput *const input = m_context->input;
+        const std::string_view rest = viewOf(input->cur, input->end - input->cur);
+        const std::size_t at = rest.find(brackets);
+        if (at != 0 && at != std::string_view::npos)
+            onText(rest.substr(0, at + 1));
+    }
+
     /// Content that is lost, or out of its place, without an event that tells.
     void noteBrokenMarkup(const xmlError &problem)
     {
@@ -240,13 +277,22 @@ private:
             m_swallowedFrom = m_lastTagEnd;
         // With the name of the element it is a start tag.
         m_isTagBroken = m_isTagBroken || (problem.code == XML_ERR_GT_REQUIRED && problem.str1);
-        if (problem.code == XML_ERR_TAG_NAME_MISMATCH && m_firstMismatch == 0) {
-            m_firstMismatch = problem.line;
-            m_hasMisplaced = !m_isLeaf;
+        if (problem.code == XML_ERR_TAG_NAME_MISMATCH) {
+            m_firstMismatch = m_firstMismatch > 0 ? m_firstMismatch : problem.line;
+            m_hasMisplaced = m_hasMisplaced || !m_isLeaf;
+        }
+        if (problem.code == XML_ERR_MISPLACED_CDATA_END && m_context->instate == XML_PARSER_CONTENT)
+            saveTextBeforeBrackets();
+        const bool isDropped =
+            problem.code == XML_ERR_ENTITYREF_SEMICOL_MISSING || problem.code == XML_ERR_NAME_REQUIRED ||
+            problem.code == XML_ERR_UNDECLARED_ENTITY || problem.code == XML_WAR_UNDECLARED_ENTITY;
+        if (isDropped && m_depth > 0) {
+            ++m_droppedReferences;
+            m_firstDropped = m_firstDropped > 0 ? m_firstDropped : problem.line;
         }
         m_hasContentAfterRoot = m_hasContentAfterRoot || problem.code == XML_ERR_DOCUMENT_END;
         if (problem.code == XML_ERR_HYPHEN_IN_COMMENT) {
-            m_hyphenCost += textOffset() - m_lastTagEnd;
+            m_hyphenCost += problem.str1 ? std::int64_t(std::strlen(problem.str1)) : 0;
             if (m_hyphenCost > maximumHyphenCost || isCancelled())
                 xmlStopParser(m_context);
         }
@@ -257,14 +303,13 @@ private:
         return m_request.cancelled && m_request.cancelled->load(std::memory_order_relaxed);
     }
 
-    /// The library overlooks an end of three hyphens, and the comment goes on to the next end.
+    /// A comment whose end is broken, or has three hyphens, goes on to the next end.
     void onComment(std::string_view text)
     {
-        constexpr std::string_view end = "-->";
-        if (const std::size_t at = text.find(end); at != std::string_view::npos) {
-            for (std::size_t tag = at + end.size(); tag + 1 < text.size(); ++tag)
-                m_elementsInComments += text[tag] == '<' && startsXmlName(text[tag + 1]);
-        }
+        const bool isWhole = text.find("--") == std::string_view::npos && !text.ends_with('-') &&
+                             !text.starts_with('>') && !text.starts_with("->");
+        for (std::size_t i = 0; !isWhole && i + 1 < text.size(); ++i)
+            m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
         m_events.addComment(text);
     }
 
@@ -367,6 +412,7 @@ private:
     {
         m_events.finish();
         outcome.loss.bytesTotal = m_request.source.size;
+        outcome.loss.hasDroppedEntities = m_hasEntities;
         const bool isOpen = m_depth > 0;
         // A parser that gave up no longer knows how far it came; the error tells it.
         const bool isSwallowed = m_swallowedFrom >= 0;
@@ -381,11 +427,15 @@ private:
             // Where only end tags are missing the last one is there.
             outcome.loss.isCutOff = isOpen && (isSwallowed || !m_input.endsWith("</" + rootName() + '>'));
             outcome.loss.elementsInComments = m_elementsInComments;
-            // A misspelt end tag ends the element that it should. Where one is missing or too many, those
-            // behind it end other elements.
-            const bool isMisplaced = (isOpen && m_hasMisplaced) || m_hasStartAfterMismatch;
-            if ((isOpen || m_hasContentAfterRoot) && isMisplaced)
-                outcome.loss.mismatchLine = m_firstMismatch;
+            outcome.loss.droppedReferences = m_droppedReferences;
+            outcome.loss.firstDropped = m_firstDropped;
+            // An end tag that does not match ends the element all the same. Where that has no elements it is
+            // misspelt, and nothing else is wrong; else elements may be in others than they should.
+            const bool hasMismatch = m_firstMismatch > 0;
+            const bool isShifted = isOpen ? !hasMismatch || m_hasStartAfterMismatch
+                                          : m_hasContentAfterRoot && m_hasStartAfterMismatch;
+            if (m_hasMisplaced || isShifted)
+                outcome.loss.misplacedLine = int(hasMismatch ? m_firstMismatch : m_firstErrorLine);
         }
         m_builder.finish();
         if (!document)
@@ -413,7 +463,10 @@ private:
         if (!buffer)
             throw std::bad_alloc();
         xmlNodeDump(buffer.get(), document, reinterpret_cast<xmlNode *>(doctype), 0, 0);
-        return std::string(viewOf(xmlBufferContent(buffer.get())));
+        std::string text(viewOf(xmlBufferContent(buffer.get())));
+        if (text.empty())
+            throw std::bad_alloc();
+        return text;
     }
 
     xmlParserCtxt *m_context;
@@ -435,8 +488,12 @@ private:
     int m_firstMismatch = 0;     // line of the first end tag that is not that of the open element; 0 for none
     bool m_hasMisplaced = false; // elements, where its end tag is the one that is missing
     bool m_hasStartAfterMismatch = false;
-    bool m_isLeaf = false; // whether nothing but text came after the last start tag
+    bool m_isLeaf = false;      // whether nothing but text came after the last start tag
+    bool m_hasEntities = false; // declared ones
     std::int64_t m_elementsInComments = 0;
+    std::int64_t m_droppedReferences = 0;
+    int m_firstDropped = 0;   // line
+    long m_referenceEnd = -1; // bytes of the text: the end of a reference that was passed on
     std::int64_t m_defaultsCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text

@@ -34,13 +34,16 @@ struct XmlLoss {
     std::int64_t bytesTotal = -1;     ///< -1 when unknown
     /// Elements that became a part of a comment whose end was not recognised.
     std::int64_t elementsInComments = 0;
-    /// The line of an end tag that does not match, where those behind it end other elements than they should;
-    /// 0 for none.
-    int mismatchLine = 0;
+    /// The line of a broken tag that may have put elements into others than they belong to; 0 for none.
+    int misplacedLine = 0;
+    std::int64_t droppedReferences = 0; ///< that stand for no character
+    int firstDropped = 0;               ///< line of the first of them
+    bool hasDroppedEntities = false;    ///< whether the document type declares entities
 
     bool isLoss() const
     {
-        return isCutOff || droppedElements > 0 || elementsInComments > 0 || mismatchLine > 0;
+        return isCutOff || droppedElements > 0 || elementsInComments > 0 || misplacedLine > 0 ||
+               droppedReferences > 0 || hasDroppedEntities;
     }
 };
 

@@ -266,6 +266,8 @@ void XmlTreeBuilder::setDoctype(const std::string &text)
                                 XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING)
             : nullptr,
         xmlFreeDoc);
+    if (!context || context->errNo == XML_ERR_NO_MEMORY)
+        throw std::bad_alloc();
     if (parsed)
         m_tree.node(m_doctype).text = m_tree.addText(text);
     else

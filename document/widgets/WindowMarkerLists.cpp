@@ -113,13 +113,13 @@ void WindowMarkerLists::exportMarkerList(const QString &path, const QString &for
                      if (write->cancel())
                          m_work.end();
                  });
-    BackgroundWork::run([this, gate = document->mainThread(), write, path, format, count, list] {
-        const Result<void> written = FileUtilities::writeAtomically(path, list, write->check());
-        gate->post([this, write, path, format, count, written] {
+    BackgroundWork::run(
+        [write, path, list] { return FileUtilities::writeAtomically(path, list, write->check()); },
+        document->mainThread(),
+        [this, write, path, format, count](const Result<void> &written) {
             if (!write->isCancelled())
                 exported(path, format, count, written);
         });
-    });
 }
 
 void WindowMarkerLists::exported(const QString &path, const QString &format, std::size_t count,

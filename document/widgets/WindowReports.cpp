@@ -194,22 +194,22 @@ void WindowReports::exportReportTo(const QString &path, ReportFormat format)
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [isCancelled] { *isCancelled = true; });
     const PrintHelper::Pages pages = PrintInfo(m_defaults.value(printSettingsKey).toMap()).pages();
-    const auto gate = m_window.workbench().document().mainThread();
-    BackgroundWork::run([this, gate, path, format, helper, pages, isCancelled, bytes = text.data()] {
+    const auto writeReport = [path, format, helper, pages, isCancelled, bytes = text.data()] {
         const FileUtilities::Writer write = [&](QIODevice &device) {
             device.write(bytes); // errors are checked by whoever opened the device
             return *isCancelled ? Result<void>(Failure()) : Result<void>();
         };
         const auto hasEnough = [&] { return isCancelled->load(); };
-        const Result<void> written =
-            format == ReportFormat::Pdf
-                ? PrintHelper::writePDF(helper, write, ReportImages::standardFolder(), path, pages, hasEnough)
-                : FileUtilities::writeAtomically(path, write);
-        gate->post([this, path, written, isCancelled] {
-            m_work.end();
-            exported(path, written, *isCancelled);
-        });
-    });
+        return format == ReportFormat::Pdf
+                   ? PrintHelper::writePDF(helper, write, ReportImages::standardFolder(), path, pages,
+                                           hasEnough)
+                   : FileUtilities::writeAtomically(path, write);
+    };
+    BackgroundWork::run(writeReport, m_window.workbench().document().mainThread(),
+                        [this, path, isCancelled](const Result<void> &written) {
+                            m_work.end();
+                            exported(path, written, *isCancelled);
+                        });
 }
 
 void WindowReports::exported(const QString &path, const Result<void> &written, bool isCancelled)

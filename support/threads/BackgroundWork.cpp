@@ -2,6 +2,7 @@
 
 #include "support/log/QVException.h"
 #include "support/threads/MainThread.h"
+#include "support/threads/Persistently.h"
 
 #include <atomic>
 #include <exception>
@@ -32,6 +33,18 @@ void BackgroundWork::run(std::function<void()> work)
     } catch (const std::exception &) {
         run(); // no thread to be had
     }
+}
+
+void BackgroundWork::run(std::function<Result<void>()> work, std::shared_ptr<MainThreadGate> gate,
+                         std::function<void(const Result<void> &)> done)
+{
+    const auto outcome =
+        std::make_shared<Result<void>>(Failure{QStringLiteral("There is not enough memory.")});
+    const auto end = [outcome, done = std::move(done)] { done(*outcome); };
+    run([outcome, end, work = std::move(work), gate = std::move(gate)] {
+        guarded("BackgroundWork::run", [&] { *outcome = work(); });
+        persistently("BackgroundWork::run", [&] { gate->post(end); });
+    });
 }
 
 bool BackgroundWork::waitForAll(std::chrono::milliseconds limit)

@@ -520,16 +520,26 @@ private Q_SLOTS:
         QVERIFY(document.knownFile()->changeAt(path));
     }
 
-    void aRootInANamespaceIsTold()
+    void namespacesAreTold_data()
     {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("root") << QByteArray("<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>")
+                              << QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"");
+        QTest::newRow("content") << QByteArray("<xmeml><project xmlns=\"urn:y\"/></xmeml>")
+                                 << QStringLiteral("\"project\" is in the namespace \"urn:y\"");
+    }
+    void namespacesAreTold()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QString, told);
         ScriptedDocumentInterface world;
         MyDocument document(world, {});
         world.watch(document);
-        load(document, world, "<p:xmeml xmlns:p=\"urn:x\"><sequence/></p:xmeml>");
+        load(document, world, xml);
         QVERIFY(world.loaded);
         QCOMPARE(titles(document.sequenceMenu()), QStringLiteral("(none)"));
-        QVERIFY2(world.notice.contains(QStringLiteral("\"p:xmeml\" is in the namespace \"urn:x\"")),
-                 qPrintable(world.notice));
+        QVERIFY2(world.notice.contains(told), qPrintable(world.notice));
     }
 
     void loadsAndSavesWhereThereAreNoThreads()

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "media/MediaUses.h"
+#include "rows/RowRecord.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// Lists of media files to send. Any thread.
+namespace vantrell::SendList
+{
+
+/// One file: its record, the path on this machine (null for none), and what the sequences use of it, if that
+/// is known.
+struct File {
+    RowRecordPtr record;
+    QString place;
+    std::optional<MediaUses::File> uses;
+};
+
+/// Comma-separated values with a line of titles and line ends of carriage return and line feed, in UTF-8.
+/// Sizes are bytes, dates ISO 8601 in UTC; Usage is the usage count of the record, Uses the one of MediaUses.
+QByteArray csv(const std::vector<File> &files);
+
+/// What ends a path in a list for rsync: a line feed, or a NUL for its option --from0.
+enum class PathEnd : char { Line = '\n', Nul = '\0' };
+/// The absolute paths, each once, for `rsync --files-from` with the source "/". Where line feeds end
+/// paths, one that contains a line feed or a carriage return is left out, and appended to \a leftOut.
+QByteArray paths(const std::vector<File> &files, PathEnd end, QStringList &leftOut);
+
+} // namespace vantrell::SendList
