@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -121,6 +122,9 @@ void MainMenu::makeMarkerListMenus()
 void MainMenu::makeEditMenu()
 {
     QMenu *const menu = addMenu(tr("&Edit"));
+    m_undo = add(menu, tr("&Undo"), QKeySequence::Undo, m_document, &DocumentWindow::undo);
+    m_redo = add(menu, tr("&Redo"), QKeySequence::Redo, m_document, &DocumentWindow::redo);
+    menu->addSeparator();
     m_documentActions << add(menu, tr("&Copy"), QKeySequence::Copy, m_document,
                              &DocumentWindow::copySelection)
                       << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
@@ -227,6 +231,7 @@ void MainMenu::validate()
     for (QAction *const action : m_documentActions)
         action->setEnabled(showsPanes);
     m_sortMenu->setEnabled(showsPanes);
+    validateUndo();
     if (!showsPanes) {
         m_remove->setEnabled(false);
         return;
@@ -234,6 +239,21 @@ void MainMenu::validate()
     const Tab tab = m_document->selectedTab();
     m_paneActions.at(int(tab))->setChecked(true);
     m_remove->setEnabled(m_document->mayEdit() && tab != Tab::Media);
+}
+
+/// While a text is being edited, both are its own. The shortcuts stay enabled for when that ends.
+void MainMenu::validateUndo()
+{
+    const MyDocument *const document = m_document ? m_document->document() : nullptr;
+    const bool mayEdit = document && m_document->mayEdit();
+    const auto *const field = qobject_cast<QLineEdit *>(m_window.focusWidget());
+    const auto title = [](const QString &command, const QString &step) {
+        return step.isEmpty() ? command : command + QLatin1Char(' ') + step;
+    };
+    m_undo->setText(title(tr("&Undo"), document && !field ? document->undoName() : QString()));
+    m_redo->setText(title(tr("&Redo"), document && !field ? document->redoName() : QString()));
+    m_undo->setEnabled((field && field->isUndoAvailable()) || (mayEdit && document->canUndo()));
+    m_redo->setEnabled((field && field->isRedoAvailable()) || (mayEdit && document->canRedo()));
 }
 
 void MainMenu::validateFileMenu()

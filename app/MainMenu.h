@@ -38,6 +38,7 @@ private:
     void fillRecentMenu();
     void fillSortMenu();
     void validate();
+    void validateUndo();
     void validateFileMenu();
     void validateOpenFCPProject();
 
@@ -57,6 +58,8 @@ private:
     QAction *m_revert = nullptr;
     QAction *m_send = nullptr;
     QAction *m_exportSequences = nullptr;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_qcLogging = nullptr;
     QList<QAction *> m_reportActions;   // print and export reports

@@ -63,6 +63,18 @@ struct EditRun::Applier {
         return edit(Tab::Effects, operation.rows, [&](const RowList &records) { effects.remove(records); });
     }
 
+    bool operator()(const Undo &) const
+    {
+        document.undo();
+        return true;
+    }
+
+    bool operator()(const Redo &) const
+    {
+        document.redo();
+        return true;
+    }
+
 private:
     template <typename Change>
     bool edit(Tab tab, const RowIndexes &rows, Change change) const

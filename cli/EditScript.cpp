@@ -170,6 +170,8 @@ const std::map<std::string, Reader, std::less<>> &readers()
          }},
         {"setEffect", setEffect},
         {"removeEffects", [](Members &members) -> EditOperation { return RemoveEffects{members.rows()}; }},
+        {"undo", [](Members &) -> EditOperation { return Undo(); }},
+        {"redo", [](Members &) -> EditOperation { return Redo(); }},
     };
     return table;
 }

@@ -55,8 +55,13 @@ struct RemoveEffects {
     RowIndexes rows;
 };
 
+struct Undo {
+};
+struct Redo {
+};
+
 using EditOperation = std::variant<SetCell, AddMarker, AddFrames, AddTimecode, RemoveMarkers, OffsetMarkers,
-                                   SetEffect, RemoveEffects>;
+                                   SetEffect, RemoveEffects, Undo, Redo>;
 using EditScript = std::vector<EditOperation>;
 
 /// Reads the operations from JSON. The failure tells which operation is wrong and why: unknown, a missing

@@ -1,5 +1,6 @@
 #include "compare/MarkerCarrier.h"
 
+#include "document/DocumentEdit.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerComment.h"
@@ -120,6 +121,7 @@ std::size_t MarkerCarrier::carry(std::vector<CarriedMarker> &plan, const Sequenc
                                  WithoutPlace withoutPlace)
 {
     std::size_t added = 0;
+    const DocumentEdit edit(document, Tab::Markers, QStringLiteral("Carry Markers"));
     const RowView::Updates updates(document.rowView(Tab::Markers));
     for (CarriedMarker &one : plan) {
         MarkerPlace place = one.place;

@@ -27,6 +27,10 @@ public:
     /// The indexes of the selected rows in the visible rows of the tab, ascending.
     virtual std::vector<std::size_t> selectedRows(Tab tab) = 0;
     virtual void selectRows(Tab tab, const std::vector<std::size_t> &rows) = 0;
+    /// Scrolls the visible row into view.
+    virtual void scrollToRow(Tab tab, std::size_t row) = 0;
+    /// Selects the tab, whose rows are visible then.
+    virtual void showTab(Tab tab) = 0;
     /// Begins editing the cell with its text selected; nothing when the column is not there.
     virtual void editCell(Tab tab, std::size_t row, const QString &column) = 0;
 

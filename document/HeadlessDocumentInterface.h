@@ -14,6 +14,8 @@ public:
     AlertParent *alertParent() override { return nullptr; }
     std::vector<std::size_t> selectedRows(Tab tab) override { return m_selection.value(tab); }
     void selectRows(Tab tab, const std::vector<std::size_t> &rows) override { m_selection.insert(tab, rows); }
+    void scrollToRow(Tab, std::size_t) override {}
+    void showTab(Tab) override {}
     void editCell(Tab, std::size_t, const QString &) override {}
     QStringList markerColumns() override { return m_markerColumns; }
     void addMarkerColumn(const QString &identifier, const QString &title) override;

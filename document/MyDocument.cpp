@@ -161,47 +161,47 @@ void MyDocument::setLabel(Label label, const QString &text)
 
 void MyDocument::addModifiedSequenceUUID(const QString &uuid)
 {
-    if (!m_modifiedSequenceUUIDs)
-        m_modifiedSequenceUUIDs.emplace();
-    m_modifiedSequenceUUIDs->append(uuid);
-    m_modifiedSet.insert(uuid);
+    m_marks.addSequence(uuid);
 }
 
 void MyDocument::markSequenceModified(const QString &uuid)
 {
-    if (!uuid.isNull() && !isSequenceModified(uuid))
-        addModifiedSequenceUUID(uuid);
-    updateChangeCount();
+    noteChange([&] { m_marks.markSequence(uuid); });
 }
 
 void MyDocument::clearModifiedSequenceUUIDs()
 {
-    m_modifiedSequenceUUIDs.reset();
-    m_modifiedSet.clear();
-    if (m_sending)
-        m_sending->sequences = 0;
+    m_marks.clearSequences();
 }
 
 void MyDocument::updateChangeCount()
 {
-    ++m_changeCount;
-    if (m_changeCount == 1)
+    noteChange([this] { m_marks.noteChange(); });
+}
+
+template <typename Note>
+void MyDocument::noteChange(Note note)
+{
+    const bool wasEdited = isEdited();
+    note();
+    if (!wasEdited)
         Q_EMIT editedChanged(true);
+    if (m_edit || !(m_history.canUndo() || m_history.canRedo()))
+        return;
+    m_history.clear();
+    Q_EMIT historyChanged();
 }
 
 void MyDocument::clearChangeCount()
 {
-    m_changeCount = 0;
-    if (m_sending)
-        m_sending->changes = 0;
+    m_marks.noteSaved();
     Q_EMIT editedChanged(false);
 }
 
 void MyDocument::beginSending()
 {
-    m_sending = {m_changeCount, m_modifiedSequenceUUIDs ? m_modifiedSequenceUUIDs->size() : 0};
+    m_marks.beginSending();
     m_isReadToBeSent = true;
-    m_modifiedSet.clear(); // so that a sequence that is changed again is added again
     Q_EMIT editingAllowedChanged();
 }
 
@@ -213,25 +213,11 @@ void MyDocument::endReadingToSend()
 
 void MyDocument::endSending(SendResult result)
 {
-    const std::optional<Sending> sent = std::exchange(m_sending, std::nullopt);
+    const bool wasSending = isSending();
+    m_marks.endSending(result != SendResult::Failed, result == SendResult::SequencesSent);
     endReadingToSend();
-    if (!sent)
-        return;
-    if (result != SendResult::Failed) {
-        m_changeCount -= sent->changes;
-        if (m_changeCount == 0)
-            Q_EMIT editedChanged(false);
-    }
-    const QStringList all = m_modifiedSequenceUUIDs.value_or(QStringList());
-    const qsizetype count = sent->sequences;
-    QStringList kept = result == SendResult::SequencesSent ? QStringList() : all.first(count);
-    m_modifiedSet = QSet<QString>(kept.begin(), kept.end());
-    for (const QString &uuid : all.sliced(count)) {
-        if (!m_modifiedSet.contains(uuid))
-            kept.append(uuid);
-        m_modifiedSet.insert(uuid);
-    }
-    m_modifiedSequenceUUIDs = kept.isEmpty() ? std::nullopt : std::optional(kept);
+    if (wasSending && result != SendResult::Failed && !isEdited())
+        Q_EMIT editedChanged(false);
 }
 
 void MyDocument::showAlert(const QString &messageText, const QString &informativeText)

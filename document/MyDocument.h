@@ -1,7 +1,9 @@
 #pragma once
 
+#include "document/ChangeMarks.h"
 #include "document/ClipMenus.h"
 #include "document/DocumentInterface.h"
+#include "document/EditHistory.h"
 #include "document/KnownFile.h"
 #include "document/Menu.h"
 #include "document/Tab.h"
@@ -25,6 +27,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace vantrell
@@ -232,7 +235,7 @@ public:
 
     // Changes
 
-    const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_modifiedSequenceUUIDs; }
+    const std::optional<QStringList> &modifiedSequenceUUIDs() const { return m_marks.sequences(); }
     /// Appends without a check: the same UUID may stand several times.
     void addModifiedSequenceUUID(const QString &uuid);
     /// An edit changed the sequence with that UUID, or one without a UUID (null): adds the UUID unless it is
@@ -240,13 +243,58 @@ public:
     void markSequenceModified(const QString &uuid);
     /// Whether the UUID stands in the list; while the document is being sent, in what was added since
     /// that began. In constant time.
-    bool isSequenceModified(const QString &uuid) const { return m_modifiedSet.contains(uuid); }
+    bool isSequenceModified(const QString &uuid) const { return m_marks.contains(uuid); }
     /// Makes the list absent.
     void clearModifiedSequenceUUIDs();
-    /// Marks one change done, or all changes cleared.
+    /// Marks one change done, or all changes cleared. What changes outside of an edit cannot be undone, nor
+    /// what was done before.
     void updateChangeCount();
     void clearChangeCount();
-    bool isEdited() const { return m_changeCount > 0; }
+    bool isEdited() const { return m_marks.isEdited(); }
+
+    // Undo and redo
+
+    /// What is changed between these two, which may be nested, is one step to undo: tree, rows, modified
+    /// sequences. The outermost pair names it, and its group. DocumentEdit calls both.
+    void beginEdit(Tab tab, const QString &name, EditGroup group = 0);
+    void endEdit();
+    /// A group of its own for edits that shall be one step.
+    EditGroup newEditGroup() { return ++m_lastGroup; }
+
+    // What an edit does to rows; see RowChanges
+
+    void willSet(const RowRecordPtr &row, const RecordKey &key);
+    void willChange(const RowRecordPtr &row);
+    void appendRow(Tab tab, const RowRecordPtr &row);
+    void removeRows(Tab tab, const RowList &rows);
+
+    /// Rows that undoing or redoing a step has given other values, added to a list or removed from it.
+    struct RestoredRows {
+        RowList changed; ///< of all lists, some of them more than once
+        RowList added;
+        RowList removed;
+    };
+    /// What else follows a tab's list. Both functions may be empty.
+    struct RowFollower {
+        std::function<void(const RestoredRows &rows)> restored;
+        /// Makes the list anew from the tree: it was replaced since the step.
+        std::function<void()> relist;
+    };
+    void setRowFollower(Tab tab, RowFollower follower)
+    {
+        m_rowFollowers[std::size_t(tab)] = std::move(follower);
+    }
+
+    /// Whether there is a step, and the tree may be changed.
+    bool canUndo() const { return m_history.canUndo() && mayRestore(); }
+    bool canRedo() const { return m_history.canRedo() && mayRestore(); }
+    /// The name of the step, such as "Rename Marker"; null without one.
+    QString undoName() const { return m_history.canUndo() ? m_history.toUndo().name : QString(); }
+    QString redoName() const { return m_history.canRedo() ? m_history.toRedo().name : QString(); }
+    /// Restores tree, rows, modified sequences and edited mark as they were before the last step, or as the
+    /// step left them, and shows and selects its rows on their tab. False when nothing was done.
+    bool undo();
+    bool redo();
 
     // Sending: what is changed while the changes so far are on their way still counts as changed after.
 
@@ -261,7 +309,7 @@ public:
         SequencesSent, ///< they arrived, and are taken from the list
     };
     void endSending(SendResult result);
-    bool isSending() const { return m_sending.has_value(); }
+    bool isSending() const { return m_marks.isSending(); }
 
     /// Shows an alert with one button on the document's window and waits for its answer or for the
     /// closing of the document. Any thread.
@@ -289,6 +337,8 @@ Q_SIGNALS:
     void messageGiven(Tab tab, const QString &text);
     /// The tree is read to be sent and may not be edited, or may be edited again; see isSaving().
     void editingAllowedChanged();
+    /// Other steps than before can be undone or redone.
+    void historyChanged();
     /// The document has changes that were not saved or sent, or has none any more.
     void editedChanged(bool isEdited);
 
@@ -303,6 +353,14 @@ private:
     Result<void> noteSaved(Result<void> saved);
     Result<void> tryWriting(const QString &path);
     Result<void> writeFile(const QString &path);
+    template <typename Note>
+    void noteChange(Note note);
+    enum class Restoring { Undo, Redo };
+    bool mayRestore() const;
+    bool restoreNext(Restoring what);
+    void restore(Restoring what);
+    void showRestored(const EditStep &step, Tab tab, Restoring what);
+    void selectRestored(const EditStep &step, Restoring what);
     bool confirmSavingRepaired(const QString &path);
     bool confirmOverwriting(const QString &path);
 
@@ -335,15 +393,12 @@ private:
     QHash<Label, QString> m_labels;
     ViewState m_viewState;
 
-    std::optional<QStringList> m_modifiedSequenceUUIDs;
-    QSet<QString> m_modifiedSet;
-    int m_changeCount = 0;
-    /// How many changes and modified sequences are being sent.
-    struct Sending {
-        int changes;
-        qsizetype sequences;
-    };
-    std::optional<Sending> m_sending;
+    ChangeMarks m_marks;
+    EditHistory m_history;
+    std::optional<EditStep> m_edit; ///< that is being made
+    int m_openEdits = 0;            ///< calls of beginEdit() without endEdit()
+    EditGroup m_lastGroup = 0;
+    std::array<RowFollower, 3> m_rowFollowers; // by tab
     bool m_isReadToBeSent = false;
 
     std::atomic<bool> m_loadIsReported = false;

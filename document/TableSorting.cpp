@@ -1,7 +1,6 @@
 #include "document/TableSorting.h"
 
 #include "document/MyDocument.h"
-#include "rows/RowSort.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
 #include "support/text/TextFormat.h"
@@ -50,15 +49,7 @@ void TableSorting::tableViewDidClickTableColumn(const QString &column)
     guarded("-[MyDocument tableView:didClickTableColumn:]", [&] {
         const bool isSortedColumn = m_defaults.string(key(columnFormat)) == column;
         const bool newDescending = isSortedColumn && !m_defaults.boolean(key(descendingFormat));
-        if (m_view.isVisible()) {
-            m_view.showWaitingRows();
-            const Column *known = findColumn(m_view.columns(), column);
-            const bool isReversed = newDescending && known && known->reversesWhole;
-            RowList rows =
-                sortedRows(m_view.visibleRows(), {{column, newDescending && !isReversed}}, m_view.columns());
-            m_view.show(isReversed ? reverseArray(rows) : std::move(rows));
-        }
-        m_view.setSortDescriptors({{column, newDescending}});
+        m_view.sortBy({{column, newDescending}});
         QVariantMap state;
         state.insert(key(descendingFormat), newDescending);
         state.insert(key(columnFormat), column);

@@ -1,5 +1,6 @@
 #include "effects/EffectEditor.h"
 
+#include "document/DocumentEdit.h"
 #include "effects/EffectKeys.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
@@ -31,12 +32,36 @@ RowList without(const RowList &rows, const RowList &removed)
     return kept;
 }
 
+QString nameOfChange(const QString &key, const QString &value)
+{
+    if (key != EffectKey::enabled.text())
+        return QStringLiteral("Change Effect");
+    return value == QStringLiteral("1") ? QStringLiteral("Switch On Effect")
+                                        : QStringLiteral("Switch Off Effect");
+}
+
+QString nameOfRemoval(std::size_t count)
+{
+    return count == 1 ? QStringLiteral("Remove Effect") : QStringLiteral("Remove Effects");
+}
+
 } // namespace
 
 EffectEditor::EffectEditor(MyDocument &document, EffectInventory &inventory)
     : m_document(document)
     , m_inventory(inventory)
 {
+    m_document.setRowFollower(Tab::Effects,
+                              {[this](const MyDocument::RestoredRows &rows) {
+                                   if (!rows.removed.empty() && m_document.tableTab() == Tab::Effects)
+                                       m_inventory.updateEffectStatusText();
+                               },
+                               [this] { m_inventory.populateEffectData(); }});
+}
+
+EffectEditor::~EffectEditor()
+{
+    m_document.setRowFollower(Tab::Effects, {});
 }
 
 void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value)
@@ -45,10 +70,12 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
         QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
         if (!hasProject(changeTitle) || !isInProject(effect->get(EffectKey::effectElement), changeTitle))
             return;
+        const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value));
         QString text = value;
         if (key == EffectKey::enabled.text()) {
             const bool isOn = value == QStringLiteral("1");
             text = isOn ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
+            m_document.willSet(effect, EffectKey::enabled);
             effect->set(EffectKey::enabled, isOn ? 1 : 0);
         }
         const XmlNode element = effect->get(EffectKey::effectElement);
@@ -70,6 +97,7 @@ void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
         const XmlNode element = effect->get(EffectKey::effectElement);
         if (!isInProject(element, removeTitle))
             return;
+        const DocumentEdit edit(m_document, Tab::Effects, nameOfRemoval(1));
         m_document.xmlDoc()->remove(element);
         m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
         noteRemoved({element});
@@ -108,8 +136,9 @@ bool EffectEditor::remove(const RowList &effects)
         // The answer may come while the project is being saved, which began since.
         if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
+        const DocumentEdit edit(m_document, Tab::Effects, nameOfRemoval(effects.size()));
         removeElements(effects);
-        m_document.rowView(Tab::Effects).setList(without(m_document.effectArray(), effects));
+        m_document.removeRows(Tab::Effects, effects);
         m_inventory.populateFilteredEffectData();
         isRemoved = true;
     });

@@ -21,6 +21,9 @@ class EffectEditor
 public:
     /// The inventory is that of the same document.
     EffectEditor(MyDocument &document, EffectInventory &inventory);
+    ~EffectEditor();
+    EffectEditor(const EffectEditor &) = delete;
+    EffectEditor &operator=(const EffectEditor &) = delete;
 
     /// What to do when effects were removed that held markers.
     void setMarkersRemovedHandler(std::function<void()> handler) { m_markersRemoved = std::move(handler); }

@@ -1,5 +1,6 @@
 #include "handover/Relinker.h"
 
+#include "document/DocumentEdit.h"
 #include "handover/MediaHeader.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
@@ -170,6 +171,7 @@ std::size_t Relinker::relink(const std::vector<RelinkChoice> &choices)
     const MediaUses uses(m_document);
     const MenuPtr menu = m_document.sequenceMenu();
     const std::vector<MediaUses::File> files = uses.files({});
+    const DocumentEdit edit(m_document, Tab::Media, QStringLiteral("Relink"));
     std::set<int> indexes;
     std::set<QString> relinked;
     for (const XmlNode element : query.evaluate(m_document.xmlNode()).nodes) {
@@ -193,8 +195,10 @@ std::size_t Relinker::relink(const std::vector<RelinkChoice> &choices)
             usage = file.uses;
         }
         const auto place = places.find(url);
-        if (place != places.end())
-            updateRecord(*record, place->second.first, usage, place->second.second);
+        if (place == places.end())
+            continue;
+        m_document.willChange(record);
+        updateRecord(*record, place->second.first, usage, place->second.second);
     }
     for (const int index : indexes)
         m_document.markSequenceModified(

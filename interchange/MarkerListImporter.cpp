@@ -1,9 +1,10 @@
 #include "interchange/MarkerListImporter.h"
 
-#include "document/MyDocument.h"
+#include "document/DocumentEdit.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/QVFCPXMLParser.h"
 #include "interchange/QVMarkerListParser.h"
+#include "markers/MarkerEditNames.h"
 #include "markers/MarkerEditor.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
@@ -102,7 +103,10 @@ void MarkerListImporter::addMarkers(const Rows &rows, Progress &progress,
                                     std::optional<std::chrono::milliseconds> limit) const
 {
     const auto start = std::chrono::steady_clock::now();
+    if (progress.group == 0)
+        progress.group = m_document.newEditGroup();
     guarded("MarkerListImporter::addMarkers", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofImport(), progress.group);
         while (progress.next < rows.rows.size() && !m_document.isClosing()) {
             const std::size_t index = progress.next++;
             const RowRecord &row = *rows.rows[index];

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -53,6 +54,7 @@ public:
         std::size_t next = 0;  ///< index of the next row
         std::size_t added = 0; ///< markers added from the rows before it
         std::vector<Rejected> rejected;
+        std::uint64_t group = 0; ///< of the edits, which are one step to undo
     };
 
     /// Adds the markers of the files, in order, when the panel was accepted. Files that cannot be read or

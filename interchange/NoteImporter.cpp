@@ -1,7 +1,9 @@
 #include "interchange/NoteImporter.h"
 
+#include "document/DocumentEdit.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
+#include "markers/MarkerEditNames.h"
 #include "markers/MarkerEditor.h"
 #include "markers/MarkerFields.h"
 #include "markers/MarkerKeys.h"
@@ -109,6 +111,7 @@ std::size_t NoteImporter::add(std::vector<PlannedNote> &notes, std::int64_t item
 {
     std::size_t added = 0;
     guarded("NoteImporter::add", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofImport());
         const RowView::Updates updates(m_document.rowView(Tab::Markers));
         for (PlannedNote &note : notes) {
             if (note.state != PlannedNote::State::Add)

@@ -1,6 +1,8 @@
 // Edits of the marker table's cells.
 
+#include "document/DocumentEdit.h"
 #include "markers/MarkerCandidates.h"
+#include "markers/MarkerEditNames.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
 #include "support/log/QVException.h"
@@ -59,6 +61,7 @@ void MarkerEditor::setValue(const RowList &records, const QString &column, const
     guarded("MarkerEditor::setValue", [&] {
         if (records.empty())
             return;
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofColumn(column, records.size()));
         if (column == MarkerKey::sequence.text()) {
             moveToSequence(records.front(), sequenceAt(integerValue(text)), integerValue(text));
             return;
@@ -103,6 +106,7 @@ void MarkerEditor::moveToSequence(const RowRecordPtr &record, XmlNode sequence, 
 {
     if (!sequence || !isInProject(record->get(MarkerKey::markerElement)) || !isInProject(sequence))
         return;
+    m_document.willChange(record);
     updateXMLMarker(record, MarkerKey::in.text(),
                     inPointForObject(*record, sequence, QStringLiteral("sequence")));
     setXMLMarkerSequence(sequence, XmlNode(), record);
@@ -140,6 +144,7 @@ void MarkerEditor::moveToClip(const RowRecordPtr &record, std::int64_t item)
     }
     if (!isInProject(record->get(MarkerKey::markerElement)) || !isInProject(clip))
         return;
+    m_document.willChange(record);
     const QString in = inPointForObject(*record, clip, QStringLiteral("clip"));
     updateXMLMarker(record, MarkerKey::in.text(), in);
     setXMLMarkerSequence(sequence, clip, record);
@@ -201,6 +206,7 @@ void MarkerEditor::offsetMarkers(const QString &text)
 void MarkerEditor::offset(const RowList &records, const QString &text, const RowList &table)
 {
     guarded("MarkerEditor::offset", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofOffset(records.size()));
         const quint64 frames = offsetOf(text, table);
         Candidates candidates(m_document, nullptr);
         for (const RowRecordPtr &record : records) {

@@ -2,8 +2,10 @@
 
 #include "markers/MarkerEditor.h"
 
+#include "document/DocumentEdit.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerComment.h"
+#include "markers/MarkerEditNames.h"
 #include "markers/MarkerElement.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
@@ -26,6 +28,27 @@ MarkerEditor::MarkerEditor(MyDocument &document, MarkerInventory &inventory)
     : m_document(document)
     , m_inventory(inventory)
 {
+    m_document.setRowFollower(Tab::Markers,
+                              {[this](const MyDocument::RestoredRows &rows) { noteRestored(rows); },
+                               [this] { m_inventory.populateMarkerData(); }});
+}
+
+MarkerEditor::~MarkerEditor()
+{
+    m_document.setRowFollower(Tab::Markers, {});
+}
+
+/// Keeps the free names and in points right.
+void MarkerEditor::noteRestored(const MyDocument::RestoredRows &rows)
+{
+    if (!m_freeSlots)
+        return;
+    for (const RowRecordPtr &record : rows.changed)
+        m_freeSlots->update(*record);
+    for (const RowRecordPtr &record : rows.added)
+        m_freeSlots->add(*record);
+    for (const RowRecordPtr &record : rows.removed)
+        m_freeSlots->remove(*record);
 }
 
 void MarkerEditor::addMarker()
@@ -38,6 +61,7 @@ void MarkerEditor::addMarker()
                 m_document.interface().alertParent());
             return;
         }
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofAdding());
         const QString name = formatText(u"Marker %i", freeSlots().firstFreeNumber());
         const RowRecordPtr record = addMarkerWithName(name, freeSlots().firstFreeInPoint(), -1,
                                                       QStringLiteral(""), QStringLiteral("red"));
@@ -126,6 +150,7 @@ RowRecordPtr MarkerEditor::addElement(const QString &name, std::int64_t inPoint,
     const XmlNode sequence = parentSequence(parentItem);
     if (!sequence)
         return nullptr;
+    const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofAdding());
     sequences().append(made.value(), sequence);
 
     const SequenceInfo &info = sequences().infoOf(sequence);
@@ -161,7 +186,7 @@ XmlNode MarkerEditor::parentSequence(std::optional<std::int64_t> parentItem) con
 void MarkerEditor::addRecord(const RowRecordPtr &record)
 {
     freeSlots().add(*record);
-    m_document.rowView(Tab::Markers).append(record);
+    m_document.appendRow(Tab::Markers, record);
 }
 
 void MarkerEditor::removeMarkers()
@@ -186,11 +211,12 @@ bool MarkerEditor::remove(const RowList &records)
         if (answer != AlertAnswer::Default ||
             m_document.refusesWhileSaving(QStringLiteral("Unable to remove marker")))
             return;
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofRemoving(records.size()));
         for (const RowRecordPtr &record : records) {
             removeXMLMarker(record);
             freeSlots().remove(*record);
         }
-        m_document.rowView(Tab::Markers).remove(records);
+        m_document.removeRows(Tab::Markers, records);
         m_inventory.populateFilteredMarkerData();
         isRemoved = true;
     });
@@ -199,17 +225,18 @@ bool MarkerEditor::remove(const RowList &records)
 
 void MarkerEditor::dropRemovedMarkers()
 {
-    RowList kept;
+    RowList removed;
     for (const RowRecordPtr &record : m_document.markerArray()) {
         const XmlNode marker = record->get(MarkerKey::markerElement);
         if (!marker || marker.isAttached())
-            kept.push_back(record);
-        else
-            freeSlots().remove(*record);
+            continue;
+        freeSlots().remove(*record);
+        removed.push_back(record);
     }
-    if (kept.size() == m_document.markerArray().size())
+    if (removed.empty())
         return;
-    m_document.rowView(Tab::Markers).setList(std::move(kept));
+    const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofRemoving(removed.size()));
+    m_document.removeRows(Tab::Markers, removed);
     if (m_document.tableTab() == Tab::Markers)
         m_inventory.populateFilteredMarkerData();
 }
@@ -226,6 +253,7 @@ void MarkerEditor::removeXMLMarker(const RowRecordPtr &record)
     const XmlNode marker = record->get(MarkerKey::markerElement);
     if (!isInProject(marker, QStringLiteral("Unable to remove marker")))
         return;
+    const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofRemoving(1));
     tree->remove(marker);
     m_document.markSequenceModified(record->get(MarkerKey::sequenceUUID));
 }

@@ -24,6 +24,9 @@ class MarkerEditor
 public:
     /// Both outlive the editor.
     MarkerEditor(MyDocument &document, MarkerInventory &inventory);
+    ~MarkerEditor();
+    MarkerEditor(const MarkerEditor &) = delete;
+    MarkerEditor &operator=(const MarkerEditor &) = delete;
 
     // Adding
 
@@ -104,6 +107,7 @@ private:
                             bool asTexts = false);
     XmlNode parentSequence(std::optional<std::int64_t> parentItem) const;
     void addRecord(const RowRecordPtr &record);
+    void noteRestored(const MyDocument::RestoredRows &rows);
 
     void update(const RowRecordPtr &record, const QString &key, const QString &value, Candidates &candidates);
     void writeChild(XmlNode marker, const QString &name, const QString &text);

@@ -1,8 +1,10 @@
 // Changing markers: the values in their elements, and where their elements stand.
 
+#include "document/DocumentEdit.h"
 #include "markers/MarkerCandidates.h"
 #include "markers/MarkerColors.h"
 #include "markers/MarkerComment.h"
+#include "markers/MarkerEditNames.h"
 #include "markers/MarkerKeys.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
@@ -79,6 +81,7 @@ void MarkerEditor::updateXMLMarker(const RowRecordPtr &record, const QString &ke
                                    const XmlNodeList *markerList)
 {
     guarded("MarkerEditor::updateXMLMarker", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofColumn(key, 1));
         Candidates candidates(m_document, markerList);
         update(record, key, value, candidates);
     });
@@ -98,6 +101,7 @@ void MarkerEditor::update(const RowRecordPtr &record, const QString &key, const 
     }
     if (!isInProject(record->get(MarkerKey::markerElement)))
         return;
+    m_document.willSet(record, RecordKey(key));
     const bool inComment = MarkerComment::isKeptInComment(key);
     const QString elementName = inComment ? MarkerKey::comment.text() : key;
     const QString text = inComment ? MarkerComment::textForEdit(*record, key, value) : value;
@@ -150,6 +154,8 @@ void MarkerEditor::setXMLMarkerSequence(XmlNode sequence, XmlNode clip, const Ro
     const XmlNode parent = clip ? clip : sequence;
     if (!isInProject(marker) || !isInProject(parent))
         return;
+    const QString column = clip ? MarkerKey::clip.text() : MarkerKey::sequence.text();
+    const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofColumn(column, 1));
     m_document.xmlDoc()->moveTo(marker, parent);
     if (sequence)
         m_document.markSequenceModified(sequences().infoOf(sequence).uuid.value_or(QString()));

@@ -2,6 +2,8 @@
 
 #include "rows/RowSort.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <unordered_set>
 #include <utility>
 
@@ -58,6 +60,22 @@ void RowView::remove(const RowList &rows)
     std::erase_if(m_visibleRows, isRemoved);
 }
 
+void RowView::insert(const RowList &rows, const std::vector<std::size_t> &indexes)
+{
+    RowList all;
+    all.reserve(m_list.size() + rows.size());
+    auto before = m_list.cbegin();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto between = std::min(std::ptrdiff_t(indexes[i]) - std::ptrdiff_t(all.size()),
+                                      std::ptrdiff_t(m_list.cend() - before));
+        all.insert(all.end(), before, before + between);
+        before += between;
+        all.push_back(rows[i]);
+    }
+    all.insert(all.end(), before, m_list.cend());
+    m_list = std::move(all);
+}
+
 void RowView::show(RowList rows, Order order)
 {
     if (!m_isVisible)
@@ -80,6 +98,21 @@ void RowView::showList()
     m_order = Order::Document;
     m_waitingRows.clear();
     Q_EMIT didReload();
+}
+
+void RowView::sortBy(std::vector<SortDescriptor> descriptors)
+{
+    if (m_isVisible) {
+        showWaitingRows();
+        std::vector<SortDescriptor> sort = descriptors;
+        const Column *const column = sort.empty() ? nullptr : findColumn(columns(), sort.front().column);
+        const bool isReversed = column && column->reversesWhole && sort.front().descending;
+        if (isReversed)
+            sort.front().descending = false;
+        RowList rows = sortedRows(m_visibleRows, sort, columns());
+        show(isReversed ? reverseArray(rows) : std::move(rows));
+    }
+    m_sortDescriptors = std::move(descriptors);
 }
 
 void RowView::hide()

@@ -55,12 +55,20 @@ public:
     // The list
 
     const RowList &list() const { return m_list; }
-    /// Replaces the list; the visible rows stay.
-    void setList(RowList rows) { m_list = std::move(rows); }
+    /// Replaces the list by a new one; the visible rows stay.
+    void setList(RowList rows)
+    {
+        m_list = std::move(rows);
+        ++m_generation;
+    }
+    /// Counts how often the list was replaced by a new one.
+    std::uint64_t generation() const { return m_generation; }
     /// Adds a row at the end of the list, and of the visible rows of a visible view.
     void append(const RowRecordPtr &row);
     /// Takes rows out of the list and out of the visible rows. Emits nothing.
     void remove(const RowList &rows);
+    /// Puts rows into the list, each at the index that it has afterwards, ascending. The visible rows stay.
+    void insert(const RowList &rows, const std::vector<std::size_t> &indexes);
 
     /// Whether the list is being made. Any thread.
     bool isPopulating() const { return m_isPopulating; }
@@ -80,6 +88,8 @@ public:
     void show(RowList rows, Order order = Order::Sorted);
     /// The same with the whole list, which costs next to nothing when it is visible already.
     void showList();
+    /// Sorts the visible rows, if there are any, and sets the sort descriptors.
+    void sortBy(std::vector<SortDescriptor> descriptors);
     /// Another tab's rows become visible.
     void hide();
     /// Reports that records of visible rows have changed.
@@ -131,6 +141,7 @@ private:
     std::vector<SortDescriptor> m_sortDescriptors;
 
     RowList m_list;
+    std::uint64_t m_generation = 0;
     std::atomic<bool> m_isPopulating = false;
     std::atomic<std::size_t> m_foundSoFar = 0;
 

@@ -1,6 +1,7 @@
 #include "xml/XmlDocument.h"
 
 #include "support/files/FileUtilities.h"
+#include "xml/XmlChanges.h"
 #include "xml/XmlElementWriter.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlParse.h"
@@ -267,6 +268,17 @@ bool XmlDocument::moveTo(XmlNode element, XmlNode parent)
         m_tree->unlink(element.id());
     m_tree->append(parent.id(), element.id());
     return true;
+}
+
+void XmlDocument::recordChanges(XmlChanges *changes)
+{
+    m_tree->setRecorder(changes);
+}
+
+void XmlDocument::revert(XmlChanges &changes)
+{
+    noteChange();
+    changes = m_tree->revert(changes);
 }
 
 XmlDocument *XmlDocument::owning(XmlNode node)

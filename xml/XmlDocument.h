@@ -15,6 +15,7 @@ class QIODevice;
 namespace vantrell
 {
 
+class XmlChanges;
 class XmlTree;
 
 /// One tree and everything that was ever part of it. Removed elements and unused copies are kept outside the
@@ -79,6 +80,12 @@ public:
     /// Moves the element, in the tree or not, to the end of the parent. False, and no change, when either is
     /// null or the parent is inside the element.
     bool moveTo(XmlNode element, XmlNode parent);
+
+    /// Adds what edits do to the tree to `changes` from now on; null ends that. Attributes are not recorded.
+    void recordChanges(XmlChanges *changes);
+    /// Undoes changes, which must be the last ones of the nodes concerned, and replaces them by those that
+    /// redo them. The tree is then byte for byte what it was. Without memory it throws and changes nothing.
+    void revert(XmlChanges &changes);
 
     /// Counts the changes to elements of the document, so that caches can tell whether they are outdated.
     std::uint64_t revision() const { return m_revision; }

@@ -1,11 +1,16 @@
 #include "xml/XmlTree.h"
 
+#include "xml/XmlChanges.h"
+
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <cstring>
 #include <functional>
 #include <limits>
 #include <new>
 #include <type_traits>
+#include <utility>
 
 namespace vantrell
 {
@@ -141,6 +146,8 @@ void XmlTree::append(XmlNodeId parent, XmlNodeId child)
 {
     Node &above = node(parent);
     Node &added = node(child);
+    if (m_recorder)
+        record(child, parent, lastChild(parent), true);
     noteChange(added);
     added.parent = parent;
     added.next = 0;
@@ -163,6 +170,9 @@ void XmlTree::insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child)
         return;
     }
     Node &added = node(child);
+    if (m_recorder)
+        record(child, parent, previous, true);
+    noteChange(added);
     added.parent = parent;
     added.next = next;
     added.previous = node(next).previous; // of a first child: the last one
@@ -214,6 +224,8 @@ void XmlTree::unlink(XmlNodeId child)
 {
     Node &taken = node(child);
     Node &above = node(taken.parent);
+    if (m_recorder)
+        record(child, taken.parent, previousSibling(child), false);
     noteChange(taken);
     const XmlNodeId first = above.firstChild;
     if (first == child)
@@ -249,6 +261,29 @@ XmlNodeId XmlTree::following(XmlNodeId id, XmlNodeId top) const
             return node(up).next;
     }
     return 0;
+}
+
+// History
+
+/// Only with a recorder.
+void XmlTree::record(XmlNodeId node, XmlNodeId parent, XmlNodeId previous, bool isLinked)
+{
+    m_recorder->m_changes.push_back({node, parent, previous, isLinked});
+}
+
+XmlChanges XmlTree::revert(const XmlChanges &changes)
+{
+    XmlChanges reverse;
+    reverse.m_changes.reserve(changes.m_changes.size()); // from here on there is memory enough
+    XmlChanges *const recorder = std::exchange(m_recorder, &reverse);
+    for (auto change = changes.m_changes.rbegin(); change != changes.m_changes.rend(); ++change) {
+        if (change->isLinked)
+            unlink(change->node);
+        else
+            insertAfter(change->parent, change->previous, change->node);
+    }
+    m_recorder = recorder;
+    return reverse;
 }
 
 // Order
@@ -329,6 +364,8 @@ void XmlTree::copyChildren(const XmlTree &from, XmlNodeId original, XmlNodeId ma
 
 XmlNodeId XmlTree::copy(const XmlTree &from, XmlNodeId element)
 {
+    XmlChanges *const recorder = std::exchange(m_recorder, nullptr);
+    const auto resume = qScopeGuard([&] { m_recorder = recorder; });
     const XmlNodeId made = copyShallow(from, element, from.inheritedNamespaces(element));
     copyChildren(from, element, made);
     return made;

@@ -21,6 +21,7 @@
 namespace vantrell
 {
 
+class XmlChanges;
 class XmlDocument;
 
 /// The index of a name in its tree.
@@ -165,7 +166,7 @@ public:
     }
     XmlNodeId makeText(Kind kind, std::string_view text);
     void append(XmlNodeId parent, XmlNodeId child);
-    /// For text nodes; previous 0 means in front.
+    /// Previous 0 means in front.
     void insertAfter(XmlNodeId parent, XmlNodeId previous, XmlNodeId child);
     void appendAttribute(XmlNodeId element, XmlNodeId attribute);
     /// Removes an element's attributes, not its namespace declarations.
@@ -177,6 +178,15 @@ public:
     /// The next node in document order: a child, a sibling, or a sibling of an ancestor; 0 at the end of \a
     /// top.
     XmlNodeId following(XmlNodeId id, XmlNodeId top) const;
+
+    // History
+
+    /// From now on linked and unlinked nodes, except attributes, are added to `changes`; null ends that.
+    /// Edits of nodes outside the document are recorded too. A copy is not: it is not linked to anything.
+    void setRecorder(XmlChanges *changes) { m_recorder = changes; }
+    /// Undoes the changes, the last one first, and returns those that redo them. What it does is not
+    /// recorded. Without memory nothing happens.
+    XmlChanges revert(const XmlChanges &changes);
 
     /// A deep copy, in this tree and without a parent, of an element of this or another tree. Namespaces used
     /// in it and declared on an ancestor are declared on the copy.
@@ -241,6 +251,7 @@ private:
     static constexpr std::size_t headerSize = sizeof(std::uint32_t); ///< the length in front of a text
 
     void noteChange(const Node &changed);
+    void record(XmlNodeId node, XmlNodeId parent, XmlNodeId previous, bool isLinked);
     void makeChunk();
     void makeRegion(std::size_t wanted);
     void growNameTable();
@@ -249,6 +260,7 @@ private:
     void copyChildren(const XmlTree &from, XmlNodeId original, XmlNodeId made);
 
     XmlDocument *m_owner;
+    XmlChanges *m_recorder = nullptr;
     std::vector<std::unique_ptr<Node[]>> m_nodes;
     XmlNodeId m_nodeCount = 0;
     XmlNodeId m_orderedEnd = 0; // 0 when not in order

@@ -192,11 +192,15 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
                new MarkersPane(*m_workbench, m_defaults)};
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
-    m_interface->connectTo(m_panes, &m_work.sheet());
+    m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
+        if (tab != selectedTab())
+            (this->*toolBarItems()[std::size_t(tab)].action)();
+    });
     const MyDocument *const document = &m_workbench->document();
     connect(document, &MyDocument::loadFinished, this, &DocumentWindow::loadEnded);
     connect(document, &MyDocument::inventoriesFinished, this, &DocumentWindow::inventoriesEnded);
     connect(document, &MyDocument::editingAllowedChanged, this, &DocumentWindow::updateEditing);
+    connect(document, &MyDocument::historyChanged, this, &DocumentWindow::menusChanged);
     connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
         Q_EMIT menusChanged();
@@ -483,6 +487,28 @@ QString DocumentWindow::folder() const
 QString DocumentWindow::fileTitle() const
 {
     return FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName());
+}
+
+void DocumentWindow::undo()
+{
+    if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
+        field->undo();
+    else if (mayEdit())
+        restore(&MyDocument::undo);
+}
+
+void DocumentWindow::redo()
+{
+    if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
+        field->redo();
+    else if (mayEdit())
+        restore(&MyDocument::redo);
+}
+
+void DocumentWindow::restore(bool (MyDocument::*step)())
+{
+    commitEditing();
+    (m_workbench->document().*step)();
 }
 
 void DocumentWindow::copySelection()

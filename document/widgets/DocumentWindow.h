@@ -151,7 +151,10 @@ public Q_SLOTS:
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
 
-    // The Edit menu, for the current pane
+    // The Edit menu. Undo and Redo are those of the text while one is being edited.
+    void undo();
+    void redo();
+    // For the current pane
     void copySelection();
     void selectAllRows();
     void removeSelection();
@@ -235,6 +238,7 @@ private:
     void updateOwnersNotice();
     void applyOwnerListing();
     void showPane(Tab tab);
+    void restore(bool (MyDocument::*step)());
     void applyDefaultsChange(const QString &key);
 
     UserDefaults &m_defaults;

@@ -4,11 +4,15 @@
 #include "markers/MarkerColumns.h"
 #include "table/widgets/TabPane.h"
 
+#include <utility>
+
 namespace vantrell
 {
 
-void DocumentWindowInterface::connectTo(const Panes &panes, ProgressSheet *progress)
+void DocumentWindowInterface::connectTo(const Panes &panes, ProgressSheet *progress,
+                                        std::function<void(Tab)> showTab)
 {
+    m_showTab = std::move(showTab);
     m_panes = panes;
     m_progress = progress;
 }
@@ -17,6 +21,7 @@ void DocumentWindowInterface::disconnectFromWindow()
 {
     m_panes = {};
     m_progress = nullptr;
+    m_showTab = {};
 }
 
 template <typename Operation>
@@ -36,6 +41,17 @@ std::vector<std::size_t> DocumentWindowInterface::selectedRows(Tab tab)
 void DocumentWindowInterface::selectRows(Tab tab, const std::vector<std::size_t> &rows)
 {
     withPane(tab, [&](TabPane &pane) { pane.selectRows(rows); });
+}
+
+void DocumentWindowInterface::scrollToRow(Tab tab, std::size_t row)
+{
+    withPane(tab, [&](TabPane &pane) { pane.scrollToRow(row); });
+}
+
+void DocumentWindowInterface::showTab(Tab tab)
+{
+    if (m_showTab)
+        m_showTab(tab);
 }
 
 void DocumentWindowInterface::editCell(Tab tab, std::size_t row, const QString &column)

@@ -4,6 +4,7 @@
 #include "support/widgets/WindowAlertPresenter.h"
 
 #include <array>
+#include <functional>
 
 namespace vantrell
 {
@@ -23,14 +24,16 @@ public:
     {
     }
 
-    /// Must be called before the document loads.
-    void connectTo(const Panes &panes, ProgressSheet *progress);
+    /// Must be called before the document loads. `showTab` selects a tab and fills its table.
+    void connectTo(const Panes &panes, ProgressSheet *progress, std::function<void(Tab)> showTab);
     /// The panes are about to be deleted; later requests of the document are ignored.
     void disconnectFromWindow();
 
     AlertParent *alertParent() override { return &m_alertParent; }
     std::vector<std::size_t> selectedRows(Tab tab) override;
     void selectRows(Tab tab, const std::vector<std::size_t> &rows) override;
+    void scrollToRow(Tab tab, std::size_t row) override;
+    void showTab(Tab tab) override;
     void editCell(Tab tab, std::size_t row, const QString &column) override;
     QStringList markerColumns() override;
     void addMarkerColumn(const QString &identifier, const QString &title) override;
@@ -47,6 +50,7 @@ private:
     WindowAlertParent m_alertParent;
     Panes m_panes = {};
     ProgressSheet *m_progress = nullptr;
+    std::function<void(Tab)> m_showTab;
 };
 
 } // namespace vantrell

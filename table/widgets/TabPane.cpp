@@ -252,6 +252,16 @@ bool TabPane::showsChoice(const std::vector<std::size_t> &rows, const QString &c
     });
 }
 
+void TabPane::scrollToRow(std::size_t row)
+{
+    if (row >= std::size_t(m_model->rowCount()))
+        return;
+    const int column = std::clamp(m_table->currentIndex().column(), 0, m_model->columnCount() - 1);
+    const QModelIndex index = m_model->index(int(row), column);
+    m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    m_table->scrollTo(index);
+}
+
 void TabPane::editCell(std::size_t row, const QString &column)
 {
     const int section = m_model->columnOf(column);

@@ -51,6 +51,8 @@ public:
     /// Indexes of visible rows, ascending; empty while another tab's rows are visible.
     std::vector<std::size_t> selectedRows() const;
     void selectRows(const std::vector<std::size_t> &rows);
+    /// Scrolls the row into view and makes it the current one; nothing when it is not there.
+    void scrollToRow(std::size_t row);
     /// Begins editing the cell with its text selected; nothing when it is not there.
     void editCell(std::size_t row, const QString &column);
     /// What the visible rows are sorted by, as the arrow in the header shows; nothing while they are in

@@ -154,6 +154,43 @@ private Q_SLOTS:
         QVERIFY2(run.messages.startsWith(message), run.messages.constData());
     }
 
+    /// What is undone leaves no trace, what is redone stands as it was.
+    void undoing_data()
+    {
+        QTest::addColumn<QByteArray>("undone");
+        QTest::addColumn<QByteArray>("plain");
+        const QByteArray rename = R"({"op":"set","rows":[2,0],"column":"name","value":"n"})";
+        const QByteArray others = R"({"op":"offset","rows":[1],"text":"2"},{"op":"remove","rows":[0]},)"
+                                  R"({"op":"removeEffects","rows":[0]})";
+        const QByteArray undo = R"({"op":"undo"})";
+        const QByteArray redo = R"({"op":"redo"})";
+        const QByteArray undoOthers = ',' + undo + ',' + undo + ',' + undo;
+        QTest::newRow("all") << '[' + rename + ',' + others + undoOthers + ',' + undo + ']'
+                             << QByteArray("[]");
+        QTest::newRow("some") << '[' + rename + ',' + others + undoOthers + ']' << '[' + rename + ']';
+        QTest::newRow("redone") << '[' + rename + ',' + undo + ',' + redo + ',' + others + ']'
+                                << '[' + rename + ',' + others + ']';
+        QTest::newRow("without a step")
+            << '[' + undo + ',' + redo + ',' + rename + ',' + redo + ']' << '[' + rename + ']';
+        QTest::newRow("what changes nothing")
+            << '[' + rename + R"(,{"op":"offset","rows":[],"text":"1"},{"op":"set","rows":[0],"column":)" +
+                   R"("clip","value":"9"},)" + undo + ']'
+            << QByteArray("[]");
+    }
+    void undoing()
+    {
+        QFETCH(QByteArray, undone);
+        QFETCH(QByteArray, plain);
+        const QStringList options{QStringLiteral("--yes"), QStringLiteral("-o"), output()};
+        const CliRun expected = edit(plain, options);
+        const QByteArray file = contentOf(output());
+        QVERIFY(expected.status == 0 && !file.isEmpty());
+        const CliRun run = edit(undone, options);
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.output, expected.output);
+        QCOMPARE(contentOf(output()), file);
+    }
+
     void outputs()
     {
         const QByteArray script = R"([{"op":"set","rows":[0],"column":"comment","value":"now"}])";

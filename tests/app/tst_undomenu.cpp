@@ -1,0 +1,147 @@
+#include "WindowTest.h"
+
+#include "app/AppController.h"
+#include "document/MyDocument.h"
+#include "markers/MarkerKeys.h"
+#include "support/log/QVLog.h"
+#include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "table/widgets/QVTableView.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace vantrell;
+
+class UndoMenuTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
+        AppController::startLog();
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        m_controller->applicationDidFinishLaunching();
+        m_controller->openFiles({copySample(m_home->path(QStringLiteral("project")))});
+        m_window = m_controller->currentWindow();
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        m_window->toolbarMarkers();
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void namesTheStepAndShowsItsRow()
+    {
+        QVERIFY(!trigger(*m_window, QStringLiteral("Undo")));
+        m_window->resize(m_window->width(), 300);
+        TabPane &markers = m_window->pane(Tab::Markers);
+        const int last = markers.model().rowCount() - 1;
+        const QString name = nameAt(last);
+        QVERIFY(editCell(*m_window, Tab::Markers, last, QStringLiteral("name"), QStringLiteral("New")));
+        QVERIFY(m_window->isWindowModified());
+        markers.selectRows({0});
+        markers.table().scrollToTop();
+        m_window->toolbarEffects();
+
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Rename Marker")));
+        QCOMPARE(m_window->selectedTab(), Tab::Markers);
+        QCOMPARE(nameAt(last), name);
+        QCOMPARE(markers.selectedRows(), std::vector{std::size_t(last)});
+        const QRect cell = markers.table().visualRect(markers.model().index(last, 1));
+        QVERIFY(markers.table().viewport()->rect().intersects(cell));
+        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(commandOf(*m_window, QStringLiteral("Undo")));
+        QVERIFY(trigger(*m_window, QStringLiteral("Redo Rename Marker")));
+        QCOMPARE(nameAt(last), QStringLiteral("New"));
+        QVERIFY(m_window->isWindowModified());
+
+        QVERIFY(saves(*m_window));
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Rename Marker")));
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(trigger(*m_window, QStringLiteral("Redo Rename Marker")));
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void removedRowsComeBack()
+    {
+        TabPane &markers = m_window->pane(Tab::Markers);
+        markers.sortBy(QStringLiteral("name"));
+        const QStringList names = columnTexts(*m_window, Tab::Markers, QStringLiteral("name"));
+        const std::size_t last = std::size_t(names.size()) - 1;
+        markers.selectRows({1, last - 1, last});
+        pressLater(QStringLiteral("Remove"));
+        m_window->removeSelection();
+        QCOMPARE(markers.model().rowCount(), int(names.size()) - 3);
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Remove Markers")));
+        QCOMPARE(columnTexts(*m_window, Tab::Markers, QStringLiteral("name")), names);
+        QCOMPARE(markers.selectedRows(), (std::vector<std::size_t>{1, last - 1, last}));
+        QVERIFY(trigger(*m_window, QStringLiteral("Redo Remove Markers")));
+        QCOMPARE(markers.model().rowCount(), int(names.size()) - 3);
+        QVERIFY(markers.selectedRows().empty());
+    }
+
+    void anImportIsOneStep()
+    {
+        QByteArray list;
+        for (int i = 0; i < 500; ++i)
+            list += "Cue\t01:00:20:00\tV1\tred\tNew\n";
+        const int before = m_window->pane(Tab::Markers).model().rowCount();
+        QSignalSpy imported(m_window, &DocumentWindow::markersImported);
+        m_window->importMarkerLists({m_home->addFile(QStringLiteral("list.txt"), list)},
+                                    MarkerListFormat::avid);
+        QTRY_COMPARE(imported.count(), 1);
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), before + 500);
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Import Markers")));
+        QCOMPARE(m_window->pane(Tab::Markers).model().rowCount(), before);
+        QVERIFY(!m_window->isWindowModified() && !m_window->document()->canUndo());
+    }
+
+    void aTextThatIsEditedHasItsOwn()
+    {
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        TabPane &markers = m_window->pane(Tab::Markers);
+        markers.editCell(1, QStringLiteral("name"));
+        auto *const field = markers.table().findChild<QLineEdit *>();
+        QVERIFY(field);
+        const QString before = field->text();
+        field->setFocus();
+        QTest::keyClicks(field, QStringLiteral("typed"));
+        QCOMPARE(field->text(), QStringLiteral("typed"));
+        while (field->isUndoAvailable())
+            m_window->undo();
+        QCOMPARE(field->text(), before);
+        QCOMPARE(nameAt(0), QStringLiteral("New"));
+        while (field->isRedoAvailable())
+            m_window->redo();
+        QCOMPARE(field->text(), QStringLiteral("typed"));
+        QTest::keyClick(field, Qt::Key_Escape);
+        m_window->undo();
+        QVERIFY(nameAt(0) != QStringLiteral("New"));
+    }
+
+private:
+    QString nameAt(int row) const
+    {
+        return columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).value(row);
+    }
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<AppController> m_controller;
+    DocumentWindow *m_window = nullptr;
+};
+
+QTEST_MAIN(UndoMenuTest)
+#include "tst_undomenu.moc"
