@@ -22,7 +22,7 @@ namespace vantrell::cli
 namespace
 {
 
-const QString standardStream = QStringLiteral("-");
+const QString outputToConsole = QStringLiteral("-");
 
 /// The rows on show; those of missing files only where \a missingToo.
 std::vector<SendList::File> filesToSend(const MediaListing &listing, bool missingToo)
@@ -52,7 +52,7 @@ std::vector<SendList::File> filesToSend(const MediaListing &listing, bool missin
 
 int writeList(const QString &output, const QByteArray &list)
 {
-    if (output.isEmpty() || output == standardStream)
+    if (output.isEmpty() || output == outputToConsole)
         return print(list) ? Done : Failed;
     const Result<void> written = FileUtilities::writeAtomically(output, list);
     if (!written)
@@ -121,7 +121,7 @@ bool addChecksums(HashList &list, const std::vector<QByteArray> &paths, Checksum
 
 int writeHashList(const std::vector<SendList::File> &files, const QString &output)
 {
-    const bool isFile = !output.isEmpty() && output != standardStream;
+    const bool isFile = !output.isEmpty() && output != outputToConsole;
     const QString target =
         QDir::cleanPath(QFileInfo(isFile ? output : QStringLiteral("list")).absoluteFilePath());
     const QString folder = QFileInfo(target).path();

@@ -12,26 +12,6 @@
 namespace vantrell
 {
 
-namespace
-{
-
-/// Source frames of an event, `first` up to but without `end`.
-struct FrameRange {
-    std::int64_t first;
-    std::int64_t end;
-
-    bool overlaps(const FrameRange &other) const { return first < other.end && other.first < end; }
-};
-
-FrameRange framesOf(const TrackEvent &event)
-{
-    const std::int64_t a = event.mapping.sourceAt(0);
-    const std::int64_t b = event.mapping.sourceAt(event.length() - 1);
-    return {std::min(a, b), std::max(a, b) + 1};
-}
-
-} // namespace
-
 class EventMatcher
 {
 public:
@@ -60,6 +40,21 @@ public:
     }
 
 private:
+    /// Source frames of an event, `first` up to but without `end`.
+    struct FrameRange {
+        std::int64_t first;
+        std::int64_t end;
+
+        bool overlaps(const FrameRange &other) const { return first < other.end && other.first < end; }
+    };
+
+    static FrameRange framesOf(const TrackEvent &event)
+    {
+        const std::int64_t a = event.mapping.sourceAt(0);
+        const std::int64_t b = event.mapping.sourceAt(event.length() - 1);
+        return {std::min(a, b), std::max(a, b) + 1};
+    }
+
     using Tracks = std::map<std::pair<bool, int>, std::vector<int>>; ///< items by media and track
 
     /// Gives the sources of both sequences that are the same one number.

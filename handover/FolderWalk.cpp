@@ -26,7 +26,7 @@ namespace vantrell
 namespace
 {
 
-constexpr std::chrono::milliseconds lookInterval{25};
+constexpr std::chrono::milliseconds walkLookInterval{25};
 constexpr int walkThreads = 4; // they mostly wait for the disk
 
 QByteArray pathIn(const QByteArray &folder, const QByteArray &name)
@@ -190,7 +190,7 @@ std::optional<FolderWalk::Result> FolderWalk::result(const std::function<bool(co
             return std::nullopt;
         if (std::chrono::steady_clock::now() - m_state->lastAnswer >= patience)
             break;
-        m_state->changed.wait_for(lock, std::min(lookInterval, patience));
+        m_state->changed.wait_for(lock, std::min(walkLookInterval, patience));
     }
     Result result{{}, m_state->unreadable, {}};
     std::vector<State::Candidate> candidates = m_state->candidates;
