@@ -86,8 +86,10 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
     QString notice;
     if (m_xmlDoc->wasRepaired() || !m_xmlDoc->loss().isEmpty()) {
         m_damagedFile = url.toLocalFile();
-        notice = QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
-                     .arg(url.toLocalFile(), m_xmlDoc->firstFault());
+        notice = m_xmlDoc->wasRepaired()
+                     ? QStringLiteral("The file \"%1\" is damaged and was repaired while it was opened (%2).")
+                           .arg(url.toLocalFile(), m_xmlDoc->firstFault())
+                     : QStringLiteral("The file \"%1\" was not read whole.").arg(url.toLocalFile());
         if (!m_xmlDoc->loss().isEmpty())
             notice += QLatin1Char(' ') + m_xmlDoc->loss();
         QVLog::appendLog(u"%@", notice);

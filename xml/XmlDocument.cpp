@@ -64,7 +64,7 @@ QString lossText(const XmlLoss &loss)
     }
     if (!loss.isCutOff && loss.droppedReferences > 0) {
         return QStringLiteral(
-                   "Content is missing: \"&\" stands for no character in %1, the first on line %2.")
+                   "Content is missing: \"&\" or \"<\" is no reference or tag in %1, the first on line %2.")
             .arg(loss.droppedReferences == 1
                      ? QStringLiteral("1 place")
                      : QStringLiteral("%1 places").arg(grouped(loss.droppedReferences)),

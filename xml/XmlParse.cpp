@@ -168,10 +168,12 @@ private:
     static void characters(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
-        // A reference that onReference() has passed on already.
-        if (length == 1 && self->m_referenceEnd >= 0 && self->m_referenceEnd == self->textOffset())
-            return;
-        self->guard([&] { self->onText(viewOf(text, length)); });
+        self->guard([&] {
+            self->restoreBracket(text);
+            // A library that does not drop references reports them here as well.
+            if (!self->m_passedReference || text != std::exchange(self->m_passedReference, nullptr))
+                self->onText(viewOf(text, length));
+        });
     }
 
     /// Of the predefined entities; others are never declared.
@@ -180,7 +182,7 @@ private:
         xmlEntity *const entity = xmlGetPredefinedEntity(name);
         Parse *const self = of(context);
         if (entity)
-            self->guard([&] { self->onReference(viewOf(entity->content)); });
+            self->guard([&] { self->onReference(entity->content); });
         return entity;
     }
 
@@ -247,12 +249,12 @@ private:
     }
 
     /// Behind its first error the library drops the references in content.
-    void onReference(std::string_view character)
+    void onReference(const xmlChar *character)
     {
         if (m_context->wellFormed || m_context->instate != XML_PARSER_CONTENT)
             return;
-        onText(character);
-        m_referenceEnd = textOffset();
+        onText(viewOf(character));
+        m_passedReference = character;
     }
 
     /// Text in front of a misplaced "]]>" is passed over when it was not reported yet; what follows its first
@@ -263,8 +265,39 @@ private:
         const xmlParserInput *const input = m_context->input;
         const std::string_view rest = viewOf(input->cur, input->end - input->cur);
         const std::size_t at = rest.find(brackets);
-        if (at != 0 && at != std::string_view::npos)
+        restoreBracket(input->cur);
+        if (at == 0)
+            m_bracketAt = textOffset();
+        else if (at != std::string_view::npos)
             onText(rest.substr(0, at + 1));
+    }
+
+    /// Where no text precedes "]]>" its first bracket is passed over, unless the library collects the text
+    /// outside of its input.
+    void restoreBracket(const xmlChar *text)
+    {
+        const long at = std::exchange(m_bracketAt, -1);
+        if (at >= 0 && text == m_context->input->cur && textOffset() == at + 1)
+            onText("]");
+    }
+
+    /// Whether the error drops a "&" or "<" that starts no reference or tag.
+    bool dropsMarkup(int code) const
+    {
+        switch (code) {
+        case XML_ERR_ENTITYREF_SEMICOL_MISSING:
+        case XML_ERR_UNDECLARED_ENTITY:
+        case XML_WAR_UNDECLARED_ENTITY:
+        case XML_ERR_INVALID_DEC_CHARREF:
+        case XML_ERR_INVALID_HEX_CHARREF:
+            return true;
+        case XML_ERR_NAME_REQUIRED: {
+            const xmlParserInput *const input = m_context->input;
+            return input->cur > input->base && (input->cur[-1] == '&' || input->cur[-1] == '<');
+        }
+        default:
+            return false;
+        }
     }
 
     /// Content that is lost, or out of its place, without an event that tells.
@@ -283,10 +316,7 @@ private:
         }
         if (problem.code == XML_ERR_MISPLACED_CDATA_END && m_context->instate == XML_PARSER_CONTENT)
             saveTextBeforeBrackets();
-        const bool isDropped =
-            problem.code == XML_ERR_ENTITYREF_SEMICOL_MISSING || problem.code == XML_ERR_NAME_REQUIRED ||
-            problem.code == XML_ERR_UNDECLARED_ENTITY || problem.code == XML_WAR_UNDECLARED_ENTITY;
-        if (isDropped && m_depth > 0) {
+        if (m_depth > 0 && dropsMarkup(problem.code)) {
             ++m_droppedReferences;
             m_firstDropped = m_firstDropped > 0 ? m_firstDropped : problem.line;
         }
@@ -413,6 +443,8 @@ private:
         m_events.finish();
         outcome.loss.bytesTotal = m_request.source.size;
         outcome.loss.hasDroppedEntities = m_hasEntities;
+        outcome.loss.droppedReferences = m_droppedReferences;
+        outcome.loss.firstDropped = m_firstDropped;
         const bool isOpen = m_depth > 0;
         // A parser that gave up no longer knows how far it came; the error tells it.
         const bool isSwallowed = m_swallowedFrom >= 0;
@@ -427,8 +459,6 @@ private:
             // Where only end tags are missing the last one is there.
             outcome.loss.isCutOff = isOpen && (isSwallowed || !m_input.endsWith("</" + rootName() + '>'));
             outcome.loss.elementsInComments = m_elementsInComments;
-            outcome.loss.droppedReferences = m_droppedReferences;
-            outcome.loss.firstDropped = m_firstDropped;
             // An end tag that does not match ends the element all the same. Where that has no elements it is
             // misspelt, and nothing else is wrong; else elements may be in others than they should.
             const bool hasMismatch = m_firstMismatch > 0;
@@ -492,8 +522,9 @@ private:
     bool m_hasEntities = false; // declared ones
     std::int64_t m_elementsInComments = 0;
     std::int64_t m_droppedReferences = 0;
-    int m_firstDropped = 0;   // line
-    long m_referenceEnd = -1; // bytes of the text: the end of a reference that was passed on
+    int m_firstDropped = 0;                     // line
+    const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
+    long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
     std::int64_t m_defaultsCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text

@@ -36,7 +36,7 @@ struct XmlLoss {
     std::int64_t elementsInComments = 0;
     /// The line of a broken tag that may have put elements into others than they belong to; 0 for none.
     int misplacedLine = 0;
-    std::int64_t droppedReferences = 0; ///< that stand for no character
+    std::int64_t droppedReferences = 0; ///< "&" and "<" that start no reference or tag
     int firstDropped = 0;               ///< line of the first of them
     bool hasDroppedEntities = false;    ///< whether the document type declares entities
 

@@ -193,11 +193,14 @@ private Q_SLOTS:
             << QByteArray("<!DOCTYPE a [<!ENTITY e \"boom\">]><a b=\"x&e;y\"/>")
             << QStringLiteral("<a b=\"xy\"/>") << true;
         QTest::newRow("references behind a fault")
-            << QByteArray("<a>R&amp;D<b c=\"&lt;\" c=\"\"/>R&amp;D &lt;<b c=\"&amp;\"/>&&gt;</a>")
-            << QStringLiteral("<a>R&amp;D<b c=\"&lt;\"/>R&amp;D &lt;<b c=\"&amp;\"/>&gt;</a>") << true;
+            << QByteArray(
+                   "<a>R&amp;D<b c=\"&lt;\" c=\"\"/>R&amp;D &lt;<b c=\"&amp;\"/>&&gt;x&apos;é&quot;</a>")
+            << QStringLiteral("<a>R&amp;D<b c=\"&lt;\"/>R&amp;D &lt;<b c=\"&amp;\"/>&gt;x'é\"</a>") << true;
         QTest::newRow("end of CDATA without a start")
-            << QByteArray("<a>one\ntwo]]>three<b/>é]]>four]]></a>")
-            << QStringLiteral("<a>one\ntwo]]&gt;three<b/>é]]&gt;four]]&gt;</a>") << true;
+            << QByteArray("<a>one\ntwo]]>three<b/>é]]>four]]><c/>]]>x<c/>]]>]]>&lt;]]]></a>")
+            << QStringLiteral(
+                   "<a>one\ntwo]]&gt;three<b/>é]]&gt;four]]&gt;<c/>]]&gt;x<c/>]]&gt;]]&gt;&lt;]]]&gt;</a>")
+            << true;
         QTest::newRow("default of an attribute")
             << QByteArray("<!DOCTYPE a [<!ATTLIST a b CDATA \"boom\">]><a/>") << QStringLiteral("<a/>")
             << false;
@@ -337,10 +340,19 @@ private Q_SLOTS:
                                << QStringLiteral(
                                       "Content is missing: 1 element is in a comment that does not end "
                                       "where it should.");
-        QTest::newRow("bare ampersand")
-            << QByteArray("<a>x & y\n&e;</a>")
-            << QStringLiteral("Content is missing: \"&\" stands for no character in 2 "
-                              "places, the first on line 1.");
+        const auto dropped = [](const char *places, int line) {
+            return QStringLiteral(
+                       "Content is missing: \"&\" or \"<\" is no reference or tag in %1, the first on "
+                       "line %2.")
+                .arg(QLatin1String(places))
+                .arg(line);
+        };
+        QTest::newRow("bare ampersand") << QByteArray("<a>x & y\n&e;</a>") << dropped("2 places", 1);
+        QTest::newRow("bare bracket") << QByteArray("<a>\nx < y</a>") << dropped("1 place", 2);
+        QTest::newRow("broken numbers") << QByteArray("<a>&#65 &#xZ;</a>") << dropped("2 places", 1);
+        QTest::newRow("entity of an external document type")
+            << QByteArray("<!DOCTYPE a SYSTEM \"a.dtd\">\n<a>&e;</a>") << dropped("1 place", 2);
+        QTest::newRow("blank in an empty tag") << QByteArray("<a><b/ ></a>") << QString();
         QTest::newRow("declared entities")
             << QByteArray("<!DOCTYPE a [<!ENTITY e \"boom\">]><a/>")
             << QStringLiteral("Content is missing: the entities that the document "
