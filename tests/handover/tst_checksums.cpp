@@ -72,7 +72,7 @@ private Q_SLOTS:
         for (const int size : {(1 << 20) - 1, 1 << 20, 3'000'001}) {
             QByteArray content(size, Qt::Uninitialized);
             for (int i = 0; i < size; ++i)
-                content[i] = char((i * 7919) >> 5);
+                content[i] = char((quint64(i) * 7919) >> 5);
             const QString path = m_home.addFile(QStringLiteral("blocks"), content);
             const Checksums sums = readFile(path).checksums;
             QCOMPARE(sums.md5, sumBy("md5sum", {}, path));
