@@ -8,19 +8,11 @@
 namespace vantrell
 {
 
-EventResult<EventDescriptor> AppleEventTransport::createAddress(FourCharCode signature)
-{
-    return EventDescriptor::fromSignature(signature);
-}
-
 EventResult<EventRecord> AppleEventTransport::createEvent(FourCharCode eventClass, FourCharCode identifier,
                                                           const EventDescriptor &address)
 {
-    EventRecord event;
-    event.eventClass = eventClass;
-    event.identifier = identifier;
-    event.address = address;
-    return event;
+    return EventRecord{
+        .eventClass = eventClass, .identifier = identifier, .address = address, .parameters = {}};
 }
 
 EventResult<EventRecord> AppleEventTransport::addParameter(EventRecord event, FourCharCode keyword,

@@ -62,7 +62,10 @@ public:
     std::chrono::milliseconds systemTimeout() const { return m_systemTimeout; }
 
     /// The address of the application with that signature.
-    virtual EventResult<EventDescriptor> createAddress(FourCharCode signature);
+    virtual EventResult<EventDescriptor> createAddress(FourCharCode signature)
+    {
+        return EventDescriptor::fromSignature(signature);
+    }
     /// An event for that address, without parameters.
     virtual EventResult<EventRecord> createEvent(FourCharCode eventClass, FourCharCode identifier,
                                                  const EventDescriptor &address);

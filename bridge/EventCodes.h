@@ -1,8 +1,39 @@
 #pragma once
 
-#include "bridge/EventRecord.h"
+#include <QString>
 
-/// The codes of the events that Final Cut Pro handles.
+#include <compare>
+#include <cstdint>
+
+namespace vantrell
+{
+
+/// Four bytes that name a class, an event, a parameter or a type. A type of its own, so that no number or
+/// text converts to it.
+struct FourCharCode {
+    std::uint32_t value = 0; ///< the first character is the highest byte
+
+    constexpr FourCharCode() = default;
+    constexpr explicit FourCharCode(std::uint32_t number)
+        : value(number)
+    {
+    }
+    /// Of a literal of four characters.
+    consteval FourCharCode(const char (&text)[5])
+    {
+        for (int i = 0; i < 4; ++i)
+            value = value << 8 | static_cast<unsigned char>(text[i]);
+    }
+
+    friend constexpr auto operator<=>(FourCharCode, FourCharCode) = default;
+
+    /// The four characters, or the number in hexadecimal digits unless all four are printable ASCII.
+    QString text() const;
+};
+
+} // namespace vantrell
+
+/// The codes of the events that Final Cut Pro handles, and of one that every application does.
 namespace vantrell::EventCode
 {
 
@@ -19,7 +50,10 @@ inline constexpr FourCharCode OpenItem{"fcOI"};
 inline constexpr FourCharCode SaveProject{"sfcP"};
 inline constexpr FourCharCode CloseProject{"cfcP"};
 
+inline constexpr FourCharCode OpenDocuments{"odoc"}; ///< of class `aevt`: files to open
+
 // Parameters.
+inline constexpr FourCharCode DirectObject{"----"}; ///< of OpenDocuments: a list of file references
 inline constexpr FourCharCode OpenProjects{"fcOP"};
 inline constexpr FourCharCode ProjectFile{"fcPf"}; ///< of each record among the open projects
 inline constexpr FourCharCode Project{"fcpP"};
@@ -33,6 +67,7 @@ inline constexpr FourCharCode DiscardChanges{"fcCF"};
 inline constexpr FourCharCode CoreClass{"aevt"};
 inline constexpr FourCharCode Answer{"ansr"};
 inline constexpr FourCharCode ErrorNumber{"errn"};
+inline constexpr FourCharCode ErrorText{"errs"}; ///< what went wrong, as `utf8`
 
 // Types of values.
 inline constexpr FourCharCode Null{"null"};

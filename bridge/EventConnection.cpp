@@ -1,7 +1,6 @@
 #include "bridge/EventConnection.h"
 
 #include "bridge/EventCodes.h"
-#include "support/desktop/SocketAddress.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -23,23 +22,6 @@ bool isTransient()
 }
 
 } // namespace
-
-Descriptor connectedSocket(const QString &path)
-{
-    const auto address = socketAddress(path);
-    if (!address) {
-        errno = ENAMETOOLONG;
-        return Descriptor();
-    }
-    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    if (socket.isOpen() &&
-        ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
-        const int error = errno;
-        socket.close();
-        errno = error;
-    }
-    return socket;
-}
 
 EventConnection::EventConnection(Descriptor socket, const EventCancel &cancel, TimeLeft timeLeft)
     : m_socket(std::move(socket))

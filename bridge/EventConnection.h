@@ -14,10 +14,6 @@
 namespace vantrell
 {
 
-/// A non-blocking connection to the Unix-domain socket with that path. On failure it is not open and errno is
-/// set; EAGAIN: the queue of connections to be accepted is full.
-Descriptor connectedSocket(const QString &path);
-
 /// A connected Unix-domain socket. Waiting ends at once on cancelling, which QLocalSocket could not do.
 /// After the first failure every operation fails. One thread.
 class EventConnection

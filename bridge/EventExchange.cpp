@@ -2,7 +2,7 @@
 
 #include "bridge/EventCodes.h"
 #include "bridge/FileReference.h"
-#include "bridge/SharedEventTransport.h"
+#include "bridge/SocketEventTransport.h"
 #include "support/log/QVLog.h"
 #include "support/log/SystemLog.h"
 
@@ -18,12 +18,8 @@ void reportEventFailure(const QString &message, const QString &cause)
         QVLog::appendLog(u"%@ (%@)", message, cause);
 }
 
-EventExchange::EventExchange(FourCharCode identifier, const EventCancel &cancel)
-    : EventExchange(identifier, cancel, Messages())
-{
-}
-
-EventExchange::EventExchange(FourCharCode identifier, const EventCancel &cancel, const Messages &messages)
+EventExchange::EventExchange(FourCharCode identifier, const EventCancel &cancel,
+                             const EventMessages &messages)
     : m_messages(messages)
     , m_cancel(cancel)
     , m_transport(sharedEventTransport())

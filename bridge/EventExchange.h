@@ -14,20 +14,19 @@ namespace vantrell
 /// Writes the message to the system log and, with its cause if there is one, to the log.
 void reportEventFailure(const QString &message, const QString &cause = {});
 
+/// The messages of the steps that all events have in common; "%ld" is the error number.
+struct EventMessages {
+    QStringView address = u"Error creating app description";
+    QStringView event = u"Error creating AppleEvent";
+    QStringView sending = u"Error sending AppleEvent";
+};
+
 /// One event to Final Cut Pro, from its creation to its reply. The first failing step is reported; later
 /// steps then do nothing. One thread.
 class EventExchange
 {
 public:
-    /// The messages of the steps that all events have in common; "%ld" is the error number.
-    struct Messages {
-        QStringView address = u"Error creating app description";
-        QStringView event = u"Error creating AppleEvent";
-        QStringView sending = u"Error sending AppleEvent";
-    };
-
-    EventExchange(FourCharCode identifier, const EventCancel &cancel);
-    EventExchange(FourCharCode identifier, const EventCancel &cancel, const Messages &messages);
+    EventExchange(FourCharCode identifier, const EventCancel &cancel, const EventMessages &messages = {});
 
     /// Adds a parameter; the message reports its failure.
     void add(FourCharCode keyword, EventDescriptor value, QStringView message);
@@ -47,7 +46,7 @@ public:
 private:
     void fail(QStringView message, const EventFailure &failure);
 
-    const Messages m_messages;
+    const EventMessages m_messages;
     const EventCancel m_cancel;
     const std::shared_ptr<AppleEventTransport> m_transport;
     EventRecord m_event;

@@ -1,6 +1,5 @@
 #include "bridge/EventRecord.h"
 
-#include "bridge/EventCodes.h"
 #include "bridge/FileReference.h"
 
 #include <QtEndian>
@@ -28,13 +27,6 @@ std::optional<std::uint32_t> numberIn(const EventDescriptor &descriptor, FourCha
     return qFromBigEndian<std::uint32_t>(descriptor.bytes().constData());
 }
 
-std::optional<QByteArray> bytesOf(const EventDescriptor &descriptor, FourCharCode type)
-{
-    if (descriptor.type() != type)
-        return {};
-    return descriptor.bytes();
-}
-
 auto find(auto &parameters, FourCharCode keyword)
 {
     return std::find_if(parameters.begin(), parameters.end(),
@@ -58,32 +50,6 @@ QString FourCharCode::text() const
                        : QStringLiteral("0x%1").arg(value, 8, 16, QLatin1Char('0'));
 }
 
-EventDescriptor::EventDescriptor()
-    : m_type(EventCode::Null)
-{
-}
-
-EventDescriptor::EventDescriptor(FourCharCode type, QByteArray bytes)
-    : m_type(type)
-    , m_bytes(std::move(bytes))
-{
-}
-
-EventDescriptor EventDescriptor::fromUtf8(QByteArray utf8)
-{
-    return {EventCode::Utf8, std::move(utf8)};
-}
-
-EventDescriptor EventDescriptor::fromFileUrl(QByteArray url)
-{
-    return {EventCode::FileUrl, std::move(url)};
-}
-
-EventDescriptor EventDescriptor::fromBool(bool value)
-{
-    return {EventCode::Bool, QByteArray(1, value ? '\1' : '\0')};
-}
-
 EventDescriptor EventDescriptor::fromInteger(std::int32_t value)
 {
     return {EventCode::Integer, bigEndian(static_cast<std::uint32_t>(value))};
@@ -92,11 +58,6 @@ EventDescriptor EventDescriptor::fromInteger(std::int32_t value)
 EventDescriptor EventDescriptor::fromSignature(FourCharCode signature)
 {
     return {EventCode::Signature, bigEndian(signature.value)};
-}
-
-EventDescriptor EventDescriptor::fromFileReference(QByteArray reference)
-{
-    return {EventCode::FileReference, std::move(reference)};
 }
 
 EventDescriptor EventDescriptor::fromList(std::vector<EventDescriptor> items)
@@ -113,31 +74,6 @@ EventDescriptor EventDescriptor::fromRecord(std::vector<EventParameter> fields)
     return record;
 }
 
-bool EventDescriptor::isNull() const
-{
-    return m_type == EventCode::Null;
-}
-
-bool EventDescriptor::isList() const
-{
-    return m_type == EventCode::List;
-}
-
-bool EventDescriptor::isRecord() const
-{
-    return m_type == EventCode::Record;
-}
-
-std::optional<QByteArray> EventDescriptor::toUtf8() const
-{
-    return bytesOf(*this, EventCode::Utf8);
-}
-
-std::optional<QByteArray> EventDescriptor::toFileUrl() const
-{
-    return bytesOf(*this, EventCode::FileUrl);
-}
-
 std::optional<bool> EventDescriptor::toBool() const
 {
     if (m_type != EventCode::Bool || m_bytes.size() != 1)
@@ -148,24 +84,18 @@ std::optional<bool> EventDescriptor::toBool() const
 std::optional<std::int32_t> EventDescriptor::toInteger() const
 {
     const auto number = numberIn(*this, EventCode::Integer);
-    if (!number)
-        return {};
-    return static_cast<std::int32_t>(*number);
+    return number ? std::optional(static_cast<std::int32_t>(*number)) : std::nullopt;
 }
 
 std::optional<FourCharCode> EventDescriptor::toSignature() const
 {
     const auto number = numberIn(*this, EventCode::Signature);
-    if (!number)
-        return {};
-    return FourCharCode(*number);
+    return number ? std::optional(FourCharCode(*number)) : std::nullopt;
 }
 
 std::optional<QByteArray> EventDescriptor::toFileReference() const
 {
-    if (m_bytes.size() != fileReferenceSize)
-        return {};
-    return bytesOf(*this, EventCode::FileReference);
+    return m_bytes.size() == fileReferenceSize ? bytesOf(EventCode::FileReference) : std::nullopt;
 }
 
 const EventDescriptor *EventDescriptor::field(FourCharCode keyword) const
@@ -181,10 +111,8 @@ bool operator==(const EventDescriptor &a, const EventDescriptor &b)
 
 EventRecord EventRecord::reply()
 {
-    EventRecord reply;
-    reply.eventClass = EventCode::CoreClass;
-    reply.identifier = EventCode::Answer;
-    return reply;
+    return {
+        .eventClass = EventCode::CoreClass, .identifier = EventCode::Answer, .address = {}, .parameters = {}};
 }
 
 EventRecord EventRecord::errorReply(std::int32_t number)

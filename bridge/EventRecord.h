@@ -1,38 +1,16 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "bridge/EventCodes.h"
 
-#include <compare>
+#include <QByteArray>
+
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace vantrell
 {
-
-/// Four bytes that name a class, an event, a parameter or a type. A type of its own, so that no number or
-/// text converts to it.
-struct FourCharCode {
-    std::uint32_t value = 0; ///< the first character is the highest byte
-
-    constexpr FourCharCode() = default;
-    constexpr explicit FourCharCode(std::uint32_t number)
-        : value(number)
-    {
-    }
-    /// Of a literal of four characters.
-    consteval FourCharCode(const char (&text)[5])
-    {
-        for (int i = 0; i < 4; ++i)
-            value = value << 8 | static_cast<unsigned char>(text[i]);
-    }
-
-    friend constexpr auto operator<=>(FourCharCode, FourCharCode) = default;
-
-    /// The four characters, or the number in hexadecimal digits unless all four are printable ASCII.
-    QString text() const;
-};
 
 struct EventParameter;
 
@@ -42,30 +20,40 @@ class EventDescriptor
 {
 public:
     /// The empty value, of type `null`.
-    EventDescriptor();
+    EventDescriptor() = default;
     /// A value of any type except `list` and `reco`; the bytes are not checked.
-    EventDescriptor(FourCharCode type, QByteArray bytes);
+    EventDescriptor(FourCharCode type, QByteArray bytes)
+        : m_type(type)
+        , m_bytes(std::move(bytes))
+    {
+    }
 
-    static EventDescriptor fromUtf8(QByteArray utf8);
+    static EventDescriptor fromUtf8(QByteArray utf8) { return {EventCode::Utf8, std::move(utf8)}; }
     /// The text of a file URL, or of a path with percent escapes, as UTF-8.
-    static EventDescriptor fromFileUrl(QByteArray url);
-    static EventDescriptor fromBool(bool value);
+    static EventDescriptor fromFileUrl(QByteArray url) { return {EventCode::FileUrl, std::move(url)}; }
+    static EventDescriptor fromBool(bool value)
+    {
+        return {EventCode::Bool, QByteArray(1, value ? '\1' : '\0')};
+    }
     static EventDescriptor fromInteger(std::int32_t value);
     /// The signature of an application.
     static EventDescriptor fromSignature(FourCharCode signature);
     /// The 80 bytes of a file reference (bridge/FileReference.h).
-    static EventDescriptor fromFileReference(QByteArray reference);
+    static EventDescriptor fromFileReference(QByteArray bytes)
+    {
+        return {EventCode::FileReference, std::move(bytes)};
+    }
     static EventDescriptor fromList(std::vector<EventDescriptor> items);
     static EventDescriptor fromRecord(std::vector<EventParameter> fields);
 
     FourCharCode type() const { return m_type; }
-    bool isNull() const;
-    bool isList() const;
-    bool isRecord() const;
+    bool isNull() const { return m_type == EventCode::Null; }
+    bool isList() const { return m_type == EventCode::List; }
+    bool isRecord() const { return m_type == EventCode::Record; }
 
     // Nothing when the value has another type or a size that is invalid for its type.
-    std::optional<QByteArray> toUtf8() const;
-    std::optional<QByteArray> toFileUrl() const;
+    std::optional<QByteArray> toUtf8() const { return bytesOf(EventCode::Utf8); }
+    std::optional<QByteArray> toFileUrl() const { return bytesOf(EventCode::FileUrl); }
     std::optional<bool> toBool() const;
     std::optional<std::int32_t> toInteger() const;
     std::optional<FourCharCode> toSignature() const;
@@ -83,7 +71,12 @@ public:
     friend bool operator==(const EventDescriptor &a, const EventDescriptor &b);
 
 private:
-    FourCharCode m_type;
+    std::optional<QByteArray> bytesOf(FourCharCode type) const
+    {
+        return m_type == type ? std::optional(m_bytes) : std::nullopt;
+    }
+
+    FourCharCode m_type = EventCode::Null;
     QByteArray m_bytes;
     std::vector<EventDescriptor> m_items;
     std::vector<EventParameter> m_fields;

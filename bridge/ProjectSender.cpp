@@ -75,7 +75,7 @@ ProjectSender::Outcome ProjectSender::send()
     bool isChanged = false;
     QString path;
     bool isFirst = false;
-    onMainThread([&] {
+    m_document.mainThread()->runAndWait([&] {
         isFirst = !m_document.isSending();
         toPremiere = m_document.isPremiereProject();
         isChanged = !m_document.modifiedSequenceUUIDs().value_or(QStringList()).isEmpty();
@@ -145,7 +145,7 @@ QByteArray ProjectSender::outputDocument(const QStringList &modifiedUUIDs)
 {
     EscapedXmlBuffer xml;
     const Result<void> written = OutputDocument(m_document).write(modifiedUUIDs, xml, &m_isClosed);
-    onMainThread([this] { m_document.endReadingToSend(); });
+    m_document.mainThread()->runAndWait([this] { m_document.endReadingToSend(); });
     if (written)
         return xml.take();
     QVLog::appendLog(u"%@", written.message());
@@ -169,14 +169,8 @@ Result<TransientFile> ProjectSender::writeProject(const QString &path)
         return file;
     };
     Result<TransientFile> file = write();
-    onMainThread([this] { m_document.endReadingToSend(); });
+    m_document.mainThread()->runAndWait([this] { m_document.endReadingToSend(); });
     return file;
-}
-
-/// False once the document has been closed.
-bool ProjectSender::onMainThread(const std::function<void()> &work)
-{
-    return m_document.mainThread()->runAndWait(work);
 }
 
 /// Shows the progress sheet, locks the tree against edits and returns the changed sequences. Nothing once the
@@ -186,7 +180,7 @@ std::optional<QStringList> ProjectSender::begin(const QString &label)
     m_document.startProgress();
     m_document.updateProgressLabel(label);
     std::optional<QStringList> modifiedUUIDs;
-    onMainThread([&] {
+    m_document.mainThread()->runAndWait([&] {
         modifiedUUIDs = m_document.modifiedSequenceUUIDs().value_or(QStringList());
         m_document.beginSending();
     });
@@ -195,7 +189,7 @@ std::optional<QStringList> ProjectSender::begin(const QString &label)
 
 void ProjectSender::end(MyDocument::SendResult result)
 {
-    onMainThread([&] { m_document.endSending(result); });
+    m_document.mainThread()->runAndWait([&] { m_document.endSending(result); });
     m_document.endProgress();
 }
 

@@ -63,7 +63,6 @@ private:
     Outcome sendToPremierePro(const QString &path);
     QByteArray outputDocument(const QStringList &modifiedUUIDs);
     Result<TransientFile> writeProject(const QString &path);
-    bool onMainThread(const std::function<void()> &work);
     std::optional<QStringList> begin(const QString &label);
     void end(MyDocument::SendResult result);
 

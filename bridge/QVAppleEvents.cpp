@@ -34,11 +34,6 @@ bool isEscaped(QChar unit)
 
 } // namespace
 
-QString QVAppleEvents::finalCutProIdentifier()
-{
-    return QStringLiteral("com.apple.FinalCutPro");
-}
-
 QString QVAppleEvents::generateUUID()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
@@ -46,23 +41,11 @@ QString QVAppleEvents::generateUUID()
 
 QString QVAppleEvents::finalCutProVersionString()
 {
-    const QString path = applicationPath() + QStringLiteral("/Contents/Info.plist");
-    if (!QFileInfo::exists(path))
-        return QStringLiteral("7.0");
-    const Result<QVariant> information = PropertyList::fromFile(path);
+    const auto information =
+        PropertyList::fromFile(applicationPath() + QStringLiteral("/Contents/Info.plist"));
     if (!information)
         return QStringLiteral("7.0");
     return information.value().toMap().value(QStringLiteral("CFBundleShortVersionString")).toString();
-}
-
-std::int64_t QVAppleEvents::finalCutProMajorVersion()
-{
-    return majorVersionOf(finalCutProVersionString());
-}
-
-std::int64_t QVAppleEvents::maximumXMEMLVersion()
-{
-    return maximumXMEMLVersionOf(finalCutProVersionString());
 }
 
 std::int64_t QVAppleEvents::majorVersionOf(const QString &version)
@@ -86,11 +69,6 @@ std::int64_t QVAppleEvents::maximumXMEMLVersionOf(const QString &version)
     if (major == 5)
         return minor == 1 && patch < 2 ? 2 : 3;
     return major == 6 ? 4 : 5;
-}
-
-QString QVAppleEvents::escapeCharactersInXMLString(const QString &text)
-{
-    return QString::fromUtf8(escapedXml(text));
 }
 
 QByteArray QVAppleEvents::escapedXml(QStringView text)

@@ -33,7 +33,7 @@ public:
     QVAppleEvents() = delete;
 
     /// The bundle identifier.
-    static QString finalCutProIdentifier();
+    static QString finalCutProIdentifier() { return QStringLiteral("com.apple.FinalCutPro"); }
     static bool isFCPRunning();
 
     /// The projects that are open, possibly none; nothing when Final Cut Pro is not running.
@@ -93,9 +93,9 @@ public:
     /// readable property list.
     static QString finalCutProVersionString();
     /// The integer value of the version's first character; 7 without a version.
-    static std::int64_t finalCutProMajorVersion();
+    static std::int64_t finalCutProMajorVersion() { return majorVersionOf(finalCutProVersionString()); }
     /// The highest version of the interchange format that the installed Final Cut Pro reads.
-    static std::int64_t maximumXMEMLVersion();
+    static std::int64_t maximumXMEMLVersion() { return maximumXMEMLVersionOf(finalCutProVersionString()); }
 
     // The same for a given version; null for none.
     static std::int64_t majorVersionOf(const QString &version);
@@ -103,7 +103,10 @@ public:
 
     /// The text with each UTF-16 unit from 160 on and each carriage return as a decimal reference. Markup
     /// stays as it is.
-    static QString escapeCharactersInXMLString(const QString &text);
+    static QString escapeCharactersInXMLString(const QString &text)
+    {
+        return QString::fromUtf8(escapedXml(text));
+    }
     /// The same text as UTF-8.
     static QByteArray escapedXml(QStringView text);
 

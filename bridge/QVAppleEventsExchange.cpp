@@ -4,7 +4,7 @@
 #include "bridge/EventExchange.h"
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
-#include "bridge/SharedEventTransport.h"
+#include "bridge/SocketEventTransport.h"
 #include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/text/TextFormat.h"
@@ -54,11 +54,9 @@ QStringList openProjectsIn(const EventRecord &reply)
 
 bool contains(const QStringList &paths, const QString &path)
 {
-    if (paths.contains(path))
-        return true;
     const QString file = QFileInfo(path).canonicalFilePath();
-    return !file.isEmpty() && std::any_of(paths.begin(), paths.end(), [&](const QString &other) {
-        return QFileInfo(other).canonicalFilePath() == file;
+    return std::any_of(paths.begin(), paths.end(), [&](const QString &other) {
+        return other == path || (!file.isEmpty() && QFileInfo(other).canonicalFilePath() == file);
     });
 }
 
@@ -118,9 +116,7 @@ std::optional<QByteArray> fetchXml(const XmlRequest &request, const EventCancel 
         exchange.add(EventCode::ItemIdentifier, EventDescriptor::fromUtf8(request.item->toUtf8()),
                      CannotAddDestination);
     auto reply = exchange.send();
-    if (!reply)
-        return {};
-    return xmlDataIn(std::move(*reply));
+    return reply ? xmlDataIn(std::move(*reply)) : std::nullopt;
 }
 
 /// Has the project opened where the request allows it. Nothing when its XML cannot be requested, else whether
@@ -164,9 +160,7 @@ std::optional<QByteArray> exportXml(const char *method, const XmlRequest &reques
 
 std::optional<QString> textOf(const std::optional<QByteArray> &data)
 {
-    if (!data)
-        return {};
-    return QString::fromUtf8(*data);
+    return data ? std::optional(QString::fromUtf8(*data)) : std::nullopt;
 }
 
 bool importXml(QByteArray escapedXml, const QString &projectPath, const EventCancel &cancel)

@@ -1,9 +1,9 @@
 #include "bridge/QVPremiereEvents.h"
 
-#include "bridge/QVPremiere.h"
-#include "support/alerts/AlertUntil.h"
+#include "support/alerts/QVAlert.h"
 #include "support/desktop/Workspace.h"
 #include "support/files/FileUtilities.h"
+#include "support/files/PropertyList.h"
 #include "support/files/StandardFolders.h"
 #include "support/files/TaskRunner.h"
 #include "support/files/TransientFile.h"
@@ -11,6 +11,8 @@
 #include "support/log/QVLog.h"
 #include "support/log/SystemLog.h"
 #include "support/text/TextFormat.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlDocument.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -132,6 +134,18 @@ void execute(const QString &command, bool shouldLaunch, const EventCancel &cance
         QVLog::appendLog(u"Error deleting script: %@", deleted.message());
 }
 
+/// The product version in an installation's configuration; nothing without one.
+std::optional<QString> productVersion(const QString &installation)
+{
+    const auto configuration = XmlDocument::fromFile(
+        installation + QStringLiteral("/Configuration/XManConfig.xml"), {false, nullptr});
+    if (!configuration)
+        return std::nullopt;
+    return QVXMLParser::stringValueForQuery(
+        QStringLiteral("./Configuration/VariableForExMan/Data[@key='ProductVersion']"),
+        configuration.value()->node());
+}
+
 } // namespace
 
 void QVPremiereEvents::createQeObject(const EventCancel &cancel)
@@ -215,6 +229,45 @@ void QVPremiereEvents::setOpenProgram(const QString &program)
 {
     const std::lock_guard lock(settings().mutex);
     settings().openProgram = program;
+}
+
+QStringList QVPremiere::premiereVersions()
+{
+    const QString folder = Workspace::applicationsFolder();
+    QStringList versions;
+    const QStringList entries =
+        QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QString &entry : entries) {
+        if (!entry.startsWith(QStringLiteral("Adobe Premiere "), Qt::CaseInsensitive))
+            continue;
+        if (const auto version = productVersion(folder + QLatin1Char('/') + entry))
+            versions.append(*version);
+    }
+    return versions;
+}
+
+QString QVPremiere::runningPremiereVersion()
+{
+    for (const Workspace::RunningApplication &application : Workspace::runningApplications()) {
+        if (application.bundleIdentifier != bundleIdentifier())
+            continue;
+        const QString contents = QFileInfo(QFileInfo(application.executablePath).path()).path();
+        const Result<QVariant> information = PropertyList::fromFile(contents + QStringLiteral("/Info.plist"));
+        QString version;
+        if (information)
+            version = information.value().toMap().value(QStringLiteral("CFBundleVersion")).toString();
+        const QStringList components = version.split(QLatin1Char('.'));
+        if (components.size() >= 2)
+            return components[0] + QLatin1Char('.') + components[1];
+        QVLog::appendLog(u"Unknown Premiere version.");
+        return QString();
+    }
+    return QString();
+}
+
+QString QVPremiere::creativeSuiteNumber(const QString &version)
+{
+    return version.endsWith(QStringLiteral(".0")) ? version.chopped(2) : version;
 }
 
 } // namespace vantrell

@@ -3,13 +3,15 @@
 #include "bridge/EventCodes.h"
 #include "bridge/EventConnection.h"
 #include "bridge/EventWire.h"
+#include "support/desktop/SocketAddress.h"
 #include "support/desktop/Workspace.h"
-#include "support/files/Descriptor.h"
 
 #include <QDeadlineTimer>
 
 #include <algorithm>
 #include <cerrno>
+#include <mutex>
+#include <utility>
 
 namespace vantrell
 {
@@ -43,6 +45,17 @@ EventResult<Descriptor> connectTo(const QString &path, const QDeadlineTimer &dea
         if (deadline.hasExpired())
             return EventFailure{EventError::TimedOut, QStringLiteral("its time-out has passed")};
     }
+}
+
+struct Shared {
+    std::mutex mutex; ///< guards the transport
+    std::shared_ptr<AppleEventTransport> transport;
+};
+
+Shared &shared()
+{
+    static Shared *const state = new Shared;
+    return *state;
 }
 
 } // namespace
@@ -87,6 +100,20 @@ EventResult<EventRecord> SocketEventTransport::send(const EventRecord &event, co
     if (reply.value().eventClass != EventCode::CoreClass || reply.value().identifier != EventCode::Answer)
         return EventFailure{EventError::CorruptData, QStringLiteral("what came is no reply")};
     return std::move(reply.value());
+}
+
+std::shared_ptr<AppleEventTransport> sharedEventTransport()
+{
+    const std::lock_guard lock(shared().mutex);
+    if (!shared().transport)
+        shared().transport = std::make_shared<SocketEventTransport>();
+    return shared().transport;
+}
+
+void setSharedEventTransport(std::shared_ptr<AppleEventTransport> transport)
+{
+    const std::lock_guard lock(shared().mutex);
+    shared().transport = std::move(transport);
 }
 
 } // namespace vantrell

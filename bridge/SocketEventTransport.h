@@ -2,6 +2,7 @@
 
 #include "bridge/AppleEventTransport.h"
 
+#include <memory>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -23,5 +24,11 @@ public:
 private:
     const uid_t m_user;
 };
+
+/// The transport that the whole process uses: the one that was set, else sockets. Any thread.
+std::shared_ptr<AppleEventTransport> sharedEventTransport();
+
+/// Replaces it from the next event on; null restores sockets. Any thread.
+void setSharedEventTransport(std::shared_ptr<AppleEventTransport> transport);
 
 } // namespace vantrell

@@ -1,6 +1,6 @@
 #include "document/MyDocument.h"
 
-#include "support/alerts/AlertUntil.h"
+#include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"

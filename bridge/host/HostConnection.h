@@ -1,10 +1,15 @@
 #pragma once
 
+#include "bridge/EventCancel.h"
 #include "bridge/EventConnection.h"
 #include "bridge/EventRecord.h"
+#include "bridge/host/HostSocket.h"
 #include "support/files/Result.h"
 
+#include <QStringList>
+
 #include <optional>
+#include <unistd.h>
 
 namespace vantrell
 {
@@ -16,7 +21,7 @@ class HostConnection
 public:
     HostConnection(Descriptor socket, const EventCancel &stop);
 
-    bool isOfThisUser() const;
+    bool isOfThisUser() const { return m_connection.belongsTo(::geteuid()); }
 
     /// Waits without limit for the next event; nothing when the other end has closed the connection or the
     /// host is to stop.
@@ -28,5 +33,14 @@ public:
 private:
     EventConnection m_connection;
 };
+
+enum class HandOver {
+    Done,  ///< the other host has opened the files
+    Nobody ///< there is no other host; the socket is claimed
+};
+
+/// Claims the socket, or has the host that listens there open the files. Waits up to ten seconds for a host
+/// that is just starting. Fails when the files cannot be opened there, and on \a stop. Main thread.
+Result<HandOver> handOver(HostSocket &socket, const QStringList &files, const EventCancel &stop);
 
 } // namespace vantrell

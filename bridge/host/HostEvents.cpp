@@ -2,7 +2,6 @@
 
 #include "bridge/EventCodes.h"
 #include "bridge/FileReference.h"
-#include "bridge/host/HostCodes.h"
 #include "bridge/host/HostMessages.h"
 #include "xml/XmlText.h"
 
@@ -22,7 +21,7 @@ EventRecord refusal(std::int32_t number, const QString &message)
 {
     hostMessage(message);
     EventRecord reply = EventRecord::errorReply(number);
-    reply.setParameter(HostCode::ErrorText, EventDescriptor::fromUtf8(message.toUtf8()));
+    reply.setParameter(EventCode::ErrorText, EventDescriptor::fromUtf8(message.toUtf8()));
     return reply;
 }
 
@@ -110,7 +109,7 @@ EventRecord HostEvents::handle(const EventRecord &event)
         {EventCode::FinalCutPro, EventCode::OpenItem, &HostEvents::openItem},
         {EventCode::FinalCutPro, EventCode::SaveProject, &HostEvents::saveProject},
         {EventCode::FinalCutPro, EventCode::CloseProject, &HostEvents::closeProject},
-        {EventCode::CoreClass, HostCode::OpenDocuments, &HostEvents::openDocuments}};
+        {EventCode::CoreClass, EventCode::OpenDocuments, &HostEvents::openDocuments}};
     const auto handler = std::find_if(std::begin(handlers), std::end(handlers), [&](const Handler &entry) {
         return entry.eventClass == event.eventClass && entry.identifier == event.identifier;
     });
@@ -229,9 +228,9 @@ EventRecord HostEvents::closeProject(const EventRecord &event)
 
 EventRecord HostEvents::openDocuments(const EventRecord &event)
 {
-    const EventDescriptor *files = event.parameter(HostCode::DirectObject);
+    const EventDescriptor *files = event.parameter(EventCode::DirectObject);
     if (!files || (!files->isList() && !files->toFileReference()))
-        return missing(HostCode::DirectObject);
+        return missing(EventCode::DirectObject);
     const std::vector<EventDescriptor> single =
         files->isList() ? std::vector<EventDescriptor>() : std::vector{*files};
     EventRecord reply = EventRecord::reply();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bridge/EventRecord.h"
-#include "bridge/host/HostProjects.h"
+#include "bridge/host/HostProject.h"
 
 #include <QString>
 

@@ -21,23 +21,18 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
-std::string text(const QString &text)
-{
-    return text.toStdString();
-}
-
 Json valueJson(const EventDescriptor &value);
 
 Json typedJson(const EventDescriptor &value)
 {
-    return {{"type", text(value.type().text())}, {"value", valueJson(value)}};
+    return {{"type", value.type().text().toStdString()}, {"value", valueJson(value)}};
 }
 
 Json parametersJson(const std::vector<EventParameter> &parameters)
 {
     Json list = Json::array();
     for (const EventParameter &parameter : parameters) {
-        Json entry = {{"keyword", text(parameter.keyword.text())}};
+        Json entry = {{"keyword", parameter.keyword.text().toStdString()}};
         entry.update(typedJson(parameter.value));
         list.push_back(std::move(entry));
     }
@@ -57,7 +52,7 @@ Json valueJson(const EventDescriptor &value)
     if (const auto reference = value.toFileReference()) {
         Json file = Json::object();
         if (const auto path = pathForFileReference(*reference))
-            file["path"] = text(*path);
+            file["path"] = path->toStdString();
         file["length"] = reference->size();
         return file;
     }
@@ -66,7 +61,7 @@ Json valueJson(const EventDescriptor &value)
     if (const auto number = value.toInteger())
         return *number;
     if (const auto signature = value.toSignature())
-        return text(signature->text());
+        return signature->text().toStdString();
     if (value.isNull())
         return nullptr;
     return value.bytes().toStdString();
@@ -97,8 +92,8 @@ void HostLog::append(const EventRecord &event) const
 
 QByteArray HostLog::json(const EventRecord &event)
 {
-    const Json line = {{"class", text(event.eventClass.text())},
-                       {"id", text(event.identifier.text())},
+    const Json line = {{"class", event.eventClass.text().toStdString()},
+                       {"id", event.identifier.text().toStdString()},
                        {"address", typedJson(event.address)},
                        {"returnId", event.returnId},
                        {"transaction", event.transaction},

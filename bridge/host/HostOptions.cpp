@@ -72,16 +72,15 @@ std::optional<HostOptions> HostOptions::read(int argc, char **argv, int &status)
 
     status = wrongUsage;
     options.version = fromArgument(version);
-    if (!isVersion(options.version)) {
-        hostMessage(QStringLiteral("--version: \"%1\" is no version.").arg(options.version));
-        return std::nullopt;
-    }
-    if (!(delay >= 0 && delay <= longestDelay)) {
-        hostMessage(QStringLiteral("--delay: give 0 to %1 seconds.").arg(longestDelay));
-        return std::nullopt;
-    }
-    if (!bundleFolder.empty() && (!files.empty() || !closedFiles.empty())) {
-        hostMessage(QStringLiteral("--install-bundle takes no projects."));
+    QString fault;
+    if (!isVersion(options.version))
+        fault = QStringLiteral("--version: \"%1\" is no version.").arg(options.version);
+    else if (!(delay >= 0 && delay <= longestDelay))
+        fault = QStringLiteral("--delay: give 0 to %1 seconds.").arg(longestDelay);
+    else if (!bundleFolder.empty() && (!files.empty() || !closedFiles.empty()))
+        fault = QStringLiteral("--install-bundle takes no projects.");
+    if (!fault.isEmpty()) {
+        hostMessage(fault);
         return std::nullopt;
     }
     status = 0;

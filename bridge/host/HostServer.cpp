@@ -10,13 +10,8 @@
 namespace vantrell
 {
 
-namespace
-{
-
 constexpr std::size_t mostClients = 64;
 constexpr std::chrono::milliseconds retryInterval(100); // without free descriptors
-
-} // namespace
 
 void HostServer::serve(int listener)
 {

@@ -1,8 +1,5 @@
 #include "bridge/host/HostSocket.h"
 
-#include "bridge/EventConnection.h"
-#include "support/desktop/SocketAddress.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,11 +35,6 @@ HostSocket::~HostSocket()
         ::unlink(name.constData());
 }
 
-QString HostSocket::path() const
-{
-    return m_folder + QStringLiteral("/KeyG");
-}
-
 Result<HostSocket::Claim> HostSocket::claim()
 {
     const QByteArray name = QFile::encodeName(m_folder);
@@ -59,7 +51,7 @@ Result<HostSocket::Claim> HostSocket::claim()
     // On file systems without locks only the check below remains.
     if (::flock(folder.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return Claim::Taken;
-    if (isAnswered())
+    if (connect().isOpen() || errno == EAGAIN)
         return Claim::Taken;
     m_lock = std::move(folder);
     return Claim::Own;
@@ -92,16 +84,6 @@ Result<void> HostSocket::listen()
     }
     m_listener = std::move(listener);
     return {};
-}
-
-Descriptor HostSocket::connect() const
-{
-    return connectedSocket(path());
-}
-
-bool HostSocket::isAnswered() const
-{
-    return connect().isOpen() || errno == EAGAIN;
 }
 
 } // namespace vantrell

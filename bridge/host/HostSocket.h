@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/desktop/SocketAddress.h"
 #include "support/files/Descriptor.h"
 #include "support/files/Result.h"
 
@@ -25,7 +26,7 @@ public:
     HostSocket(const HostSocket &) = delete;
     HostSocket &operator=(const HostSocket &) = delete;
 
-    QString path() const;
+    QString path() const { return m_folder + QStringLiteral("/KeyG"); }
 
     enum class Claim { Own, Taken };
     /// Claims the socket, creating its folder, accessible to its owner only, if necessary. Taken: another
@@ -38,11 +39,9 @@ public:
     int descriptor() const { return m_listener.number(); }
 
     /// A connection to the listening process; not open without one.
-    Descriptor connect() const;
+    Descriptor connect() const { return connectedSocket(path()); }
 
 private:
-    bool isAnswered() const;
-
     QString m_folder;
     Descriptor m_lock; // the folder, locked
     Descriptor m_listener;

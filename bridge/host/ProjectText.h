@@ -1,17 +1,29 @@
 #pragma once
 
-#include "bridge/host/ImportedXml.h"
 #include "support/files/Result.h"
 #include "xml/XmlDocument.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace vantrell
 {
+
+/// An imported xmeml document and its items. A value type.
+struct ImportedXml {
+    QByteArray xml;
+    /// Bins, clips and sequences in document order, those inside a project included. They are parts of the
+    /// text that can be inserted into any other document. Never empty.
+    std::vector<QByteArrayView> items;
+
+    /// Parses a document in UTF-8. Fails, with the reason, when it is not well-formed, not xmeml, of a
+    /// version beyond \a maximumVersion, or without items. Any thread.
+    static Result<ImportedXml> read(const QByteArray &xml, std::int64_t maximumVersion);
+};
 
 /// The xmeml text of a project, identical to that of its file except for inserted items. A value type; copies
 /// share the text.
@@ -33,7 +45,7 @@ public:
     /// is copied.
     ProjectText with(const ImportedXml &imported) const;
 
-    Result<std::unique_ptr<XmlDocument>> tree();
+    Result<std::unique_ptr<XmlDocument>> tree() { return XmlDocument::fromData(xml(), {.tolerant = false}); }
     /// Writes the text atomically, in the encoding of the file that it was read from.
     Result<void> save(const QString &path);
 

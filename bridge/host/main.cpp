@@ -1,13 +1,12 @@
 #include "bridge/QVAppleEvents.h"
-#include "bridge/host/HandOver.h"
 #include "bridge/host/HostBundle.h"
+#include "bridge/host/HostConnection.h"
 #include "bridge/host/HostEvents.h"
 #include "bridge/host/HostLog.h"
 #include "bridge/host/HostMessages.h"
 #include "bridge/host/HostOptions.h"
 #include "bridge/host/HostServer.h"
 #include "bridge/host/HostSocket.h"
-#include "bridge/host/StopSignals.h"
 #include "support/desktop/Workspace.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
@@ -15,12 +14,55 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+
 namespace
 {
 
 using namespace vantrell;
 
 enum ExitStatus { Done = 0, Failed = 1 };
+
+std::atomic<EventCancel *> s_stop = nullptr; // for the signal handler
+static_assert(std::atomic<EventCancel *>::is_always_lock_free);
+
+void handleSignal(int)
+{
+    const int savedError = errno;
+    if (EventCancel *const cancel = s_stop)
+        cancel->cancel();
+    errno = savedError;
+}
+
+/// Turns SIGINT, SIGTERM and SIGHUP into a cancellation. The second signal ends the process at once.
+class StopSignals
+{
+public:
+    StopSignals()
+    {
+        s_stop = &m_stop;
+        struct sigaction action = {};
+        action.sa_handler = handleSignal;
+        action.sa_flags = static_cast<int>(SA_RESETHAND);
+        for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+            struct sigaction present = {};
+            // Signals that the process was started to ignore stay ignored.
+            if (::sigaction(number, nullptr, &present) == 0 && present.sa_handler != SIG_IGN)
+                ::sigaction(number, &action, nullptr);
+        }
+        std::signal(SIGPIPE, SIG_IGN);
+    }
+    ~StopSignals() { s_stop = nullptr; }
+    StopSignals(const StopSignals &) = delete;
+    StopSignals &operator=(const StopSignals &) = delete;
+
+    const EventCancel &stop() const { return m_stop; }
+
+private:
+    EventCancel m_stop;
+};
 
 int fail(const QString &message)
 {
@@ -58,9 +100,9 @@ Result<void> addProjects(const HostOptions &options, HostProjects &projects)
 bool claimSocket(const HostOptions &options, HostSocket &socket, const EventCancel &stop, int &status)
 {
     if (options.handsOver) {
-        const Result<HandOver::Outcome> outcome = HandOver::run(socket, options.files, stop);
+        const Result<HandOver> outcome = handOver(socket, options.files, stop);
         status = outcome ? Done : fail(outcome.message());
-        return outcome && outcome.value() == HandOver::Outcome::Nobody;
+        return outcome && outcome.value() == HandOver::Nobody;
     }
     const Result<HostSocket::Claim> claim = socket.claim();
     if (!claim)

@@ -21,13 +21,6 @@
 namespace vantrell
 {
 
-namespace
-{
-
-constexpr int iconSide = 16;
-
-} // namespace
-
 QVFCPProjectLoader *QVFCPProjectLoader::showOpenDialog(const Services &services, QWidget *parent)
 {
     QVFCPProjectLoader *dialog = nullptr;
@@ -57,18 +50,13 @@ QVFCPProjectLoader::QVFCPProjectLoader(const Services &services, QWidget *parent
     resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 18);
 }
 
-QVFCPProjectLoader::~QVFCPProjectLoader()
-{
-    m_cancel.cancel();
-}
-
 void QVFCPProjectLoader::makeContent()
 {
     auto *const title = new QLabel(tr("&Projects that are open in Final Cut Pro:"), this);
     m_table = new QListWidget(this);
     m_table->setAccessibleName(tr("Projects that are open in Final Cut Pro"));
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_table->setIconSize({iconSide, iconSide});
+    m_table->setIconSize({16, 16});
     m_table->setTextElideMode(Qt::ElideMiddle);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setUniformItemSizes(true);
@@ -184,11 +172,6 @@ void QVFCPProjectLoader::openProject()
         if (!opened)
             QVAlert::alertSheetWithMessageText(tr("Error loading project"), opened.message(), nullptr);
     }
-}
-
-void QVFCPProjectLoader::closeDialog()
-{
-    reject();
 }
 
 } // namespace vantrell

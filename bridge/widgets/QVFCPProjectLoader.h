@@ -39,7 +39,7 @@ public:
     /// Shows the dialog over that window, which may be null. Returns null, after an alert, when it cannot be
     /// created.
     static QVFCPProjectLoader *showOpenDialog(const Services &services, QWidget *parent);
-    ~QVFCPProjectLoader() override;
+    ~QVFCPProjectLoader() override { m_cancel.cancel(); }
 
     /// Whether the list has been requested and has not arrived yet.
     bool isReading() const { return m_isReading; }
@@ -50,7 +50,7 @@ public Q_SLOTS:
     /// Opens the selected projects from top to bottom and closes the dialog; does nothing without a
     /// selection.
     void openProject();
-    void closeDialog();
+    void closeDialog() { reject(); }
 
 Q_SIGNALS:
     /// The list has arrived, or the request has failed.

@@ -14,7 +14,6 @@
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/SymbolIcon.h"
-#include "support/widgets/SymbolView.h"
 #include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
 

@@ -1,7 +1,6 @@
 #include "document/widgets/NoticeBar.h"
 
 #include "support/widgets/SymbolIcon.h"
-#include "support/widgets/SymbolView.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>

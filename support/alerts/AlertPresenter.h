@@ -69,21 +69,17 @@ public:
     AlertPresenter &operator=(const AlertPresenter &) = delete;
 
     /// Shows an alert as a sheet on `parent`, or on its own when that is null, and returns without waiting.
-    /// `answered` is called once with the code of the button that the user pressed, after the alert has
-    /// left the screen; it may be called before begin() returns. Returns 0 when the alert cannot be shown.
+    /// `answered` is called once with the code of the button that the user pressed, after the alert has left
+    /// the screen; it may be called before begin() returns. Returns 0 when the alert cannot be shown.
     virtual AlertId begin(const AlertDescription &description, AlertParent *parent, Answer answered) = 0;
-
     /// Takes an alert off the screen without an answer; no effect when it is gone already.
     virtual void close(AlertId alert) = 0;
-
     /// Takes every alert on `parent` (null: every alert) off the screen without an answer.
     virtual void closeAll(AlertParent *parent) = 0;
 
     virtual bool parentHasSheet(AlertParent *parent) = 0;
-
     /// Brings the window to the front and makes it the one that has the keyboard.
     virtual void bringToFront(AlertParent *parent) = 0;
-
     /// Dispatches the next user-interface event that arrives within `limit`; returns when there was none.
     virtual void dispatchOneEvent(std::chrono::milliseconds limit) = 0;
 };

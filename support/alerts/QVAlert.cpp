@@ -6,6 +6,7 @@
 #include "support/threads/MainThread.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <system_error>
 #include <thread>
@@ -47,12 +48,9 @@ AlertsInProgress &inProgress()
     return *alerts;
 }
 
-} // namespace
+constexpr std::chrono::milliseconds AskInterval{20};
 
-std::shared_ptr<QVAlert> QVAlert::create()
-{
-    return std::shared_ptr<QVAlert>(new QVAlert);
-}
+} // namespace
 
 void QVAlert::setPresenter(std::shared_ptr<AlertPresenter> presenter)
 {
@@ -144,11 +142,6 @@ void QVAlert::closeAlertsForParent(AlertParent *parentWindow)
     endAll(parentWindow);
 }
 
-void QVAlert::closeAll()
-{
-    endAll(nullptr);
-}
-
 void QVAlert::endAll(AlertParent *parentWindow)
 {
     const auto alerts = inProgress().alerts; // a delegate that is told may raise or end others
@@ -158,11 +151,6 @@ void QVAlert::endAll(AlertParent *parentWindow)
     }
     if (const auto presenter = inProgress().presenter)
         guarded("QVAlert::endAll", [&] { presenter->closeAll(parentWindow); });
-}
-
-QString QVAlert::alertDidEndSelector()
-{
-    return QStringLiteral("alertDidEnd:returnCode:contextInfo:");
 }
 
 void QVAlert::alertSheetWithDictionary(const AlertDescription &description)
@@ -258,11 +246,6 @@ void QVAlert::setReturnCode(int code)
     m_returnCode = code;
 }
 
-bool QVAlert::respondsTo(const QString &selector) const
-{
-    return selector == alertDidEndSelector();
-}
-
 void QVAlert::perform(const QString &selector, QVAlert *alert, int code)
 {
     if (alert && respondsTo(selector))
@@ -329,6 +312,37 @@ void QVAlert::endWithoutAnswer()
     if (!ended)
         alertDidEnd(AlertAnswer::Other);
     closeAlert();
+}
+
+void showAlertUntil(const QString &messageText, const QString &informativeText, AlertParent *parentWindow,
+                    const std::shared_ptr<MainThreadGate> &gate, const std::function<bool()> &isGivenUp)
+{
+    const auto givesUp = [&] { return (gate && gate->isClosed()) || (isGivenUp && isGivenUp()); };
+    if (givesUp())
+        return;
+    if (MainThread::isMainThread()) {
+        QVAlert::alertSheetWithMessageText(messageText, informativeText, parentWindow);
+        return;
+    }
+    const auto alert = QVAlert::create();
+    const auto wasGivenUp = std::make_shared<std::atomic<bool>>(false);
+    const auto show = [=] {
+        if (!*wasGivenUp)
+            QVAlert::alertSheetWithMessageText(messageText, {}, {}, {}, informativeText, parentWindow,
+                                               nullptr, {}, false, alert);
+    };
+    if (gate)
+        gate->post(show);
+    else
+        MainThread::post(show);
+    while (!alert->alertEnded()) {
+        if (givesUp()) {
+            *wasGivenUp = true;
+            MainThread::post([alert] { alert->closeAlert(); });
+            return;
+        }
+        std::this_thread::sleep_for(AskInterval);
+    }
 }
 
 } // namespace vantrell

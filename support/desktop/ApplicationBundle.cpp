@@ -44,11 +44,6 @@ void appendBundles(const QString &folder, const QStringList &names, std::vector<
 
 } // namespace
 
-bool ApplicationBundle::isBundlePath(const QString &path)
-{
-    return path.endsWith(QLatin1String(".app"), Qt::CaseInsensitive);
-}
-
 std::optional<ApplicationBundle> ApplicationBundle::read(const QString &path)
 {
     const QString bundle = QFileInfo(path).canonicalFilePath();

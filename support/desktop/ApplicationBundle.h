@@ -14,8 +14,10 @@ struct ApplicationBundle {
     QString identifier; ///< CFBundleIdentifier
     QString executable; ///< path of the main executable; empty when there is none
 
-    /// Whether a folder's name is that of a bundle.
-    static bool isBundlePath(const QString &path);
+    static bool isBundlePath(const QString &path)
+    {
+        return path.endsWith(QLatin1String(".app"), Qt::CaseInsensitive);
+    }
 
     /// The bundle in that folder; none when its information cannot be read or holds no identifier.
     static std::optional<ApplicationBundle> read(const QString &path);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <cstring>
 #include <sys/socket.h>
 
@@ -17,6 +18,23 @@ std::optional<sockaddr_un> socketAddress(const QString &path)
         return {};
     std::memcpy(address.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
     return address;
+}
+
+Descriptor connectedSocket(const QString &path)
+{
+    const auto address = socketAddress(path);
+    if (!address) {
+        errno = ENAMETOOLONG;
+        return Descriptor();
+    }
+    Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (socket.isOpen() &&
+        ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&*address), sizeof(*address)) != 0) {
+        const int error = errno;
+        socket.close();
+        errno = error;
+    }
+    return socket;
 }
 
 } // namespace vantrell

@@ -1,21 +1,28 @@
 #include "support/desktop/Workspace.h"
 
 #include "support/desktop/ApplicationBundle.h"
-#include "support/desktop/FileBrowser.h"
 #include "support/desktop/SocketAddress.h"
 #include "support/desktop/UserProcess.h"
 #include "support/files/StandardFolders.h"
 #include "support/files/TaskRunner.h"
+#include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
 
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <chrono>
+#include <future>
+#include <memory>
 #include <mutex>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace vantrell
 {
@@ -38,26 +45,12 @@ struct EventReceiver {
 };
 constexpr EventReceiver EventReceivers[] = {{QLatin1String("com.apple.FinalCutPro"), QLatin1String("KeyG")}};
 
-/// Whether somebody listens on the socket. Never waits.
-bool socketAnswers(const QString &path)
-{
-    const auto address = socketAddress(path);
-    if (!address)
-        return false;
-    const int handle = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (handle < 0)
-        return false;
-    const int result = ::connect(handle, reinterpret_cast<const sockaddr *>(&*address), sizeof(*address));
-    const bool isListening = result == 0 || errno == EAGAIN; // EAGAIN: it has many callers already
-    ::close(handle);
-    return isListening;
-}
-
 bool answersEvents(const QString &bundleIdentifier)
 {
     return std::any_of(std::begin(EventReceivers), std::end(EventReceivers), [&](const EventReceiver &entry) {
+        // EAGAIN: it has many callers already.
         return entry.bundleIdentifier == bundleIdentifier &&
-               socketAnswers(Workspace::eventSocketPath(entry.signature));
+               (connectedSocket(Workspace::eventSocketPath(entry.signature)).isOpen() || errno == EAGAIN);
     });
 }
 
@@ -104,6 +97,56 @@ QString folderSetting(const QString &key, const QString &fallback)
 {
     const QString folder = UserDefaults::standard().string(key);
     return folder.isEmpty() ? fallback : folder;
+}
+
+constexpr int timeoutMs = 2000;
+
+/// Without this test the bus library would try to start a bus of its own.
+bool hasSessionBus()
+{
+    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        return true;
+    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + QStringLiteral("/bus"));
+}
+
+bool callFileManager(const QString &uri)
+{
+    static std::atomic<int> calls{0};
+    const QString name = QStringLiteral("vantrell-file-browser-%1").arg(++calls);
+    bool isAnswered = false;
+    {
+        QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+        if (bus.isConnected()) {
+            QDBusMessage message = QDBusMessage::createMethodCall(
+                QStringLiteral("org.freedesktop.FileManager1"),
+                QStringLiteral("/org/freedesktop/FileManager1"),
+                QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
+            message << QStringList{uri} << QString();
+            isAnswered = bus.call(message, QDBus::Block, timeoutMs).type() == QDBusMessage::ReplyMessage;
+        }
+    }
+    QDBusConnection::disconnectFromBus(name);
+    return isAnswered;
+}
+
+/// Has the file browser of the user's session, reached over the session bus, show the item at the absolute
+/// path selected in its folder. False without a session bus or a file browser, or without an answer in time.
+bool showInFileBrowser(const QString &path)
+{
+    if (!QCoreApplication::instance() || !hasSessionBus())
+        return false;
+    const auto isAnswered = std::make_shared<std::promise<bool>>();
+    const QString uri = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+    std::future<bool> answer = isAnswered->get_future();
+    // On a thread that can be left behind: connecting to a bus that hangs has no time-out.
+    BackgroundWork::run([isAnswered, uri] {
+        bool hasShown = false;
+        guarded("showInFileBrowser", [&] { hasShown = callFileManager(uri); });
+        isAnswered->set_value(hasShown);
+    });
+    const bool hasEnded = answer.wait_for(std::chrono::milliseconds(timeoutMs)) == std::future_status::ready;
+    return hasEnded && answer.get();
 }
 
 } // namespace
@@ -177,7 +220,7 @@ bool Workspace::revealFile(const QString &path)
     const QFileInfo file(path);
     if (path.isEmpty() || !file.exists())
         return false;
-    return FileBrowser::showItem(file.absoluteFilePath()) || openFile(file.absolutePath());
+    return showInFileBrowser(file.absoluteFilePath()) || openFile(file.absolutePath());
 }
 
 bool Workspace::openFile(const QString &path)

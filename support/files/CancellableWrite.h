@@ -8,12 +8,12 @@
 namespace vantrell
 {
 
-/// A write on another thread that can be cancelled until its file takes the old one's place, however long
+/// A write on another thread that can be cancelled until its file replaces the old one, however long
 /// the disk takes. Any thread; handled through shared pointers.
 class CancellableWrite : public std::enable_shared_from_this<CancellableWrite>
 {
 public:
-    /// False when it is too late: the new file takes the old one's place.
+    /// False when it is too late: the new file replaces the old one.
     bool cancel()
     {
         State expected = State::Writing;

@@ -10,7 +10,6 @@
 #include <fcntl.h>
 #include <mutex>
 #include <spawn.h>
-#include <sys/wait.h>
 #include <system_error>
 #include <thread>
 #include <unistd.h>
@@ -149,16 +148,6 @@ bool ChildProcess::waitForEnd(int timeoutMs)
         std::this_thread::sleep_for(EndPollInterval);
     }
     return true;
-}
-
-bool ChildProcess::hasExited() const
-{
-    return m_hasEnded && WIFEXITED(m_status);
-}
-
-int ChildProcess::exitCode() const
-{
-    return WEXITSTATUS(m_status);
 }
 
 void ChildProcess::killGroup() const

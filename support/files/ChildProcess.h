@@ -8,6 +8,7 @@
 
 #include <array>
 #include <sys/types.h>
+#include <sys/wait.h>
 
 namespace vantrell
 {
@@ -45,22 +46,18 @@ public:
     static Result<ChildProcess> start(const Request &request);
 
     pid_t id() const { return m_id; }
-
     /// Whether it has ended; never waits.
     bool hasEnded();
-
     /// Waits at most so many milliseconds for its end; whether it has ended.
     bool waitForEnd(int timeoutMs);
-
     /// Whether it ended by itself, with exitCode(); false when a signal ended it. Once it has ended.
-    bool hasExited() const;
-    int exitCode() const;
+    bool hasExited() const { return m_hasEnded && WIFEXITED(m_status); }
+    int exitCode() const { return WEXITSTATUS(m_status); }
 
     /// Kills the process and those of its group.
     void killGroup() const;
-
-    /// Gives up waiting for it. Its entry in the process table is freed some time after its end, by the
-    /// next call of this function or of start().
+    /// Gives up waiting for it. Its entry in the process table is freed some time after its end, by the next
+    /// call of this function or of start().
     void abandon() const;
 
 private:

@@ -74,7 +74,7 @@ private:
     QString m_error;
 };
 
-/// A file with a name of its own beside its target, until it takes the target's place; removed at the end
+/// A file with a name of its own beside its target, until it takes the target's name; removed at the end
 /// unless it did. QSaveFile would serve, but that it cannot replace a file whose name has more than 248
 /// bytes, and keeps the temporary name, which is to be removed on a signal, to itself.
 class NewFile : public CheckedFile

@@ -9,6 +9,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
@@ -70,8 +71,6 @@ Failure tooDeep()
 {
     return Failure{QStringLiteral("The property list nests more than %1 levels.").arg(maximumDepth)};
 }
-
-// Reading ------------------------------------------------------------------------------------------
 
 /// libplist takes what is not closed, and its recursion has no end: whether the XML is whole and
 /// within the limits is settled before it sees the text.
@@ -278,8 +277,6 @@ Result<QVariant> readValue(plist_t rawNode)
     return value;
 }
 
-// Writing ------------------------------------------------------------------------------------------
-
 /// The text in UTF-8 without what XML 1.0 cannot hold.
 QByteArray writableText(const QString &text)
 {
@@ -300,17 +297,9 @@ QByteArray writableText(const QString &text)
 
 bool hasForm(const QVariant &value)
 {
-    switch (value.typeId()) {
-    case QMetaType::QString:
-    case QMetaType::QDateTime:
-    case QMetaType::QByteArray:
-    case QMetaType::QStringList:
-    case QMetaType::QVariantList:
-    case QMetaType::QVariantMap:
-        return true;
-    default:
-        return isNumber(value);
-    }
+    constexpr std::array others{QMetaType::QString,     QMetaType::QDateTime,    QMetaType::QByteArray,
+                                QMetaType::QStringList, QMetaType::QVariantList, QMetaType::QVariantMap};
+    return isNumber(value) || std::find(others.begin(), others.end(), value.typeId()) != others.end();
 }
 
 /// The node of a value that has a form; nothing when it nests too deep.
@@ -429,20 +418,10 @@ Result<void> toFile(const QVariant &value, const QString &path, Format format)
 
 bool isNumber(const QVariant &value)
 {
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Float:
-    case QMetaType::Double:
-        return true;
-    default:
-        return false;
-    }
+    constexpr std::array types{QMetaType::Bool,  QMetaType::Int,       QMetaType::UInt,
+                               QMetaType::Long,  QMetaType::ULong,     QMetaType::LongLong,
+                               QMetaType::Float, QMetaType::ULongLong, QMetaType::Double};
+    return std::find(types.begin(), types.end(), value.typeId()) != types.end();
 }
 
 bool boolean(const QVariant &value)

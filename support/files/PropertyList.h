@@ -18,29 +18,23 @@ namespace vantrell::PropertyList
 {
 
 enum class Format { Xml, Binary };
-
 /// How deep arrays and dictionaries may stand in one another.
 constexpr int maximumDepth = 500;
 
 /// The list in these bytes, whichever form they are in.
 Result<QVariant> fromBytes(const QByteArray &bytes);
 Result<QVariant> fromFile(const QString &path);
-
 Result<QByteArray> toBytes(const QVariant &value, Format format);
-
 /// Replaces the file's content, or makes the file, in one step.
 Result<void> toFile(const QVariant &value, const QString &path, Format format = Format::Xml);
 
 /// Whether it is a boolean, a whole number or a number.
 bool isNumber(const QVariant &value);
-
 /// A number other than 0; a text that starts, after white space, a sign and zeros, with a digit or with one
 /// of "YyTt". False for all else.
 bool boolean(const QVariant &value);
-
 /// The number without its decimals, within 64 bits; a text as integerValue() reads it. 0 for all else.
 qint64 integer(const QVariant &value);
-
 /// The text; a number as text ("1" and "0" for booleans). A null string for all else.
 QString text(const QVariant &value);
 

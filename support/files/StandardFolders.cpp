@@ -113,11 +113,6 @@ QStringList volumesFolders()
     return candidates;
 }
 
-QString volumesFolder()
-{
-    return volumesFolders().value(0, QStringLiteral("/Volumes"));
-}
-
 void setVolumesFolder(const QString &folder)
 {
     const std::lock_guard lock(overrides().mutex);

@@ -125,11 +125,6 @@ private:
     qsizetype m_written = 0;
 };
 
-int remainingMs(const QDeadlineTimer &deadline)
-{
-    return static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0));
-}
-
 } // namespace
 
 Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QStringList &arguments,
@@ -144,12 +139,12 @@ Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QString
     Pipe errorsFromChild = Pipe::make();
     if (!toChild.readEnd.isOpen() || !fromChild.readEnd.isOpen() || !errorsFromChild.readEnd.isOpen())
         return Failure{QStringLiteral("%1 could not be started: too many open files").arg(program)};
-    ChildProcess::Request request;
-    request.program = program;
-    request.arguments = arguments;
-    request.streams = {toChild.readEnd.number(), fromChild.writeEnd.number(),
-                       errorsFromChild.writeEnd.number()};
-    Result<ChildProcess> started = ChildProcess::start(request);
+    Result<ChildProcess> started =
+        ChildProcess::start({.program = program,
+                             .arguments = arguments,
+                             .workingDirectory = {},
+                             .streams = {toChild.readEnd.number(), fromChild.writeEnd.number(),
+                                         errorsFromChild.writeEnd.number()}});
     if (!started)
         return started.failure();
     ChildProcess &process = started.value();
@@ -160,7 +155,7 @@ Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QString
     Streams streams(std::move(toChild.writeEnd), std::move(fromChild.readEnd),
                     std::move(errorsFromChild.readEnd), input);
     while (!process.hasEnded() && !deadline.hasExpired() && !givesUp()) {
-        const int waitMs = std::min(remainingMs(deadline), EndLookMs);
+        const int waitMs = int(std::clamp<qint64>(deadline.remainingTime(), 0, EndLookMs));
         if (streams.isAnyOpen())
             streams.exchange(waitMs);
         else
@@ -184,12 +179,10 @@ Result<TaskRunner::Output> TaskRunner::run(const QString &program, const QString
 Result<qint64> TaskRunner::startDetached(const QString &program, const QStringList &arguments,
                                          const QString &workingDirectory)
 {
-    ChildProcess::Request request;
-    request.program = program;
-    request.arguments = arguments;
-    request.workingDirectory = workingDirectory;
-    request.family = ChildProcess::Family::Session;
-    const Result<ChildProcess> started = ChildProcess::start(request);
+    const Result<ChildProcess> started = ChildProcess::start({.program = program,
+                                                              .arguments = arguments,
+                                                              .workingDirectory = workingDirectory,
+                                                              .family = ChildProcess::Family::Session});
     if (!started)
         return started.failure();
     started.value().abandon();

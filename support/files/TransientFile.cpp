@@ -24,17 +24,6 @@ Result<TransientFile> TransientFile::make(const QString &path)
     return TransientFile(made.value());
 }
 
-TransientFile::TransientFile(TransientFile &&other) noexcept
-    : m_path(std::exchange(other.m_path, QString()))
-{
-}
-
-TransientFile &TransientFile::operator=(TransientFile &&other) noexcept
-{
-    std::swap(m_path, other.m_path);
-    return *this;
-}
-
 TransientFile::~TransientFile()
 {
     const Result<void> removed = remove();

@@ -14,8 +14,9 @@ class TransientFile
 public:
     /// Makes an empty file under FileUtilities::uniqueFilePath().
     static Result<TransientFile> make(const QString &path);
-    TransientFile(TransientFile &&other) noexcept;
-    TransientFile &operator=(TransientFile &&other) noexcept;
+    // A string is empty once it was moved from.
+    TransientFile(TransientFile &&other) noexcept = default;
+    TransientFile &operator=(TransientFile &&other) noexcept = default;
     ~TransientFile();
 
     const QString &path() const { return m_path; }

@@ -14,22 +14,22 @@ namespace vantrell::UnfinishedFiles
 namespace
 {
 
-/// A file's path where a signal handler may read it. A file beyond the last place, or with a longer path, is
+/// A file's path where a signal handler may read it. A file beyond the last entry, or with a longer path, is
 /// written all the same and would outlive an interrupt.
-struct Place {
-    std::atomic<bool> isTaken = false; ///< the path is whole
-    std::array<char, 4096> path = {};  ///< ends with 0
+struct Entry {
+    std::atomic<bool> isUsed = false; ///< the path is whole
+    std::array<char, 4096> path = {}; ///< ends with 0
 };
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-std::array<Place, 16> places;
-std::mutex placesMutex; // guards the paths against each other's changes
+std::array<Entry, 16> entries;
+std::mutex entriesMutex; // guards the paths against each other's changes
 
 void removeAndEnd(int number)
 {
-    for (const Place &place : places) {
-        if (place.isTaken)
-            ::unlink(place.path.data());
+    for (const Entry &entry : entries) {
+        if (entry.isUsed)
+            ::unlink(entry.path.data());
     }
     std::signal(number, SIG_DFL);
     std::raise(number);
@@ -39,22 +39,22 @@ void removeAndEnd(int number)
 
 void add(const QByteArray &path)
 {
-    const std::lock_guard lock(placesMutex);
-    for (Place &place : places) {
-        if (place.isTaken || std::size_t(path.size()) >= place.path.size())
+    const std::lock_guard lock(entriesMutex);
+    for (Entry &entry : entries) {
+        if (entry.isUsed || std::size_t(path.size()) >= entry.path.size())
             continue;
-        std::memcpy(place.path.data(), path.constData(), std::size_t(path.size()) + 1);
-        place.isTaken = true;
+        std::memcpy(entry.path.data(), path.constData(), std::size_t(path.size()) + 1);
+        entry.isUsed = true;
         return;
     }
 }
 
 void remove(const QByteArray &path)
 {
-    const std::lock_guard lock(placesMutex);
-    for (Place &place : places) {
-        if (place.isTaken && path == place.path.data()) {
-            place.isTaken = false;
+    const std::lock_guard lock(entriesMutex);
+    for (Entry &entry : entries) {
+        if (entry.isUsed && path == entry.path.data()) {
+            entry.isUsed = false;
             return;
         }
     }

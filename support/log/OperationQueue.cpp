@@ -43,13 +43,8 @@ struct OperationQueue::State {
     }
 };
 
-namespace
-{
-
 /// The state of the queue whose operation runs on this thread, or null.
-thread_local const void *t_currentQueue = nullptr;
-
-} // namespace
+static thread_local const void *t_currentQueue = nullptr;
 
 OperationQueue::OperationQueue(int width)
     : m_state(std::make_shared<State>())

@@ -24,17 +24,13 @@ public:
     static int processorCount();
 
     void addOperation(std::function<void()> operation);
-
     /// Drops the operations that have not begun; those that have run on to their end.
     void cancelAllOperations();
-
-    /// Returns when nothing waits and nothing runs. Called by one of the queue's own operations it
-    /// runs the waiting ones on the spot and returns when none is left to begin.
+    /// Returns when nothing waits and nothing runs. Called by one of the queue's own operations it runs the
+    /// waiting ones on the spot and returns when none is left to begin.
     void waitUntilAllOperationsAreFinished();
-
     /// How many operations wait or run.
     int operationCount() const;
-
     /// Whether the caller is one of the queue's own operations.
     bool isCallerOperation() const;
 

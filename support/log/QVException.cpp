@@ -13,15 +13,11 @@ namespace vantrell
 namespace
 {
 
-struct FreeDeleter {
-    void operator()(char *memory) const { std::free(memory); }
-};
-
 QString readableName(const std::type_info &type)
 {
     int status = 0;
-    const std::unique_ptr<char, FreeDeleter> name(
-        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status));
+    const std::unique_ptr<char, void (*)(void *)> name(
+        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), std::free);
     return QString::fromUtf8(name ? name.get() : type.name());
 }
 

@@ -168,18 +168,6 @@ std::shared_ptr<OperationQueue> QVLog::queue() const
     return m_writeQueue;
 }
 
-// Starting a file ----------------------------------------------------------------------------------
-
-void QVLog::createNewLog()
-{
-    createNewLog(QString());
-}
-
-void QVLog::createNewLog(const QString &name)
-{
-    createNewLog(name, false);
-}
-
 void QVLog::createNewLog(const QString &name, bool noPrinting)
 {
     QVLog &log = sharedController();
@@ -194,7 +182,7 @@ void QVLog::startLog(const QString &name, bool noPrinting)
         return;
     startQueue();
     const std::lock_guard lock(m_fileMutex);
-    closeFile();
+    m_file.close();
     if (isLoggingSwitchedOff()) {
         echo(QStringLiteral("Logging is disabled"));
         m_loggingDisabled = true;
@@ -215,9 +203,9 @@ void QVLog::startLog(const QString &name, bool noPrinting)
     if (!rotateFiles(folder + u'/' + m_appName))
         return;
     const QString path = currentPath();
-    m_fileHandle = ::open(QFile::encodeName(path).constData(),
-                          O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644);
-    if (m_fileHandle < 0) {
+    m_file = Descriptor(::open(QFile::encodeName(path).constData(),
+                               O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644));
+    if (!m_file.isOpen()) {
         echo(formatText(u"Unable to create log file %s - %s\n", path, qt_error_string(errno)));
         return;
     }
@@ -266,8 +254,6 @@ QString QVLog::currentPath() const
     return numberedFile(logFolder(library) + u'/' + m_appName, 1);
 }
 
-// Appending ----------------------------------------------------------------------------------------
-
 void QVLog::appendFormatted(QStringView format, Waiting waiting, std::span<const FormatArgument> arguments)
 {
     QVLog &log = sharedController();
@@ -311,8 +297,6 @@ QString QVLog::escapeTextForLogging(const QString &text)
     return escaped.replace(QStringLiteral("%%%"), QStringLiteral("%%"));
 }
 
-// Writing ------------------------------------------------------------------------------------------
-
 void QVLog::appendLogOnThread(const QString &text)
 {
     if (m_loggingDisabled)
@@ -324,7 +308,7 @@ void QVLog::appendLogOnThread(const QString &text)
             const std::lock_guard lock(m_fileMutex);
             writeLine(text);
             name = m_appName;
-            isFull = m_fileHandle >= 0 && m_bytesWritten >= fileLimit;
+            isFull = m_file.isOpen() && m_bytesWritten >= fileLimit;
         }
         // What is written while the queue drains goes to the full file and meets no limit.
         if (isFull && !m_rotating.exchange(true)) {
@@ -342,9 +326,10 @@ void QVLog::appendLogOnThread(const QString &text)
 
 void QVLog::writeLine(const QString &text)
 {
-    if (m_fileHandle < 0)
-        m_fileHandle = ::open(QFile::encodeName(currentPath()).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
-    if (m_fileHandle < 0) {
+    if (!m_file.isOpen())
+        m_file =
+            Descriptor(::open(QFile::encodeName(currentPath()).constData(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    if (!m_file.isOpen()) {
         // Nobody makes the folder of the super-user's log, so the loss of one line is that of all.
         if (std::exchange(m_isLossTold, true) && userId() == 0)
             return;
@@ -363,7 +348,7 @@ bool QVLog::writeBytes(const QByteArray &bytes)
     const char *data = bytes.constData();
     std::size_t left = static_cast<std::size_t>(bytes.size());
     while (left > 0) {
-        const ssize_t written = ::write(m_fileHandle, data, left);
+        const ssize_t written = ::write(m_file.number(), data, left);
         if (written >= 0) {
             data += written;
             left -= static_cast<std::size_t>(written);
@@ -373,13 +358,6 @@ bool QVLog::writeBytes(const QByteArray &bytes)
         }
     }
     return true;
-}
-
-void QVLog::closeFile()
-{
-    if (m_fileHandle >= 0)
-        ::close(m_fileHandle);
-    m_fileHandle = -1;
 }
 
 /// Shows a text on the console, on a line of its own, unless nothing is to be printed.
@@ -392,8 +370,6 @@ void QVLog::echo(const QString &text) const
         line.append('\n');
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
-
-// Ending -------------------------------------------------------------------------------------------
 
 void QVLog::finishWriting()
 {
@@ -444,7 +420,7 @@ void QVLog::willTerminate()
     writeQueue.reset(); // waits for the text that is being written
     const std::lock_guard fileLock(log.m_fileMutex);
     log.m_appName.clear();
-    log.closeFile();
+    log.m_file.close();
 }
 
 void QVLog::setUserIdFunction(UserIdFunction function)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/files/Descriptor.h"
 #include "support/text/TextFormat.h"
 
 #include <QByteArray>
@@ -28,16 +29,14 @@ class OperationQueue;
 class QVLog
 {
 public:
-    /// The shared object; made at the first call, together with the handler that logs what an
-    /// uncaught exception says before the process ends.
+    /// The shared object; made at the first call, together with the handler that logs what an uncaught
+    /// exception says before the process ends.
     static QVLog &sharedController();
 
-    /// Starts a new log file and numbers the older ones up. The base name of the files is the first
-    /// name that was ever given (an empty one counts as none), else "Unknown". With noPrinting
-    /// nothing is echoed to the console. After willTerminate() this takes the log up again.
-    static void createNewLog();
-    static void createNewLog(const QString &name);
-    static void createNewLog(const QString &name, bool noPrinting);
+    /// Starts a new log file and numbers the older ones up. The base name of the files is the first name that
+    /// was ever given (an empty one counts as none), else "Unknown". With noPrinting nothing is echoed to the
+    /// console. After willTerminate() this takes the log up again.
+    static void createNewLog(const QString &name = QString(), bool noPrinting = false);
 
     /// Logs one text; one that holds white space only is dropped, as is a null format. Off the main
     /// thread a short text is in the file when this returns, unless many others wait.
@@ -75,29 +74,25 @@ public:
         appendLog(formatText(format, std::span<const FormatArgument>(list)).trimmed());
     }
 
-    /// Returns when every text handed over before has been written; on the queue's own thread it
-    /// writes them at once.
+    /// Returns when every text handed over before has been written; on the queue's own thread it writes them
+    /// at once.
     static void finishWriting();
-
     /// The paths of the user's log files that exist, the current one first.
     static QStringList availableLogs();
-
     /// The text with each percent sign doubled that stands before a blank or one of ".!,-;:+".
     static QString escapeTextForLogging(const QString &text);
-
-    /// Writes the texts that wait if they are ten or fewer, drops them otherwise, closes the file and
-    /// ends the queue. What is logged later is dropped. Runs when the application is about to quit
-    /// and when the process ends; may be called by hand, and more than once.
+    /// Writes the texts that wait if they are ten or fewer, drops them otherwise, closes the file and ends
+    /// the queue. What is logged later is dropped. Runs when the application is about to quit and when the
+    /// process ends; may be called by hand, and more than once.
     static void willTerminate();
 
-    /// Where the numeric user id comes from: user 0 writes the current file in the system-wide
-    /// library folder. A null pointer stands for the process's own id.
+    /// Where the numeric user id comes from: user 0 writes the current file in the system-wide library
+    /// folder. A null pointer stands for the process's own id.
     using UserIdFunction = unsigned (*)();
     static void setUserIdFunction(UserIdFunction function);
 
     /// Hands a text to the queue, trimmed; an empty one is dropped.
     void appendTextToLog(const QString &text);
-
     /// Writes one text; what the queue runs for it. It makes no objects that Qt ties to a thread, such as
     /// QFile: the queue may outlive what Qt keeps about threads.
     void appendLogOnThread(const QString &text);
@@ -126,7 +121,6 @@ private:
     void writeLine(const QString &text);
     QString currentPath() const;
     bool writeBytes(const QByteArray &bytes);
-    void closeFile();
     void echo(const QString &text) const;
     void startQueue();
     std::shared_ptr<OperationQueue> queue() const;
@@ -145,7 +139,7 @@ private:
 
     std::mutex m_fileMutex; ///< guards the members below
     QString m_appName;
-    int m_fileHandle = -1; ///< the current file, written at its end; -1 for none
+    Descriptor m_file; ///< the current file, written at its end
     quint64 m_bytesWritten = 0;
     bool m_isLossTold = false; ///< the console says that there is no file
 };

@@ -32,11 +32,6 @@ constexpr auto lockPatience = std::chrono::seconds(2);
 std::atomic<UserDefaults::Access> standardAccess = UserDefaults::Access::Shared;
 std::atomic<bool> isStandardMade = false;
 
-QString standardPath()
-{
-    return StandardFolders::preferences() + QStringLiteral("/com.orvandel.vantrell.plist");
-}
-
 } // namespace
 
 UserDefaults::UserDefaults(const QString &path, Access access)
@@ -90,8 +85,6 @@ void UserDefaults::setAccess(Access access)
     watch();
 }
 
-// Values -------------------------------------------------------------------------------------------
-
 QVariant UserDefaults::value(const QString &key) const
 {
     const std::lock_guard lock(m_mutex);
@@ -119,28 +112,6 @@ void UserDefaults::registerDefaults(const QVariantMap &defaults)
     const std::lock_guard lock(m_mutex);
     m_registered.insert(defaults);
 }
-
-void UserDefaults::setValue(const QString &key, const QVariant &value)
-{
-    update({{key, value}}, Writing::Allowed);
-}
-
-void UserDefaults::setValues(const QVariantMap &values)
-{
-    update(values, Writing::Allowed);
-}
-
-void UserDefaults::removeValue(const QString &key)
-{
-    setValue(key, QVariant());
-}
-
-void UserDefaults::synchronize()
-{
-    update({}, Writing::Allowed);
-}
-
-// The file -----------------------------------------------------------------------------------------
 
 UserDefaults::Signature UserDefaults::signatureOf(const QString &path)
 {
@@ -190,7 +161,9 @@ void UserDefaults::update(const QVariantMap &changes, Writing writing)
 /// Changes for the file of another folder are not for this one.
 void UserDefaults::takePath()
 {
-    const QString path = m_givenPath.isEmpty() ? standardPath() : m_givenPath;
+    QString path = m_givenPath;
+    if (path.isEmpty())
+        path = StandardFolders::preferences() + QStringLiteral("/com.orvandel.vantrell.plist");
     if (path == m_path)
         return;
     const bool isFirst = m_path.isEmpty();

@@ -33,23 +33,20 @@ public:
     /// neither reads nor writes; there is what was registered and set in this process.
     enum class Access { Shared, ReadOnly, Volatile };
 
-    /// The settings in one file; an empty path stands for the program's own file, whose place is
-    /// looked up again whenever the file is used.
+    /// The settings in one file; an empty path stands for the program's own file, whose path is looked up
+    /// again whenever the file is used.
     explicit UserDefaults(const QString &path, Access access = Access::Shared);
     ~UserDefaults() override;
 
     /// The program's settings. They live as long as the process.
     static UserDefaults &standard();
-
     /// How standard() uses its file. Before the first call of standard(), nothing has been read yet.
     static void setStandardAccess(Access access);
-
     /// Changes how the file is used from now on. What was set in this process alone is forgotten.
     void setAccess(Access access);
 
     /// The value of a key: the one set, else the one registered, else an invalid one.
     QVariant value(const QString &key) const;
-
     /// value() as a text (null when there is none), a whole number (0) and a boolean (false).
     QString string(const QString &key) const;
     qint64 integer(const QString &key) const;
@@ -57,18 +54,13 @@ public:
 
     /// Gives keys the values that hold while nothing is set for them; they are not written.
     void registerDefaults(const QVariantMap &defaults);
-
-    /// Sets a key; an invalid value removes it.
-    void setValue(const QString &key, const QVariant &value);
-
-    /// Sets several keys in one write.
-    void setValues(const QVariantMap &values);
-
-    /// Removes what is set for a key, so that the registered value holds again.
-    void removeValue(const QString &key);
-
+    /// Sets a key, or several in one write; an invalid value removes its key, so that the registered one
+    /// holds.
+    void setValue(const QString &key, const QVariant &value) { setValues({{key, value}}); }
+    void setValues(const QVariantMap &values) { update(values, Writing::Allowed); }
+    void removeValue(const QString &key) { setValue(key, QVariant()); }
     /// Writes what could not be written before and takes in what other processes changed.
-    void synchronize();
+    void synchronize() { update({}, Writing::Allowed); }
 
 Q_SIGNALS:
     /// The value of a key is another one than before, whoever changed it. Sent on the thread that

@@ -7,24 +7,6 @@
 namespace vantrell
 {
 
-namespace
-{
-
-bool isSign(QChar character)
-{
-    return character == QLatin1Char('-') || character == QLatin1Char('+');
-}
-
-QStringView withoutLeadingSpace(QStringView text)
-{
-    qsizetype start = 0;
-    while (start < text.size() && text[start].isSpace())
-        ++start;
-    return text.sliced(start);
-}
-
-} // namespace
-
 bool isDigit(QChar character)
 {
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
@@ -32,9 +14,9 @@ bool isDigit(QChar character)
 
 qint64 integerValue(QStringView text)
 {
-    text = withoutLeadingSpace(text);
+    text = text.trimmed();
     const bool negative = text.startsWith(QLatin1Char('-'));
-    if (!text.isEmpty() && isSign(text.front()))
+    if (negative || text.startsWith(QLatin1Char('+')))
         text = text.sliced(1);
 
     // The magnitude of the smallest value is one more than that of the largest.
@@ -62,7 +44,7 @@ double doubleValue(QStringView text)
 {
     static const QRegularExpression number(
         QStringLiteral("^[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
-    return number.match(withoutLeadingSpace(text).toString()).capturedView().toDouble();
+    return number.match(text.trimmed().toString()).capturedView().toDouble();
 }
 
 } // namespace vantrell

@@ -12,12 +12,7 @@
 namespace vantrell
 {
 
-namespace
-{
-
-std::atomic<int> s_running = 0;
-
-} // namespace
+static std::atomic<int> s_running = 0;
 
 void BackgroundWork::run(std::function<void()> work)
 {

@@ -8,24 +8,7 @@
 namespace vantrell
 {
 
-namespace
-{
-
 constexpr int RetryMs = 20;
-
-int s_depth = 0; // main thread only
-
-} // namespace
-
-NestedEvents::NestedEvents()
-{
-    ++s_depth;
-}
-
-NestedEvents::~NestedEvents()
-{
-    --s_depth;
-}
 
 bool NestedEvents::areRunning()
 {

@@ -13,8 +13,8 @@ class NestedEvents
 {
 public:
     /// Events are dispatched inside an operation while this lives.
-    NestedEvents();
-    ~NestedEvents();
+    NestedEvents() { ++s_depth; }
+    ~NestedEvents() { --s_depth; }
     NestedEvents(const NestedEvents &) = delete;
     NestedEvents &operator=(const NestedEvents &) = delete;
 
@@ -24,6 +24,9 @@ public:
     /// Runs `work` from the program's own event loop, once no operation waits any more; not at all when
     /// `context` has been destroyed by then.
     static void whenUnwound(QObject *context, std::function<void()> work);
+
+private:
+    static inline int s_depth = 0;
 };
 
 } // namespace vantrell

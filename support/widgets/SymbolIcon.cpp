@@ -106,4 +106,17 @@ QIcon themeIcon(const QStringList &names, const QString &symbolPath)
     return symbolIcon(symbolPath);
 }
 
+SymbolView::SymbolView(const QIcon &icon, int side, QWidget *parent)
+    : QWidget(parent)
+    , m_icon(icon)
+{
+    setFixedSize(side, side);
+}
+
+void SymbolView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_icon.paint(&painter, rect());
+}
+
 } // namespace vantrell

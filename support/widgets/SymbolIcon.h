@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QPalette>
 #include <QString>
+#include <QWidget>
 
 namespace vantrell
 {
@@ -16,5 +17,19 @@ QIcon symbolIcon(const QString &path, QPalette::ColorRole role = QPalette::Butto
 
 /// The first of the theme's icons that is there, else the symbol.
 QIcon themeIcon(const QStringList &names, const QString &symbolPath);
+
+/// An icon in a window, drawn for the current theme and screen. Main thread.
+class SymbolView final : public QWidget
+{
+public:
+    /// The side is in pixels of the window.
+    SymbolView(const QIcon &icon, int side, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const QIcon m_icon;
+};
 
 } // namespace vantrell

@@ -93,11 +93,6 @@ void WindowAlertPresenter::setIcon(QMessageBox &box)
         box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
 }
 
-WindowAlertPresenter::~WindowAlertPresenter()
-{
-    closeAll(nullptr);
-}
-
 AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &description, AlertParent *parent,
                                                     Answer answered)
 {

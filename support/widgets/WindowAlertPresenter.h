@@ -39,7 +39,7 @@ public:
         : m_defaults(defaults)
     {
     }
-    ~WindowAlertPresenter() override;
+    ~WindowAlertPresenter() override { closeAll(nullptr); }
 
     /// Gives the box the program's own icon, the same for questions, notices and warnings.
     static void setIcon(QMessageBox &box);

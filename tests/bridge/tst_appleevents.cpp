@@ -1,7 +1,6 @@
 #include "bridge/EventCodes.h"
 #include "bridge/FileReference.h"
 #include "bridge/QVAppleEvents.h"
-#include "bridge/SharedEventTransport.h"
 #include "bridge/SocketEventTransport.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"

@@ -1,4 +1,3 @@
-#include "bridge/QVPremiere.h"
 #include "bridge/QVPremiereEvents.h"
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"

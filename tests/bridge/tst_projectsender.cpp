@@ -2,7 +2,7 @@
 #include "bridge/FileReference.h"
 #include "bridge/ProjectSender.h"
 #include "bridge/QVPremiereEvents.h"
-#include "bridge/SharedEventTransport.h"
+#include "bridge/SocketEventTransport.h"
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/support/LogLines.h"

@@ -1,4 +1,4 @@
-#include "bridge/host/HostProjects.h"
+#include "bridge/host/HostProject.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QDir>

@@ -1,4 +1,3 @@
-#include "support/alerts/AlertUntil.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVLog.h"
