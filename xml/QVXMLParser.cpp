@@ -134,19 +134,14 @@ XmlNode QVXMLParser::nodeForQuery(const QString &query, XmlNode element)
 
 std::optional<QString> QVXMLParser::idAttributeForNode(XmlNode element)
 {
-    const QString raw = element.attribute("id");
-    const QString decoded = XmlText::removingPercentEscapes(raw);
-    if (decoded.isNull())
-        return std::nullopt;
-    return decoded;
+    const QString decoded = XmlText::removingPercentEscapes(element.attribute("id"));
+    return decoded.isNull() ? std::nullopt : std::optional(decoded);
 }
 
 std::optional<QString> QVXMLParser::filenameFromPathURLString(const QString &url)
 {
     const QString path = XmlText::pathOfUrl(url);
-    if (path.isNull())
-        return std::nullopt;
-    return path;
+    return path.isNull() ? std::nullopt : std::optional(path);
 }
 
 XmlNodeList QVXMLParser::nodesFromQueries(XmlNode node, const QStringList &queries)
@@ -179,11 +174,6 @@ XmlNodeList QVXMLParser::queryNodes(const XmlNodeList &nodes, const QString &que
     return found;
 }
 
-XmlNodeList QVXMLParser::affectedNodesForClip(XmlNode trackItem)
-{
-    return affectedNodesForClip(trackItem, nullptr, nullptr);
-}
-
 XmlNodeList QVXMLParser::affectedNodesForClip(XmlNode trackItem, std::int64_t *rangeStart,
                                               std::int64_t *rangeEnd)
 {
@@ -207,31 +197,17 @@ XmlNodeList QVXMLParser::affectedNodesForClip(XmlNode trackItem, std::int64_t *r
     return group;
 }
 
-std::optional<QString> QVXMLParser::nameForNode(XmlNode element)
-{
-    return nameForNode(element, false);
-}
-
 std::optional<QString> QVXMLParser::nameForNode(XmlNode element, bool immediateChildOnly)
 {
     static const XmlQuery child(QStringLiteral("./name[1]/text()"));
     static const XmlQuery anywhere(QStringLiteral(".//name[1]/text()"));
     std::optional<QString> raw = child.firstText(element);
-    if (!raw && immediateChildOnly)
-        return std::nullopt;
-    if (!raw)
+    if (!raw && !immediateChildOnly) {
         raw = anywhere.firstText(element);
-    if (raw)
-        return shownText(*raw);
-    const QString id = element.attribute("id");
-    if (id.isNull())
-        return std::nullopt;
-    return shownText(id);
-}
-
-std::optional<QString> QVXMLParser::uuidForNode(XmlNode element)
-{
-    return uuidForNode(element, false);
+        if (const QString id = element.attribute("id"); !raw && !id.isNull())
+            raw = id;
+    }
+    return raw ? std::optional(shownText(*raw)) : std::nullopt;
 }
 
 std::optional<QString> QVXMLParser::uuidForNode(XmlNode element, bool immediateChildOnly)
@@ -241,14 +217,7 @@ std::optional<QString> QVXMLParser::uuidForNode(XmlNode element, bool immediateC
     std::optional<QString> raw = child.firstText(element);
     if (!raw && !immediateChildOnly)
         raw = anywhere.firstText(element);
-    if (!raw)
-        return std::nullopt;
-    return shownText(*raw);
-}
-
-XmlNode QVXMLParser::parentWithName(XmlNode node, std::string_view name)
-{
-    return parentWithName(node, name, {});
+    return raw ? std::optional(shownText(*raw)) : std::nullopt;
 }
 
 XmlNode QVXMLParser::parentWithName(XmlNode node, std::string_view name,

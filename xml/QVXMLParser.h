@@ -40,24 +40,19 @@ public:
     /// The results for each node in turn, with duplicates.
     static XmlNodeList queryNodes(const XmlNodeList &nodes, const QString &query);
 
-    /// The track item and the neighbours joined to it by transitions, in track order.
-    static XmlNodeList affectedNodesForClip(XmlNode trackItem);
-    /// The same. The range of the group, in frames, is stored in the arguments that are not null; -1 when
-    /// open.
-    static XmlNodeList affectedNodesForClip(XmlNode trackItem, std::int64_t *rangeStart,
-                                            std::int64_t *rangeEnd);
+    /// The track item and the neighbours joined to it by transitions, in track order. The range of the group,
+    /// in frames, is stored in the arguments that are not null; -1 when open.
+    static XmlNodeList affectedNodesForClip(XmlNode trackItem, std::int64_t *rangeStart = nullptr,
+                                            std::int64_t *rangeEnd = nullptr);
 
     /// The display name: the name child, else the first name at any depth, else the id.
-    static std::optional<QString> nameForNode(XmlNode element);
-    static std::optional<QString> nameForNode(XmlNode element, bool immediateChildOnly);
-    static std::optional<QString> uuidForNode(XmlNode element);
-    static std::optional<QString> uuidForNode(XmlNode element, bool immediateChildOnly);
+    static std::optional<QString> nameForNode(XmlNode element, bool immediateChildOnly = false);
+    static std::optional<QString> uuidForNode(XmlNode element, bool immediateChildOnly = false);
 
-    /// The nearest ancestor of that name; never the node itself.
-    static XmlNode parentWithName(XmlNode node, std::string_view name);
-    /// The same, but null when an ancestor with one of the limiting names comes first.
+    /// The nearest ancestor of that name, never the node itself; null when one with a limiting name comes
+    /// first.
     static XmlNode parentWithName(XmlNode node, std::string_view name,
-                                  std::initializer_list<std::string_view> limits);
+                                  std::initializer_list<std::string_view> limits = {});
 
     /// Replaces UTF-16 units from 160 on by decimal references, "&" and carriage returns by references; other
     /// units from 0 to 19 are dropped and logged.

@@ -104,14 +104,12 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, 
     const Result<std::shared_ptr<XmlFile>> file = XmlFile::open(path, options.cancelled);
     if (!file)
         return file.failure();
-    ParseRequest request;
-    request.source.read = [input = file.value()](char *buffer, int length) {
+    const auto read = [input = file.value()](char *buffer, int length) {
         return input->read(buffer, length);
     };
-    request.source.size = file.value()->size();
-    request.tolerant = options.tolerant;
-    request.cancelled = options.cancelled;
-    Result<std::unique_ptr<XmlDocument>> document = parse(request);
+    Result<std::unique_ptr<XmlDocument>> document = parse({.source = {read, file.value()->size()},
+                                                           .tolerant = options.tolerant,
+                                                           .cancelled = options.cancelled});
     if (!document)
         return Failure{QStringLiteral("The file \"%1\" cannot be opened as a project: %2")
                            .arg(path, document.message())};
@@ -120,11 +118,7 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, 
 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::fromData(const QByteArray &data, const LoadOptions &options)
 {
-    ParseRequest request;
-    request.source = sourceOf(data);
-    request.tolerant = options.tolerant;
-    request.cancelled = options.cancelled;
-    return parse(request);
+    return parse({.source = sourceOf(data), .tolerant = options.tolerant, .cancelled = options.cancelled});
 }
 
 Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &request)
@@ -225,12 +219,9 @@ QString XmlDocument::textOfElement(XmlNode element)
 Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
 {
     const QByteArray utf8 = xml.toUtf8();
-    ParseRequest request;
-    request.source = sourceOf(utf8);
-    request.tolerant = false;
-    request.keepsSpace = true;
     XmlTree tree(nullptr);
-    const ParseOutcome outcome = parseXml(request, tree);
+    const ParseOutcome outcome =
+        parseXml({.source = sourceOf(utf8), .tolerant = false, .keepsSpace = true}, tree);
     const XmlNode root = XmlNode(&tree, XmlTree::documentId).firstChildElement();
     const bool isWhole =
         outcome.hasTree && !outcome.tooDeep && !outcome.tooManyDefaults && !outcome.outOfMemory;
@@ -279,11 +270,6 @@ void XmlDocument::revert(XmlChanges &changes)
 {
     noteChange();
     changes = m_tree->revert(changes);
-}
-
-XmlDocument *XmlDocument::owning(XmlNode node)
-{
-    return node ? node.tree()->owner() : nullptr;
 }
 
 } // namespace vantrell

@@ -91,9 +91,6 @@ public:
     std::uint64_t revision() const { return m_revision; }
     void noteChange() { ++m_revision; }
 
-    /// The document that owns the node, inside its tree or outside; null for a null handle.
-    static XmlDocument *owning(XmlNode node);
-
 private:
     XmlDocument();
     static Result<std::unique_ptr<XmlDocument>> parse(const struct ParseRequest &request);

@@ -18,8 +18,8 @@ Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path, const std::a
     std::shared_ptr<XmlFile> file(new XmlFile);
     file->m_cancelled = cancelled;
     file->m_descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (file->m_descriptor < 0) {
+        Descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (!file->m_descriptor.isOpen()) {
         const int reason = errno;
         if (reason == ENOENT || reason == ENOTDIR)
             return Failure{QStringLiteral("The file \"%1\" does not exist.").arg(path)};
@@ -27,7 +27,7 @@ Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path, const std::a
             QStringLiteral("The file \"%1\" cannot be opened: %2.").arg(path, qt_error_string(reason))};
     }
     struct stat status = {};
-    if (fstat(file->m_descriptor, &status) != 0)
+    if (fstat(file->m_descriptor.number(), &status) != 0)
         return Failure{
             QStringLiteral("The file \"%1\" cannot be read: %2.").arg(path, qt_error_string(errno))};
     if (S_ISDIR(status.st_mode))
@@ -37,16 +37,10 @@ Result<std::shared_ptr<XmlFile>> XmlFile::open(const QString &path, const std::a
             return Failure{QStringLiteral("The file \"%1\" is empty.").arg(path)};
         file->m_size = file->m_remaining = status.st_size;
 #ifdef POSIX_FADV_SEQUENTIAL
-        posix_fadvise(file->m_descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
+        posix_fadvise(file->m_descriptor.number(), 0, 0, POSIX_FADV_SEQUENTIAL);
 #endif
     }
     return file;
-}
-
-XmlFile::~XmlFile()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
 }
 
 int XmlFile::read(char *buffer, int length)
@@ -59,7 +53,7 @@ int XmlFile::read(char *buffer, int length)
     do {
         if (!waitForData())
             return -1;
-        count = ::read(m_descriptor, buffer, std::size_t(length));
+        count = ::read(m_descriptor.number(), buffer, std::size_t(length));
     } while (count < 0 && (errno == EINTR || errno == EAGAIN));
     if (count > 0 && m_remaining >= 0)
         m_remaining -= count;
@@ -70,7 +64,7 @@ int XmlFile::read(char *buffer, int length)
 bool XmlFile::waitForData() const
 {
     constexpr int cancelInterval = 100; // milliseconds
-    pollfd data = {m_descriptor, POLLIN, 0};
+    pollfd data = {m_descriptor.number(), POLLIN, 0};
     while (m_remaining < 0 && poll(&data, 1, cancelInterval) == 0) {
         if (m_cancelled && m_cancelled->load(std::memory_order_relaxed))
             return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/files/Descriptor.h"
 #include "support/files/Result.h"
 
 #include <QString>
@@ -18,9 +19,6 @@ public:
     /// The failure says why the file cannot be read as a project. Setting `cancelled` (may be null) ends the
     /// wait for a pipe.
     static Result<std::shared_ptr<XmlFile>> open(const QString &path, const std::atomic<bool> *cancelled);
-    ~XmlFile();
-    XmlFile(const XmlFile &) = delete;
-    XmlFile &operator=(const XmlFile &) = delete;
 
     /// Up to \a length bytes; 0 at the end, -1 on a failed read.
     int read(char *buffer, int length);
@@ -33,7 +31,7 @@ private:
     bool waitForData() const;
 
     const std::atomic<bool> *m_cancelled = nullptr;
-    int m_descriptor = -1;
+    Descriptor m_descriptor;
     long long m_size = -1;
     long long m_remaining = -1; ///< bytes; -1 without a size, as for a pipe
 };

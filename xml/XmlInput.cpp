@@ -325,7 +325,7 @@ bool XmlInput::fill()
     if (!m_block.text.empty())
         std::swap(m_block, m_lastBlock);
     m_block.start = m_lastBlock.end();
-    m_places.push_back({m_block.start, m_blockSourceEnd});
+    m_blockStarts.push_back({m_block.start, m_blockSourceEnd});
     m_block.text.assign(m_rest.begin(), m_rest.end());
     m_rest.clear();
     m_handedOut = 0;
@@ -529,12 +529,12 @@ void XmlInput::addFault(std::string_view before, const QString &text)
 
 std::int64_t XmlInput::sourceOffset(std::int64_t textOffset) const
 {
-    const auto isBefore = [](std::int64_t offset, const Place &place) { return offset < place.text; };
-    const auto next = std::upper_bound(m_places.begin(), m_places.end(), textOffset, isBefore);
-    if (next == m_places.begin())
+    const auto isBefore = [](std::int64_t offset, const BlockStart &start) { return offset < start.text; };
+    const auto next = std::upper_bound(m_blockStarts.begin(), m_blockStarts.end(), textOffset, isBefore);
+    if (next == m_blockStarts.begin())
         return 0;
-    const Place start = *(next - 1);
-    const Place end = next == m_places.end() ? Place{m_block.end(), m_blockSourceEnd} : *next;
+    const BlockStart start = *(next - 1);
+    const BlockStart end = next == m_blockStarts.end() ? BlockStart{m_block.end(), m_blockSourceEnd} : *next;
     const std::int64_t size = end.text - start.text;
     const std::int64_t sourceSize = end.source - start.source;
     const std::int64_t inBlock = std::clamp<std::int64_t>(textOffset - start.text, 0, size);

@@ -76,7 +76,7 @@ private:
     class Decoder;
 
     /// Where a block starts.
-    struct Place {
+    struct BlockStart {
         std::int64_t text;
         std::int64_t source;
     };
@@ -95,13 +95,13 @@ private:
     const XmlSource &m_source;
     const bool m_stopsAtFaults;
     const std::atomic<bool> *m_cancel;
-    std::vector<char> m_raw;            // read but not decoded yet
-    Block m_block;                      // what read() hands out
-    Block m_lastBlock;                  // the one before that was not empty
-    std::vector<Place> m_places;        // of all blocks so far
-    std::size_t m_handedOut = 0;        // bytes of the block
-    std::string m_rest;                 // an incomplete character at the end of the block
-    std::unique_ptr<Decoder> m_decoder; // null for UTF-8
+    std::vector<char> m_raw;               // read but not decoded yet
+    Block m_block;                         // what read() hands out
+    Block m_lastBlock;                     // the one before that was not empty
+    std::vector<BlockStart> m_blockStarts; // of all blocks so far
+    std::size_t m_handedOut = 0;           // bytes of the block
+    std::string m_rest;                    // an incomplete character at the end of the block
+    std::unique_ptr<Decoder> m_decoder;    // null for UTF-8
     std::int64_t m_sourceEnd = 0;
     std::int64_t m_blockSourceEnd = 0; // what the block came from
     std::int64_t m_line = 1;           // where the block ends

@@ -18,10 +18,6 @@ namespace
 
 const QString noMemoryForOutline = QStringLiteral("There is not enough memory to read it.");
 
-struct OutlineContextDeleter {
-    void operator()(xmlParserCtxt *context) const { xmlFreeParserCtxt(context); }
-};
-
 QByteArray bytesOf(const xmlChar *text)
 {
     return QByteArray(reinterpret_cast<const char *>(text));
@@ -196,7 +192,8 @@ private:
 Result<std::optional<XmlOutline>> XmlOutline::read(const QByteArray &xml, int levels)
 {
     XmlLibrary::prepare();
-    const std::unique_ptr<xmlParserCtxt, OutlineContextDeleter> context(xmlNewParserCtxt());
+    const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt *)> context(xmlNewParserCtxt(),
+                                                                            xmlFreeParserCtxt);
     if (!context)
         return Failure{noMemoryForOutline};
     OutlineBuilder builder(context.get(), xml, levels);
@@ -214,11 +211,11 @@ QString XmlOutline::rootAttribute(QStringView name) const
 
 qsizetype XmlOutline::childOf(qsizetype parent, QByteArrayView name) const
 {
-    for (const qsizetype child : childrenOf(parent)) {
-        if (elements[std::size_t(child)].name == name)
-            return child;
-    }
-    return -1;
+    const std::vector<qsizetype> children = childrenOf(parent);
+    const auto found = std::find_if(children.begin(), children.end(), [&](qsizetype child) {
+        return elements[std::size_t(child)].name == name;
+    });
+    return found == children.end() ? -1 : *found;
 }
 
 std::vector<qsizetype> XmlOutline::childrenOf(qsizetype parent) const

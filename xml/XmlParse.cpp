@@ -300,7 +300,7 @@ private:
         }
     }
 
-    /// Content that is lost, or out of its place, without an event that tells.
+    /// Content that is lost, or in another element, without an event that tells.
     void noteBrokenMarkup(const xmlError &problem)
     {
         const bool isUnended = problem.code == XML_ERR_COMMENT_NOT_FINISHED ||

@@ -158,7 +158,7 @@ QByteArray replaced(QByteArray xml, Wanted wanted, QByteArray (*replacement)(cha
 {
     if (ReferenceFinder({xml.constData(), std::size_t(xml.size())}, wanted).next().length == 0)
         return xml;
-    // Edited in place: the rest of the text moves towards its start.
+    // Edited where it is: the rest of the text moves towards its start.
     char *const bytes = xml.data();
     ReferenceFinder references({bytes, std::size_t(xml.size())}, wanted);
     Written found = references.next();

@@ -28,8 +28,6 @@ XmlTree::XmlTree(XmlDocument *owner)
     make(Kind::Document);
 }
 
-// Names
-
 std::size_t XmlTree::hashOf(std::string_view qualified)
 {
     return std::hash<std::string_view>()(qualified);
@@ -99,8 +97,6 @@ std::string_view XmlTree::prefix(XmlNameId id) const
     return std::string_view(known.qualified).substr(0, known.localAt ? known.localAt - 1 : 0);
 }
 
-// Texts
-
 /// Starts a new region with room for that many more bytes, and moves the open text to it.
 void XmlTree::makeRegion(std::size_t wanted)
 {
@@ -124,8 +120,6 @@ void XmlTree::makeRegion(std::size_t wanted)
     for (std::size_t i = 0; i < chunks; ++i)
         m_texts.push_back(m_region + i * textChunkSize);
 }
-
-// Structure
 
 void XmlTree::makeChunk()
 {
@@ -263,8 +257,6 @@ XmlNodeId XmlTree::following(XmlNodeId id, XmlNodeId top) const
     return 0;
 }
 
-// History
-
 /// Only with a recorder.
 void XmlTree::record(XmlNodeId node, XmlNodeId parent, XmlNodeId previous, bool isLinked)
 {
@@ -285,8 +277,6 @@ XmlChanges XmlTree::revert(const XmlChanges &changes)
     m_recorder = recorder;
     return reverse;
 }
-
-// Order
 
 void XmlTree::setInOrder(bool textToo)
 {
@@ -314,8 +304,6 @@ XmlNodeId XmlTree::endOfElementsIn(XmlNodeId id) const
     }
     return m_orderedEnd;
 }
-
-// Copies
 
 XmlNameId XmlTree::copyName(const XmlTree &from, XmlNameId id)
 {

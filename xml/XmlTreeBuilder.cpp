@@ -41,8 +41,6 @@ XmlTreeBuilder::XmlTreeBuilder(XmlTree &tree, bool keepsSpace)
 {
 }
 
-// Elements
-
 void XmlTreeBuilder::append(XmlNodeId child)
 {
     if (m_open.empty()) {
@@ -126,8 +124,6 @@ void XmlTreeBuilder::finish()
         endElement();
     m_tree.setInOrder(!m_hasLateBlanks);
 }
-
-// Text
 
 void XmlTreeBuilder::addText(std::string_view text)
 {
@@ -222,8 +218,6 @@ void XmlTreeBuilder::addBlanks()
     element.lastChild = m_tree.lastChild(element.node);
     m_blanks.resize(element.firstBlank);
 }
-
-// The rest
 
 void XmlTreeBuilder::addComment(std::string_view text)
 {
