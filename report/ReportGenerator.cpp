@@ -2,9 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerPresets.h"
-#include "report/ReportExport.h"
-#include "report/ReportHTML.h"
-#include "report/ReportTable.h"
+#include "report/ReportWriter.h"
 #include "support/files/FileUtilities.h"
 #include "support/settings/UserDefaults.h"
 
@@ -77,7 +75,7 @@ QString ReportGenerator::generateHTMLForPrinting(bool wholeDocument) const
     if (content.isEmpty())
         return text;
     QTextStream out(&text);
-    ReportHTML::write(content, wholeDocument, out);
+    ReportWriter::writeHTML(content, wholeDocument, out);
     out.flush();
     return text;
 }
@@ -85,23 +83,18 @@ QString ReportGenerator::generateHTMLForPrinting(bool wholeDocument) const
 Result<void> ReportGenerator::writeHTML(QIODevice &device, bool wholeDocument) const
 {
     return write(device, [wholeDocument](const ReportTable &content, QTextStream &out) {
-        ReportHTML::write(content, wholeDocument, out);
+        ReportWriter::writeHTML(content, wholeDocument, out);
     });
 }
 
 Result<void> ReportGenerator::writeCSV(QIODevice &device) const
 {
-    return write(device, ReportExport::writeCSV);
+    return write(device, ReportWriter::writeCSV);
 }
 
 Result<void> ReportGenerator::writePage(QIODevice &device) const
 {
-    return write(device, ReportExport::writePage);
-}
-
-void ReportGenerator::setBodyConsumer(std::function<void(const QString &)> consumer)
-{
-    m_bodyConsumer = std::move(consumer);
+    return write(device, ReportWriter::writePage);
 }
 
 ReportTable ReportGenerator::table() const

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "document/DocumentInterface.h"
-#include "report/PrintColumn.h"
+#include "report/ReportTable.h"
 #include "support/files/Result.h"
 
 #include <QObject>
 #include <QString>
 
 #include <functional>
-#include <optional>
 
 class QIODevice;
 class QTextStream;
@@ -18,7 +16,6 @@ namespace vantrell
 
 class MarkerPresets;
 class MyDocument;
-class ReportTable;
 class UserDefaults;
 
 /// Generates the report of a document: a title and the chosen columns of one table, for its selected rows or
@@ -50,23 +47,24 @@ public:
     /// consumer. An invalid index is ignored.
     void setColumnSelected(std::size_t index, bool selected);
 
-    /// The whole report as HTML; null when the printed table has no rows.
-    QString generateHTMLForPrinting() const { return generateHTMLForPrinting(true); }
-    /// The same, or only the content of its body if the flag is false.
-    QString generateHTMLForPrinting(bool wholeDocument) const;
+    /// The whole report as HTML, or only the content of its body; null when the printed table has no rows.
+    QString generateHTMLForPrinting(bool wholeDocument = true) const;
 
     // These write the report in UTF-8 to an open device, in one pass. They fail without rows and on write
     // errors.
 
     /// The result of generateHTMLForPrinting().
     Result<void> writeHTML(QIODevice &device, bool wholeDocument) const;
-    /// See ReportExport.
+    /// See ReportWriter.
     Result<void> writeCSV(QIODevice &device) const;
     Result<void> writePage(QIODevice &device) const;
 
     /// Sets the function that gets the body of the report after each change of the selected columns or of the
-    /// two user defaults, unless there are no rows; may be null. See ReportHTML::bodyScript().
-    void setBodyConsumer(std::function<void(const QString &body)> consumer);
+    /// two user defaults, unless there are no rows; may be null. See ReportWriter::bodyScript().
+    void setBodyConsumer(std::function<void(const QString &body)> consumer)
+    {
+        m_bodyConsumer = std::move(consumer);
+    }
 
 private:
     ReportTable table() const;

@@ -5,6 +5,10 @@
 #include "rows/RecordText.h"
 #include "support/text/TextNumbers.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace vantrell
@@ -49,22 +53,9 @@ ReportTable::ReportTable(MyDocument &document, std::optional<Tab> table, const P
 
 QString ReportTable::heading() const
 {
-    if (!m_table)
-        return QString();
-    switch (*m_table) {
-    case Tab::Media:
-        return QStringLiteral("Media");
-    case Tab::Effects:
-        return QStringLiteral("Effects");
-    case Tab::Markers:
-        return QStringLiteral("Markers");
-    }
-    return QString();
-}
-
-bool ReportTable::isEmpty() const
-{
-    return m_hasSelection ? m_selection.empty() : m_rows.empty();
+    static const QStringList names{QStringLiteral("Media"), QStringLiteral("Effects"),
+                                   QStringLiteral("Markers")};
+    return m_table ? names.at(int(*m_table)) : QString();
 }
 
 void ReportTable::forEachRow(const std::function<void(const RowRecord &)> &use) const
@@ -115,9 +106,28 @@ ReportCell ReportTable::cell(const RowRecord &row, std::size_t index) const
     return cell;
 }
 
-std::optional<std::size_t> ReportTable::imageIfThere(std::size_t image) const
+ReportImages::ReportImages(const QString &folder)
 {
-    return m_images.path(image).isEmpty() ? std::nullopt : std::optional(image);
+    if (folder.isEmpty())
+        return;
+    for (std::size_t i = 0; i < count; ++i) {
+        const QString path = QStringLiteral("%1/%2.png").arg(folder, name(i));
+        if (QFileInfo::exists(path))
+            m_paths[i] = path;
+    }
+}
+
+QString ReportImages::standardFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/vantrell/report-images"));
+}
+
+QString ReportImages::name(std::size_t image)
+{
+    if (image < MarkerColors::count)
+        return MarkerColors::table()[image].icon();
+    return image == clip ? QStringLiteral("clip") : QStringLiteral("sequence");
 }
 
 } // namespace vantrell

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
-#include "report/PrintColumn.h"
-#include "report/ReportImages.h"
-#include "rows/RowRecord.h"
+#include "markers/MarkerColors.h"
+#include "rows/Column.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,6 +16,40 @@ namespace vantrell
 {
 
 class MyDocument;
+
+/// The pictures that a report shows beside names: PNG files of the program for each marker colour, followed
+/// by a clip and a sequence. Any thread.
+class ReportImages
+{
+public:
+    static constexpr std::size_t clip = MarkerColors::count; // after the colours
+    static constexpr std::size_t sequence = clip + 1;
+    static constexpr std::size_t count = sequence + 1;
+
+    /// Checks once which of the files exist in the folder; none for an empty path.
+    explicit ReportImages(const QString &folder);
+
+    /// The folder of the program's own pictures: ../share/vantrell/report-images relative to the folder of
+    /// the running program, in a build as well as installed.
+    static QString standardFolder();
+
+    /// The file's name without ".png".
+    static QString name(std::size_t image);
+    /// Empty without such a file.
+    const QString &path(std::size_t image) const { return m_paths[image]; }
+
+private:
+    std::array<QString, count> m_paths;
+};
+
+/// A column of the printed table in the column chooser.
+struct PrintColumn {
+    QString title;      ///< the column's header title
+    QString id;         ///< the key of the record values that it shows
+    int selected = 0;   ///< 1 if the report includes it, else 0
+    Column tableColumn; ///< the column itself
+};
+using PrintColumns = std::vector<PrintColumn>;
 
 /// The content of one cell of a report, without markup.
 struct ReportCell {
@@ -49,7 +82,7 @@ public:
     const QStringList &columnTitles() const { return m_columnTitles; }
     const ReportImages &images() const { return m_images; }
 
-    bool isEmpty() const;
+    bool isEmpty() const { return m_hasSelection ? m_selection.empty() : m_rows.empty(); }
     /// Calls the function for each row of the report, in table order.
     void forEachRow(const std::function<void(const RowRecord &)> &use) const;
 
@@ -58,7 +91,10 @@ public:
 
 private:
     static ReportCell valueCell(const RowRecord &row, const Column &column);
-    std::optional<std::size_t> imageIfThere(std::size_t image) const;
+    std::optional<std::size_t> imageIfThere(std::size_t image) const
+    {
+        return m_images.path(image).isEmpty() ? std::nullopt : std::optional(image);
+    }
 
     std::optional<Tab> m_table;
     Options m_options;

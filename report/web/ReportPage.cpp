@@ -1,7 +1,6 @@
 #include "report/web/ReportPage.h"
 
-#include "report/web/RequestFilter.h"
-
+#include <QDir>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QVariant>
@@ -140,30 +139,33 @@ void ReportPage::run(const QString &script, const std::function<void(const QVari
         script, ownWorld, use ? use : [](const QVariant &) {});
 }
 
-void ReportPage::makePdf(const QPageLayout &layout, const std::function<void(const QByteArray &)> &use)
-{
-    printToPdf(use, layout);
-}
-
 bool ReportPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame)
 {
     return m_mayNavigate && isMainFrame && url == m_document;
 }
 
-QWebEnginePage *ReportPage::createWindow(WebWindowType)
+RequestFilter::RequestFilter(const QString &imageFolder, QObject *parent)
+    : QWebEngineUrlRequestInterceptor(parent)
+    , m_imageFolder(QDir::cleanPath(imageFolder))
 {
-    return nullptr;
 }
 
-QStringList ReportPage::chooseFiles(FileSelectionMode, const QStringList &, const QStringList &)
+bool RequestFilter::isOwnImage(const QUrl &url) const
 {
-    return {};
+    const QString path = url.path(QUrl::FullyDecoded);
+    const qsizetype name = path.lastIndexOf(u'/') + 1;
+    return url.isLocalFile() && url.host().isEmpty() && path.endsWith(QStringLiteral(".png")) &&
+           path.left(name - 1) == m_imageFolder;
 }
 
-void ReportPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int,
-                                          const QString &)
+void RequestFilter::interceptRequest(QWebEngineUrlRequestInfo &request)
 {
-    // Messages about blocked content do not concern the user.
+    const bool isAllowed = request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame
+                               ? request.requestUrl() == m_document
+                               : request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeImage &&
+                                     isOwnImage(request.requestUrl());
+    if (!isAllowed || request.requestMethod() != QByteArrayLiteral("GET"))
+        request.block(true);
 }
 
 } // namespace vantrell

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QUrl>
 #include <QWebEnginePage>
+#include <QWebEngineUrlRequestInterceptor>
 
 #include <functional>
 
@@ -36,14 +37,23 @@ public:
     void run(const QString &script, const std::function<void(const QVariant &)> &use = {});
 
     /// Passes on a PDF of the page; empty if that failed.
-    void makePdf(const QPageLayout &layout, const std::function<void(const QByteArray &)> &use);
+    void makePdf(const QPageLayout &layout, const std::function<void(const QByteArray &)> &use)
+    {
+        printToPdf(use, layout);
+    }
 
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
-    QWebEnginePage *createWindow(WebWindowType type) override;
-    QStringList chooseFiles(FileSelectionMode mode, const QStringList &, const QStringList &) override;
+    QWebEnginePage *createWindow(WebWindowType) override { return nullptr; }
+    QStringList chooseFiles(FileSelectionMode, const QStringList &, const QStringList &) override
+    {
+        return {};
+    }
+    /// Messages about blocked content do not concern the user.
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int,
-                                  const QString &) override;
+                                  const QString &) override
+    {
+    }
 
 private:
     ReportPage(QWebEngineProfile *profile, const QString &imageFolder, QObject *parent);
@@ -51,6 +61,27 @@ private:
     RequestFilter *m_filter;
     QUrl m_document;
     bool m_mayNavigate = false;
+};
+
+/// Allows a page to load its own document, as its main frame only, and the pictures of one folder; blocks all
+/// other files and the network. Main thread.
+class RequestFilter final : public QWebEngineUrlRequestInterceptor
+{
+    Q_OBJECT
+
+public:
+    /// Allows the PNG files directly in the folder, an absolute path.
+    explicit RequestFilter(const QString &imageFolder, QObject *parent = nullptr);
+
+    /// Sets the document that may be loaded.
+    void setDocument(const QUrl &document) { m_document = document; }
+
+    bool isOwnImage(const QUrl &url) const;
+    void interceptRequest(QWebEngineUrlRequestInfo &request) override;
+
+private:
+    QString m_imageFolder;
+    QUrl m_document;
 };
 
 } // namespace vantrell

@@ -13,14 +13,9 @@
 namespace vantrell
 {
 
-namespace
-{
-
 constexpr double cssPixelsPerMillimetre = 96 / 25.4;
 constexpr double smallestZoom = 0.25; // of the engine
 constexpr double largestZoom = 5;
-
-} // namespace
 
 ReportView::ReportView(const QString &imageFolder)
     : m_imageFolder(imageFolder)

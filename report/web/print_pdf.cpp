@@ -16,7 +16,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 #include <sys/prctl.h>
 #include <utility>
@@ -158,20 +157,14 @@ private:
     bool m_hasLoaded = false;
 };
 
-bool isOneOf(const char *argument, std::initializer_list<const char *> options)
-{
-    return std::any_of(options.begin(), options.end(),
-                       [argument](const char *option) { return std::strcmp(argument, option) == 0; });
-}
-
 /// Handles the options that need no web engine; false for any other.
-bool answerOption(const char *option)
+bool answerOption(QByteArrayView option)
 {
-    if (std::strcmp(option, "--version") == 0) {
+    if (option == "--version") {
         std::puts("vantrell-print-pdf " VANTRELL_VERSION);
         return true;
     }
-    if (isOneOf(option, {"--help", "-h"})) {
+    if (option == "--help" || option == "-h") {
         std::puts(
             "Usage: vantrell-print-pdf --html FILE --images FOLDER -o OUTPUT [OPTION...]\n\n"
             "Makes a PDF of a report, as vantrell-cli report and vantrell have it do. Nothing is read but\n"

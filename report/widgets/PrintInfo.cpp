@@ -66,11 +66,6 @@ QVariantMap PrintInfo::settings() const
     return settings;
 }
 
-PrintHelper::Pages PrintInfo::pages() const
-{
-    return {paper(), layout.orientation() == QPageLayout::Landscape, margin(), headerAndFooter};
-}
-
 QStringList PrintInfo::papers()
 {
     return {QStringLiteral("A4"),     QStringLiteral("A3"),    QStringLiteral("A5"),
@@ -88,11 +83,6 @@ void PrintInfo::setMargin(double millimetres)
     const double margin = std::clamp(millimetres, narrowestMargin, widestMargin);
     layout.setUnits(QPageLayout::Millimeter);
     layout.setMargins(QMarginsF(margin, margin, margin, margin));
-}
-
-double PrintInfo::margin() const
-{
-    return layout.margins(QPageLayout::Millimeter).left();
 }
 
 } // namespace vantrell

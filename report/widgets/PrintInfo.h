@@ -31,7 +31,10 @@ struct PrintInfo {
     QVariantMap settings() const;
 
     /// The page setup for the program that makes PDF files.
-    PrintHelper::Pages pages() const;
+    PrintHelper::Pages pages() const
+    {
+        return {paper(), layout.orientation() == QPageLayout::Landscape, margin(), headerAndFooter};
+    }
 
     /// The names of the available paper sizes, as used by the printing system.
     static QStringList papers();
@@ -39,7 +42,8 @@ struct PrintInfo {
     /// Any other name is ignored.
     void setPaper(const QString &paper);
 
-    double margin() const; ///< millimetres
+    /// Millimetres.
+    double margin() const { return layout.margins(QPageLayout::Millimeter).left(); }
     /// Limited to the range below.
     void setMargin(double millimetres);
 

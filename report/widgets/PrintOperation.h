@@ -3,11 +3,17 @@
 #include "report/widgets/PrintInfo.h"
 #include "support/files/Result.h"
 
+#include <QDialog>
 #include <QObject>
+#include <QPointer>
 
 #include <atomic>
 #include <functional>
 #include <memory>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
 
 namespace vantrell
 {
@@ -28,7 +34,7 @@ public:
 
     /// The view outlives the operation.
     PrintOperation(WebView &webView, PdfMaker makePdf, const PrintInfo &info, QObject *parent);
-    ~PrintOperation() override;
+    ~PrintOperation() override { cancel(); }
 
     const PrintInfo &printInfo() const { return m_info; }
     void setPrintInfo(const PrintInfo &info) { m_info = info; }
@@ -57,6 +63,28 @@ private:
     PrintInfo m_info;
     State m_state = State::New;
     std::shared_ptr<std::atomic<bool>> m_isCancelled;
+};
+
+class PrintOperation;
+
+/// The sheet that shows the progress of a print operation, or why it failed. Deletes itself when closed,
+/// which cancels a running operation. Main thread.
+class PrintProgress final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    PrintProgress(PrintOperation *operation, QWidget *window);
+
+    void reject() override;
+
+private:
+    void printed(const Result<void> &result);
+
+    QPointer<PrintOperation> m_operation;
+    QLabel *m_text;
+    QProgressBar *m_bar;
+    QPushButton *m_cancel;
 };
 
 } // namespace vantrell

@@ -2,7 +2,6 @@
 
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/QVPrint.h"
-#include "report/widgets/QVPrintViewController.h"
 #include "support/widgets/FilePanel.h"
 
 #include <QComboBox>
@@ -24,12 +23,7 @@
 namespace vantrell
 {
 
-namespace
-{
-
 constexpr int settingsWidth = 300;
-
-} // namespace
 
 PrintPanel::PrintPanel(QVPrint &print, const QStringList &printers, QWidget *window)
     : QDialog(window)

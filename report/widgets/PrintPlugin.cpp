@@ -10,12 +10,7 @@
 namespace vantrell::PrintPlugin
 {
 
-namespace
-{
-
-WebViewPlugin *s_replacement = nullptr; // main thread only
-
-} // namespace
+static WebViewPlugin *s_replacement = nullptr; // main thread only
 
 QString find()
 {

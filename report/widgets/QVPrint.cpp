@@ -1,12 +1,13 @@
 #include "report/widgets/QVPrint.h"
 
 #include "report/PrintHelper.h"
-#include "report/ReportHTML.h"
+#include "report/ReportWriter.h"
+#include "report/widgets/PrintOperation.h"
 #include "report/widgets/PrintPlugin.h"
-#include "report/widgets/PrintProgress.h"
 #include "report/widgets/WebView.h"
 #include "support/widgets/NestedEvents.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QIODevice>
 #include <QTimer>
@@ -14,6 +15,7 @@
 #include <QWidget>
 
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace vantrell
@@ -80,15 +82,7 @@ QVPrint::QVPrint(std::unique_ptr<WebView> webView, PrintOperation::PdfMaker make
     hidePrintView();
 }
 
-QVPrint::~QVPrint()
-{
-    m_webView.reset();
-}
-
-void QVPrint::setPrintViewController(QVPrintViewController *controller)
-{
-    m_printViewController = controller;
-}
+QVPrint::~QVPrint() = default;
 
 bool QVPrint::setHTMLString(const QString &html)
 {
@@ -130,7 +124,7 @@ void QVPrint::runNextBody()
     m_runsBody = !body.isNull();
     if (!m_runsBody)
         return;
-    m_webView->replaceBody(ReportHTML::bodyScript(body), [this, generation = m_generation] {
+    m_webView->replaceBody(ReportWriter::bodyScript(body), [this, generation = m_generation] {
         if (generation != m_generation)
             return;
         QTimer::singleShot(0, this, &QVPrint::pageChanged);
@@ -146,17 +140,10 @@ void QVPrint::pageChanged()
 
 QString QVPrint::htmlSource()
 {
-    struct Answer {
-        bool isThere = false;
-        QString text;
-    };
-    const auto answer = std::make_shared<Answer>();
-    m_webView->run(bodySourceScript, [answer](const QVariant &value) {
-        answer->isThere = true;
-        answer->text = value.toString();
-    });
-    waitUntil([&] { return answer->isThere; });
-    return answer->text;
+    const auto answer = std::make_shared<std::optional<QString>>();
+    m_webView->run(bodySourceScript, [answer](const QVariant &value) { *answer = value.toString(); });
+    waitUntil([&] { return answer->has_value(); });
+    return **answer;
 }
 
 QWidget *QVPrint::printView() const
@@ -216,6 +203,22 @@ void QVPrint::printHTMLString(const QString &html, const QString &jobTitle, QWid
                               const QVariantMap &settings)
 {
     startPrintOp(printOpFromHTMLString(html, jobTitle, settings, parentWindow), parentWindow);
+}
+
+QVPrintViewController *QVPrintViewController::printViewControllerWithView(QWidget *view, QObject *parent)
+{
+    auto *const controller = new QVPrintViewController(parent);
+    controller->m_view = view;
+    return controller;
+}
+
+void QVPrintViewController::updatePreview()
+{
+    m_dummyValue = !m_dummyValue;
+    const NestedEvents nested;
+    Q_EMIT dummyValueChanged();
+    // User input could delete objects that the caller is using.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 } // namespace vantrell

@@ -2,21 +2,57 @@
 
 #include "report/widgets/PrintInfo.h"
 #include "report/widgets/PrintOperation.h"
-#include "report/widgets/QVPrintViewController.h"
 #include "support/files/Result.h"
 
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QString>
+#include <QVariantMap>
+#include <QWidget>
 
 #include <memory>
-
-class QWidget;
 
 namespace vantrell
 {
 
 class WebView;
+
+/// The pane that a program adds to the print panel. It makes the panel redraw its preview by changing a
+/// property that the preview depends on. Main thread.
+class QVPrintViewController final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool dummyValue READ dummyValue NOTIFY dummyValueChanged)
+
+public:
+    /// A new controller that shows the view but does not own it.
+    static QVPrintViewController *printViewControllerWithView(QWidget *view, QObject *parent = nullptr);
+
+    QWidget *view() const { return m_view; }
+
+    /// The delegate; may be null.
+    QObject *delegate() const { return m_delegate; }
+    void setDelegate(QObject *delegate) { m_delegate = delegate; }
+
+    /// Makes the panel redraw its preview, then dispatches pending events.
+    void updatePreview();
+
+    bool dummyValue() const { return m_dummyValue; }
+    static QSet<QString> keyPathsForValuesAffectingPreview() { return {QStringLiteral("dummyValue")}; }
+    /// The summary of the pane's settings: one empty item.
+    static QList<QVariantMap> localizedSummaryItems() { return {QVariantMap()}; }
+
+Q_SIGNALS:
+    void dummyValueChanged();
+
+private:
+    using QObject::QObject;
+
+    QPointer<QWidget> m_view;
+    QPointer<QObject> m_delegate;
+    bool m_dummyValue = false;
+};
 
 /// Shows HTML in a web view and prints it. The view is in an off-screen window until a print panel uses it as
 /// its preview. All documents share one instance. Main thread.
@@ -36,7 +72,7 @@ public:
 
     /// The controller whose preview is updated with the page; may be null.
     QVPrintViewController *printViewController() const { return m_printViewController; }
-    void setPrintViewController(QVPrintViewController *controller);
+    void setPrintViewController(QVPrintViewController *controller) { m_printViewController = controller; }
 
     /// Loads the document, unless it is null, and dispatches events until that has succeeded or failed. False
     /// when another call has replaced it meanwhile, or cancelLoading() was called.

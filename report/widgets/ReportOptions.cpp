@@ -14,17 +14,12 @@
 namespace vantrell
 {
 
-namespace
-{
-
 const QString projectTitleKey = QStringLiteral("projectTitle");
 const QString printColorLabelsKey = QStringLiteral("printColorLabels");
 
 // If generating the report takes longer than slowMs, it follows typing in the title after slowDelayMs.
 constexpr int slowMs = 30;
 constexpr int slowDelayMs = 400;
-
-} // namespace
 
 ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, const QString &fileTitle,
                              QWidget *parent)

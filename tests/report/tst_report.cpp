@@ -6,7 +6,7 @@
 #include "media/MediaColumns.h"
 #include "media/MediaKeys.h"
 #include "report/ReportGenerator.h"
-#include "report/ReportHTML.h"
+#include "report/ReportWriter.h"
 #include "support/settings/UserDefaults.h"
 #include "tests/support/ScriptedDocumentInterface.h"
 #include "tests/support/TemporaryHome.h"
@@ -319,7 +319,7 @@ private Q_SLOTS:
             {u"100 %@ %1 \"q\"", u"document.body.innerHTML = '100 %@ %1 \"q\"';"},
         };
         for (const auto &row : rows)
-            QCOMPARE(ReportHTML::bodyScript(QString::fromUtf16(row.body)), QString::fromUtf16(row.script));
+            QCOMPARE(ReportWriter::bodyScript(QString::fromUtf16(row.body)), QString::fromUtf16(row.script));
     }
 
     void csv()

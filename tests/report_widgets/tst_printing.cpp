@@ -6,7 +6,6 @@
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/PrintPanel.h"
 #include "report/widgets/QVPrint.h"
-#include "report/widgets/QVPrintViewController.h"
 #include "report/widgets/ReportOptions.h"
 #include "support/files/FileUtilities.h"
 #include "support/settings/UserDefaults.h"

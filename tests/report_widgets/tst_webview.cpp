@@ -1,7 +1,6 @@
-#include "report/ReportImages.h"
+#include "report/ReportTable.h"
 #include "report/widgets/PrintOperation.h"
 #include "report/widgets/QVPrint.h"
-#include "report/widgets/QVPrintViewController.h"
 #include "support/threads/BackgroundWork.h"
 #include "tests/support/TemporaryHome.h"
 
