@@ -9,6 +9,7 @@
 #include "xml/XmlQuery.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 
 namespace vantrell
@@ -24,11 +25,8 @@ RowList without(const RowList &rows, const RowList &removed)
 {
     const std::unordered_set<RowRecordPtr> gone(removed.begin(), removed.end());
     RowList kept;
-    kept.reserve(rows.size());
-    for (const RowRecordPtr &row : rows) {
-        if (!gone.contains(row))
-            kept.push_back(row);
-    }
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(kept),
+                 [&](const RowRecordPtr &row) { return !gone.contains(row); });
     return kept;
 }
 
@@ -57,11 +55,6 @@ EffectEditor::EffectEditor(MyDocument &document, EffectInventory &inventory)
                                        m_inventory.updateEffectStatusText();
                                },
                                [this] { m_inventory.populateEffectData(); }});
-}
-
-EffectEditor::~EffectEditor()
-{
-    m_document.setRowFollower(Tab::Effects, {});
 }
 
 void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value)

@@ -21,7 +21,7 @@ class EffectEditor
 public:
     /// The inventory is that of the same document.
     EffectEditor(MyDocument &document, EffectInventory &inventory);
-    ~EffectEditor();
+    ~EffectEditor() { m_document.setRowFollower(Tab::Effects, {}); }
     EffectEditor(const EffectEditor &) = delete;
     EffectEditor &operator=(const EffectEditor &) = delete;
 

@@ -2,12 +2,15 @@
 
 #include "effects/EffectColumns.h"
 #include "effects/EffectKeys.h"
-#include "effects/EffectReader.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
+#include "xml/QVXMLParser.h"
+#include "xml/XmlQuery.h"
 
 #include <QSet>
 #include <QStringMatcher>
+
+#include <algorithm>
 
 namespace vantrell
 {
@@ -15,24 +18,22 @@ namespace vantrell
 namespace
 {
 
+/// Whether the item of the type menu with that index includes the effect.
 bool passesType(const RowRecord &record, int type)
 {
-    const auto is = [&record](TypedKey<QString> key, const QString &value) {
-        return record.get(key) == value;
-    };
+    const QString effectType = record.get(EffectKey::effectType);
+    const QString mediaType = record.get(EffectKey::mediaType);
     switch (type) {
     case 1:
-        return is(EffectKey::effectType, EffectType::filter);
+        return effectType == EffectType::filter;
     case 2:
-        return is(EffectKey::effectType, EffectType::filter) &&
-               is(EffectKey::mediaType, QStringLiteral("Video"));
+        return effectType == EffectType::filter && mediaType == QStringLiteral("Video");
     case 3:
-        return is(EffectKey::effectType, EffectType::filter) &&
-               is(EffectKey::mediaType, QStringLiteral("Audio"));
+        return effectType == EffectType::filter && mediaType == QStringLiteral("Audio");
     case 4:
-        return is(EffectKey::effectType, EffectType::generator);
+        return effectType == EffectType::generator;
     case 5:
-        return is(EffectKey::effectType, EffectType::transition);
+        return effectType == EffectType::transition;
     default:
         return true;
     }
@@ -62,6 +63,20 @@ std::function<bool(const RowRecord &)> chosen(const ViewState &state)
             // An effect without a name passes every search.
             return search.pattern().isEmpty() || name.isNull() || search.indexIn(name) >= 0;
         };
+}
+
+/// Each word's first letter as a capital, the rest small. Words are parted by white space alone:
+/// hyphens and apostrophes belong to them.
+QString capitalized(const QString &text)
+{
+    QString result = text.toLower();
+    bool startsWord = true;
+    for (QChar &c : result) {
+        if (startsWord)
+            c = c.toTitleCase();
+        startsWord = c.isSpace();
+    }
+    return result;
 }
 
 } // namespace
@@ -111,16 +126,6 @@ void EffectInventory::populateFilteredEffectData()
     QVLog::appendLog(u"Finished filtering effects");
 }
 
-void EffectInventory::changeEffectFilter()
-{
-    populateFilteredEffectData();
-}
-
-void EffectInventory::effectSearchAction()
-{
-    populateFilteredEffectData();
-}
-
 void EffectInventory::updateEffectStatusText()
 {
     const std::size_t count = m_document.rowsOnShow(Tab::Effects).size();
@@ -129,6 +134,112 @@ void EffectInventory::updateEffectStatusText()
     if (selected > 0)
         text += formatText(u" (%i selected)", selected);
     m_document.setLabel(Label::EffectStatus, text);
+}
+
+XmlNodeList EffectReader::effectElements(XmlNode document, std::int64_t xmlType)
+{
+    static const XmlQuery single(
+        QStringLiteral("./xmeml[1]/sequence[1]/media[1]/*/track/(clipitem | generatoritem)/filter | "
+                       "./xmeml[1]/sequence[1]/media[1]/*/track/generatoritem"));
+    static const XmlQuery project(
+        QStringLiteral("./xmeml[1]/project[1]/children[1]//(clipitem | generatoritem)/filter | "
+                       "./xmeml[1]/project[1]/children[1]//generatoritem"));
+    XmlNodeList elements = (xmlType == 1 ? single : project).evaluate(document).nodes;
+    std::stable_partition(elements.begin(), elements.end(),
+                          [](XmlNode element) { return element.isElement("filter"); });
+    return elements;
+}
+
+RowRecordPtr EffectReader::recordOf(XmlNode element)
+{
+    static const XmlQuery effectChild(QStringLiteral("./effect[1]"));
+    static const XmlQuery mediaTypeText(QStringLiteral("./mediatype[1]/text()"));
+    static const XmlQuery enabledText(QStringLiteral("./enabled[1]/text()"));
+    const auto record = std::make_shared<RowRecord>();
+    const bool isOff =
+        enabledText.firstText(element).value_or(QString()).toUpper() == QStringLiteral("FALSE");
+    record->set(EffectKey::enabled, isOff ? 0 : 1);
+    record->set(EffectKey::effectType,
+                element.isElement("generatoritem") ? EffectType::generator : EffectType::filter);
+    record->set(EffectKey::effectElement, element);
+    if (const XmlNode effect = effectChild.first(element)) {
+        record->setIfThere(EffectKey::name, shared(QVXMLParser::nameForNode(effect)));
+        if (const std::optional<QString> type = mediaTypeText.firstText(effect)) {
+            if (m_lastMediaType.isNull() || m_lastMediaType != *type) {
+                m_lastMediaType = *type;
+                m_shownMediaType = capitalized(*type);
+            }
+            record->set(EffectKey::mediaType, m_shownMediaType);
+        }
+    }
+    lookAround(element.parent());
+    if (m_sequence) {
+        record->setIfThere(EffectKey::sequence, m_sequence->name);
+        record->setIfThere(EffectKey::sequenceUUID, m_sequence->uuid);
+    }
+    if (m_clip) {
+        record->setIfThere(EffectKey::clip, m_clip->name);
+        record->setIfThere(EffectKey::clipUUID, m_clip->uuid);
+        record->setIfThere(EffectKey::clipID, m_clip->id);
+    }
+    return record;
+}
+
+/// Finds the owners of what the element holds.
+void EffectReader::lookAround(XmlNode parent)
+{
+    if (parent == m_parent)
+        return;
+    const Surroundings around = surroundingsAt(parent);
+    m_parent = parent;
+    m_sequence = ownerOf(around.sequence, m_lastSequence);
+    m_clip = ownerOf(around.clipItem ? around.clipItem : around.clip, m_lastClip);
+}
+
+EffectReader::Surroundings EffectReader::surroundingsAt(XmlNode element)
+{
+    XmlNodeList unknown; // upwards
+    for (XmlNode up = element.parent(); up && !m_surroundings.contains(up); up = up.parent())
+        unknown.push_back(up);
+    const XmlNode known = unknown.empty() ? element.parent() : unknown.back().parent();
+    Surroundings around = known ? m_surroundings[known] : Surroundings();
+    for (auto below = unknown.rbegin(); below != unknown.rend(); ++below) {
+        enter(*below, around);
+        m_surroundings.emplace(*below, around);
+    }
+    // Effects stand side by side, so that this one is not asked for again: it needs no entry in the table.
+    enter(element, around);
+    return around;
+}
+
+void EffectReader::enter(XmlNode element, Surroundings &around)
+{
+    if (element.isElement("sequence"))
+        around.sequence = element;
+    else if (element.isElement("clipitem"))
+        around.clipItem = element;
+    else if (element.isElement("clip"))
+        around.clip = element;
+}
+
+/// Null for a null element.
+const EffectReader::Owner *EffectReader::ownerOf(XmlNode element, LastOwner &last)
+{
+    static const XmlQuery id(QStringLiteral("./@id[1]"));
+    if (!element)
+        return nullptr;
+    if (last.element != element) {
+        last.element = element;
+        last.owner = {QVXMLParser::nameForNode(element), QVXMLParser::uuidForNode(element),
+                      id.firstText(element)};
+    }
+    return &last.owner;
+}
+
+/// The text in the one copy that all records hold.
+std::optional<QString> EffectReader::shared(const std::optional<QString> &text)
+{
+    return text ? std::optional<QString>(*m_texts.insert(*text)) : std::nullopt;
 }
 
 } // namespace vantrell

@@ -1,6 +1,16 @@
 #pragma once
 
 #include "document/MyDocument.h"
+#include "rows/RowRecord.h"
+#include "xml/XmlNode.h"
+
+#include <QSet>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
 
 namespace vantrell
 {
@@ -22,8 +32,8 @@ public:
     void populateFilteredEffectData();
 
     /// The actions of the type menu (and of the show-defaults box) and of the search field.
-    void changeEffectFilter();
-    void effectSearchAction();
+    void changeEffectFilter() { populateFilteredEffectData(); }
+    void effectSearchAction() { populateFilteredEffectData(); }
 
     /// Sets the text under the effects table: how many rows are on show and how many are selected.
     void updateEffectStatusText();
@@ -32,6 +42,56 @@ private:
     void build();
 
     MyDocument &m_document;
+};
+
+/// Makes effect records (EffectKey) of the elements of one tree that nobody edits meanwhile. What an
+/// owner has in common for all its effects is looked up and stored once, and so are the effects' names. One
+/// thread.
+class EffectReader
+{
+public:
+    /// The effect elements of a project (\a xmlType 0) or a single sequence (1): all filters in document
+    /// order, then all generators in document order. \a document is the document node.
+    static XmlNodeList effectElements(XmlNode document, std::int64_t xmlType);
+
+    RowRecordPtr recordOf(XmlNode element);
+
+private:
+    /// Name, UUID and id of a sequence or clip.
+    struct Owner {
+        std::optional<QString> name;
+        std::optional<QString> uuid;
+        std::optional<QString> id;
+    };
+
+    /// The nearest elements of those names at or above one element; null where there is none.
+    struct Surroundings {
+        XmlNode sequence;
+        XmlNode clipItem;
+        XmlNode clip;
+    };
+
+    struct LastOwner {
+        XmlNode element;
+        Owner owner;
+    };
+
+    void lookAround(XmlNode parent);
+    Surroundings surroundingsAt(XmlNode element);
+    static void enter(XmlNode element, Surroundings &around);
+    const Owner *ownerOf(XmlNode element, LastOwner &last);
+    std::optional<QString> shared(const std::optional<QString> &text);
+
+    std::unordered_map<XmlNode, Surroundings> m_surroundings; // by the element that they are seen from
+    LastOwner m_lastSequence;
+    LastOwner m_lastClip;
+
+    XmlNode m_parent; // of the effect that was read last: most have several
+    const Owner *m_sequence = nullptr;
+    const Owner *m_clip = nullptr;
+    QString m_lastMediaType;  // as it is in the tree
+    QString m_shownMediaType; // the same as it is shown
+    QSet<QString> m_texts;
 };
 
 } // namespace vantrell

@@ -1,7 +1,8 @@
 #include "effects/widgets/EffectsPane.h"
 
-#include "effects/widgets/EffectTableModel.h"
+#include "effects/EffectKeys.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
 #include <QCheckBox>
@@ -18,12 +19,7 @@
 namespace vantrell
 {
 
-namespace
-{
-
 constexpr int searchDelay = 120; // milliseconds after the last key
-
-} // namespace
 
 EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new EffectTableModel(workbench.document()), parent)
@@ -108,15 +104,13 @@ void EffectsPane::focusSearch()
 
 void EffectsPane::commitEdit(int row, const QString &column, const QString &text)
 {
-    const RowRecordPtr effect = model().recordAt(row);
-    workbench().effectEditor().updateXMLEffect(effect, column, text);
+    workbench().effectEditor().updateXMLEffect(model().recordAt(row), column, text);
 }
 
 void EffectsPane::setEditingEnabled(bool enabled)
 {
     TabPane::setEditingEnabled(enabled);
-    for (QAction *action : table().menu()->actions().mid(0, 1))
-        action->setEnabled(enabled);
+    table().menu()->actions().first()->setEnabled(enabled);
 }
 
 void EffectsPane::updateControls()
@@ -130,16 +124,22 @@ QString EffectsPane::loadingText(std::size_t found) const
                       : tr("Looking for effects: %1 so far…").arg(QLocale().toString(qulonglong(found)));
 }
 
-QString EffectsPane::emptyText() const
-{
-    return tr("This project has no effects.");
-}
-
 QString EffectsPane::filteredText() const
 {
     return m_search->text().isEmpty()
                ? tr("No effect is of this type.")
                : tr("No effect of this type has a name with “%1”.").arg(m_search->text());
+}
+
+EffectTableModel::EffectTableModel(MyDocument &document, QObject *parent)
+    : TableModel(document, Tab::Effects, parent)
+{
+}
+
+QIcon EffectTableModel::icon(const RowRecord &record, const Column &column) const
+{
+    const bool isOwner = column.key == EffectKey::clip || column.key == EffectKey::sequence;
+    return isOwner && record.contains(column.key) ? TableIcons::named(column.identifier) : QIcon();
 }
 
 } // namespace vantrell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
 
 class QCheckBox;
 class QComboBox;
@@ -28,7 +29,7 @@ protected:
     void commitEdit(int row, const QString &column, const QString &text) override;
     void updateControls() override;
     QString loadingText(std::size_t found) const override;
-    QString emptyText() const override;
+    QString emptyText() const override { return tr("This project has no effects."); }
     QString filteredText() const override;
 
 private:
@@ -38,6 +39,18 @@ private:
     QCheckBox *m_showDefaults;
     QLineEdit *m_search;
     QPushButton *m_remove;
+};
+
+/// The table of the effects.
+class EffectTableModel : public TableModel
+{
+    Q_OBJECT
+
+public:
+    explicit EffectTableModel(MyDocument &document, QObject *parent = nullptr);
+
+protected:
+    QIcon icon(const RowRecord &record, const Column &column) const override;
 };
 
 } // namespace vantrell

@@ -1,4 +1,4 @@
-#include "effects/EffectReader.h"
+#include "effects/EffectInventory.h"
 #include "media/MediaInventory.h"
 #include "support/log/QVLog.h"
 #include "tests/effects/EffectProject.h"
