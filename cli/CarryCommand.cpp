@@ -1,9 +1,8 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/JsonText.h"
-#include "cli/ProjectOutput.h"
+#include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/SequenceChoice.h"
 #include "cli/TextTable.h"
 #include "compare/MarkerCarrier.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
@@ -21,17 +20,14 @@ namespace vantrell::cli
 namespace
 {
 
-struct CarryOptions {
-    std::string before;
-    std::string after;
-    std::vector<std::string> sequences;
+struct CarryOptions : CutOptions {
     std::optional<std::string> output;
     bool preview = false;
     bool json = false;
     bool yes = false;
 };
 
-bool hasPlace(const CarriedMarker &marker)
+bool isCarried(const CarriedMarker &marker)
 {
     return marker.place.state != MarkerPlace::State::Gone;
 }
@@ -41,7 +37,7 @@ QByteArray carriedAsJson(const std::vector<CarriedMarker> &markers)
     Json list = Json::array();
     for (const CarriedMarker &marker : markers) {
         Json json = {{"name", jsonText(marker.name)}, {"old", marker.place.oldFrame}};
-        if (hasPlace(marker))
+        if (isCarried(marker))
             json["new"] = marker.place.newFrame;
         json["state"] = jsonText(marker.stateName());
         if (!marker.place.file.isEmpty())
@@ -58,10 +54,10 @@ QByteArray carriedAsTable(const std::vector<CarriedMarker> &markers)
     TextTable table({QStringLiteral("State"), QStringLiteral("Name"), QStringLiteral("Old"),
                      QStringLiteral("New"), QStringLiteral("File"), QStringLiteral("Source frame")});
     for (const CarriedMarker &marker : markers) {
-        const MarkerPlace &place = marker.place;
-        table.addRow({marker.stateName(), marker.name, QString::number(place.oldFrame),
-                      hasPlace(marker) ? QString::number(place.newFrame) : QString(), place.file,
-                      place.sourceFrame ? QString::number(*place.sourceFrame) : QString()});
+        const MarkerPlace &target = marker.place;
+        table.addRow({marker.stateName(), marker.name, QString::number(target.oldFrame),
+                      isCarried(marker) ? QString::number(target.newFrame) : QString(), target.file,
+                      target.sourceFrame ? QString::number(*target.sourceFrame) : QString()});
     }
     return table.toBytes();
 }
@@ -76,26 +72,18 @@ int carry(const CarryOptions &options)
         QVAlert::setPresenter(std::make_shared<HeadlessAlertPresenter>(true));
     ProjectSession before(Workbench::Inventories::None);
     ProjectSession after(options.preview ? Workbench::Inventories::None : Workbench::Inventories::Markers);
-    if (!before.open(fromArgument(options.before)) || !after.open(fromArgument(options.after)))
+    const std::optional<CutPair> cuts = openCuts(options, before, after);
+    if (!cuts)
         return Failed;
-    const auto pair = chooseSequences(options.sequences, before.document(), after.document());
-    if (!pair)
-        return Failed;
-    const auto eventsOf = [](const MyDocument &document, std::int64_t item) {
-        return SequenceEvents::read((*document.sequenceMenu())[std::size_t(item)].element);
-    };
-    const SequenceEvents oldCut = eventsOf(before.document(), pair->before);
-    const SequenceEvents newCut = eventsOf(after.document(), pair->after);
-    std::vector<CarriedMarker> markers = MarkerCarrier::plan(oldCut, newCut);
-    const bool ownsOutput = options.output == "-";
+    std::vector<CarriedMarker> markers = MarkerCarrier::plan(cuts->before, cuts->after);
     if (!options.preview) {
-        const std::size_t added = MarkerCarrier::carry(markers, newCut, after.document(),
-                                                       after.workbench().markerEditor(), pair->after);
+        const std::size_t added = MarkerCarrier::carry(markers, cuts->after, after.document(),
+                                                       after.workbench().markerEditor(), cuts->afterItem);
         if (!writeProject(after.document(), fromArgument(*options.output)))
             return Failed;
         complain(QStringLiteral("%1 of %2 markers added").arg(added).arg(markers.size()));
     }
-    const bool isPrinted = !ownsOutput && (options.preview || options.json);
+    const bool isPrinted = options.output != "-" && (options.preview || options.json);
     if (isPrinted && !print(options.json ? carriedAsJson(markers) : carriedAsTable(markers)))
         return Failed;
     return Done;
@@ -108,13 +96,7 @@ void addCarryCommand(CommandLine &program)
     auto options = std::make_shared<CarryOptions>();
     Subcommand command =
         program.add("carry", "Carry the markers of one cut to where their picture is in another");
-    command.value("OLD", options->before, "The project with the old cut and its markers",
-                  Subcommand::Need::Required);
-    command.value("NEW", options->after, "The project with the new cut, which may be the same",
-                  Subcommand::Need::Required);
-    command.pair("--sequence", options->sequences,
-                 "The sequence of each, by menu index or name; the first of OLD, and that of the same name "
-                 "or the first of NEW, when not given");
+    addCutOptions(command, *options, "The project with the old cut and its markers");
     command.value("-o", options->output, "The project to write; \"-\" is standard output");
     command.flag("--preview", options->preview, "Only tell where the markers would go");
     command.flag("--json", options->json, "Print one JSON document");

@@ -1,8 +1,8 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/JsonText.h"
+#include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/SequenceChoice.h"
 #include "cli/TextTable.h"
 #include "compare/SequenceComparison.h"
 #include "support/files/ProgramArguments.h"
@@ -18,17 +18,12 @@ namespace vantrell::cli
 namespace
 {
 
-struct CompareOptions {
-    std::string before;
-    std::string after;
-    std::vector<std::string> sequences;
+struct CompareOptions : CutOptions {
     bool exitCode = false;
     bool json = false;
 };
 
-struct Compared {
-    SequenceEvents before;
-    SequenceEvents after;
+struct Compared : CutPair {
     std::vector<EventChange> changes;
 
     const TrackEvent *oldEvent(const EventChange &change) const
@@ -129,17 +124,10 @@ int compare(const CompareOptions &options)
 {
     ProjectSession before(Workbench::Inventories::None);
     ProjectSession after(Workbench::Inventories::None);
-    if (!before.open(fromArgument(options.before)) || !after.open(fromArgument(options.after)))
+    std::optional<CutPair> cuts = openCuts(options, before, after);
+    if (!cuts)
         return Failed;
-    const auto pair = chooseSequences(options.sequences, before.document(), after.document());
-    if (!pair)
-        return Failed;
-    const auto eventsOf = [](const MyDocument &document, std::int64_t item) {
-        return SequenceEvents::read((*document.sequenceMenu())[std::size_t(item)].element);
-    };
-    Compared compared;
-    compared.before = eventsOf(before.document(), pair->before);
-    compared.after = eventsOf(after.document(), pair->after);
+    Compared compared{std::move(*cuts), {}};
     compared.changes =
         changesBetween(compared.before, compared.after, EventMatch(compared.before, compared.after));
     if (!print(options.json ? comparisonAsJson(compared) : comparisonAsTable(compared)))
@@ -156,12 +144,7 @@ void addCompareCommand(CommandLine &program)
 {
     auto options = std::make_shared<CompareOptions>();
     Subcommand command = program.add("compare", "Tell what changed from one cut to another");
-    command.value("OLD", options->before, "The project with the old cut", Subcommand::Need::Required);
-    command.value("NEW", options->after, "The project with the new cut, which may be the same",
-                  Subcommand::Need::Required);
-    command.pair("--sequence", options->sequences,
-                 "The sequence of each, by menu index or name; the first of OLD, and that of the same name "
-                 "or the first of NEW, when not given");
+    addCutOptions(command, *options, "The project with the old cut");
     command.flag("--exit-code", options->exitCode, "End with status 3 when anything has changed");
     command.flag("--json", options->json, "Print one JSON document");
     command.onRun([options] { return compare(*options); });

@@ -1,9 +1,9 @@
 #include "bridge/OutputDocument.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/EditRun.h"
-#include "cli/Numbers.h"
-#include "cli/ProjectOutput.h"
+#include "cli/EditScript.h"
+#include "cli/OptionValues.h"
+#include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/ProgramArguments.h"
@@ -73,14 +73,12 @@ int edit(const EditOptions &options)
         return refuseUsage(QStringLiteral("--output-bin: the bin needs a place of its own."));
     const auto presenter = std::make_shared<HeadlessAlertPresenter>(options.yes);
     QVAlert::setPresenter(presenter);
-    const Result<EditScript> script = readEditScriptFile(fromArgument(options.script));
-    if (!script) {
-        complain(script.message());
-        return Failed;
-    }
+    const Result<EditScript> script = readEditScript(fromArgument(options.script));
+    if (!script)
+        return fail(script.message());
     ProjectSession session(Workbench::Inventories::All);
     session.setOwnOwners(options.ownOwners);
-    if (!session.open(file) || !EditRun(session, *presenter).apply(script.value()))
+    if (!session.open(file) || !applyScript(script.value(), session, *presenter))
         return Failed;
     if (!output.isEmpty() && !writeProject(session.document(), output))
         return Failed;

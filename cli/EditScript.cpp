@@ -1,5 +1,6 @@
 #include "cli/EditScript.h"
 
+#include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "markers/MarkerColumns.h"
 #include "support/files/FileUtilities.h"
@@ -48,8 +49,7 @@ public:
             setFault(quoted(name) + QStringLiteral(" is no text."));
             return QString();
         }
-        const QString text = QString::fromStdString(member->get_ref<const std::string &>());
-        return text.isNull() ? QStringLiteral("") : text;
+        return QStringLiteral("") + QString::fromStdString(member->get_ref<const std::string &>());
     }
 
     QString text(const std::string &name)
@@ -119,12 +119,8 @@ private:
 
 NewMarker newMarkerOf(Members &members)
 {
-    NewMarker marker;
-    marker.name = members.text("name");
-    marker.comment = members.optionalText("comment");
-    marker.color = members.optionalText("color");
-    marker.sequence = members.optionalInteger("sequence");
-    return marker;
+    return {members.text("name"), members.optionalText("comment"), members.optionalText("color"),
+            members.optionalInteger("sequence")};
 }
 
 EditOperation setCell(Members &members)
@@ -154,27 +150,25 @@ EditOperation setEffect(Members &members)
                      members.text("value")};
 }
 
+EditOperation offset(Members &members)
+{
+    return OffsetMarkers{members.rows(), members.text("text")};
+}
+
 using Reader = EditOperation (*)(Members &);
 
-const std::map<std::string, Reader, std::less<>> &readers()
-{
-    static const std::map<std::string, Reader, std::less<>> table = {
-        {"set", setCell},
-        {"add", [](Members &) -> EditOperation { return AddMarker(); }},
-        {"addFrames", addFrames},
-        {"addTimecode", addTimecode},
-        {"remove", [](Members &members) -> EditOperation { return RemoveMarkers{members.rows()}; }},
-        {"offset",
-         [](Members &members) -> EditOperation {
-             return OffsetMarkers{members.rows(), members.text("text")};
-         }},
-        {"setEffect", setEffect},
-        {"removeEffects", [](Members &members) -> EditOperation { return RemoveEffects{members.rows()}; }},
-        {"undo", [](Members &) -> EditOperation { return Undo(); }},
-        {"redo", [](Members &) -> EditOperation { return Redo(); }},
-    };
-    return table;
-}
+const std::map<std::string, Reader> readers = {
+    {"set", setCell},
+    {"add", [](Members &) -> EditOperation { return AddMarker(); }},
+    {"addFrames", addFrames},
+    {"addTimecode", addTimecode},
+    {"remove", [](Members &members) -> EditOperation { return RemoveMarkers{members.rows()}; }},
+    {"offset", offset},
+    {"setEffect", setEffect},
+    {"removeEffects", [](Members &members) -> EditOperation { return RemoveEffects{members.rows()}; }},
+    {"undo", [](Members &) -> EditOperation { return Undo(); }},
+    {"redo", [](Members &) -> EditOperation { return Redo(); }},
+};
 
 Result<EditOperation> readOperation(const Json &object)
 {
@@ -182,8 +176,8 @@ Result<EditOperation> readOperation(const Json &object)
         return Failure{QStringLiteral("it is no object.")};
     Members members(object);
     const QString name = members.text("op");
-    const auto reader = readers().find(name.toStdString());
-    if (members.fault().isNull() && reader == readers().end())
+    const auto reader = readers.find(name.toStdString());
+    if (members.fault().isNull() && reader == readers.end())
         return Failure{QStringLiteral("there is no operation \"%1\".").arg(name)};
     if (!members.fault().isNull())
         return Failure{members.fault()};
@@ -193,9 +187,7 @@ Result<EditOperation> readOperation(const Json &object)
     return operation;
 }
 
-} // namespace
-
-Result<EditScript> readEditScript(const QByteArray &bytes)
+Result<EditScript> scriptIn(const QByteArray &bytes)
 {
     const Json json = parseJson(bytes);
     if (json.is_discarded())
@@ -213,16 +205,121 @@ Result<EditScript> readEditScript(const QByteArray &bytes)
     return script;
 }
 
-Result<EditScript> readEditScriptFile(const QString &path)
+/// Applies one operation; false when a row is out of range.
+struct OperationApplier {
+    MyDocument &document;
+    MarkerEditor &markers;
+    EffectEditor &effects;
+
+    bool operator()(const SetCell &operation) const
+    {
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) {
+            markers.setValue(records, operation.column, operation.value);
+        });
+    }
+
+    bool operator()(const AddMarker &) const
+    {
+        markers.addMarker();
+        return true;
+    }
+
+    bool operator()(const AddFrames &operation) const
+    {
+        markers.addMarkerWithName(operation.name, operation.in, operation.out, operation.comment,
+                                  operation.color, operation.sequence);
+        return true;
+    }
+
+    bool operator()(const AddTimecode &operation) const
+    {
+        markers.addMarkerWithName(operation.name, operation.start, operation.duration, operation.comment,
+                                  operation.color, operation.sequence);
+        return true;
+    }
+
+    bool operator()(const RemoveMarkers &operation) const
+    {
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) { markers.remove(records); });
+    }
+
+    bool operator()(const OffsetMarkers &operation) const
+    {
+        return edit(Tab::Markers, operation.rows, [&](const RowList &records) {
+            markers.offset(records, operation.text, document.markerArray());
+        });
+    }
+
+    bool operator()(const SetEffect &operation) const
+    {
+        return edit(Tab::Effects, {operation.row}, [&](const RowList &records) {
+            effects.updateXMLEffect(records.front(), operation.key, operation.value);
+        });
+    }
+
+    bool operator()(const RemoveEffects &operation) const
+    {
+        return edit(Tab::Effects, operation.rows, [&](const RowList &records) { effects.remove(records); });
+    }
+
+    bool operator()(const Undo &) const
+    {
+        document.undo();
+        return true;
+    }
+
+    bool operator()(const Redo &) const
+    {
+        document.redo();
+        return true;
+    }
+
+private:
+    template <typename Change>
+    bool edit(Tab tab, const RowIndexes &rows, Change change) const
+    {
+        const RowList &list = document.rowView(tab).list();
+        const bool isInRange =
+            rows.empty() || (*rows.begin() >= 0 && std::size_t(*rows.rbegin()) < list.size());
+        if (!isInRange)
+            return false;
+        RowList records;
+        for (const std::int64_t row : rows)
+            records.push_back(list[std::size_t(row)]);
+        change(records);
+        return true;
+    }
+};
+
+} // namespace
+
+Result<EditScript> readEditScript(const QString &path)
 {
     if (path != QLatin1String("-")) {
         const Result<QByteArray> bytes = FileUtilities::readFile(path);
-        return bytes ? readEditScript(bytes.value()) : Result<EditScript>(bytes.failure());
+        return bytes ? scriptIn(bytes.value()) : Result<EditScript>(bytes.failure());
     }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         return Failure{input.errorString()};
-    return readEditScript(input.readAll());
+    return scriptIn(input.readAll());
+}
+
+bool applyScript(const EditScript &script, ProjectSession &session, const HeadlessAlertPresenter &presenter)
+{
+    std::size_t number = 0;
+    const OperationApplier applier{session.document(), session.workbench().markerEditor(),
+                                   session.workbench().effectEditor()};
+    for (const EditOperation &operation : script) {
+        ++number;
+        if (!std::visit(applier, operation)) {
+            complain(QStringLiteral("Operation %1 of the script: there is no such row.").arg(number));
+            return false;
+        }
+        if (presenter.questionRefused())
+            return false;
+    }
+    return true;
 }
 
 } // namespace vantrell::cli

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "cli/ProjectSession.h"
+#include "support/alerts/HeadlessAlertPresenter.h"
 #include "support/files/Result.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -54,7 +55,6 @@ struct SetEffect {
 struct RemoveEffects {
     RowIndexes rows;
 };
-
 struct Undo {
 };
 struct Redo {
@@ -64,11 +64,14 @@ using EditOperation = std::variant<SetCell, AddMarker, AddFrames, AddTimecode, R
                                    SetEffect, RemoveEffects, Undo, Redo>;
 using EditScript = std::vector<EditOperation>;
 
-/// Reads the operations from JSON. The failure tells which operation is wrong and why: unknown, a missing
-/// member or one of the wrong type, or a column that the marker table does not have.
-Result<EditScript> readEditScript(const QByteArray &json);
+/// Reads the operations from a JSON file, or from standard input for "-". The failure tells which operation
+/// is wrong and why: unknown, a missing member or one of the wrong type, or a column that the marker table
+/// does not have.
+Result<EditScript> readEditScript(const QString &path);
 
-/// The same from a file, or from standard input for "-".
-Result<EditScript> readEditScriptFile(const QString &path);
+/// Applies the operations of a script to a loaded project, in order; the rows that they name are those of the
+/// whole lists. The presenter is the one installed for alerts. False, after a message on standard error, as
+/// soon as a row is out of range or a question was refused; earlier operations stay applied. Main thread.
+bool applyScript(const EditScript &script, ProjectSession &session, const HeadlessAlertPresenter &presenter);
 
 } // namespace vantrell::cli

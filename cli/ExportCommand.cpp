@@ -1,8 +1,8 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/MarkerChoices.h"
-#include "cli/MarkerJson.h"
+#include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
+#include "cli/RecordJson.h"
 #include "interchange/NoteExporter.h"
 #include "interchange/NoteImporter.h"
 #include "support/files/FileUtilities.h"
@@ -32,10 +32,8 @@ int exportNotes(const ExportOptions &options, NoteExporter::Filter filter, Proje
     if (options.sequence) {
         const NoteImporter importer(session.document(), session.workbench().markerEditor());
         filter.sequence = importer.sequenceNamed(fromArgument(*options.sequence));
-        if (!filter.sequence) {
-            complain(QStringLiteral("There is no sequence \"%1\".").arg(fromArgument(*options.sequence)));
-            return Failed;
-        }
+        if (!filter.sequence)
+            return fail(QStringLiteral("There is no sequence \"%1\".").arg(fromArgument(*options.sequence)));
     }
     const NoteExporter exporter(session.document());
     const RowList markers = exporter.markers(filter);
@@ -51,9 +49,7 @@ int exportNotes(const ExportOptions &options, NoteExporter::Filter filter, Proje
     if (options.output == "-")
         return print(content) ? Done : Failed;
     const Result<void> saved = FileUtilities::writeAtomically(fromArgument(options.output), content);
-    if (!saved)
-        complain(saved.message());
-    return saved ? Done : Failed;
+    return saved ? Done : fail(saved.message());
 }
 
 int exportMarkers(const ExportOptions &options)
@@ -79,9 +75,9 @@ int exportMarkers(const ExportOptions &options)
         complain(told + QLatin1Char('.'));
     if (options.output == "-")
         return print(exporter.textOfMarkerList(format).toUtf8()) ? Done : Failed;
-    const bool isWritten =
-        exporter.markerSaveDialogDidEnd(fromArgument(options.output), MarkerListPanel::accepted, format);
-    return isWritten ? Done : Failed;
+    return exporter.markerSaveDialogDidEnd(fromArgument(options.output), MarkerListPanel::accepted, format)
+               ? Done
+               : Failed;
 }
 
 } // namespace

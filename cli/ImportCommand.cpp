@@ -1,7 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/NoteCommands.h"
-#include "cli/ProjectOutput.h"
 #include "cli/ProjectSession.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
 #include "support/alerts/QVAlert.h"

@@ -22,58 +22,45 @@ struct InfoOptions {
     bool json = false;
 };
 
-struct SequenceInfo {
-    std::size_t index;
-    QString name;
-    std::optional<QString> uuid;
-    QString element;
-    MenuPtr clips;
-    std::shared_ptr<const QStringList> clipIDs;
-};
-
-std::vector<SequenceInfo> collect(MyDocument &document)
+QByteArray infoAsJson(MyDocument &document)
 {
-    std::vector<SequenceInfo> sequences;
+    Json list = Json::array();
     XmlLocationPaths paths;
     const MenuPtr menu = document.sequenceMenu();
     for (std::size_t i = 1; i < menu->size(); ++i) {
-        const MenuItem &item = (*menu)[i];
-        sequences.push_back({i, item.title, QVXMLParser::uuidForNode(item.element),
-                             paths.pathOf(item.element), document.clipMenuForSequence(item.element),
-                             document.clipIDsForSequence(item.element)});
-    }
-    return sequences;
-}
-
-QByteArray infoAsJson(std::int64_t xmlType, const std::vector<SequenceInfo> &sequences)
-{
-    Json list = Json::array();
-    for (const SequenceInfo &sequence : sequences) {
+        const XmlNode sequence = (*menu)[i].element;
+        const std::optional<QString> uuid = QVXMLParser::uuidForNode(sequence);
+        const MenuPtr clipMenu = document.clipMenuForSequence(sequence);
+        const auto ids = document.clipIDsForSequence(sequence);
         Json clips = Json::array();
-        for (std::size_t i = 1; i < sequence.clips->size(); ++i) {
-            clips.push_back({{"index", i},
-                             {"title", jsonText((*sequence.clips)[i].title)},
-                             {"id", jsonText(sequence.clipIDs->at(qsizetype(i)))}});
+        for (std::size_t j = 1; j < clipMenu->size(); ++j) {
+            clips.push_back({{"index", j},
+                             {"title", jsonText((*clipMenu)[j].title)},
+                             {"id", jsonText(ids->at(qsizetype(j)))}});
         }
-        list.push_back({{"index", sequence.index},
-                        {"name", jsonText(sequence.name)},
-                        {"uuid", sequence.uuid ? Json(jsonText(*sequence.uuid)) : Json()},
-                        {"element", jsonText(sequence.element)},
+        list.push_back({{"index", i},
+                        {"name", jsonText((*menu)[i].title)},
+                        {"uuid", uuid ? Json(jsonText(*uuid)) : Json()},
+                        {"element", jsonText(paths.pathOf(sequence))},
                         {"clips", std::move(clips)}});
     }
-    return toBytes(Json{{"xmlType", xmlType}, {"sequences", std::move(list)}});
+    return toBytes(Json{{"xmlType", document.xmlType()}, {"sequences", std::move(list)}});
 }
 
-QByteArray infoAsTable(const std::vector<SequenceInfo> &sequences)
+QByteArray infoAsTable(MyDocument &document)
 {
     TextTable table({QStringLiteral("Sequence"), QStringLiteral("Clip"), QStringLiteral("Name"),
                      QStringLiteral("UUID or ID")});
-    for (const SequenceInfo &sequence : sequences) {
-        const QString number = QString::number(sequence.index);
-        table.addRow({number, QString(), sequence.name, sequence.uuid.value_or(QString())});
-        for (std::size_t i = 1; i < sequence.clips->size(); ++i) {
+    const MenuPtr menu = document.sequenceMenu();
+    for (std::size_t i = 1; i < menu->size(); ++i) {
+        const XmlNode sequence = (*menu)[i].element;
+        const QString uuid = QVXMLParser::uuidForNode(sequence).value_or(QString());
+        const MenuPtr clipMenu = document.clipMenuForSequence(sequence);
+        const auto ids = document.clipIDsForSequence(sequence);
+        table.addRow({QString::number(i), QString(), (*menu)[i].title, uuid});
+        for (std::size_t j = 1; j < clipMenu->size(); ++j) {
             table.addRow(
-                {number, QString::number(i), (*sequence.clips)[i].title, sequence.clipIDs->at(qsizetype(i))});
+                {QString::number(i), QString::number(j), (*clipMenu)[j].title, ids->at(qsizetype(j))});
         }
     }
     return table.toBytes();
@@ -84,10 +71,8 @@ int info(const InfoOptions &options)
     ProjectSession session(Workbench::Inventories::None);
     if (!session.open(fromArgument(options.file)))
         return Failed;
-    const std::vector<SequenceInfo> sequences = collect(session.document());
-    const QByteArray output =
-        options.json ? infoAsJson(session.document().xmlType(), sequences) : infoAsTable(sequences);
-    return print(output) ? Done : Failed;
+    return print(options.json ? infoAsJson(session.document()) : infoAsTable(session.document())) ? Done
+                                                                                                  : Failed;
 }
 
 } // namespace

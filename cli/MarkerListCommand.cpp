@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/NoteCommands.h"
-#include "cli/Numbers.h"
+#include "cli/OptionValues.h"
 #include "cli/RecordJson.h"
 #include "cli/TextTable.h"
 #include "interchange/ImportedMarker.h"

@@ -1,7 +1,6 @@
 #include "cli/Console.h"
 #include "cli/JsonText.h"
 #include "cli/MediaOptions.h"
-#include "cli/StatusLine.h"
 #include "cli/TextTable.h"
 #include "cli/TransferText.h"
 #include "handover/Verification.h"

@@ -1,6 +1,5 @@
 #include "cli/Console.h"
 #include "cli/MediaOptions.h"
-#include "cli/StatusLine.h"
 #include "cli/TransferText.h"
 #include "handover/ChecksumJournal.h"
 #include "handover/HashList.h"

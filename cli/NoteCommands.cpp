@@ -3,7 +3,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/NoteJson.h"
-#include "cli/ProjectOutput.h"
+#include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
 #include "interchange/NoteImporter.h"
 #include "interchange/notes/NoteReader.h"

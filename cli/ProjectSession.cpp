@@ -30,11 +30,6 @@ void ProjectSession::setOwnOwners(bool own)
     m_workbench->markerInventory().setOwnerListing(own ? OwnerListing::Own : OwnerListing::ByPosition);
 }
 
-bool ProjectSession::open(const QString &path)
-{
-    return open(path, Workbench::typeNameForPath(path));
-}
-
 bool ProjectSession::open(const QString &path, const QString &typeName)
 {
     if (!m_workbench->open(path, typeName)) {
@@ -67,15 +62,26 @@ void ProjectSession::inventoriesEnded()
         complain(incompleteLists);
         m_loaded = false;
     }
+    QString told;
     if (m_comparesOwners)
-        tellOwners();
-}
-
-void ProjectSession::tellOwners()
-{
-    const QString told = m_workbench->markerInventory().listedUnderOthersText();
+        told = m_workbench->markerInventory().listedUnderOthersText();
     if (!told.isEmpty())
         complain(told + QStringLiteral("; --own-owners lists each under its own."));
+}
+
+bool writeProject(MyDocument &document, const QString &path)
+{
+    const auto write = [&]() -> Result<void> {
+        if (path != QLatin1String("-"))
+            return document.writeToURL(QUrl::fromLocalFile(path), DocumentType::finalCutProXMLFile);
+        if (!document.xmlDoc())
+            return Failure{QStringLiteral("There is no project to write.")};
+        return writeOutput(path, [&](QIODevice &output) { return document.xmlDoc()->write(output); });
+    };
+    const Result<void> written = write();
+    if (!written)
+        complain(written.message());
+    return written.isOk();
 }
 
 } // namespace vantrell::cli

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/HeadlessDocumentInterface.h"
+#include "document/MyDocument.h"
 #include "workbench/Workbench.h"
 
 #include <QEventLoop>
@@ -30,7 +31,7 @@ public:
 
     /// Loads the file and waits for the inventories. False, after a message on standard error, when that
     /// fails; a repaired file is opened with a message.
-    bool open(const QString &path);
+    bool open(const QString &path) { return open(path, Workbench::typeNameForPath(path)); }
     /// The same as a document of that type, whatever the file's name.
     bool open(const QString &path, const QString &typeName);
 
@@ -42,7 +43,6 @@ public:
 private:
     void loadEnded(bool loaded, const QString &message, const QString &notice);
     void inventoriesEnded();
-    void tellOwners();
 
     QEventLoop m_loop;
     bool m_loaded = false;
@@ -50,5 +50,9 @@ private:
     bool m_comparesOwners = false;
     std::unique_ptr<Workbench> m_workbench;
 };
+
+/// Writes the project as plain XML, atomically; "-" is standard output. False, after a message on standard
+/// error, when writing fails or a question about it was refused.
+bool writeProject(MyDocument &document, const QString &path);
 
 } // namespace vantrell::cli

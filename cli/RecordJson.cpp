@@ -1,5 +1,6 @@
 #include "cli/RecordJson.h"
 
+#include "markers/MarkerTableValues.h"
 #include "rows/RecordText.h"
 
 #include <nlohmann/json.hpp>
@@ -42,6 +43,19 @@ Json recordsToJson(const RowList &records, XmlLocationPaths &paths)
     for (const RowRecordPtr &record : records)
         list.push_back(recordToJson(*record, paths));
     return list;
+}
+
+QByteArray markersAsJson(const RowList &markers)
+{
+    XmlLocationPaths paths;
+    Json list = Json::array();
+    for (const RowRecordPtr &marker : markers) {
+        Json json = recordToJson(*marker, paths);
+        json.push_back({"display", Json{{"in", jsonText(MarkerTableValues::inText(*marker))},
+                                        {"out", jsonText(MarkerTableValues::outText(*marker))}}});
+        list.push_back(std::move(json));
+    }
+    return toBytes(list);
 }
 
 } // namespace vantrell::cli

@@ -4,6 +4,8 @@
 #include "rows/RowRecord.h"
 #include "xml/XmlLocationPaths.h"
 
+#include <QByteArray>
+
 namespace vantrell::cli
 {
 
@@ -11,5 +13,8 @@ namespace vantrell::cli
 /// in UTC with seconds. The paths are valid until the tree is edited.
 Json recordToJson(const RowRecord &record, XmlLocationPaths &paths);
 Json recordsToJson(const RowList &records, XmlLocationPaths &paths);
+
+/// The marker records as one JSON array, each with the texts of its In and Duration cells under "display".
+QByteArray markersAsJson(const RowList &markers);
 
 } // namespace vantrell::cli

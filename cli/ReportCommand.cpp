@@ -1,18 +1,15 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/Numbers.h"
+#include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
 #include "effects/EffectColumns.h"
 #include "markers/MarkerColumns.h"
 #include "media/MediaColumns.h"
 #include "report/PrintHelper.h"
 #include "report/ReportGenerator.h"
-#include "report/ReportImages.h"
-#include "support/files/FileUtilities.h"
+#include "report/ReportTable.h"
 #include "support/files/ProgramArguments.h"
 #include "support/settings/UserDefaults.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <memory>
@@ -44,12 +41,12 @@ struct ReportChoice {
     std::vector<std::size_t> rows;       ///< ascending; empty for all
 };
 
-void setTable(ReportChoice &choice, const std::string &tab)
+ReportChoice choiceOf(const std::string &tab)
 {
-    choice.tab = tab == "media" ? Tab::Media : tab == "effects" ? Tab::Effects : Tab::Markers;
-    choice.columns = choice.tab == Tab::Media     ? mediaColumns
-                     : choice.tab == Tab::Effects ? effectColumns
-                                                  : markerColumns;
+    if (tab == "markers")
+        return {Tab::Markers, markerColumns, {}, {}};
+    return tab == "media" ? ReportChoice{Tab::Media, mediaColumns, {}, {}}
+                          : ReportChoice{Tab::Effects, effectColumns, {}, {}};
 }
 
 /// False for an unknown column. Custom fields become columns at the end of the table, in order of appearance.
@@ -110,27 +107,12 @@ Result<void> writeReport(const ReportGenerator &report, bool wholeDocument, cons
     const auto writer = [&](QIODevice &device) { return report.writeHTML(device, wholeDocument); };
     if (!printHelper.isEmpty())
         return PrintHelper::writePDF(printHelper, writer, ReportImages::standardFolder(), output);
-    if (output != QLatin1String("-"))
-        return FileUtilities::writeAtomically(output, writer);
-    QFile standardOutput;
-    if (!standardOutput.open(stdout, QIODevice::WriteOnly))
-        return Failure{standardOutput.errorString()};
-    const Result<void> written = writer(standardOutput);
-    if (written && !standardOutput.flush())
-        return Failure{standardOutput.errorString()};
-    return written;
-}
-
-int fail(const QString &message)
-{
-    complain(message);
-    return Failed;
+    return writeOutput(output, writer);
 }
 
 int report(const ReportOptions &options)
 {
-    ReportChoice choice;
-    setTable(choice, options.tab);
+    ReportChoice choice = choiceOf(options.tab);
     if (options.columns && !setColumns(choice, fromArgument(*options.columns)))
         return refuseUsage(QStringLiteral("--columns: the report has no such column."));
     if (options.rows && !setRows(choice, fromArgument(*options.rows)))

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/EditRun.h"
-#include "cli/Numbers.h"
+#include "cli/EditScript.h"
+#include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/ProgramArguments.h"
@@ -44,11 +44,9 @@ int send(const SendOptions &options)
     QVAlert::setPresenter(presenter);
     EditScript operations;
     if (!options.script.empty()) {
-        Result<EditScript> script = readEditScriptFile(fromArgument(options.script));
-        if (!script) {
-            complain(script.message());
-            return Failed;
-        }
+        Result<EditScript> script = readEditScript(fromArgument(options.script));
+        if (!script)
+            return fail(script.message());
         operations = std::move(script.value());
     }
     const QString file = fromArgument(options.file);
@@ -59,7 +57,7 @@ int send(const SendOptions &options)
         return Failed;
     if (options.toPremiere)
         session.document().setPremiereProject(true);
-    if (!EditRun(session, *presenter).apply(operations))
+    if (!applyScript(operations, session, *presenter))
         return Failed;
     return sendAndWait(session.workbench().projectSender()) ? Done : Failed;
 }

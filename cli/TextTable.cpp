@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <unistd.h>
-
 namespace vantrell::cli
 {
 
@@ -25,17 +23,10 @@ void TextTable::addRow(const QStringList &cells)
 {
     QStringList row = cells;
     for (QString &cell : row) {
-        for (QChar &c : cell) {
-            if (c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'))
-                c = QLatin1Char(' ');
-        }
+        for (const char control : {'\t', '\n', '\r'})
+            cell.replace(QLatin1Char(control), QLatin1Char(' '));
     }
     m_rows.push_back(std::move(row));
-}
-
-QByteArray TextTable::toBytes() const
-{
-    return toBytes(isatty(STDOUT_FILENO) != 0);
 }
 
 QByteArray TextTable::toBytes(bool aligned) const

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <unistd.h>
 #include <vector>
 
 namespace vantrell::cli
@@ -22,9 +23,8 @@ public:
     /// As many cells as there are titles.
     void addRow(const QStringList &cells);
 
-    /// The table in the form that suits standard output.
-    QByteArray toBytes() const;
-    QByteArray toBytes(bool aligned) const;
+    /// The table, by default in the form that suits standard output.
+    QByteArray toBytes(bool aligned = isatty(STDOUT_FILENO) != 0) const;
 
 private:
     std::vector<QStringList> m_rows;

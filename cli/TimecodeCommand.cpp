@@ -1,6 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/Numbers.h"
+#include "cli/OptionValues.h"
 #include "support/files/ProgramArguments.h"
 #include "timecode/QVTimecode.h"
 
@@ -23,10 +23,10 @@ struct TimecodeOptions {
 
 /// The parsed options.
 struct Parameters {
-    qint64 timebase = 30;
-    quint64 startFrame = 0;
-    bool ntsc = false;
-    bool dropFrame = false;
+    qint64 timebase;
+    quint64 startFrame;
+    bool ntsc;
+    bool dropFrame;
     QString startTimecode;
 };
 
@@ -84,23 +84,16 @@ Printer combining(Combination combination)
 
 int run(const TimecodeOptions &options, bool startIsTimecode, const Printer &printer)
 {
-    Parameters parameters;
-    parameters.ntsc = options.ntsc;
-    parameters.dropFrame = options.dropFrame;
     const QString timebaseText = fromArgument(options.timebase);
     const std::optional<quint64> timebase = wholeNumber(timebaseText);
     if (!timebase)
         return refuseUsage(QStringLiteral("--timebase: \"%1\" is no whole number.").arg(timebaseText));
-    parameters.timebase = qint64(*timebase);
     const QString start = fromArgument(options.start);
-    if (startIsTimecode) {
-        parameters.startTimecode = start;
-    } else if (!start.isEmpty()) {
-        const std::optional<quint64> frame = wholeNumber(start);
-        if (!frame)
-            return refuseUsage(QStringLiteral("--start: \"%1\" is no whole number.").arg(start));
-        parameters.startFrame = *frame;
-    }
+    const bool countsFromZero = startIsTimecode || start.isEmpty();
+    const std::optional<quint64> startFrame = countsFromZero ? 0 : wholeNumber(start);
+    if (!startFrame)
+        return refuseUsage(QStringLiteral("--start: \"%1\" is no whole number.").arg(start));
+    const Parameters parameters{qint64(*timebase), *startFrame, options.ntsc, options.dropFrame, start};
     QStringList values = fromArguments(options.values);
     if (values.isEmpty())
         values = readLines();
