@@ -1,8 +1,9 @@
 #include "bench/ProjectText.h"
 
+#include <QUrl>
+
 #include <array>
 #include <cstdio>
-#include <string_view>
 
 namespace vantrell::bench
 {
@@ -40,19 +41,9 @@ std::uint64_t Draw::next()
     return mixed(m_state);
 }
 
-std::uint64_t Draw::below(std::uint64_t limit)
-{
-    return limit ? next() % limit : 0;
-}
-
 std::int64_t Draw::between(std::int64_t smallest, std::int64_t largest)
 {
     return smallest + std::int64_t(below(std::uint64_t(largest - smallest) + 1));
-}
-
-bool Draw::chance(double share)
-{
-    return double(next() >> 11) * 0x1p-53 < share;
 }
 
 std::int64_t Draw::around(double mean)
@@ -114,19 +105,7 @@ std::string plainTimecode(std::int64_t frames, std::int64_t timebase)
 
 std::string percentEscaped(const std::string &path)
 {
-    constexpr std::string_view plain = "-._~/";
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text;
-    for (const char character : path) {
-        const auto byte = static_cast<unsigned char>(character);
-        const bool isPlain = (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
-                             (byte >= 'a' && byte <= 'z') || plain.find(character) != std::string_view::npos;
-        if (isPlain)
-            text += character;
-        else
-            ((text += '%') += digits[byte >> 4]) += digits[byte & 15];
-    }
-    return text;
+    return QUrl::toPercentEncoding(QString::fromStdString(path), "/").toStdString();
 }
 
 } // namespace vantrell::bench

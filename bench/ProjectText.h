@@ -15,10 +15,10 @@ public:
 
     std::uint64_t next();
     /// 0 to limit − 1; 0 when limit is 0.
-    std::uint64_t below(std::uint64_t limit);
+    std::uint64_t below(std::uint64_t limit) { return limit ? next() % limit : 0; }
     /// From smallest to largest, both included.
     std::int64_t between(std::int64_t smallest, std::int64_t largest);
-    bool chance(double share);
+    bool chance(double share) { return double(next() >> 11) * 0x1p-53 < share; }
     /// A whole number with this mean: 2.25 gives 2, and 3 every fourth time.
     std::int64_t around(double mean);
 

@@ -1,58 +1,114 @@
 #pragma once
 
-#include <cstdint>
-#include <cstdio>
+#include <QIODevice>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace vantrell::bench
 {
 
-/// Writes XML, one element per line, indented with tabs, through a buffer of fixed size, and counts the
-/// bytes. Without a file it only counts. Texts are UTF-8.
+/// Passes bytes on to a file and counts them. Without a file it only counts.
+class CountingDevice final : public QIODevice
+{
+public:
+    /// \a file is open and stays so; null to count only.
+    explicit CountingDevice(QIODevice *file)
+        : m_file(file)
+    {
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+    std::uint64_t bytes() const { return m_bytes; }
+    /// Line ends and tabs, which no text contains.
+    std::uint64_t whiteSpaceBytes() const { return m_whiteSpaceBytes; }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        m_bytes += std::uint64_t(size);
+        m_whiteSpaceBytes +=
+            std::uint64_t(std::count_if(data, data + size, [](char c) { return c == '\n' || c == '\t'; }));
+        return m_file ? m_file->write(data, size) : size;
+    }
+
+private:
+    QIODevice *m_file;
+    std::uint64_t m_bytes = 0;
+    std::uint64_t m_whiteSpaceBytes = 0;
+};
+
+/// Writes XML, one element per line, indented with tabs. Texts are UTF-8.
 class XmlStream
 {
 public:
-    /// @param file written to and left open; null to count only
-    /// @param whiteSpace whether there is a line end and indentation between elements
-    XmlStream(std::FILE *file, bool whiteSpace);
+    /// \a whiteSpace: whether there is a line end and indentation between elements.
+    XmlStream(QIODevice *file, bool whiteSpace)
+        : m_device(file)
+        , m_writer(&m_device)
+    {
+        m_writer.setAutoFormatting(whiteSpace);
+        m_writer.setAutoFormattingIndent(-1);
+    }
 
-    using Attribute = std::pair<std::string_view, std::string_view>;
+    using Attributes = std::initializer_list<std::pair<std::string_view, std::string_view>>;
 
-    void declaration(std::string_view rootName);
-    void open(std::string_view name, std::initializer_list<Attribute> attributes = {});
-    void close();
+    void declaration(std::string_view rootName)
+    {
+        m_writer.writeStartDocument();
+        m_writer.writeDTD(QStringLiteral("<!DOCTYPE %1>").arg(text(rootName)));
+    }
+    void open(std::string_view name, Attributes attributes = {})
+    {
+        m_writer.writeStartElement(text(name));
+        addAttributes(attributes);
+    }
+    void close() { m_writer.writeEndElement(); }
     /// An element without children.
-    void empty(std::string_view name, std::initializer_list<Attribute> attributes);
+    void empty(std::string_view name, Attributes attributes)
+    {
+        m_writer.writeEmptyElement(text(name));
+        addAttributes(attributes);
+    }
     /// An element with a text only.
-    void leaf(std::string_view name, std::string_view text);
-    void leaf(std::string_view name, std::int64_t number);
+    void leaf(std::string_view name, std::string_view content)
+    {
+        ++m_elements;
+        m_writer.writeTextElement(text(name), text(content));
+    }
+    void leaf(std::string_view name, std::int64_t number) { leaf(name, std::to_string(number)); }
 
-    /// Writes out what is buffered. False when anything could not be written since the start.
-    bool flush();
+    /// Ends the document. False when anything could not be written since the start.
+    bool finish()
+    {
+        if (m_writer.autoFormatting())
+            m_writer.writeEndDocument();
+        return !m_writer.hasError();
+    }
 
-    std::uint64_t bytes() const { return m_bytes; }
-    /// Bytes of white space between elements: line ends and tabs.
-    std::uint64_t whiteSpaceBytes() const { return m_whiteSpaceBytes; }
+    std::uint64_t bytes() const { return m_device.bytes(); }
+    std::uint64_t whiteSpaceBytes() const { return m_device.whiteSpaceBytes(); }
     std::uint64_t elements() const { return m_elements; }
 
 private:
-    void put(std::string_view text);
-    void putEscaped(std::string_view text);
-    void startTag(std::string_view name, std::initializer_list<Attribute> attributes);
-    void startLine();
-    void endLine();
+    static QString text(std::string_view utf8)
+    {
+        return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+    }
+    void addAttributes(Attributes attributes)
+    {
+        ++m_elements;
+        for (const auto &[name, value] : attributes)
+            m_writer.writeAttribute(text(name), text(value));
+    }
 
-    std::FILE *m_file;
-    bool m_whiteSpace;
-    bool m_ok = true;
-    std::string m_buffer;
-    std::vector<std::string> m_open;
-    std::uint64_t m_bytes = 0;
-    std::uint64_t m_whiteSpaceBytes = 0;
+    CountingDevice m_device;
+    QXmlStreamWriter m_writer;
     std::uint64_t m_elements = 0;
 };
 
@@ -60,8 +116,7 @@ private:
 class Element
 {
 public:
-    Element(XmlStream &xml, std::string_view name,
-            std::initializer_list<XmlStream::Attribute> attributes = {})
+    Element(XmlStream &xml, std::string_view name, XmlStream::Attributes attributes = {})
         : m_xml(xml)
     {
         m_xml.open(name, attributes);

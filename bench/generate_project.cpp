@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <QFile>
+
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -37,19 +39,13 @@ bool printReport(const ProjectShape &shape, const ProjectCounts &counts, const X
 /// Writes the project to a file, "-" for standard output. The exit status.
 int generate(const ProjectShape &shape, const std::string &output, bool report)
 {
-    const bool toStandardOutput = output == "-";
-    std::FILE *file = toStandardOutput ? stdout : std::fopen(output.c_str(), "wb");
-    if (!file) {
-        std::perror(output.c_str());
-        return 1;
-    }
-    XmlStream xml(file, shape.whiteSpace);
-    const ProjectCounts counts = writeProject(shape, xml);
-    bool written = xml.flush();
-    if (!toStandardOutput)
-        written = std::fclose(file) == 0 && written;
-    if (!written) {
-        std::perror(output.c_str());
+    QFile file(QString::fromStdString(output));
+    const bool isOpen =
+        output == "-" ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
+    XmlStream xml(&file, shape.whiteSpace);
+    const ProjectCounts counts = isOpen ? writeProject(shape, xml) : ProjectCounts();
+    if (!isOpen || !xml.finish() || !file.flush()) {
+        std::fprintf(stderr, "%s: %s\n", output.c_str(), qPrintable(file.errorString()));
         return 1;
     }
     return report && !printReport(shape, counts, xml) ? 1 : 0;

@@ -1,7 +1,7 @@
 #include "workbench/Workbench.h"
 
 #include "bridge/QVAppleEvents.h"
-#include "report/ReportImages.h"
+#include "report/ReportTable.h"
 #include "support/settings/UserDefaults.h"
 
 #include <QFileInfo>
