@@ -53,7 +53,8 @@ QString lossText(const XmlLoss &loss)
             .arg(bytes, counted(loss.droppedElements, u"was", u"were"));
     }
     if (!loss.isCutOff && loss.elementsInComments > 0) {
-        return QStringLiteral("Content is missing: %1 in a comment that does not end where it should.")
+        return QStringLiteral("Content is missing: %1 in a comment or instruction that does not end "
+                              "where it should.")
             .arg(counted(loss.elementsInComments, u"is", u"are"));
     }
     if (!loss.isCutOff && loss.misplacedLine > 0) {
@@ -70,6 +71,9 @@ QString lossText(const XmlLoss &loss)
                      : QStringLiteral("%1 places").arg(grouped(loss.droppedReferences)),
                  grouped(loss.firstDropped));
     }
+    if (!loss.isCutOff && loss.droppedText)
+        return QStringLiteral("Content is missing: %1, and what follows is no part of the project.")
+            .arg(bytes);
     if (!loss.isCutOff)
         return QStringLiteral(
             "Content is missing: the entities that the document type declares are not kept.");

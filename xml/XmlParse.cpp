@@ -57,6 +57,8 @@ public:
         , m_builder(tree, request.keepsSpace)
         , m_events(m_builder)
     {
+        m_emptyEntity.etype = XML_INTERNAL_PARAMETER_ENTITY;
+        m_emptyEntity.content = m_noText;
         context->_private = this;
         xmlSAXHandler *sax = context->sax;
         sax->internalSubset = internalSubset;
@@ -70,8 +72,8 @@ public:
         sax->processingInstruction = processingInstruction;
         sax->reference = reference;
         sax->getEntity = getEntity;
-        sax->entityDecl = [](void *parser, const xmlChar *, int, const xmlChar *, const xmlChar *,
-                             xmlChar *) { of(parser)->m_hasEntities = true; };
+        sax->getParameterEntity = getParameterEntity;
+        sax->entityDecl = entityDeclaration;
         sax->unparsedEntityDecl = [](void *parser, const xmlChar *, const xmlChar *, const xmlChar *,
                                      const xmlChar *) { of(parser)->m_hasEntities = true; };
         sax->serror = error;
@@ -186,6 +188,22 @@ private:
         return entity;
     }
 
+    /// What is declared is known, and empty.
+    static xmlEntity *getParameterEntity(void *context, const xmlChar *name)
+    {
+        Parse *const self = of(context);
+        return self->m_parameterEntities.contains(viewOf(name)) ? &self->m_emptyEntity : nullptr;
+    }
+
+    static void entityDeclaration(void *context, const xmlChar *name, int type, const xmlChar *,
+                                  const xmlChar *, xmlChar *)
+    {
+        Parse *const self = of(context);
+        self->m_hasEntities = true;
+        if (type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY)
+            self->guard([&] { self->m_parameterEntities.emplace(viewOf(name)); });
+    }
+
     static void cdata(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
@@ -204,9 +222,13 @@ private:
     static void processingInstruction(void *context, const xmlChar *target, const xmlChar *data)
     {
         Parse *const self = of(context);
-        if (self->m_inSubset)
+        if (self->m_inSubset) {
             xmlSAX2ProcessingInstruction(context, target, data);
-        else
+            // One without an end goes on behind the document type.
+            const std::string_view text = data ? viewOf(data) : std::string_view();
+            if (text.find("]>") != std::string_view::npos)
+                self->countElementsIn(text);
+        } else
             self->guard([&] { self->onInstruction(viewOf(target), data); });
     }
 
@@ -338,9 +360,15 @@ private:
     {
         const bool isWhole = text.find("--") == std::string_view::npos && !text.ends_with('-') &&
                              !text.starts_with('>') && !text.starts_with("->");
-        for (std::size_t i = 0; !isWhole && i + 1 < text.size(); ++i)
-            m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
+        if (!isWhole)
+            countElementsIn(text);
         m_events.addComment(text);
+    }
+
+    void countElementsIn(std::string_view text)
+    {
+        for (std::size_t i = 0; i + 1 < text.size(); ++i)
+            m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
     }
 
     /// Parsers compare each attribute of an element, the defaults included, with all others.
@@ -452,8 +480,11 @@ private:
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
         if (document && !stops && !m_context->wellFormed && consumed >= 0) {
             outcome.loss.bytesRead = m_input.sourceOffset(consumed);
-            if (!isSwallowed)
-                outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
+            if (!isSwallowed) {
+                const XmlInput::Rest rest = m_input.restFrom(consumed);
+                outcome.loss.droppedElements = rest.startTags;
+                outcome.loss.droppedText = m_hasContentAfterRoot && rest.startTags == 0 && rest.hasText;
+            }
             if (outcome.loss.bytesTotal < 0)
                 outcome.loss.bytesTotal = m_input.bytesRead();
             // Where only end tags are missing the last one is there.
@@ -492,11 +523,23 @@ private:
         const std::unique_ptr<xmlBuffer, void (*)(xmlBuffer *)> buffer(xmlBufferCreate(), xmlBufferFree);
         if (!buffer)
             throw std::bad_alloc();
-        xmlNodeDump(buffer.get(), document, reinterpret_cast<xmlNode *>(doctype), 0, 0);
-        std::string text(viewOf(xmlBufferContent(buffer.get())));
-        if (text.empty())
-            throw std::bad_alloc();
-        return text;
+        const auto dumped = [&](xmlNode *node) {
+            xmlBufferEmpty(buffer.get());
+            xmlNodeDump(buffer.get(), document, node, 0, 0);
+            const std::string_view text = viewOf(xmlBufferContent(buffer.get()));
+            if (text.empty())
+                throw std::bad_alloc();
+            return std::string(text);
+        };
+        std::string text = dumped(reinterpret_cast<xmlNode *>(doctype));
+        if (!doctype->children || text.ends_with("]>"))
+            return text;
+        // The library leaves out an internal subset that declares nothing.
+        text.back() = ' ';
+        text += "[\n";
+        for (xmlNode *node = doctype->children; node; node = node->next)
+            text += dumped(node) + '\n';
+        return text + "]>";
     }
 
     xmlParserCtxt *m_context;
@@ -520,6 +563,9 @@ private:
     bool m_hasStartAfterMismatch = false;
     bool m_isLeaf = false;      // whether nothing but text came after the last start tag
     bool m_hasEntities = false; // declared ones
+    std::set<std::string, std::less<>> m_parameterEntities;
+    xmlChar m_noText[1] = {};
+    xmlEntity m_emptyEntity = {};
     std::int64_t m_elementsInComments = 0;
     std::int64_t m_droppedReferences = 0;
     int m_firstDropped = 0;                     // line

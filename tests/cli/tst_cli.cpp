@@ -160,6 +160,19 @@ private Q_SLOTS:
         QCOMPARE(repaired.output, QByteArray("{\"xmlType\":1,\"sequences\":1}\n"));
     }
 
+    void saysThatNoDescriptorIsLeft()
+    {
+        const QString path = m_home.addFile(QStringLiteral("p/few.xml"), "<xmeml/>");
+        const QString program = qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell-cli");
+        const CliRun run =
+            runProgram(QStringLiteral("/bin/sh"),
+                       {QStringLiteral("-c"),
+                        QStringLiteral("exec 3<&- 4<&- 5<&- 6<&- 7<&-; ulimit -n 4; exec \"$0\" info \"$1\""),
+                        program, path});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.messages.contains("Too many open files"), run.messages.constData());
+    }
+
     void keepsALogOfItsOwn()
     {
         runCli({QStringLiteral("timecode"), QStringLiteral("format"), QStringLiteral("1")});
