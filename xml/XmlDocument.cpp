@@ -143,10 +143,8 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
             return Failure{
                 QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
         }
-        if (outcome.tooManyDefaults) {
-            return Failure{
-                QStringLiteral("its document type gives elements more default attributes than can be read.")};
-        }
+        if (outcome.tooManyValues)
+            return Failure{QStringLiteral("its document type lists more values than can be read.")};
         if (outcome.tooManyHyphens)
             return Failure{QStringLiteral("a comment in it has more double hyphens than can be read.")};
         if (!outcome.hasTree)
@@ -228,7 +226,7 @@ Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
         parseXml({.source = sourceOf(utf8), .tolerant = false, .keepsSpace = true}, tree);
     const XmlNode root = XmlNode(&tree, XmlTree::documentId).firstChildElement();
     const bool isWhole =
-        outcome.hasTree && !outcome.tooDeep && !outcome.tooManyDefaults && !outcome.outOfMemory;
+        outcome.hasTree && !outcome.tooDeep && !outcome.tooManyValues && !outcome.outOfMemory;
     if (!isWhole || !root) {
         return Failure{outcome.lastError.isEmpty() ? QStringLiteral("The text is no XML element.")
                                                    : outcome.lastError};

@@ -7,6 +7,7 @@
 #include "xml/XmlViews.h"
 
 #include <libxml/SAX2.h>
+#include <libxml/hash.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
@@ -31,8 +32,8 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-/// Beyond it an element's default attributes would be compared with one another for minutes.
-constexpr std::int64_t maximumDefaultsCost = 1'000'000'000;
+/// Comparisons. The library compares each value of an enumeration with all others.
+constexpr std::int64_t maximumValuesCost = 50'000'000;
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
@@ -93,7 +94,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.tooManyDefaults = m_defaultsCost > maximumDefaultsCost;
+        outcome.tooManyValues = m_valuesCost > maximumValuesCost;
         outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
@@ -127,7 +128,10 @@ private:
         // The parser is in the middle of its buffer and must not be stopped here: its input ends.
         Parse *const self = static_cast<Parse *>(parse);
         try {
-            return self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
+            const int size = self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
+            if (size > 0 && self->m_inSubset)
+                self->noteEnumerations({buffer, std::size_t(size)});
+            return self->m_valuesCost > maximumValuesCost ? 0 : size;
         } catch (const std::exception &) {
             self->m_outOfMemory = true;
             return 0;
@@ -143,10 +147,13 @@ private:
         self->guard([&] { self->m_events.addDoctype(); });
     }
 
-    /// Called after the internal subset. There is no external one: nothing is fetched.
+    /// Called after the internal subset. There is no external one: nothing is fetched. Neither attributes nor
+    /// namespaces get defaults, which the library would compare with one another at each element.
     static void externalSubset(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
         of(context)->m_inSubset = false;
+        if (xmlHashTable *const defaults = std::exchange(contextOf(context)->attsDefault, nullptr))
+            xmlHashFree(defaults, xmlHashDefaultDeallocator);
     }
 
     static void startElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
@@ -155,9 +162,8 @@ private:
     {
         Parse *const self = of(context);
         self->guard([&] {
-            if (self->mayHaveDefaults(defaulted))
-                self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
-                                     attributeList);
+            self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
+                                 attributeList);
         });
     }
 
@@ -249,7 +255,11 @@ private:
     void onError(const xmlError &problem)
     {
         const bool undeclaredEntity = problem.code == XML_WAR_UNDECLARED_ENTITY;
-        const QString text = QString::fromUtf8(problem.message).simplified();
+        // It may quote a name of any length.
+        constexpr qsizetype longest = 200;
+        QString text = QString::fromUtf8(problem.message).simplified();
+        if (text.size() > longest)
+            text = text.first(longest) + QStringLiteral("…");
         m_lastError = text;
         m_hasDoubledAttributes = m_hasDoubledAttributes || problem.code == XML_NS_ERR_ATTRIBUTE_REDEFINED;
         if (problem.domain == XML_FROM_NAMESPACE || problem.domain == XML_FROM_VALID)
@@ -371,13 +381,15 @@ private:
             m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
     }
 
-    /// Parsers compare each attribute of an element, the defaults included, with all others.
-    bool mayHaveDefaults(int count)
+    /// In a part of the document type.
+    void noteEnumerations(std::string_view text)
     {
-        m_defaultsCost += std::int64_t(count) * count;
-        if (m_defaultsCost > maximumDefaultsCost)
-            xmlStopParser(m_context);
-        return m_defaultsCost <= maximumDefaultsCost;
+        for (const char character : text) {
+            if (character == '|')
+                m_valuesCost += ++m_values;
+            else if (character == '(' || character == '>')
+                m_values = 0;
+        }
     }
 
     void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
@@ -571,7 +583,8 @@ private:
     int m_firstDropped = 0;                     // line
     const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
     long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
-    std::int64_t m_defaultsCost = 0;
+    std::int64_t m_values = 0;                  // of the enumeration that was read last
+    std::int64_t m_valuesCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing

@@ -44,8 +44,8 @@ struct XmlLoss {
 
     bool isLoss() const
     {
-        return isCutOff || droppedElements > 0 || droppedText || elementsInComments > 0 || misplacedLine > 0 ||
-               droppedReferences > 0 || hasDroppedEntities;
+        return isCutOff || droppedElements > 0 || droppedText || elementsInComments > 0 ||
+               misplacedLine > 0 || droppedReferences > 0 || hasDroppedEntities;
     }
 };
 
@@ -53,8 +53,8 @@ struct ParseOutcome {
     bool hasTree = false;  ///< whether the input gave any tree
     bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
-    bool tooManyDefaults = false; ///< of attributes
-    bool tooManyHyphens = false;  ///< in comments
+    bool tooManyValues = false;  ///< in an enumeration of the document type
+    bool tooManyHyphens = false; ///< in comments
     bool readFailed = false;
     bool cancelled = false;
     bool outOfMemory = false;

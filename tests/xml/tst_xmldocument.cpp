@@ -548,7 +548,24 @@ private Q_SLOTS:
             defaults += " b" + QByteArray::number(i) + " CDATA \"\"";
         QTest::newRow("default attributes")
             << "<!DOCTYPE a [<!ATTLIST c" + defaults + ">]><a>" + QByteArray("<c/>").repeated(20'000) + "</a>"
-            << QStringLiteral("default attributes");
+            << QString();
+        QTest::newRow("default namespaces")
+            << "<!DOCTYPE a [<!ATTLIST c" +
+                   QByteArray(defaults).replace(" b", " xmlns:b").replace("\"\"", "\"u\"") + ">]><a>" +
+                   QByteArray("<c/>").repeated(20'000) + "</a>"
+            << QString();
+        QByteArray values;
+        QByteArray spaces;
+        for (int i = 0; i < 100'000; ++i) {
+            values += "|v" + QByteArray::number(i);
+            spaces += "<p:c xmlns:p=\"u" + QByteArray::number(i) + "\" p:a=\"1\"/>";
+        }
+        QTest::newRow("values of an attribute")
+            << "<!DOCTYPE a [<!ATTLIST c d (x" + values + ") #IMPLIED>]><a/>"
+            << QStringLiteral("more values");
+        QTest::newRow("namespaces") << "<a>" + spaces + "</a>" << QString();
+        QTest::newRow("name of an entity")
+            << "<a>&" + QByteArray(50'000, 'e') + ";</a>" << QStringLiteral("…");
     }
     void hostileInputCostsNoMore()
     {
@@ -560,7 +577,7 @@ private Q_SLOTS:
         QVERIFY(std::chrono::steady_clock::now() - start < std::chrono::seconds(30));
         const QString fault = document ? document.value()->firstFault() : document.message();
         QCOMPARE(fault.isEmpty(), told.isEmpty());
-        QVERIFY2(fault.contains(told), qPrintable(fault));
+        QVERIFY2(fault.contains(told) && fault.size() < 300, qPrintable(fault));
     }
 
     void charactersThatAnEncodingLacksCostNoMore()
