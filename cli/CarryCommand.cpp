@@ -79,7 +79,13 @@ int carry(const CarryOptions &options)
     if (!options.preview) {
         const std::size_t added = MarkerCarrier::carry(markers, cuts->after, after.document(),
                                                        after.workbench().markerEditor(), cuts->afterItem);
-        if (!writeProject(after.document(), fromArgument(*options.output)))
+        const QString output = fromArgument(*options.output);
+        const bool replacesOld = output != QLatin1String("-") && !after.document().knownFile()->isAt(output);
+        if (replacesOld) {
+            if (const Result<void> may = before.document().confirmReplacing(output); !may)
+                return fail(may.message());
+        }
+        if (!writeProject(after.document(), output))
             return Failed;
         complain(QStringLiteral("%1 of %2 markers added").arg(added).arg(markers.size()));
     }

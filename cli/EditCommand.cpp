@@ -6,6 +6,7 @@
 #include "cli/ProjectSession.h"
 #include "cli/RecordJson.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/FileUtilities.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 
 #include <memory>
+#include <optional>
 
 namespace vantrell::cli
 {
@@ -23,8 +25,8 @@ namespace
 struct EditOptions {
     std::string file;
     std::string script;
-    std::string output;
-    std::string outputBin;
+    std::optional<std::string> output;
+    std::optional<std::string> outputBin;
     bool yes = false;
     bool quiet = false;
     bool ownOwners = false;
@@ -32,12 +34,16 @@ struct EditOptions {
 
 const QString standardStream = QStringLiteral("-");
 
-/// Whether two paths name the same file, existing or not.
+/// Whether two paths lead to the same file, existing or not.
 bool isSameFile(const QString &a, const QString &b)
 {
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath() ||
-           (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
+    const auto target = [](const QString &path) {
+        QFileInfo info(path);
+        for (int links = 0; links < 40 && info.isSymLink(); ++links)
+            info.setFile(info.symLinkTarget());
+        return info.absoluteFilePath();
+    };
+    return target(a) == target(b) || FileUtilities::isSameFile(a, b);
 }
 
 QByteArray resultOf(MyDocument &document)
@@ -65,8 +71,8 @@ bool writeBin(MyDocument &document, const QString &path)
 int edit(const EditOptions &options)
 {
     const QString file = fromArgument(options.file);
-    const QString output = fromArgument(options.output);
-    const QString outputBin = fromArgument(options.outputBin);
+    const QString output = fromArgument(options.output.value_or(""));
+    const QString outputBin = fromArgument(options.outputBin.value_or(""));
     const bool collides = !outputBin.isEmpty() && (isSameFile(outputBin, file) ||
                                                    (!output.isEmpty() && isSameFile(outputBin, output)));
     if (collides)
@@ -80,9 +86,9 @@ int edit(const EditOptions &options)
     session.setOwnOwners(options.ownOwners);
     if (!session.open(file) || !applyScript(script.value(), session, *presenter))
         return Failed;
-    if (!output.isEmpty() && !writeProject(session.document(), output))
+    if (options.output && !writeProject(session.document(), output))
         return Failed;
-    if (!outputBin.isEmpty() && !writeBin(session.document(), outputBin))
+    if (options.outputBin && !writeBin(session.document(), outputBin))
         return Failed;
     const bool silent = options.quiet || output == standardStream || outputBin == standardStream;
     return silent || print(resultOf(session.document())) ? Done : Failed;

@@ -173,6 +173,15 @@ bool MyDocument::refusesWhileSaving(const QString &alertTitle)
     return true;
 }
 
+Result<void> MyDocument::confirmReplacing(const QString &path)
+{
+    if (!confirmSavingRepaired(path))
+        return Failure{SaveFailure::notOverwritten};
+    if (m_knownFile->changeAt(path) && !confirmOverwriting(path))
+        return Failure{SaveFailure::changedElsewhere};
+    return {};
+}
+
 bool MyDocument::confirmSavingRepaired(const QString &path)
 {
     const bool isDamaged = !m_damagedFile.isNull() && QFileInfo(path) == QFileInfo(m_damagedFile);

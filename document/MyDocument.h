@@ -138,6 +138,8 @@ public:
     /// What the last save found at the path of the document's file may be overwritten; what comes there
     /// later may not.
     void overwriteChangedFile();
+    /// Asks what a save to that path would ask, for a path to which something else will be written.
+    Result<void> confirmReplacing(const QString &path);
     /// The document's file as it was read or written last.
     const std::shared_ptr<KnownFile> &knownFile() const { return m_knownFile; }
     /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.

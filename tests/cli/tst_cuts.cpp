@@ -131,6 +131,18 @@ private Q_SLOTS:
         QCOMPARE(run(u"carry ~/old.xml ~/new.xml"_s).status, 2);
         QCOMPARE(run(u"carry ~/old.xml ~/new.xml --preview -o ~/no.xml"_s).status, 2);
     }
+
+    void aRepairedOldCutIsNotReplacedUnasked()
+    {
+        const QByteArray damaged = project(sequence("Cut", QByteArray(), plainMarker)).chopped(8);
+        const QString path = m_home.addFile(u"cut off.xml"_s, damaged);
+        QStringList arguments{u"carry"_s, path, m_home.path(u"new.xml"_s), u"-o"_s, path};
+        const CliRun refused = runCli(arguments);
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.messages.contains("was not overwritten"), refused.messages.constData());
+        QCOMPARE(textOf(u"cut off.xml"_s), damaged);
+        QCOMPARE(runCli(arguments << u"--yes"_s).status, 0);
+    }
 };
 
 QTEST_GUILESS_MAIN(CutsTest)

@@ -209,6 +209,12 @@ private Q_SLOTS:
         QCOMPARE(edit(script, {QStringLiteral("-o"), m_home.path(QStringLiteral("no/out.xml"))}).status, 1);
         QCOMPARE(edit(script, {QStringLiteral("--output-bin"), m_home.path(QStringLiteral("in.xml"))}).status,
                  2);
+        QCOMPARE(edit(script, {QStringLiteral("-o"), QString()}).status, 1); // never as if it were not given
+        // A link to what the same run is about to write.
+        const QString link = m_home.path(QStringLiteral("link"));
+        QVERIFY(QFile::link(output(), link));
+        QCOMPARE(edit(script, {QStringLiteral("-o"), output(), QStringLiteral("--output-bin"), link}).status,
+                 2);
     }
 
     void repairedProject()
