@@ -51,6 +51,7 @@ std::int64_t tickStep(double framesPerSecond, double pixelsPerFrame, int width)
 CutStrips::CutStrips(QWidget *parent)
     : QAbstractScrollArea(parent)
 {
+    updateGutter();
     setAccessibleName(tr("Old and new cut"));
     setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -100,16 +101,29 @@ double CutStrips::longest() const
     return m_comparison ? std::max({strip(Which::Old).seconds(), strip(Which::New).seconds(), 0.1}) : 1;
 }
 
-/// Room for the names of the tracks on the left stays free of bars.
 int CutStrips::visibleWidth() const
 {
-    return std::max(viewport()->width() - 2 * fontMetrics().horizontalAdvance(QStringLiteral("A88")), 1);
+    return std::max(viewport()->width() - m_gutter, 1);
+}
+
+/// Measured once: places are computed for every event.
+void CutStrips::updateGutter()
+{
+    m_gutter = 2 * fontMetrics().horizontalAdvance(QStringLiteral("A88"));
+}
+
+void CutStrips::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        updateGutter();
+        updateScrollBars();
+    }
+    QAbstractScrollArea::changeEvent(event);
 }
 
 double CutStrips::x(double seconds) const
 {
-    const int gutter = viewport()->width() - visibleWidth();
-    return gutter * 3 / 4 + seconds * m_scale - horizontalScrollBar()->value();
+    return m_gutter * 3 / 4 + seconds * m_scale - horizontalScrollBar()->value();
 }
 
 double CutStrips::x(Which which, double frame) const
@@ -312,7 +326,7 @@ void CutStrips::paintStrip(QPainter &painter, Which which) const
                          palette().color(QPalette::AlternateBase));
         paintLane(painter, which, lane, top);
         if (laneHeight() >= lettered) {
-            const QRect name(0, top, viewport()->width() - visibleWidth(), laneHeight());
+            const QRect name(0, top, m_gutter, laneHeight());
             const int width = painter.fontMetrics().horizontalAdvance(lane.name) + 6;
             painter.fillRect(QRect(0, top, width, laneHeight()), palette().color(QPalette::Base));
             painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -408,47 +422,48 @@ void CutStrips::paintBar(QPainter &painter, const QRect &bar, const TrackEvent &
     painter.drawText(seen, Qt::AlignVCenter | Qt::AlignLeft, name);
 }
 
-/// The lines of events that are in both cuts, one for those that share their pixels.
+/// The lines of events that are in both cuts; of those of a kind that begin at the same pixels only one.
 void CutStrips::paintLines(QPainter &painter) const
 {
-    struct Line {
-        int from;
-        int to;
-        EventChange::Kind kind;
-    };
-    std::vector<Line> lines;
+    constexpr int pixels = 2;
+    constexpr double farAway = 1e5; // where the slope no longer shows
     const int width = viewport()->width();
+    const int top = stripBottom(Which::Old);
+    const int bottom = stripTop(Which::New) - 1;
+    struct Lines {
+        QList<QLine> lines;
+        std::vector<bool> areTaken; // the places where one begins, and beyond the edges where one ends
+    };
+    std::array<Lines, ChangeColors::kinds.size()> byKind;
+    for (Lines &one : byKind)
+        one.areTaken.resize(std::size_t(2 * width / pixels) + 2);
     for (const EventChange &change : m_comparison->changes) {
         if (!change.before || !change.after || !isWanted(change))
             continue;
         const TrackEvent &before = m_comparison->before.events[*change.before];
         const TrackEvent &after = m_comparison->after.events[*change.after];
-        if (!after.isItem())
-            continue;
         const double from = x(Which::Old, double(before.start + before.end) / 2);
         const double to = x(Which::New, double(after.start + after.end) / 2);
-        if (std::max(from, to) < 0 || std::min(from, to) > width)
+        if (!after.isItem() || std::max(from, to) < 0 || std::min(from, to) > width)
             continue;
-        // Far beyond the edges the slope does not show.
-        lines.push_back({int(std::clamp(from, -1e6, 1e6)), int(std::clamp(to, -1e6, 1e6)), change.kind});
+        Lines &one = byKind[std::size_t(change.kind)];
+        const bool begins = from >= 0 && from <= width;
+        const double place = begins ? from : width + std::clamp<double>(to, 0, width);
+        const auto slot = std::size_t(place / pixels);
+        if (one.areTaken[slot])
+            continue;
+        one.areTaken[slot] = true;
+        one.lines.append(
+            {int(std::clamp(from, -farAway, farAway)), top, int(std::clamp(to, -farAway, farAway)), bottom});
     }
-    const auto isBefore = [](const Line &a, const Line &b) {
-        const bool isPlainA = a.kind == EventChange::Kind::Unchanged;
-        const bool isPlainB = b.kind == EventChange::Kind::Unchanged;
-        return std::tuple(!isPlainA, a.kind, a.from, a.to) < std::tuple(!isPlainB, b.kind, b.from, b.to);
-    };
-    std::sort(lines.begin(), lines.end(), isBefore);
-    const auto end = std::unique(lines.begin(), lines.end(), [](const Line &a, const Line &b) {
-        return a.from == b.from && a.to == b.to && a.kind == b.kind;
-    });
-    lines.erase(end, lines.end());
-    constexpr std::size_t mostSmooth = 1500;
-    painter.setRenderHint(QPainter::Antialiasing, lines.size() <= mostSmooth);
-    const int top = stripBottom(Which::Old);
-    const int bottom = stripTop(Which::New) - 1;
-    for (const Line &line : lines) {
-        painter.setPen(ChangeColors::of(line.kind, palette()));
-        painter.drawLine(line.from, top, line.to, bottom);
+    qsizetype count = 0;
+    for (const Lines &one : byKind)
+        count += one.lines.size();
+    constexpr qsizetype mostSmooth = 300;
+    painter.setRenderHint(QPainter::Antialiasing, count <= mostSmooth);
+    for (auto kind = ChangeColors::kinds.rbegin(); kind != ChangeColors::kinds.rend(); ++kind) {
+        painter.setPen(ChangeColors::of(*kind, palette()));
+        painter.drawLines(byKind[std::size_t(*kind)].lines);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
@@ -479,7 +494,9 @@ void CutStrips::paintMarkers(QPainter &painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     const int oldTip = stripTop(Which::Old) - 1;
     const int newTip = stripBottom(Which::New);
-    std::array<int, 2> last = {-100, -100};
+    std::array<std::vector<bool>, 2> areDrawn; // by Which and pixel
+    for (std::vector<bool> &pixels : areDrawn)
+        pixels.resize(std::size_t(viewport()->width()));
     const auto draw = [&](Which which, std::int64_t frame, const QColor &color, int side) {
         const int at = int(x(which, double(frame)));
         if (at < -side || at > viewport()->width() + side)
@@ -509,11 +526,11 @@ void CutStrips::paintMarkers(QPainter &painter) const
     for (const CarriedMarker &marker : m_comparison->markers) {
         const bool isGone = marker.place.state == MarkerPlace::State::Gone;
         const auto drawOnce = [&](Which which, std::int64_t frame) {
-            int &drawn = last[std::size_t(which)];
-            const int at = int(x(which, double(frame)));
-            if (at == drawn)
+            std::vector<bool> &pixels = areDrawn[std::size_t(which)];
+            const double at = x(which, double(frame));
+            if (at < 0 || at >= double(pixels.size()) || pixels[std::size_t(at)])
                 return;
-            drawn = at;
+            pixels[std::size_t(at)] = true;
             draw(which, frame, colorOf(marker), side);
         };
         drawOnce(Which::Old, marker.place.oldFrame);

@@ -54,6 +54,7 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -81,6 +82,7 @@ private:
     int visibleWidth() const;
     double longest() const;
     void zoom(double factor, double around);
+    void updateGutter();
     void updateScrollBars();
     void showRange(double from, double to);
 
@@ -99,6 +101,7 @@ private:
     std::shared_ptr<const CutComparison> m_comparison;
     std::array<CutStrip, 2> m_strips; // by Which
     ChangeTableModel::Kinds m_kinds;
+    int m_gutter = 0;   // pixels beside the bars, for the names of the tracks
     double m_scale = 1; // pixels for a second
     bool m_showsAll = true;
     std::optional<std::size_t> m_chosen;
