@@ -58,9 +58,14 @@ bool holds(const RowRecord &marker, const QString &search)
 
 RowList NoteExporter::markers(const Filter &filter) const
 {
+    return markers(m_document.markerArray(), filter);
+}
+
+RowList NoteExporter::markers(const RowList &rows, const Filter &filter) const
+{
     const MenuPtr menu = m_document.sequenceMenu();
     RowList taken;
-    for (const RowRecordPtr &marker : m_document.markerArray()) {
+    for (const RowRecordPtr &marker : rows) {
         if (filter.color && marker->get(MarkerKey::color) != *filter.color)
             continue;
         if (filter.sequence &&
