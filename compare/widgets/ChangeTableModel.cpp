@@ -3,8 +3,8 @@
 #include "compare/ChangeDifference.h"
 #include "compare/widgets/ChangeColors.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
+#include <QHash>
 
 #include <algorithm>
 #include <limits>
@@ -103,10 +103,22 @@ void ChangeTableModel::applySort()
             for (std::size_t i = 0; i < keyed.size(); ++i)
                 m_shown[i] = keyed[i].second;
         };
+        const auto sortByText = [&](const auto &textOf) {
+            QHash<QString, int> ranks; // each distinct text gets its rank once
+            for (const std::size_t i : m_shown)
+                ranks.insert(textOf(m_comparison->changes[i]), 0);
+            QStringList texts = ranks.keys();
+            texts.sort(Qt::CaseInsensitive);
+            for (int rank = 0; rank < texts.size(); ++rank)
+                ranks[texts[rank]] = rank;
+            sortBy([&](const EventChange &change) { return ranks.value(textOf(change)); });
+        };
         if (m_sortColumn == Event)
-            sortBy([this](const EventChange &change) { return m_comparison->event(change).name.toLower(); });
+            sortByText([this](const EventChange &change) { return m_comparison->event(change).name; });
         else if (m_sortColumn == File)
-            sortBy([this](const EventChange &change) { return m_comparison->file(change).toLower(); });
+            sortByText([this](const EventChange &change) {
+                return m_comparison->file(change).section(QLatin1Char('/'), -1);
+            });
         else
             sortBy([this](const EventChange &change) {
                 return sortNumber(*m_comparison, change, m_sortColumn);

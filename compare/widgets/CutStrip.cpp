@@ -23,9 +23,9 @@ CutStrip::CutStrip(const CutComparison &comparison, Which which)
     }
     for (std::size_t i = 0; i < m_cut->events.size(); ++i) {
         const TrackEvent &event = m_cut->events[i];
-        const QString name = event.trackName();
-        if (m_lanes.empty() || m_lanes.back().name != name)
-            m_lanes.push_back({name, event.isAudio, i, i});
+        const TrackEvent *const before = i > 0 ? &m_cut->events[i - 1] : nullptr;
+        if (!before || before->isAudio != event.isAudio || before->track != event.track)
+            m_lanes.push_back({event.trackName(), event.isAudio, i, i});
         m_lanes.back().end = i + 1;
         m_endFrame = std::max(m_endFrame, event.end);
         if (event.kind == TrackEvent::Kind::Transition)
