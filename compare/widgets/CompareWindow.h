@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 
+class QAbstractTableModel;
 class QCheckBox;
 class QComboBox;
 class QFrame;
