@@ -240,6 +240,7 @@ bool AppController::openDocument(const QString &path, const QString &typeName)
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
     connect(window, &DocumentWindow::closeCancelled, this, &AppController::stayOpen);
     window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
+    window->setOtherWindows([this, window] { return windowsBeside(*window); });
     cascade(*window);
     window->show();
     m_startWindow->hide();
@@ -271,6 +272,16 @@ bool AppController::isOpenElsewhere(const QString &path, const DocumentWindow &w
             others.push_back(other);
     }
     return windowAt(path, others) != nullptr;
+}
+
+/// The other windows whose projects are ready.
+std::vector<DocumentWindow *> AppController::windowsBeside(const DocumentWindow &window) const
+{
+    std::vector<DocumentWindow *> others = documentWindows();
+    std::erase_if(others, [&window](const DocumentWindow *other) {
+        return other == &window || other->state() != DocumentWindow::State::Ready;
+    });
+    return others;
 }
 
 /// Moves the window diagonally until it covers no other one exactly.

@@ -97,6 +97,7 @@ private:
     void noteLoaded(DocumentWindow &window);
     DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
     bool isOpenElsewhere(const QString &path, const DocumentWindow &window) const;
+    std::vector<DocumentWindow *> windowsBeside(const DocumentWindow &window) const;
     void cascade(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();

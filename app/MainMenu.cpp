@@ -95,6 +95,7 @@ void MainMenu::makeFileMenu()
     m_revert = add(m_fileMenu, tr("Re&vert to Saved"), {}, m_document, &DocumentWindow::revert);
     m_fileMenu->addSeparator();
     makeMarkerListMenus();
+    m_compare = add(m_fileMenu, tr("Co&mpare with…"), {}, m_document, &DocumentWindow::compareWith);
     m_exportSequences = add(m_fileMenu, tr("Export C&hanged Sequences…"), {}, m_document,
                             &DocumentWindow::exportChangedSequences);
     m_send = add(m_fileMenu, QString(), {}, m_document, &DocumentWindow::sendToFCP);
@@ -280,6 +281,7 @@ void MainMenu::validateFileMenu()
                                       : tr("No sequence has been changed since the project was opened."));
     for (QAction *const action : m_reportActions)
         action->setEnabled(m_document && m_document->mayReport());
+    m_compare->setEnabled(m_document && m_document->comparison().mayCompare());
     m_importMenu->setEnabled(m_document && !isBusy);
     m_exportMenu->setEnabled(m_document && !isBusy);
 }

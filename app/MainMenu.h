@@ -56,6 +56,7 @@ private:
     QAction *m_save = nullptr;
     QAction *m_saveAs = nullptr;
     QAction *m_revert = nullptr;
+    QAction *m_compare = nullptr;
     QAction *m_send = nullptr;
     QAction *m_exportSequences = nullptr;
     QAction *m_undo = nullptr;

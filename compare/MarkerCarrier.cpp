@@ -97,7 +97,12 @@ QString CarriedMarker::stateName() const
 
 std::vector<CarriedMarker> MarkerCarrier::plan(const SequenceEvents &before, const SequenceEvents &after)
 {
-    const EventMatch match(before, after);
+    return plan(before, after, EventMatch(before, after));
+}
+
+std::vector<CarriedMarker> MarkerCarrier::plan(const SequenceEvents &before, const SequenceEvents &after,
+                                               const EventMatch &match)
+{
     const std::vector<MarkerSpan> markers = MarkerSpan::of(before);
     const std::vector<MarkerPlace> places = MarkerPlaces(before, after, match).placesOf(markers);
     PresentMarkers present;
@@ -120,43 +125,64 @@ std::size_t MarkerCarrier::carry(std::vector<CarriedMarker> &plan, const Sequenc
                                  MyDocument &document, MarkerEditor &editor, std::int64_t sequenceItem,
                                  WithoutPlace withoutPlace)
 {
-    std::size_t added = 0;
-    const DocumentEdit edit(document, Tab::Markers, QStringLiteral("Carry Markers"));
+    Progress progress;
     const RowView::Updates updates(document.rowView(Tab::Markers));
-    for (CarriedMarker &one : plan) {
-        MarkerPlace place = one.place;
-        if (place.state == MarkerPlace::State::Gone) {
-            if (withoutPlace == WithoutPlace::Left)
-                continue;
-            place.in = one.place.oldFrame;
-            place.duration = one.marker.duration;
-        }
-        if (one.isThere)
-            continue;
-        const XmlNode old = one.marker.element;
-        const std::int64_t out = place.duration > 0 ? place.in + place.duration : -1;
-        const int color = MarkerColors::indexOfElement(old.childElement("color"));
-        const auto rejected = [](const QString &reason) {
-            QVLog::appendLog(u"A marker could not be carried: %@", reason);
-        };
-        const RowRecordPtr record =
-            editor.addMarkerWithName(QStringLiteral(""), place.in, out, QStringLiteral(""),
-                                     MarkerColors::table()[std::size_t(color)].name, sequenceItem, rejected);
-        if (!record)
-            continue;
-        // As typed: what adding takes from a name or comment, and the tags that it refuses, come this way.
-        editor.updateXMLMarker(record, QStringLiteral("name"), one.name);
-        const QString comment = markerText(old, "comment");
-        editor.updateXMLMarker(record, QStringLiteral("comment"), comment);
-        MarkerComment::read(comment, *record);
-        const XmlNode marker = record->get(MarkerKey::markerElement);
-        copyContent(old, marker, *document.xmlDoc());
-        if (place.event)
-            editor.setXMLMarkerSequence(after.sequence, after.events[*place.event].element, record);
-        one.isAdded = true;
-        ++added;
+    carrySome(plan, after, document, editor, sequenceItem, progress, std::nullopt, withoutPlace);
+    return progress.added;
+}
+
+void MarkerCarrier::carrySome(std::vector<CarriedMarker> &plan, const SequenceEvents &after,
+                              MyDocument &document, MarkerEditor &editor, std::int64_t sequenceItem,
+                              Progress &progress, std::optional<std::chrono::milliseconds> limit,
+                              WithoutPlace withoutPlace)
+{
+    const auto start = std::chrono::steady_clock::now();
+    if (progress.group == 0)
+        progress.group = document.newEditGroup();
+    const DocumentEdit edit(document, Tab::Markers, QStringLiteral("Carry Markers"), progress.group);
+    while (progress.next < plan.size()) {
+        CarriedMarker &one = plan[progress.next++];
+        if (add(one, after, document, editor, sequenceItem, withoutPlace))
+            ++progress.added;
+        if (limit && std::chrono::steady_clock::now() - start >= *limit)
+            break;
     }
-    return added;
+}
+
+bool MarkerCarrier::add(CarriedMarker &one, const SequenceEvents &after, MyDocument &document,
+                        MarkerEditor &editor, std::int64_t sequenceItem, WithoutPlace withoutPlace)
+{
+    if (one.isThere || !one.isWanted)
+        return false;
+    MarkerPlace place = one.place;
+    if (place.state == MarkerPlace::State::Gone) {
+        if (!one.statedFrame && withoutPlace == WithoutPlace::Left)
+            return false;
+        place.in = one.statedFrame.value_or(place.oldFrame);
+        place.duration = one.marker.duration;
+    }
+    const XmlNode old = one.marker.element;
+    const std::int64_t out = place.duration > 0 ? place.in + place.duration : -1;
+    const int color = MarkerColors::indexOfElement(old.childElement("color"));
+    const auto rejected = [](const QString &reason) {
+        QVLog::appendLog(u"A marker could not be carried: %@", reason);
+    };
+    const RowRecordPtr record =
+        editor.addMarkerWithName(QStringLiteral(""), place.in, out, QStringLiteral(""),
+                                 MarkerColors::table()[std::size_t(color)].name, sequenceItem, rejected);
+    if (!record)
+        return false;
+    // As typed: what adding takes from a name or comment, and the tags that it refuses, come this way.
+    editor.updateXMLMarker(record, QStringLiteral("name"), one.name);
+    const QString comment = markerText(old, "comment");
+    editor.updateXMLMarker(record, QStringLiteral("comment"), comment);
+    MarkerComment::read(comment, *record);
+    const XmlNode marker = record->get(MarkerKey::markerElement);
+    copyContent(old, marker, *document.xmlDoc());
+    if (place.event)
+        editor.setXMLMarkerSequence(after.sequence, after.events[*place.event].element, record);
+    one.isAdded = true;
+    return true;
 }
 
 } // namespace vantrell

@@ -218,6 +218,8 @@ void DocumentWindow::endSession()
     if (!m_workbench)
         return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
+    Q_EMIT sessionEnding();
+    m_comparison.close();
     m_reports.close();
     m_workbench->document().disconnect(this);
     m_interface->disconnectFromWindow();
@@ -458,12 +460,26 @@ void DocumentWindow::applyOwnerListing()
         return;
     commitEditing();
     inventory.setOwnerListing(wanted);
+    listMarkersAgain();
+}
+
+void DocumentWindow::listMarkersAgain()
+{
+    if (!mayEdit())
+        return;
+    MarkerInventory &inventory = m_workbench->markerInventory();
     m_work.begin(tr("Listing markers…"), WindowState::Work::Fixed);
     m_workbench->document().runInBackground([&inventory] { inventory.populateMarkerData(); },
                                             [this] {
                                                 m_work.end();
                                                 updateOwnersNotice();
                                             });
+}
+
+void DocumentWindow::beginReading(const std::function<void()> &cancel)
+{
+    m_work.begin(tr("Comparing…"), cancel ? WindowState::Work::Expendable : WindowState::Work::Fixed, cancel);
+    m_work.hideSheet();
 }
 
 void DocumentWindow::showMarkerFieldsDialog()

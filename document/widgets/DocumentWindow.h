@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
+#include "document/widgets/WindowComparison.h"
 #include "document/widgets/WindowMarkerLists.h"
 #include "document/widgets/WindowReports.h"
 #include "document/widgets/WindowSaving.h"
@@ -16,6 +17,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QActionGroup;
 class QLabel;
@@ -90,6 +92,12 @@ public:
         m_saving.setOpenElsewhere(std::move(isOpenElsewhere));
     }
 
+    /// Tells the window how to find the other windows whose projects are ready.
+    void setOtherWindows(std::function<std::vector<DocumentWindow *>()> otherWindows)
+    {
+        m_comparison.setOtherWindows(std::move(otherWindows));
+    }
+
     // Quitting: the changes of all windows are settled before any of them closes.
 
     /// Asks about the changes, or saves them, and leaves the window open; changesSettled() reports the
@@ -137,6 +145,9 @@ public Q_SLOTS:
         m_markerLists.exportMarkerList(path, format);
     }
 
+    /// Asks what the project is compared with, and shows the comparison of two cuts.
+    void compareWith() { m_comparison.ask(); }
+
     /// Prints the selected rows of the current pane's table, or all of them. The print panel asks for the
     /// columns, and for paper or a PDF file.
     void printDocument() { m_reports.printDocument(); }
@@ -172,6 +183,8 @@ public:
     /// Always null: printDocument() is the only way to print.
     PrintOperation *printOperationWithSettings(const QVariantMap &, QString *) { return nullptr; }
     bool mayReport() const { return m_reports.mayReport(); }
+    WindowComparison &comparison() { return m_comparison; }
+    const WindowComparison &comparison() const { return m_comparison; }
 
     // For the classes that the window consists of
 
@@ -189,6 +202,12 @@ public:
     QString fileTitle() const;
     void selectToolbarItem(Tab tab);
     void hideSending() { m_sending.hide(); }
+    /// Lists the markers of the document anew, in the background.
+    void listMarkersAgain();
+    /// Another window reads the project in the background: nobody may edit it until endReading(). `cancel`
+    /// asks for that; without it (empty) closing the window waits.
+    void beginReading(const std::function<void()> &cancel);
+    void endReading() { m_work.end(); }
     void finishSaving(bool isSaved) { m_saving.finish(isSaved); }
     void reload();
     /// Closes the window without asking.
@@ -209,6 +228,8 @@ Q_SIGNALS:
     void reportPrinted(bool isPrinted);
     void reportExported(bool isWritten);
     void loadFailed(const QString &path);
+    /// The document is about to go, because the window closes or loads its file again.
+    void sessionEnding();
     /// The user has dropped files to be opened.
     void filesDropped(const QStringList &paths);
     /// The window is hidden and will delete itself.
@@ -250,6 +271,7 @@ private:
     WindowSaving m_saving{{*this, m_state, m_work}};
     WindowSending m_sending{{*this, m_state, m_work}};
     WindowMarkerLists m_markerLists{{*this, m_state, m_work}};
+    WindowComparison m_comparison{{*this, m_state, m_work}};
     WindowReports m_reports{{*this, m_state, m_work}, m_defaults};
 
     QToolBar *m_toolBar = nullptr;

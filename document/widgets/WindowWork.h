@@ -32,6 +32,8 @@ public:
     /// `cancel` ends the operation early by calling end() sooner or later.
     void begin(const QString &text, WindowState::Work work, std::function<void()> cancel = {},
                WindowState::Next next = WindowState::Next::Nothing);
+    /// Another window shows the progress of the operation.
+    void hideSheet() { m_delay.stop(); }
     /// The operation can no longer be cancelled.
     void makeFixed(const QString &text, std::size_t done, std::size_t total);
     void end();

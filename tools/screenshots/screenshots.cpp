@@ -1,5 +1,6 @@
 // Takes a picture of each tab of a project, each sheet, the start window, a project that cannot be opened,
-// and of the way to Final Cut Pro and back, light and dark.
+// of the way to Final Cut Pro and back, and of the comparison with the project's recut beside it, light and
+// dark. Those of the manual go to the folder manual/images beside the other one.
 //
 // usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen, while fcp-host holds the
 // project and takes a moment for each answer
@@ -9,6 +10,8 @@
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
+#include "compare/widgets/ChangeTableModel.h"
+#include "compare/widgets/CompareWindow.h"
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/ProgressSheet.h"
 #include "markers/widgets/MarkersPane.h"
@@ -24,6 +27,7 @@
 #include <QPixmap>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTableView>
 #include <QTimer>
 
 #include <algorithm>
@@ -113,6 +117,7 @@ public:
         take(*m_controller.currentWindow(), "failure");
         m_controller.currentWindow()->close();
         takeRoundTrip();
+        takeComparison(project);
         take(m_controller.startWindow(), "start");
         return m_isTaken;
     }
@@ -191,6 +196,25 @@ private:
         waitFor("alert", [&window, progress] { return visibleSheet(window) && !progress->isVisible(); });
         takeSheet(window, "sent");
         waitFor("end of the send", [&window] { return !window.isSending(); });
+        window.close();
+    }
+
+    void takeComparison(const QString &project)
+    {
+        m_controller.openFiles(
+            {QString(project).replace(QStringLiteral(".xml"), QStringLiteral(" Recut.xml"))});
+        DocumentWindow &window = *m_controller.currentWindow();
+        waitFor("recut", [&window] { return !window.isLoading(); });
+        window.comparison().compareWithFile(project);
+        waitFor("comparison",
+                [&window] { return window.comparison().view() && window.comparison().view()->comparison(); });
+        CompareWindow &view = *window.comparison().view();
+        view.resize(1180, 860);
+        for (QTableView *const table : view.findChildren<QTableView *>()) {
+            if (table->model()->columnCount() == ChangeTableModel::columns)
+                table->selectRow(6);
+        }
+        take(view, "../manual/images/compare");
         window.close();
     }
 
