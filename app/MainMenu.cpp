@@ -48,6 +48,7 @@ MainMenu::MainMenu(AppController &controller, QMainWindow &window, DocumentWindo
     makeFileMenu();
     makeEditMenu();
     makeViewMenu();
+    makeMediaMenu();
     makeHelpMenu();
     connect(&m_controller.recentFiles(), &RecentFiles::changed, this, &MainMenu::fillRecentMenu);
     fillRecentMenu();
@@ -162,6 +163,22 @@ void MainMenu::makeViewMenu()
     connect(m_sortMenu, &QMenu::aboutToShow, this, &MainMenu::fillSortMenu);
 }
 
+void MainMenu::makeMediaMenu()
+{
+    QMenu *const menu = addMenu(tr("&Media"));
+    m_mediaActions << add(menu, tr("&Relink…"), {}, m_document, &DocumentWindow::relinkMedia)
+                   << add(menu, tr("&Path Mappings…"), {}, m_document, &DocumentWindow::editPathMappings);
+    menu->addSeparator();
+    m_mediaActions << add(menu, tr("&Export List…"), {}, m_document, &DocumentWindow::exportMediaList)
+                   << add(menu, tr("&Verify List…"), {}, m_document, &DocumentWindow::verifyMediaList);
+    menu->addSeparator();
+    m_mediaUses = menu->addAction(tr("Show &Uses"));
+    m_mediaUses->setCheckable(true);
+    m_documentActions << m_mediaUses;
+    if (m_document)
+        connect(m_mediaUses, &QAction::triggered, m_document, &DocumentWindow::showMediaUses);
+}
+
 void MainMenu::makeHelpMenu()
 {
     QMenu *const menu = addMenu(tr("&Help"));
@@ -228,9 +245,12 @@ void MainMenu::validate()
     if (m_document && m_document->isClosing())
         return;
     validateFileMenu();
+    for (QAction *const action : m_mediaActions)
+        action->setEnabled(m_document && m_document->document() && m_document->mayEdit());
     const bool showsPanes = m_document && m_document->state() != DocumentWindow::State::Failed;
     for (QAction *const action : m_documentActions)
         action->setEnabled(showsPanes);
+    m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_sortMenu->setEnabled(showsPanes);
     validateUndo();
     if (!showsPanes) {

@@ -29,6 +29,7 @@ private:
     void makeMarkerListMenus();
     void makeEditMenu();
     void makeViewMenu();
+    void makeMediaMenu();
     void makeHelpMenu();
     QMenu *addMenu(const QString &title);
     template <typename Receiver, typename Operation>
@@ -63,9 +64,11 @@ private:
     QAction *m_redo = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_qcLogging = nullptr;
+    QAction *m_mediaUses = nullptr;
     QList<QAction *> m_reportActions;   // print and export reports
     QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab
+    QList<QAction *> m_mediaActions;    // need a project that may be changed
 };
 
 } // namespace vantrell

@@ -2,7 +2,7 @@
 #include "cli/JsonText.h"
 #include "cli/MediaOptions.h"
 #include "cli/TextTable.h"
-#include "cli/TransferText.h"
+#include "handover/TransferText.h"
 #include "handover/Verification.h"
 #include "media/MediaKeys.h"
 #include "support/files/Descriptor.h"

@@ -37,23 +37,6 @@ const char *stateOf(const RelinkMatch &match)
     return match.candidates.empty() ? "missing" : match.candidates.size() == 1 ? "found" : "several";
 }
 
-QString matchText(NameMatch match)
-{
-    switch (match) {
-    case NameMatch::Same:
-        return QStringLiteral("same name");
-    case NameMatch::UnicodeForm:
-        return QStringLiteral("other Unicode form");
-    case NameMatch::Case:
-        return QStringLiteral("other case");
-    case NameMatch::Escapes:
-        return QStringLiteral("other escapes");
-    case NameMatch::None:
-        break;
-    }
-    return QString();
-}
-
 QByteArray relinkAsJson(const std::vector<RelinkMatch> &matches, std::size_t relinked)
 {
     Json files = Json::array();
@@ -81,7 +64,7 @@ QByteArray relinkAsTable(const std::vector<RelinkMatch> &matches)
         if (match.candidates.empty())
             table.addRow({match.missing.url, state, QString(), QString()});
         for (const RelinkCandidate &candidate : match.candidates)
-            table.addRow({match.missing.url, state, candidate.file.path, matchText(candidate.name)});
+            table.addRow({match.missing.url, state, candidate.file.path, FileNames::textOf(candidate.name)});
     }
     return table.toBytes();
 }

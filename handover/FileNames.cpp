@@ -48,6 +48,23 @@ NameMatch match(const QString &wanted, const QString &found)
     return relaxed(wanted) == relaxed(found) ? NameMatch::Escapes : NameMatch::None;
 }
 
+QString textOf(NameMatch match)
+{
+    switch (match) {
+    case NameMatch::Same:
+        return QStringLiteral("same name");
+    case NameMatch::UnicodeForm:
+        return QStringLiteral("other Unicode form");
+    case NameMatch::Case:
+        return QStringLiteral("other case");
+    case NameMatch::Escapes:
+        return QStringLiteral("other escapes");
+    case NameMatch::None:
+        break;
+    }
+    return QString();
+}
+
 QString pathOfReference(const QString &url)
 {
     if (const auto path = QVXMLParser::filenameFromPathURLString(url))

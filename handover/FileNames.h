@@ -23,6 +23,9 @@ QString relaxed(const QString &name);
 
 NameMatch match(const QString &wanted, const QString &found);
 
+/// How well names agree, in words such as "other case"; null for None.
+QString textOf(NameMatch match);
+
 /// The file name and the whole path that a project's URL stands for, also when the text is no valid URL or a
 /// path with drive letter and backslashes.
 QString pathOfReference(const QString &url);

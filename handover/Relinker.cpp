@@ -1,7 +1,7 @@
 #include "handover/Relinker.h"
 
 #include "document/DocumentEdit.h"
-#include "handover/MediaHeader.h"
+#include "media/MediaFacts.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
 #include "media/MediaUses.h"
@@ -14,6 +14,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <set>
 #include <unordered_map>
@@ -25,6 +26,7 @@ namespace
 {
 
 constexpr double durationTolerance = 0.1; // seconds: a few frames, for sound that ends beside its picture
+constexpr double rateTolerance = 0.01;    // frames a second
 
 std::optional<double> secondsOf(XmlNode file)
 {
@@ -33,6 +35,12 @@ std::optional<double> secondsOf(XmlNode file)
     if (!frames || !rate || *frames <= 0)
         return std::nullopt;
     return double(*frames) * (rate->ntsc ? 1.001 : 1) / double(rate->timebase);
+}
+
+std::optional<double> rateOf(XmlNode file)
+{
+    const std::optional<FrameRate> rate = FrameRate::ofElement(file);
+    return rate ? std::optional(double(rate->timebase) / (rate->ntsc ? 1.001 : 1)) : std::nullopt;
 }
 
 int alikeFolders(const QString &a, const QString &b)
@@ -47,22 +55,87 @@ int alikeFolders(const QString &a, const QString &b)
     return alike;
 }
 
-bool hasDuration(const RelinkCandidate &candidate, double seconds)
+/// Whether two things that are both known agree.
+bool agree(const std::optional<double> &a, const std::optional<double> &b, double tolerance)
 {
-    return candidate.seconds && std::abs(*candidate.seconds - seconds) <= durationTolerance;
+    return a && b && std::abs(*a - *b) <= tolerance;
 }
 
-/// Leaves the candidates of the expected duration when there are any.
-void decideByDuration(RelinkMatch &match)
+bool agree(const QString &a, const QString &b)
 {
-    if (match.candidates.size() < 2 || !match.missing.seconds)
+    return !a.isEmpty() && a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+/// What the project and a header can both know of a file, the most telling first.
+struct Trait {
+    const char *contradiction;
+    bool (*isKnown)(const MissingFile &missing, const MediaHeader::Facts &header);
+    bool (*agrees)(const MissingFile &missing, const MediaHeader::Facts &header);
+};
+
+constexpr std::array traits{
+    Trait{"other duration",
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return missing.seconds && header.seconds;
+          },
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return agree(missing.seconds, header.seconds, durationTolerance);
+          }},
+    Trait{"other timecode",
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return missing.start && header.start;
+          },
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return agree(missing.start, header.start, durationTolerance);
+          }},
+    Trait{"other reel",
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return !missing.reel.isEmpty() && !header.reel.isEmpty();
+          },
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return agree(missing.reel, header.reel);
+          }},
+    Trait{"other rate",
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return missing.rate && header.rate;
+          },
+          [](const MissingFile &missing, const MediaHeader::Facts &header) {
+              return agree(missing.rate, header.rate, rateTolerance);
+          }},
+};
+
+/// Leaves the candidates that agree with the project in a trait when there are any.
+void decideByHeaders(RelinkMatch &match)
+{
+    if (match.candidates.size() < 2)
+        return;
+    const MissingFile &missing = match.missing;
+    if (!missing.seconds && !missing.start && !missing.rate && missing.reel.isEmpty())
         return;
     for (RelinkCandidate &candidate : match.candidates)
-        candidate.seconds = MediaHeader::durationOf(candidate.file.path);
-    const double seconds = *match.missing.seconds;
-    const auto fits = [seconds](const RelinkCandidate &candidate) { return hasDuration(candidate, seconds); };
-    if (std::any_of(match.candidates.begin(), match.candidates.end(), fits))
-        std::erase_if(match.candidates, std::not_fn(fits));
+        Relinker::readHeader(candidate);
+    for (const Trait &trait : traits) {
+        const auto agrees = [&](const RelinkCandidate &candidate) {
+            return trait.agrees(missing, *candidate.header);
+        };
+        if (std::any_of(match.candidates.begin(), match.candidates.end(), agrees))
+            std::erase_if(match.candidates, std::not_fn(agrees));
+    }
+}
+
+/// What the project says about the start of a file, and its reel.
+void readTimecode(XmlNode file, MissingFile &missing)
+{
+    const XmlNode timecode = file.childElement("timecode");
+    if (!timecode)
+        return;
+    missing.reel = timecode.childElement("reel").childElement("name").stringValue();
+    const std::optional<FrameRate> ownRate = FrameRate::ofElement(timecode);
+    const std::optional<FrameRate> rate = ownRate ? ownRate : FrameRate::ofElement(file);
+    bool isNumber = false;
+    const qint64 frame = timecode.childElement("frame").stringValue().toLongLong(&isNumber);
+    if (rate && isNumber && frame >= 0)
+        missing.start = double(frame) * (rate->ntsc ? 1.001 : 1) / double(rate->timebase);
 }
 
 /// The record of a file as it is after relinking. The keys come in the order of a new record.
@@ -76,12 +149,7 @@ void updateRecord(RowRecord &record, const QString &url, std::int64_t usage, con
     updated.set(MediaKey::rawpath, url);
     updated.set(MediaKey::usageCount, usage);
     updated.set(MediaKey::filetype, MediaFile::fileTypeForPath(path));
-    if (!facts.exists)
-        updated.set(MediaKey::missing, true);
-    if (facts.modified)
-        updated.set(MediaKey::modDate, QDateTime::fromMSecsSinceEpoch(*facts.modified, Qt::UTC));
-    if (facts.size)
-        updated.set(MediaKey::filesize, *facts.size);
+    setFileFacts(updated, facts);
     record = updated;
 }
 
@@ -107,8 +175,13 @@ std::vector<MissingFile> Relinker::missingFiles() const
             const QString path = FileNames::pathOfReference(url);
             files.push_back({url, path, MediaFile::splitPath(path).filename, std::nullopt});
         }
-        if (!files[at->second].seconds)
-            files[at->second].seconds = secondsOf(element.parent());
+        MissingFile &file = files[at->second];
+        if (!file.seconds)
+            file.seconds = secondsOf(element.parent());
+        if (!file.rate)
+            file.rate = rateOf(element.parent());
+        if (!file.start && file.reel.isEmpty())
+            readTimecode(element.parent(), file);
     }
     return files;
 }
@@ -147,17 +220,38 @@ std::vector<RelinkMatch> Relinker::matches(const std::vector<MissingFile> &missi
                 if (name < best)
                     match.candidates.clear();
                 best = name;
-                match.candidates.push_back(
-                    {found[index], name, alikeFolders(file.path, found[index].path), std::nullopt});
+                match.candidates.push_back({found[index], name, alikeFolders(file.path, found[index].path)});
             }
         }
-        decideByDuration(match);
+        decideByHeaders(match);
         matches.push_back(std::move(match));
     }
     return matches;
 }
 
+void Relinker::readHeader(RelinkCandidate &candidate)
+{
+    if (!candidate.header)
+        candidate.header = MediaHeader::read(candidate.file.path);
+}
+
+QStringList Relinker::contradictions(const MissingFile &missing, const RelinkCandidate &candidate)
+{
+    QStringList texts;
+    for (const Trait &trait : traits) {
+        if (candidate.header && trait.isKnown(missing, *candidate.header) &&
+            !trait.agrees(missing, *candidate.header))
+            texts.append(QString::fromLatin1(trait.contradiction));
+    }
+    return texts;
+}
+
 std::size_t Relinker::relink(const std::vector<RelinkChoice> &choices)
+{
+    return relink(choices, MediaUses(m_document));
+}
+
+std::size_t Relinker::relink(const std::vector<RelinkChoice> &choices, const MediaUses &uses)
 {
     static const XmlQuery query(QStringLiteral(".//file/pathurl[1]"));
     if (!m_document.xmlDoc() || choices.empty() ||
@@ -168,7 +262,6 @@ std::size_t Relinker::relink(const std::vector<RelinkChoice> &choices)
         places.emplace(choice.url,
                        std::pair(FileNames::urlOfPath(choice.file.path, choice.url), choice.file.facts));
 
-    const MediaUses uses(m_document);
     const MenuPtr menu = m_document.sequenceMenu();
     const std::vector<MediaUses::File> files = uses.files({});
     const DocumentEdit edit(m_document, Tab::Media, QStringLiteral("Relink"));

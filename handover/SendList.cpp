@@ -31,6 +31,27 @@ QString textOf(const RowRecord &record, const RecordKey &key)
 
 } // namespace
 
+std::vector<File> files(const RowList &records, const QStringList &places, const MediaUses *uses,
+                        const MediaUses::Choice &choice, bool missingToo, std::size_t &missing)
+{
+    std::vector<MediaUses::File> used;
+    if (uses)
+        used = uses->files(choice);
+    std::vector<File> files;
+    missing = 0;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        if (!missingToo && records[i]->get(MediaKey::missing)) {
+            ++missing;
+            continue;
+        }
+        File file{records[i], places[qsizetype(i)], std::nullopt};
+        if (const auto index = uses ? uses->indexOf(records[i]->get(MediaKey::rawpath)) : std::nullopt)
+            file.uses = used[*index];
+        files.push_back(std::move(file));
+    }
+    return files;
+}
+
 QByteArray csv(const std::vector<File> &files)
 {
     QByteArray text =

@@ -22,6 +22,11 @@ struct File {
     std::optional<MediaUses::File> uses;
 };
 
+/// The records as files to send; those of missing files only where \a missingToo, else they are counted in \a
+/// missing. \a places are the records' paths on this machine. \a uses may be null.
+std::vector<File> files(const RowList &records, const QStringList &places, const MediaUses *uses,
+                        const MediaUses::Choice &choice, bool missingToo, std::size_t &missing);
+
 /// Comma-separated values with a line of titles and line ends of carriage return and line feed, in UTF-8.
 /// Sizes are bytes, dates ISO 8601 in UTC; Usage is the usage count of the record, Uses the one of MediaUses.
 QByteArray csv(const std::vector<File> &files);

@@ -160,14 +160,21 @@ private:
 
 MediaFilter::MediaFilter(MyDocument &document)
     : m_document(document)
+    , m_columns(mediaColumns)
 {
-    m_document.rowView(Tab::Media).setFilter(mediaColumns, [this] {
+    m_document.rowView(Tab::Media).setFilter(m_columns, [this] {
         const auto choice = std::make_shared<Choice>(m_document.viewState(), m_condition);
         return RowView::Filter{
             .passes = [choice](const RowRecord &record) { return choice->passes(record); },
             .shown = [this,
                       choice] { noteShown(choice->statistics().record(), choice->statistics().total()); }};
     });
+}
+
+void MediaFilter::setAdditionalColumns(const Columns &columns)
+{
+    m_columns = mediaColumns;
+    m_columns.insert(m_columns.end(), columns.begin(), columns.end());
 }
 
 void MediaFilter::changeMediaFilter()

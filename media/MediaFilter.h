@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "media/MediaDrives.h"
+#include "rows/Column.h"
 
 #include <QObject>
 
@@ -37,6 +38,9 @@ public:
         m_condition = std::move(condition);
     }
 
+    /// Columns that the rows can be sorted by besides those of the table. Before the document is loaded.
+    void setAdditionalColumns(const Columns &columns);
+
     /// Fills the labels of the filtered media and the chart from a record of statistics
     /// (MediaStatisticsKey).
     void updateMediaStats(const RowRecord &statistics);
@@ -55,6 +59,7 @@ private:
     void noteShown(RowRecord statistics, std::uint64_t totalSize);
 
     MyDocument &m_document;
+    Columns m_columns;
     std::function<bool(const RowRecord &)> m_condition;
     RowRecord m_statistics;
 };

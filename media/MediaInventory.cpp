@@ -1,5 +1,6 @@
 #include "media/MediaInventory.h"
 
+#include "media/MediaFacts.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
 #include "support/desktop/Workspace.h"
@@ -184,18 +185,9 @@ RowList MediaInventory::recordsOf(const std::vector<File> &files, const FileChec
             record->set(MediaKey::usageCount, usage != m_tempUsageDict.constEnd() ? usage->count : 0);
             record->set(MediaKey::filetype, MediaFile::fileTypeForPath(*file.path));
         }
-        if (!answers[i]) {
-            ++unanswered;
-        } else if (!answers[i]->exists) {
-            record->set(MediaKey::missing, true);
-        } else {
-            if (const auto modified = answers[i]->modified)
-                record->set(MediaKey::modDate, QDateTime::fromMSecsSinceEpoch(*modified, Qt::UTC));
-            if (const auto size = answers[i]->size) {
-                record->set(MediaKey::filesize, *size);
-                total += std::uint64_t(*size);
-            }
-        }
+        setFileFacts(*record, answers[i]);
+        unanswered += answers[i] ? 0 : 1;
+        total += std::uint64_t(record->get(MediaKey::filesize));
         records.push_back(record);
     }
     if (unanswered > 0)

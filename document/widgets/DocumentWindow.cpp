@@ -187,8 +187,11 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
 {
     m_interface = std::make_shared<DocumentWindowInterface>(this);
     m_workbench = std::make_unique<Workbench>(*m_interface, Workbench::Inventories::All, &m_defaults);
-    m_panes = {new MediaPane(*m_workbench, m_defaults), new EffectsPane(*m_workbench, m_defaults),
-               new MarkersPane(*m_workbench, m_defaults)};
+    m_media.start();
+    auto *const media = new MediaPane(*m_workbench, m_defaults);
+    connect(media, &MediaPane::relinkRequested, this, [this](const QString &url) { m_media.relink(url); });
+    connect(media, &MediaPane::exportListRequested, this, &DocumentWindow::exportMediaList);
+    m_panes = {media, new EffectsPane(*m_workbench, m_defaults), new MarkersPane(*m_workbench, m_defaults)};
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
     m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
@@ -221,6 +224,7 @@ void DocumentWindow::endSession()
     Q_EMIT sessionEnding();
     m_comparison.close();
     m_reports.close();
+    m_media.close();
     m_workbench->document().disconnect(this);
     m_interface->disconnectFromWindow();
     qDeleteAll(findChildren<MarkerListImport *>());
@@ -261,6 +265,7 @@ void DocumentWindow::inventoriesEnded()
     updateEditing();
     updateOwnersNotice();
     applyOwnerListing();
+    m_media.applyMappings();
     Q_EMIT menusChanged();
 }
 
@@ -438,6 +443,8 @@ void DocumentWindow::applyDefaultsChange(const QString &key)
     }
     if (key == MarkerInventory::ownOwnersDefault)
         applyOwnerListing();
+    if (key == PathMappings::defaultsKey)
+        m_media.applyMappings();
 }
 
 /// Tells the user when markers are listed under other owners than their own.
@@ -492,6 +499,16 @@ void DocumentWindow::showMarkerPresetDialog()
 {
     toolbarMarkers();
     static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerPresetDialog();
+}
+
+void DocumentWindow::showMediaUses(bool isShown)
+{
+    static_cast<MediaPane &>(pane(Tab::Media)).setShowsUses(isShown);
+}
+
+bool DocumentWindow::showsMediaUses() const
+{
+    return m_workbench && static_cast<MediaPane &>(pane(Tab::Media)).showsUses();
 }
 
 QString DocumentWindow::folder() const

@@ -3,6 +3,7 @@
 #include "document/DocumentInterface.h"
 #include "document/widgets/WindowComparison.h"
 #include "document/widgets/WindowMarkerLists.h"
+#include "document/widgets/WindowMedia.h"
 #include "document/widgets/WindowReports.h"
 #include "document/widgets/WindowSaving.h"
 #include "document/widgets/WindowSending.h"
@@ -147,6 +148,24 @@ public Q_SLOTS:
 
     /// Asks what the project is compared with, and shows the comparison of two cuts.
     void compareWith() { m_comparison.ask(); }
+    /// Looks for missing media files in other folders, with a preview.
+    void relinkMedia() { m_media.relink(QString()); }
+    void editPathMappings() { m_media.editPathMappings(); }
+    /// Asks for the form of a list of the media files and for its file, and writes it in the background;
+    /// mediaListExported() reports the result.
+    void exportMediaList() { m_media.exportList(); }
+    void exportMediaListTo(const QString &path, vantrell::MediaListFormat format,
+                           const vantrell::MediaListScope &scope)
+    {
+        m_media.exportListTo(path, format, scope);
+    }
+    /// Asks for a media hash list and compares the files with it in the background; mediaListVerified()
+    /// reports whether that was possible.
+    void verifyMediaList() { m_media.verifyList(); }
+    /// Shows or hides the columns of the Media tab that tell what the sequences use.
+    void showMediaUses(bool isShown);
+    bool showsMediaUses() const;
+    void verifyMediaListAt(const QString &path) { m_media.verifyListAt(path); }
 
     /// Prints the selected rows of the current pane's table, or all of them. The print panel asks for the
     /// columns, and for paper or a PDF file.
@@ -224,6 +243,12 @@ Q_SIGNALS:
     void markersImported(std::size_t count);
     void markersExported(bool isWritten);
     void changedSequencesExported(bool isWritten);
+    /// The project uses that many files from other places, and the rows tell about these.
+    void mediaRelinked(std::size_t count);
+    /// The media files were looked for again, as path mappings have changed.
+    void mediaChecked();
+    void mediaListExported(bool isWritten);
+    void mediaListVerified(bool isVerified);
     /// The print panel has closed.
     void reportPrinted(bool isPrinted);
     void reportExported(bool isWritten);
@@ -272,6 +297,7 @@ private:
     WindowSending m_sending{{*this, m_state, m_work}};
     WindowMarkerLists m_markerLists{{*this, m_state, m_work}};
     WindowComparison m_comparison{{*this, m_state, m_work}};
+    WindowMedia m_media{{*this, m_state, m_work}, m_defaults};
     WindowReports m_reports{{*this, m_state, m_work}, m_defaults};
 
     QToolBar *m_toolBar = nullptr;

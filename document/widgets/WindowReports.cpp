@@ -2,6 +2,7 @@
 
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/WindowWork.h"
+#include "media/MediaColumns.h"
 #include "report/PrintHelper.h"
 #include "report/ReportGenerator.h"
 #include "report/ReportTable.h"
@@ -32,12 +33,15 @@ namespace
 const QString projectTitleKey = QStringLiteral("projectTitle");
 const QString printSettingsKey = QStringLiteral("printSettings");
 
-/// The columns in their present order.
+/// The columns in their present order, without those that tell of the use of media.
 Columns columnsOf(const TabPane &pane)
 {
     Columns columns;
-    for (const QString &identifier : pane.columns())
+    for (const QString &identifier : pane.columns()) {
+        if (pane.tab() == Tab::Media && !findColumn(mediaColumns, identifier))
+            continue;
         columns.push_back(pane.model().columns()[std::size_t(pane.model().columnOf(identifier))]);
+    }
     return columns;
 }
 

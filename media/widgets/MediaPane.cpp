@@ -1,8 +1,10 @@
 #include "media/widgets/MediaPane.h"
 
 #include "media/MediaFile.h"
+#include "media/MediaKeys.h"
 #include "media/widgets/MediaTableModel.h"
 #include "media/widgets/QVGraphView.h"
+#include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
 #include "table/widgets/QVTableView.h"
@@ -13,6 +15,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -25,13 +28,25 @@
 namespace vantrell
 {
 
+namespace
+{
+
+const QString useColumnsKey = QStringLiteral("mediaUseColumns");
+
+} // namespace
+
 MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new MediaTableModel(workbench.document()), parent)
     , m_kinds(new QComboBox(this))
     , m_drives(new QComboBox(this))
     , m_reveal(new QPushButton(tr("&Reveal"), this))
+    , m_relink(new QPushButton(tr("Re&link…"), this))
+    , m_exportList(new QPushButton(tr("E&xport List…"), this))
     , m_chart(new QVGraphView(this))
+    , m_defaults(defaults)
+    , m_useColumns(mediaUseColumns(m_uses))
 {
+    workbench.mediaFilter().setAdditionalColumns(m_useColumns);
     makeControls();
     makeFooter();
     table().setAccessibleName(tr("Media files"));
@@ -47,7 +62,21 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     });
     menu->addAction(tr("Reveal in File Browser"), this, &MediaPane::revealMediaInFinder);
     menu->addAction(tr("Copy"), this, &TabPane::copySelection);
+    menu->addSeparator();
+    QAction *const relink =
+        menu->addAction(tr("Relink…"), this, [this] { Q_EMIT relinkRequested(selectedMissingUrl()); });
+    connect(menu, &QMenu::aboutToShow, this,
+            [this, relink] { relink->setEnabled(isEditingEnabled() && !selectedMissingUrl().isNull()); });
     table().setMenu(menu);
+    QHeaderView *const header = table().horizontalHeader();
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, &MediaPane::showHeaderMenu);
+    // Relinking gives files other URLs.
+    const MyDocument &document = workbench.document();
+    for (const auto signal :
+         {&MyDocument::inventoriesFinished, &MyDocument::historyChanged, &MyDocument::editingAllowedChanged})
+        connect(&document, signal, this, &MediaPane::updateUses);
+    restoreUseColumns();
     updateControls();
 }
 
@@ -61,10 +90,14 @@ void MediaPane::makeControls()
     m_drives->setToolTip(tr("Show the files of one drive only"));
     m_drives->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_reveal->setToolTip(tr("Show the selected file in the file browser"));
-    addControls({m_kinds, m_drives, m_reveal});
+    m_relink->setToolTip(tr("Find the missing files in other folders"));
+    m_exportList->setToolTip(tr("Write a list of the files to be sent, with checksums if wanted"));
+    addControls({m_kinds, m_drives, m_reveal, nullptr, m_relink, m_exportList});
     connect(m_kinds, &QComboBox::activated, this, &MediaPane::applyFilters);
     connect(m_drives, &QComboBox::activated, this, &MediaPane::applyFilters);
     connect(m_reveal, &QPushButton::clicked, this, &MediaPane::revealMediaInFinder);
+    connect(m_relink, &QPushButton::clicked, this, [this] { Q_EMIT relinkRequested(QString()); });
+    connect(m_exportList, &QPushButton::clicked, this, &MediaPane::exportListRequested);
 }
 
 void MediaPane::makeFooter()
@@ -142,6 +175,91 @@ void MediaPane::setMediaChart(const std::vector<double> &values)
     m_chart->setAccessibleDescription(text);
 }
 
+// What the sequences use
+
+void MediaPane::setShowsUses(bool isShown)
+{
+    QStringList identifiers;
+    if (isShown) {
+        for (const Column &column : m_useColumns)
+            identifiers.append(column.identifier);
+    }
+    storeUseColumns(identifiers);
+}
+
+void MediaPane::storeUseColumns(const QStringList &identifiers)
+{
+    m_defaults.setValue(useColumnsKey, identifiers.isEmpty() ? QVariant() : QVariant(identifiers));
+}
+
+void MediaPane::applyDefaultsChange(const QString &key)
+{
+    if (key == useColumnsKey)
+        restoreUseColumns();
+    TabPane::applyDefaultsChange(key);
+}
+
+void MediaPane::restoreUseColumns()
+{
+    QStringList stored;
+    for (const QVariant &identifier : m_defaults.value(useColumnsKey).toList())
+        stored.append(identifier.toString());
+    m_shownUseColumns.clear();
+    for (const Column &column : m_useColumns) {
+        const bool isShown = stored.contains(column.identifier);
+        const bool wasShown = model().columnOf(column.identifier) >= 0;
+        if (isShown)
+            m_shownUseColumns.append(column.identifier);
+        if (isShown && !wasShown)
+            addColumn(column);
+        else if (!isShown && wasShown)
+            removeColumn(column.identifier);
+    }
+    updateUses();
+}
+
+/// Reads them in the background when they are shown and not known of all files.
+void MediaPane::updateUses()
+{
+    MyDocument &document = workbench().document();
+    if (!showsUses() || m_readsUses || !document.xmlDoc() || document.isPopulating(Tab::Media) ||
+        document.isPopulating(Tab::Effects) || document.isPopulating(Tab::Markers) ||
+        m_uses->holds(document.mediaArray()))
+        return;
+    QStringList urls; // the records may change meanwhile
+    for (const RowRecordPtr &record : document.mediaArray())
+        urls.append(record->get(MediaKey::rawpath));
+    m_readsUses = document.runInBackground(
+        [&document, urls, uses = m_uses] { uses->set(mediaUseTable(document, urls)); },
+        [pane = QPointer(this)] {
+            if (!pane)
+                return;
+            pane->m_readsUses = false;
+            MyDocument &shown = pane->workbench().document();
+            if (shown.isSelected(Tab::Media))
+                pane->workbench().mediaFilter().populateFilteredMediaData(); // they may be sorted by the uses
+        });
+}
+
+void MediaPane::showHeaderMenu(const QPoint &position)
+{
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Column &column : m_useColumns) {
+        QAction *const action = menu->addAction(column.name);
+        action->setCheckable(true);
+        action->setChecked(m_shownUseColumns.contains(column.identifier));
+        connect(action, &QAction::toggled, this, [this, identifier = column.identifier](bool isShown) {
+            QStringList identifiers = m_shownUseColumns;
+            identifiers.removeAll(identifier);
+            if (isShown)
+                identifiers.append(identifier);
+            storeUseColumns(identifiers);
+        });
+    }
+    menu->popup(table().horizontalHeader()->mapToGlobal(position));
+}
+
 void MediaPane::revealMediaInFinder()
 {
     workbench().mediaInventory().revealMediaInFinder();
@@ -150,6 +268,18 @@ void MediaPane::revealMediaInFinder()
 void MediaPane::updateControls()
 {
     m_reveal->setEnabled(table().selectionModel()->hasSelection());
+    m_relink->setEnabled(isEditingEnabled());
+    m_exportList->setEnabled(isEditingEnabled());
+}
+
+/// Of the first selected row; null when that is not missing, or has no URL.
+QString MediaPane::selectedMissingUrl() const
+{
+    const std::vector<std::size_t> rows = selectedRows();
+    if (rows.empty())
+        return QString();
+    const RowRecord &record = *model().recordAt(int(rows.front()));
+    return record.get(MediaKey::missing) ? record.get(MediaKey::rawpath) : QString();
 }
 
 QString MediaPane::loadingText(std::size_t found) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "media/MediaDrives.h"
+#include "media/MediaUseColumns.h"
 #include "table/widgets/TabPane.h"
 
 class QComboBox;
@@ -20,10 +21,22 @@ public:
 
     /// Refills the drive menu; the chosen drive stays chosen while it is there.
     void prepareToShow() override;
+    void applyDefaultsChange(const QString &key) override;
+
+    /// Whether the table shows columns of mediaUseColumns(). The user default "mediaUseColumns" has their
+    /// identifiers, for all windows.
+    bool showsUses() const { return !m_shownUseColumns.isEmpty(); }
+    /// Shows all of them, or none.
+    void setShowsUses(bool isShown);
 
 public Q_SLOTS:
     /// Shows the first selected file in the file browser.
     void revealMediaInFinder();
+
+Q_SIGNALS:
+    /// The user wants missing files found: the one at that URL, or any (null).
+    void relinkRequested(const QString &url);
+    void exportListRequested();
 
 protected:
     void updateControls() override;
@@ -37,13 +50,26 @@ private:
     void makeControls();
     void makeFooter();
     void applyFilters();
+    QString selectedMissingUrl() const;
+    void restoreUseColumns();
+    void storeUseColumns(const QStringList &identifiers);
+    void updateUses();
+    void showHeaderMenu(const QPoint &position);
 
     QComboBox *m_kinds;
     QComboBox *m_drives;
     QPushButton *m_reveal;
+    QPushButton *m_relink;
+    QPushButton *m_exportList;
     QVGraphView *m_chart;
     std::vector<DriveItem> m_driveItems;
     int m_driveLookups = 0; // started so far
+
+    UserDefaults &m_defaults;
+    std::shared_ptr<MediaUseIndex> m_uses = std::make_shared<MediaUseIndex>();
+    Columns m_useColumns;
+    QStringList m_shownUseColumns;
+    bool m_readsUses = false; // in the background
 };
 
 } // namespace vantrell

@@ -36,6 +36,15 @@ void runForOpening(const Request &request, const std::function<void(const QStrin
     dialog->open();
 }
 
+void runForFolder(const Request &request, const std::function<void(const QString &)> &chosen)
+{
+    QFileDialog *const dialog = makeDialog(request, QFileDialog::AcceptOpen,
+                                           [chosen](const QStringList &paths) { chosen(paths.value(0)); });
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->open();
+}
+
 void runForSaving(const Request &request, const std::function<void(const QString &)> &chosen,
                   const std::function<void()> &cancelled)
 {

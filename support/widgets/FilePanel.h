@@ -26,6 +26,9 @@ struct Request {
 /// Lets the user choose existing files.
 void runForOpening(const Request &request, const std::function<void(const QStringList &paths)> &chosen);
 
+/// Lets the user choose a folder.
+void runForFolder(const Request &request, const std::function<void(const QString &path)> &chosen);
+
 /// Lets the user choose where a file is saved.
 void runForSaving(const Request &request, const std::function<void(const QString &path)> &chosen,
                   const std::function<void()> &cancelled = {});

@@ -1,5 +1,6 @@
 #include "handover/ChecksumJournal.h"
 #include "handover/HashList.h"
+#include "handover/HashListMaker.h"
 #include "handover/Verification.h"
 #include "support/log/QVLog.h"
 #include "tests/support/TemporaryHome.h"
@@ -52,6 +53,44 @@ class ChecksumsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QVLog::createNewLog(QStringLiteral("tests"), true); }
+
+    /// What a cancelled run has read is not read again, until the list is there.
+    void resumesLists()
+    {
+        QStringList places;
+        for (int i = 0; i < 40; ++i)
+            places.append(m_home.addFile(QStringLiteral("resume/%1").arg(i), "before"));
+        places.append(m_home.addFile(QStringLiteral("resume/large"), "")); // still being read then
+        QVERIFY(QFile::resize(places.last(), 200 << 20));
+        places.append({QString(), places.front(), m_home.path(QStringLiteral("resume/none"))});
+        const QString target = m_home.path(QStringLiteral("resume/list.mhl"));
+        QVERIFY(!HashListMaker(places, target)
+                     .make([](const ChecksumRun::Progress &progress) { return progress.files == 0; },
+                           longPatience));
+        for (int i = 0; i < 40; ++i) { // with the same size and date
+            QFile file(places[i]);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            const QDateTime modified = file.fileTime(QFileDevice::FileModificationTime);
+            file.write("behind");
+            file.flush();
+            QVERIFY(file.setFileTime(modified, QFileDevice::FileModificationTime));
+        }
+        const auto known = [](const HashListMaker::Made &made) {
+            return std::count_if(made.list.entries.begin(), made.list.entries.end(),
+                                 [](const HashListEntry &entry) {
+                                     return entry.checksums.md5 == "2f44417567bc123bd7c60de8c2a2b444";
+                                 });
+        };
+        HashListMaker again(places, target);
+        const auto made = again.make(always, longPatience);
+        QVERIFY(made);
+        QCOMPARE(made->list.entries.size(), std::size_t(41));
+        QCOMPARE(made->list.entries[7].file, QStringLiteral("7"));
+        QCOMPARE(made->problems.size(), std::size_t(1));
+        QVERIFY(known(*made) > 0);
+        again.forget();
+        QCOMPARE(known(*HashListMaker(places, target).make(always, longPatience)), 0);
+    }
 
     void knownSums()
     {

@@ -1,4 +1,5 @@
 #include "handover/MediaHeader.h"
+#include "handover/RelinkPlan.h"
 #include "handover/Relinker.h"
 #include "support/log/QVLog.h"
 #include "tests/media/MediaProject.h"
@@ -45,6 +46,26 @@ QByteArray movie(quint32 milliseconds)
     return atom("ftyp", "qt  ") + atom("wide", "") +
            atom("moov", atom("udta", "x") + atom("mvhd", QByteArray(12, '\0') + big(1000) +
                                                              big(milliseconds) + QByteArray(80, '\0')));
+}
+
+/// A movie whose first frame has that number at 25 frames a second.
+QByteArray movieFrom(quint32 frame, const QByteArray &reel)
+{
+    const QByteArray name = QByteArray(1, '\0') + char(reel.size()) + QByteArray(2, '\0') + reel;
+    const QByteArray description = QByteArray(8, '\0') + QByteArray(8, '\0') + big(2500) + big(100) + "\x19" +
+                                   QByteArray(1, '\0') + atom("name", name);
+    const QByteArray table = atom("stsd", QByteArray(4, '\0') + big(1) + atom("tmcd", description)) +
+                             atom("stco", QByteArray(4, '\0') + big(1) + big(20));
+    return atom("ftyp", "qt  ") + atom("mdat", big(frame)) +
+           atom("moov", atom("trak", atom("tkhd", "x")) +
+                            atom("trak", atom("mdia", atom("minf", atom("stbl", table)))));
+}
+
+/// Sound whose first sample has that number at 500 samples a second.
+QByteArray waveFrom(quint32 sample)
+{
+    const QByteArray extension = QByteArray(338, ' ') + little(sample) + little(0) + QByteArray(257, '\0');
+    return "RIFF" + little(0) + "WAVEbext" + little(603) + extension + '\0' + wave(2).sliced(12);
 }
 
 QByteArray aiff(quint32 frames)
@@ -134,6 +155,43 @@ private Q_SLOTS:
         QCOMPARE(match(std::nullopt).count(' '), 2);
     }
 
+    /// What a plan takes at first, and which mapping would do instead.
+    void plans()
+    {
+        const auto found = [](const char *path, int alike = 0) {
+            RelinkCandidate candidate;
+            candidate.file.path = QString::fromLatin1(path);
+            candidate.alikeFolders = alike;
+            return candidate;
+        };
+        const auto file = [](const char *url) {
+            const QString text = QString::fromLatin1(url);
+            return MissingFile{text, text.mid(text.indexOf(QStringLiteral("/V"))), QString(), std::nullopt};
+        };
+        RelinkPlan plan(
+            {{file("file:///V/a.mov"), {found("/m/a.mov")}},
+             {file("file:///V/s/b.mov"), {found("/n/b.mov"), found("/m/s/b.mov", 1), found("/k/b.mov")}},
+             {file("file:///V/c.mov"), {}},
+             {file("/V x/d.mov"), {found("/m/d.mov")}}});
+        const std::optional<PathMapping> mapping(PathMapping{QStringLiteral("/V"), QStringLiteral("/m")});
+        QCOMPARE(plan.choices().size(), std::size_t(2));
+        QVERIFY(!plan.mapping()); // the last one is no URL, which no mapping finds
+        plan.setRelinked(3, false);
+        QCOMPARE(plan.mapping(), mapping);
+        plan.setRelinked(2, true);
+        plan.choose(1, 7);
+        QCOMPARE(plan.choices().size(), std::size_t(1));
+        plan.setRelinked(1, true);
+        QCOMPARE(plan.choices()[1].file.path, QStringLiteral("/m/s/b.mov"));
+        QCOMPARE(plan.mapping(), mapping);
+        plan.choose(1, 2);
+        QCOMPARE(plan.choices()[1].file.path, QStringLiteral("/k/b.mov"));
+        QVERIFY(!plan.mapping());
+        plan.setRelinked(0, false);
+        plan.setRelinked(1, false);
+        QVERIFY(plan.choices().empty() && !plan.mapping());
+    }
+
     void headers()
     {
         const std::pair<QByteArray, std::optional<double>> table[] = {
@@ -147,7 +205,39 @@ private Q_SLOTS:
             {QByteArray(), std::nullopt},
         };
         for (const auto &[content, seconds] : table)
-            QCOMPARE(MediaHeader::durationOf(m_home.addFile(QStringLiteral("header"), content)), seconds);
+            QCOMPARE(MediaHeader::read(m_home.addFile(QStringLiteral("header"), content)).seconds, seconds);
+    }
+
+    /// Where the duration does not decide, timecode and reel do; what they contradict is told.
+    void timecodes()
+    {
+        const QString a = m_home.addFile(QStringLiteral("t/1/a.mov"), movieFrom(250, "R1")),
+                      b = m_home.addFile(QStringLiteral("t/2/a.mov"), movieFrom(500, "R1")),
+                      c = m_home.addFile(QStringLiteral("t/3/a.mov"), movieFrom(500, "R2")),
+                      d = m_home.addFile(QStringLiteral("t/4/a.mov"), waveFrom(10000));
+        const std::vector<FolderWalk::Found> found{{a, {}}, {b, {}}, {c, {}}, {d, {}}};
+        MissingFile file = missing(QStringLiteral("/a.mov"));
+        const auto match = [&] { return Relinker::matches({file}, found).front(); };
+        QCOMPARE(match().candidates.size(), std::size_t(4));
+        file.start = 10;
+        QCOMPARE(candidatesOf(match()), a.toUtf8());
+        file.start = 20;
+        QCOMPARE(match().candidates.size(), std::size_t(3));
+        file.reel = QStringLiteral("r2");
+        QCOMPARE(candidatesOf(match()), c.toUtf8());
+        file.rate = 24;
+        file.seconds = 1;
+        file.reel = QStringLiteral("R1");
+        RelinkCandidate candidate;
+        candidate.file.path = d;
+        QVERIFY(Relinker::contradictions(file, candidate).isEmpty());
+        Relinker::readHeader(candidate);
+        QCOMPARE(Relinker::contradictions(file, candidate), QStringList(QStringLiteral("other duration")));
+        candidate = {};
+        candidate.file.path = a;
+        Relinker::readHeader(candidate);
+        QCOMPARE(Relinker::contradictions(file, candidate),
+                 (QStringList{QStringLiteral("other timecode"), QStringLiteral("other rate")}));
     }
 
     /// Every element of the file is written, the sequences that use it are marked, and the record tells what

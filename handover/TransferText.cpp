@@ -1,8 +1,8 @@
-#include "cli/TransferText.h"
+#include "handover/TransferText.h"
 
 #include "media/MediaFile.h"
 
-namespace vantrell::cli
+namespace vantrell
 {
 
 QString transferText(const ChecksumRun::Progress &progress)
@@ -20,4 +20,4 @@ QString transferText(const ChecksumRun::Progress &progress)
     return text;
 }
 
-} // namespace vantrell::cli
+} // namespace vantrell

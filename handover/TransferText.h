@@ -4,10 +4,10 @@
 
 #include <QString>
 
-namespace vantrell::cli
+namespace vantrell
 {
 
 /// How far a run has come, for people: sizes, files and the time that is left.
 QString transferText(const ChecksumRun::Progress &progress);
 
-} // namespace vantrell::cli
+} // namespace vantrell
