@@ -54,17 +54,37 @@ bool holds(const RowRecord &marker, const QString &search)
                        [&](const auto &field) { return contains(field.second); });
 }
 
+bool hasFlag(const RowRecord &marker, NoteExporter::Flag flag)
+{
+    switch (flag) {
+    case NoteExporter::Flag::Chapter:
+        return marker.get(MarkerKey::chapter) == 1;
+    case NoteExporter::Flag::Compression:
+        return marker.get(MarkerKey::compression) == 1;
+    case NoteExporter::Flag::Scoring:
+        break;
+    }
+    return marker.get(MarkerKey::scoring) == 1;
+}
+
 } // namespace
 
 RowList NoteExporter::markers(const Filter &filter) const
 {
+    return filtered(m_document.markerArray(), filter);
+}
+
+RowList NoteExporter::filtered(const RowList &markers, const Filter &filter) const
+{
     const MenuPtr menu = m_document.sequenceMenu();
     RowList taken;
-    for (const RowRecordPtr &marker : m_document.markerArray()) {
+    for (const RowRecordPtr &marker : markers) {
         if (filter.color && marker->get(MarkerKey::color) != *filter.color)
             continue;
         if (filter.sequence &&
             !(marker->get(MarkerKey::sequence) == menu->at(std::size_t(*filter.sequence)).element))
+            continue;
+        if (filter.flag && !hasFlag(*marker, *filter.flag))
             continue;
         if (!filter.search.isEmpty() && !holds(*marker, filter.search))
             continue;
@@ -73,13 +93,19 @@ RowList NoteExporter::markers(const Filter &filter) const
     return taken;
 }
 
-NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers) const
+std::vector<WrittenNote> NoteExporter::notes(const RowList &markers)
 {
     std::vector<WrittenNote> notes;
     notes.reserve(markers.size());
     for (const RowRecordPtr &marker : markers)
         notes.push_back(noteOf(*marker));
-    return NoteWriter::write(format, notes);
+    return notes;
+}
+
+NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers,
+                                       const QStringList &columns) const
+{
+    return NoteWriter::write(format, notes(markers), columns);
 }
 
 } // namespace vantrell

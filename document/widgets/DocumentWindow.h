@@ -2,6 +2,7 @@
 
 #include "document/DocumentInterface.h"
 #include "document/widgets/WindowMarkerLists.h"
+#include "document/widgets/WindowNotes.h"
 #include "document/widgets/WindowReports.h"
 #include "document/widgets/WindowSaving.h"
 #include "document/widgets/WindowSending.h"
@@ -137,6 +138,13 @@ public Q_SLOTS:
         m_markerLists.exportMarkerList(path, format);
     }
 
+    /// Asks for lists of notes and shows what each of them would add; markersImported() reports what was.
+    void importNotes() { m_notes.runOpenPanel(); }
+    void importNoteFiles(const QStringList &paths) { m_notes.importFiles(paths); }
+    /// Asks for the format and the markers of a list of notes, and then for its file; markersExported()
+    /// reports the result.
+    void exportNotes() { m_notes.exportNotes(); }
+
     /// Prints the selected rows of the current pane's table, or all of them. The print panel asks for the
     /// columns, and for paper or a PDF file.
     void printDocument() { m_reports.printDocument(); }
@@ -151,9 +159,11 @@ public Q_SLOTS:
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
 
-    // The Edit menu. Undo and Redo are those of the text while one is being edited.
+    // The Edit menu. Undo, Redo and Paste are those of the text while one is being edited.
     void undo();
     void redo();
+    /// Shows what a list of notes on the clipboard would add.
+    void paste();
     // For the current pane
     void copySelection();
     void selectAllRows();
@@ -209,7 +219,7 @@ Q_SIGNALS:
     void reportPrinted(bool isPrinted);
     void reportExported(bool isWritten);
     void loadFailed(const QString &path);
-    /// The user has dropped files to be opened.
+    /// The user has dropped files to be opened: all but lists of notes, once the project is there.
     void filesDropped(const QStringList &paths);
     /// The window is hidden and will delete itself.
     void closed();
@@ -250,6 +260,7 @@ private:
     WindowSaving m_saving{{*this, m_state, m_work}};
     WindowSending m_sending{{*this, m_state, m_work}};
     WindowMarkerLists m_markerLists{{*this, m_state, m_work}};
+    WindowNotes m_notes{{*this, m_state, m_work}, m_markerLists, m_defaults};
     WindowReports m_reports{{*this, m_state, m_work}, m_defaults};
 
     QToolBar *m_toolBar = nullptr;

@@ -34,6 +34,15 @@ QString commentAsRead(const QString &comment)
     return record.get(MarkerKey::comment);
 }
 
+/// The key of NoteColorUse. An exact value counts with the name that stands beside it.
+QString colorKey(const NoteRow &row)
+{
+    QString key = row.color.trimmed().toString();
+    if (NoteColors::isKnown(row.colorValue))
+        key += QLatin1Char('\t') + row.colorValue.trimmed().toString();
+    return key.toCaseFolded();
+}
+
 /// Converts the times of one list.
 class Converter
 {
@@ -111,6 +120,7 @@ public:
         , m_sequence(sequence)
         , m_rate(settings.rate ? *settings.rate : list.rate.value_or(sequence.rate))
         , m_converter(sequence, m_rate)
+        , m_colors(settings.colors)
         , m_matches(matches)
     {
         for (std::size_t i = 0; i < list.columns.size(); ++i) {
@@ -124,7 +134,7 @@ public:
     /// False for a timecode that is none.
     bool setMeaning(const NoteSettings &settings)
     {
-        m_meaning = settings.meaning == NoteMeaning::Guessed ? guessedMeaning() : settings.meaning;
+        m_meaning = meaning(settings);
         if (m_meaning == NoteMeaning::Record || m_meaning == NoteMeaning::Elapsed)
             return true;
         const bool isFirst = m_meaning == NoteMeaning::First;
@@ -140,6 +150,11 @@ public:
                 m_first = time->framesFromZero(m_rate);
         }
         return true;
+    }
+
+    NoteMeaning meaning(const NoteSettings &settings) const
+    {
+        return settings.meaning == NoteMeaning::Guessed ? guessedMeaning() : settings.meaning;
     }
 
     std::vector<PlannedNote> plan()
@@ -222,6 +237,12 @@ private:
         return std::max<qint64>(m_converter.frames(length), 0);
     }
 
+    int colorOf(const NoteRow &row) const
+    {
+        const auto chosen = m_colors.isEmpty() ? m_colors.cend() : m_colors.constFind(colorKey(row));
+        return chosen != m_colors.cend() ? *chosen : NoteColors::indexOf(row.color, row.colorValue);
+    }
+
     PlannedNote planned(const NoteRow &row)
     {
         PlannedNote note;
@@ -229,7 +250,8 @@ private:
         note.isRow = true;
         note.name = allowedText(row.name);
         note.comment = allowedText(row.comment);
-        note.color = NoteColors::indexOf(row.color, row.colorValue);
+        note.color = colorOf(row);
+        note.user = row.user.toString();
         note.isChapter = row.type.compare(u"chapter", Qt::CaseInsensitive) == 0;
         const std::optional<NoteTime> time = timeOf(row);
         if (!time) {
@@ -258,6 +280,7 @@ private:
     const NoteSequence &m_sequence;
     const NoteRate m_rate;
     const Converter m_converter;
+    const QHash<QString, int> &m_colors;
     NoteMatches &m_matches;
     std::vector<std::uint32_t> m_fieldColumns;
     NoteMeaning m_meaning = NoteMeaning::Record;
@@ -290,6 +313,30 @@ QString nameOf(PlannedNote::State state)
         break;
     }
     return QStringLiteral("unreadable");
+}
+
+std::vector<NoteColorUse> colorsOf(const NoteList &list)
+{
+    std::vector<NoteColorUse> colors;
+    QHash<QString, std::size_t> indexes;
+    for (const NoteRow &row : list.rows) {
+        const QString key = colorKey(row);
+        auto index = indexes.find(key);
+        if (index == indexes.end()) {
+            index = indexes.insert(key, colors.size());
+            const QString value = NoteColors::isKnown(row.colorValue) ? row.colorValue.toString() : QString();
+            colors.push_back({key, QStringLiteral("%1 %2").arg(row.color, value).trimmed(),
+                              NoteColors::indexOf(row.color, row.colorValue), 0});
+        }
+        ++colors[*index].count;
+    }
+    return colors;
+}
+
+NoteMeaning meaningOf(const NoteList &list, const NoteSequence &sequence, const NoteSettings &settings)
+{
+    NoteMatches none;
+    return Planner(list, sequence, settings, none).meaning(settings);
 }
 
 std::optional<std::vector<PlannedNote>> planNotes(const NoteList &list, const NoteSequence &sequence,
