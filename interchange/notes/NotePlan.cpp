@@ -6,6 +6,8 @@
 #include "timecode/QVTimecode.h"
 #include "xml/XmlText.h"
 
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -22,6 +24,10 @@ QString matchKey(qint64 in, const QString &name, const QString &comment)
 /// As a file keeps it.
 QString allowedText(QStringView text)
 {
+    const bool isPlain = std::all_of(text.begin(), text.end(),
+                                     [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0xd800; });
+    if (isPlain && !text.isEmpty())
+        return text.toString();
     return text.isEmpty() ? QStringLiteral("")
                           : XmlText::fromUtf8(XmlText::toUtf8(text.toString()).toStdString());
 }
@@ -237,7 +243,18 @@ private:
         return std::max<qint64>(m_converter.frames(length), 0);
     }
 
-    int colorOf(const NoteRow &row) const
+    int colorOf(const NoteRow &row)
+    {
+        const std::pair colors(row.color, row.colorValue);
+        const auto known = m_knownColors.constFind(colors);
+        if (known != m_knownColors.cend())
+            return *known;
+        const int color = findColor(row);
+        m_knownColors.insert(colors, color);
+        return color;
+    }
+
+    int findColor(const NoteRow &row) const
     {
         const auto chosen = m_colors.isEmpty() ? m_colors.cend() : m_colors.constFind(colorKey(row));
         return chosen != m_colors.cend() ? *chosen : NoteColors::indexOf(row.color, row.colorValue);
@@ -267,11 +284,9 @@ private:
         const QString comment = commentAsRead(note.comment);
         if (!m_converter.isInside(note.in)) {
             note.state = PlannedNote::State::Outside;
-        } else if (m_matches.contains(note.in, note.name, comment)) {
-            note.state = PlannedNote::State::There;
         } else {
-            note.state = PlannedNote::State::Add;
-            m_matches.add(note.in, note.name, comment);
+            note.state = m_matches.add(note.in, note.name, comment) ? PlannedNote::State::Add
+                                                                    : PlannedNote::State::There;
         }
         return note;
     }
@@ -281,6 +296,7 @@ private:
     const NoteRate m_rate;
     const Converter m_converter;
     const QHash<QString, int> &m_colors;
+    QHash<std::pair<QStringView, QStringView>, int> m_knownColors; ///< by name and value
     NoteMatches &m_matches;
     std::vector<std::uint32_t> m_fieldColumns;
     NoteMeaning m_meaning = NoteMeaning::Record;
@@ -290,14 +306,11 @@ private:
 
 } // namespace
 
-void NoteMatches::add(qint64 in, const QString &name, const QString &comment)
+bool NoteMatches::add(qint64 in, const QString &name, const QString &comment)
 {
+    const qsizetype before = m_keys.size();
     m_keys.insert(matchKey(in, name, comment));
-}
-
-bool NoteMatches::contains(qint64 in, const QString &name, const QString &comment) const
-{
-    return m_keys.contains(matchKey(in, name, comment));
+    return m_keys.size() > before;
 }
 
 QString nameOf(PlannedNote::State state)
@@ -319,14 +332,20 @@ std::vector<NoteColorUse> colorsOf(const NoteList &list)
 {
     std::vector<NoteColorUse> colors;
     QHash<QString, std::size_t> indexes;
+    QHash<std::pair<QStringView, QStringView>, std::size_t> known; // by name and value as they are written
     for (const NoteRow &row : list.rows) {
-        const QString key = colorKey(row);
-        auto index = indexes.find(key);
-        if (index == indexes.end()) {
-            index = indexes.insert(key, colors.size());
-            const QString value = NoteColors::isKnown(row.colorValue) ? row.colorValue.toString() : QString();
-            colors.push_back({key, QStringLiteral("%1 %2").arg(row.color, value).trimmed(),
-                              NoteColors::indexOf(row.color, row.colorValue), 0});
+        const std::pair written(row.color, row.colorValue);
+        auto index = known.find(written);
+        if (index == known.end()) {
+            const QString key = colorKey(row);
+            if (!indexes.contains(key)) {
+                indexes.insert(key, colors.size());
+                const QString value =
+                    NoteColors::isKnown(row.colorValue) ? row.colorValue.toString() : QString();
+                colors.push_back({key, QStringLiteral("%1 %2").arg(row.color, value).trimmed(),
+                                  NoteColors::indexOf(row.color, row.colorValue), 0});
+            }
+            index = known.insert(written, indexes.value(key));
         }
         ++colors[*index].count;
     }

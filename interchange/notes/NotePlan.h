@@ -59,8 +59,8 @@ std::vector<NoteColorUse> colorsOf(const NoteList &list);
 class NoteMatches
 {
 public:
-    void add(qint64 in, const QString &name, const QString &comment);
-    bool contains(qint64 in, const QString &name, const QString &comment) const;
+    /// False when there is the same already.
+    bool add(qint64 in, const QString &name, const QString &comment);
 
 private:
     QSet<QString> m_keys;
