@@ -134,7 +134,11 @@ QString NotePreview::description() const
 
 QString NotePreview::columnTitle(std::size_t column) const
 {
-    const QString title = list().headers.value(qsizetype(column)).simplified();
+    const NoteRole &role = list().columns[column];
+    const QString title =
+        list()
+            .headers.value(qsizetype(column), role.kind == NoteRole::Field ? role.title : QString())
+            .simplified();
     return title.isEmpty() ? tr("Column %1").arg(column + 1) : title;
 }
 

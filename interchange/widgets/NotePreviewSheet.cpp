@@ -88,7 +88,9 @@ QWidget *NotePreviewSheet::makeSettings()
     grid->addWidget(m_description, 0, 0, 1, 6);
     grid->addWidget(label(tr("Add &to:"), m_sequence), 1, 0);
     grid->addWidget(m_sequence, 1, 1);
-    grid->addWidget(label(tr("Times &are:"), m_meaning), 1, 2);
+    QLabel *const times = label(tr("Times &are:"), m_meaning);
+    times->setContentsMargins(fontMetrics().averageCharWidth() * 2, 0, 0, 0);
+    grid->addWidget(times, 1, 2);
     grid->addWidget(m_meaning, 1, 3);
     grid->addWidget(m_timecode, 1, 4);
     grid->addWidget(label(tr("Frame &rate:"), m_rate), 2, 0);

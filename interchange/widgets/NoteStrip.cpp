@@ -105,6 +105,7 @@ QComboBox *NoteStrip::add(const QString &title, const QString &hint, const QStri
     column->addWidget(head);
     column->addWidget(below);
     column->addWidget(popUp);
+    column->addStretch(1);
     m_row->insertLayout(m_row->count() - 1, column);
     m_popUps.push_back(popUp);
     m_hints.push_back(below);
