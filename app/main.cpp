@@ -1,6 +1,7 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "app/SingleInstance.h"
+#include "support/files/ProcessStart.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
@@ -92,6 +93,7 @@ int run(vantrell::Application &application, vantrell::SingleInstance &instance, 
 
 int main(int argc, char **argv)
 {
+    vantrell::prepareProcess();
     if (argc == 2 && answerOption(argv[1]))
         return EXIT_SUCCESS;
     if (!vantrell::Application::hasDisplay(argc, argv))

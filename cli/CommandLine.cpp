@@ -15,7 +15,7 @@ namespace vantrell::cli
 namespace
 {
 
-/// Prefixed to a value that begins with a minus sign, so that the library takes it as text.
+/// Prefixed to a value that begins with a minus sign, or with the mark, so that the library takes it as text.
 constexpr char mark = '\x01';
 
 bool beginsWithMinus(const std::string &argument)
@@ -44,33 +44,46 @@ const CLI::App *subcommandNamed(const CLI::App &app, const std::string &name)
     return found.empty() ? &app : found.front();
 }
 
-/// Prefixes the mark to negative numbers, and to the argument after an option with a value unless it is an
-/// option name.
-std::vector<std::string> markedValues(const CLI::App &program, std::vector<std::string> arguments)
+/// How many of the arguments behind that one belong to it.
+int valuesOf(const CLI::Option *option, const std::string &argument)
 {
-    const CLI::App *app = &program;
-    bool isValue = false; // of the option before
-    for (std::string &argument : arguments) {
-        if (argument == "--")
-            break;
-        const CLI::Option *option = beginsWithMinus(argument)
-                                        ? app->get_option_no_throw(argument.substr(0, argument.find('=')))
-                                        : nullptr;
-        if (isNegativeNumber(argument) || (isValue && !option && beginsWithMinus(argument)))
-            argument.insert(argument.begin(), mark);
-        else if (!isValue)
-            app = subcommandNamed(*app, argument);
-        isValue = option && option->get_items_expected_max() > 0 && argument.find('=') == std::string::npos;
-    }
-    return arguments;
+    if (!option || option->get_items_expected_max() == 0 || argument.find('=') != std::string::npos)
+        return 0;
+    return option->get_items_expected_max() == 2 ? 2 : 1; // a list takes one at a time
 }
 
-/// The message of the library with the arguments as typed.
-void printWithoutMarks(std::string text, std::FILE *stream)
+/// Prefixes the mark to negative numbers, to the values of an option unless they are option names, and to all
+/// that follows "--", which goes.
+std::vector<std::string> markedValues(const CLI::App &program, const std::vector<std::string> &arguments)
+{
+    const CLI::App *app = &program;
+    int values = 0; // that the option before still takes
+    bool isRest = false;
+    std::vector<std::string> marked;
+    for (const std::string &argument : arguments) {
+        if (!isRest && argument == "--") {
+            isRest = true;
+            continue;
+        }
+        const CLI::Option *option = beginsWithMinus(argument) && !isRest
+                                        ? app->get_option_no_throw(argument.substr(0, argument.find('=')))
+                                        : nullptr;
+        const bool isText = isRest || argument.starts_with(mark) || isNegativeNumber(argument) ||
+                            (values > 0 && !option && beginsWithMinus(argument));
+        if (!isText && values == 0)
+            app = subcommandNamed(*app, argument);
+        marked.push_back(isText ? mark + argument : argument);
+        values = option ? valuesOf(option, argument) : std::max(values - 1, 0);
+    }
+    return marked;
+}
+
+/// Prints a message of the library with the arguments as typed.
+bool printWithoutMarks(std::string text, std::FILE *stream)
 {
     text.erase(std::remove(text.begin(), text.end(), mark), text.end());
-    std::fwrite(text.data(), 1, text.size(), stream);
-    std::fflush(stream);
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+    return std::fflush(stream) == 0 && isWritten;
 }
 
 } // namespace
@@ -175,9 +188,11 @@ int CommandLine::run(const std::vector<std::string> &arguments)
         std::ostringstream out;
         std::ostringstream err;
         const int status = m_parser->app.exit(error, out, err);
-        printWithoutMarks(out.str(), stdout);
         printWithoutMarks(err.str(), stderr);
-        return status == 0 ? Done : WrongUsage;
+        if (printWithoutMarks(out.str(), stdout))
+            return status == 0 ? Done : WrongUsage;
+        complain(QStringLiteral("standard output cannot be written."));
+        return Failed;
     } catch (const std::exception &error) {
         complain(QString::fromLocal8Bit(error.what()));
         return Failed;

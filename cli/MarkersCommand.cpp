@@ -5,6 +5,8 @@
 #include "cli/ProjectSession.h"
 #include "cli/SortOption.h"
 #include "cli/TextTable.h"
+#include "interchange/NoteExporter.h"
+#include "interchange/NoteImporter.h"
 #include "markers/MarkerColumns.h"
 #include "markers/MarkerKeys.h"
 #include "support/files/ProgramArguments.h"
@@ -21,6 +23,8 @@ namespace
 struct MarkersOptions {
     std::string file;
     std::optional<std::string> color;
+    std::optional<std::string> sequence;
+    std::string search;
     std::optional<std::string> sort;
     bool json = false;
     bool ownOwners = false;
@@ -77,7 +81,18 @@ int markers(const MarkersOptions &options)
     view.selectedTab = Tab::Markers;
     view.markerFilter = color ? *color + 1 : 0;
     session.workbench().markerInventory().populateFilteredMarkerData();
-    const RowList &rows = session.document().rowsOnShow(Tab::Markers);
+    NoteExporter::Filter filter;
+    filter.search = fromArgument(options.search);
+    if (options.sequence) {
+        const NoteImporter importer(session.document(), session.workbench().markerEditor());
+        filter.sequence = importer.sequenceNamed(fromArgument(*options.sequence));
+        if (!filter.sequence) {
+            complain(QStringLiteral("There is no sequence \"%1\".").arg(fromArgument(*options.sequence)));
+            return Failed;
+        }
+    }
+    const RowList rows =
+        NoteExporter(session.document()).markers(session.document().rowsOnShow(Tab::Markers), filter);
     return print(options.json ? markersAsJson(rows) : markersAsTable(rows)) ? Done : Failed;
 }
 
@@ -89,6 +104,8 @@ void addMarkersCommand(CommandLine &program)
     Subcommand command = program.add("markers", "List the markers of a project");
     command.value("FILE", options->file, "The project", Subcommand::Need::Required);
     command.value("--color", options->color, colorHelp);
+    command.value("--sequence", options->sequence, "Only markers of one sequence, by name or number");
+    command.value("--search", options->search, "Only markers that hold this text");
     command.value("--sort", options->sort,
                   "Sort the markers of one colour by a column, ID or ID:desc; without --color they "
                   "come in document order. Columns: " +

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "support/alerts/HeadlessAlertPresenter.h"
 #include "support/alerts/QVAlert.h"
+#include "support/files/ProcessStart.h"
 #include "support/files/UnfinishedFiles.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
@@ -40,6 +41,7 @@ int runProgram(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    vantrell::prepareProcess();
     vantrell::UnfinishedFiles::removeOnSignals();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vantrell-cli"));

@@ -72,17 +72,22 @@ bool KnownFile::isAt(const QString &path)
 {
     QString knownPath;
     QString canonicalPath;
+    std::optional<FileStamp> stamp;
     {
         const std::lock_guard lock(m_mutex);
         if (!m_stamp)
             return false;
+        stamp = m_stamp;
         knownPath = m_path;
         canonicalPath = m_canonicalPath;
     }
     if (cleanPath(path) == knownPath)
         return true;
     const QString canonical = QFileInfo(path).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == canonicalPath;
+    if (!canonical.isEmpty() && canonical == canonicalPath)
+        return true;
+    const std::optional<FileStamp> found = FileStamp::ofPath(path); // by a hard link
+    return found && found->device == stamp->device && found->number == stamp->number;
 }
 
 void KnownFile::rememberContent()

@@ -205,15 +205,18 @@ ChecksumRun::ChecksumRun(std::vector<Task> tasks, int width, const Reader &reade
     m_state->reader = reader;
     m_state->results.resize(m_state->tasks.size());
     const auto wanted = std::size_t(width > 0 ? width : OperationQueue::processorCount());
+    std::size_t threads = 0;
     try {
-        for (std::size_t i = 0; i < std::min(wanted, m_state->tasks.size()); ++i) {
+        for (; threads < std::min(wanted, m_state->tasks.size()); ++threads) {
             std::thread([state = m_state] {
                 guarded("ChecksumRun::State::work", [&] { state->work(); });
             }).detach();
         }
     } catch (const std::system_error &error) {
-        QVLog::appendLog(u"Files cannot be read: %@", QString::fromLocal8Bit(error.what()));
+        QVLog::appendLog(u"Files are read without a thread: %@", QString::fromLocal8Bit(error.what()));
     }
+    if (threads == 0)
+        guarded("ChecksumRun::State::work", [&] { m_state->work(); });
 }
 
 ChecksumRun::~ChecksumRun()

@@ -159,15 +159,19 @@ FolderWalk::FolderWalk(const QStringList &folders, QSet<QString> relaxedNames, c
     m_state->lister = lister;
     for (const QString &folder : folders)
         m_state->folders.push_back(QFile::encodeName(folder));
+    int threads = 0;
     try {
-        for (int i = 0; i < walkThreads; ++i) {
+        for (; threads < walkThreads; ++threads) {
             std::thread([state = m_state] {
                 guarded("FolderWalk::State::work", [&] { state->work(); });
             }).detach();
         }
     } catch (const std::system_error &error) {
-        QVLog::appendLog(u"Folders cannot be looked into: %@", QString::fromLocal8Bit(error.what()));
+        QVLog::appendLog(u"Folders are looked into without a thread: %@",
+                         QString::fromLocal8Bit(error.what()));
     }
+    if (threads == 0)
+        guarded("FolderWalk::State::work", [&] { m_state->work(); });
 }
 
 FolderWalk::~FolderWalk()

@@ -71,14 +71,14 @@ bool hasFlag(const RowRecord &marker, NoteExporter::Flag flag)
 
 RowList NoteExporter::markers(const Filter &filter) const
 {
-    return filtered(m_document.markerArray(), filter);
+    return markers(m_document.markerArray(), filter);
 }
 
-RowList NoteExporter::filtered(const RowList &markers, const Filter &filter) const
+RowList NoteExporter::markers(const RowList &rows, const Filter &filter) const
 {
     const MenuPtr menu = m_document.sequenceMenu();
     RowList taken;
-    for (const RowRecordPtr &marker : markers) {
+    for (const RowRecordPtr &marker : rows) {
         if (filter.color && marker->get(MarkerKey::color) != *filter.color)
             continue;
         if (filter.sequence &&

@@ -37,8 +37,8 @@ public:
 
     /// The document's markers that the filter takes, in their order.
     RowList markers(const Filter &filter) const;
-    /// Those of the markers that the filter takes, in their order.
-    RowList filtered(const RowList &markers, const Filter &filter) const;
+    /// Those of the rows, markers of the document.
+    RowList markers(const RowList &rows, const Filter &filter) const;
 
     /// The markers as a list in a format of NoteWriter. The timecodes are those that the marker table shows.
     NoteWriter::Written list(const QString &format, const RowList &markers,

@@ -118,15 +118,6 @@ struct FileChecks::State {
             answered.notify_all();
     }
 
-    /// Nobody looks at the volume's files, so that nobody needs to wait for them.
-    void giveUp(const Volume &volume)
-    {
-        const std::lock_guard lock(mutex);
-        open -= volume.paths.size();
-        if (open == 0)
-            answered.notify_all();
-    }
-
     void work(Volume &volume)
     {
         for (;;) {
@@ -171,10 +162,11 @@ FileChecks::FileChecks(std::vector<QByteArray> paths, const Check &check)
                 }).detach();
             }
         } catch (const std::exception &error) {
-            QVLog::appendLog(u"Files cannot be looked at: %@", QString::fromLocal8Bit(error.what()));
+            QVLog::appendLog(u"Files are looked at without a thread: %@",
+                             QString::fromLocal8Bit(error.what()));
         }
         if (threads == 0)
-            state.giveUp(*volume);
+            guarded("FileChecks::State::work", [&] { state.work(*volume); });
     }
 }
 

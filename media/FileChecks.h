@@ -29,7 +29,8 @@ public:
     /// Runs on the detached threads, so it may own nothing that can go away.
     using Check = std::function<FileFacts(const QByteArray &path)>;
 
-    /// Starts at once. Paths are in the file system's encoding; nothing exists at an empty one.
+    /// Starts at once; where there is no thread, looks at the paths itself. Paths are in the file system's
+    /// encoding; nothing exists at an empty one.
     explicit FileChecks(std::vector<QByteArray> paths, const Check &check = lookUp);
     /// Ends what has not begun, waits for nothing.
     ~FileChecks();

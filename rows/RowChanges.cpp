@@ -43,15 +43,22 @@ void RowChanges::append(RowView &view, const RowRecordPtr &row)
 
 void RowChanges::remove(RowView &view, const RowList &rows)
 {
-    const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
     List change{&view, false, {}, {}};
     const RowList &list = view.list();
-    for (std::size_t i = 0; i < list.size() && change.rows.size() < removed.size(); ++i) {
-        const bool isRemoved = removed.size() == 1 ? list[i] == *removed.begin() : removed.contains(list[i]);
-        if (!isRemoved)
-            continue;
-        change.indexes.push_back(i);
-        change.rows.push_back(list[i]);
+    const auto note = [&](const auto &isRemoved) {
+        for (std::size_t i = 0; i < list.size() && change.rows.size() < rows.size(); ++i) {
+            if (!isRemoved(list[i]))
+                continue;
+            change.indexes.push_back(i);
+            change.rows.push_back(list[i]);
+        }
+    };
+    // Most rows come in the order of the list.
+    note([&](const RowRecordPtr &row) { return row == rows[change.rows.size()]; });
+    if (change.rows.size() < rows.size()) {
+        const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
+        change = {&view, false, {}, {}};
+        note([&](const RowRecordPtr &row) { return removed.contains(row); });
     }
     if (!change.rows.empty())
         m_lists.push_back(std::move(change));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -52,27 +53,36 @@ void RowView::append(const RowRecordPtr &row)
 
 void RowView::remove(const RowList &rows)
 {
-    const std::unordered_set<RowRecordPtr> removed(rows.begin(), rows.end());
-    const auto isRemoved = [&](const RowRecordPtr &row) {
-        return removed.size() == 1 ? row == *removed.begin() : removed.contains(row);
+    const auto removeFrom = [&rows](RowList &list) {
+        // Rows in the order of the list take one comparison for each row of it.
+        auto next = rows.begin();
+        std::erase_if(list, [&](const RowRecordPtr &row) {
+            const bool isNext = next != rows.end() && row == *next;
+            next += isNext;
+            return isNext;
+        });
+        const std::unordered_set<RowRecordPtr> others(next, rows.end());
+        if (!others.empty())
+            std::erase_if(list, [&others](const RowRecordPtr &row) { return others.contains(row); });
     };
-    std::erase_if(m_list, isRemoved);
-    std::erase_if(m_visibleRows, isRemoved);
+    removeFrom(m_list);
+    removeFrom(m_visibleRows);
 }
 
 void RowView::insert(const RowList &rows, const std::vector<std::size_t> &indexes)
 {
     RowList all;
     all.reserve(m_list.size() + rows.size());
-    auto before = m_list.cbegin();
+    auto before = std::make_move_iterator(m_list.begin());
+    const auto end = std::make_move_iterator(m_list.end());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto between = std::min(std::ptrdiff_t(indexes[i]) - std::ptrdiff_t(all.size()),
-                                      std::ptrdiff_t(m_list.cend() - before));
+        const auto between =
+            std::min(std::ptrdiff_t(indexes[i]) - std::ptrdiff_t(all.size()), std::ptrdiff_t(end - before));
         all.insert(all.end(), before, before + between);
         before += between;
         all.push_back(rows[i]);
     }
-    all.insert(all.end(), before, m_list.cend());
+    all.insert(all.end(), before, end);
     m_list = std::move(all);
 }
 

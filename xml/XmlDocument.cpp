@@ -53,7 +53,8 @@ QString lossText(const XmlLoss &loss)
             .arg(bytes, counted(loss.droppedElements, u"was", u"were"));
     }
     if (!loss.isCutOff && loss.elementsInComments > 0) {
-        return QStringLiteral("Content is missing: %1 in a comment that does not end where it should.")
+        return QStringLiteral("Content is missing: %1 in a comment or instruction that does not end "
+                              "where it should.")
             .arg(counted(loss.elementsInComments, u"is", u"are"));
     }
     if (!loss.isCutOff && loss.misplacedLine > 0) {
@@ -70,6 +71,9 @@ QString lossText(const XmlLoss &loss)
                      : QStringLiteral("%1 places").arg(grouped(loss.droppedReferences)),
                  grouped(loss.firstDropped));
     }
+    if (!loss.isCutOff && loss.droppedText)
+        return QStringLiteral("Content is missing: %1, and what follows is no part of the project.")
+            .arg(bytes);
     if (!loss.isCutOff)
         return QStringLiteral(
             "Content is missing: the entities that the document type declares are not kept.");
@@ -145,10 +149,8 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::parse(const ParseRequest &requ
             return Failure{
                 QStringLiteral("its elements are nested more than %1 deep.").arg(maximumElementDepth)};
         }
-        if (outcome.tooManyDefaults) {
-            return Failure{
-                QStringLiteral("its document type gives elements more default attributes than can be read.")};
-        }
+        if (outcome.tooManyValues)
+            return Failure{QStringLiteral("its document type lists more values than can be read.")};
         if (outcome.tooManyHyphens)
             return Failure{QStringLiteral("a comment in it has more double hyphens than can be read.")};
         if (!outcome.hasTree)
@@ -233,7 +235,7 @@ Result<XmlNode> XmlDocument::elementFromText(const QString &xml)
     const ParseOutcome outcome = parseXml(request, tree);
     const XmlNode root = XmlNode(&tree, XmlTree::documentId).firstChildElement();
     const bool isWhole =
-        outcome.hasTree && !outcome.tooDeep && !outcome.tooManyDefaults && !outcome.outOfMemory;
+        outcome.hasTree && !outcome.tooDeep && !outcome.tooManyValues && !outcome.outOfMemory;
     if (!isWhole || !root) {
         return Failure{outcome.lastError.isEmpty() ? QStringLiteral("The text is no XML element.")
                                                    : outcome.lastError};

@@ -556,22 +556,29 @@ bool XmlInput::endsWith(std::string_view end) const
     return m_ended && text.ends_with(end);
 }
 
-std::int64_t XmlInput::startTagsFrom(std::int64_t textOffset)
+XmlInput::Rest XmlInput::restFrom(std::int64_t textOffset)
 {
-    std::int64_t count = 0;
+    Rest rest;
+    bool isInTag = false;
     char previous = 0;
     const auto look = [&](const Block &block) {
         const std::int64_t from = std::max<std::int64_t>(textOffset - block.start, 0);
         for (auto i = std::size_t(from); i < block.text.size(); ++i) {
-            count += previous == '<' && startsXmlName(block.text[i]);
-            previous = block.text[i];
+            const char character = block.text[i];
+            const bool isFirst = previous == '<';
+            rest.startTags += isFirst && startsXmlName(character);
+            isInTag = character == '<' || (isInTag && previous != '>');
+            const bool isSpace = std::string_view(" \t\r\n").find(character) != std::string_view::npos;
+            rest.hasText =
+                rest.hasText || (!isInTag && !isSpace) || (isFirst && (character == '!' || character == '?'));
+            previous = character;
         }
     };
     look(m_lastBlock);
     do
         look(m_block);
     while (!isCancelled() && fill());
-    return count;
+    return rest;
 }
 
 } // namespace vantrell

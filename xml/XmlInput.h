@@ -59,8 +59,12 @@ public:
     /// How many bytes of the source the first so many bytes of the text came from, as nearly as the blocks
     /// of 256 KB that were read tell.
     std::int64_t sourceOffset(std::int64_t textOffset) const;
-    /// Reads on to the end, and counts the start tags from that offset of the text on.
-    std::int64_t startTagsFrom(std::int64_t textOffset);
+    struct Rest {
+        std::int64_t startTags = 0;
+        bool hasText = false; ///< anything but tags and white space
+    };
+    /// Reads on to the end: what there is from that offset of the text on.
+    Rest restFrom(std::int64_t textOffset);
     /// Whether the text, apart from white space, ends with those bytes; after all of it was read.
     bool endsWith(std::string_view end) const;
     /// Bytes of the source read so far.

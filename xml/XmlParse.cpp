@@ -7,6 +7,7 @@
 #include "xml/XmlViews.h"
 
 #include <libxml/SAX2.h>
+#include <libxml/hash.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
@@ -31,8 +32,8 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-/// Beyond it an element's default attributes would be compared with one another for minutes.
-constexpr std::int64_t maximumDefaultsCost = 1'000'000'000;
+/// Comparisons. The library compares each value of an enumeration with all others.
+constexpr std::int64_t maximumValuesCost = 50'000'000;
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
@@ -57,6 +58,8 @@ public:
         , m_builder(tree, request.keepsSpace)
         , m_events(m_builder)
     {
+        m_emptyEntity.etype = XML_INTERNAL_PARAMETER_ENTITY;
+        m_emptyEntity.content = m_noText;
         context->_private = this;
         xmlSAXHandler *sax = context->sax;
         sax->internalSubset = internalSubset;
@@ -70,8 +73,8 @@ public:
         sax->processingInstruction = processingInstruction;
         sax->reference = reference;
         sax->getEntity = getEntity;
-        sax->entityDecl = [](void *parser, const xmlChar *, int, const xmlChar *, const xmlChar *,
-                             xmlChar *) { of(parser)->m_hasEntities = true; };
+        sax->getParameterEntity = getParameterEntity;
+        sax->entityDecl = entityDeclaration;
         sax->unparsedEntityDecl = [](void *parser, const xmlChar *, const xmlChar *, const xmlChar *,
                                      const xmlChar *) { of(parser)->m_hasEntities = true; };
         sax->serror = error;
@@ -91,7 +94,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.tooManyDefaults = m_defaultsCost > maximumDefaultsCost;
+        outcome.tooManyValues = m_valuesCost > maximumValuesCost;
         outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
@@ -125,7 +128,10 @@ private:
         // The parser is in the middle of its buffer and must not be stopped here: its input ends.
         Parse *const self = static_cast<Parse *>(parse);
         try {
-            return self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
+            const int size = self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
+            if (size > 0 && self->m_inSubset)
+                self->noteEnumerations({buffer, std::size_t(size)});
+            return self->m_valuesCost > maximumValuesCost ? 0 : size;
         } catch (const std::exception &) {
             self->m_outOfMemory = true;
             return 0;
@@ -141,10 +147,13 @@ private:
         self->guard([&] { self->m_events.addDoctype(); });
     }
 
-    /// Called after the internal subset. There is no external one: nothing is fetched.
+    /// Called after the internal subset. There is no external one: nothing is fetched. Neither attributes nor
+    /// namespaces get defaults, which the library would compare with one another at each element.
     static void externalSubset(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
     {
         of(context)->m_inSubset = false;
+        if (xmlHashTable *const defaults = std::exchange(contextOf(context)->attsDefault, nullptr))
+            xmlHashFree(defaults, xmlHashDefaultDeallocator);
     }
 
     static void startElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
@@ -153,9 +162,8 @@ private:
     {
         Parse *const self = of(context);
         self->guard([&] {
-            if (self->mayHaveDefaults(defaulted))
-                self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
-                                     attributeList);
+            self->onStartElement({name, prefix, uri}, namespaces, namespaceList, attributes - defaulted,
+                                 attributeList);
         });
     }
 
@@ -186,6 +194,22 @@ private:
         return entity;
     }
 
+    /// What is declared is known, and empty.
+    static xmlEntity *getParameterEntity(void *context, const xmlChar *name)
+    {
+        Parse *const self = of(context);
+        return self->m_parameterEntities.contains(viewOf(name)) ? &self->m_emptyEntity : nullptr;
+    }
+
+    static void entityDeclaration(void *context, const xmlChar *name, int type, const xmlChar *,
+                                  const xmlChar *, xmlChar *)
+    {
+        Parse *const self = of(context);
+        self->m_hasEntities = true;
+        if (type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY)
+            self->guard([&] { self->m_parameterEntities.emplace(viewOf(name)); });
+    }
+
     static void cdata(void *context, const xmlChar *text, int length)
     {
         Parse *const self = of(context);
@@ -204,9 +228,13 @@ private:
     static void processingInstruction(void *context, const xmlChar *target, const xmlChar *data)
     {
         Parse *const self = of(context);
-        if (self->m_inSubset)
+        if (self->m_inSubset) {
             xmlSAX2ProcessingInstruction(context, target, data);
-        else
+            // One without an end goes on behind the document type.
+            const std::string_view text = data ? viewOf(data) : std::string_view();
+            if (text.find("]>") != std::string_view::npos)
+                self->countElementsIn(text);
+        } else
             self->guard([&] { self->onInstruction(viewOf(target), data); });
     }
 
@@ -227,7 +255,11 @@ private:
     void onError(const xmlError &problem)
     {
         const bool undeclaredEntity = problem.code == XML_WAR_UNDECLARED_ENTITY;
-        const QString text = QString::fromUtf8(problem.message).simplified();
+        // It may quote a name of any length.
+        constexpr qsizetype longest = 200;
+        QString text = QString::fromUtf8(problem.message).simplified();
+        if (text.size() > longest)
+            text = text.first(longest) + QStringLiteral("…");
         m_lastError = text;
         m_hasDoubledAttributes = m_hasDoubledAttributes || problem.code == XML_NS_ERR_ATTRIBUTE_REDEFINED;
         if (problem.domain == XML_FROM_NAMESPACE || problem.domain == XML_FROM_VALID)
@@ -338,18 +370,26 @@ private:
     {
         const bool isWhole = text.find("--") == std::string_view::npos && !text.ends_with('-') &&
                              !text.starts_with('>') && !text.starts_with("->");
-        for (std::size_t i = 0; !isWhole && i + 1 < text.size(); ++i)
-            m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
+        if (!isWhole)
+            countElementsIn(text);
         m_events.addComment(text);
     }
 
-    /// Parsers compare each attribute of an element, the defaults included, with all others.
-    bool mayHaveDefaults(int count)
+    void countElementsIn(std::string_view text)
     {
-        m_defaultsCost += std::int64_t(count) * count;
-        if (m_defaultsCost > maximumDefaultsCost)
-            xmlStopParser(m_context);
-        return m_defaultsCost <= maximumDefaultsCost;
+        for (std::size_t i = 0; i + 1 < text.size(); ++i)
+            m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
+    }
+
+    /// In a part of the document type.
+    void noteEnumerations(std::string_view text)
+    {
+        for (const char character : text) {
+            if (character == '|')
+                m_valuesCost += ++m_values;
+            else if (character == '(' || character == '>')
+                m_values = 0;
+        }
     }
 
     void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
@@ -452,8 +492,11 @@ private:
         const bool stops = m_tooDeep || m_cancelled || m_outOfMemory || !m_request.tolerant;
         if (document && !stops && !m_context->wellFormed && consumed >= 0) {
             outcome.loss.bytesRead = m_input.sourceOffset(consumed);
-            if (!isSwallowed)
-                outcome.loss.droppedElements = m_input.startTagsFrom(consumed);
+            if (!isSwallowed) {
+                const XmlInput::Rest rest = m_input.restFrom(consumed);
+                outcome.loss.droppedElements = rest.startTags;
+                outcome.loss.droppedText = m_hasContentAfterRoot && rest.startTags == 0 && rest.hasText;
+            }
             if (outcome.loss.bytesTotal < 0)
                 outcome.loss.bytesTotal = m_input.bytesRead();
             // Where only end tags are missing the last one is there.
@@ -492,11 +535,23 @@ private:
         const std::unique_ptr<xmlBuffer, void (*)(xmlBuffer *)> buffer(xmlBufferCreate(), xmlBufferFree);
         if (!buffer)
             throw std::bad_alloc();
-        xmlNodeDump(buffer.get(), document, reinterpret_cast<xmlNode *>(doctype), 0, 0);
-        std::string text(viewOf(xmlBufferContent(buffer.get())));
-        if (text.empty())
-            throw std::bad_alloc();
-        return text;
+        const auto dumped = [&](xmlNode *node) {
+            xmlBufferEmpty(buffer.get());
+            xmlNodeDump(buffer.get(), document, node, 0, 0);
+            const std::string_view text = viewOf(xmlBufferContent(buffer.get()));
+            if (text.empty())
+                throw std::bad_alloc();
+            return std::string(text);
+        };
+        std::string text = dumped(reinterpret_cast<xmlNode *>(doctype));
+        if (!doctype->children || text.ends_with("]>"))
+            return text;
+        // The library leaves out an internal subset that declares nothing.
+        text.back() = ' ';
+        text += "[\n";
+        for (xmlNode *node = doctype->children; node; node = node->next)
+            text += dumped(node) + '\n';
+        return text + "]>";
     }
 
     xmlParserCtxt *m_context;
@@ -520,12 +575,16 @@ private:
     bool m_hasStartAfterMismatch = false;
     bool m_isLeaf = false;      // whether nothing but text came after the last start tag
     bool m_hasEntities = false; // declared ones
+    std::set<std::string, std::less<>> m_parameterEntities;
+    xmlChar m_noText[1] = {};
+    xmlEntity m_emptyEntity = {};
     std::int64_t m_elementsInComments = 0;
     std::int64_t m_droppedReferences = 0;
     int m_firstDropped = 0;                     // line
     const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
     long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
-    std::int64_t m_defaultsCost = 0;
+    std::int64_t m_values = 0;                  // of the enumeration that was read last
+    std::int64_t m_valuesCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing

@@ -32,7 +32,9 @@ struct XmlLoss {
     std::int64_t droppedElements = 0; ///< elements after the end of the root element
     std::int64_t bytesRead = 0;       ///< of the input, up to the end of the tree
     std::int64_t bytesTotal = -1;     ///< -1 when unknown
-    /// Elements that became a part of a comment whose end was not recognised.
+    /// Text, comments and the like after the end of the root element, where no elements are.
+    bool droppedText = false;
+    /// Elements that became a part of a comment or instruction whose end was not recognised.
     std::int64_t elementsInComments = 0;
     /// The line of a broken tag that may have put elements into others than they belong to; 0 for none.
     int misplacedLine = 0;
@@ -42,8 +44,8 @@ struct XmlLoss {
 
     bool isLoss() const
     {
-        return isCutOff || droppedElements > 0 || elementsInComments > 0 || misplacedLine > 0 ||
-               droppedReferences > 0 || hasDroppedEntities;
+        return isCutOff || droppedElements > 0 || droppedText || elementsInComments > 0 ||
+               misplacedLine > 0 || droppedReferences > 0 || hasDroppedEntities;
     }
 };
 
@@ -51,8 +53,8 @@ struct ParseOutcome {
     bool hasTree = false;  ///< whether the input gave any tree
     bool repaired = false; ///< the input was not well-formed
     bool tooDeep = false;
-    bool tooManyDefaults = false; ///< of attributes
-    bool tooManyHyphens = false;  ///< in comments
+    bool tooManyValues = false;  ///< in an enumeration of the document type
+    bool tooManyHyphens = false; ///< in comments
     bool readFailed = false;
     bool cancelled = false;
     bool outOfMemory = false;

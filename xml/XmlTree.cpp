@@ -18,6 +18,17 @@ namespace vantrell
 static_assert(sizeof(XmlTree::Node) == 24);
 static_assert(std::is_trivially_default_constructible_v<XmlTree::Node>);
 
+namespace
+{
+
+/// Where the search for a name begins; one name may be in many namespaces.
+std::size_t firstSlot(std::size_t hash, std::uint32_t uri)
+{
+    return hash + std::size_t(uri) * 0x9E3779B97F4A7C15u;
+}
+
+} // namespace
+
 XmlTree::XmlTree(XmlDocument *owner)
     : m_owner(owner)
     , m_uris(1)
@@ -38,7 +49,7 @@ std::size_t XmlTree::hashOf(std::string_view qualified)
 XmlNameId XmlTree::find(std::string_view qualified, std::uint32_t uri, std::size_t hash) const
 {
     const std::size_t mask = m_nameTable.size() - 1;
-    for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
+    for (std::size_t slot = firstSlot(hash, uri) & mask;; slot = (slot + 1) & mask) {
         const XmlNameId id = m_nameTable[slot];
         if (id == noName || (m_names[id].uri == uri && m_names[id].qualified == qualified))
             return id;
@@ -63,7 +74,7 @@ XmlNameId XmlTree::internInNamespace(std::string_view prefix, std::string_view l
     const QString text = QString::fromUtf8(qualified.data(), qsizetype(qualified.size()));
     m_names.push_back({std::move(qualified), localAt, uriNumber, text});
     const std::size_t mask = m_nameTable.size() - 1;
-    std::size_t slot = hash & mask;
+    std::size_t slot = firstSlot(hash, uriNumber) & mask;
     while (m_nameTable[slot] != noName)
         slot = (slot + 1) & mask;
     m_nameTable[slot] = id;
@@ -75,7 +86,7 @@ void XmlTree::growNameTable()
     std::vector<XmlNameId> larger(m_nameTable.size() * 2);
     const std::size_t mask = larger.size() - 1;
     for (XmlNameId id = 1; id < m_names.size(); ++id) {
-        std::size_t slot = hashOf(m_names[id].qualified) & mask;
+        std::size_t slot = firstSlot(hashOf(m_names[id].qualified), m_names[id].uri) & mask;
         while (larger[slot] != noName)
             slot = (slot + 1) & mask;
         larger[slot] = id;

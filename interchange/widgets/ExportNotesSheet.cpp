@@ -166,9 +166,9 @@ RowList ExportNotesSheet::markers() const
         filter.flag = NoteExporter::Flag(m_flag->currentData().toInt());
     switch (m_which->currentIndex()) {
     case SelectedMarkers:
-        return m_exporter.filtered(m_markers.selected, filter);
+        return m_exporter.markers(m_markers.selected, filter);
     case ShownMarkers:
-        return m_exporter.filtered(m_markers.shown, filter);
+        return m_exporter.markers(m_markers.shown, filter);
     default:
         return m_exporter.markers(filter);
     }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <algorithm>
 #include <atomic>
@@ -139,12 +140,12 @@ WorkQueue &workQueue()
     return *queue;
 }
 
-QSocketNotifier *s_notifier = nullptr; // main thread only
+QObject *s_drainer = nullptr; // calls MainThread::drain() from the event loop; main thread only
 
 void leaveApplication()
 {
-    delete s_notifier;
-    s_notifier = nullptr;
+    delete s_drainer;
+    s_drainer = nullptr;
     workQueue().closeWake();
 }
 
@@ -152,13 +153,19 @@ void joinApplication()
 {
     MainThread::adopt();
     const int wake = workQueue().openWake();
-    if (wake < 0)
-        return;
-    s_notifier = new QSocketNotifier(wake, QSocketNotifier::Read);
-    QObject::connect(s_notifier, &QSocketNotifier::activated, s_notifier, [] {
-        workQueue().clearWake();
-        MainThread::drain();
-    });
+    if (wake >= 0) {
+        auto *const notifier = new QSocketNotifier(wake, QSocketNotifier::Read);
+        QObject::connect(notifier, &QSocketNotifier::activated, notifier, [] {
+            workQueue().clearWake();
+            MainThread::drain();
+        });
+        s_drainer = notifier;
+    } else { // no descriptor is left: the queue is looked at now and then
+        auto *const timer = new QTimer;
+        QObject::connect(timer, &QTimer::timeout, timer, &MainThread::drain);
+        timer->start(PredicateInterval);
+        s_drainer = timer;
+    }
     qAddPostRoutine(leaveApplication);
 }
 

@@ -94,6 +94,10 @@ private Q_SLOTS:
             {"info -1.xml", 0, ""},
             {"info -- -x.xml", 0, ""},
             {"info -x.xml", 2, ""},
+            {"import -1.xml --format auto --preview -- -s -x.xml", 0, ""},
+            {"timecode expand 1 -- -x", 0, ""},
+            {"compare -1.xml -1.xml --sequence 1 -x", 1, ""},
+            {"export -1.xml --format fcp -o \1x", 0, "\1x"},
             {"edit -1.xml --quiet --script -s -o -1.out", 0, "-1.out"},
             {"edit -1.xml --quiet -o -out.xml --script -s", 0, "-out.xml"},
             {"edit -1.xml --script -o -2.out", 2, ""},
@@ -158,6 +162,19 @@ private Q_SLOTS:
         QCOMPARE(repaired.status, 0);
         QVERIFY(repaired.messages.contains("repaired"));
         QCOMPARE(repaired.output, QByteArray("{\"xmlType\":1,\"sequences\":1}\n"));
+    }
+
+    void saysThatNoDescriptorIsLeft()
+    {
+        const QString path = m_home.addFile(QStringLiteral("p/few.xml"), "<xmeml/>");
+        const QString program = qEnvironmentVariable("VANTRELL_BIN_DIR") + QStringLiteral("/vantrell-cli");
+        const CliRun run =
+            runProgram(QStringLiteral("/bin/sh"),
+                       {QStringLiteral("-c"),
+                        QStringLiteral("exec 3<&- 4<&- 5<&- 6<&- 7<&-; ulimit -n 4; exec \"$0\" info \"$1\""),
+                        program, path});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.messages.contains("Too many open files"), run.messages.constData());
     }
 
     void keepsALogOfItsOwn()

@@ -100,6 +100,26 @@ private Q_SLOTS:
                        "QVCUSTOM_TAKE\n"
                        "Red\tA\t\t00:00:00:01\t00:00:00:00\tS\t\t\t\t\t\n"
                        "Red\tB\tc\t00:00:01:00\t00:00:00:15\tS\t\t\t\t\t3\n"));
+        const struct {
+            const char *options;
+            int rows; // -1 for a refusal
+        } cases[] = {{"--search B", 1},
+                     {"--search C", 1},
+                     {"--search 3", 1},
+                     {"--search s", 2},
+                     {"--search 00:15", 1},
+                     {"--search x", 0},
+                     {"--sequence 1", 2},
+                     {"--sequence S --search a", 1},
+                     {"--color red --search b", 1},
+                     {"--color blue", 0},
+                     {"--sequence T", -1}};
+        for (const auto &row : cases) {
+            const QString options = QStringLiteral("markers --json ") + QLatin1String(row.options);
+            const CliRun narrowed = runCli(options.split(QLatin1Char(' ')) << path);
+            QCOMPARE(narrowed.status, row.rows < 0 ? 1 : 0);
+            QCOMPARE(int(narrowed.output.count("\"display\"")), qMax(row.rows, 0));
+        }
     }
 
     /// On a terminal, all columns but the last are two spaces wider than their widest cell.

@@ -18,6 +18,7 @@
 #include <stdexcept>
 #include <system_error>
 #include <thread>
+#include <unistd.h>
 
 using namespace vantrell;
 
@@ -518,6 +519,26 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path));
         m_home.addFile(QStringLiteral("p/project.xml"), "<xmeml>again</xmeml>");
         QVERIFY(document.knownFile()->changeAt(path));
+    }
+
+    void aHardLinkLeadsToTheSameFile()
+    {
+        const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{1});
+        QVAlert::setPresenter(alerts);
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        world.watch(document);
+        load(document, world, "<xmeml/>");
+        const QString linkPath = m_home.path(QStringLiteral("p/hard.xml"));
+        QVERIFY(::link(QFile::encodeName(document.fileURL().toLocalFile()).constData(),
+                       QFile::encodeName(linkPath).constData()) == 0);
+        QFile other(linkPath);
+        QVERIFY(other.open(QIODevice::Append) && other.write("<!-- theirs -->") > 0);
+        other.close();
+        QVERIFY(!document.writeToURL(QUrl::fromLocalFile(linkPath), DocumentType::publicXML));
+        QCOMPARE(alerts->shown().size(), std::size_t(1));
+        QVERIFY(contentOf(linkPath).endsWith("theirs -->"));
+        QVERIFY(QFile::remove(linkPath));
     }
 
     void namespacesAreTold_data()

@@ -220,7 +220,7 @@ private Q_SLOTS:
             "Edit", 25, false, 0, 100,
             marker("A", "", "") + marker("B", "<chapter>TRUE</chapter>", "") + marker("C", "", ""))));
         const NoteExporter exporter(project.document);
-        RowList markers = exporter.filtered({project.marker(0), project.marker(1)}, {});
+        RowList markers = exporter.markers(RowList{project.marker(0), project.marker(1)}, {});
         QCOMPARE(exporter.list(u"csv"_s, markers, {u"In"_s, u"Name"_s}).text,
                  u"In,Name\r\n00:00:00:05,A\r\n00:00:00:05,B\r\n"_s);
         for (const RowRecordPtr &row : project.document.markerArray())
