@@ -14,6 +14,15 @@ namespace vantrell
 namespace
 {
 
+void setFields(WrittenNote &note, const RowRecord &marker)
+{
+    for (std::size_t i = 0; i < marker.size(); ++i) {
+        const RecordKey key = marker.keyAt(i);
+        if (!key.isConstant() && key.text().startsWith(MarkerKey::customPrefix))
+            note.fields.emplace_back(key.text().sliced(MarkerKey::customPrefix.size()), marker.text(key));
+    }
+}
+
 WrittenNote noteOf(const RowRecord &marker)
 {
     WrittenNote note;
@@ -34,11 +43,7 @@ WrittenNote noteOf(const RowRecord &marker)
     note.isChapter = marker.get(MarkerKey::chapter) == 1;
     note.isCompression = marker.get(MarkerKey::compression) == 1;
     note.isScoring = marker.get(MarkerKey::scoring) == 1;
-    for (std::size_t i = 0; i < marker.size(); ++i) {
-        const RecordKey key = marker.keyAt(i);
-        if (!key.isConstant() && key.text().startsWith(MarkerKey::customPrefix))
-            note.fields.emplace_back(key.text().sliced(MarkerKey::customPrefix.size()), marker.text(key));
-    }
+    setFields(note, marker);
     return note;
 }
 
@@ -100,6 +105,14 @@ std::vector<WrittenNote> NoteExporter::notes(const RowList &markers)
     for (const RowRecordPtr &marker : markers)
         notes.push_back(noteOf(*marker));
     return notes;
+}
+
+QStringList NoteExporter::columnTitles(const RowList &markers)
+{
+    std::vector<WrittenNote> fields(markers.size());
+    for (std::size_t i = 0; i < markers.size(); ++i)
+        setFields(fields[i], *markers[i]);
+    return NoteWriter::columnTitles(fields);
 }
 
 NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers,

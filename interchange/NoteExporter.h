@@ -45,6 +45,8 @@ public:
                              const QStringList &columns = {}) const;
     /// What NoteWriter writes of the markers.
     static std::vector<WrittenNote> notes(const RowList &markers);
+    /// The titles of all columns that their table has; see NoteWriter.
+    static QStringList columnTitles(const RowList &markers);
 
 private:
     MyDocument &m_document;

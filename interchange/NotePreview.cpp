@@ -60,7 +60,7 @@ QString counted(std::size_t count)
     return QLocale().toString(qulonglong(count));
 }
 
-QString timecodeAt(qint64 frame, const NoteRate &rate)
+QString timecodeOfFrame(qint64 frame, const NoteRate &rate)
 {
     return QVTimecode::timecodeFromFrameCount(quint64(frame), rate.timebase, rate.ntsc, rate.dropFrame, 0);
 }
@@ -179,7 +179,7 @@ QStringList NotePreview::sequences() const
 
 QString NotePreview::startTimecode() const
 {
-    return timecodeAt(m_target.startFrame, m_target.rate);
+    return timecodeOfFrame(m_target.startFrame, m_target.rate);
 }
 
 void NotePreview::setSequence(std::int64_t item)
@@ -308,14 +308,14 @@ QString NotePreview::timecode(std::size_t row) const
     const qint64 frame = note.in + m_target.startFrame;
     if (note.state == PlannedNote::State::Unreadable || frame < 0)
         return QString();
-    return timecodeAt(frame, m_target.rate);
+    return timecodeOfFrame(frame, m_target.rate);
 }
 
 QString NotePreview::duration(std::size_t row) const
 {
     const PlannedNote &note = m_notes[row];
     return note.state == PlannedNote::State::Unreadable ? QString()
-                                                        : timecodeAt(note.duration, m_target.rate);
+                                                        : timecodeOfFrame(note.duration, m_target.rate);
 }
 
 QString NotePreview::remark(std::size_t row) const

@@ -136,7 +136,7 @@ QWidget *ExportNotesSheet::makeColumns()
     label->setBuddy(m_columns);
     m_columns->setToolTip(tr("Drag a column to another place"));
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);
-    for (const QString &title : NoteWriter::columnTitles(NoteExporter::notes(m_document.markerArray()))) {
+    for (const QString &title : NoteExporter::columnTitles(m_document.markerArray())) {
         auto *const item = new QListWidgetItem(title, m_columns);
         item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsDropEnabled);
         item->setCheckState(Qt::Checked);
