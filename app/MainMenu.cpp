@@ -116,9 +116,11 @@ void MainMenu::makeMarkerListMenus()
     add(m_importMenu, tr("&Final Cut Pro Markers…"), {}, m_document, &DocumentWindow::importFCPMarkers);
     add(m_importMenu, tr("&Avid Locators…"), {}, m_document, &DocumentWindow::importAvidLocators);
     add(m_importMenu, tr("Final Cut Pro &X Markers…"), {}, m_document, &DocumentWindow::importFCPXMarkers);
+    m_importNotes = add(m_fileMenu, tr("Import &Notes…"), {}, m_document, &DocumentWindow::importNotes);
     m_exportMenu = m_fileMenu->addMenu(tr("&Export"));
     add(m_exportMenu, tr("&Final Cut Pro Markers…"), {}, m_document, &DocumentWindow::exportFCPMarkers);
     add(m_exportMenu, tr("&Avid Locators…"), {}, m_document, &DocumentWindow::exportAvidLocators);
+    m_exportNotes = add(m_fileMenu, tr("E&xport Notes…"), {}, m_document, &DocumentWindow::exportNotes);
 }
 
 void MainMenu::makeEditMenu()
@@ -129,6 +131,7 @@ void MainMenu::makeEditMenu()
     menu->addSeparator();
     m_documentActions << add(menu, tr("&Copy"), QKeySequence::Copy, m_document,
                              &DocumentWindow::copySelection)
+                      << add(menu, tr("Pa&ste"), QKeySequence::Paste, m_document, &DocumentWindow::paste)
                       << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
                              &DocumentWindow::selectAllRows);
     m_documentActions << add(menu, tr("&Find Effects…"), QKeySequence::Find, m_document,
@@ -302,8 +305,9 @@ void MainMenu::validateFileMenu()
     for (QAction *const action : m_reportActions)
         action->setEnabled(m_document && m_document->mayReport());
     m_compare->setEnabled(m_document && m_document->comparison().mayCompare());
-    m_importMenu->setEnabled(m_document && !isBusy);
-    m_exportMenu->setEnabled(m_document && !isBusy);
+    for (QAction *const action :
+         {m_importMenu->menuAction(), m_importNotes, m_exportMenu->menuAction(), m_exportNotes})
+        action->setEnabled(m_document && !isBusy);
 }
 
 void MainMenu::validateOpenFCPProject()

@@ -60,6 +60,8 @@ private:
     QAction *m_compare = nullptr;
     QAction *m_send = nullptr;
     QAction *m_exportSequences = nullptr;
+    QAction *m_importNotes = nullptr;
+    QAction *m_exportNotes = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_remove = nullptr;

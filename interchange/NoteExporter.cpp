@@ -14,6 +14,15 @@ namespace vantrell
 namespace
 {
 
+void setFields(WrittenNote &note, const RowRecord &marker)
+{
+    for (std::size_t i = 0; i < marker.size(); ++i) {
+        const RecordKey key = marker.keyAt(i);
+        if (!key.isConstant() && key.text().startsWith(MarkerKey::customPrefix))
+            note.fields.emplace_back(key.text().sliced(MarkerKey::customPrefix.size()), marker.text(key));
+    }
+}
+
 WrittenNote noteOf(const RowRecord &marker)
 {
     WrittenNote note;
@@ -34,11 +43,7 @@ WrittenNote noteOf(const RowRecord &marker)
     note.isChapter = marker.get(MarkerKey::chapter) == 1;
     note.isCompression = marker.get(MarkerKey::compression) == 1;
     note.isScoring = marker.get(MarkerKey::scoring) == 1;
-    for (std::size_t i = 0; i < marker.size(); ++i) {
-        const RecordKey key = marker.keyAt(i);
-        if (!key.isConstant() && key.text().startsWith(MarkerKey::customPrefix))
-            note.fields.emplace_back(key.text().sliced(MarkerKey::customPrefix.size()), marker.text(key));
-    }
+    setFields(note, marker);
     return note;
 }
 
@@ -52,6 +57,19 @@ bool holds(const RowRecord &marker, const QString &search)
            contains(note.sequence) || contains(note.clip) ||
            std::any_of(note.fields.begin(), note.fields.end(),
                        [&](const auto &field) { return contains(field.second); });
+}
+
+bool hasFlag(const RowRecord &marker, NoteExporter::Flag flag)
+{
+    switch (flag) {
+    case NoteExporter::Flag::Chapter:
+        return marker.get(MarkerKey::chapter) == 1;
+    case NoteExporter::Flag::Compression:
+        return marker.get(MarkerKey::compression) == 1;
+    case NoteExporter::Flag::Scoring:
+        break;
+    }
+    return marker.get(MarkerKey::scoring) == 1;
 }
 
 } // namespace
@@ -71,6 +89,8 @@ RowList NoteExporter::markers(const RowList &rows, const Filter &filter) const
         if (filter.sequence &&
             !(marker->get(MarkerKey::sequence) == menu->at(std::size_t(*filter.sequence)).element))
             continue;
+        if (filter.flag && !hasFlag(*marker, *filter.flag))
+            continue;
         if (!filter.search.isEmpty() && !holds(*marker, filter.search))
             continue;
         taken.push_back(marker);
@@ -78,13 +98,27 @@ RowList NoteExporter::markers(const RowList &rows, const Filter &filter) const
     return taken;
 }
 
-NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers) const
+std::vector<WrittenNote> NoteExporter::notes(const RowList &markers)
 {
     std::vector<WrittenNote> notes;
     notes.reserve(markers.size());
     for (const RowRecordPtr &marker : markers)
         notes.push_back(noteOf(*marker));
-    return NoteWriter::write(format, notes);
+    return notes;
+}
+
+QStringList NoteExporter::columnTitles(const RowList &markers)
+{
+    std::vector<WrittenNote> fields(markers.size());
+    for (std::size_t i = 0; i < markers.size(); ++i)
+        setFields(fields[i], *markers[i]);
+    return NoteWriter::columnTitles(fields);
+}
+
+NoteWriter::Written NoteExporter::list(const QString &format, const RowList &markers,
+                                       const QStringList &columns) const
+{
+    return NoteWriter::write(format, notes(markers), columns);
 }
 
 } // namespace vantrell

@@ -107,33 +107,52 @@ NoteMatches NoteImporter::matchesOf(std::int64_t item) const
     return matches;
 }
 
+/// The row of its marker; null, with the reason in the note, when it cannot be added.
+RowRecordPtr NoteImporter::added(PlannedNote &note, std::int64_t item) const
+{
+    QString reason = QStringLiteral("There is no sequence to add it to.");
+    const RowRecordPtr record =
+        m_editor.addMarkerWithTexts(note.name, note.in, note.duration > 0 ? note.in + note.duration : -1,
+                                    note.comment, MarkerColors::table()[std::size_t(note.color)].name, item,
+                                    [&reason](const QString &given) { reason = given; });
+    if (!record) {
+        note.state = PlannedNote::State::Unreadable;
+        note.reason = reason;
+        return nullptr;
+    }
+    if (note.isChapter)
+        m_editor.updateXMLMarker(record, MarkerKey::chapter.text(), QStringLiteral("1"));
+    for (const auto &[title, value] : note.fields)
+        m_editor.updateXMLMarker(record, MarkerFields::formatMarkerFieldName(title), value);
+    return record;
+}
+
 std::size_t NoteImporter::add(std::vector<PlannedNote> &notes, std::int64_t item) const
 {
-    std::size_t added = 0;
-    guarded("NoteImporter::add", [&] {
-        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofImport());
+    Progress progress;
+    addSome(notes, item, progress, std::nullopt);
+    return progress.added.size();
+}
+
+bool NoteImporter::addSome(std::vector<PlannedNote> &notes, std::int64_t item, Progress &progress,
+                           std::optional<std::chrono::milliseconds> limit) const
+{
+    const auto start = std::chrono::steady_clock::now();
+    if (progress.group == 0)
+        progress.group = m_document.newEditGroup();
+    return guarded("NoteImporter::addSome", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofImport(), progress.group);
         const RowView::Updates updates(m_document.rowView(Tab::Markers));
-        for (PlannedNote &note : notes) {
+        while (progress.next < notes.size() && !m_document.isClosing()) {
+            PlannedNote &note = notes[progress.next++];
             if (note.state != PlannedNote::State::Add)
                 continue;
-            QString reason = QStringLiteral("There is no sequence to add it to.");
-            const RowRecordPtr record = m_editor.addMarkerWithTexts(
-                note.name, note.in, note.duration > 0 ? note.in + note.duration : -1, note.comment,
-                MarkerColors::table()[std::size_t(note.color)].name, item,
-                [&reason](const QString &given) { reason = given; });
-            if (!record) {
-                note.state = PlannedNote::State::Unreadable;
-                note.reason = reason;
-                continue;
-            }
-            ++added;
-            if (note.isChapter)
-                m_editor.updateXMLMarker(record, MarkerKey::chapter.text(), QStringLiteral("1"));
-            for (const auto &[title, value] : note.fields)
-                m_editor.updateXMLMarker(record, MarkerFields::formatMarkerFieldName(title), value);
+            if (const RowRecordPtr record = added(note, item))
+                progress.added.push_back(record);
+            if (limit && std::chrono::steady_clock::now() - start >= *limit)
+                break;
         }
     });
-    return added;
 }
 
 } // namespace vantrell

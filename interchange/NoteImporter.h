@@ -1,9 +1,11 @@
 #pragma once
 
 #include "interchange/notes/NotePlan.h"
+#include "rows/RowRecord.h"
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -44,8 +46,20 @@ public:
     /// as they are. What cannot be added becomes unreadable, with the reason. Returns how many were added.
     std::size_t add(std::vector<PlannedNote> &notes, std::int64_t item) const;
 
+    /// The progress of adding in several steps.
+    struct Progress {
+        std::size_t next = 0;    ///< index of the next note
+        RowList added;           ///< the rows of the markers so far
+        std::uint64_t group = 0; ///< of the edits, which are one step to undo
+    };
+    /// The same from `progress` on until all are added or the time is up, at least one note. Stops when the
+    /// document is being closed. False when it cannot go on.
+    bool addSome(std::vector<PlannedNote> &notes, std::int64_t item, Progress &progress,
+                 std::optional<std::chrono::milliseconds> limit) const;
+
 private:
     std::optional<std::int64_t> sequenceNamedBy(const QString &path, const NoteList &list) const;
+    RowRecordPtr added(PlannedNote &note, std::int64_t item) const;
 
     MyDocument &m_document;
     MarkerEditor &m_editor;

@@ -228,6 +228,7 @@ void DocumentWindow::endSession()
     m_workbench->document().disconnect(this);
     m_interface->disconnectFromWindow();
     qDeleteAll(findChildren<MarkerListImport *>());
+    m_notes.close();
     m_work.reset();
     m_sending.reset();
     m_state.load();
@@ -552,6 +553,14 @@ void DocumentWindow::copySelection()
     currentPane().copySelection();
 }
 
+void DocumentWindow::paste()
+{
+    if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
+        field->paste();
+    else
+        m_notes.importClipboard();
+}
+
 void DocumentWindow::selectAllRows()
 {
     if (auto *const field = qobject_cast<QLineEdit *>(focusWidget())) {
@@ -617,7 +626,10 @@ void DocumentWindow::dropEvent(QDropEvent *event)
     if (paths.isEmpty())
         return;
     event->acceptProposedAction();
-    Q_EMIT filesDropped(paths);
+    if (state() == State::Ready)
+        m_notes.takeDropped(paths);
+    else
+        Q_EMIT filesDropped(paths);
 }
 
 } // namespace vantrell

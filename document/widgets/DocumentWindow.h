@@ -4,6 +4,7 @@
 #include "document/widgets/WindowComparison.h"
 #include "document/widgets/WindowMarkerLists.h"
 #include "document/widgets/WindowMedia.h"
+#include "document/widgets/WindowNotes.h"
 #include "document/widgets/WindowReports.h"
 #include "document/widgets/WindowSaving.h"
 #include "document/widgets/WindowSending.h"
@@ -166,6 +167,12 @@ public Q_SLOTS:
     void showMediaUses(bool isShown);
     bool showsMediaUses() const;
     void verifyMediaListAt(const QString &path) { m_media.verifyListAt(path); }
+    /// Asks for lists of notes and shows what each of them would add; markersImported() reports what was.
+    void importNotes() { m_notes.runOpenPanel(); }
+    void importNoteFiles(const QStringList &paths) { m_notes.importFiles(paths); }
+    /// Asks for the format and the markers of a list of notes, and then for its file; markersExported()
+    /// reports the result.
+    void exportNotes() { m_notes.exportNotes(); }
 
     /// Prints the selected rows of the current pane's table, or all of them. The print panel asks for the
     /// columns, and for paper or a PDF file.
@@ -181,9 +188,11 @@ public Q_SLOTS:
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
 
-    // The Edit menu. Undo and Redo are those of the text while one is being edited.
+    // The Edit menu. Undo, Redo and Paste are those of the text while one is being edited.
     void undo();
     void redo();
+    /// Shows what a list of notes on the clipboard would add.
+    void paste();
     // For the current pane
     void copySelection();
     void selectAllRows();
@@ -255,7 +264,7 @@ Q_SIGNALS:
     void loadFailed(const QString &path);
     /// The document is about to go, because the window closes or loads its file again.
     void sessionEnding();
-    /// The user has dropped files to be opened.
+    /// The user has dropped files to be opened: all but lists of notes, once the project is there.
     void filesDropped(const QStringList &paths);
     /// The window is hidden and will delete itself.
     void closed();
@@ -298,6 +307,7 @@ private:
     WindowMarkerLists m_markerLists{{*this, m_state, m_work}};
     WindowComparison m_comparison{{*this, m_state, m_work}};
     WindowMedia m_media{{*this, m_state, m_work}, m_defaults};
+    WindowNotes m_notes{{*this, m_state, m_work}, m_markerLists, m_defaults};
     WindowReports m_reports{{*this, m_state, m_work}, m_defaults};
 
     QToolBar *m_toolBar = nullptr;

@@ -25,11 +25,15 @@ public:
     void runSavePanel(const QString &format);
     void exportMarkerList(const QString &path, const QString &format);
 
-private:
+    /// Whether markers may be added; if the project is still loading, an alert says so. True while its
+    /// markers are being extracted: then the panel refuses.
     bool mayChangeMarkers();
+    /// Shows the Markers tab with a message below its table.
+    void showInMarkers(const QString &text);
+
+private:
     void imported(std::size_t imported, std::size_t total, const QStringList &paths);
     void exported(const QString &path, const QString &format, std::size_t count, const Result<void> &written);
-    void showInMarkers(const QString &text);
 };
 
 } // namespace vantrell

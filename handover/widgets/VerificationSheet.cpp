@@ -1,7 +1,6 @@
 #include "handover/widgets/VerificationSheet.h"
 
 #include "support/widgets/SymbolIcon.h"
-#include "support/widgets/SymbolView.h"
 #include "table/widgets/SheetTable.h"
 
 #include <QAbstractTableModel>

@@ -2,10 +2,13 @@
 
 #include "interchange/notes/NoteShapes.h"
 #include "markers/MarkerColors.h"
+#include "markers/MarkerKeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace vantrell::NoteShapes
 {
@@ -64,6 +67,29 @@ QString colorOf(const QJsonObject &object)
     return value.toString();
 }
 
+/// The column with that role, which is made if there is none.
+std::uint32_t columnOf(const NoteRole &role, NoteList &list)
+{
+    const auto column = std::find(list.columns.begin(), list.columns.end(), role);
+    const auto index = std::uint32_t(column - list.columns.begin());
+    if (column == list.columns.end())
+        list.columns.push_back(role);
+    return index;
+}
+
+/// Gives the row the custom fields of a marker record, each with a column of its own.
+void setFields(NoteRow &row, const QJsonObject &object, NoteList &list)
+{
+    for (auto value = object.constBegin(); value != object.constEnd(); ++value) {
+        if (!value.key().startsWith(MarkerKey::customPrefix) || value.value().toString().isEmpty())
+            continue;
+        const NoteRole role{NoteRole::Field, value.key().sliced(MarkerKey::customPrefix.size())};
+        row.fields.emplace_back(columnOf(role, list), list.keep(value.value().toString()));
+    }
+    std::sort(row.fields.begin(), row.fields.end(),
+              [](const auto &a, const auto &b) { return a.first < b.first; });
+}
+
 } // namespace
 
 bool isJson(QStringView text)
@@ -110,6 +136,11 @@ void readJson(QStringView text, NoteList &list)
         set(row, NoteRole::Color, colorOf(object));
         set(row, NoteRole::User, textOf(object, {u"user", u"author"}));
         set(row, NoteRole::Track, textOf(object, {u"track"}));
+        if (!display.isEmpty() && object.value(u"chapter").toInt() == 1) {
+            columnOf({NoteRole::Type}, list);
+            row.type = u"chapter";
+        }
+        setFields(row, object, list);
         list.add(std::move(row));
     }
 }

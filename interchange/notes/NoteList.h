@@ -100,6 +100,7 @@ struct NoteList {
     QString title;                            ///< the name of the sequence that the list was made from
     QStringList headers;                      ///< of the columns; empty for a list without a header
     std::vector<NoteRole> columns;
+    QStringList examples; ///< the first value of each column of a table, at most 80 characters
     std::vector<NoteRow> rows;
     std::vector<UnreadableNote> unreadable; ///< in the order of their lines
 

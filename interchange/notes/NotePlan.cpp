@@ -6,6 +6,8 @@
 #include "timecode/QVTimecode.h"
 #include "xml/XmlText.h"
 
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -22,6 +24,10 @@ QString matchKey(qint64 in, const QString &name, const QString &comment)
 /// As a file keeps it.
 QString allowedText(QStringView text)
 {
+    const bool isPlain = std::all_of(text.begin(), text.end(),
+                                     [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0xd800; });
+    if (isPlain && !text.isEmpty())
+        return text.toString();
     return text.isEmpty() ? QStringLiteral("")
                           : XmlText::fromUtf8(XmlText::toUtf8(text.toString()).toStdString());
 }
@@ -32,6 +38,15 @@ QString commentAsRead(const QString &comment)
     RowRecord record;
     MarkerComment::read(comment, record);
     return record.get(MarkerKey::comment);
+}
+
+/// The key of NoteColorUse. An exact value counts with the name that stands beside it.
+QString colorKey(const NoteRow &row)
+{
+    QString key = row.color.trimmed().toString();
+    if (NoteColors::isKnown(row.colorValue))
+        key += QLatin1Char('\t') + row.colorValue.trimmed().toString();
+    return key.toCaseFolded();
 }
 
 /// Converts the times of one list.
@@ -111,6 +126,7 @@ public:
         , m_sequence(sequence)
         , m_rate(settings.rate ? *settings.rate : list.rate.value_or(sequence.rate))
         , m_converter(sequence, m_rate)
+        , m_colors(settings.colors)
         , m_matches(matches)
     {
         for (std::size_t i = 0; i < list.columns.size(); ++i) {
@@ -124,7 +140,7 @@ public:
     /// False for a timecode that is none.
     bool setMeaning(const NoteSettings &settings)
     {
-        m_meaning = settings.meaning == NoteMeaning::Guessed ? guessedMeaning() : settings.meaning;
+        m_meaning = meaning(settings);
         if (m_meaning == NoteMeaning::Record || m_meaning == NoteMeaning::Elapsed)
             return true;
         const bool isFirst = m_meaning == NoteMeaning::First;
@@ -140,6 +156,11 @@ public:
                 m_first = time->framesFromZero(m_rate);
         }
         return true;
+    }
+
+    NoteMeaning meaning(const NoteSettings &settings) const
+    {
+        return settings.meaning == NoteMeaning::Guessed ? guessedMeaning() : settings.meaning;
     }
 
     std::vector<PlannedNote> plan()
@@ -222,6 +243,23 @@ private:
         return std::max<qint64>(m_converter.frames(length), 0);
     }
 
+    int colorOf(const NoteRow &row)
+    {
+        const std::pair colors(row.color, row.colorValue);
+        const auto known = m_knownColors.constFind(colors);
+        if (known != m_knownColors.cend())
+            return *known;
+        const int color = findColor(row);
+        m_knownColors.insert(colors, color);
+        return color;
+    }
+
+    int findColor(const NoteRow &row) const
+    {
+        const auto chosen = m_colors.isEmpty() ? m_colors.cend() : m_colors.constFind(colorKey(row));
+        return chosen != m_colors.cend() ? *chosen : NoteColors::indexOf(row.color, row.colorValue);
+    }
+
     PlannedNote planned(const NoteRow &row)
     {
         PlannedNote note;
@@ -229,7 +267,8 @@ private:
         note.isRow = true;
         note.name = allowedText(row.name);
         note.comment = allowedText(row.comment);
-        note.color = NoteColors::indexOf(row.color, row.colorValue);
+        note.color = colorOf(row);
+        note.user = row.user.toString();
         note.isChapter = row.type.compare(u"chapter", Qt::CaseInsensitive) == 0;
         const std::optional<NoteTime> time = timeOf(row);
         if (!time) {
@@ -245,11 +284,9 @@ private:
         const QString comment = commentAsRead(note.comment);
         if (!m_converter.isInside(note.in)) {
             note.state = PlannedNote::State::Outside;
-        } else if (m_matches.contains(note.in, note.name, comment)) {
-            note.state = PlannedNote::State::There;
         } else {
-            note.state = PlannedNote::State::Add;
-            m_matches.add(note.in, note.name, comment);
+            note.state = m_matches.add(note.in, note.name, comment) ? PlannedNote::State::Add
+                                                                    : PlannedNote::State::There;
         }
         return note;
     }
@@ -258,6 +295,8 @@ private:
     const NoteSequence &m_sequence;
     const NoteRate m_rate;
     const Converter m_converter;
+    const QHash<QString, int> &m_colors;
+    QHash<std::pair<QStringView, QStringView>, int> m_knownColors; ///< by name and value
     NoteMatches &m_matches;
     std::vector<std::uint32_t> m_fieldColumns;
     NoteMeaning m_meaning = NoteMeaning::Record;
@@ -267,14 +306,11 @@ private:
 
 } // namespace
 
-void NoteMatches::add(qint64 in, const QString &name, const QString &comment)
+bool NoteMatches::add(qint64 in, const QString &name, const QString &comment)
 {
+    const qsizetype before = m_keys.size();
     m_keys.insert(matchKey(in, name, comment));
-}
-
-bool NoteMatches::contains(qint64 in, const QString &name, const QString &comment) const
-{
-    return m_keys.contains(matchKey(in, name, comment));
+    return m_keys.size() > before;
 }
 
 QString nameOf(PlannedNote::State state)
@@ -290,6 +326,36 @@ QString nameOf(PlannedNote::State state)
         break;
     }
     return QStringLiteral("unreadable");
+}
+
+std::vector<NoteColorUse> colorsOf(const NoteList &list)
+{
+    std::vector<NoteColorUse> colors;
+    QHash<QString, std::size_t> indexes;
+    QHash<std::pair<QStringView, QStringView>, std::size_t> known; // by name and value as they are written
+    for (const NoteRow &row : list.rows) {
+        const std::pair written(row.color, row.colorValue);
+        auto index = known.find(written);
+        if (index == known.end()) {
+            const QString key = colorKey(row);
+            if (!indexes.contains(key)) {
+                indexes.insert(key, colors.size());
+                const QString value =
+                    NoteColors::isKnown(row.colorValue) ? row.colorValue.toString() : QString();
+                colors.push_back({key, QStringLiteral("%1 %2").arg(row.color, value).trimmed(),
+                                  NoteColors::indexOf(row.color, row.colorValue), 0});
+            }
+            index = known.insert(written, indexes.value(key));
+        }
+        ++colors[*index].count;
+    }
+    return colors;
+}
+
+NoteMeaning meaningOf(const NoteList &list, const NoteSequence &sequence, const NoteSettings &settings)
+{
+    NoteMatches none;
+    return Planner(list, sequence, settings, none).meaning(settings);
 }
 
 std::optional<std::vector<PlannedNote>> planNotes(const NoteList &list, const NoteSequence &sequence,

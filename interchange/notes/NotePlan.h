@@ -2,6 +2,7 @@
 
 #include "interchange/notes/NoteRoles.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 
@@ -38,15 +39,28 @@ struct NoteSettings {
     std::optional<NoteRate> rate; ///< of the list; nothing for what it says, else the sequence's
     /// The columns that the user chose: those chosen as fields become custom fields.
     NoteColumnChoices choices;
+    /// The colours that the user chose, as indexes of MarkerColors::table(), by the keys of NoteColorUse.
+    QHash<QString, int> colors = {};
 };
+
+/// A colour of a list: what stands for it there, and what it becomes unless the user chooses another one.
+struct NoteColorUse {
+    QString key;           ///< the same for the same colour in whatever case; empty for rows without one
+    QString text;          ///< as the list has it; empty for none
+    int color = 0;         ///< index of MarkerColors::table()
+    std::size_t count = 0; ///< of rows that have it
+};
+
+/// The colours of a list in the order in which they come first. Any thread.
+std::vector<NoteColorUse> colorsOf(const NoteList &list);
 
 /// The markers that a sequence has, to tell which notes are there already. Two are the same at the same in
 /// point with the same name and comment; blanks around these, colours and durations do not count.
 class NoteMatches
 {
 public:
-    void add(qint64 in, const QString &name, const QString &comment);
-    bool contains(qint64 in, const QString &name, const QString &comment) const;
+    /// False when there is the same already.
+    bool add(qint64 in, const QString &name, const QString &comment);
 
 private:
     QSet<QString> m_keys;
@@ -65,6 +79,7 @@ struct PlannedNote {
     qint64 in = 0;       ///< frames from the sequence's first; not for an unreadable row
     qint64 duration = 0; ///< frames; 0 for none
     int color = 0;       ///< index of MarkerColors::table()
+    QString user;        ///< who wrote it; empty where the list does not say
     bool isChapter = false;
     std::vector<std::pair<QString, QString>> fields = {}; ///< titles and values
 };
@@ -83,5 +98,9 @@ QString nameOf(PlannedNote::State state);
 /// Nothing, for a timecode of the settings that is none.
 std::optional<std::vector<PlannedNote>> planNotes(const NoteList &list, const NoteSequence &sequence,
                                                   const NoteSettings &settings, NoteMatches &matches);
+
+/// What the times of a list mean by the settings: Record or Elapsed where they leave it to the list. Any
+/// thread.
+NoteMeaning meaningOf(const NoteList &list, const NoteSequence &sequence, const NoteSettings &settings);
 
 } // namespace vantrell

@@ -2,6 +2,7 @@
 
 #include "markers/MarkerColors.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -26,13 +27,28 @@ constexpr Palette resolvePalette = {{"ResolveColorRed", "ResolveColorSand", "Res
                                      "ResolveColorPurple", "ResolveColorPink"},
                                     {false, true, false, false, false, false, false, false}};
 
+const QStringList &usualTitles()
+{
+    static const QStringList titles = {QStringLiteral("Color"),       QStringLiteral("Name"),
+                                       QStringLiteral("Comment"),     QStringLiteral("In"),
+                                       QStringLiteral("Duration"),    QStringLiteral("Sequence"),
+                                       QStringLiteral("Clip"),        QStringLiteral("Chapter"),
+                                       QStringLiteral("Compression"), QStringLiteral("Scoring")};
+    return titles;
+}
+
 /// Writes one list and counts what is changed.
 class Writer
 {
 public:
-    explicit Writer(const std::vector<WrittenNote> &notes)
+    Writer(const std::vector<WrittenNote> &notes, const QStringList &columns)
         : m_notes(notes)
+        , m_titles(columns.isEmpty() ? columnTitles(notes) : columns)
     {
+        // A custom field may have a usual title, too.
+        for (qsizetype i = 0; i < m_titles.size(); ++i)
+            m_usual.append(m_titles.indexOf(m_titles.at(i)) == i ? usualTitles().indexOf(m_titles.at(i))
+                                                                 : -1);
     }
 
     void avid(bool withNames)
@@ -82,18 +98,16 @@ public:
 
     void table(QChar delimiter)
     {
-        const QStringList titles = tableTitles();
         const QString lineEnd = delimiter == u',' ? QStringLiteral("\r\n") : QStringLiteral("\n");
-        tableLine(titles, delimiter, lineEnd);
+        tableLine(m_titles, delimiter, lineEnd);
         for (const WrittenNote &note : m_notes)
             tableLine(tableCells(note), delimiter, lineEnd);
     }
 
     void markdown()
     {
-        markdownLine(tableTitles());
-        m_text +=
-            QLatin1Char('|') + QStringLiteral(" --- |").repeated(tableTitles().size()) + QLatin1Char('\n');
+        markdownLine(m_titles);
+        m_text += QLatin1Char('|') + QStringLiteral(" --- |").repeated(m_titles.size()) + QLatin1Char('\n');
         for (const WrittenNote &note : m_notes)
             markdownLine(tableCells(note));
     }
@@ -308,47 +322,26 @@ private:
                QString::number(milliseconds % 1000).rightJustified(3, QLatin1Char('0'));
     }
 
-    const QStringList &tableTitles()
-    {
-        if (m_titles.isEmpty()) {
-            m_titles = {QStringLiteral("Color"),  QStringLiteral("Name"),     QStringLiteral("Comment"),
-                        QStringLiteral("In"),     QStringLiteral("Duration"), QStringLiteral("Sequence"),
-                        QStringLiteral("Clip"),   QStringLiteral("Chapter"),  QStringLiteral("Compression"),
-                        QStringLiteral("Scoring")};
-            m_fixedTitles = m_titles.size();
-            QSet<QString> seen;
-            for (const WrittenNote &note : m_notes) {
-                for (const auto &[title, value] : note.fields) {
-                    if (!seen.contains(title)) {
-                        seen.insert(title);
-                        m_titles.append(title);
-                    }
-                }
-            }
-        }
-        return m_titles;
-    }
-
     QStringList tableCells(const WrittenNote &note)
     {
         const auto yes = [](bool flag) { return flag ? QStringLiteral("yes") : QString(); };
-        QStringList cells = {MarkerColors::table()[colorIndex(note)].label,
-                             note.name,
-                             note.comment,
-                             note.time,
-                             note.duration,
-                             note.sequence,
-                             note.clip,
-                             yes(note.isChapter),
-                             yes(note.isCompression),
-                             yes(note.isScoring)};
-        for (qsizetype i = m_fixedTitles; i < m_titles.size(); ++i) {
-            QString cell;
-            for (const auto &[title, value] : note.fields) {
-                if (title == m_titles.at(i))
-                    cell = value;
-            }
-            cells.append(cell);
+        QHash<QString, QString> fields;
+        for (const auto &[title, value] : note.fields)
+            fields.insert(title, value);
+        const QStringList usual = {MarkerColors::table()[colorIndex(note)].label,
+                                   note.name,
+                                   note.comment,
+                                   note.time,
+                                   note.duration,
+                                   note.sequence,
+                                   note.clip,
+                                   yes(note.isChapter),
+                                   yes(note.isCompression),
+                                   yes(note.isScoring)};
+        QStringList cells;
+        for (qsizetype i = 0; i < m_titles.size(); ++i) {
+            const qsizetype index = m_usual.at(i);
+            cells.append(index >= 0 ? usual.at(index) : fields.value(m_titles.at(i)));
         }
         return cells;
     }
@@ -385,10 +378,10 @@ private:
     }
 
     const std::vector<WrittenNote> &m_notes;
+    const QStringList m_titles; ///< of the columns of a table
+    QList<qsizetype> m_usual;   ///< by column, its index in usualTitles(); -1 for a custom field
     QString m_text;
     QStringList m_changes;
-    QStringList m_titles;
-    qsizetype m_fixedTitles = 0;
     std::size_t m_replacedColors = 0;
     std::size_t m_joinedLines = 0;
     std::size_t m_withBars = 0;
@@ -408,9 +401,30 @@ const QStringList &formats()
     return names;
 }
 
-Written write(const QString &format, const std::vector<WrittenNote> &notes)
+QStringList columnTitles(const std::vector<WrittenNote> &notes)
 {
-    Writer writer(notes);
+    QStringList titles = usualTitles();
+    QSet<QString> seen;
+    for (const WrittenNote &note : notes) {
+        for (const auto &[title, value] : note.fields) {
+            if (!seen.contains(title)) {
+                seen.insert(title);
+                titles.append(title);
+            }
+        }
+    }
+    return titles;
+}
+
+bool hasColumns(const QString &format)
+{
+    return format == QStringLiteral("csv") || format == QStringLiteral("tsv") ||
+           format == QStringLiteral("markdown");
+}
+
+Written write(const QString &format, const std::vector<WrittenNote> &notes, const QStringList &columns)
+{
+    Writer writer(notes, columns);
     switch (formats().indexOf(format)) {
     case 0:
         writer.avid(false);

@@ -51,7 +51,15 @@ const QStringList &formats();
 /// is the custom field "USER" where there is one, else "Vantrell", and the last is the exact colour. A marker
 /// without a duration is one frame long in Avid and Resolve lists and in WebVTT. Locators and chapters hold
 /// the name, without one the comment.
-Written write(const QString &format, const std::vector<WrittenNote> &notes);
+///
+/// Tables have the columns with these titles, in this order; without any all of columnTitles().
+Written write(const QString &format, const std::vector<WrittenNote> &notes, const QStringList &columns = {});
+
+/// The titles of all columns of a table: the usual ones, then the custom fields.
+QStringList columnTitles(const std::vector<WrittenNote> &notes);
+
+/// Whether the columns of the format can be chosen: "csv", "tsv" and "markdown".
+bool hasColumns(const QString &format);
 
 } // namespace NoteWriter
 } // namespace vantrell

@@ -271,6 +271,21 @@ bool isYes(const Cells &cells, std::size_t column)
            text != QStringLiteral("0");
 }
 
+/// For so many columns.
+QStringList examplesOf(const std::vector<Cells> &records, std::size_t columns)
+{
+    QStringList examples;
+    examples.resize(qsizetype(columns));
+    for (const Cells &cells : records) {
+        for (std::size_t i = 0; i < std::min(cells.size(), columns); ++i) {
+            QString &example = examples[qsizetype(i)];
+            if (example.isEmpty())
+                example = cells[i].trimmed().left(80).toString().simplified();
+        }
+    }
+    return examples;
+}
+
 void readAvidText(NoteTable table, NoteList &list, const NoteColumnChoices &choices)
 {
     list.shape = NoteShape::AvidText;
@@ -285,6 +300,7 @@ void readAvidText(NoteTable table, NoteList &list, const NoteColumnChoices &choi
         rolesOfKinds(Kinds(avidColumns.begin(), avidColumns.begin() + std::ptrdiff_t(most)), {});
     roles.apply(choices, {});
     list.columns = roles.columns;
+    list.examples = examplesOf(sampleOf(table), list.columns.size());
     while (table.next(cells)) {
         if (cells.size() < 5 || cells.size() > avidColumns.size())
             list.unreadable.push_back(
@@ -358,6 +374,7 @@ bool readMarkdown(QStringView text, NoteList &list, const NoteColumnChoices &cho
     NoteRoles roles = NoteRoles::ofTable(list.headers, sample);
     roles.apply(choices, list.headers);
     list.columns = roles.columns;
+    list.examples = examplesOf(sample, list.columns.size());
     list.timeUnit = roles.timeUnit;
     list.durationUnit = roles.durationUnit;
     while (lines.next(line)) {
@@ -399,6 +416,7 @@ void readTable(QStringView text, NoteList &list, const NoteColumnChoices &choice
     if (!list.rate)
         list.rate = rateIn(list.headers, sample);
     list.columns = roles.columns;
+    list.examples = examplesOf(sample, list.columns.size());
     list.timeUnit = roles.timeUnit;
     list.durationUnit = roles.durationUnit;
     readRecords(table, list, roles);

@@ -131,6 +131,26 @@ private Q_SLOTS:
                  run(u"markers ~/project.xml --json"_s).output);
     }
 
+    void jsonIsReadBack()
+    {
+        m_home.addFile(u"chapters.csv"_s,
+                       "In,Name,Comment,Color,Duration,Scene,Type\n"
+                       "01:00:02:00,A & <b>,\"x \"\"y\"\"\nz\",blue,00:00:01:00,12,Chapter\n"
+                       "01:00:03:00,,,pink,,,\n");
+        QCOMPARE(
+            run(u"import ~/project.xml ~/chapters.csv --format auto --map Scene=field:Scene -o ~/from.xml"_s)
+                .status,
+            0);
+        QCOMPARE(run(u"export ~/from.xml --format json -o ~/from.json"_s).status, 0);
+        QCOMPARE(
+            run(u"import ~/from.xml ~/from.json --format auto --preview --json"_s).output.count("\"there\""),
+            3);
+        QCOMPARE(run(u"import ~/project.xml ~/from.json --format auto --map 10=field:Scene -o ~/back.xml"_s)
+                     .status,
+                 0);
+        QCOMPARE(run(u"markers ~/back.xml --json"_s).output, run(u"markers ~/from.xml --json"_s).output);
+    }
+
     void refused()
     {
         for (const char *arguments :
