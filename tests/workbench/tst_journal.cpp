@@ -268,7 +268,8 @@ private Q_SLOTS:
                                          << QByteArray("x:1 a:1 y:108007 new:5");
         QTest::newRow("sequences in another order")
             << xmeml(sequence("B", {}) + sequence("A", c + b + a)) << 5 << QByteArray("new:5 y:108007 x:1");
-        QTest::newRow("one sequence gone") << xmeml(sequence("A", a + b + c)) << 4 << QByteArray("x:1 y:108007");
+        QTest::newRow("one sequence gone")
+            << xmeml(sequence("A", a + b + c)) << 4 << QByteArray("x:1 y:108007");
         QTest::newRow("nothing applies") << xmeml(sequence("C", a + b + c)) << 0 << QByteArray("a:1 b:2 c:3");
     }
     void changedFile()
