@@ -5,6 +5,7 @@
 #include "app/MainMenu.h"
 #include "app/QuitSequence.h"
 #include "app/RecentFiles.h"
+#include "app/Recovery.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
 #include "app/WebPages.h"
@@ -40,6 +41,7 @@ namespace
 
 const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 const QString logQCKey = QStringLiteral("logQC");
+const QString journalKey = QStringLiteral("journal");
 
 constexpr int startupActionMs = 1000;
 constexpr std::chrono::milliseconds volumeTimeout{500}; // an unmounted network volume may never answer
@@ -105,6 +107,7 @@ AppController::AppController(UserDefaults &defaults)
     QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
     QVariantMap registered = defaultWebAddresses();
     registered.insert(showOpenDialogKey, 1);
+    registered.insert(journalKey, true);
     m_defaults.registerDefaults(registered);
 
     m_recentFiles = std::make_unique<RecentFiles>(m_defaults);
@@ -117,11 +120,15 @@ AppController::AppController(UserDefaults &defaults)
     connect(m_startWindow.get(), &StartWindow::recentFileChosen, this, &AppController::openRecentFile,
             Qt::QueuedConnection);
     connect(m_startWindow.get(), &StartWindow::closed, this, &AppController::quit);
+    m_recovery = std::make_unique<Recovery>(
+        [this] { return documentWindows(); },
+        [this](JournalFolder::Restorable changes) { return restoreChanges(std::move(changes)); });
 }
 
 AppController::~AppController()
 {
     QVAlert::closeAll();
+    m_recovery.reset();
     for (const QPointer<DocumentWindow> &window : m_windows)
         delete window;
     QVAlert::setPresenter(nullptr);
@@ -131,9 +138,11 @@ void AppController::applicationDidFinishLaunching()
 {
     if (documentWindows().empty())
         m_startWindow->show();
+    m_recovery->offerAll();
     QTimer::singleShot(startupActionMs, this, [this] {
         const QWidget *const active = QApplication::activeWindow();
-        const bool isInUse = !documentWindows().empty() || (active && active != m_startWindow.get());
+        const bool isInUse = !documentWindows().empty() || m_recovery->isOffering() ||
+                             (active && active != m_startWindow.get());
         if (!isInUse && !m_quitting)
             performStartupAction();
     });
@@ -231,6 +240,27 @@ bool AppController::openDocument(const QString &path, const QString &typeName)
         bringToFront(*open);
         return true;
     }
+    DocumentWindow *const window = makeWindow();
+    connect(
+        window, &DocumentWindow::loaded, m_recovery.get(), [this, window] { m_recovery->offerFor(*window); },
+        Qt::SingleShotConnection);
+    return window->open(absolute, typeName);
+}
+
+/// Opens the project of a journal with its changes, in its own window if it is open already.
+bool AppController::restoreChanges(JournalFolder::Restorable changes)
+{
+    const JournalHeader header = changes.contents.header;
+    if (DocumentWindow *const open = windowOf(header.projectPath, header.typeName)) {
+        bringToFront(*open);
+        return open->restoreChanges(std::move(changes));
+    }
+    return makeWindow()->openWithChanges(header.projectPath, header.typeName, std::move(changes));
+}
+
+/// Shows a window that is to open a document.
+DocumentWindow *AppController::makeWindow()
+{
     auto *const window = new DocumentWindow(m_defaults);
     m_windows.emplace_back(window);
     new MainMenu(*this, *window, window);
@@ -244,7 +274,7 @@ bool AppController::openDocument(const QString &path, const QString &typeName)
     cascade(*window);
     window->show();
     m_startWindow->hide();
-    return window->open(absolute, typeName);
+    return window;
 }
 
 void AppController::noteLoaded(DocumentWindow &window)

@@ -2,6 +2,7 @@
 
 #include "app/Troubleshooting.h"
 #include "app/WebPages.h"
+#include "journal/JournalFolder.h"
 #include "support/files/Result.h"
 
 #include <QObject>
@@ -23,6 +24,7 @@ class DocumentWindow;
 class QVFCPProjectLoader;
 class QuitSequence;
 class RecentFiles;
+class Recovery;
 class StartWindow;
 class UserDefaults;
 
@@ -61,6 +63,7 @@ public:
     /// The window that commands apply to; null without one.
     DocumentWindow *currentWindow() const;
     StartWindow &startWindow() const { return *m_startWindow; }
+    Recovery &recovery() const { return *m_recovery; }
     RecentFiles &recentFiles() const { return *m_recentFiles; }
     /// Knows whether Final Cut Pro is running.
     ApplicationWatch &finalCutPro() const { return *m_finalCutPro; }
@@ -93,6 +96,8 @@ private:
     inline static const QString programName = QStringLiteral("Vantrell");
 
     bool openDocument(const QString &path, const QString &typeName);
+    DocumentWindow *makeWindow();
+    bool restoreChanges(JournalFolder::Restorable changes);
     Result<void> openProject(const QString &path);
     void noteLoaded(DocumentWindow &window);
     DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
@@ -109,6 +114,7 @@ private:
     std::unique_ptr<RecentFiles> m_recentFiles;
     std::unique_ptr<ApplicationWatch> m_finalCutPro;
     std::unique_ptr<StartWindow> m_startWindow;
+    std::unique_ptr<Recovery> m_recovery;
     std::vector<QPointer<DocumentWindow>> m_windows; // including those that are closing
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;

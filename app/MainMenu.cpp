@@ -274,9 +274,12 @@ void MainMenu::validateUndo()
     const auto title = [](const QString &command, const QString &step) {
         return step.isEmpty() ? command : command + QLatin1Char(' ') + step;
     };
-    m_undo->setText(title(tr("&Undo"), document && !field ? document->undoName() : QString()));
+    const bool undoesRevert = m_document && m_document->mayUndoRevert();
+    const QString undone = undoesRevert ? tr("Revert") : document ? document->undoName() : QString();
+    m_undo->setText(title(tr("&Undo"), field ? QString() : undone));
     m_redo->setText(title(tr("&Redo"), document && !field ? document->redoName() : QString()));
-    m_undo->setEnabled((field && field->isUndoAvailable()) || (mayEdit && document->canUndo()));
+    m_undo->setEnabled((field && field->isUndoAvailable()) || (mayEdit && document->canUndo()) ||
+                       (undoesRevert && !field));
     m_redo->setEnabled((field && field->isRedoAvailable()) || (mayEdit && document->canRedo()));
 }
 

@@ -49,6 +49,9 @@ public:
     // The edited mark
 
     bool isEdited() const { return m_state != m_cleanState; }
+    State state() const { return m_state; }
+    /// Of the project as it was saved or sent last.
+    State cleanState() const { return m_cleanState; }
     void noteChange() { m_state = ++m_lastState; }
     /// The project has been saved as it is now.
     void noteSaved();

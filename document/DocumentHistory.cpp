@@ -2,7 +2,10 @@
 
 #include "document/MyDocument.h"
 
+#include "document/DocumentJournal.h"
+#include "document/UnsavedChanges.h"
 #include "support/log/QVException.h"
+#include "xml/XmlStepRecorder.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -13,9 +16,6 @@ namespace vantrell
 
 namespace
 {
-
-/// A larger selection is forgotten unless as much was changed: a step takes no more memory than its change.
-constexpr std::size_t keptSelection = 1000;
 
 constexpr std::array allTabs{Tab::Media, Tab::Effects, Tab::Markers};
 
@@ -51,7 +51,7 @@ void MyDocument::beginEdit(Tab tab, const QString &name, EditGroup group)
         for (const Tab each : allTabs)
             m_edit->generations[std::size_t(each)] = rowView(each).generation();
         m_edit->wasSorted = view.isVisible() && view.order() == RowView::Order::Sorted;
-        m_edit->selection = selectedRecords(tab);
+        m_edit->selection = KeptSelection(selectedRecords(tab), view.list());
     });
     m_marks.beginEdit();
     if (m_xmlDoc)
@@ -67,13 +67,45 @@ void MyDocument::endEdit()
     EditStep step = std::move(*m_edit);
     m_edit.reset();
     step.marks = m_marks.takeEdit();
-    if (step.isEmpty())
+    if (step.isEmpty() || dropsEqual(step))
         return;
-    if (step.selection.size() > std::max(keptSelection, step.rows.size()))
-        step.selection = RowList();
+    EditStep noted;
+    const bool isNoted = !m_journal || guarded("MyDocument::endEdit", [&] {
+        noted.name = step.name;
+        noted.tab = step.tab;
+        noted.group = step.group;
+        noted.marks = step.marks;
+        noted.tree = step.tree;
+    });
     if (!guarded("MyDocument::endEdit", [&] { m_history.push(std::move(step)); }))
         m_history.clear(); // what came before cannot be undone without it
+    if (m_journal && isNoted)
+        m_journal->noteStep(DocumentJournal::Kind::Edit, noted, *m_xmlDoc, noted.tree,
+                            countUnsavedChanges(m_history, m_marks));
+    else if (m_journal)
+        m_journal->stop();
     Q_EMIT historyChanged();
+}
+
+/// Takes back a step that has set nothing but equal values, if it has made no sequence or project count as
+/// changed that did not before.
+bool MyDocument::dropsEqual(EditStep &step)
+{
+    const bool marksNothing = step.marks.before != m_marks.cleanState() && !isSending() &&
+                              (!step.marks.added || step.marks.added->sequences.isEmpty());
+    if (!marksNothing || !m_xmlDoc)
+        return false;
+    bool isEqual = false;
+    guarded("MyDocument::dropsEqual", [&] {
+        isEqual = step.rows.leftAllEqual() && XmlStepRecorder::leftAllEqual(*m_xmlDoc, step.tree);
+        if (isEqual)
+            m_xmlDoc->revert(step.tree);
+    });
+    if (!isEqual)
+        return false;
+    step.rows.undo([](const RowView &) { return false; });
+    m_marks.undo(step.marks);
+    return true;
 }
 
 void MyDocument::willSet(const RowRecordPtr &row, const RecordKey &key)
@@ -138,6 +170,8 @@ bool MyDocument::restoreNext(Restoring what)
     });
     if (!isWhole && !isDone) { // without memory the step may have been restored in part
         m_history.clear();
+        if (m_journal)
+            m_journal->stop();
         for (const RowFollower &follower : m_rowFollowers) {
             if (follower.relist)
                 follower.relist();
@@ -167,6 +201,12 @@ void MyDocument::restore(Restoring what)
         m_marks.redo(step.marks);
         m_history.noteRedone();
     }
+    if (m_journal) {
+        const EditStep &restored = isUndo ? m_history.toRedo() : m_history.toUndo();
+        m_journal->noteStep(isUndo ? DocumentJournal::Kind::Undo : DocumentJournal::Kind::Redo, restored,
+                            *m_xmlDoc, restored.tree, countUnsavedChanges(m_history, m_marks));
+    }
+    endJournalIfClean();
     if (isEdited() != wasEdited)
         Q_EMIT editedChanged(isEdited());
     for (const Tab tab : allTabs)
@@ -182,7 +222,8 @@ void MyDocument::showRestored(const EditStep &step, Tab tab, Restoring what)
     RowList removed = step.rows.removedRows(view);
     if (what == Restoring::Undo)
         std::swap(added, removed);
-    if (added.empty() && removed.empty() && tab != step.tab)
+    const bool isConcerned = tab == step.tab || (step.isRestored && tab != Tab::Media);
+    if (added.empty() && removed.empty() && !isConcerned)
         return;
     if (view.generation() != step.generations[std::size_t(tab)]) {
         if (follower.relist)
@@ -208,9 +249,11 @@ void MyDocument::selectRestored(const EditStep &step, Restoring what)
     RowList changed = step.rows.changedRows();
     const RowList back = isUndo ? step.rows.removedRows(view) : step.rows.addedRows(view);
     changed.insert(changed.end(), back.begin(), back.end());
-    const bool wasSelected = changed.empty() || std::find(step.selection.begin(), step.selection.end(),
-                                                          changed.front()) != step.selection.end();
-    const RowList &chosen = isUndo && wasSelected ? step.selection : changed;
+    const bool isReplaced = view.generation() != step.generations[std::size_t(step.tab)];
+    const RowList before = isUndo ? step.selection.rows(view.list(), isReplaced) : RowList();
+    const bool wasSelected =
+        changed.empty() || std::find(before.begin(), before.end(), changed.front()) != before.end();
+    const RowList &chosen = isUndo && wasSelected ? before : changed;
 
     m_interface.showTab(step.tab);
     const std::unordered_set<RowRecordPtr> selected(chosen.begin(), chosen.end());

@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 
+#include "document/DocumentJournal.h"
 #include "support/desktop/Workspace.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
@@ -76,6 +77,8 @@ void MyDocument::loadProjectWithSettings(const QString &typeName, const QUrl &ur
         setPopulating(tab, true);
     if (!loadTree(typeName, url))
         return;
+    if (m_journal)
+        m_journal->projectLoaded({url.toLocalFile(), typeName, m_knownFile}, *m_xmlDoc);
     static const XmlQuery sequence(QStringLiteral("./xmeml[1]/sequence[1]"));
     m_xmlType = sequence.first(xmlNode()) ? 1 : 0;
     if (m_xmlType == 1)
@@ -157,12 +160,29 @@ void MyDocument::reportLoad(bool loaded, const QString &message, const QString &
             return;
         if (!loaded)
             m_loadFailure = message.isNull() ? QStringLiteral("") : message;
+        else
+            adoptRestored();
         // The queue goes on after an exception; the window would wait for ever.
         constexpr int attempts = 50;
         persistently(
             "MyDocument::reportLoad", [&] { Q_EMIT loadFinished(loaded, message, notice); }, attempts);
     };
     persistently("MyDocument::reportLoad", [&] { m_mainThread->runAndWait(report); });
+}
+
+/// Takes over what the loader has restored of a journal. On the main thread.
+void MyDocument::adoptRestored()
+{
+    std::optional<DocumentJournal::Restored> restored;
+    if (m_journal)
+        restored = m_journal->takeRestored();
+    if (!restored)
+        return;
+    m_history = std::move(restored->history);
+    m_marks = std::move(restored->marks);
+    m_lastGroup = restored->lastGroup;
+    Q_EMIT historyChanged();
+    Q_EMIT editedChanged(isEdited());
 }
 
 void MyDocument::runInventories()

@@ -2,10 +2,12 @@
 
 #include "document/MyDocument.h"
 
+#include "document/DocumentJournal.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/FileUtilities.h"
 #include "support/log/QVException.h"
 #include "support/threads/Persistently.h"
+#include "xml/XmlElementOrder.h"
 
 #include <QFileInfo>
 
@@ -107,6 +109,8 @@ Result<void> MyDocument::writeFile(const QString &path)
         if (m_changedFile)
             return Failure{SaveFailure::changedElsewhere};
         written = FileStamp::ofDescriptor(descriptor);
+        if (m_journal && written && m_knownFile->isAt(path))
+            m_journal->willReplaceFile(*written);
         return {};
     };
     m_changedFile = m_knownFile->changeAt(path); // or all would be written in vain
@@ -115,7 +119,9 @@ Result<void> MyDocument::writeFile(const QString &path)
     const Result<void> saved = FileUtilities::writeAtomically(path, write, mayReplace);
     if (!saved)
         return saved;
-    m_written = {path, written};
+    m_written = {path, written, nullptr};
+    if (m_journal)
+        guarded("MyDocument::writeFile", [this] { m_written.order = XmlElementOrder::of(*m_xmlDoc); });
     if (m_knownFile->isAt(path))
         m_knownFile->note(path, written);
     return saved;

@@ -5,56 +5,39 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <sys/stat.h>
-
 namespace vantrell
 {
 
 namespace
 {
 
-std::optional<FileStamp> stampOf(const struct stat &status)
-{
-    if (!S_ISREG(status.st_mode))
-        return std::nullopt;
-#ifdef __APPLE__
-    const timespec &changed = status.st_mtimespec;
-#else
-    const timespec &changed = status.st_mtim;
-#endif
-    return FileStamp{std::uint64_t(status.st_dev), std::uint64_t(status.st_ino), std::int64_t(status.st_size),
-                     std::int64_t(changed.tv_sec), std::int64_t(changed.tv_nsec)};
-}
-
 QString cleanPath(const QString &path)
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-/// Empty when the file cannot be read, or changes meanwhile.
-QByteArray digestOf(const QString &path, const FileStamp &stamp)
+} // namespace
+
+QByteArray KnownFile::digestOf(const QString &path, const FileStamp &stamp)
 {
     QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    const bool isRead = FileStamp::ofPath(path) == stamp && file.open(QIODevice::ReadOnly) &&
-                        hash.addData(&file) && FileStamp::ofPath(path) == stamp;
+    const bool isRead = stamp.size <= contentLimit && FileStamp::ofPath(path) == stamp &&
+                        file.open(QIODevice::ReadOnly) && hash.addData(&file) &&
+                        FileStamp::ofPath(path) == stamp;
     return isRead ? hash.result() : QByteArray();
 }
 
-} // namespace
-
-std::optional<FileStamp> FileStamp::ofPath(const QString &path)
+std::optional<FileStamp> KnownFile::stamp()
 {
-    struct stat status = {};
-    if (path.isEmpty() || ::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return std::nullopt;
-    return stampOf(status);
+    const std::lock_guard lock(m_mutex);
+    return m_stamp;
 }
 
-std::optional<FileStamp> FileStamp::ofDescriptor(int descriptor)
+QByteArray KnownFile::digest()
 {
-    struct stat status = {};
-    return ::fstat(descriptor, &status) == 0 ? stampOf(status) : std::nullopt;
+    const std::lock_guard lock(m_mutex);
+    return m_digest;
 }
 
 void KnownFile::note(const QString &path, const std::optional<FileStamp> &stamp)
@@ -99,7 +82,7 @@ void KnownFile::rememberContent()
         path = m_path;
         stamp = m_stamp;
     }
-    if (!stamp || stamp->size > contentLimit)
+    if (!stamp)
         return;
     const QByteArray digest = digestOf(path, *stamp);
     const std::lock_guard lock(m_mutex);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/files/FileStamp.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -9,20 +11,6 @@
 
 namespace vantrell
 {
-
-/// What tells one state of a regular file from another without reading it.
-struct FileStamp {
-    std::uint64_t device = 0;
-    std::uint64_t number = 0; ///< of the file on its device
-    std::int64_t size = 0;    ///< bytes
-    std::int64_t seconds = 0; ///< of the last change, since 1970
-    std::int64_t nanoseconds = 0;
-    bool operator==(const FileStamp &) const = default;
-
-    /// Links are followed. Nothing when there is no regular file.
-    static std::optional<FileStamp> ofPath(const QString &path);
-    static std::optional<FileStamp> ofDescriptor(int descriptor);
-};
 
 /// The file that a document was read from or written to last, as it was then: what tells whether another
 /// program has changed it since. Nothing is known at first. Any thread.
@@ -48,6 +36,13 @@ public:
     /// The stamp of the file at the path if that is the known file and another program changed it. Nothing
     /// also when the path leads to another file or to none.
     std::optional<FileStamp> changeAt(const QString &path);
+
+    /// The stamp; nothing when nothing is known. And a digest of the content; empty when it is not
+    /// remembered.
+    std::optional<FileStamp> stamp();
+    QByteArray digest();
+    /// The digest of the file while it has that stamp; empty when it cannot be read or is too large.
+    static QByteArray digestOf(const QString &path, const FileStamp &stamp);
 
     /// What has that stamp may be overwritten: the user has agreed to it.
     void accept(const FileStamp &stamp);

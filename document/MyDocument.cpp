@@ -1,5 +1,6 @@
 #include "document/MyDocument.h"
 
+#include "document/DocumentJournal.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVException.h"
 #include "timecode/QVTimecode.h"
@@ -186,6 +187,8 @@ void MyDocument::noteChange(Note note)
     note();
     if (!wasEdited)
         Q_EMIT editedChanged(true);
+    if (!m_edit && m_journal)
+        m_journal->stop();
     if (m_edit || !(m_history.canUndo() || m_history.canRedo()))
         return;
     m_history.clear();
@@ -195,7 +198,20 @@ void MyDocument::noteChange(Note note)
 void MyDocument::clearChangeCount()
 {
     m_marks.noteSaved();
+    const QString path = m_fileURL.toLocalFile();
+    const bool isFile = m_written.order && m_written.path == path;
+    if (m_journal && isFile)
+        m_journal->noteSaved({path, DocumentType::finalCutProXMLFile, m_knownFile},
+                             std::exchange(m_written.order, nullptr));
+    else if (m_journal)
+        m_journal->noteSent();
     Q_EMIT editedChanged(false);
+}
+
+void MyDocument::endJournalIfClean()
+{
+    if (m_journal && !isEdited())
+        m_journal->noteClean();
 }
 
 void MyDocument::beginSending()
@@ -216,8 +232,11 @@ void MyDocument::endSending(SendResult result)
     const bool wasSending = isSending();
     m_marks.endSending(result != SendResult::Failed, result == SendResult::SequencesSent);
     endReadingToSend();
-    if (wasSending && result != SendResult::Failed && !isEdited())
+    if (wasSending && result != SendResult::Failed && !isEdited()) {
+        if (m_journal)
+            m_journal->noteSent();
         Q_EMIT editedChanged(false);
+    }
 }
 
 void MyDocument::showAlert(const QString &messageText, const QString &informativeText)

@@ -33,6 +33,9 @@
 namespace vantrell
 {
 
+class DocumentJournal;
+class XmlElementOrder;
+
 /// Names of the document types that the program opens.
 namespace DocumentType
 {
@@ -140,6 +143,11 @@ public:
     void overwriteChangedFile();
     /// Asks what a save to that path would ask, for a path to which something else will be written.
     Result<void> confirmReplacing(const QString &path);
+    /// Keeps the unsaved changes in a journal, and restores those that it was given; called before loading.
+    /// Null ends that.
+    void setJournal(std::shared_ptr<DocumentJournal> journal) { m_journal = std::move(journal); }
+    /// Null without one.
+    DocumentJournal *journal() const { return m_journal.get(); }
     /// The document's file as it was read or written last.
     const std::shared_ptr<KnownFile> &knownFile() const { return m_knownFile; }
     /// Gives up what writeInBackground() is writing, as far as it has not been written whole by then.
@@ -290,6 +298,9 @@ public:
     /// Whether there is a step, and the tree may be changed.
     bool canUndo() const { return m_history.canUndo() && mayRestore(); }
     bool canRedo() const { return m_history.canRedo() && mayRestore(); }
+    /// The steps, and what counts as changed.
+    const EditHistory &history() const { return m_history; }
+    const ChangeMarks &marks() const { return m_marks; }
     /// The name of the step, such as "Rename Marker"; null without one.
     QString undoName() const { return m_history.canUndo() ? m_history.toUndo().name : QString(); }
     QString redoName() const { return m_history.canRedo() ? m_history.toRedo().name : QString(); }
@@ -350,6 +361,8 @@ private:
     void setPopulating(Tab tab, bool populating);
     void reportLoad(bool loaded, const QString &message, const QString &notice);
     void runInventories();
+    void adoptRestored();
+    void endJournalIfClean();
     Result<void> prepareSaving(const QUrl &url);
     Result<void> startSending(std::function<void()> ended);
     Result<void> noteSaved(Result<void> saved);
@@ -358,6 +371,7 @@ private:
     template <typename Note>
     void noteChange(Note note);
     enum class Restoring { Undo, Redo };
+    bool dropsEqual(EditStep &step);
     bool mayRestore() const;
     bool restoreNext(Restoring what);
     void restore(Restoring what);
@@ -379,7 +393,8 @@ private:
     struct {
         QString path;
         std::optional<FileStamp> stamp;
-    } m_written; ///< by the last save that ended well
+        std::shared_ptr<const XmlElementOrder> order; ///< of the elements in it; null without a journal
+    } m_written;                                      ///< by the last save that ended well
     std::unique_ptr<XmlDocument> m_xmlDoc;
     QString m_loadFailure; ///< null unless loading failed, empty when the user has been told why
     std::int64_t m_xmlType = 0;
@@ -397,6 +412,7 @@ private:
 
     ChangeMarks m_marks;
     EditHistory m_history;
+    std::shared_ptr<DocumentJournal> m_journal;
     std::optional<EditStep> m_edit; ///< that is being made
     int m_openEdits = 0;            ///< calls of beginEdit() without endEdit()
     EditGroup m_lastGroup = 0;

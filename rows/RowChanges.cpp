@@ -1,11 +1,39 @@
 #include "rows/RowChanges.h"
 
+#include <algorithm>
 #include <iterator>
 #include <unordered_set>
 #include <utility>
 
 namespace vantrell
 {
+
+namespace
+{
+
+bool isEqual(const RowRecord &a, const RowRecord &b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        const RecordValue *const other = b.find(a.keyAt(i));
+        if (!other || *other != a.valueAt(i))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool RowChanges::leftAllEqual() const
+{
+    return m_lists.empty() && std::all_of(m_values.begin(), m_values.end(), [](const Value &value) {
+               if (value.whole)
+                   return isEqual(*value.whole, *value.row);
+               const RecordValue *const now = value.row->find(value.key);
+               return now ? value.other && *value.other == *now : !value.other;
+           });
+}
 
 std::size_t RowChanges::size() const
 {

@@ -17,6 +17,8 @@ class RowChanges
 {
 public:
     bool isEmpty() const { return m_values.empty() && m_lists.empty(); }
+    /// Whether all rows are as they were before: equal values were set, and no row was added or removed.
+    bool leftAllEqual() const;
     /// How many values and rows were changed.
     std::size_t size() const;
 

@@ -20,6 +20,7 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
     if (defaults && defaults->boolean(MarkerInventory::ownOwnersDefault))
         m_markerInventory.setOwnerListing(OwnerListing::Own);
     m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
+    m_document.setRowFollower(Tab::Media, {{}, [this] { m_mediaInventory.populateMediaData(); }});
     m_isMade = true;
 }
 

@@ -24,6 +24,7 @@ public:
 
 private:
     friend class XmlTree;
+    friend class XmlStepRecorder;
 
     struct Change {
         std::uint32_t node;

@@ -289,6 +289,30 @@ XmlChanges XmlTree::revert(const XmlChanges &changes)
     return reverse;
 }
 
+void XmlTree::stepBack(const XmlChanges &changes) noexcept
+{
+    XmlChanges *const recorder = setRecorder(nullptr);
+    for (auto change = changes.m_changes.rbegin(); change != changes.m_changes.rend(); ++change) {
+        if (change->isLinked)
+            unlink(change->node);
+        else
+            insertAfter(change->parent, change->previous, change->node);
+    }
+    setRecorder(recorder);
+}
+
+void XmlTree::stepForward(const XmlChanges &changes) noexcept
+{
+    XmlChanges *const recorder = setRecorder(nullptr);
+    for (const XmlChanges::Change &change : changes.m_changes) {
+        if (change.isLinked)
+            insertAfter(change.parent, change.previous, change.node);
+        else
+            unlink(change.node);
+    }
+    setRecorder(recorder);
+}
+
 void XmlTree::setInOrder(bool textToo)
 {
     m_orderedEnd = m_nodeCount;

@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace vantrell
@@ -183,10 +184,14 @@ public:
 
     /// From now on linked and unlinked nodes, except attributes, are added to `changes`; null ends that.
     /// Edits of nodes outside the document are recorded too. A copy is not: it is not linked to anything.
-    void setRecorder(XmlChanges *changes) { m_recorder = changes; }
+    XmlChanges *setRecorder(XmlChanges *changes) { return std::exchange(m_recorder, changes); }
     /// Undoes the changes, the last one first, and returns those that redo them. What it does is not
     /// recorded. Without memory nothing happens.
     XmlChanges revert(const XmlChanges &changes);
+    /// Takes the last changes back for a look at the tree as it was before, and makes them again. Nothing of
+    /// it is recorded; needs no memory.
+    void stepBack(const XmlChanges &changes) noexcept;
+    void stepForward(const XmlChanges &changes) noexcept;
 
     /// A deep copy, in this tree and without a parent, of an element of this or another tree. Namespaces used
     /// in it and declared on an ancestor are declared on the copy.
@@ -233,6 +238,8 @@ public:
         const auto at = std::lower_bound(ids.begin(), ids.end(), begin);
         return at != ids.end() && *at < end ? *at : 0;
     }
+    /// The id past the last node that was ever made.
+    XmlNodeId endOfNodes() const { return m_nodeCount; }
     /// The id past the last node that was parsed, while isInOrder().
     XmlNodeId orderedEnd() const { return m_orderedEnd; }
 

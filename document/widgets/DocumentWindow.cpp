@@ -1,5 +1,6 @@
 #include "document/widgets/DocumentWindow.h"
 
+#include "document/DocumentJournal.h"
 #include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
@@ -35,6 +36,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace vantrell
 {
 
@@ -42,6 +45,7 @@ namespace
 {
 
 const QString geometryKey = QStringLiteral("documentWindowPlace");
+const QString journalKey = QStringLiteral("journal");
 
 constexpr int redrawMs = 50;
 
@@ -103,6 +107,10 @@ DocumentWindow::~DocumentWindow()
 {
     m_state.close();
     endSession();
+    for (Reverted &reverted : m_reverted) {
+        qDeleteAll(reverted.panes);
+        DocumentDisposal::dispose(std::move(reverted.workbench), std::move(reverted.interface));
+    }
 }
 
 void DocumentWindow::makeToolBar()
@@ -183,6 +191,23 @@ bool DocumentWindow::open(const QString &path, const QString &typeName)
     return true;
 }
 
+bool DocumentWindow::openWithChanges(const QString &path, const QString &typeName,
+                                     JournalFolder::Restorable changes)
+{
+    m_restorable.emplace(std::move(changes));
+    return open(path, typeName);
+}
+
+bool DocumentWindow::restoreChanges(JournalFolder::Restorable changes)
+{
+    const MyDocument *const current = document();
+    if (!current || isBusy() || current->isSaving() || current->isEdited())
+        return false;
+    m_restorable.emplace(std::move(changes));
+    reload();
+    return true;
+}
+
 void DocumentWindow::startSession(const QString &path, const QString &typeName)
 {
     m_interface = std::make_shared<DocumentWindowInterface>(this);
@@ -194,6 +219,24 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     m_panes = {media, new EffectsPane(*m_workbench, m_defaults), new MarkersPane(*m_workbench, m_defaults)};
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
+    if (m_restorable || m_defaults.boolean(journalKey)) {
+        const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
+        if (m_restorable)
+            journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
+        m_workbench->document().setJournal(journal);
+    }
+    connectSession();
+    m_state.load();
+    m_notice->setNotice(QString());
+    m_ownersNotice->setNotice(QString());
+    m_toolBar->setEnabled(true);
+    setWindowModified(false);
+    updateEditing();
+    setFile(path, typeName);
+}
+
+void DocumentWindow::connectSession()
+{
     m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
         if (tab != selectedTab())
             (this->*toolBarItems()[std::size_t(tab)].action)();
@@ -207,19 +250,11 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
         setWindowModified(edited);
         Q_EMIT menusChanged();
     });
-    m_state.load();
-    m_notice->setNotice(QString());
-    m_ownersNotice->setNotice(QString());
-    m_toolBar->setEnabled(true);
-    setWindowModified(false);
-    updateEditing();
-    setFile(path, typeName);
 }
 
-void DocumentWindow::endSession()
+/// Ends all that goes on between the window and its document.
+void DocumentWindow::leaveSession()
 {
-    if (!m_workbench)
-        return;
     QVAlert::closeAlertsForParent(m_interface->alertParent());
     Q_EMIT sessionEnding();
     m_comparison.close();
@@ -232,12 +267,60 @@ void DocumentWindow::endSession()
     m_work.reset();
     m_sending.reset();
     m_state.load();
-    for (TabPane *&pane : m_panes) {
+    for (TabPane *const pane : m_panes)
         pane->saveLayout();
+}
+
+void DocumentWindow::endSession()
+{
+    if (!m_workbench)
+        return;
+    leaveSession();
+    for (TabPane *&pane : m_panes) {
         delete pane;
         pane = nullptr;
     }
     DocumentDisposal::dispose(std::move(m_workbench), std::move(m_interface));
+}
+
+/// Keeps the document with its panes, as they are, for undoRevert().
+void DocumentWindow::keepSession()
+{
+    leaveSession();
+    if (DocumentJournal *const journal = m_workbench->document().journal())
+        journal->setGivenUp(true);
+    for (TabPane *const pane : m_panes)
+        m_content->removeWidget(pane);
+    m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes, {}});
+    m_panes = {};
+}
+
+void DocumentWindow::undoRevert()
+{
+    endSession();
+    Reverted reverted = std::move(m_reverted.back());
+    m_reverted.pop_back();
+    m_interface = std::move(reverted.interface);
+    m_workbench = std::move(reverted.workbench);
+    m_panes = reverted.panes;
+    MyDocument &document = m_workbench->document();
+    if (DocumentJournal *const journal = document.journal())
+        journal->setGivenUp(false);
+    for (TabPane *const pane : m_panes)
+        m_content->addWidget(pane);
+    connectSession();
+    m_state.treeLoaded();
+    m_state.listsFilled();
+    m_toolBar->setEnabled(true);
+    m_notice->setNotice(QString());
+    setFile(reverted.path, reverted.typeName);
+    setWindowModified(document.isEdited());
+    updateEditing();
+    updateOwnersNotice();
+    for (const QString &key : std::as_const(reverted.changedDefaults))
+        applyDefaultsChange(key);
+    showPane(document.viewState().selectedTab);
+    applyOwnerListing();
 }
 
 void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &notice)
@@ -250,8 +333,37 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
+    showOutcomeOfRestoring();
     Q_EMIT this->loaded(m_path);
     Q_EMIT menusChanged();
+}
+
+/// Adds to the notice what has become of the changes that were to be restored.
+void DocumentWindow::showOutcomeOfRestoring()
+{
+    const DocumentJournal *const journal = m_workbench->document().journal();
+    if (!journal || !journal->outcome())
+        return;
+    const DocumentJournal::Outcome &outcome = *journal->outcome();
+    const std::size_t done = outcome.restored + outcome.partly;
+    QString text;
+    if (done == 0)
+        text = tr("None of the unsaved changes could be restored, as the project was changed since. They are "
+                  "offered again the next time.");
+    else if (outcome.restored == outcome.total)
+        text = outcome.total == 1 ? tr("1 unsaved change was restored.")
+                                  : tr("%1 unsaved changes were restored.").arg(outcome.total);
+    else
+        text = tr("%1 of %2 unsaved changes were restored; the project was changed where the others belong.")
+                   .arg(done)
+                   .arg(outcome.total);
+    if (done > 0 && outcome.partly > 0)
+        text += QLatin1Char(' ') + tr("Restored in part: %1.").arg(outcome.partly);
+    if (done > 0)
+        text += QLatin1Char(' ') + tr("They are not in the file until you save.");
+    const QString before = m_notice->notice();
+    m_notice->setNotice(before + (before.isEmpty() ? QString() : QStringLiteral("\n")) + text,
+                        m_notice->kind());
 }
 
 void DocumentWindow::inventoriesEnded()
@@ -430,7 +542,10 @@ void DocumentWindow::selectToolbarItem(Tab tab)
 void DocumentWindow::reload()
 {
     const Tab tab = selectedTab();
-    endSession();
+    if (document() && document()->isEdited())
+        keepSession();
+    else
+        endSession();
     open(m_path, m_typeName);
     if (state() != State::Failed && !isClosing() && tab != Tab::Media)
         (this->*toolBarItems()[std::size_t(tab)].action)();
@@ -442,6 +557,8 @@ void DocumentWindow::applyDefaultsChange(const QString &key)
         if (pane && !isClosing())
             pane->applyDefaultsChange(key);
     }
+    for (Reverted &reverted : m_reverted)
+        reverted.changedDefaults.insert(key);
     if (key == MarkerInventory::ownOwnersDefault)
         applyOwnerListing();
     if (key == PathMappings::defaultsKey)
@@ -526,6 +643,8 @@ void DocumentWindow::undo()
 {
     if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
         field->undo();
+    else if (mayUndoRevert())
+        undoRevert();
     else if (mayEdit())
         restore(&MyDocument::undo);
 }
@@ -536,6 +655,16 @@ void DocumentWindow::redo()
         field->redo();
     else if (mayEdit())
         restore(&MyDocument::redo);
+}
+
+bool DocumentWindow::mayUndoRevert() const
+{
+    if (m_reverted.empty() || isBusy() || isClosing())
+        return false;
+    if (state() == State::Failed)
+        return true;
+    const MyDocument *const current = document();
+    return current && mayEdit() && !current->canUndo() && !current->isEdited();
 }
 
 void DocumentWindow::restore(bool (MyDocument::*step)())
@@ -603,11 +732,19 @@ void DocumentWindow::closeEvent(QCloseEvent *event)
 
 void DocumentWindow::shutDown()
 {
+    const MyDocument *const current = document();
     m_state.close();
     m_defaults.setValue(geometryKey, saveGeometry());
     if (m_workbench) {
         QVAlert::closeAlertsForParent(alertParent());
         m_workbench->document().mainThread()->close();
+    }
+    // What is not saved by now was given up.
+    if (current && current->journal())
+        current->journal()->discard();
+    for (const Reverted &reverted : m_reverted) {
+        if (DocumentJournal *const journal = reverted.workbench->document().journal())
+            journal->discard();
     }
     hide();
     Q_EMIT closed();

@@ -11,14 +11,17 @@
 #include "document/widgets/WindowState.h"
 #include "document/widgets/WindowWork.h"
 #include "interchange/MarkerListPanel.h"
+#include "journal/JournalFolder.h"
 
 #include <QMainWindow>
+#include <QSet>
 #include <QVariantMap>
 
 #include <array>
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QActionGroup;
@@ -58,6 +61,11 @@ public:
     /// Starts loading the file and shows the media pane; called once. A null type name is derived from the
     /// file's name. False, with the reason in the window, when the type is unknown.
     bool open(const QString &path, const QString &typeName = QString());
+
+    /// The same, with the unsaved changes of a journal restored.
+    bool openWithChanges(const QString &path, const QString &typeName, JournalFolder::Restorable changes);
+    /// Loads the file again with these changes restored; false when the project was edited or is in use.
+    bool restoreChanges(JournalFolder::Restorable changes);
 
     /// The window's file, and the document type it was last opened or saved as.
     QString path() const { return m_path; }
@@ -122,7 +130,8 @@ public Q_SLOTS:
     /// Asks for a file and saves to it; from then on it is the window's file.
     void saveAs() { m_saving.saveAs(); }
     void saveTo(const QString &path) { m_saving.saveTo(path); }
-    /// Loads the file again, after a question if changes would be lost.
+    /// Loads the file again, after a question if changes would be lost. Until the window is closed undo()
+    /// brings the project back as it was, once what was done since is undone.
     void revert() { m_saving.revert(); }
     void revertWithoutQuestion() { m_saving.revertWithoutQuestion(); }
 
@@ -193,6 +202,8 @@ public Q_SLOTS:
     void redo();
     /// Shows what a list of notes on the clipboard would add.
     void paste();
+    /// Whether undo() would undo reverting.
+    bool mayUndoRevert() const;
     // For the current pane
     void copySelection();
     void selectAllRows();
@@ -283,7 +294,12 @@ private:
     void makeContent();
     QWidget *makeFailurePage();
     void startSession(const QString &path, const QString &typeName);
+    void connectSession();
+    void leaveSession();
     void endSession();
+    void keepSession();
+    void undoRevert();
+    void showOutcomeOfRestoring();
     void showLoadFailure(const QString &message);
     void loadEnded(bool loaded, const QString &message, const QString &notice);
     void inventoriesEnded();
@@ -322,7 +338,19 @@ private:
     // The document and its views, replaced together when the file is reloaded
     std::shared_ptr<DocumentWindowInterface> m_interface;
     std::unique_ptr<Workbench> m_workbench;
-    std::array<TabPane *, 3> m_panes = {}; // by tab, children of m_content
+    std::array<TabPane *, 3> m_panes = {};                 // by tab, children of m_content
+    std::optional<JournalFolder::Restorable> m_restorable; ///< for the next session
+
+    /// What reverting gave up.
+    struct Reverted {
+        QString path;
+        QString typeName;
+        std::shared_ptr<DocumentWindowInterface> interface;
+        std::unique_ptr<Workbench> workbench;
+        std::array<TabPane *, 3> panes;
+        QSet<QString> changedDefaults; ///< meanwhile
+    };
+    std::vector<Reverted> m_reverted; ///< the last one at the end
 };
 
 } // namespace vantrell

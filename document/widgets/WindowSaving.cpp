@@ -1,5 +1,6 @@
 #include "document/widgets/WindowSaving.h"
 
+#include "document/UnsavedChanges.h"
 #include "document/widgets/ChangedFileSheet.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentWindow.h"
@@ -146,16 +147,20 @@ void WindowSaving::runSavePanel(const std::function<void()> &whenCancelled)
 void WindowSaving::revert()
 {
     m_window.commitEditing();
-    const MyDocument *const document = m_window.document();
+    MyDocument *const document = m_window.document();
     if (!document || m_state.isBusy())
         return;
     if (!document->isEdited()) {
         revertWithoutQuestion();
         return;
     }
+    const QString changes = UnsavedChanges::of(*document).text();
+    const QString lost = changes.isEmpty() ? tr("Your changes since it was last saved will be lost.")
+                                           : tr("%1 will be lost.").arg(changes);
     QVAlert::alertSheetWithMessageText(
         tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_window.path()).fileName()),
-        tr("Cancel"), tr("Revert"), QString(), tr("Your changes since it was last saved will be lost."),
+        tr("Cancel"), tr("Revert"), QString(),
+        lost + QLatin1Char(' ') + tr("Until you close the window, Edit ▸ Undo Revert brings them back."),
         m_window.alertParent(), this, revertQuestion, false, nullptr);
 }
 

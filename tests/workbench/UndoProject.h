@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DocumentJournal.h"
 #include "interchange/ImportedMarker.h"
 #include "support/alerts/QVAlert.h"
 #include "tests/markers/MarkerProject.h"
@@ -57,13 +58,24 @@ struct TabbedInterface : ScriptedDocumentInterface {
 struct UndoProject {
     explicit UndoProject(const QByteArray &xml)
     {
+        QFile file(folder.filePath(QStringLiteral("project.xml")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size() || !file.flush())
+            qFatal("The project could not be written.");
+        open(file.fileName());
+    }
+    /// The project of that file, which keeps the journal.
+    UndoProject(const QString &path, std::shared_ptr<DocumentJournal> journal)
+    {
+        document().setJournal(std::move(journal));
+        open(path);
+    }
+
+    void open(const QString &path)
+    {
         QVAlert::setPresenter(alerts);
         world.watch(document());
-        QFile file(folder.filePath(QStringLiteral("project.xml")));
-        const bool isLoaded =
-            file.open(QIODevice::WriteOnly) && file.write(xml) == xml.size() && file.flush() &&
-            workbench.open(file.fileName()) &&
-            MainThread::drainUntil([this] { return world.ended; }, std::chrono::seconds(40));
+        const bool isLoaded = workbench.open(path) && MainThread::drainUntil([this] { return world.ended; },
+                                                                             std::chrono::seconds(40));
         if (!isLoaded || !world.loaded)
             qFatal("The project could not be loaded.");
         world.workbench = &workbench;

@@ -1,6 +1,6 @@
 #include "tests/support/LongSeries.h"
-#include "tests/support/RandomProject.h"
 #include "tests/support/TemporaryHome.h"
+#include "tests/workbench/RandomEdits.h"
 #include "tests/workbench/UndoProject.h"
 
 #include <functional>
@@ -28,101 +28,6 @@ QByteArray sequence(const QByteArray &name, const QByteArray &content)
 const QByteArray twoSequences = "<xmeml><project><children>" +
                                 sequence("A", marker("a", 5) + marker("b", 3) + marker("c", 9)) +
                                 sequence("B", marker("d", 1)) + "</children></project></xmeml>";
-
-/// Edits one project at random.
-class RandomEdits
-{
-public:
-    RandomEdits(UndoProject &edited, quint64 seed)
-        : p(edited)
-        , m_random(seed)
-    {
-    }
-
-    void editOnce()
-    {
-        p.alerts->queueAnswer(1);
-        p.alerts->queueAnswer(1);
-        switch (m_random.below(12)) {
-        case 0:
-            p.workbench.markerEditor().addMarker();
-            break;
-        case 1:
-            p.workbench.markerEditor().addMarkerWithName(text(), m_random.below(50), -1, text(),
-                                                         QStringLiteral("green"), m_random.below(4));
-            break;
-        case 2:
-            p.workbench.markerEditor().remove(someRows(Tab::Markers));
-            break;
-        case 3:
-            p.workbench.markerEditor().offset(someRows(Tab::Markers), QString::number(m_random.below(50)),
-                                              p.document().markerArray());
-            break;
-        case 4:
-            for (const RowRecordPtr &effect : someRows(Tab::Effects, 1))
-                p.workbench.effectEditor().updateXMLEffect(
-                    effect, QString::fromLatin1(m_random.pick({"enabled", "enabled", "note", "1"})),
-                    QString::number(m_random.below(2)));
-            break;
-        case 5:
-            p.workbench.effectEditor().remove(someRows(Tab::Effects, 3));
-            break;
-        case 6:
-            p.import({text(), text(), text()});
-            break;
-        case 7:
-            look();
-            break;
-        default:
-            setCells();
-        }
-    }
-
-private:
-    QString text()
-    {
-        return QString::fromUtf8(
-            m_random.pick({"New", "Marker 2", "a&b", "", "É \U0001F3AC", "<", "x\x01y"}));
-    }
-
-    RowList someRows(Tab tab, int most = 5)
-    {
-        const RowList &all = p.document().rowView(tab).list();
-        RowList rows;
-        for (int i = all.empty() ? 0 : m_random.below(most) + 1; i > 0; --i) {
-            const RowRecordPtr &row = all[std::size_t(m_random.below(int(all.size())))];
-            if (std::find(rows.begin(), rows.end(), row) == rows.end())
-                rows.push_back(row);
-        }
-        return rows;
-    }
-
-    void setCells()
-    {
-        static const QByteArrayList columns = {"name",        "comment",  "color",   "in",
-                                               "out",         "chapter",  "scoring", "QVCUSTOM_T",
-                                               "compression", "sequence", "clip",    "QVCUSTOM_U"};
-        const QByteArray column = m_random.pick(columns);
-        const bool isText = column == "name" || column == "comment" || column.startsWith('Q');
-        p.workbench.markerEditor().setValue(someRows(Tab::Markers), QString::fromLatin1(column),
-                                            isText ? text() : QString::number(m_random.below(8)));
-    }
-
-    /// Changes what is on show, and how.
-    void look()
-    {
-        const Tab tab = m_random.oneIn(2) ? Tab::Markers : Tab::Effects;
-        p.document().viewState().markerFilter = m_random.oneIn(2) ? 0 : m_random.below(8);
-        p.world.show(tab);
-        p.document().rebuildRows(tab);
-        if (m_random.oneIn(2))
-            p.document().rowView(tab).sortBy({{QStringLiteral("name"), m_random.oneIn(2)}});
-        p.world.selectRows(tab, {0, 1});
-    }
-
-    UndoProject &p;
-    RandomNumbers m_random;
-};
 
 } // namespace
 
@@ -455,6 +360,61 @@ private Q_SLOTS:
         QVERIFY(document.isEdited());
         document.redo(); // as it was sent
         QVERIFY(!document.modifiedSequenceUUIDs() && !document.isEdited());
+    }
+
+    /// Equal values are no step once project and sequence count as changed.
+    void equalValues()
+    {
+        UndoProject p(twoSequences);
+        const auto set = [&p](std::size_t row, const char *column, const char *text) {
+            p.workbench.markerEditor().setValue(p.rows(Tab::Markers, {row}), QString::fromLatin1(column),
+                                                QString::fromLatin1(text));
+        };
+        set(1, "name", "a"); // marks the sequence
+        QVERIFY(p.document().canUndo() && p.document().isEdited());
+        p.document().undo();
+        set(1, "name", "x");
+        set(1, "comment", "c");
+        p.document().undo();
+        const ProjectState before = p.state();
+        const int changes = p.changes;
+        set(1, "name", "x");
+        set(1, "out", "0"); // -1 as before
+        QCOMPARE(p.changes, changes);
+        QVERIFY(p.state() == before);
+        QCOMPARE(p.document().undoName(), QStringLiteral("Rename Marker"));
+        QCOMPARE(p.document().redoName(), QStringLiteral("Change Comment"));
+        QVERIFY(p.document().redo() && p.document().undo() && p.document().undo());
+        QVERIFY(!p.document().isEdited());
+        QCOMPARE(p.state().file, UndoProject(twoSequences).state().file);
+    }
+
+    /// However many rows were selected, all of them are again.
+    void largeSelection()
+    {
+        QByteArray markers;
+        for (int i = 0; i < 3000; ++i)
+            markers += marker("m" + QByteArray::number(i), i);
+        UndoProject p("<xmeml><project><children>" + sequence("A", markers) +
+                      "</children></project></xmeml>");
+        p.world.show(Tab::Markers);
+        std::vector<std::size_t> selected;
+        for (std::size_t i = 0; i < 3000; ++i) {
+            if (i % 1000 != 500)
+                selected.push_back(i);
+        }
+        p.world.selectRows(Tab::Markers, selected);
+        const RowList rows = p.document().selectedRecords(Tab::Markers);
+        p.workbench.markerEditor().setValue({rows[7]}, QStringLiteral("name"), QStringLiteral("x"));
+        p.world.selectRows(Tab::Markers, {0});
+        QVERIFY(p.document().undo());
+        QVERIFY(p.document().selectedRecords(Tab::Markers) == rows);
+
+        p.world.selectRows(Tab::Markers, selected);
+        p.alerts->queueAnswer(1);
+        p.workbench.markerEditor().remove(rows);
+        QVERIFY(p.document().undo());
+        QVERIFY(p.document().selectedRecords(Tab::Markers) == rows);
     }
 
     /// The list is made anew where it was replaced since the step.
