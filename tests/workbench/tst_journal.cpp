@@ -95,7 +95,7 @@ private Q_SLOTS:
     /// What another process finds of a project after any edits is the project as it was.
     void restoresRandomEdits()
     {
-        for (int seed = 0; seed < seriesLength(400); ++seed) {
+        for (int seed = 0; seed < seriesLength(200); ++seed) {
             const QByteArray where = "seed " + QByteArray::number(seed);
             const QString path = m_home->addFile(QStringLiteral("p.xml"), RandomProject(quint64(seed)).xml());
             QDir(m_folder).removeRecursively();
@@ -187,7 +187,7 @@ private Q_SLOTS:
                     editor, {path, m_folder, logPath, QString::number(seed), QString::number(interval)});
                 QVERIFY(program.hasStarted());
                 QTRY_VERIFY_WITH_TIMEOUT(contentOf(logPath).contains('\n'), 40000);
-                std::this_thread::sleep_for(std::chrono::milliseconds(random.below(900)));
+                std::this_thread::sleep_for(std::chrono::milliseconds(random.below(500)));
                 QVERIFY(JournalFolder::find(m_folder).empty()); // it belongs to a living process
                 killed = QDateTime::currentMSecsSinceEpoch();
                 program.end();
