@@ -360,7 +360,7 @@ void DocumentWindow::showOutcomeOfRestoring()
     if (done > 0 && outcome.partly > 0)
         text += QLatin1Char(' ') + tr("Restored in part: %1.").arg(outcome.partly);
     if (done > 0)
-        text += QLatin1Char(' ') + tr("They are not in the file until you save.");
+        text += QLatin1Char(' ') + tr("The file is as it was until you save.");
     const QString before = m_notice->notice();
     m_notice->setNotice(before + (before.isEmpty() ? QString() : QStringLiteral("\n")) + text,
                         m_notice->kind());
