@@ -67,7 +67,9 @@ QString usedText(const MediaUseFacts &facts)
 
 std::optional<RecordValue> seconds(std::int64_t frames, const std::optional<FrameRate> &rate)
 {
-    return RecordValue(double(frames) / double(rate ? rate->timebase : 1));
+    std::optional<RecordValue> value;
+    value.emplace(double(frames) / double(rate ? rate->timebase : 1));
+    return value;
 }
 
 } // namespace
