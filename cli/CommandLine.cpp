@@ -68,7 +68,21 @@ std::vector<std::string> markedValues(const CLI::App &program, const std::vector
         const CLI::Option *option = beginsWithMinus(argument) && !isRest
                                         ? app->get_option_no_throw(argument.substr(0, argument.find('=')))
                                         : nullptr;
-        const bool isText = isRest || argument.starts_with(mark) || isNegativeNumber(argument) ||
+        // The library takes an empty value for none, and splits what is in brackets.
+        const auto isSpecial = [](const std::string &text) {
+            return text.empty() || text[0] == mark || text[0] == '[' || text[0] == '-';
+        };
+        const std::size_t equals =
+            option && argument.starts_with("--") ? argument.find('=') : std::string::npos;
+        if (equals != std::string::npos && option->get_items_expected_max() > 0 &&
+            isSpecial(argument.substr(equals + 1))) {
+            marked.push_back(argument.substr(0, equals));
+            marked.push_back(mark + argument.substr(equals + 1));
+            values = valuesOf(option, std::string()) - 1;
+            continue;
+        }
+        const bool isText = isRest || argument.starts_with(mark) || argument.starts_with('[') ||
+                            isNegativeNumber(argument) ||
                             (values > 0 && !option && beginsWithMinus(argument));
         if (!isText && values == 0)
             app = subcommandNamed(*app, argument);
@@ -135,6 +149,7 @@ void Subcommand::choice(const char *name, std::string &target, const std::vector
                         const std::string &help, Need need)
 {
     m_node->app.add_option(name, target, help)
+        ->transform(withoutMark)
         ->required(need == Need::Required)
         ->check(CLI::IsMember(choices));
 }

@@ -3,6 +3,7 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrell
 {
@@ -82,8 +83,11 @@ bool XmlOutput::keepsText()
     bool answer = isWhole(markup) && std::string_view(m_converted.data(), m_convertedSize) == markup;
     for (const std::string_view letter : {"é", "Ê", "中", "か", "한", "я"})
         answer = answer && isStateless(letter);
-    if (answer && isWhole("a") && isWhole("\u0300"))
-        answer = isWhole("a\u0300");
+    const std::pair<std::string, std::string> joined[] = {{"a", "\u0300"}, {"\u05D0", "\u05BC"}};
+    for (const auto &[letter, accent] : joined) {
+        if (answer && isWhole(letter) && isWhole(accent))
+            answer = isWhole(letter + accent);
+    }
     m_convertedSize = 0;
     return answer;
 }
