@@ -67,9 +67,8 @@ QString usedText(const MediaUseFacts &facts)
 
 std::optional<RecordValue> seconds(std::int64_t frames, const std::optional<FrameRate> &rate)
 {
-    std::optional<RecordValue> value;
-    value.emplace(double(frames) / double(rate ? rate->timebase : 1));
-    return value;
+    return std::optional<RecordValue>(std::in_place, std::in_place_type<double>,
+                                      double(frames) / double(rate ? rate->timebase : 1));
 }
 
 } // namespace
@@ -156,7 +155,9 @@ Columns mediaUseColumns(const std::shared_ptr<const MediaUseIndex> &index)
         return column(
             identifier, title, width, [text](const MediaUseFacts &facts) { return facts.*text; },
             [text](const MediaUseFacts &facts) -> std::optional<RecordValue> {
-                return (facts.*text).isEmpty() ? std::nullopt : std::optional(RecordValue(facts.*text));
+                if ((facts.*text).isEmpty())
+                    return std::nullopt;
+                return std::optional<RecordValue>(std::in_place, facts.*text);
             });
     };
     Columns columns{
@@ -167,14 +168,16 @@ Columns mediaUseColumns(const std::shared_ptr<const MediaUseIndex> &index)
             [](const MediaUseFacts &facts) {
                 return facts.length ? durationText(*facts.length, facts.rate) : QString();
             },
-            [](const MediaUseFacts &facts) {
-                return facts.length ? seconds(*facts.length, facts.rate) : std::nullopt;
+            [](const MediaUseFacts &facts) -> std::optional<RecordValue> {
+                if (facts.length)
+                    return seconds(*facts.length, facts.rate);
+                return std::nullopt;
             }),
         column(u"used"_s, u"Used"_s, 22, usedText,
                [](const MediaUseFacts &facts) { return seconds(facts.used, facts.rate); }),
         column(
             u"uses"_s, u"Uses"_s, 8, [](const MediaUseFacts &facts) { return QString::number(facts.uses); },
-            [](const MediaUseFacts &facts) { return std::optional(RecordValue(facts.uses)); }),
+            [](const MediaUseFacts &facts) { return std::optional<RecordValue>(std::in_place, facts.uses); }),
         textColumn(u"sequences"_s, u"Sequences"_s, 30, &MediaUseFacts::sequences),
         textColumn(u"notes"_s, u"Notes"_s, 18, &MediaUseFacts::notes),
     };

@@ -60,6 +60,7 @@ public:
     {
         m_emptyEntity.etype = XML_INTERNAL_PARAMETER_ENTITY;
         m_emptyEntity.content = m_noText;
+        m_emptyEntity.orig = m_noText; // or the library would leave it a text to free
         context->_private = this;
         xmlSAXHandler *sax = context->sax;
         sax->internalSubset = internalSubset;
