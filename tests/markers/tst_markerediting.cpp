@@ -1,5 +1,6 @@
 #include "markers/MarkerComment.h"
 #include "tests/markers/MarkerProject.h"
+#include "tests/support/LongSeries.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <QElapsedTimer>
@@ -443,14 +444,14 @@ private Q_SLOTS:
     /// each row, it would take minutes.
     void manyRows()
     {
-        MarkerProject p(projectWith(QByteArray(marker("1", "-1")).repeated(20000)));
+        MarkerProject p(projectWith(QByteArray(marker("1", "-1")).repeated(longWork(20000))));
         QElapsedTimer timer;
         timer.start();
-        for (int i = 0; i < 5000; ++i) {
+        for (int i = 0; i < longWork(5000); ++i) {
             p.editor.addMarker();
             p.editor.addMarkerWithName(QStringLiteral("n"), QString(), QString(), QString(), QString(), 2);
         }
-        std::vector<std::size_t> rows(30000);
+        std::vector<std::size_t> rows(std::size_t(longWork(30000)));
         for (std::size_t i = 0; i < rows.size(); ++i)
             rows[i] = i;
         p.world.selectRows(Tab::Markers, rows);
