@@ -102,6 +102,8 @@ int CarriedMarkerModel::columnCount(const QModelIndex &parent) const
 Qt::ItemFlags CarriedMarkerModel::flags(const QModelIndex &index) const
 {
     Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (!index.isValid())
+        return flags;
     const CarriedMarker &marker = m_comparison->markers[std::size_t(index.row())];
     if (marker.isThere || !m_isEditable)
         return index.column() == Name ? flags | Qt::ItemIsUserCheckable : flags;
