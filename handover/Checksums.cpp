@@ -27,6 +27,7 @@ namespace
 {
 
 constexpr std::chrono::milliseconds lookInterval{50};
+constexpr std::chrono::milliseconds leavePatience{500};
 constexpr std::size_t blockSize = 256 << 10; // bytes; fits into the caches of a core
 
 /// A digest of the cryptographic library, if it is wanted.
@@ -156,7 +157,7 @@ ChecksumResult ChecksumRun::read(const Task &task, const Advance &advance)
     return md5.isSound() && sha1.isSound() && xxhash64.isSound() ? result : failed(Unreadable);
 }
 
-/// What the threads share. It outlives the run for as long as one of them is stuck.
+/// What the threads share. It outlives the run for as long as one of them hangs.
 struct ChecksumRun::State {
     std::vector<Task> tasks;
     Reader reader;
@@ -169,6 +170,15 @@ struct ChecksumRun::State {
     std::condition_variable changed;
     Results results;
     std::vector<std::size_t> finished; ///< in the order in which they were
+    std::size_t working = 0;           ///< threads
+
+    void workOnThread()
+    {
+        guarded("ChecksumRun::State::work", [this] { work(); });
+        const std::lock_guard lock(mutex);
+        --working;
+        changed.notify_all();
+    }
 
     void work()
     {
@@ -205,23 +215,32 @@ ChecksumRun::ChecksumRun(std::vector<Task> tasks, int width, const Reader &reade
     m_state->reader = reader;
     m_state->results.resize(m_state->tasks.size());
     const auto wanted = std::size_t(width > 0 ? width : OperationQueue::processorCount());
-    std::size_t threads = 0;
+    const std::size_t count = std::min(wanted, m_state->tasks.size());
+    m_threads.reserve(count);
     try {
-        for (; threads < std::min(wanted, m_state->tasks.size()); ++threads) {
-            std::thread([state = m_state] {
-                guarded("ChecksumRun::State::work", [&] { state->work(); });
-            }).detach();
-        }
+        const std::lock_guard lock(m_state->mutex);
+        for (; m_state->working < count; ++m_state->working)
+            m_threads.emplace_back([state = m_state] { state->workOnThread(); });
     } catch (const std::system_error &error) {
         QVLog::appendLog(u"Files are read without a thread: %@", QString::fromLocal8Bit(error.what()));
     }
-    if (threads == 0)
+    if (m_threads.empty())
         guarded("ChecksumRun::State::work", [&] { m_state->work(); });
 }
 
 ChecksumRun::~ChecksumRun()
 {
     m_state->ended = true;
+    std::unique_lock lock(m_state->mutex);
+    const bool haveLeft =
+        m_state->changed.wait_for(lock, leavePatience, [this] { return m_state->working == 0; });
+    lock.unlock();
+    for (std::thread &thread : m_threads) {
+        if (haveLeft)
+            thread.join();
+        else
+            thread.detach();
+    }
 }
 
 std::optional<ChecksumRun::Results>

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <vector>
 
 namespace vantrell
@@ -45,8 +46,8 @@ struct ChecksumResult {
 };
 
 /// Computes the checksums of many files, several at a time, each read once whatever is wanted of it. The
-/// work is done by detached threads that hold nothing but their share of it: a volume that does not answer
-/// leaves them behind, and nobody waits for them. Main thread unless a member says otherwise.
+/// work is done by threads that hold nothing but their share of it, and are left behind when a volume does
+/// not answer. Main thread unless a member says otherwise.
 class ChecksumRun
 {
 public:
@@ -57,12 +58,13 @@ public:
     };
     /// Is told how many bytes more have been read, and whether to go on.
     using Advance = std::function<bool(std::int64_t bytes)>;
-    /// Reads one file. On the detached threads, so it may own nothing that can go away.
+    /// Reads one file. On these threads, so it may own nothing that can go away.
     using Reader = std::function<ChecksumResult(const Task &task, const Advance &advance)>;
 
     /// Starts at once; \a width files are read at a time, as many as there are processors for 0.
     explicit ChecksumRun(std::vector<Task> tasks, int width = 0, const Reader &reader = read);
-    /// Ends the reading and waits for nothing.
+    /// Ends the reading. Waits for the threads, as the cryptographic library keeps what it has for a thread
+    /// until that ends; half a second at most, then those that hang are left behind.
     ~ChecksumRun();
     ChecksumRun(const ChecksumRun &) = delete;
     ChecksumRun &operator=(const ChecksumRun &) = delete;
@@ -88,6 +90,7 @@ public:
 private:
     struct State;
     std::shared_ptr<State> m_state;
+    std::vector<std::thread> m_threads;
 };
 
 } // namespace vantrell
