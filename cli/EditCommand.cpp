@@ -4,7 +4,7 @@
 #include "cli/EditScript.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
+#include "rows/json/RecordJson.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/FileUtilities.h"
 #include "support/files/ProgramArguments.h"

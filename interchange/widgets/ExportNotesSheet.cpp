@@ -94,7 +94,8 @@ void ExportNotesSheet::fillFormats()
         {"resolve-edl", tr("Resolve markers (EDL)")},
         {"edl", tr("EDL with locators")},
         {"chapters", tr("Chapters for a video description")},
-        {"webvtt", tr("WebVTT")}};
+        {"webvtt", tr("WebVTT")},
+        {"json", tr("JSON for scripts")}};
     for (const auto &[format, title] : formats)
         m_format->addItem(title, QString::fromLatin1(format));
 }
