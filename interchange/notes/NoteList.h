@@ -89,6 +89,8 @@ struct UnreadableNote {
     QString reason;
 };
 
+struct NoteTableStart;
+
 /// A list of notes as it was read. Belongs to one thread at a time.
 struct NoteList {
     NoteShape shape = NoteShape::Table;
@@ -103,6 +105,8 @@ struct NoteList {
     QStringList examples; ///< the first value of each column of a table, at most 80 characters
     std::vector<NoteRow> rows;
     std::vector<UnreadableNote> unreadable; ///< in the order of their lines
+    /// What reading a table again takes; null for any other list. Never changed.
+    std::shared_ptr<const NoteTableStart> tableStart;
 
     /// Keeps a text for as long as the list, for views into it; null stays null.
     QStringView keep(const QString &text);

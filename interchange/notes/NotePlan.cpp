@@ -7,6 +7,7 @@
 #include "xml/XmlText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vantrell
 {
@@ -18,7 +19,10 @@ using Position = NoteTime::Position;
 
 QString matchKey(qint64 in, const QString &name, const QString &comment)
 {
-    return QString::number(in) + QChar(u'\0') + name.trimmed() + QChar(u'\0') + comment.trimmed();
+    QString key = QString::number(in);
+    key.reserve(key.size() + name.size() + comment.size() + 2);
+    key.append(QChar(u'\0')).append(QStringView(name).trimmed());
+    return key.append(QChar(u'\0')).append(QStringView(comment).trimmed());
 }
 
 /// As a file keeps it.
@@ -35,9 +39,22 @@ QString allowedText(QStringView text)
 /// The comment of the marker's record once it is written.
 QString commentAsRead(const QString &comment)
 {
+    if (!comment.contains(QLatin1Char('<')))
+        return comment;
     RowRecord record;
     MarkerComment::read(comment, record);
     return record.get(MarkerKey::comment);
+}
+
+/// Whether the type is that of a chapter in the language of the system that wrote the list.
+bool isChapterType(QStringView type)
+{
+    constexpr std::array<QStringView, 12> titles = {u"chapter",    u"kapitel",  u"chapitre", u"capítulo",
+                                                    u"capitulo",   u"capitolo", u"rozdział", u"глава",
+                                                    u"チャプター", u"章节",     u"章節",     u"챕터"};
+    return !type.isEmpty() && std::any_of(titles.begin(), titles.end(), [type](QStringView title) {
+        return type.compare(title, Qt::CaseInsensitive) == 0;
+    });
 }
 
 /// The key of NoteColorUse. An exact value counts with the name that stands beside it.
@@ -269,7 +286,7 @@ private:
         note.comment = allowedText(row.comment);
         note.color = colorOf(row);
         note.user = row.user.toString();
-        note.isChapter = row.type.compare(u"chapter", Qt::CaseInsensitive) == 0;
+        note.isChapter = isChapterType(row.type);
         const std::optional<NoteTime> time = timeOf(row);
         if (!time) {
             note.reason = QStringLiteral("%1 frames a second have no “%2”.").arg(m_rate.name(), row.time);

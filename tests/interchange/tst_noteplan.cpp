@@ -66,6 +66,8 @@ private Q_SLOTS:
         // 240 frames of 23.976 are 10.01 s.
         QTest::newRow("23.976 onto 25") << QByteArray("Timecode,Comment\n01:00:10:00,a\n") << sequenceAt(pal)
                                         << meaning(NoteMeaning::Record, "", ntscFilm) << u"250+0"_s;
+        QTest::newRow("a line with an end")
+            << QByteArray("00:10 - 00:20 Fix\n") << sequenceAt(pal) << guessed << u"250+250"_s;
         QTest::newRow("24 onto 23.976, elapsed")
             << QByteArray("Timecode,Comment\n00:09:00:00,a\n") << sequenceAt(ntscFilm)
             << meaning(NoteMeaning::Guessed, "", film) << u"12947+0"_s; // 540 s
@@ -106,6 +108,17 @@ private Q_SLOTS:
         const auto notes = planNotes(NoteReader::read(list), sequence, settings, matches);
         QVERIFY(notes);
         QTEST(placesOf(*notes), "places");
+    }
+
+    void chapterTypes()
+    {
+        const QByteArray list("Markername\tBeschreibung\tIn\tOut\tDauer\tMarkertyp\n"
+                              "A\t\t00:00:01:00\t00:00:01:00\t00:00:00:00\tKapitel\n"
+                              "B\t\t00:00:02:00\t00:00:02:00\t00:00:00:00\tKommentar\n");
+        NoteMatches matches;
+        const auto notes = planNotes(NoteReader::read(list), sequenceAt(pal), {}, matches);
+        QVERIFY(notes && notes->size() == 2);
+        QVERIFY(notes->at(0).isChapter && !notes->at(1).isChapter);
     }
 
     void wrongTimecode()
