@@ -224,9 +224,12 @@ private:
             asRecord += m_converter.isInside(inOf(*time, NoteMeaning::Record)) ? 1 : 0;
             asElapsed += m_converter.isInside(inOf(*time, NoteMeaning::Elapsed)) ? 1 : 0;
         }
+        const bool areTimecodes = timecodes * 2 >= rows;
         if (asRecord == asElapsed)
-            return timecodes * 2 >= rows ? NoteMeaning::Record : NoteMeaning::Elapsed;
-        return asRecord > asElapsed ? NoteMeaning::Record : NoteMeaning::Elapsed;
+            return areTimecodes ? NoteMeaning::Record : NoteMeaning::Elapsed;
+        // Timecodes of sources lie inside by accident only.
+        const bool isAccident = areTimecodes && asElapsed * 2 < rows;
+        return asRecord > asElapsed || isAccident ? NoteMeaning::Record : NoteMeaning::Elapsed;
     }
 
     qint64 inOf(const NoteTime &time, NoteMeaning meaning) const

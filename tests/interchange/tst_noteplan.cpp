@@ -87,6 +87,10 @@ private Q_SLOTS:
         QTest::newRow("a negative offset")
             << QByteArray("Timecode,Comment\n10:00:10:00,a\n") << sequenceAt(pal)
             << meaning(NoteMeaning::Offset, "-9...") << u"250+0"_s;
+        // Only the last would lie inside as elapsed time.
+        QTest::newRow("timecodes of sources")
+            << QByteArray("Tape,Start\nA,18:51:50:23\nB,18:02:36:04\nC,00:00:39:03\n") << sequenceAt(pal)
+            << guessed << u"1607773+0 outside, 1533904+0 outside, -89022+0 outside"_s;
         QTest::newRow("the first note")
             << QByteArray("Timecode,Comment\n18:51:50:23,a\n18:51:51:23,b\n") << sequenceAt(pal)
             << meaning(NoteMeaning::First, "5.") << u"125+0, 150+0"_s;
