@@ -99,8 +99,9 @@ struct NoteList {
     std::optional<NoteRate> rate;         ///< what the list says
     NoteUnit timeUnit = NoteUnit::Frames; ///< of plain numbers in the column of times
     NoteUnit durationUnit = NoteUnit::Frames; ///< and of durations
-    QString title;                            ///< the name of the sequence that the list was made from
-    QStringList headers;                      ///< of the columns; empty for a list without a header
+    std::optional<NoteTime> start; ///< the timecode that times in seconds count from; without one, no matter
+    QString title;                 ///< the name of the sequence that the list was made from
+    QStringList headers;           ///< of the columns; empty for a list without a header
     std::vector<NoteRole> columns;
     QStringList examples; ///< the first value of each column of a table, at most 80 characters
     std::vector<NoteRow> rows;

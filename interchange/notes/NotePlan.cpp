@@ -206,7 +206,28 @@ private:
     std::optional<NoteTime> timeOf(const NoteRow &row) const
     {
         const std::optional<NoteTime> time = NoteTime::parse(row.time, m_list.timeUnit);
-        return time && time->fits(m_rate) ? time : std::nullopt;
+        if (!time || !time->fits(m_rate))
+            return std::nullopt;
+        return countsFromStart(*time) ? behindStart(*time) : *time;
+    }
+
+    bool countsFromStart(const NoteTime &time) const
+    {
+        return time.kind == NoteTime::Kind::Seconds && m_list.start &&
+               m_list.start->kind == NoteTime::Kind::Timecode && m_list.start->fits(m_rate);
+    }
+
+    /// The frame at a time that counts from the list's start.
+    NoteTime behindStart(const NoteTime &time) const
+    {
+        const Position elapsed = time.framesFromZero(m_rate);
+        const WideInteger whole = elapsed.numerator / elapsed.denominator;
+        NoteTime frame;
+        frame.kind = NoteTime::Kind::Frames;
+        frame.frames = qint64(whole) + m_rate.framesAt(m_list.start->seconds, m_list.start->frames);
+        frame.numerator = qint64(elapsed.numerator - whole * elapsed.denominator);
+        frame.denominator = qint64(elapsed.denominator);
+        return frame;
     }
 
     NoteMeaning guessedMeaning() const
@@ -220,7 +241,7 @@ private:
             if (!time)
                 continue;
             ++rows;
-            timecodes += time->kind == NoteTime::Kind::Timecode ? 1 : 0;
+            timecodes += time->kind == NoteTime::Kind::Timecode || m_list.start ? 1 : 0;
             asRecord += m_converter.isInside(inOf(*time, NoteMeaning::Record)) ? 1 : 0;
             asElapsed += m_converter.isInside(inOf(*time, NoteMeaning::Elapsed)) ? 1 : 0;
         }

@@ -81,6 +81,20 @@ private Q_SLOTS:
             << QByteArray("00:00 Intro\n1:30 Title\n") << sequenceAt(pal) << guessed << u"0+0, 2250+0"_s;
         QTest::newRow("frames") << QByteArray("Frame,Comment\n48,a\n0,b\n") << sequenceAt(film) << guessed
                                 << u"48+0, 0+0"_s;
+        QTest::newRow("frames with thousands") << QByteArray("Frame,Comment\n\"1,250\",a\n250,b\n\"0,5\",c\n")
+                                               << sequenceAt(film) << guessed << u"1250+0, 250+0, 1+0"_s;
+        QTest::newRow("seconds with a comma")
+            << QByteArray("Zeit (s);Kommentar\n1,250;a\n") << sequenceAt(film) << guessed << u"30+0"_s;
+        // 10.5 s behind 00:59:50:00 are 12.5 frames behind the sequence's first; the bar stands at 11 s.
+        QTest::newRow("seconds from the session's start")
+            << QByteArray("SESSION NAME:\tMix\nSAMPLE RATE:\t48000.000000\n"
+                          "SESSION START TIMECODE:\t00:59:50:00\nTIMECODE FORMAT:\t25 Frame\n\n"
+                          "M A R K E R S  L I S T I N G\n"
+                          "#   \tLOCATION     \tTIME REFERENCE    \tUNITS    \tNAME     \tCOMMENTS\n"
+                          "1   \t0:10.500     \t504000            \tSamples  \tA        \t\n"
+                          "2   \t6|1|000      \t528000            \tSamples  \tB        \t\n"
+                          "3   \t01:00:02:00  \t576000            \tSamples  \tC        \t\n")
+            << sequenceAt(pal) << guessed << u"13+0, 25+0, 50+0"_s;
         QTest::newRow("an offset") << QByteArray("Timecode,Comment\n00:00:10:00,a\n01:00:00:00,b\n")
                                    << sequenceAt(pal) << meaning(NoteMeaning::Offset, "1...")
                                    << u"250+0, 90000+0 outside"_s;
