@@ -7,6 +7,7 @@
 
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/KeyboardHelp.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
@@ -112,6 +113,11 @@ public:
         take(window, "markers");
         takePrintPanel(window);
         takeSheets(window);
+        KeyboardHelp *const keys = KeyboardHelp::showFor(window);
+        // The shortcuts of the commands depend on the platform, which is none that anybody uses.
+        keys->findChild<QLineEdit *>()->setText(QStringLiteral("table"));
+        take(*keys, "../manual/images/keys");
+        keys->close();
         window.close();
         m_controller.openFiles({project + QStringLiteral(".missing")});
         take(*m_controller.currentWindow(), "failure");
