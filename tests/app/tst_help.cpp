@@ -39,6 +39,21 @@ QStringList linesOf(const KeyboardHelp &help)
     return lines;
 }
 
+/// The commands of the window by their keys. Two with the same key would both do nothing.
+QMap<QString, QString> titlesByKey(const DocumentWindow &window)
+{
+    QMap<QString, QString> titles;
+    for (const QAction *const action : window.findChildren<QAction *>()) {
+        for (const QKeySequence &shortcut : action->shortcuts()) {
+            const QString key = shortcut.toString();
+            if (titles.contains(key))
+                qWarning("%s: %s, %s", qPrintable(key), qPrintable(titles[key]), qPrintable(action->text()));
+            titles.insert(key, action->text());
+        }
+    }
+    return titles;
+}
+
 QString manualFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
@@ -109,6 +124,7 @@ private Q_SLOTS:
             }
         }
         QVERIFY(count > 15);
+        QCOMPARE(titlesByKey(*window).size(), count);
         for (const QString &line : lines)
             QVERIFY2(QRegularExpression(QStringLiteral("^\\S.*: \\S")).match(line).hasMatch(),
                      qPrintable(line));
