@@ -55,6 +55,7 @@ KeyboardHelp::KeyboardHelp(QMainWindow &window)
     , m_list(new QTreeWidget(this))
     , m_nothing(new QLabel(tr("No key does that."), this))
 {
+    window.installEventFilter(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Keyboard Shortcuts"));
     m_search->setPlaceholderText(tr("Search keys and commands"));
@@ -118,6 +119,13 @@ void KeyboardHelp::filter()
     }
     m_list->setVisible(isAnyShown);
     m_nothing->setVisible(!isAnyShown);
+}
+
+bool KeyboardHelp::eventFilter(QObject *object, QEvent *event)
+{
+    if (object == parent() && event->type() == QEvent::Hide && !event->spontaneous())
+        close();
+    return QDialog::eventFilter(object, event);
 }
 
 /// Escape clears the search field first.

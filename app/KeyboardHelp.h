@@ -11,7 +11,7 @@ namespace vantrell
 {
 
 /// The window that lists all keys of the program, by menu and place, with a search field. It belongs to the
-/// window whose commands it lists; each has one at most. Main thread.
+/// window whose commands it lists, and closes with it; each has one at most. Main thread.
 class KeyboardHelp final : public QDialog
 {
     Q_OBJECT
@@ -22,6 +22,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     explicit KeyboardHelp(QMainWindow &window);

@@ -187,7 +187,8 @@ void MainMenu::makeHelpMenu()
 {
     QMenu *const menu = addMenu(tr("&Help"));
     add(menu, tr("User &Manual"), QKeySequence::HelpContents, &m_controller, &AppController::helpUserManual);
-    QAction *const keys = add(menu, tr("&Keyboard Shortcuts"), {}, this, &MainMenu::showKeyboardHelp);
+    QAction *const keys =
+        add(menu, tr("&Keyboard Shortcuts"), {}, this, [this] { KeyboardHelp::showFor(m_window); });
     keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
     menu->addSeparator();
     add(menu, tr("&Halvex Home Page"), {}, &m_controller, &AppController::helpHalvexHome);
@@ -210,13 +211,6 @@ void MainMenu::makeHelpMenu()
     QAction *const about =
         add(menu, tr("About &Vantrell"), {}, &m_controller, &AppController::showAboutDialog);
     about->setMenuRole(QAction::AboutRole);
-}
-
-void MainMenu::showKeyboardHelp()
-{
-    KeyboardHelp *const help = KeyboardHelp::showFor(m_window);
-    if (m_document)
-        connect(m_document, &DocumentWindow::closed, help, &QWidget::close, Qt::UniqueConnection);
 }
 
 /// Lists the columns of the current pane in their present order.

@@ -36,7 +36,6 @@ private:
     QAction *add(QMenu *menu, const QString &title, const QKeySequence &shortcut, Receiver *receiver,
                  Operation operation);
 
-    void showKeyboardHelp();
     void fillRecentMenu();
     void fillSortMenu();
     void validate();

@@ -1,6 +1,12 @@
 # Completes one page of the manual: reads what cmark-gfm made of it and prints the whole page, with the list of all
-# pages and of this page's sections. Variables: `page`, the page's name; `source`, the folder with its Markdown;
+# pages and of this page's sections. In the environment: `page`, the page's name; `source`, the folder with its Markdown;
 # `contents`, a line with name and title, separated by a tab, for each page. Bytes above 127 are passed on as they are.
+
+BEGIN {
+    page = ENVIRON["page"]
+    source = ENVIRON["source"]
+    contents = ENVIRON["contents"]
+}
 
 function escaped(text) {
     gsub(/&/, "\\&amp;", text)
@@ -43,8 +49,11 @@ function exists(file,    line, status) {
         sub(/\.md/, ".html", link)
         $0 = substr($0, 1, RSTART - 1) link substr($0, RSTART + RLENGTH)
     }
-    if (match($0, /<img [^>]*>/))
-        $0 = substr($0, 1, RSTART - 1) picture(substr($0, RSTART, RLENGTH)) substr($0, RSTART + RLENGTH)
+    if (match($0, /<img [^>]*>/)) {
+        before = substr($0, 1, RSTART - 1)
+        after = substr($0, RSTART + RLENGTH)
+        $0 = before picture(substr($0, RSTART, RLENGTH)) after
+    }
     if (match($0, /^<h[23]>.*<\/h[23]>$/)) {
         level = substr($0, 3, 1)
         text = substr($0, 5, length($0) - 9)
