@@ -412,7 +412,11 @@ void AppController::prefsToggleQCLogging(bool on)
 
 void AppController::helpUserManual()
 {
-    UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
+    const Result<void> opened =
+        UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
+    if (!opened)
+        QVAlert::alertSheetWithMessageText(tr("The user manual cannot be shown"),
+                                           opened.message() + QLatin1Char('.'), nullptr);
 }
 
 void AppController::showAboutDialog()

@@ -1,6 +1,5 @@
 #include "app/UserManual.h"
 
-#include "support/alerts/QVAlert.h"
 #include "support/desktop/Workspace.h"
 
 #include <QCoreApplication>
@@ -31,18 +30,18 @@ QString file(const QString &sharedLibrary, const QString &programFolder)
     return {};
 }
 
-void open(const QString &sharedLibrary, const QString &programFolder)
+Result<void> open(const QString &sharedLibrary, const QString &programFolder)
 {
     const QString path = file(sharedLibrary, programFolder);
-    if (!path.isEmpty() && Workspace::openFile(path))
-        return;
-    const QString reason =
-        path.isEmpty()
-            ? QCoreApplication::translate("UserManual", "It is not installed: there is no file %1.")
-                  .arg(pagesPath(programFolder))
-            : QCoreApplication::translate("UserManual", "There is no program to open it with: %1").arg(path);
-    QVAlert::alertSheetWithMessageText(
-        QCoreApplication::translate("UserManual", "The user manual cannot be shown"), reason, nullptr);
+    if (path.isEmpty())
+        return Failure{QCoreApplication::translate("UserManual",
+                                                   "The user manual is not installed: there is no file “%1”")
+                           .arg(pagesPath(programFolder))};
+    if (!Workspace::openFile(path))
+        return Failure{
+            QCoreApplication::translate("UserManual", "There is no program that could show the manual “%1”")
+                .arg(path)};
+    return {};
 }
 
 } // namespace vantrell::UserManual

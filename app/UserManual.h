@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/files/Result.h"
+
 #include <QString>
 
 namespace vantrell::UserManual
@@ -9,8 +11,8 @@ namespace vantrell::UserManual
 /// program's own, relative to the folder of the programs. Empty without either. Any thread.
 QString file(const QString &sharedLibrary, const QString &programFolder);
 
-/// Opens that file with its default application, the pages with the browser. An alert says when there is
-/// none, or nothing to open it with. Main thread.
-void open(const QString &sharedLibrary, const QString &programFolder);
+/// Opens that file with its default application, the pages with the browser. A failure tells, without a full
+/// stop, that there is none, or nothing to open it with. Main thread.
+Result<void> open(const QString &sharedLibrary, const QString &programFolder);
 
 } // namespace vantrell::UserManual
