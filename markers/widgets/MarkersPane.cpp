@@ -68,6 +68,10 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_fields->setToolTip(tr("Define columns of your own for the markers"));
     addControls({m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_addAt, m_remove, m_offset, nullptr,
                  m_fields});
+    // Narrower than usual in a small window.
+    for (QPushButton *const button : {m_add, m_addAt, m_remove, m_offset, m_fields})
+        button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) +
+                                4 * fontMetrics().averageCharWidth());
     m_ownOwners->setToolTip(
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
            "position in different bins share one name, and so do the clips of a track"));
