@@ -24,6 +24,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -70,8 +72,9 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
                  m_fields});
     // Narrower than usual in a small window.
     for (QPushButton *const button : {m_add, m_addAt, m_remove, m_offset, m_fields})
-        button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) +
-                                4 * fontMetrics().averageCharWidth());
+        button->setMinimumWidth(
+            std::min(button->sizeHint().width(),
+                     fontMetrics().horizontalAdvance(button->text()) + 2 * fontMetrics().averageCharWidth()));
     m_ownOwners->setToolTip(
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
            "position in different bins share one name, and so do the clips of a track"));
