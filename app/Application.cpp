@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "support/log/QVException.h"
+#include "support/widgets/DialogMnemonics.h"
 
 #include <QFileOpenEvent>
 #include <QIcon>
@@ -25,6 +26,7 @@ Application::Application(int &argc, char **argv)
     setDesktopFileName(QStringLiteral("vantrell"));
     setWindowIcon(
         QIcon::fromTheme(QStringLiteral("vantrell"), QIcon(QStringLiteral(":/icons/vantrell.svg"))));
+    DialogMnemonics::install(*this);
     setQuitOnLastWindowClosed(false); // the controller decides
 }
 

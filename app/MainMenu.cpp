@@ -138,13 +138,19 @@ void MainMenu::makeEditMenu()
     m_documentActions << add(menu, tr("&Find Effects…"), QKeySequence::Find, m_document,
                              &DocumentWindow::findEffects);
     menu->addSeparator();
-    m_remove = add(menu, tr("&Remove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
+    m_markerActions << add(menu, tr("Add &Marker…"), QKeySequence(Qt::CTRL | Qt::Key_M), m_document,
+                           &DocumentWindow::showMarkerAddDialog)
+                    << add(menu, tr("&Duplicate"), QKeySequence(Qt::CTRL | Qt::Key_D), m_document,
+                           &DocumentWindow::duplicateSelection)
+                    << add(menu, tr("Move &In, Keep Duration"), QKeySequence(Qt::ALT | Qt::Key_Return),
+                           m_document, &DocumentWindow::moveInPoint);
+    m_remove = add(menu, tr("R&emove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
                    &DocumentWindow::removeSelection);
     menu->addSeparator();
-    m_documentActions << add(menu, tr("Marker &Fields…"), {}, m_document,
-                             &DocumentWindow::showMarkerFieldsDialog)
-                      << add(menu, tr("Create Marker &Preset…"), {}, m_document,
-                             &DocumentWindow::showMarkerPresetDialog);
+    m_documentActions
+        << add(menu, tr("Mar&ker Fields…"), {}, m_document, &DocumentWindow::showMarkerFieldsDialog)
+        << add(menu, tr("Create Marker &Preset…"), {}, m_document, &DocumentWindow::showMarkerPresetDialog)
+        << add(menu, tr("Mana&ge Marker Presets…"), {}, m_document, &DocumentWindow::showMarkerPresetsDialog);
 }
 
 void MainMenu::makeViewMenu()
@@ -259,6 +265,9 @@ void MainMenu::validate()
         action->setEnabled(showsPanes);
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_sortMenu->setEnabled(showsPanes);
+    for (qsizetype i = 0; i < m_markerActions.size(); ++i)
+        m_markerActions[i]->setEnabled(showsPanes && m_document->mayEdit() &&
+                                       (i == 0 || m_document->selectedTab() == Tab::Markers));
     validateUndo();
     if (!showsPanes) {
         m_remove->setEnabled(false);

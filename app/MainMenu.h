@@ -65,6 +65,7 @@ private:
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_remove = nullptr;
+    QList<QAction *> m_markerActions; // edit markers
     QAction *m_qcLogging = nullptr;
     QAction *m_mediaUses = nullptr;
     QList<QAction *> m_reportActions;   // print and export reports

@@ -30,12 +30,14 @@ RowList without(const RowList &rows, const RowList &removed)
     return kept;
 }
 
-QString nameOfChange(const QString &key, const QString &value)
+QString nameOfChange(const QString &key, const QString &value, std::size_t count)
 {
+    const QString plural = count == 1 ? QString() : QStringLiteral("s");
     if (key != EffectKey::enabled.text())
-        return QStringLiteral("Change Effect");
-    return value == QStringLiteral("1") ? QStringLiteral("Switch On Effect")
-                                        : QStringLiteral("Switch Off Effect");
+        return QStringLiteral("Change Effect") + plural;
+    return (value == QStringLiteral("1") ? QStringLiteral("Switch On Effect")
+                                         : QStringLiteral("Switch Off Effect")) +
+           plural;
 }
 
 QString nameOfRemoval(std::size_t count)
@@ -63,7 +65,7 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
         QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
         if (!hasProject(changeTitle) || !isInProject(effect->get(EffectKey::effectElement), changeTitle))
             return;
-        const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value));
+        const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value, 1));
         QString text = value;
         if (key == EffectKey::enabled.text()) {
             const bool isOn = value == QStringLiteral("1");
@@ -80,6 +82,13 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
         }
         m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
     });
+}
+
+void EffectEditor::updateXMLEffects(const RowList &effects, const QString &key, const QString &value)
+{
+    const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value, effects.size()));
+    for (const RowRecordPtr &effect : effects)
+        updateXMLEffect(effect, key, value);
 }
 
 void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)

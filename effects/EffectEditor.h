@@ -34,6 +34,9 @@ public:
     /// that cannot be an element's name changes nothing.
     void updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value);
 
+    /// The same for each of the effects.
+    void updateXMLEffects(const RowList &effects, const QString &key, const QString &value);
+
     /// Takes the effect's element out of the tree, a generator with all that is on it. Without a project
     /// an alert says so.
     void removeXMLEffect(const RowRecordPtr &effect);

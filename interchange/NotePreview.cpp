@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "interchange/notes/NoteReader.h"
+#include "markers/MenuTitles.h"
 #include "support/threads/BackgroundWork.h"
 #include "timecode/QVTimecode.h"
 
@@ -171,11 +172,7 @@ std::vector<NoteColorUse> NotePreview::colors() const
 
 QStringList NotePreview::sequences() const
 {
-    QStringList titles;
-    const MenuPtr menu = m_document.sequenceMenu();
-    for (std::size_t i = 1; i < menu->size(); ++i)
-        titles.append((*menu)[i].title);
-    return titles;
+    return MenuTitles::ofSequences(*m_document.sequenceMenu()).mid(1);
 }
 
 QString NotePreview::startTimecode() const

@@ -5,13 +5,12 @@
 #include "markers/MarkerEditNames.h"
 #include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
+#include "markers/MarkerOffset.h"
 #include "support/log/QVException.h"
 #include "support/text/TextFormat.h"
 #include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 #include "xml/QVXMLParser.h"
-
-#include <algorithm>
 
 namespace vantrell
 {
@@ -33,20 +32,11 @@ QString positionText(quint64 frames)
 }
 
 /// In frames.
-quint64 offsetOf(const QString &text, const RowList &table)
+quint64 inPointOf(const QString &typed, const RowRecord &record)
 {
-    static const QString separators = QStringLiteral(":;,.");
-    const bool isTimecode =
-        std::any_of(text.begin(), text.end(), [](QChar c) { return separators.contains(c); });
-    if (!isTimecode)
-        return quint64(integerValue(text));
-    const bool negative = text.startsWith(QLatin1Char('-'));
-    const QString timecode = QVTimecode::timecodeFromUserString(negative ? text.sliced(1) : text, false,
-                                                                QStringLiteral("00:00:00:00"));
-    const std::int64_t timebase = table.empty() ? 30 : table.front()->get(TimecodeKey::timebase);
-    const bool ntsc = table.empty() || table.front()->get(TimecodeKey::ntsc);
-    const quint64 frames = QVTimecode::frameCountFromTimecode(timecode, timebase, ntsc, false, 0);
-    return negative ? 0 - frames : frames;
+    const QString timecode = QVTimecode::timecodeFromUserString(typed, record.get(TimecodeKey::dropFrame),
+                                                                QStringLiteral("01:00:00:00"));
+    return quint64(MyDocument::frameCountFromTimecode(timecode, record));
 }
 
 } // namespace
@@ -84,10 +74,23 @@ void MarkerEditor::setValue(const RowList &records, const QString &column, const
 
 void MarkerEditor::setInPoint(const RowRecordPtr &record, const QString &text, Candidates &candidates)
 {
-    const QString timecode = QVTimecode::timecodeFromUserString(text, record->get(TimecodeKey::dropFrame),
-                                                                QStringLiteral("01:00:00:00"));
-    const std::int64_t frames = MyDocument::frameCountFromTimecode(timecode, *record);
-    update(record, MarkerKey::in.text(), positionText(quint64(frames)), candidates);
+    update(record, MarkerKey::in.text(), positionText(inPointOf(text, *record)), candidates);
+}
+
+void MarkerEditor::moveInPoints(const RowList &records, const QString &text)
+{
+    guarded("MarkerEditor::moveInPoints", [&] {
+        const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofMoving(records.size()));
+        Candidates candidates(m_document, nullptr);
+        for (const RowRecordPtr &record : records) {
+            const std::int64_t out = integerValue(record->get(MarkerKey::out));
+            const quint64 in = inPointOf(text, *record);
+            const quint64 moved = in - quint64(integerValue(record->get(MarkerKey::in)));
+            update(record, MarkerKey::in.text(), positionText(in), candidates);
+            if (out >= 0 && record->contains(MarkerKey::out))
+                update(record, MarkerKey::out.text(), positionText(quint64(out) + moved), candidates);
+        }
+    });
 }
 
 void MarkerEditor::setDuration(const RowRecordPtr &record, const QString &text, Candidates &candidates)
@@ -207,7 +210,7 @@ void MarkerEditor::offset(const RowList &records, const QString &text, const Row
 {
     guarded("MarkerEditor::offset", [&] {
         const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofOffset(records.size()));
-        const quint64 frames = offsetOf(text, table);
+        const quint64 frames = MarkerOffset::framesOf(text, table);
         Candidates candidates(m_document, nullptr);
         for (const RowRecordPtr &record : records) {
             const quint64 in = quint64(integerValue(record->get(MarkerKey::in)));

@@ -52,6 +52,16 @@ QString ofAdding()
     return u"Add Marker"_s;
 }
 
+QString ofDuplicating(std::size_t count)
+{
+    return counted(u"Duplicate Marker"_s, count);
+}
+
+QString ofMoving(std::size_t count)
+{
+    return counted(u"Move Marker"_s, count);
+}
+
 QString ofImport()
 {
     return u"Import Markers"_s;

@@ -58,6 +58,23 @@ public:
                                     const QString &comment, const QString &colorName,
                                     std::optional<std::int64_t> parentItem, const Rejected &rejected = {});
 
+    /// A marker to be added: points in frames, the out point negative for none, and its texts.
+    struct NewMarker {
+        QString name;
+        std::int64_t inPoint = 0;
+        std::int64_t outPoint = -1;
+        QString comment = QStringLiteral("");
+        int color = 0; ///< index in MarkerColors::table()
+    };
+    /// Adds the marker to the sequence of that item of the sequence menu, as addMarkerWithTexts() does, and
+    /// lists it under that sequence. Null, and nothing changed, when there is no such sequence.
+    RowRecordPtr addMarkerAt(std::int64_t sequenceItem, const NewMarker &marker);
+    /// The name that the next marker gets when the user gives none.
+    QString freeName();
+    /// Adds a copy of each marker behind those of its parent, at the same place. The copies; markers that are
+    /// no longer in the project have none.
+    RowList duplicate(const RowList &records);
+
     // Removing
 
     /// Removes the markers when the user agrees. False, and nothing changed, when not, while the project is
@@ -90,6 +107,9 @@ public:
     void offset(const RowList &records, const QString &text, const RowList &table);
     /// The sheet's button: the same with the selected rows of those on show.
     void offsetMarkers(const QString &text);
+
+    /// Moves the in points to what was typed into such a cell, and the out points along: durations stay.
+    void moveInPoints(const RowList &records, const QString &text);
 
     /// Edits the column's cell of the records, as typed. For "sequence" and "clip" the text is an index in
     /// the cell's menu, and only the first record changes.

@@ -118,6 +118,28 @@ void MarkerFields::setObjectValue(const QString &text, const QString &column, st
     }
 }
 
+QString MarkerFields::conflictOf(const QString &text, const QString &column, std::size_t row) const
+{
+    if (row >= m_markerFieldArray.size())
+        return QString();
+    const MarkerField &field = m_markerFieldArray[row];
+    const bool givesIdentifier =
+        column == identifierKey || (column == titleKey && field.identifier.isEmpty());
+    const QString identifier = formatMarkerFieldName(text);
+    if (!givesIdentifier || identifier == field.identifier)
+        return QString();
+    const auto other = std::find_if(
+        m_markerFieldArray.begin(), m_markerFieldArray.end(),
+        [&identifier](const MarkerField &candidate) { return candidate.identifier == identifier; });
+    if (other == m_markerFieldArray.end())
+        return QString();
+    return column == titleKey
+               ? QStringLiteral("The title \"%1\" would give the identifier %2, which the field \"%3\" has.")
+                     .arg(text, identifier, other->title)
+               : QStringLiteral("The field \"%2\" has the identifier %1 already.")
+                     .arg(identifier, other->title);
+}
+
 void MarkerFields::showMarkerFieldsDialog()
 {
     load();

@@ -53,6 +53,10 @@ public:
     /// The cell of the column "title" or "identifier". Nothing happens for another one.
     void setObjectValue(const QString &text, const QString &column, std::size_t row);
 
+    /// Why the text should not become the cell's: another field has the identifier that it would give. Null
+    /// when nothing is against it.
+    QString conflictOf(const QString &text, const QString &column, std::size_t row) const;
+
     /// The user moved a column of the marker table: a custom field keeps its new index.
     void columnMoved(const QString &identifier, int newIndex);
 

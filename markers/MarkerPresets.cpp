@@ -11,6 +11,7 @@
 
 #include <QCollator>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -27,7 +28,7 @@ const QString noPreset = QStringLiteral("None");
 const QString labelColumn = QStringLiteral("label");
 
 /// The names of the presets in the folder, as the user's language sorts them.
-QStringList presetNames(const QString &folder)
+QStringList namesIn(const QString &folder)
 {
     QStringList names;
     const QStringList files =
@@ -50,10 +51,32 @@ QString pathOf(const QString &name)
     return MarkerPresets::folder() + QLatin1Char('/') + name + extension;
 }
 
-/// Whether the name stands for one file in the folder.
-bool isFileName(const QString &name)
+/// The file of a preset that was found, whose extension may be in another case.
+QString foundPathOf(const QString &name)
 {
-    return !name.contains(QLatin1Char('/')) && !name.contains(QChar(u'\0'));
+    const QStringList files = QDir(MarkerPresets::folder()).entryList(QDir::Files | QDir::Hidden);
+    for (const QString &file : files) {
+        if (file.endsWith(extension, Qt::CaseInsensitive) && file.chopped(extension.size()) == name)
+            return MarkerPresets::folder() + QLatin1Char('/') + file;
+    }
+    return pathOf(name);
+}
+
+/// The name that a typed one stands for.
+QString nameOf(const QString &typedName)
+{
+    const bool isHidden = typedName.size() >= 2 && typedName.startsWith(QLatin1Char('.'));
+    return isHidden ? typedName.mid(1) : typedName;
+}
+
+/// Why the name does not stand for one file in the folder; null when it does.
+QString faultOf(const QString &name)
+{
+    if (name.contains(QLatin1Char('/')))
+        return QStringLiteral("The name \"%1\" contains a slash, which separates folders.").arg(name);
+    if (name.contains(QChar(u'\0')))
+        return QStringLiteral("The name contains a character that the name of a file cannot contain.");
+    return QString();
 }
 
 /// Nothing when there is no such list. What is no file, such as a pipe, is not waited for.
@@ -130,8 +153,7 @@ void MarkerPresets::cancelMarkerPresetDialog()
 bool MarkerPresets::addMarkerPreset(const QString &typedName)
 {
     DocumentInterface &interface = m_document.interface();
-    const bool isHidden = typedName.size() >= 2 && typedName.startsWith(QLatin1Char('.'));
-    const QString name = isHidden ? typedName.mid(1) : typedName;
+    const QString name = nameOf(typedName);
     if (name.isEmpty()) {
         QVAlert::alertSheetWithMessageText(QStringLiteral("No name specified"),
                                            QStringLiteral("Please choose a name for this preset."),
@@ -140,17 +162,20 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
     }
     if (!m_defaults)
         return false;
-    const QString path = pathOf(name);
-    Result<void> written = Failure{QStringLiteral("\"%1\" cannot be the name of a file.").arg(name)};
-    if (isFileName(name)) {
-        QDir().mkpath(folder());
-        if (!mayWrite(path))
-            return false;
-        QVariantMap preset;
-        for (std::size_t k = 0; k < m_rows.size(); ++k)
-            preset.insert(MarkerColors::table()[k].label, m_rows[k].label);
-        written = PropertyList::toFile(preset, path);
+    if (const QString fault = faultOf(name); !fault.isNull()) {
+        QVLog::fastAppendLog(u"No marker preset can have that name: %@", fault);
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to create preset"), fault,
+                                           interface.alertParent());
+        return false;
     }
+    const QString path = pathOf(name);
+    QDir().mkpath(folder());
+    if (!mayWrite(path))
+        return false;
+    QVariantMap preset;
+    for (std::size_t k = 0; k < m_rows.size(); ++k)
+        preset.insert(MarkerColors::table()[k].label, m_rows[k].label);
+    const Result<void> written = PropertyList::toFile(preset, path);
     if (!written) {
         QVLog::fastAppendLog(u"The marker preset \"%@\" cannot be written: %@", path, written.message());
         QVAlert::alertSheetWithMessageText(
@@ -165,6 +190,59 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
     return true;
 }
 
+Result<void> MarkerPresets::renameMarkerPreset(const QString &name, const QString &typedName)
+{
+    const QString newName = nameOf(typedName);
+    if (newName.isEmpty())
+        return Failure{QStringLiteral("A preset needs a name.")};
+    if (const QString fault = faultOf(newName); !fault.isNull())
+        return Failure{fault};
+    if (newName == name)
+        return {};
+    if (!m_defaults)
+        return Failure{QStringLiteral("There are no presets.")};
+    if (QFileInfo::exists(pathOf(newName)))
+        return Failure{QStringLiteral("There is a preset named \"%1\" already.").arg(newName)};
+    QFile file(foundPathOf(name));
+    if (!file.rename(pathOf(newName))) {
+        QVLog::fastAppendLog(u"The marker preset \"%@\" cannot be renamed to \"%@\": %@", file.fileName(),
+                             newName, file.errorString());
+        return Failure{
+            QStringLiteral("\"%1\" could not be renamed: %2.").arg(name, file.errorString().trimmed())};
+    }
+    if (m_defaults->string(selectedPresetKey) == name) {
+        m_isStoring = true;
+        m_defaults->setValue(selectedPresetKey, newName);
+        m_isStoring = false;
+    }
+    findPresets();
+    apply();
+    return {};
+}
+
+bool MarkerPresets::deleteMarkerPreset(const QString &name)
+{
+    if (!m_defaults || !presetNames().contains(name))
+        return false;
+    DocumentInterface &interface = m_document.interface();
+    const int answer = QVAlert::alertSheetWithMessageText(
+        QStringLiteral("Delete the preset \"%1\"?").arg(name), QStringLiteral("Delete"),
+        QStringLiteral("Cancel"), QString(),
+        QStringLiteral("Its labels will be lost. Markers keep their colors."), interface.alertParent(), true);
+    if (answer != AlertAnswer::Default)
+        return false;
+    QFile file(foundPathOf(name));
+    const bool isGone = file.remove() || !file.exists();
+    if (!isGone) {
+        QVLog::fastAppendLog(u"The marker preset \"%@\" cannot be deleted: %@", file.fileName(),
+                             file.errorString());
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Unable to delete preset"), file.errorString(),
+                                           interface.alertParent());
+    }
+    populateMarkerPresets();
+    return isGone;
+}
+
 void MarkerPresets::setObjectValue(const QString &text, const QString &column, std::size_t row)
 {
     if (row < m_rows.size() && column == labelColumn)
@@ -175,7 +253,7 @@ void MarkerPresets::findPresets()
 {
     m_items = QStringList(noPreset);
     if (m_defaults)
-        m_items += presetNames(folder());
+        m_items += namesIn(folder());
     m_selected = rememberedItem();
     showMenu();
 }

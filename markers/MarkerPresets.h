@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/files/Result.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -52,6 +54,15 @@ public:
     /// Saves the rows as the preset of that name, chooses it and ends the sheet. False when the sheet stays:
     /// the user has been told why, or did not want to replace a preset.
     bool addMarkerPreset(const QString &name);
+
+    /// The presets, without "None".
+    QStringList presetNames() const { return m_items.mid(1); }
+    /// Gives the preset's file another name, as typed, and keeps it chosen if it is. The failure is a
+    /// sentence for the user: no or no possible name, the name of another preset, or what the file system
+    /// says.
+    Result<void> renameMarkerPreset(const QString &name, const QString &typedName);
+    /// Removes the preset's file after a question; what was chosen becomes "None". True when it is gone.
+    bool deleteMarkerPreset(const QString &name);
 
     const std::vector<MarkerPresetRow> &markerPresetTableDataArray() const { return m_rows; }
     /// The cell of the column "label". Nothing happens for another one.

@@ -633,6 +633,31 @@ void DocumentWindow::showMarkerPresetDialog()
     static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerPresetDialog();
 }
 
+void DocumentWindow::showMarkerPresetsDialog()
+{
+    toolbarMarkers();
+    static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerPresetsDialog();
+}
+
+void DocumentWindow::showMarkerAddDialog()
+{
+    if (selectedTab() != Tab::Markers)
+        toolbarMarkers();
+    static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerAddDialog();
+}
+
+void DocumentWindow::duplicateSelection()
+{
+    if (mayEdit() && selectedTab() == Tab::Markers)
+        static_cast<MarkersPane &>(pane(Tab::Markers)).duplicateMarkers();
+}
+
+void DocumentWindow::moveInPoint()
+{
+    if (mayEdit() && selectedTab() == Tab::Markers)
+        static_cast<MarkersPane &>(pane(Tab::Markers)).moveInPoint();
+}
+
 void DocumentWindow::showMediaUses(bool isShown)
 {
     static_cast<MediaPane &>(pane(Tab::Media)).setShowsUses(isShown);

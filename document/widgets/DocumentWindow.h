@@ -201,6 +201,9 @@ public Q_SLOTS:
     /// The sheets of the marker fields and of a new marker preset, over the Markers tab.
     void showMarkerFieldsDialog();
     void showMarkerPresetDialog();
+    /// The sheet that renames and deletes marker presets, and the one that adds a marker, over the same tab.
+    void showMarkerPresetsDialog();
+    void showMarkerAddDialog();
 
     // The Edit menu. Undo, Redo and Paste are those of the text while one is being edited.
     void undo();
@@ -213,6 +216,9 @@ public Q_SLOTS:
     void copySelection();
     void selectAllRows();
     void removeSelection();
+    // For the Markers tab; nothing on the others
+    void duplicateSelection();
+    void moveInPoint();
     /// Shows the effects with the keyboard focus in their search field.
     void findEffects();
 

@@ -5,6 +5,7 @@
 #include "document/widgets/ComparedProject.h"
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/WindowWork.h"
+#include "markers/MenuTitles.h"
 #include "support/log/QVException.h"
 #include "support/widgets/FilePanel.h"
 #include "table/widgets/TabPane.h"
@@ -31,11 +32,7 @@ constexpr std::chrono::milliseconds addingSlice{15};
 
 QStringList sequenceTitles(const MyDocument &document)
 {
-    const MenuPtr menu = document.sequenceMenu();
-    QStringList titles;
-    for (std::size_t i = 1; i < menu->size(); ++i)
-        titles.append((*menu)[i].title);
-    return titles;
+    return MenuTitles::ofSequences(*document.sequenceMenu()).mid(1);
 }
 
 /// The element of an item of the sequence menu; null without one.

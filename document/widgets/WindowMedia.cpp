@@ -12,6 +12,7 @@
 #include "handover/widgets/PathMappingsSheet.h"
 #include "handover/widgets/RelinkSheet.h"
 #include "handover/widgets/VerificationSheet.h"
+#include "markers/MenuTitles.h"
 #include "media/MediaConditions.h"
 #include "media/MediaKeys.h"
 #include "media/MediaLook.h"
@@ -254,9 +255,7 @@ void WindowMedia::exportList()
 {
     if (m_window.refusesAfterFailedLoad() || !mayChange())
         return;
-    QStringList sequences;
-    for (const MenuItem &item : *m_window.workbench().document().sequenceMenu())
-        sequences.append(item.title);
+    const QStringList sequences = MenuTitles::ofSequences(*m_window.workbench().document().sequenceMenu());
     auto *const sheet = new ExportListSheet(sequences, m_window.fileTitle(), m_window.folder(), &m_window);
     QObject::connect(sheet, &ExportListSheet::chosen, &m_window,
                      [this](const QString &path, MediaListFormat format, const MediaListScope &scope) {

@@ -26,7 +26,7 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_types(new QComboBox(this))
     , m_showDefaults(new QCheckBox(tr("Show &defaults"), this))
     , m_search(new QLineEdit(this))
-    , m_remove(new QPushButton(tr("Re&move…"), this))
+    , m_remove(new QPushButton(tr("&Remove…"), this))
 {
     m_types->addItems({tr("All Effects"), tr("Filters"), tr("Video Filters"), tr("Audio Filters"),
                        tr("Generators"), tr("Transitions")});
@@ -43,6 +43,13 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_remove->setToolTip(tr("Remove the selected effects from the project"));
     addControls({m_types, m_showDefaults, m_search, m_remove});
     footer().addWidget(makeLabel(Label::EffectStatus, this));
+    auto *const deleteKey =
+        new QLabel(tr("The Delete key takes rows off this list only, until it is filtered "
+                      "anew. Edit ▸ Remove… removes the effects from the project."),
+                   this);
+    deleteKey->setWordWrap(true);
+    deleteKey->setForegroundRole(QPalette::PlaceholderText);
+    footer().addWidget(deleteKey);
 
     auto *delay = new QTimer(this);
     delay->setSingleShot(true);
@@ -61,12 +68,17 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         const bool isDelete = event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
         if (!isDelete || !table().selectionModel()->hasSelection())
             return false;
+        const auto count = qsizetype(selectedRows().size());
         this->workbench().effectEditor().hideSelectedEffects();
+        showMessage(
+            count == 1
+                ? tr("1 effect left the list, but is still in the project")
+                : tr("%1 effects left the list, but are still in the project").arg(locale().toString(count)));
         return true;
     });
     auto *menu = new QMenu(this);
-    menu->addAction(tr("Remove…"), this, &EffectsPane::removeEffects);
-    menu->addAction(tr("Copy"), this, &TabPane::copySelection);
+    menu->addAction(tr("&Remove…"), this, &EffectsPane::removeEffects);
+    menu->addAction(tr("&Copy"), this, &TabPane::copySelection);
     table().setMenu(menu);
     updateControls();
 }
@@ -102,9 +114,10 @@ void EffectsPane::focusSearch()
     m_search->selectAll();
 }
 
-void EffectsPane::commitEdit(int row, const QString &column, const QString &text)
+void EffectsPane::commitEdit(int, const QString &column, const QString &text)
 {
-    workbench().effectEditor().updateXMLEffect(model().recordAt(row), column, text);
+    MyDocument &document = workbench().document();
+    workbench().effectEditor().updateXMLEffects(document.selectedRecords(Tab::Effects), column, text);
 }
 
 void EffectsPane::setEditingEnabled(bool enabled)

@@ -136,6 +136,7 @@ QWidget *ExportNotesSheet::makeColumns()
     auto *const box = new QWidget(this);
     auto *const label = new QLabel(tr("Col&umns, in the order of the list:"), box);
     label->setBuddy(m_columns);
+    m_columns->setAccessibleName(tr("Columns"));
     m_columns->setToolTip(tr("Drag a column to another place"));
     m_columns->setItemDelegate(new FramedCheckDelegate(m_columns));
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);

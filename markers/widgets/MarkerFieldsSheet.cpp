@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace vantrell
@@ -25,11 +26,15 @@ const QString identifierColumn = QStringLiteral("identifier");
 class FieldRows final : public SheetTableModel
 {
 public:
-    FieldRows(MarkerFields &fields, QObject *parent)
+    using Refused = std::function<void(const QString &conflict)>;
+
+    /// `refused` is told why a text was not taken; null when the last one was.
+    FieldRows(MarkerFields &fields, Refused refused, QObject *parent)
         : SheetTableModel({{titleColumn, MarkerFieldsSheet::tr("Title")},
                            {identifierColumn, MarkerFieldsSheet::tr("Identifier")}},
                           parent)
         , m_fields(fields)
+        , m_refused(std::move(refused))
     {
     }
 
@@ -44,12 +49,15 @@ protected:
     /// another character.
     void setText(int row, const QString &column, const QString &newText) override
     {
-        if (column == titleColumn || newText != text(row, column))
+        const QString conflict = m_fields.conflictOf(newText, column, std::size_t(row));
+        m_refused(conflict);
+        if (conflict.isNull() && (column == titleColumn || newText != text(row, column)))
             m_fields.setObjectValue(newText, column, std::size_t(row));
     }
 
 private:
     MarkerFields &m_fields;
+    Refused m_refused;
 };
 
 } // namespace
@@ -57,10 +65,15 @@ private:
 MarkerFieldsSheet::MarkerFieldsSheet(MarkerFields &fields, QWidget *parent)
     : QDialog(parent, Qt::Sheet)
     , m_fields(fields)
-    , m_model(new FieldRows(fields, this))
+    , m_model(new FieldRows(
+          fields, [this](const QString &conflict) { tell(conflict); }, this))
     , m_table(new SheetTable(m_model, this))
     , m_remove(new QPushButton(tr("&Remove"), this))
+    , m_conflict(new QLabel(this))
 {
+    m_conflict->setTextFormat(Qt::PlainText);
+    m_conflict->setWordWrap(true);
+    m_conflict->hide();
     m_model->willReload();
     m_fields.showMarkerFieldsDialog();
     m_model->didReload();
@@ -87,6 +100,7 @@ MarkerFieldsSheet::MarkerFieldsSheet(MarkerFields &fields, QWidget *parent)
     buttons->addWidget(close);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_table, 1);
+    layout->addWidget(m_conflict);
     layout->addWidget(hint);
     layout->addLayout(buttons);
     connect(add, &QPushButton::clicked, this, &MarkerFieldsSheet::markerFieldAdd);
@@ -108,9 +122,36 @@ void MarkerFieldsSheet::done(int result)
     QDialog::done(result);
 }
 
+void MarkerFieldsSheet::accept()
+{
+    if (endEditing())
+        QDialog::accept();
+}
+
+void MarkerFieldsSheet::reject()
+{
+    if (endEditing())
+        QDialog::reject();
+}
+
+/// Takes over what is being typed; false when that was refused.
+bool MarkerFieldsSheet::endEditing()
+{
+    tell(QString());
+    m_table->endEditing();
+    return m_conflict->isHidden();
+}
+
+void MarkerFieldsSheet::tell(const QString &conflict)
+{
+    m_conflict->setText(tr("⚠ %1 It was left as it was.").arg(conflict));
+    m_conflict->setVisible(!conflict.isEmpty());
+}
+
 void MarkerFieldsSheet::markerFieldAdd()
 {
-    m_table->endEditing();
+    if (!endEditing())
+        return;
     m_model->willReload();
     m_fields.markerFieldAdd();
     m_model->didReload();
@@ -123,7 +164,7 @@ void MarkerFieldsSheet::markerFieldAdd()
 
 void MarkerFieldsSheet::markerFieldRemove()
 {
-    m_table->endEditing();
+    endEditing();
     const int row = m_table->selectedRow();
     if (row < 0)
         return;

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QPushButton;
 
 namespace vantrell
@@ -11,7 +12,8 @@ class MarkerFields;
 class SheetTable;
 class SheetTableModel;
 
-/// Defines the custom marker fields. However it is closed, its definitions are stored and applied. Opened
+/// Defines the custom marker fields. However it is closed, its definitions are stored and applied. A text
+/// that would give a field the identifier of another one is refused, and the sheet stays to tell so. Opened
 /// with open().
 class MarkerFieldsSheet : public QDialog
 {
@@ -23,8 +25,12 @@ public:
 
     /// hideMarkerFieldsDialog: also what is still being typed counts.
     void done(int result) override;
+    void accept() override;
+    void reject() override;
 
 private:
+    bool endEditing();
+    void tell(const QString &conflict);
     void markerFieldAdd();
     void markerFieldRemove();
     void updateRemove();
@@ -33,6 +39,7 @@ private:
     SheetTableModel *m_model;
     SheetTable *m_table;
     QPushButton *m_remove;
+    QLabel *m_conflict;
     bool m_isDone = false;
 };
 

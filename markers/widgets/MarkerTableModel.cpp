@@ -2,6 +2,8 @@
 
 #include "markers/MarkerColors.h"
 #include "markers/MarkerKeys.h"
+#include "markers/MenuTitles.h"
+#include "markers/TimecodeEntry.h"
 #include "table/widgets/TableIcons.h"
 
 namespace vantrell
@@ -25,14 +27,18 @@ void MarkerTableModel::sequenceMenuChanged()
     rowsChanged(0, rowCount() - 1);
 }
 
-/// The clips of the record's sequence; null when it has none.
-MenuPtr MarkerTableModel::clipMenu(const RowRecord &record) const
+XmlNode MarkerTableModel::sequenceOf(const RowRecord &record) const
 {
     const MenuPtr sequences = document().sequenceMenu();
     const std::int64_t item = record.get(MarkerKey::sequenceIndex);
-    if (item < 0 || item >= std::int64_t(sequences->size()))
-        return nullptr;
-    const XmlNode sequence = (*sequences)[std::size_t(item)].element;
+    return item >= 0 && item < std::int64_t(sequences->size()) ? (*sequences)[std::size_t(item)].element
+                                                               : XmlNode();
+}
+
+/// The clips of the record's sequence; null when it has none.
+MenuPtr MarkerTableModel::clipMenu(const RowRecord &record) const
+{
+    const XmlNode sequence = sequenceOf(record);
     return sequence ? document().clipMenuForSequence(sequence) : nullptr;
 }
 
@@ -50,20 +56,34 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
             items.push_back({m_colorLabels[i], TableIcons::marker(i), true});
         return items;
     }
-    const MenuPtr menu = ownerMenu(*recordAt(index.row()), column);
+    const RowRecord &record = *recordAt(index.row());
+    const MenuPtr menu = ownerMenu(record, column);
     if (!menu)
         return items;
-    for (const MenuItem &item : *menu)
-        items.push_back(
-            {item.title, TableIcons::named(item.image), !item.element || item.element.isAttached()});
+    const bool isClip = column.key == MarkerKey::clip;
+    const QStringList titles =
+        isClip ? MenuTitles::ofClips(*menu, sequenceOf(record)) : MenuTitles::ofSequences(*menu);
+    const bool leavesClip = isClip && popUpIndex(record, column) > 0;
+    for (std::size_t i = 0; i < menu->size(); ++i) {
+        const MenuItem &item = (*menu)[i];
+        items.push_back({titles[qsizetype(i)], TableIcons::named(item.image),
+                         item.element ? item.element.isAttached() : leavesClip});
+    }
     return items;
 }
 
-QVariant MarkerTableModel::data(const QModelIndex &index, int role) const
+std::optional<EntryNote> MarkerTableModel::entryNote(const QModelIndex &index, const QString &typed,
+                                                     int role) const
 {
-    if (role == Qt::DisplayRole && index.isValid() && columnAt(index.column()).key == MarkerKey::color)
-        return QVariant();
-    return TableModel::data(index, role);
+    const Column &column = columnAt(index.column());
+    const RowRecord &record = *recordAt(index.row());
+    if (column.key != MarkerKey::in && column.key != MarkerKey::out)
+        return std::nullopt;
+    TimecodeEntry::Reading reading = column.key == MarkerKey::in ? TimecodeEntry::ofInPoint(typed, record)
+                                                                 : TimecodeEntry::ofDuration(typed, record);
+    if (role == AlongRole && column.key == MarkerKey::in)
+        reading.text = tr("%1; the duration is kept").arg(reading.text);
+    return EntryNote{reading.text, reading.warnings};
 }
 
 int MarkerTableModel::popUpIndex(const RowRecord &record, const Column &column) const

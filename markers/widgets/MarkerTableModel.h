@@ -22,9 +22,10 @@ public:
     /// The sequence menu was exchanged.
     void sequenceMenuChanged();
 
+    /// Items of the same name are told apart; "(none)" can be chosen where that takes the marker from a clip.
     std::vector<PopUpItem> popUpItems(const QModelIndex &index) const override;
-    /// A colour cell shows its swatch alone.
-    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    std::optional<EntryNote> entryNote(const QModelIndex &index, const QString &typed,
+                                       int role) const override;
 
 protected:
     int popUpIndex(const RowRecord &record, const Column &column) const override;
@@ -33,6 +34,8 @@ protected:
     QString toolTip(const RowRecord &record, const Column &column) const override;
 
 private:
+    /// Null when the record has none in the menu.
+    XmlNode sequenceOf(const RowRecord &record) const;
     MenuPtr clipMenu(const RowRecord &record) const;
     /// The menu of a cell that shows a sequence or clip; null for none.
     MenuPtr ownerMenu(const RowRecord &record, const Column &column) const;

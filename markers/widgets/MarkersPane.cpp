@@ -1,9 +1,13 @@
 #include "markers/widgets/MarkersPane.h"
 
+#include "markers/MarkerKeys.h"
+#include "markers/MarkerOffset.h"
+#include "markers/widgets/MarkerAddSheet.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
 #include "markers/widgets/MarkerPresetSheet.h"
+#include "markers/widgets/MarkerPresetsSheet.h"
 #include "markers/widgets/MarkerTableModel.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
@@ -19,6 +23,8 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace vantrell
 {
@@ -39,7 +45,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_defaults(defaults)
     , m_filter(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
-    , m_remove(new QPushButton(tr("Re&move…"), this))
+    , m_addAt(new QPushButton(tr("A&dd…"), this))
+    , m_remove(new QPushButton(tr("&Remove…"), this))
     , m_offset(new QPushButton(tr("&Offset…"), this))
     , m_markerPresetPopUp(new MarkerPresetPopUp(this))
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
@@ -52,6 +59,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_filter->setAccessibleName(tr("Color of markers"));
     m_filter->setToolTip(tr("Show markers of one color only"));
     m_add->setToolTip(tr("Add a marker to the first sequence"));
+    m_addAt->setToolTip(tr("Add a marker to a sequence and at a timecode of your choice"));
+    m_addAt->setAccessibleName(tr("Add at a sequence and timecode"));
     m_remove->setToolTip(tr("Remove the selected markers from the project"));
     m_offset->setToolTip(tr("Move the in points of the selected markers"));
     auto *const preset = new QLabel(tr("&Preset:"), this);
@@ -59,8 +68,13 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_markerPresetPopUp->setAccessibleName(tr("Marker preset"));
     m_markerPresetPopUp->setToolTip(tr("Choose labels of your own for the colors"));
     m_fields->setToolTip(tr("Define columns of your own for the markers"));
-    addControls(
-        {m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_remove, m_offset, nullptr, m_fields});
+    addControls({m_filter, preset, m_markerPresetPopUp, nullptr, m_add, m_addAt, m_remove, m_offset, nullptr,
+                 m_fields});
+    // Narrower than usual in a small window.
+    for (QPushButton *const button : {m_add, m_addAt, m_remove, m_offset, m_fields})
+        button->setMinimumWidth(
+            std::min(button->sizeHint().width(),
+                     fontMetrics().horizontalAdvance(button->text()) + 2 * fontMetrics().averageCharWidth()));
     m_ownOwners->setToolTip(
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
            "position in different bins share one name, and so do the clips of a track"));
@@ -79,6 +93,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         this->workbench().markerInventory().changeMarkerFilter();
     });
     connect(m_add, &QPushButton::clicked, this, &MarkersPane::addMarker);
+    connect(m_addAt, &QPushButton::clicked, this, &MarkersPane::showMarkerAddDialog);
     connect(m_remove, &QPushButton::clicked, this, &MarkersPane::removeMarkers);
     connect(m_offset, &QPushButton::clicked, this, &MarkersPane::showMarkerOffsetWindow);
 
@@ -117,16 +132,23 @@ MarkersPane::~MarkersPane()
 void MarkersPane::makeMenus()
 {
     auto *menu = new QMenu(this);
-    menu->addAction(tr("Offset…"), this, &MarkersPane::showMarkerOffsetWindow);
-    menu->addAction(tr("Remove…"), this, &MarkersPane::removeMarkers);
-    menu->addAction(tr("Copy"), this, &TabPane::copySelection);
+    menu->addAction(tr("&Offset…"), this, &MarkersPane::showMarkerOffsetWindow);
+    menu->addAction(tr("&Remove…"), this, &MarkersPane::removeMarkers);
+    menu->addAction(tr("&Duplicate"), this, &MarkersPane::duplicateMarkers);
+    menu->addAction(tr("Move &In, Keep Duration"), this, &MarkersPane::moveInPoint);
+    menu->addAction(tr("&Copy"), this, &TabPane::copySelection);
     table().setMenu(menu);
     QHeaderView *const header = table().horizontalHeader();
     header->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(header->addAction(tr("Marker Fields…")), &QAction::triggered, this,
+    connect(header->addAction(tr("Marker &Fields…")), &QAction::triggered, this,
             &MarkersPane::showMarkerFieldsDialog);
-    connect(header->addAction(tr("Create Marker Preset…")), &QAction::triggered, this,
+    connect(header->addAction(tr("Create Marker &Preset…")), &QAction::triggered, this,
             &MarkersPane::showMarkerPresetDialog);
+    auto *const managePresets = new QAction(tr("&Manage Marker Presets…"), this);
+    connect(managePresets, &QAction::triggered, this, &MarkersPane::showMarkerPresetsDialog);
+    header->addAction(managePresets);
+    m_markerPresetPopUp->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_markerPresetPopUp->addAction(managePresets);
 }
 
 MarkerTableModel &MarkersPane::markerModel() const
@@ -155,6 +177,77 @@ void MarkersPane::addMarker()
         workbench().markerEditor().addMarker();
 }
 
+void MarkersPane::showMarkerAddDialog()
+{
+    if (!isEditingEnabled())
+        return;
+    table().commitEditing();
+    MyDocument &document = workbench().document();
+    const MenuPtr sequences = document.sequenceMenu();
+    if (sequences->size() < 2) {
+        workbench().markerEditor().addMarker(); // which says why not
+        return;
+    }
+    const QModelIndex current = table().currentIndex();
+    const std::int64_t item =
+        current.isValid() ? model().recordAt(current.row())->get(MarkerKey::sequenceIndex) : 1;
+    auto *const sheet = new MarkerAddSheet(sequences, item, workbench().markerEditor().freeName(),
+                                           markerModel().colorLabels(), this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        if (!isEditingEnabled())
+            return;
+        if (const RowRecordPtr record =
+                workbench().markerEditor().addMarkerAt(sheet->sequence(), sheet->marker()))
+            selectAdded({record});
+    });
+    sheet->open();
+}
+
+void MarkersPane::duplicateMarkers()
+{
+    if (!isEditingEnabled())
+        return;
+    table().commitEditing();
+    const RowList copies =
+        workbench().markerEditor().duplicate(workbench().document().selectedRecords(Tab::Markers));
+    selectAdded(copies);
+    if (copies.size() == 1)
+        showMessage(tr("1 marker duplicated"));
+    else if (!copies.empty())
+        showMessage(tr("%1 markers duplicated").arg(QLocale().toString(qulonglong(copies.size()))));
+}
+
+/// Selects rows that were added last, and shows them.
+void MarkersPane::selectAdded(const RowList &added)
+{
+    const RowList &rows = workbench().document().rowsOnShow(Tab::Markers);
+    if (added.empty() || rows.size() < added.size() || rows.back() != added.back())
+        return;
+    std::vector<std::size_t> selected;
+    for (std::size_t row = rows.size() - added.size(); row < rows.size(); ++row)
+        selected.push_back(row);
+    selectRows(selected);
+    scrollToRow(selected.back());
+    scrollToRow(selected.front());
+    table().setFocus();
+}
+
+void MarkersPane::moveInPoint()
+{
+    const int in = model().columnOf(MarkerKey::in.text());
+    const QModelIndex edited = table().editedCell();
+    const QModelIndex current = table().currentIndex();
+    if (edited.isValid() && edited.column() == in) {
+        table().commitEditingAlong();
+    } else if (!edited.isValid() && current.isValid()) {
+        const QModelIndex cell = model().index(current.row(), in);
+        table().selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+        table().scrollTo(cell);
+        table().editAlong(cell);
+    }
+}
+
 void MarkersPane::removeMarkers()
 {
     if (isEditingEnabled())
@@ -172,7 +265,14 @@ void MarkersPane::showMarkerOffsetWindow()
 {
     if (!isEditingEnabled())
         return;
-    auto *sheet = new MarkerOffsetSheet(this);
+    const MyDocument &document = workbench().document();
+    auto *sheet = new MarkerOffsetSheet(
+        MarkerOffset::rateText(document.rowsOnShow(Tab::Markers)),
+        [&document](const QString &typed) {
+            return MarkerOffset::preview(typed, document.selectedRecords(Tab::Markers),
+                                         document.rowsOnShow(Tab::Markers));
+        },
+        this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
         if (!isEditingEnabled())
@@ -202,6 +302,15 @@ void MarkersPane::closePresetSheet()
         m_presetSheet->done(QDialog::Accepted);
 }
 
+void MarkersPane::showMarkerPresetsDialog()
+{
+    if (isOpen(m_presetsSheet))
+        return;
+    m_presetsSheet = new MarkerPresetsSheet(workbench().markerPresets(), this);
+    m_presetsSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_presetsSheet->open();
+}
+
 void MarkersPane::showMarkerFieldsDialog()
 {
     if (isOpen(m_fieldsSheet))
@@ -227,6 +336,14 @@ void MarkersPane::commitEdit(int, const QString &column, const QString &text)
     workbench().markerEditor().setObjectValue(text, column);
 }
 
+void MarkersPane::commitEditAlong(int row, const QString &column, const QString &text)
+{
+    if (column == MarkerKey::in.text())
+        workbench().markerEditor().moveInPoints(workbench().document().selectedRecords(Tab::Markers), text);
+    else
+        commitEdit(row, column, text);
+}
+
 void MarkersPane::columnMoved(const QString &identifier, int index)
 {
     workbench().markerFields().columnMoved(identifier, index);
@@ -235,7 +352,8 @@ void MarkersPane::columnMoved(const QString &identifier, int index)
 void MarkersPane::setEditingEnabled(bool enabled)
 {
     TabPane::setEditingEnabled(enabled);
-    for (QAction *action : table().menu()->actions().mid(0, 2))
+    const QList<QAction *> actions = table().menu()->actions();
+    for (QAction *action : actions.first(actions.size() - 1)) // all but Copy
         action->setEnabled(enabled);
 }
 
@@ -243,6 +361,7 @@ void MarkersPane::updateControls()
 {
     const bool hasSelection = table().selectionModel()->hasSelection();
     m_add->setEnabled(isEditingEnabled());
+    m_addAt->setEnabled(isEditingEnabled());
     m_remove->setEnabled(isEditingEnabled() && hasSelection);
     m_offset->setEnabled(isEditingEnabled() && hasSelection);
     const std::size_t selected = hasSelection ? selectedRows().size() : 0;

@@ -29,6 +29,12 @@ public:
 
 public Q_SLOTS:
     void addMarker();
+    /// Opens the sheet that adds a marker at a chosen sequence and timecode.
+    void showMarkerAddDialog();
+    /// Adds a copy of each selected marker.
+    void duplicateMarkers();
+    /// Edits the in point of the current row so that durations stay; ends such an edit.
+    void moveInPoint();
     /// Removes the selected markers after a question.
     void removeMarkers();
     /// Opens the sheet that offsets the in points of the selected markers.
@@ -37,10 +43,13 @@ public Q_SLOTS:
     void showMarkerFieldsDialog();
     /// Opens the sheet that makes a preset.
     void showMarkerPresetDialog();
+    /// Opens the sheet that renames and deletes presets.
+    void showMarkerPresetsDialog();
     void editCurrentCell();
 
 protected:
     void commitEdit(int row, const QString &column, const QString &text) override;
+    void commitEditAlong(int row, const QString &column, const QString &text) override;
     void columnMoved(const QString &identifier, int index) override;
     void setMessage(const QString &text) override;
     void updateControls() override;
@@ -52,12 +61,14 @@ private:
     MarkerTableModel &markerModel() const;
     void makeMenus();
     void setMarkerLabels(const QStringList &labels);
+    void selectAdded(const RowList &added);
     void openPresetSheet();
     void closePresetSheet();
 
     UserDefaults &m_defaults;
     QComboBox *m_filter;
     QPushButton *m_add;
+    QPushButton *m_addAt;
     QPushButton *m_remove;
     QPushButton *m_offset;
     MarkerPresetPopUp *m_markerPresetPopUp;
@@ -67,6 +78,7 @@ private:
     QString m_message;
     QPointer<QDialog> m_presetSheet;
     QPointer<QDialog> m_fieldsSheet;
+    QPointer<QDialog> m_presetsSheet;
 };
 
 } // namespace vantrell

@@ -1,6 +1,7 @@
 #include "table/widgets/PopUpCell.h"
 
 #include <QAbstractListModel>
+#include <QKeyEvent>
 #include <QListView>
 #include <QStyle>
 
@@ -74,10 +75,25 @@ PopUpCell::PopUpCell(std::vector<PopUpItem> items, QWidget *parent)
                         fontMetrics().averageCharWidth() * 4;
     view()->setMinimumWidth(widthOfTitles(items, fontMetrics()) + margins);
     setModel(new PopUpItems(std::move(items), this));
+    view()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, [this] {
         m_isChosen = true;
         Q_EMIT chosen();
     });
+}
+
+/// Return on an item that cannot be chosen, such as the one that the cell shows, closes the list.
+bool PopUpCell::eventFilter(QObject *object, QEvent *event)
+{
+    if (object == view() && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
+        if (isReturn && !view()->currentIndex().flags().testFlag(Qt::ItemIsEnabled)) {
+            hidePopup();
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(object, event);
 }
 
 void PopUpCell::hidePopup()

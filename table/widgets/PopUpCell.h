@@ -19,6 +19,7 @@ public:
     bool isChosen() const { return m_isChosen; }
 
     void hidePopup() override;
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 Q_SIGNALS:
     void chosen();

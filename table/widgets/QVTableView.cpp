@@ -1,6 +1,7 @@
 #include "table/widgets/QVTableView.h"
 
 #include "support/log/QVLog.h"
+#include "table/widgets/TableDelegate.h"
 #include "table/widgets/TableModel.h"
 
 #include <QContextMenuEvent>
@@ -42,11 +43,16 @@ char16_t characterOf(const QKeyEvent &event)
     return isCharacter ? QChar(char16_t(event.key())).toLower().unicode() : u'\0';
 }
 
-bool isPopUp(const QModelIndex &index)
+bool isEditable(const QModelIndex &index, Column::Kind kind)
 {
     const auto *model = qobject_cast<const TableModel *>(index.model());
-    return model && model->columnAt(index.column()).kind == Column::Kind::PopUp &&
+    return model && model->columnAt(index.column()).kind == kind &&
            model->flags(index).testFlag(Qt::ItemIsEditable);
+}
+
+bool isPopUp(const QModelIndex &index)
+{
+    return isEditable(index, Column::Kind::PopUp);
 }
 
 /// Whether a click on the cell does more than select its row.
@@ -136,10 +142,98 @@ void QVTableView::commitEditing()
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
+void QVTableView::commitEditingAlong()
+{
+    if (QWidget *const editor = isEditing() ? indexWidget(m_edited) : nullptr)
+        TableDelegate::setWritesAlong(*editor);
+    commitEditing();
+}
+
+void QVTableView::editAlong(const QModelIndex &index)
+{
+    if (!index.flags().testFlag(Qt::ItemIsEditable))
+        return;
+    edit(index);
+    if (QWidget *const editor = indexWidget(index))
+        TableDelegate::setWritesAlong(*editor);
+}
+
+/// The editor takes the focus with it when the rows are replaced.
+void QVTableView::reset()
+{
+    const bool heldFocus = holdsFocus();
+    QTableView::reset();
+    if (heldFocus)
+        setFocus();
+}
+
+void QVTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool next = hint == QAbstractItemDelegate::EditNextItem;
+    const bool moves = next || hint == QAbstractItemDelegate::EditPreviousItem;
+    const bool heldFocus = holdsFocus();
+    QTableView::closeEditor(editor, moves ? QAbstractItemDelegate::NoHint : hint);
+    if (heldFocus)
+        setFocus();
+    if (moves && moveToCellBeside(next) && isEditable(currentIndex(), Column::Kind::Text))
+        edit(currentIndex());
+}
+
+bool QVTableView::holdsFocus() const
+{
+    const QWidget *const focus = window()->focusWidget();
+    return focus && (focus == this || isAncestorOf(focus));
+}
+
+QModelIndex QVTableView::cellBeside(const QModelIndex &index, bool next) const
+{
+    if (!index.isValid())
+        return QModelIndex();
+    const QHeaderView &header = *horizontalHeader();
+    const int step = next ? 1 : -1;
+    int position = header.visualIndex(index.column()) + step;
+    for (int row = index.row(); row >= 0 && row < model()->rowCount(); row += step) {
+        for (; position >= 0 && position < header.count(); position += step) {
+            const int column = header.logicalIndex(position);
+            if (!header.isSectionHidden(column))
+                return model()->index(row, column);
+        }
+        position = next ? 0 : header.count() - 1;
+    }
+    return QModelIndex();
+}
+
+/// Makes that cell the current one, and its row the only selected one unless it is selected already; false
+/// when there is no such cell.
+bool QVTableView::moveToCellBeside(bool next)
+{
+    const QModelIndex cell = cellBeside(currentIndex(), next);
+    if (!cell.isValid())
+        return false;
+    const bool staysSelected = selectionModel()->isSelected(cell);
+    selectionModel()->setCurrentIndex(cell, staysSelected ? QItemSelectionModel::NoUpdate
+                                                          : QItemSelectionModel::ClearAndSelect |
+                                                                QItemSelectionModel::Rows);
+    scrollTo(cell);
+    return true;
+}
+
+/// Also called for an editor that is hidden with the focus in it.
+bool QVTableView::focusNextPrevChild(bool next)
+{
+    return (hasFocus() && !isEditing() && moveToCellBeside(next)) || QTableView::focusNextPrevChild(next);
+}
+
 void QVTableView::keyPressEvent(QKeyEvent *event)
 {
     if (isEditing()) {
         QTableView::keyPressEvent(event);
+        return;
+    }
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (isTab && event->modifiers().testFlag(Qt::ControlModifier)) {
+        QTableView::focusNextPrevChild(event->key() == Qt::Key_Tab &&
+                                       !event->modifiers().testFlag(Qt::ShiftModifier));
         return;
     }
     if (event->matches(QKeySequence::Copy)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemDelegate>
 #include <QByteArray>
 #include <QMenu>
 #include <QPersistentModelIndex>
@@ -13,7 +14,9 @@ namespace vantrell
 {
 
 /// A table that lets its owner watch single keys, whose context menu acts on the clicked row alone, and
-/// that shows a text while it has no rows. Main thread.
+/// that shows a text while it has no rows. The tab key goes from cell to cell and leaves the table behind the
+/// last one, with the control key at once. The end of an edit leaves the keyboard focus in the table. Main
+/// thread.
 class QVTableView : public QTableView
 {
     Q_OBJECT
@@ -54,14 +57,27 @@ public:
 
     using QTableView::edit;
     bool isEditing() const { return state() == EditingState; }
+    /// The cell that is being edited; invalid for none.
+    QModelIndex editedCell() const { return isEditing() ? QModelIndex(m_edited) : QModelIndex(); }
     /// Ends the editing of a cell with what has been typed so far; nothing when none is edited.
     void commitEditing();
+    /// The same for a text that takes along what belongs to it; see TableModel::AlongRole.
+    void commitEditingAlong();
+    /// Opens the cell's editor for such a text; nothing when the cell cannot be edited.
+    void editAlong(const QModelIndex &index);
+
+    /// The next or previous cell in reading order, as the columns stand; invalid behind the last and before
+    /// the first one.
+    QModelIndex cellBeside(const QModelIndex &index, bool next) const;
+
+    void reset() override;
 
 Q_SIGNALS:
     void copyRequested();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -70,7 +86,12 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
 
+protected Q_SLOTS:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
 private:
+    bool moveToCellBeside(bool next);
+    bool holdsFocus() const;
     void performWatched(char16_t character);
     void openPopUp(const QModelIndex &index);
     void setRowHeight();

@@ -66,23 +66,10 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
 {
     m_model->setParent(this);
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
-        const QScopedValueRollback<bool> edits(m_edits, true);
-        const std::vector<std::size_t> selected = selectedRows();
-        // An edit that writes to a single row writes to the one that was clicked.
-        const Column &edited = m_model->columnAt(m_model->columnOf(column));
-        const bool editsOne = edited.edits == Column::Edits::FirstRow;
-        const bool isSelected = editsOne
-                                    ? !selected.empty() && selected.front() == std::size_t(row)
-                                    : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
-        const bool isOneRow = editsOne || !isSelected;
-        if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
-            return;
-        if (!isSelected)
-            selectRows({std::size_t(row)});
-        commitEdit(row, column, text);
-        const std::vector<std::size_t> changed = selectedRows();
-        if (!changed.empty())
-            m_model->rowsChanged(int(changed.front()), int(changed.back()));
+        writeCell(row, column, text, &TabPane::commitEdit);
+    });
+    m_model->setEditAlong([this](int row, const QString &column, const QString &text) {
+        writeCell(row, column, text, &TabPane::commitEditAlong);
     });
     m_table->setModel(m_model);
     m_table->setItemDelegate(new TableDelegate(m_table));
@@ -139,6 +126,26 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
 TabPane::~TabPane() = default;
 
 // The rows
+
+void TabPane::writeCell(int row, const QString &column, const QString &text, Commit commit)
+{
+    const QScopedValueRollback<bool> edits(m_edits, true);
+    const std::vector<std::size_t> selected = selectedRows();
+    // An edit that writes to a single row writes to the one that was clicked.
+    const Column &edited = m_model->columnAt(m_model->columnOf(column));
+    const bool editsOne = edited.edits == Column::Edits::FirstRow;
+    const bool isSelected = editsOne ? !selected.empty() && selected.front() == std::size_t(row)
+                                     : std::binary_search(selected.begin(), selected.end(), std::size_t(row));
+    const bool isOneRow = editsOne || !isSelected;
+    if (showsChoice(isOneRow ? std::vector{std::size_t(row)} : selected, column, text))
+        return;
+    if (!isSelected)
+        selectRows({std::size_t(row)});
+    (this->*commit)(row, column, text);
+    const std::vector<std::size_t> changed = selectedRows();
+    if (!changed.empty())
+        m_model->rowsChanged(int(changed.front()), int(changed.back()));
+}
 
 void TabPane::tableWillReload()
 {

@@ -113,6 +113,11 @@ protected:
 
     /// A cell was edited: writes it into the project. The row is selected.
     virtual void commitEdit(int row, const QString &column, const QString &text);
+    /// The same with what belongs to the cell; see TableModel::AlongRole.
+    virtual void commitEditAlong(int row, const QString &column, const QString &text)
+    {
+        commitEdit(row, column, text);
+    }
     /// The user moved a column; the index is its new position from the left.
     virtual void columnMoved(const QString &, int) {}
     /// Shows the text of showMessage(), empty when its time is up. A pane with a status line of its own
@@ -127,6 +132,9 @@ protected:
     virtual QString filteredText() const = 0;
 
 private:
+    using Commit = void (TabPane::*)(int row, const QString &column, const QString &text);
+
+    void writeCell(int row, const QString &column, const QString &text, Commit commit);
     void tableWillReload();
     void tableDidReload();
     void setSpinning(bool spinning);

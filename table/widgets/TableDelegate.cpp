@@ -1,6 +1,7 @@
 #include "table/widgets/TableDelegate.h"
 
 #include "table/widgets/CheckFrame.h"
+#include "table/widgets/EntryHint.h"
 #include "table/widgets/PopUpCell.h"
 #include "table/widgets/TableModel.h"
 
@@ -22,6 +23,7 @@ namespace
 {
 
 constexpr int iconSide = 16;
+constexpr const char *writesAlong = "writesAlong"; // property of an editor
 
 const TableModel &modelOf(const QModelIndex &index)
 {
@@ -44,6 +46,12 @@ QRect checkBoxRect(const QStyleOptionViewItem &option)
     const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
                      style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
     return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+}
+
+/// In which the editor's text is written.
+int roleOf(const QWidget &editor)
+{
+    return editor.property(writesAlong).toBool() ? TableModel::AlongRole : Qt::EditRole;
 }
 
 /// Frames the whole current cell.
@@ -146,6 +154,10 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         field->setMaxLength(std::numeric_limits<int>::max()); // or a long text would lose its end
         field->setText(index.data(Qt::EditRole).toString());
         field->selectAll();
+        if (modelOf(index).entryNote(index, field->text(), Qt::EditRole))
+            new EntryHint(*field, [field, cell = QPersistentModelIndex(index)](const QString &typed) {
+                return cell.isValid() ? modelOf(cell).entryNote(cell, typed, roleOf(*field)) : std::nullopt;
+            });
         editor = field;
     }
     if (editor)
@@ -189,8 +201,13 @@ void TableDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, con
             model->setData(index, list->currentIndex());
     } else if (auto *field = qobject_cast<QLineEdit *>(editor)) {
         if (field->isModified())
-            model->setData(index, field->text());
+            model->setData(index, field->text(), roleOf(*field));
     }
+}
+
+void TableDelegate::setWritesAlong(QWidget &editor)
+{
+    editor.setProperty(writesAlong, true);
 }
 
 void TableDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
@@ -199,9 +216,17 @@ void TableDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionView
     editor->setGeometry(option.rect);
 }
 
-/// A pop-up cell is closed by its list, not by the focus, which changes between the two.
+/// Return with the Alt key writes along. A pop-up cell is closed by its list, not by the focus, which changes
+/// between the two.
 bool TableDelegate::eventFilter(QObject *object, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress) {
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        auto *const field = qobject_cast<QLineEdit *>(object);
+        if (field && isReturn && key->modifiers().testFlag(Qt::AltModifier))
+            setWritesAlong(*field);
+    }
     const bool isFocus = event->type() == QEvent::FocusOut || event->type() == QEvent::Hide;
     if (isFocus && qobject_cast<PopUpCell *>(object))
         return false;

@@ -7,13 +7,16 @@ namespace vantrell
 
 /// Draws and edits the cells of a TableModel: texts in a field with the whole text selected, check boxes
 /// by a click or the space bar, pop-up cells with a list that opens at once. What is left unchanged is not
-/// written.
+/// written. Where the model tells what becomes of a text, that stands below the field while it is typed.
 class TableDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    /// What the editor holds is to be written along with what belongs to the cell; see TableModel::AlongRole.
+    static void setWritesAlong(QWidget &editor);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

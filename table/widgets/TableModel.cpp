@@ -170,8 +170,9 @@ bool TableModel::setData(const QModelIndex &index, const QVariant &value, int ro
         m_edit(index.row(), column, on ? QStringLiteral("1") : QStringLiteral("0"));
         return true;
     }
-    if (role == Qt::EditRole && can.testFlag(Qt::ItemIsEditable)) {
-        m_edit(index.row(), column, value.toString());
+    if ((role == Qt::EditRole || role == AlongRole) && can.testFlag(Qt::ItemIsEditable)) {
+        const Edit &edit = role == AlongRole && m_editAlong ? m_editAlong : m_edit;
+        edit(index.row(), column, value.toString());
         return true;
     }
     return false;

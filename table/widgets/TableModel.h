@@ -8,10 +8,17 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace vantrell
 {
+
+/// What is told about a text while it is typed.
+struct EntryNote {
+    QString text;
+    QStringList warnings = {};
+};
 
 /// One choice of a pop-up cell.
 struct PopUpItem {
@@ -30,6 +37,10 @@ class TableModel : public QAbstractTableModel
 public:
     /// Writes what was typed or chosen: a text, "1" or "0" of a check box, the index in a pop-up menu.
     using Edit = std::function<void(int row, const QString &column, const QString &text)>;
+
+    /// The role of a text that is written together with what belongs to the cell: with an in point the out
+    /// point moves, so that the duration stays. In a column that has nothing of the kind, Qt::EditRole.
+    static constexpr int AlongRole = Qt::UserRole + 1;
 
     Tab tab() const { return m_tab; }
     MyDocument &document() const { return m_document; }
@@ -58,10 +69,18 @@ public:
 
     /// The choices of a pop-up cell.
     virtual std::vector<PopUpItem> popUpItems(const QModelIndex &) const { return {}; }
+    /// What the text, written in that role, would make of the cell; told while it is typed. Nothing in a
+    /// column whose texts are written as they are typed.
+    virtual std::optional<EntryNote> entryNote(const QModelIndex &, const QString &, int) const
+    {
+        return std::nullopt;
+    }
     /// The text of the cell as it is copied and read aloud; "1" or "0" of a check box.
     QString cellText(const QModelIndex &index) const;
 
     void setEdit(Edit edit) { m_edit = std::move(edit); }
+    /// How texts in the AlongRole are written.
+    void setEditAlong(Edit edit) { m_editAlong = std::move(edit); }
     bool isEditingEnabled() const { return m_editingEnabled; }
     void setEditingEnabled(bool enabled);
 
@@ -94,6 +113,7 @@ private:
     Tab m_tab;
     Columns m_columns;
     Edit m_edit;
+    Edit m_editAlong;
     bool m_editingEnabled = false;
 };
 

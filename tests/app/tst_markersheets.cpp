@@ -177,6 +177,34 @@ private Q_SLOTS:
         QCOMPARE(columns().mid(10), QStringList(crew));
     }
 
+    /// The sheet stays and tells why; what was typed is not lost with it.
+    void refusesAnIdentifierThatAnotherFieldHas()
+    {
+        define({QStringLiteral("Take")});
+        MarkerFieldsSheet *const sheet = openFields(m_window);
+        const auto told = [sheet] {
+            for (const QLabel *const label : sheet->findChildren<QLabel *>()) {
+                if (label->isVisible() && label->text().contains(take))
+                    return true;
+            }
+            return false;
+        };
+        click(sheet, QStringLiteral("Add"));
+        QTest::keyClicks(editorOf(sheet), QStringLiteral("take"));
+        click(sheet, QStringLiteral("Done"));
+        QVERIFY(sheet->isVisible());
+        QVERIFY(told());
+        QCOMPARE(rowsOf(sheet),
+                 QStringList({QStringLiteral("Take=QVCUSTOM_TAKE"), QStringLiteral("Untitled=")}));
+        type(sheet, 1, 0, QStringLiteral("Lens"));
+        QTest::keyClick(editorOf(sheet), Qt::Key_Return);
+        QTRY_VERIFY(!editorOf(sheet));
+        QVERIFY(!told());
+        click(sheet, QStringLiteral("Done"));
+        QTRY_VERIFY(!shown<MarkerFieldsSheet>(m_window));
+        QCOMPARE(columns().mid(10), QStringList({take, lens}));
+    }
+
     void columnsStayWhereTheyWereMoved()
     {
         define({QStringLiteral("Take"), QStringLiteral("Lens"), QStringLiteral("Crew")});

@@ -77,6 +77,26 @@ private Q_SLOTS:
         }
     }
 
+    void switchesSeveralInOneStep()
+    {
+        EffectProject opened;
+        const QByteArray before = project(sequence("S", clip(filter("<enabled>TRUE</enabled>")) +
+                                                            clip(filter("<a/>")) + clip(filter("<b/>"))));
+        QVERIFY(opened.load(before));
+        for (const Tab tab : {Tab::Media, Tab::Markers})
+            opened.document.populate(tab, "none", [] {}); // or nothing could be undone
+        const RowList &effects = opened.document.effectArray();
+        opened.editor.updateXMLEffects({effects.at(0), effects.at(2)}, QStringLiteral("enabled"),
+                                       QStringLiteral("0"));
+        QCOMPARE(effects.at(0)->get(EffectKey::enabled), 0);
+        QCOMPARE(effects.at(1)->get(EffectKey::enabled), 1);
+        QCOMPARE(effects.at(2)->get(EffectKey::enabled), 0);
+        QCOMPARE(opened.document.undoName(), QStringLiteral("Switch Off Effects"));
+        QVERIFY(opened.document.undo());
+        QCOMPARE(textOf(opened), before);
+        QVERIFY(!opened.document.canUndo());
+    }
+
     void aKeyThatIsNoNameChangesNothing()
     {
         EffectProject opened;

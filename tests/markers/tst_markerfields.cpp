@@ -72,6 +72,26 @@ private Q_SLOTS:
         QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
     }
 
+    void tellsOfIdentifiersThatOthersHave()
+    {
+        MarkerProject project("<xmeml/>");
+        MarkerFields &fields = project.fields;
+        const QString title = QStringLiteral("title");
+        const QString identifier = QStringLiteral("identifier");
+        for (int i = 0; i < 3; ++i)
+            fields.markerFieldAdd();
+        fields.setObjectValue(QStringLiteral("Take"), title, 0);
+        fields.setObjectValue(QStringLiteral("Lens"), title, 1);
+        // One without an identifier gets it from its title, the others keep theirs.
+        QVERIFY(
+            fields.conflictOf(QStringLiteral("take"), title, 2).contains(QStringLiteral("QVCUSTOM_TAKE")));
+        QVERIFY(fields.conflictOf(QStringLiteral("Crew"), title, 2).isNull());
+        QVERIFY(fields.conflictOf(QStringLiteral("Take"), title, 1).isNull());
+        QVERIFY(
+            fields.conflictOf(QStringLiteral("TAKE"), identifier, 1).contains(QStringLiteral("\"Take\"")));
+        QVERIFY(fields.conflictOf(QStringLiteral("LENS"), identifier, 1).isNull());
+    }
+
     void strangeDefinitionsDoNoHarm()
     {
         UserDefaults defaults(m_home.path(QStringLiteral("strange.plist")), UserDefaults::Access::Volatile);

@@ -305,6 +305,75 @@ private Q_SLOTS:
         QCOMPARE(presets.labels.section(QLatin1Char(' '), 0, 0), QStringLiteral("again"));
     }
 
+    void tellsWhyASlashIsRefused()
+    {
+        m_alerts->queueAnswer(AlertAnswer::Default);
+        Presets presets(m_defaults.get());
+        presets->showMarkerPresetDialog();
+        QVERIFY(!presets->addMarkerPreset(QStringLiteral("Day/Night")));
+        QVERIFY(m_alerts->shown().at(0).text(AlertKey::InformativeText).contains(QStringLiteral("slash")));
+        QVERIFY(!QFile::exists(m_home->path(presetFolder)));
+    }
+
+    void renaming_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name"); // of the file afterwards
+        QTest::addColumn<QString>("failure");
+        const QString loud = QStringLiteral("Loud");
+        QTest::newRow("plain") << QStringLiteral("Grade") << QStringLiteral("Grade") << QString();
+        QTest::newRow("dot and name") << QStringLiteral(".Grade") << QStringLiteral("Grade") << QString();
+        QTest::newRow("the same") << loud << loud << QString();
+        QTest::newRow("empty") << QString() << loud << QStringLiteral("needs a name");
+        QTest::newRow("slash") << QStringLiteral("a/b") << loud << QStringLiteral("slash");
+        QTest::newRow("taken") << QStringLiteral("Cut") << loud << QStringLiteral("\"Cut\" already");
+        QTest::newRow("too long") << QString(300, QLatin1Char('n')) << loud << QStringLiteral("could not");
+    }
+    void renaming()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, name);
+        QFETCH(QString, failure);
+        addPreset(QStringLiteral("Cut"), preset(QString()));
+        m_home->addFile(presetFolder + QStringLiteral("/Loud.markerpreset"), preset(QStringLiteral("Red=x")));
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->changeMarkerPreset(2);
+        const Result<void> renamed = presets->renameMarkerPreset(QStringLiteral("Loud"), typed);
+        QCOMPARE(bool(renamed), failure.isEmpty());
+        QVERIFY(renamed || renamed.message().contains(failure));
+        QStringList expected{QStringLiteral("Cut.markerpreset"), name + QStringLiteral(".markerpreset")};
+        QCOMPARE(files(), expected);
+        // It stays the chosen one.
+        QCOMPARE(selected(), name);
+        QCOMPARE(presets.menu(), QStringLiteral("None|Cut|%1*|-|Create preset...").arg(name));
+        QCOMPARE(presets.labels.section(QLatin1Char(' '), 0, 0), QStringLiteral("x"));
+    }
+
+    void deleting_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("deletes");
+        QTest::newRow("delete") << AlertAnswer::Default << true;
+        QTest::newRow("cancel") << AlertAnswer::Alternate << false;
+        QTest::newRow("window closed") << AlertAnswer::Other << false;
+    }
+    void deleting()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, deletes);
+        m_home->addFile(presetFolder + QStringLiteral("/Loud.MarkerPreset"), preset(QString()));
+        m_alerts->queueAnswer(answer);
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->changeMarkerPreset(1);
+        QCOMPARE(presets->deleteMarkerPreset(QStringLiteral("Loud")), deletes);
+        QCOMPARE(files().isEmpty(), deletes);
+        QCOMPARE(selected(), deletes ? QStringLiteral("None") : QStringLiteral("Loud"));
+        QVERIFY(!presets->deleteMarkerPreset(QStringLiteral("None")));
+        QCOMPARE(m_alerts->shown().size(), std::size_t(1));
+    }
+
     void withoutDefaultsNothingIsReadOrStored()
     {
         addPreset(QStringLiteral("A"), preset(QStringLiteral("Red=a")));

@@ -152,8 +152,10 @@ void TestModels::offerClipsOfTheRow()
         return texts;
     };
     const QString clip = QStringLiteral("clip");
-    const QStringList trailer{QStringLiteral("(none)"), QStringLiteral("Harbour Wide"),
-                              QStringLiteral("Küste bei Nacht (still)"), QStringLiteral("Harbour Wide")};
+    const QStringList trailer{QStringLiteral("(none)"),
+                              QStringLiteral("Harbour Wide (10:00:00:00 – 10:00:05:00)"),
+                              QStringLiteral("Küste bei Nacht (still)"),
+                              QStringLiteral("Harbour Wide (10:00:08:00 – 10:00:15:00)")};
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     QVERIFY(titles(QStringLiteral("Opening"), clip).size() > 10);
     // A removed item keeps its index but cannot be selected.
@@ -170,6 +172,13 @@ void TestModels::offerClipsOfTheRow()
     QCOMPARE(std::vector<bool>(enabled.begin(), enabled.begin() + 4),
              std::vector<bool>({true, true, false, true}));
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
+    // "(none)" takes a marker from a clip; elsewhere, and as a sequence, it would do nothing.
+    const auto offersNone = [&](const QString &row, const QString &column) {
+        const int modelRow = m_project->rowOf(Tab::Markers, QStringLiteral("name"), row);
+        return model.popUpItems(m_project->cell(Tab::Markers, modelRow, column)).front().isEnabled;
+    };
+    QVERIFY(!offersNone(QStringLiteral("Opening"), clip));
+    QVERIFY(!offersNone(QStringLiteral("First light"), QStringLiteral("sequence")));
     QVERIFY(titles(QStringLiteral("Tide turns"), clip).isEmpty());
     QCOMPARE(titles(QStringLiteral("Tide turns"), QStringLiteral("sequence")),
              (QStringList{QStringLiteral("(none)"), QStringLiteral("Trailer selects"),

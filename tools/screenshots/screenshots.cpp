@@ -17,6 +17,7 @@
 #include "markers/widgets/MarkersPane.h"
 #include "report/widgets/PrintPanel.h"
 #include "support/settings/UserDefaults.h"
+#include "table/widgets/QVTableView.h"
 #include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
 
@@ -157,9 +158,29 @@ private:
                                                               std::size_t(row));
         takeSheet(window, "preset-sheet");
 
+        window.pane(Tab::Markers).selectRows({3, 4});
         static_cast<MarkersPane &>(window.pane(Tab::Markers)).showMarkerOffsetWindow();
         visibleSheet(window)->findChild<QLineEdit *>()->setText(QStringLiteral("-1:00"));
         takeSheet(window, "offset-sheet");
+
+        window.showMarkerAddDialog();
+        visibleSheet(window)->findChildren<QLineEdit *>().constFirst()->setText(QStringLiteral("12.10"));
+        takeSheet(window, "add-sheet");
+
+        if (window.workbench().markerPresets().presetNames().isEmpty())
+            window.workbench().markerPresets().addMarkerPreset(QStringLiteral("Online"));
+        window.showMarkerPresetsDialog();
+        takeSheet(window, "presets-sheet");
+        window.workbench().markerPresets().changeMarkerPreset(0);
+
+        QVTableView &table = window.pane(Tab::Markers).table();
+        table.setCurrentIndex(table.model()->index(16, 3));
+        table.edit(table.currentIndex());
+        auto *const field = table.viewport()->findChild<QLineEdit *>();
+        field->setText(QStringLiteral("1.61.10"));
+        Q_EMIT field->textEdited(field->text());
+        take(window, "typing");
+        table.commitEditing();
 
         window.pane(Tab::Markers).selectRows({3, 4});
         QTimer::singleShot(0, &window, [&] { takeSheet(window, "question"); });

@@ -1,0 +1,567 @@
+#include "WindowTest.h"
+
+#include "app/AppController.h"
+#include "app/Application.h"
+#include "app/StartWindow.h"
+#include "markers/MarkerKeys.h"
+#include "markers/MarkerPresets.h"
+#include "support/alerts/QVAlert.h"
+#include "support/files/PropertyList.h"
+#include "support/log/QVLog.h"
+#include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "table/widgets/EntryHint.h"
+#include "table/widgets/PopUpCell.h"
+#include "table/widgets/QVTableView.h"
+#include "tests/support/TemporaryHome.h"
+#include "workbench/Workbench.h"
+
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTest>
+
+using namespace vantrell;
+
+namespace
+{
+
+QString letterOf(const QString &text)
+{
+    const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+    return mnemonic.isEmpty() ? QString() : mnemonic.toString().right(1);
+}
+
+/// The texts that share a mnemonic with another one.
+QStringList clashes(const QStringList &texts)
+{
+    QHash<QString, QStringList> byLetter;
+    for (const QString &text : texts) {
+        if (const QString letter = letterOf(text); !letter.isEmpty())
+            byLetter[letter].append(text);
+    }
+    QStringList found;
+    for (const QStringList &same : byLetter) {
+        if (same.size() > 1)
+            found.append(same.join(QStringLiteral(" = ")));
+    }
+    return found;
+}
+
+/// The menus with the same mnemonic on two items that show at once.
+QStringList clashesIn(const QMenu &menu)
+{
+    QStringList texts;
+    QStringList found;
+    for (const QAction *const action : menu.actions()) {
+        if (!action->isVisible())
+            continue;
+        texts.append(action->text());
+        if (action->menu())
+            found += clashesIn(*action->menu());
+    }
+    return found + clashes(texts);
+}
+
+/// The texts of a window part that stand for a key: of buttons, labels with a buddy, boxes.
+QStringList textsWithKeys(const QWidget &part)
+{
+    QStringList texts;
+    for (const auto *const button : part.findChildren<QAbstractButton *>()) {
+        if (button->window() == part.window())
+            texts.append(button->text());
+    }
+    for (const auto *const label : part.findChildren<QLabel *>()) {
+        if (label->buddy() && label->window() == part.window())
+            texts.append(label->text());
+    }
+    for (const auto *const box : part.findChildren<QGroupBox *>())
+        texts.append(box->title());
+    return texts;
+}
+
+/// Buttons with a text but no key.
+QStringList buttonsWithoutKey(const QWidget &dialog)
+{
+    QStringList found;
+    for (const auto *const button : dialog.findChildren<QPushButton *>()) {
+        if (button->window() == &dialog && !button->text().isEmpty() && letterOf(button->text()).isEmpty())
+            found.append(button->text());
+    }
+    return found;
+}
+
+bool takesInput(const QWidget &widget)
+{
+    return qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QComboBox *>(&widget) ||
+           qobject_cast<const QAbstractItemView *>(&widget) ||
+           qobject_cast<const QPlainTextEdit *>(&widget) || qobject_cast<const QAbstractSpinBox *>(&widget) ||
+           qobject_cast<const QAbstractButton *>(&widget);
+}
+
+/// The controls of a window part without a name for screen readers.
+QStringList nameless(const QWidget &part)
+{
+    QStringList found;
+    for (QWidget *const widget : part.findChildren<QWidget *>()) {
+        const bool isOwn = widget->window() == part.window() && widget->focusPolicy() != Qt::NoFocus;
+        const bool isInner = qobject_cast<QComboBox *>(widget->parentWidget()) ||
+                             qobject_cast<QAbstractSpinBox *>(widget->parentWidget());
+        if (!isOwn || isInner || !takesInput(*widget))
+            continue;
+        QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(widget);
+        if (!accessible || accessible->text(QAccessible::Name).isEmpty())
+            found.append(QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
+                         widget->objectName());
+    }
+    return found;
+}
+
+QDialog *visibleDialog()
+{
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        auto *const dialog = qobject_cast<QDialog *>(widget);
+        if (dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class KeyboardTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
+        AppController::startLog();
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        m_controller->applicationDidFinishLaunching();
+        m_controller->openFiles({copySample(m_home->path(QStringLiteral("project")))});
+        m_window = m_controller->currentWindow();
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        m_window->resize(1400, 700);
+        m_window->toolbarMarkers();
+        m_window->activateWindow();
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void menusHaveEachKeyOnce()
+    {
+        for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+            showTab(tab);
+            QStringList bar;
+            for (const QAction *const action : m_window->menuBar()->actions()) {
+                bar.append(action->text());
+                Q_EMIT action->menu()->aboutToShow();
+                QCOMPARE(clashesIn(*action->menu()), QStringList());
+            }
+            // The pane shares its keys with the menu bar.
+            QCOMPARE(clashes(bar + textsWithKeys(m_window->pane(tab))), QStringList());
+            QCOMPARE(nameless(m_window->pane(tab)), QStringList());
+            if (const QMenu *const menu = table().menu())
+                QCOMPARE(clashesIn(*menu), QStringList());
+        }
+        QCOMPARE(clashes(textsWithKeys(*m_controller->startWindow().centralWidget())), QStringList());
+        QCOMPARE(nameless(*m_controller->startWindow().centralWidget()), QStringList());
+    }
+
+    void sheetsHaveKeysAndNames_data()
+    {
+        QTest::addColumn<QString>("command");
+        for (const char *const command :
+             {"Add Marker…", "Marker Fields…", "Create Marker Preset…", "Manage Marker Presets…", "Remove…",
+              "Compare with…", "Export Notes…", "Relink…", "Path Mappings…", "Export List…", "Export Report…",
+              "Revert to Saved"})
+            QTest::newRow(command) << QString::fromUtf8(command);
+        QTest::newRow("offset") << QString();
+    }
+    void sheetsHaveKeysAndNames()
+    {
+        QFETCH(QString, command);
+        select({3, 4});
+        QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("x")));
+        select({3, 4});
+        bool isSeen = false;
+        QStringList found;
+        // Some commands wait for the answer.
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            QDialog *const dialog = visibleDialog();
+            if (!dialog || isSeen)
+                return;
+            isSeen = true;
+            found = clashes(textsWithKeys(*dialog)) + buttonsWithoutKey(*dialog) + nameless(*dialog);
+            dialog->reject();
+        });
+        look.start(20);
+        if (command.isEmpty())
+            QMetaObject::invokeMethod(&m_window->pane(Tab::Markers), "showMarkerOffsetWindow");
+        else
+            QVERIFY(trigger(*m_window, command));
+        QTRY_VERIFY(isSeen);
+        QCOMPARE(found.join(QStringLiteral(", ")), QString());
+        QTRY_VERIFY(!visibleDialog());
+    }
+
+    void tabGoesFromCellToCell()
+    {
+        table().setFocus();
+        const int last = table().model()->columnCount() - 1;
+        table().setCurrentIndex(table().model()->index(0, 1));
+        key(Qt::Key_Tab);
+        QCOMPARE(where(), QPoint(2, 0));
+        key(Qt::Key_Backtab, Qt::ShiftModifier);
+        key(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(where(), QPoint(0, 0));
+        QVERIFY(table().hasFocus());
+        table().setCurrentIndex(table().model()->index(0, last));
+        key(Qt::Key_Tab);
+        QCOMPARE(where(), QPoint(0, 1));
+        QCOMPARE(m_window->pane(Tab::Markers).selectedRows(), std::vector<std::size_t>{1});
+        // As the columns stand.
+        table().horizontalHeader()->moveSection(1, 3);
+        table().setCurrentIndex(table().model()->index(0, 3));
+        key(Qt::Key_Tab);
+        QCOMPARE(where(), QPoint(1, 0));
+        // Within rows that are selected together they stay so.
+        select({0, 1});
+        table().selectionModel()->setCurrentIndex(table().model()->index(0, 2),
+                                                  QItemSelectionModel::NoUpdate);
+        key(Qt::Key_Tab);
+        QCOMPARE(m_window->pane(Tab::Markers).selectedRows(), (std::vector<std::size_t>{0, 1}));
+        // Out of the table: behind the last cell, before the first one, and from anywhere with Ctrl.
+        table().setCurrentIndex(table().model()->index(table().model()->rowCount() - 1, last));
+        key(Qt::Key_Tab);
+        QVERIFY(!table().hasFocus());
+        table().setFocus();
+        table().setCurrentIndex(table().model()->index(0, 0));
+        key(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(!table().hasFocus());
+        table().setFocus();
+        table().setCurrentIndex(table().model()->index(1, 1));
+        key(Qt::Key_Tab, Qt::ControlModifier);
+        QVERIFY(!table().hasFocus());
+        QCOMPARE(where(), QPoint(1, 1));
+    }
+
+    void keysEditCells()
+    {
+        const int name = column("name");
+        table().setFocus();
+        go(2, name);
+        for (const auto begin : {Qt::Key_Return, Qt::Key_F2}) {
+            key(begin);
+            QVERIFY(table().isEditing());
+            QTest::keyClicks(editor(), QStringLiteral("away"));
+            QTest::keyClick(editor(), Qt::Key_Escape);
+            QTRY_VERIFY(!table().isEditing());
+            QVERIFY(table().hasFocus());
+            QVERIFY(!m_window->isWindowModified());
+        }
+        key(Qt::Key_F2);
+        QTest::keyClicks(editor(), QStringLiteral("one"));
+        QTest::keyClick(editor(), Qt::Key_Tab);
+        // On to the comment, which is a text as well.
+        QVERIFY(table().isEditing());
+        QCOMPARE(where(), QPoint(column("comment"), 2));
+        QTest::keyClicks(editor(), QStringLiteral("two"));
+        QTest::keyClick(editor(), Qt::Key_Backtab);
+        QCOMPARE(where(), QPoint(name, 2));
+        QTest::keyClick(editor(), Qt::Key_Backtab);
+        // The colour is none: its list does not open.
+        QVERIFY(!table().isEditing());
+        QVERIFY(table().hasFocus());
+        QCOMPARE(where(), QPoint(column("color"), 2));
+        QCOMPARE(text(2, "name"), QStringLiteral("one"));
+        QCOMPARE(text(2, "comment"), QStringLiteral("two"));
+    }
+
+    void theFocusStaysInTheTable_data()
+    {
+        QTest::addColumn<QString>("cell");
+        for (const char *const cell : {"name", "in", "out", "color", "sequence", "clip", "chapter"})
+            QTest::newRow(cell) << QString::fromLatin1(cell);
+    }
+    void theFocusStaysInTheTable()
+    {
+        QFETCH(QString, cell);
+        const int row = rowNamed(QStringLiteral("First light"));
+        table().setFocus();
+        go(row, m_window->pane(Tab::Markers).model().columnOf(cell));
+        if (cell == QStringLiteral("chapter")) {
+            key(Qt::Key_Space);
+        } else {
+            key(Qt::Key_Return);
+            if (const QPointer<PopUpCell> list = table().findChild<PopUpCell *>()) {
+                QTRY_VERIFY(list && list->view()->isVisible());
+                list->view()->setCurrentIndex(
+                    list->model()->index(cell == QStringLiteral("sequence") ? 1 : 2, 0));
+                QTest::keyClick(list->view(), Qt::Key_Return);
+            } else {
+                QTest::keyClicks(editor(), QStringLiteral("5"));
+                QTest::keyClick(editor(), Qt::Key_Return);
+            }
+        }
+        QTRY_VERIFY(!table().isEditing());
+        QVERIFY(m_window->isWindowModified());
+        QTRY_COMPARE(m_window->focusWidget(), &table());
+        QCOMPARE(table().currentIndex().row(), row);
+    }
+
+    void aLineTellsWhatIsTyped()
+    {
+        table().setFocus();
+        go(1, column("in"));
+        key(Qt::Key_Return);
+        auto *const hint = table().findChild<EntryHint *>();
+        QVERIFY(hint && !hint->isVisible());
+        QTest::keyClicks(editor(), QStringLiteral("1.."));
+        QVERIFY(hint->isVisible());
+        QVERIFY(shownIn(*hint).startsWith(QStringLiteral("1.. is 01:01:00")));
+        QVERIFY(hint->geometry().top() > editor()->geometry().bottom());
+        QVERIFY(table().viewport()->rect().contains(hint->geometry()));
+        QTest::keyClicks(editor(), QStringLiteral("x"));
+        QVERIFY(shownIn(*hint).contains(QStringLiteral("Only digits")));
+        QTest::keyClick(editor(), Qt::Key_Escape);
+        QTRY_VERIFY(table().findChildren<EntryHint *>().isEmpty());
+        go(1, column("name"));
+        key(Qt::Key_Return);
+        QVERIFY(!table().findChild<EntryHint *>());
+    }
+
+    void altReturnKeepsTheDuration()
+    {
+        const int row = rowNamed(QStringLiteral("Café du Port"));
+        const QString duration = text(row, "out");
+        QVERIFY(duration != QStringLiteral("00:00:00:00"));
+        table().setFocus();
+        go(row, column("in"));
+        // In the cell, by the menu while it is edited, and by the menu alone.
+        for (int way = 0; way < 3; ++way) {
+            const QString in = QStringLiteral("01:00:0%1;00").arg(4 + way);
+            if (way < 2)
+                key(Qt::Key_Return);
+            else
+                QVERIFY(trigger(*m_window, QStringLiteral("Move In, Keep Duration")));
+            QTest::keyClicks(editor(), in);
+            if (way == 0)
+                QTest::keyClick(editor(), Qt::Key_Return, Qt::AltModifier);
+            else if (way == 1)
+                QVERIFY(trigger(*m_window, QStringLiteral("Move In, Keep Duration")));
+            else
+                QTest::keyClick(editor(), Qt::Key_Return);
+            QTRY_VERIFY(!table().isEditing());
+            QCOMPARE(text(row, "in"), in);
+            QCOMPARE(text(row, "out"), duration);
+        }
+        Q_EMIT m_window->menusChanged(); // as an open menu sees it
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Move Marker")));
+        QCOMPARE(text(row, "in"), QStringLiteral("01:00:05;00"));
+        QCOMPARE(text(row, "out"), duration);
+        // Return alone moves the in point only.
+        key(Qt::Key_Return);
+        QTest::keyClicks(editor(), QStringLiteral("01:00:05;01"));
+        QTest::keyClick(editor(), Qt::Key_Return);
+        QTRY_VERIFY(!table().isEditing());
+        QVERIFY(text(row, "out") != duration);
+    }
+
+    void duplicatesAndAdds()
+    {
+        const int count = table().model()->rowCount();
+        select({1, 2});
+        QVERIFY(trigger(*m_window, QStringLiteral("Duplicate")));
+        QCOMPARE(table().model()->rowCount(), count + 2);
+        QCOMPARE(m_window->pane(Tab::Markers).selectedRows(),
+                 (std::vector<std::size_t>{std::size_t(count), std::size_t(count) + 1}));
+        QCOMPARE(text(count, "name"), text(1, "name"));
+        QCOMPARE(text(count + 1, "in"), text(2, "in"));
+
+        QVERIFY(trigger(*m_window, QStringLiteral("Add Marker…")));
+        QDialog *const sheet = visibleDialog();
+        QVERIFY(sheet);
+        const auto fields = sheet->findChildren<QLineEdit *>();
+        auto *const sequence = sheet->findChildren<QComboBox *>().constFirst();
+        sequence->setCurrentIndex(2); // Harbour Lights – Reel 1, from one hour
+        QCOMPARE(fields.at(0)->text(), QStringLiteral("01:00:00;00"));
+        QTest::keyClicks(fields.at(0), QStringLiteral("5."));
+        QTest::keyClicks(fields.at(1), QStringLiteral("1."));
+        QTest::keyClick(sheet, Qt::Key_Return);
+        QCOMPARE(table().model()->rowCount(), count + 3);
+        QCOMPARE(text(count + 2, "sequence"), sequence->itemText(2));
+        QCOMPARE(text(count + 2, "in"), QStringLiteral("01:00:05;00"));
+        QCOMPARE(text(count + 2, "out"), QStringLiteral("00:00:01;00"));
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Add Marker")));
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Duplicate Markers")));
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void pastesRowsOfASpreadsheet()
+    {
+        const int count = table().model()->rowCount();
+        QApplication::clipboard()->setText(QStringLiteral("00:00:01:00\tFix sky\tToo bright\tBlue\n"
+                                                          "00:00:02:05\tCar\tRemove it\tGreen\n"));
+        table().setFocus();
+        QVERIFY(trigger(*m_window, QStringLiteral("Paste")));
+        QTRY_VERIFY(visibleDialog() && visibleDialog()->inherits("vantrell::NotePreviewSheet"));
+        QDialog *const sheet = visibleDialog();
+        QSignalSpy imported(m_window, &DocumentWindow::markersImported);
+        QPushButton *add = nullptr;
+        for (QPushButton *const button : sheet->findChildren<QPushButton *>())
+            add = button->isDefault() ? button : add;
+        QTRY_VERIFY(add && add->isEnabled());
+        add->click();
+        QTRY_COMPARE(imported.size(), 1);
+        QCOMPARE(imported.at(0).at(0).toULongLong(), 2ULL);
+        QStringList cells;
+        for (const char *const column : {"name", "comment", "color"})
+            cells.append(text(count, column));
+        QCOMPARE(cells, QStringList({QStringLiteral("Fix sky"), QStringLiteral("Too bright"),
+                                     QStringLiteral("Blue")}));
+    }
+
+    void managesPresets()
+    {
+        const QString folder = QStringLiteral(".local/share/Orvandel/Halvex/Vantrell/Marker Presets/");
+        const QByteArray preset = PropertyList::toBytes(QVariantMap(), PropertyList::Format::Xml).value();
+        for (const char *const name : {"A", "B"})
+            m_home->addFile(folder + QString::fromLatin1(name) + QStringLiteral(".markerpreset"), preset);
+        m_window->workbench().markerPresets().refreshMarkerPresets();
+        QVERIFY(trigger(*m_window, QStringLiteral("Manage Marker Presets…")));
+        QDialog *const sheet = visibleDialog();
+        auto *const list = sheet->findChild<QListWidget *>();
+        const auto names = [list] {
+            QStringList all;
+            for (int i = 0; i < list->count(); ++i)
+                all.append(list->item(i)->text());
+            return all.join(QLatin1Char(' '));
+        };
+        const auto rename = [list](const QString &name) {
+            QTest::keyClick(list, Qt::Key_F2);
+            auto *const field = list->findChild<QLineEdit *>();
+            QTest::keyClicks(field, name);
+            QTest::keyClick(field, Qt::Key_Return);
+        };
+        QCOMPARE(names(), QStringLiteral("A B"));
+        list->setCurrentRow(0);
+        rename(QStringLiteral("B"));
+        const auto told = [sheet] {
+            for (const QLabel *const label : sheet->findChildren<QLabel *>()) {
+                if (label->isVisible())
+                    return label->text();
+            }
+            return QString();
+        };
+        QTRY_VERIFY(told().contains(QStringLiteral("already")));
+        QCOMPARE(names(), QStringLiteral("A B"));
+        rename(QStringLiteral("C"));
+        QTRY_COMPARE(names(), QStringLiteral("B C"));
+        QVERIFY(told().isEmpty());
+        QCOMPARE(list->currentItem()->text(), QStringLiteral("C"));
+        pressLater(QStringLiteral("Delete"));
+        for (QPushButton *const button : sheet->findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Delete…"))
+                button->click();
+        }
+        QTRY_COMPARE(names(), QStringLiteral("B"));
+        QVERIFY(!QFile::exists(m_home->path(folder + QStringLiteral("C.markerpreset"))));
+        sheet->reject();
+    }
+
+    void switchesAllSelectedEffects()
+    {
+        m_window->toolbarEffects();
+        TabPane &effects = m_window->pane(Tab::Effects);
+        effects.selectRows({0, 1, 2});
+        const QModelIndex first =
+            effects.model().index(0, effects.model().columnOf(QStringLiteral("enabled")));
+        const bool wasOn = first.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        effects.table().selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        effects.table().setFocus();
+        QTest::keyClick(&effects.table(), Qt::Key_Space);
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(first.siblingAtRow(row).data(Qt::CheckStateRole).toInt() == Qt::Checked, !wasOn);
+        QCOMPARE(effects.selectedRows().size(), std::size_t(3));
+        QVERIFY(trigger(*m_window, wasOn ? QStringLiteral("Undo Switch Off Effects")
+                                         : QStringLiteral("Undo Switch On Effects")));
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+private:
+    void showTab(Tab tab)
+    {
+        if (tab == Tab::Media)
+            m_window->toolbarMedia();
+        else if (tab == Tab::Effects)
+            m_window->toolbarEffects();
+        else
+            m_window->toolbarMarkers();
+    }
+    QVTableView &table() const { return m_window->currentPane().table(); }
+    void select(const std::vector<std::size_t> &rows) { m_window->pane(Tab::Markers).selectRows(rows); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&table(), key, modifiers);
+    }
+    void go(int row, int column)
+    {
+        table().setCurrentIndex(table().model()->index(row, column));
+        QCOMPARE(m_window->pane(Tab::Markers).selectedRows(), std::vector<std::size_t>{std::size_t(row)});
+    }
+    /// Column and row of the current cell.
+    QPoint where() const { return {table().currentIndex().column(), table().currentIndex().row()}; }
+    int column(const char *identifier) const
+    {
+        return m_window->pane(Tab::Markers).model().columnOf(QString::fromLatin1(identifier));
+    }
+    QString text(int row, const char *identifier) const
+    {
+        const TableModel &model = m_window->pane(Tab::Markers).model();
+        return model.cellText(model.index(row, column(identifier)));
+    }
+    int rowNamed(const QString &name) const
+    {
+        return int(columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).indexOf(name));
+    }
+    QLineEdit *editor() const
+    {
+        for (QLineEdit *const field : table().viewport()->findChildren<QLineEdit *>()) {
+            if (field->isVisible())
+                return field;
+        }
+        return nullptr;
+    }
+    static QString shownIn(const QWidget &hint) { return hint.findChildren<QLabel *>().constLast()->text(); }
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<AppController> m_controller;
+    DocumentWindow *m_window = nullptr;
+};
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    KeyboardTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_keyboard.moc"
