@@ -109,7 +109,6 @@ private:
     void updateTitles();
     void windowClosed();
     void closeNextWindow();
-    void stayOpen();
     void gatherLogsInto(const QString &folder);
     QString startFolder() const;
 
@@ -122,7 +121,8 @@ private:
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;
     QPointer<QVFCPProjectLoader> m_projectLoader;
-    bool m_quitting = false;
+    enum class Quitting { No, Asking, Closing };
+    Quitting m_quitting = Quitting::No;
     std::unique_ptr<QuitSequence> m_quit;
 };
 
