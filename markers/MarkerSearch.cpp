@@ -21,10 +21,25 @@ RowView::Filter markerColorFilter(const ViewState &state)
     return filter;
 }
 
+namespace
+{
+
+/// Whether all markers that fulfil the conditions fulfil the others, too.
+bool isNarrower(const MarkerSearch::Conditions &conditions, const MarkerSearch::Conditions &others)
+{
+    return RowSearch::folded(conditions.text).contains(RowSearch::folded(others.text)) &&
+           (!others.sequence || others.sequence == conditions.sequence) &&
+           (!others.flag || others.flag == conditions.flag);
+}
+
+} // namespace
+
 struct MarkerSearch::State {
     Conditions conditions;
     XmlNode sequence; ///< that of the conditions
     RowSearch search{appendMarkerTexts};
+    /// No row that is hidden has come to fulfil the conditions since they were set.
+    bool areKnown = false;
 
     /// Empty when all markers pass.
     std::function<bool(const RowRecord &)> condition() const
@@ -84,8 +99,7 @@ void MarkerSearch::setConditions(const Conditions &conditions)
 {
     if (conditions == m_state->conditions)
         return;
-    const bool hadNone = m_state->conditions.isEmpty();
-    m_state->conditions = conditions;
+    const Conditions before = std::exchange(m_state->conditions, conditions);
     m_state->search.setText(conditions.text);
     const MenuPtr menu = m_document.sequenceMenu();
     const auto item = std::size_t(conditions.sequence.value_or(0));
@@ -95,12 +109,15 @@ void MarkerSearch::setConditions(const Conditions &conditions)
     if (!view.isVisible() || view.isPopulating())
         return; // showing the tab, or the end of the inventory, applies them
     prepareAll();
+    const bool narrows = std::exchange(m_state->areKnown, true) && isNarrower(conditions, before);
     view.showWaitingRows();
-    if (!m_base)
-        m_base = hadNone ? view.visibleRows() : unsearchedRows();
+    if (!m_base && before.isEmpty())
+        m_base = view.visibleRows();
+    else if (!m_base && !narrows) // otherwise they need not be sorted yet
+        m_base = unsearchedRows();
     RowList rows;
     if (const auto passes = m_state->condition()) {
-        for (const RowRecordPtr &row : *m_base) {
+        for (const RowRecordPtr &row : m_base ? *m_base : view.visibleRows()) {
             if (passes(*row))
                 rows.push_back(row);
         }
@@ -142,6 +159,7 @@ bool MarkerSearch::prepare(std::chrono::milliseconds time)
 void MarkerSearch::forget()
 {
     m_state->search.forget();
+    m_state->areKnown = false;
     m_base.reset();
 }
 

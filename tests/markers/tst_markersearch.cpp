@@ -129,6 +129,12 @@ private Q_SLOTS:
         QCOMPARE(
             p.shown(MarkerSearch::Conditions{.text = QStringLiteral("reel"), .flag = MarkerFlag::Chapter}),
             QStringLiteral("db"));
+        p.document.rowView(Tab::Markers).sortBy({{QStringLiteral("name"), true}});
+        QCOMPARE(p.shown(), QStringLiteral("db"));
+        QCOMPARE(
+            p.shown(MarkerSearch::Conditions{.text = QStringLiteral("reel "), .flag = MarkerFlag::Chapter}),
+            QString());
+        p.document.rowView(Tab::Markers).sortBy({{QStringLiteral("in"), true}});
         QCOMPARE(p.shown("ree"), QStringLiteral("dacb"));
         QCOMPARE(p.shown(""), QStringLiteral("dacbef"));
         QVERIFY(p.document.rowView(Tab::Markers).order() == RowView::Order::Sorted);
