@@ -10,6 +10,7 @@
 #include "app/Troubleshooting.h"
 #include "app/UserManual.h"
 #include "app/WebPages.h"
+#include "app/WindowTitles.h"
 #include "bridge/QVAppleEvents.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
 #include "document/widgets/DocumentWindow.h"
@@ -60,14 +61,6 @@ QString absolutePath(const QString &path)
     const bool goesUp = file.filePath().contains(QStringLiteral("/../"));
     const QString folder = goesUp ? QFileInfo(file.path()).canonicalFilePath() : QString();
     return folder.isEmpty() ? QDir::cleanPath(file.filePath()) : QDir(folder).filePath(file.fileName());
-}
-
-void bringToFront(QWidget &window)
-{
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
 }
 
 /// The window of the file at that path; null without one, or when a volume does not answer.
@@ -133,6 +126,14 @@ AppController::~AppController()
     for (const QPointer<DocumentWindow> &window : m_windows)
         delete window;
     QVAlert::setPresenter(nullptr);
+}
+
+void AppController::bringToFront(QWidget &window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 void AppController::applicationDidFinishLaunching()
@@ -273,6 +274,7 @@ DocumentWindow *AppController::makeWindow()
         if (m_quitting == Quitting::Closing) // before that the window is asked about again
             m_quitting = Quitting::No;
     });
+    connect(window, &QWidget::windowTitleChanged, this, &AppController::updateTitles);
     window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
     window->setOtherWindows([this, window] { return windowsBeside(*window); });
     cascade(*window);
@@ -318,23 +320,50 @@ std::vector<DocumentWindow *> AppController::windowsBeside(const DocumentWindow 
     return others;
 }
 
-/// Moves the window diagonally until it covers no other one exactly.
+/// Gives each window the folder that tells its file from another one's of the same name.
+void AppController::updateTitles()
+{
+    const std::vector<DocumentWindow *> windows = documentWindows();
+    QStringList paths;
+    for (const DocumentWindow *const window : windows)
+        paths.append(window->path());
+    const QStringList folders = foldersThatTellApart(paths);
+    for (std::size_t i = 0; i < windows.size(); ++i)
+        windows[i]->setTitleFolder(folders.value(qsizetype(i)));
+}
+
+/// Places the window diagonally below the current one, where it covers none exactly, and makes it fit on the
+/// screen.
 void AppController::cascade(DocumentWindow &window) const
 {
-    if (window.isMaximized() || window.isFullScreen())
+    std::vector<const DocumentWindow *> others;
+    for (const DocumentWindow *const other : documentWindows()) {
+        if (other != &window && other->isVisible() && !other->isMinimized())
+            others.push_back(other);
+    }
+    if (others.empty() || window.isMaximized() || window.isFullScreen())
         return;
-    const auto isTaken = [this, &window] {
-        const auto windows = documentWindows();
-        return std::any_of(windows.begin(), windows.end(), [&window](const DocumentWindow *other) {
-            return other != &window && other->isVisible() && other->pos() == window.pos();
+    const DocumentWindow *const active = qobject_cast<DocumentWindow *>(QApplication::activeWindow());
+    const bool hasActive = std::find(others.begin(), others.end(), active) != others.end();
+    const DocumentWindow &before = hasActive ? *active : *others.back();
+    const QRect screen = before.screen()->availableGeometry();
+    const QSize frame = before.frameGeometry().size() - before.size();
+    // The frame of a window takes a moment to appear, so places are compared roughly.
+    const auto isTaken = [&others](QPoint place) {
+        return std::any_of(others.begin(), others.end(), [place](const DocumentWindow *other) {
+            return (other->pos() - place).manhattanLength() < cascadeStep;
         });
     };
-    const QRect screen = window.screen()->availableGeometry();
-    const QPoint corner = screen.topLeft();
-    for (std::size_t i = 0; i < m_windows.size() && isTaken(); ++i) {
-        const QPoint next = window.pos() + QPoint(cascadeStep, cascadeStep);
-        window.move(screen.contains(QRect(next, window.size())) ? next : corner);
+    QPoint place = before.pos();
+    for (std::size_t tries = 0; tries <= 2 * others.size() + 2 && isTaken(place); ++tries) {
+        place += QPoint(cascadeStep, cascadeStep);
+        // Down to a third of the screen, then from its corner again.
+        if (place.x() > screen.x() + screen.width() / 3 || place.y() > screen.y() + screen.height() / 3)
+            place = screen.topLeft();
     }
+    window.resize(
+        window.size().boundedTo(QSize(screen.right() - place.x(), screen.bottom() - place.y()) - frame));
+    window.move(place);
 }
 
 std::vector<DocumentWindow *> AppController::documentWindows() const
@@ -359,6 +388,7 @@ DocumentWindow *AppController::currentWindow() const
 void AppController::windowClosed()
 {
     std::erase_if(m_windows, [](const QPointer<DocumentWindow> &window) { return !window; });
+    updateTitles();
     if (m_quitting == Quitting::Closing)
         closeNextWindow();
     else if (m_quitting == Quitting::Asking)

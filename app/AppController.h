@@ -65,6 +65,8 @@ public:
     StartWindow &startWindow() const { return *m_startWindow; }
     Recovery &recovery() const { return *m_recovery; }
     RecentFiles &recentFiles() const { return *m_recentFiles; }
+    /// Shows the window above all others, ready for the keyboard.
+    static void bringToFront(QWidget &window);
     /// Knows whether Final Cut Pro is running.
     ApplicationWatch &finalCutPro() const { return *m_finalCutPro; }
     /// Whether quality-control logging is enabled.
@@ -104,6 +106,7 @@ private:
     bool isOpenElsewhere(const QString &path, const DocumentWindow &window) const;
     std::vector<DocumentWindow *> windowsBeside(const DocumentWindow &window) const;
     void cascade(DocumentWindow &window) const;
+    void updateTitles();
     void windowClosed();
     void closeNextWindow();
     void gatherLogsInto(const QString &folder);

@@ -50,6 +50,7 @@ MainMenu::MainMenu(AppController &controller, QMainWindow &window, DocumentWindo
     makeEditMenu();
     makeViewMenu();
     makeMediaMenu();
+    makeWindowMenu();
     makeHelpMenu();
     connect(&m_controller.recentFiles(), &RecentFiles::changed, this, &MainMenu::fillRecentMenu);
     fillRecentMenu();
@@ -135,8 +136,14 @@ void MainMenu::makeEditMenu()
                       << add(menu, tr("Pa&ste"), QKeySequence::Paste, m_document, &DocumentWindow::paste)
                       << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
                              &DocumentWindow::selectAllRows);
-    m_documentActions << add(menu, tr("&Find Effects…"), QKeySequence::Find, m_document,
-                             &DocumentWindow::findEffects);
+    m_documentActions << add(menu, tr("F&ind"), QKeySequence::Find, m_document, &DocumentWindow::find)
+                      << add(menu, tr("&Go to Timecode…"), QKeySequence(Qt::CTRL | Qt::Key_G), m_document,
+                             &DocumentWindow::goToTimecode);
+    m_markerActions << add(menu, tr("&Next of Same Color"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down),
+                           m_document, &DocumentWindow::goToNextOfColor)
+                    << add(menu, tr("Pre&vious of Same Color"),
+                           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), m_document,
+                           &DocumentWindow::goToPreviousOfColor);
     menu->addSeparator();
     m_markerActions << add(menu, tr("Add &Marker…"), QKeySequence(Qt::CTRL | Qt::Key_M), m_document,
                            &DocumentWindow::showMarkerAddDialog)
@@ -187,6 +194,40 @@ void MainMenu::makeMediaMenu()
     m_documentActions << m_mediaUses;
     if (m_document)
         connect(m_mediaUses, &QAction::triggered, m_document, &DocumentWindow::showMediaUses);
+}
+
+void MainMenu::makeWindowMenu()
+{
+    m_windowMenu = addMenu(tr("&Window"));
+    add(m_windowMenu, tr("&Minimize"), QKeySequence(), &m_window,
+        &QWidget::showMinimized);
+    m_windowMenu->addSeparator();
+    connect(m_windowMenu, &QMenu::aboutToShow, this, &MainMenu::fillWindowMenu);
+    fillWindowMenu();
+}
+
+/// Lists the projects in the order in which they were opened; the window's own is checked.
+void MainMenu::fillWindowMenu()
+{
+    qDeleteAll(m_windowItems);
+    m_windowItems.clear();
+    for (DocumentWindow *const window : m_controller.documentWindows()) {
+        const qsizetype number = m_windowItems.size() + 1;
+        QString title = window->title();
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        constexpr qsizetype lastDigit = 9;
+        QAction *const action =
+            m_windowMenu->addAction(number <= lastDigit ? tr("&%1 %2").arg(number).arg(title) : title);
+        action->setToolTip(window->path());
+        action->setCheckable(true);
+        action->setChecked(window == m_document);
+        connect(action, &QAction::triggered, window, [window] { AppController::bringToFront(*window); });
+        m_windowItems.append(action);
+    }
+    if (!m_windowItems.isEmpty())
+        return;
+    m_windowItems.append(m_windowMenu->addAction(tr("No Project Is Open")));
+    m_windowItems.first()->setEnabled(false);
 }
 
 void MainMenu::makeHelpMenu()
@@ -263,6 +304,8 @@ void MainMenu::validate()
     const bool showsPanes = m_document && m_document->state() != DocumentWindow::State::Failed;
     for (QAction *const action : m_documentActions)
         action->setEnabled(showsPanes);
+    for (QAction *const action : m_markerActions)
+        action->setEnabled(showsPanes && m_document->selectedTab() == Tab::Markers);
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_sortMenu->setEnabled(showsPanes);
     for (qsizetype i = 0; i < m_markerActions.size(); ++i)

@@ -30,6 +30,7 @@ private:
     void makeEditMenu();
     void makeViewMenu();
     void makeMediaMenu();
+    void makeWindowMenu();
     void makeHelpMenu();
     QMenu *addMenu(const QString &title);
     template <typename Receiver, typename Operation>
@@ -38,6 +39,7 @@ private:
 
     void fillRecentMenu();
     void fillSortMenu();
+    void fillWindowMenu();
     void validate();
     void validateUndo();
     void validateFileMenu();
@@ -53,6 +55,8 @@ private:
     QMenu *m_importMenu = nullptr;
     QMenu *m_exportMenu = nullptr;
     QMenu *m_sortMenu = nullptr;
+    QMenu *m_windowMenu = nullptr;
+    QList<QAction *> m_windowItems; // of the projects
     QAction *m_openFCPProject = nullptr;
     QAction *m_save = nullptr;
     QAction *m_saveAs = nullptr;
@@ -71,6 +75,7 @@ private:
     QList<QAction *> m_reportActions;   // print and export reports
     QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab
+    QList<QAction *> m_markerActions;   // need the Markers tab
     QList<QAction *> m_mediaActions;    // need a project that may be changed
 };
 

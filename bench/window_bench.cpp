@@ -16,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaEnum>
 #include <QScrollBar>
@@ -164,15 +165,20 @@ void measureTable(DocumentWindow &window, Tab tab)
             }
         }
     }
-    if (auto *const search = pane.findChild<QLineEdit *>()) {
-        for (const QString &text : {QStringLiteral("b"), QStringLiteral("blur"), QString()}) {
-            measure(QStringLiteral("search for \"%1\"").arg(text), window, [&] {
-                search->setText(text);
-                Q_EMIT search->textEdited(text);
-                Q_EMIT search->returnPressed();
-            });
-        }
-    }
+    const auto searchFor = [&](const char *text) {
+        measure(QStringLiteral("search for \"%1\"").arg(QLatin1String(text)), window, [&] {
+            auto *const field = pane.findChild<QLineEdit *>();
+            field->setText(QString::fromLatin1(text));
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier); // applies it at once
+            QCoreApplication::sendEvent(field, &key);
+        });
+    };
+    for (const char *const text : {"e", "ed", "e", "blur", "#", "", "a"})
+        searchFor(text);
+    measure(QStringLiteral("sort what was found"), window,
+            [&] { Q_EMIT pane.table().horizontalHeader()->sectionClicked(1); });
+    for (const char *const text : {"an", "a", ""})
+        searchFor(text);
 }
 
 void measureLoading(TimedApplication &application, AppController &controller, const QString &path)

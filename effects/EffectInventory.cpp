@@ -7,10 +7,12 @@
 #include "xml/QVXMLParser.h"
 #include "xml/XmlQuery.h"
 
+#include <QHash>
 #include <QSet>
 #include <QStringMatcher>
 
 #include <algorithm>
+#include <memory>
 
 namespace vantrell
 {
@@ -49,20 +51,44 @@ bool isDefaultEffect(const QString &name)
     return defaults.contains(name);
 }
 
+/// Whether the user wants to see effects of a name, found out once for each: most effects share theirs. On
+/// the thread of one rebuild.
+class NameChoice
+{
+public:
+    explicit NameChoice(const ViewState &state)
+        : m_search(state.effectSearch, Qt::CaseInsensitive)
+        , m_showsDefaults(state.effectShowDefaults)
+    {
+    }
+
+    bool takes(const QString &name)
+    {
+        if (name.isNull()) // such an effect passes every search
+            return true;
+        const auto known = m_known.constFind(name.constData());
+        return known != m_known.constEnd() ? *known : *m_known.insert(name.constData(), decide(name));
+    }
+
+private:
+    bool decide(const QString &name) const
+    {
+        if (!m_showsDefaults && isDefaultEffect(name))
+            return false;
+        return m_search.pattern().isEmpty() || m_search.indexIn(name) >= 0;
+    }
+
+    QStringMatcher m_search;
+    bool m_showsDefaults;
+    QHash<const QChar *, bool> m_known; // by the one copy of a name that the records hold
+};
+
 /// Whether an effect is one that the user wants to see, for any thread.
 std::function<bool(const RowRecord &)> chosen(const ViewState &state)
 {
-    const QStringMatcher search(state.effectSearch, Qt::CaseInsensitive);
-    return
-        [type = state.effectType, showsDefaults = state.effectShowDefaults, search](const RowRecord &effect) {
-            if (!passesType(effect, type))
-                return false;
-            const QString name = effect.get(EffectKey::name);
-            if (!showsDefaults && isDefaultEffect(name))
-                return false;
-            // An effect without a name passes every search.
-            return search.pattern().isEmpty() || name.isNull() || search.indexIn(name) >= 0;
-        };
+    return [type = state.effectType, names = std::make_shared<NameChoice>(state)](const RowRecord &effect) {
+        return passesType(effect, type) && names->takes(effect.get(EffectKey::name));
+    };
 }
 
 /// Each word's first letter as a capital, the rest small. Words are parted by white space alone:

@@ -49,27 +49,10 @@ WrittenNote noteOf(const RowRecord &marker)
 
 bool holds(const RowRecord &marker, const QString &search)
 {
-    const WrittenNote note = noteOf(marker);
-    const auto contains = [&search](const QString &text) {
-        return text.contains(search, Qt::CaseInsensitive);
-    };
-    return contains(note.name) || contains(note.comment) || contains(note.time) || contains(note.duration) ||
-           contains(note.sequence) || contains(note.clip) ||
-           std::any_of(note.fields.begin(), note.fields.end(),
-                       [&](const auto &field) { return contains(field.second); });
-}
-
-bool hasFlag(const RowRecord &marker, NoteExporter::Flag flag)
-{
-    switch (flag) {
-    case NoteExporter::Flag::Chapter:
-        return marker.get(MarkerKey::chapter) == 1;
-    case NoteExporter::Flag::Compression:
-        return marker.get(MarkerKey::compression) == 1;
-    case NoteExporter::Flag::Scoring:
-        break;
-    }
-    return marker.get(MarkerKey::scoring) == 1;
+    QStringList texts{MarkerTableValues::inText(marker), MarkerTableValues::outText(marker)};
+    appendMarkerTexts(marker, texts);
+    return std::any_of(texts.begin(), texts.end(),
+                       [&search](const QString &text) { return text.contains(search, Qt::CaseInsensitive); });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/notes/NoteWriter.h"
+#include "markers/MarkerConditions.h"
 #include "rows/RowRecord.h"
 
 #include <QString>
@@ -17,7 +18,7 @@ class MyDocument;
 class NoteExporter
 {
 public:
-    enum class Flag { Chapter, Compression, Scoring };
+    using Flag = MarkerFlag;
 
     /// Which markers are written; all conditions hold.
     struct Filter {

@@ -6,6 +6,7 @@
 #include "markers/MarkerFields.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOwners.h"
+#include "markers/MarkerSearch.h"
 #include "support/log/QVException.h"
 #include "support/log/QVLog.h"
 #include "xml/QVXMLParser.h"
@@ -90,14 +91,7 @@ MarkerInventory::MarkerInventory(MyDocument &document, MarkerFields &fields)
     , m_fields(fields)
 {
     m_document.rowView(Tab::Markers).setFilter(markerColumns, [this] {
-        RowView::Filter filter{.order = RowView::Order::Document};
-        if (const int item = m_document.viewState().markerFilter; item != 0) {
-            filter.passes = [item](const RowRecord &marker) {
-                return marker.get(MarkerKey::color) == item - 1;
-            };
-            filter.order = RowView::Order::Sorted;
-        }
-        return filter;
+        return markerColorFilter(m_document.viewState());
     });
 }
 

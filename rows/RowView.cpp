@@ -20,10 +20,21 @@ struct RowView::Snapshot {
 
     bool isWholeList() const { return !filter.passes && filter.order == Order::Document; }
 
-    void compute(const Columns &columns)
+    /// Takes the rows of the list that pass.
+    void pick(const RowList &list)
     {
-        if (filter.passes)
-            std::erase_if(rows, [this](const RowRecordPtr &row) { return !filter.passes(*row); });
+        if (!filter.passes) {
+            rows = list;
+            return;
+        }
+        for (const RowRecordPtr &row : list) {
+            if (filter.passes(*row))
+                rows.push_back(row);
+        }
+    }
+
+    void sort(const Columns &columns)
+    {
         if (filter.order == Order::Sorted)
             rows = sortedRows(std::move(rows), sortDescriptors, columns);
     }
@@ -161,10 +172,18 @@ void RowView::showWaitingRows()
 bool RowView::rebuild(MainThreadGate &mainThread, const std::function<bool()> &isWanted)
 {
     Snapshot taken;
-    if (!mainThread.runAndWait([&] { taken = snapshot(); }))
-        return false;
-    taken.compute(columns());
+    RowList list; // a copy, for another thread
     const bool isWorker = !MainThread::isMainThread();
+    if (!mainThread.runAndWait([&] {
+            taken = snapshot();
+            if (isWorker && !taken.isWholeList())
+                list = m_list;
+        }))
+        return false;
+    if (!taken.isWholeList()) {
+        taken.pick(isWorker ? list : m_list);
+        taken.sort(columns());
+    }
     return mainThread.runAndWait([&] {
         const bool isOutdated = taken.rebuild != m_rebuilds || (isWorker && !isWanted());
         if (!isOutdated)
@@ -179,8 +198,6 @@ RowView::Snapshot RowView::snapshot()
     if (m_makeFilter)
         taken.filter = m_makeFilter();
     taken.sortDescriptors = m_sortDescriptors;
-    if (!taken.isWholeList())
-        taken.rows = m_list;
     return taken;
 }
 

@@ -21,6 +21,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -452,11 +453,33 @@ void DocumentWindow::setFile(const QString &path, const QString &typeName)
     m_path = path;
     m_typeName = typeName;
     setWindowFilePath(path);
-    const QString name = QFileInfo(path).fileName();
+    updateTitle();
+}
+
+void DocumentWindow::setTitleFolder(const QString &folder)
+{
+    if (m_titleFolder == folder)
+        return;
+    m_titleFolder = folder;
+    updateTitle();
+}
+
+QString DocumentWindow::title() const
+{
+    const QString name = QFileInfo(m_path).fileName();
     // The file itself may be open in another window.
     const bool isFetched = m_typeName == DocumentType::finalCutProProject &&
-                           Workbench::typeNameForPath(path) != DocumentType::finalCutProProject;
-    setWindowTitle(isFetched ? tr("%1[*] in Final Cut Pro").arg(name) : name + QStringLiteral("[*]"));
+                           Workbench::typeNameForPath(m_path) != DocumentType::finalCutProProject;
+    const QString title = isFetched ? tr("%1 in Final Cut Pro").arg(name) : name;
+    return m_titleFolder.isEmpty() ? title : tr("%1 — %2", "file and folder").arg(title, m_titleFolder);
+}
+
+void DocumentWindow::updateTitle()
+{
+    const QString name = QFileInfo(m_path).fileName();
+    QString text = title();
+    text.insert(text.indexOf(name) + name.size(), QStringLiteral("[*]")); // a star when there are changes
+    setWindowTitle(tr("%1 — %2", "project and program").arg(text, QCoreApplication::applicationName()));
 }
 
 MyDocument *DocumentWindow::document() const
@@ -738,11 +761,31 @@ void DocumentWindow::selectAllRows()
     currentPane().table().selectAll();
 }
 
-void DocumentWindow::findEffects()
+void DocumentWindow::find()
 {
-    if (selectedTab() != Tab::Effects)
-        toolbarEffects();
-    static_cast<EffectsPane &>(pane(Tab::Effects)).focusSearch();
+    currentPane().focusSearch();
+}
+
+MarkersPane &DocumentWindow::showMarkers()
+{
+    if (selectedTab() != Tab::Markers)
+        toolbarMarkers();
+    return static_cast<MarkersPane &>(pane(Tab::Markers));
+}
+
+void DocumentWindow::goToTimecode()
+{
+    showMarkers().showGoToTimecode();
+}
+
+void DocumentWindow::goToNextOfColor()
+{
+    showMarkers().goToNextOfColor();
+}
+
+void DocumentWindow::goToPreviousOfColor()
+{
+    showMarkers().goToPreviousOfColor();
 }
 
 void DocumentWindow::removeSelection()

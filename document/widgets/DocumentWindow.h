@@ -36,6 +36,7 @@ namespace vantrell
 class AlertParent;
 class DocumentWindowInterface;
 class MyDocument;
+class MarkersPane;
 class PrintOperation;
 
 class TabPane;
@@ -92,6 +93,11 @@ public:
     /// The identifiers of all toolbar items, in toolbar order, and that of the current pane's item.
     QStringList toolbarSelectableItemIdentifiers() const;
     QString selectedToolbarItemIdentifier() const { return m_selectedToolbarItemIdentifier; }
+
+    /// What the window is called where all windows are listed: its file, and the folder if that is needed.
+    QString title() const;
+    /// The folder that tells the file from that of another window; empty for none.
+    void setTitleFolder(const QString &folder);
 
     /// What the window says about its file: why it could not be loaded, or that it had to be repaired.
     QString message() const;
@@ -219,8 +225,13 @@ public Q_SLOTS:
     // For the Markers tab; nothing on the others
     void duplicateSelection();
     void moveInPoint();
-    /// Shows the effects with the keyboard focus in their search field.
-    void findEffects();
+    /// Moves the keyboard focus into its search field.
+    void find();
+
+    /// Each shows the markers.
+    void goToTimecode();
+    void goToNextOfColor();
+    void goToPreviousOfColor();
 
 public:
     /// Prints the shared web view's page with these settings (see PrintInfo), or as changed in the print
@@ -318,6 +329,8 @@ private:
     void workEnded(WindowState::Next next);
     void cancelProgress();
     void updateOwnersNotice();
+    void updateTitle();
+    MarkersPane &showMarkers();
     void applyOwnerListing();
     void showPane(Tab tab);
     void restore(bool (MyDocument::*step)());
@@ -326,6 +339,7 @@ private:
     UserDefaults &m_defaults;
     QString m_path;
     QString m_typeName;
+    QString m_titleFolder;
 
     WindowState m_state;
     WindowWork m_work{m_state, this};

@@ -2,6 +2,7 @@
 
 #include "effects/EffectKeys.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/SearchBar.h"
 #include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
@@ -14,18 +15,14 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
-#include <QTimer>
 
 namespace vantrell
 {
-
-constexpr int searchDelay = 120; // milliseconds after the last key
 
 EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new EffectTableModel(workbench.document()), parent)
     , m_types(new QComboBox(this))
     , m_showDefaults(new QCheckBox(tr("Show &defaults"), this))
-    , m_search(new QLineEdit(this))
     , m_remove(new QPushButton(tr("&Remove…"), this))
 {
     m_types->addItems({tr("All Effects"), tr("Filters"), tr("Video Filters"), tr("Audio Filters"),
@@ -34,14 +31,11 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     m_types->setToolTip(tr("Show effects of one type only"));
     m_showDefaults->setToolTip(
         tr("Also show the effects that every clip has, such as Basic Motion and Opacity"));
-    m_search->setPlaceholderText(tr("Search"));
-    m_search->setClearButtonEnabled(true);
-    m_search->setAccessibleName(tr("Search by name"));
-    m_search->setToolTip(tr("Show only effects whose name contains this text"));
-    m_search->setAcceptDrops(false); // a file that is dropped there is opened
-    m_search->setMinimumWidth(fontMetrics().averageCharWidth() * 28);
     m_remove->setToolTip(tr("Remove the selected effects from the project"));
-    addControls({m_types, m_showDefaults, m_search, m_remove});
+    addControls({m_types, m_showDefaults, nullptr, m_remove});
+    QLineEdit &field = addSearchBar().field();
+    field.setAccessibleName(tr("Search by name"));
+    field.setToolTip(tr("Show only effects whose name contains this text"));
     footer().addWidget(makeLabel(Label::EffectStatus, this));
     auto *const deleteKey =
         new QLabel(tr("The Delete key takes rows off this list only, until it is filtered "
@@ -51,12 +45,6 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     deleteKey->setForegroundRole(QPalette::PlaceholderText);
     footer().addWidget(deleteKey);
 
-    auto *delay = new QTimer(this);
-    delay->setSingleShot(true);
-    delay->setInterval(searchDelay);
-    connect(m_search, &QLineEdit::textChanged, delay, qOverload<>(&QTimer::start));
-    connect(delay, &QTimer::timeout, this, &EffectsPane::applyFilters);
-    connect(m_search, &QLineEdit::returnPressed, this, &EffectsPane::applyFilters);
     connect(m_types, &QComboBox::activated, this, &EffectsPane::applyFilters);
     connect(m_showDefaults, &QCheckBox::toggled, this, &EffectsPane::applyFilters);
     connect(m_remove, &QPushButton::clicked, this, &EffectsPane::removeEffects);
@@ -88,8 +76,8 @@ void EffectsPane::applyFilters()
     ViewState &state = workbench().document().viewState();
     state.effectType = m_types->currentIndex();
     state.effectShowDefaults = m_showDefaults->isChecked();
-    const bool isSearch = state.effectSearch != m_search->text();
-    state.effectSearch = m_search->text();
+    const bool isSearch = state.effectSearch != searchBar().text();
+    state.effectSearch = searchBar().text();
     if (state.selectedTab != Tab::Effects)
         return; // showing the tab applies them
     if (isSearch)
@@ -108,10 +96,9 @@ void EffectsPane::removeEffects()
     selectRows(rows);
 }
 
-void EffectsPane::focusSearch()
+QString EffectsPane::countText(const QString &number, std::size_t count) const
 {
-    m_search->setFocus(Qt::ShortcutFocusReason);
-    m_search->selectAll();
+    return count == 1 ? tr("%1 effect").arg(number) : tr("%1 effects").arg(number);
 }
 
 void EffectsPane::commitEdit(int, const QString &column, const QString &text)
@@ -139,9 +126,9 @@ QString EffectsPane::loadingText(std::size_t found) const
 
 QString EffectsPane::filteredText() const
 {
-    return m_search->text().isEmpty()
+    return searchBar().text().isEmpty()
                ? tr("No effect is of this type.")
-               : tr("No effect of this type has a name with “%1”.").arg(m_search->text());
+               : tr("No effect of this type has a name with “%1”.").arg(searchBar().text());
 }
 
 EffectTableModel::EffectTableModel(MyDocument &document, QObject *parent)

@@ -5,7 +5,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QLineEdit;
 
 namespace vantrell
 {
@@ -23,11 +22,12 @@ public:
 public Q_SLOTS:
     /// Removes the selected effects after a question.
     void removeEffects();
-    void focusSearch();
 
 protected:
     void commitEdit(int row, const QString &column, const QString &text) override;
     void updateControls() override;
+    void search() override { applyFilters(); }
+    QString countText(const QString &number, std::size_t count) const override;
     QString loadingText(std::size_t found) const override;
     QString emptyText() const override { return tr("This project has no effects."); }
     QString filteredText() const override;
@@ -37,7 +37,6 @@ private:
 
     QComboBox *m_types;
     QCheckBox *m_showDefaults;
-    QLineEdit *m_search;
     QPushButton *m_remove;
 };
 

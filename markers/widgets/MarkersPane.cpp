@@ -2,6 +2,8 @@
 
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOffset.h"
+#include "markers/MarkerTotals.h"
+#include "markers/widgets/GoToTimecodeSheet.h"
 #include "markers/widgets/MarkerAddSheet.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
@@ -13,6 +15,7 @@
 #include "support/settings/UserDefaults.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/SearchBar.h"
 #include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
@@ -20,17 +23,21 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 
 #include <algorithm>
+#include <chrono>
 
 namespace vantrell
 {
 
 namespace
 {
+
+constexpr std::chrono::milliseconds prepareTime{4};
 
 /// A sheet that was closed stays until events are dispatched.
 bool isOpen(const QDialog *sheet)
@@ -43,7 +50,10 @@ bool isOpen(const QDialog *sheet)
 MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
     : TabPane(workbench, defaults, new MarkerTableModel(workbench.document()), parent)
     , m_defaults(defaults)
+    , m_markerSearch(workbench.document())
     , m_filter(new ControlPopUp(this))
+    , m_sequences(new ControlPopUp(this))
+    , m_flags(new ControlPopUp(this))
     , m_add(new QPushButton(tr("&Add"), this))
     , m_addAt(new QPushButton(tr("A&dd…"), this))
     , m_remove(new QPushButton(tr("&Remove…"), this))
@@ -75,6 +85,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         button->setMinimumWidth(
             std::min(button->sizeHint().width(),
                      fontMetrics().horizontalAdvance(button->text()) + 2 * fontMetrics().averageCharWidth()));
+    makeSearch();
     m_ownOwners->setToolTip(
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
            "position in different bins share one name, and so do the clips of a track"));
@@ -121,6 +132,110 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     connect(m_fields, &QPushButton::clicked, this, &MarkersPane::showMarkerFieldsDialog);
     auto *const presetFiles = new FolderWatcher(MarkerPresets::folder(), this);
     connect(presetFiles, &FolderWatcher::changed, presets, &MarkerPresets::refreshMarkerPresets);
+}
+
+void MarkersPane::makeSearch()
+{
+    SearchBar &bar = addSearchBar();
+    bar.field().setAccessibleName(tr("Search the markers"));
+    bar.field().setToolTip(
+        tr("Show only markers with this text in their name, comment, custom fields, sequence or clip"));
+    m_sequences->setAccessibleName(tr("Sequence of markers"));
+    m_sequences->setToolTip(tr("Show markers of one sequence only"));
+    m_flags->addItems({tr("All Flags"), tr("Chapter"), tr("Compression"), tr("Scoring")});
+    m_flags->setAccessibleName(tr("Flag of markers"));
+    m_flags->setToolTip(tr("Show only markers with this flag"));
+    bar.addPopUp(m_sequences);
+    bar.addPopUp(m_flags);
+    fillSequences();
+    connect(&workbench().document(), &MyDocument::sequenceMenuChanged, this, &MarkersPane::fillSequences);
+}
+
+void MarkersPane::fillSequences()
+{
+    const MenuPtr menu = workbench().document().sequenceMenu();
+    m_sequences->clear();
+    m_sequences->addItem(tr("All Sequences"));
+    for (std::size_t item = 1; item < menu->size(); ++item)
+        m_sequences->addItem((*menu)[item].title);
+    m_sequences->setEnabled(menu->size() > 1);
+}
+
+void MarkersPane::search()
+{
+    MarkerSearch::Conditions conditions{.text = searchBar().text()};
+    if (m_sequences->currentIndex() > 0)
+        conditions.sequence = m_sequences->currentIndex();
+    if (m_flags->currentIndex() > 0)
+        conditions.flag = MarkerFlag(m_flags->currentIndex() - 1);
+    m_markerSearch.setConditions(conditions);
+}
+
+bool MarkersPane::prepareSearch()
+{
+    return m_markerSearch.prepare(prepareTime);
+}
+
+QString MarkersPane::countText(const QString &number, std::size_t count) const
+{
+    return count == 1 ? tr("%1 marker").arg(number) : tr("%1 markers").arg(number);
+}
+
+QString MarkersPane::totalText(const RowList &rows) const
+{
+    return totalDurationText(rows);
+}
+
+void MarkersPane::goToRow(std::size_t row)
+{
+    selectRows({row});
+    scrollToRow(row);
+    table().setFocus();
+}
+
+void MarkersPane::showGoToTimecode()
+{
+    table().commitEditing();
+    const RowList &rows = model().view().visibleRows();
+    if (rows.empty()) {
+        showMessage(tr("There is no marker to go to"));
+        return;
+    }
+    const auto inSequence = std::find_if(
+        rows.begin(), rows.end(), [](const RowRecordPtr &row) { return row->contains(MarkerKey::sequence); });
+    const int current = table().currentIndex().row();
+    const bool hasCurrent = current >= 0 && current < int(rows.size());
+    auto *const sheet = new GoToTimecodeSheet(rows,
+                                              hasCurrent                 ? rows[std::size_t(current)]
+                                              : inSequence != rows.end() ? *inSequence
+                                                                         : rows.front(),
+                                              this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        const RowList &shown = model().view().visibleRows();
+        const auto found = std::find(shown.begin(), shown.end(), sheet->marker());
+        if (found != shown.end())
+            goToRow(std::size_t(found - shown.begin()));
+    });
+    sheet->open();
+}
+
+void MarkersPane::goToOfColor(MarkerNavigation::Direction direction)
+{
+    table().commitEditing();
+    const int current = table().currentIndex().row();
+    if (current < 0) {
+        showMessage(tr("Select a marker first"));
+        return;
+    }
+    const std::optional<std::size_t> row =
+        MarkerNavigation::nextOfColor(model().view().visibleRows(), std::size_t(current), direction);
+    if (row)
+        goToRow(*row);
+    else if (direction == MarkerNavigation::Direction::Down)
+        showMessage(tr("No further marker of this color below"));
+    else
+        showMessage(tr("No further marker of this color above"));
 }
 
 MarkersPane::~MarkersPane()
@@ -386,7 +501,7 @@ QString MarkersPane::emptyText() const
 
 QString MarkersPane::filteredText() const
 {
-    return tr("No marker has this color.");
+    return searchBar().isNarrowing() ? tr("No marker matches the search.") : tr("No marker has this color.");
 }
 
 } // namespace vantrell

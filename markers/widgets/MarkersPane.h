@@ -1,5 +1,7 @@
 #pragma once
 
+#include "markers/MarkerNavigation.h"
+#include "markers/MarkerSearch.h"
 #include "table/widgets/TabPane.h"
 
 #include <QPointer>
@@ -46,6 +48,11 @@ public Q_SLOTS:
     /// Opens the sheet that renames and deletes presets.
     void showMarkerPresetsDialog();
     void editCurrentCell();
+    /// Opens the sheet that asks for a timecode, and goes to the nearest marker on show.
+    void showGoToTimecode();
+    /// Go to the next marker of the current one's colour, below or above it.
+    void goToNextOfColor() { goToOfColor(MarkerNavigation::Direction::Down); }
+    void goToPreviousOfColor() { goToOfColor(MarkerNavigation::Direction::Up); }
 
 protected:
     void commitEdit(int row, const QString &column, const QString &text) override;
@@ -53,6 +60,11 @@ protected:
     void columnMoved(const QString &identifier, int index) override;
     void setMessage(const QString &text) override;
     void updateControls() override;
+    void search() override;
+    bool prepareSearch() override;
+    void endSearch() override { m_markerSearch.forget(); }
+    QString countText(const QString &number, std::size_t count) const override;
+    QString totalText(const RowList &rows) const override;
     QString loadingText(std::size_t found) const override;
     QString emptyText() const override;
     QString filteredText() const override;
@@ -60,13 +72,20 @@ protected:
 private:
     MarkerTableModel &markerModel() const;
     void makeMenus();
+    void makeSearch();
+    void fillSequences();
+    void goToRow(std::size_t row);
+    void goToOfColor(MarkerNavigation::Direction direction);
     void setMarkerLabels(const QStringList &labels);
     void selectAdded(const RowList &added);
     void openPresetSheet();
     void closePresetSheet();
 
     UserDefaults &m_defaults;
+    MarkerSearch m_markerSearch;
     QComboBox *m_filter;
+    QComboBox *m_sequences;
+    QComboBox *m_flags;
     QPushButton *m_add;
     QPushButton *m_addAt;
     QPushButton *m_remove;

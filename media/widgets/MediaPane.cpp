@@ -8,6 +8,7 @@
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/SearchBar.h"
 #include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
@@ -17,11 +18,14 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 
+#include <chrono>
+#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -31,6 +35,7 @@ namespace vantrell
 namespace
 {
 
+constexpr std::chrono::milliseconds prepareTime{4};
 const QString useColumnsKey = QStringLiteral("mediaUseColumns");
 
 } // namespace
@@ -44,10 +49,13 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     , m_exportList(new QPushButton(tr("E&xport List…"), this))
     , m_chart(new QVGraphView(this))
     , m_defaults(defaults)
+    , m_mediaSearch(workbench.document(), workbench.mediaFilter(), m_uses)
+    , m_states(new QComboBox(this))
     , m_useColumns(mediaUseColumns(m_uses))
 {
     workbench.mediaFilter().setAdditionalColumns(m_useColumns);
     makeControls();
+    makeSearch();
     makeFooter();
     table().setAccessibleName(tr("Media files"));
     connect(&workbench.mediaFilter(), &MediaFilter::chartChanged, this, &MediaPane::setMediaChart);
@@ -98,6 +106,44 @@ void MediaPane::makeControls()
     connect(m_reveal, &QPushButton::clicked, this, &MediaPane::revealMediaInFinder);
     connect(m_relink, &QPushButton::clicked, this, [this] { Q_EMIT relinkRequested(QString()); });
     connect(m_exportList, &QPushButton::clicked, this, &MediaPane::exportListRequested);
+}
+
+void MediaPane::makeSearch()
+{
+    SearchBar &bar = addSearchBar();
+    bar.field().setAccessibleName(tr("Search the media files"));
+    bar.field().setToolTip(tr("Show only files with this text in their name or folder"));
+    m_states->addItems({tr("Any State"), tr("Missing"), tr("Unused"), tr("Unknown Kind")});
+    m_states->setAccessibleName(tr("State of files"));
+    m_states->setToolTip(
+        tr("Show only files that are missing, that no sequence uses, or of an unknown kind"));
+    bar.addPopUp(m_states);
+}
+
+void MediaPane::search()
+{
+    m_mediaSearch.setConditions(
+        {.text = searchBar().text(), .state = MediaSearch::State(m_states->currentIndex())});
+    updateUses();
+}
+
+bool MediaPane::prepareSearch()
+{
+    return m_mediaSearch.prepare(prepareTime);
+}
+
+QString MediaPane::countText(const QString &number, std::size_t count) const
+{
+    return count == 1 ? tr("%1 file").arg(number) : tr("%1 files").arg(number);
+}
+
+/// Of those that are there.
+QString MediaPane::totalText(const RowList &rows) const
+{
+    double bytes = 0;
+    for (const RowRecordPtr &row : rows)
+        bytes += double(std::uint64_t(row->get(MediaKey::filesize)));
+    return bytes > 0 ? MediaFile::formatFileSize(bytes) : QString();
 }
 
 void MediaPane::makeFooter()
@@ -218,11 +264,12 @@ void MediaPane::restoreUseColumns()
     updateUses();
 }
 
-/// Reads them in the background when they are shown and not known of all files.
+/// Reads them in the background when they are shown or searched and not known of all files.
 void MediaPane::updateUses()
 {
     MyDocument &document = workbench().document();
-    if (!showsUses() || m_readsUses || !document.xmlDoc() || document.isPopulating(Tab::Media) ||
+    const bool areWanted = showsUses() || m_mediaSearch.conditions().state == MediaSearch::State::Unused;
+    if (!areWanted || m_readsUses || !document.xmlDoc() || document.isPopulating(Tab::Media) ||
         document.isPopulating(Tab::Effects) || document.isPopulating(Tab::Markers) ||
         m_uses->holds(document.mediaArray()))
         return;
@@ -235,6 +282,7 @@ void MediaPane::updateUses()
             if (!pane)
                 return;
             pane->m_readsUses = false;
+            pane->m_mediaSearch.forget();
             MyDocument &shown = pane->workbench().document();
             if (shown.isSelected(Tab::Media))
                 pane->workbench().mediaFilter().populateFilteredMediaData(); // they may be sorted by the uses
@@ -295,7 +343,10 @@ QString MediaPane::emptyText() const
 
 QString MediaPane::filteredText() const
 {
-    return tr("No media file is of this kind and on this drive.");
+    if (m_readsUses && m_mediaSearch.conditions().state == MediaSearch::State::Unused)
+        return tr("Looking for what the sequences use…");
+    return searchBar().isNarrowing() ? tr("No media file matches the search.")
+                                     : tr("No media file is of this kind and on this drive.");
 }
 
 } // namespace vantrell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "media/MediaDrives.h"
+#include "media/MediaSearch.h"
 #include "media/MediaUseColumns.h"
 #include "table/widgets/TabPane.h"
 
@@ -40,6 +41,11 @@ Q_SIGNALS:
 
 protected:
     void updateControls() override;
+    void search() override;
+    bool prepareSearch() override;
+    void endSearch() override { m_mediaSearch.forget(); }
+    QString countText(const QString &number, std::size_t count) const override;
+    QString totalText(const RowList &rows) const override;
     QString loadingText(std::size_t found) const override;
     QString emptyText() const override;
     QString filteredText() const override;
@@ -49,6 +55,7 @@ private:
     void setDrives(std::vector<DriveItem> drives);
     void makeControls();
     void makeFooter();
+    void makeSearch();
     void applyFilters();
     QString selectedMissingUrl() const;
     void restoreUseColumns();
@@ -67,6 +74,8 @@ private:
 
     UserDefaults &m_defaults;
     std::shared_ptr<MediaUseIndex> m_uses = std::make_shared<MediaUseIndex>();
+    MediaSearch m_mediaSearch;
+    QComboBox *m_states;
     Columns m_useColumns;
     QStringList m_shownUseColumns;
     bool m_readsUses = false; // in the background

@@ -3,6 +3,7 @@
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/SearchBar.h"
 #include "table/widgets/TableDelegate.h"
 #include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
@@ -12,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QProgressBar>
@@ -31,6 +33,7 @@ namespace
 
 constexpr int busyInterval = 150; // milliseconds
 constexpr int messageMs = 30000;
+constexpr int countMs = 30;
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 
@@ -57,6 +60,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_model(model)
     , m_table(new QVTableView(this))
     , m_controls(new QHBoxLayout)
+    , m_countTimer(new QTimer(this))
+    , m_prepareTimer(new QTimer(this))
     , m_footer(new QVBoxLayout)
     , m_busy(new QProgressBar(this))
     , m_busyText(new QLabel(this))
@@ -85,6 +90,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_message->hide();
     m_messageTime->setSingleShot(true);
     m_messageTime->setInterval(messageMs);
+    m_countTimer->setSingleShot(true);
+    m_countTimer->setInterval(countMs);
 
     auto *top = new QHBoxLayout;
     top->addLayout(m_controls);
@@ -104,6 +111,13 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
             &TabPane::noteSelectionChange);
     connect(m_table, &QVTableView::copyRequested, this, &TabPane::copySelection);
     connect(m_busyTimer, &QTimer::timeout, this, &TabPane::updateBusy);
+    connect(m_countTimer, &QTimer::timeout, this, &TabPane::updateCounts);
+    connect(this, &TabPane::selectionChanged, m_countTimer, qOverload<>(&QTimer::start));
+    connect(m_model, &QAbstractItemModel::dataChanged, m_countTimer, qOverload<>(&QTimer::start));
+    connect(m_prepareTimer, &QTimer::timeout, this, [this] {
+        if (prepareSearch())
+            m_prepareTimer->stop();
+    });
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
     const RowView &view = m_model->view();
     connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
@@ -118,12 +132,20 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         if (given == tab())
             showMessage(text);
     });
+    connect(&document, &MyDocument::historyChanged, this, [this] {
+        if (m_search && (m_search->field().hasFocus() || !m_search->text().isEmpty()))
+            m_prepareTimer->start(0); // texts may have changed
+    });
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
 }
 
-TabPane::~TabPane() = default;
+TabPane::~TabPane()
+{
+    if (m_search) // it loses the keyboard focus when it goes
+        m_search->disconnect(this);
+}
 
 // The rows
 
@@ -522,6 +544,63 @@ void TabPane::addControls(std::initializer_list<QWidget *> controls)
     }
     if (previous)
         setTabOrder(previous, m_table);
+    m_lastControl = previous;
+}
+
+SearchBar &TabPane::addSearchBar()
+{
+    m_search = new SearchBar(this);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(layout()->indexOf(m_table), m_search);
+    if (m_lastControl)
+        setTabOrder(m_lastControl, &m_search->field());
+    setTabOrder(&m_search->field(), m_table);
+    connect(m_search, &SearchBar::changed, this, &TabPane::search);
+    connect(m_search, &SearchBar::left, this, [this] { m_table->setFocus(Qt::OtherFocusReason); });
+    connect(m_search, &SearchBar::entered, m_prepareTimer, [this] { m_prepareTimer->start(0); });
+    connect(m_search, &SearchBar::ended, this, [this] {
+        m_prepareTimer->stop();
+        endSearch();
+    });
+    return *m_search;
+}
+
+void TabPane::focusSearch()
+{
+    m_search->field().setFocus(Qt::ShortcutFocusReason);
+    m_search->field().selectAll();
+}
+
+/// Tells what is shown and what is selected.
+void TabPane::updateCounts()
+{
+    const RowView &view = m_model->view();
+    if (!m_search || !m_isFilled || m_spinning) {
+        if (m_search)
+            m_search->setCounts(QString());
+        return;
+    }
+    const auto withTotal = [this](const QString &text, const RowList &rows) {
+        const QString total = totalText(rows);
+        return total.isEmpty() ? text : tr("%1, %2", "count and total").arg(text, total);
+    };
+    const auto number = [](std::size_t count) { return QLocale().toString(qulonglong(count)); };
+    const RowList &shown = view.visibleRows();
+    const std::size_t all = view.list().size();
+    const QString shownNumber =
+        shown.size() == all ? number(all) : tr("%1 of %2").arg(number(shown.size()), number(all));
+    QString text = withTotal(countText(shownNumber, all), shown);
+    const std::vector<std::size_t> selected = selectedRows();
+    if (!selected.empty()) {
+        RowList rows;
+        rows.reserve(selected.size());
+        for (const std::size_t row : selected) {
+            if (row < shown.size())
+                rows.push_back(shown[row]);
+        }
+        text = tr("%1 · %2", "shown and selected")
+                   .arg(text, withTotal(tr("%1 selected").arg(number(selected.size())), rows));
+    }
+    m_search->setCounts(text);
 }
 
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)
@@ -536,6 +615,7 @@ void TabPane::setSpinning(bool spinning)
 {
     m_spinning = spinning;
     m_isFilled = false;
+    m_countTimer->start();
     m_busy->setVisible(spinning);
     m_busyText->setVisible(spinning);
     if (spinning)

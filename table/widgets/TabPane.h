@@ -24,6 +24,7 @@ namespace vantrell
 {
 
 class QVTableView;
+class SearchBar;
 class TableModel;
 class UserDefaults;
 class Workbench;
@@ -72,6 +73,9 @@ public:
 
     // What the window asks
 
+    /// Puts the keyboard focus into the search field, with its text selected.
+    void focusSearch();
+
     /// Whether the project may be changed; false until all its inventories are there.
     virtual void setEditingEnabled(bool enabled);
 
@@ -104,6 +108,10 @@ protected:
     /// Puts the controls above the table, from the left, with a gap where one is null; the keyboard reaches
     /// them in this order, then the table.
     void addControls(std::initializer_list<QWidget *> controls);
+    /// Adds the line between the controls and the table that narrows the rows and counts them; after
+    /// addControls(), once.
+    SearchBar &addSearchBar();
+    SearchBar &searchBar() const { return *m_search; }
     /// Below the table.
     QVBoxLayout &footer() const { return *m_footer; }
     /// A line below the table that shows the label's text.
@@ -125,6 +133,16 @@ protected:
     virtual void setMessage(const QString &text);
     /// The selection or the rows changed.
     virtual void updateControls() {}
+    /// Shows the rows that fulfil the conditions of the search bar.
+    virtual void search() = 0;
+    /// Prepares the rows for a search for a few milliseconds; true when that is done.
+    virtual bool prepareSearch() { return true; }
+    /// Nothing is searched for any more.
+    virtual void endSearch() {}
+    /// That many rows, which the text tells, such as "3 of 12": "3 of 12 markers".
+    virtual QString countText(const QString &number, std::size_t count) const = 0;
+    /// What the rows come to together; may be empty.
+    virtual QString totalText(const RowList &) const { return QString(); }
     /// Shown in a table without rows: during a load, and when the list is empty.
     virtual QString loadingText(std::size_t found) const = 0;
     virtual QString emptyText() const = 0;
@@ -149,6 +167,7 @@ private:
     void noteSelectionChange();
     void updateBusy();
     void updatePlaceholder();
+    void updateCounts();
     void rememberRows();
     void restoreRows();
 
@@ -158,6 +177,10 @@ private:
     TableModel *m_model;
     QVTableView *m_table;
     QHBoxLayout *m_controls;
+    SearchBar *m_search = nullptr;
+    QTimer *m_countTimer;
+    QTimer *m_prepareTimer;
+    QWidget *m_lastControl = nullptr; // of those above the table
     QVBoxLayout *m_footer;
     QProgressBar *m_busy;
     QLabel *m_busyText;

@@ -1,0 +1,80 @@
+#include "markers/MarkerTotals.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerKeys.h"
+#include "support/text/TextNumbers.h"
+#include "timecode/QVTimecode.h"
+
+#include <cmath>
+
+namespace vantrell
+{
+
+namespace
+{
+
+struct MarkerRate {
+    std::int64_t timebase = 30;
+    bool ntsc = false;
+    bool dropFrame = false;
+
+    static MarkerRate of(const RowRecord &marker)
+    {
+        const std::int64_t timebase = marker.get(TimecodeKey::timebase);
+        return {timebase > 0 ? timebase : 30, marker.get(TimecodeKey::ntsc),
+                marker.get(TimecodeKey::dropFrame)};
+    }
+    double fps() const
+    {
+        const double fps = QVTimecode::frameRateFromTimebase(timebase, ntsc);
+        return fps > 0 ? fps : double(timebase);
+    }
+    friend bool operator==(const MarkerRate &, const MarkerRate &) = default;
+};
+
+QString durationText(quint64 frames, const MarkerRate &rate)
+{
+    const QString text =
+        QVTimecode::timecodeFromFrameCount(frames, rate.timebase, rate.ntsc, rate.dropFrame, 0);
+    const auto hours = quint64(double(frames) / rate.fps() / 3600);
+    constexpr quint64 day = 24;
+    if (hours < day)
+        return text;
+    // At the rates that are not whole, midnight comes some seconds before or after that of the clock.
+    const quint64 shown = text.left(2).toULongLong();
+    quint64 days = hours / day;
+    if (shown == 0 && hours % day == day - 1)
+        ++days;
+    else if (shown == day - 1 && hours % day == 0)
+        --days;
+    return QString::number(days * day + shown) + text.sliced(2);
+}
+
+} // namespace
+
+QString totalDurationText(const RowList &markers)
+{
+    std::optional<MarkerRate> first;
+    quint64 frames = 0;
+    double otherSeconds = 0;
+    for (const RowRecordPtr &marker : markers) {
+        const QString out = marker->get(MarkerKey::out);
+        if (out.isEmpty() || out.startsWith(QLatin1Char('-')))
+            continue;
+        const std::int64_t length = integerValue(out) - integerValue(marker->get(MarkerKey::in));
+        if (length <= 0)
+            continue;
+        const MarkerRate rate = MarkerRate::of(*marker);
+        if (!first)
+            first = rate;
+        if (rate == *first)
+            frames += quint64(length);
+        else
+            otherSeconds += double(length) / rate.fps();
+    }
+    if (!first)
+        return QString();
+    return durationText(frames + quint64(std::llround(otherSeconds * first->fps())), *first);
+}
+
+} // namespace vantrell

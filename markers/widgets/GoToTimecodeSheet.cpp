@@ -1,0 +1,98 @@
+#include "markers/widgets/GoToTimecodeSheet.h"
+
+#include "markers/MarkerKeys.h"
+#include "markers/MarkerNavigation.h"
+#include "markers/MarkerTableValues.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <unordered_set>
+#include <utility>
+
+namespace vantrell
+{
+
+GoToTimecodeSheet::GoToTimecodeSheet(RowList rows, const RowRecordPtr &current, QWidget *parent)
+    : QDialog(parent, Qt::Sheet)
+    , m_rows(std::move(rows))
+    , m_timecode(new QLineEdit(this))
+    , m_sequences(new QComboBox(this))
+    , m_hint(new QLabel(this))
+{
+    setWindowTitle(tr("Go to Timecode"));
+    setWindowModality(Qt::WindowModal);
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_go = buttons->addButton(tr("&Go"), QDialogButtonBox::AcceptRole);
+    m_go->setDefault(true);
+    m_timecode->setPlaceholderText(QStringLiteral("01:00:00:00"));
+    m_timecode->setToolTip(tr("Digits fill the timecode from the right; a full stop stands for two zeros"));
+    m_sequences->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_sequences->setMinimumContentsLength(24);
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    m_hint->setMinimumSize(fontMetrics().averageCharWidth() * 44, fontMetrics().lineSpacing() * 3);
+    auto *const form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("&Timecode:"), m_timecode);
+    form->addRow(tr("&Sequence:"), m_sequences);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(m_hint, 1);
+    layout->addWidget(buttons);
+    fillSequences(current);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_timecode, &QLineEdit::textChanged, this, &GoToTimecodeSheet::look);
+    connect(m_sequences, &QComboBox::currentIndexChanged, this, &GoToTimecodeSheet::look);
+    look();
+    m_timecode->setFocus();
+}
+
+void GoToTimecodeSheet::fillSequences(const RowRecordPtr &current)
+{
+    std::unordered_set<XmlNode> seen;
+    for (const RowRecordPtr &row : m_rows) {
+        const XmlNode sequence = row->get(MarkerKey::sequence);
+        if (!seen.insert(sequence).second)
+            continue;
+        const QString name = row->get(MarkerKey::sequenceName);
+        m_sequences->addItem(name.isEmpty() ? tr("No sequence") : name);
+        m_examples.push_back(row);
+        if (sequence == current->get(MarkerKey::sequence))
+            m_sequences->setCurrentIndex(m_sequences->count() - 1);
+    }
+    m_sequences->setEnabled(m_sequences->count() > 1);
+}
+
+void GoToTimecodeSheet::look()
+{
+    const QString typed = m_timecode->text().trimmed();
+    m_marker = nullptr;
+    if (typed.isEmpty()) {
+        m_hint->setText(
+            tr("Goes to the marker that is nearest to the timecode, among those that are shown."));
+    } else {
+        const RowRecord &example = *m_examples[std::size_t(m_sequences->currentIndex())];
+        const MarkerNavigation::Position position = MarkerNavigation::positionOf(typed, example);
+        m_marker = m_rows[MarkerNavigation::nearestRow(m_rows, example, position.frame).value()];
+        const QString name = m_marker->get(MarkerKey::name);
+        const QString in = MarkerTableValues::inText(*m_marker);
+        QString text = tr("Timecode %1.").arg(position.timecode) + QLatin1Char(' ');
+        if (name.isEmpty())
+            text += tr("Nearest: a marker without a name at %1.").arg(in);
+        else
+            text += tr("Nearest: “%1” at %2.").arg(name, in);
+        m_hint->setText(text);
+    }
+    m_go->setEnabled(m_marker != nullptr);
+}
+
+} // namespace vantrell

@@ -1,0 +1,321 @@
+#include "WindowTest.h"
+
+#include "app/AppController.h"
+#include "app/WindowTitles.h"
+#include "document/MyDocument.h"
+#include "markers/MarkerKeys.h"
+#include "support/log/QVLog.h"
+#include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/SearchBar.h"
+#include "tests/support/TemporaryHome.h"
+#include "workbench/Workbench.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+
+using namespace vantrell;
+
+class FindingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
+        AppController::startLog();
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        m_controller->applicationDidFinishLaunching();
+        m_controller->openFiles({copySample(m_home->path(QStringLiteral("project")))});
+        m_window = m_controller->currentWindow();
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void everyTabHasASearchField_data()
+    {
+        QTest::addColumn<int>("tab");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("counts");
+        QTest::newRow("media") << int(Tab::Media) << "HARBOUR M" << 1 << "1 of 11 files";
+        QTest::newRow("effects") << int(Tab::Effects) << "blur" << 3 << "3 of 29 effects";
+        QTest::newRow("markers") << int(Tab::Markers) << "quay" << 3 << "3 of 24 markers, 00:00:07:20";
+    }
+    void everyTabHasASearchField()
+    {
+        QFETCH(int, tab);
+        QFETCH(QString, typed);
+        QFETCH(int, rows);
+        QFETCH(QString, counts);
+        show(Tab(tab));
+        TabPane &pane = m_window->pane(Tab(tab));
+        const int all = pane.model().rowCount();
+        QTest::keyClick(&pane.table(), Qt::Key_F, Qt::ControlModifier);
+        QLineEdit &field = bar().field();
+        QVERIFY(field.hasFocus());
+        QTest::keyClicks(&field, typed);
+        QTRY_COMPARE(pane.model().rowCount(), rows);
+        QTRY_COMPARE(bar().counts(), counts);
+        pane.table().selectAll();
+        QTRY_VERIFY(bar().counts().contains(QStringLiteral("selected")));
+        QCOMPARE(int(pane.selectedRows().size()), rows);
+
+        // Escape clears the field, and in an empty one goes to the table.
+        QTest::keyClick(&field, Qt::Key_Escape);
+        QCOMPARE(pane.model().rowCount(), all);
+        QVERIFY(field.hasFocus() && field.text().isEmpty());
+        QTest::keyClick(&field, Qt::Key_Escape);
+        QVERIFY(pane.table().hasFocus());
+
+        // Each tab keeps its search; Return goes to what was found.
+        QTest::keyClick(&pane.table(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(&field, typed);
+        QTest::keyClick(&field, Qt::Key_Return);
+        QVERIFY(pane.table().hasFocus());
+        QCOMPARE(pane.model().rowCount(), rows);
+        show(Tab(tab) == Tab::Markers ? Tab::Effects : Tab::Markers);
+        QVERIFY(bar().text().isEmpty());
+        show(Tab(tab));
+        QCOMPARE(pane.model().rowCount(), rows);
+        QTest::keyClicks(&field, QStringLiteral("#"));
+        QTRY_COMPARE(pane.model().rowCount(), 0);
+        QVERIFY(!pane.table().placeholder().isEmpty());
+    }
+
+    void popUpsNarrowFurther()
+    {
+        show(Tab::Markers);
+        TabPane &markers = m_window->pane(Tab::Markers);
+        choose(QStringLiteral("Flag of markers"), QStringLiteral("Chapter"));
+        QCOMPARE(names().size(), 4);
+        choose(QStringLiteral("Sequence of markers"), QStringLiteral("Harbour Lights – Reel 1"));
+        QCOMPARE(names(), QStringList({QStringLiteral("Opening"), QStringLiteral("Café du Port"),
+                                       QStringLiteral("Гавань ночью")}));
+        choose(QStringLiteral("Color of markers"), QStringLiteral("Orange"));
+        QCOMPARE(names(), QStringList({QStringLiteral("Café du Port")}));
+        QVERIFY(bar().isNarrowing());
+        bar().clear();
+        QCOMPARE(names(), QStringList({QStringLiteral("Horn"), QStringLiteral("Café du Port")}));
+        QCOMPARE(markers.model().view().list().size(), std::size_t(24));
+
+        show(Tab::Media);
+        TabPane &media = m_window->pane(Tab::Media);
+        choose(QStringLiteral("State of files"), QStringLiteral("Missing"));
+        QCOMPARE(media.model().rowCount(), 11);
+        choose(QStringLiteral("State of files"), QStringLiteral("Unknown Kind"));
+        QCOMPARE(media.model().rowCount(), 0);
+        // Of the files that are listed each is used: what plays sound only, too.
+        choose(QStringLiteral("State of files"), QStringLiteral("Unused"));
+        QTRY_COMPARE(media.table().placeholder(), QStringLiteral("No media file matches the search."));
+        QCOMPARE(media.model().rowCount(), 0);
+    }
+
+    void theRestFollowsTheSearch()
+    {
+        show(Tab::Markers);
+        TabPane &markers = m_window->pane(Tab::Markers);
+        bar().field().setText(QStringLiteral("horn"));
+        QTRY_COMPARE(names(), QStringList({QStringLiteral("Horn"), QStringLiteral("Gull over the horn")}));
+        QCOMPARE(m_window->workbench().document().tableArray().size(), std::size_t(2));
+
+        // A marker that is added is shown and edited, whatever is searched for.
+        QVERIFY(trigger(*m_window, QStringLiteral("Select All")));
+        QCOMPARE(markers.selectedRows().size(), std::size_t(2));
+        markers.table().setFocus();
+        m_window->workbench().markerEditor().addMarker();
+        QCOMPARE(names().size(), 3);
+        QCOMPARE(markers.selectedRows(), std::vector<std::size_t>{2});
+        QVERIFY(markers.table().isEditing());
+        QTest::keyClick(markers.table().findChild<QLineEdit *>(), Qt::Key_Escape);
+        QTRY_VERIFY(bar().counts().startsWith(QStringLiteral("3 of 25 markers")));
+        QTest::keyClicks(&bar().field(), QStringLiteral("o"));
+        QTRY_COMPARE(names().size(), 0);
+        bar().clear();
+        QCOMPARE(names().size(), 25);
+        markers.table().setFocus();
+        m_window->undo();
+        QCOMPARE(names().size(), 24);
+    }
+
+    void goesToATimecode()
+    {
+        show(Tab::Markers);
+        TabPane &markers = m_window->pane(Tab::Markers);
+        markers.selectRows({15}); // Opening
+        markers.scrollToRow(15);
+        show(Tab::Effects);
+        QTest::keyClick(&m_window->pane(Tab::Effects).table(), Qt::Key_G, Qt::ControlModifier);
+        QCOMPARE(m_window->selectedTab(), Tab::Markers);
+        QDialog *const sheet = visibleSheet();
+        QVERIFY(sheet);
+        auto *const sequences = sheet->findChild<QComboBox *>();
+        QCOMPARE(sequences->currentText(), QStringLiteral("Harbour Lights – Reel 1"));
+        auto *const go = buttonOf(*sheet, QStringLiteral("Go"));
+        QVERIFY(go && !go->isEnabled());
+        QTest::keyClicks(sheet->findChild<QLineEdit *>(), QStringLiteral("12."));
+        const auto labels = sheet->findChildren<QLabel *>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->text() ==
+                   QStringLiteral("Timecode 01:00:12;00. Nearest: “Applause” at 01:00:12;12.");
+        }));
+        QVERIFY(go->isEnabled());
+        go->click();
+        QCOMPARE(markers.selectedRows(), std::vector<std::size_t>{11});
+        QCOMPARE(markers.table().currentIndex().row(), 11);
+        QVERIFY(markers.table().hasFocus());
+
+        // Without a marker to go to the window says so.
+        bar().field().setText(QStringLiteral("#none"));
+        QTRY_COMPARE(names().size(), 0);
+        QVERIFY(trigger(*m_window, QStringLiteral("Go to Timecode…")));
+        QVERIFY(statusOf(*m_window).contains(QStringLiteral("no marker to go to")));
+    }
+
+    void goesToTheNextMarkerOfTheColor()
+    {
+        show(Tab::Markers);
+        TabPane &markers = m_window->pane(Tab::Markers);
+        QTest::keyClick(&markers.table(), Qt::Key_Home, Qt::ControlModifier);
+        const auto next = [&](Qt::Key key) {
+            QTest::keyClick(&markers.table(), key, Qt::ControlModifier | Qt::ShiftModifier);
+            const std::vector<std::size_t> rows = markers.selectedRows();
+            return rows.size() == 1 ? names().value(qsizetype(rows.front())) : QString();
+        };
+        QCOMPARE(next(Qt::Key_Down), QStringLiteral("Applause")); // green as the first
+        QCOMPARE(next(Qt::Key_Down), QStringLiteral("Carte du port"));
+        QCOMPARE(next(Qt::Key_Down), QStringLiteral("Carte du port"));
+        QVERIFY(statusOf(*m_window).contains(QStringLiteral("No further marker")));
+        QCOMPARE(next(Qt::Key_Up), QStringLiteral("Applause"));
+        // Among those that are shown
+        bar().field().setText(QStringLiteral("note"));
+        QTRY_COMPARE(names().size(), 2);
+        markers.selectRows({1});
+        markers.scrollToRow(1);
+        QCOMPARE(next(Qt::Key_Up), QStringLiteral("Tide turns"));
+        show(Tab::Effects);
+        QVERIFY(!trigger(*m_window, QStringLiteral("Next of Same Color")));
+    }
+
+    void windowsAreListedAndToldApart()
+    {
+        const QString program = QCoreApplication::applicationName();
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Harbour Lights.xml[*] — ") + program);
+        const QPoint place = m_window->pos();
+        const QString other = copySample(m_home->path(QStringLiteral("b/project2")));
+        m_controller->openFiles({other});
+        DocumentWindow *const second = m_controller->documentWindows().back();
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Harbour Lights.xml[*] — project — ") + program);
+        QCOMPARE(second->windowTitle(), QStringLiteral("Harbour Lights.xml[*] — project2 — ") + program);
+        QVERIFY((second->pos() - place).manhattanLength() > 20);
+        QVERIFY(second->screen()->availableGeometry().contains(second->geometry()));
+
+        QMenu *const menu = windowMenu();
+        QVERIFY(menu);
+        Q_EMIT menu->aboutToShow();
+        QAction *const own = commandOf(*m_window, QStringLiteral("1 Harbour Lights.xml — project"));
+        QAction *const theirs = commandOf(*m_window, QStringLiteral("2 Harbour Lights.xml — project2"));
+        QVERIFY(own && own->isChecked());
+        QVERIFY(theirs && !theirs->isChecked());
+        theirs->trigger();
+        QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(second));
+
+        QTRY_COMPARE_WITH_TIMEOUT(second->state(), DocumentWindow::State::Ready, 40000);
+        const QPointer<DocumentWindow> closing(second);
+        second->close();
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Harbour Lights.xml[*] — ") + program);
+        QTRY_VERIFY(!closing);
+        QVERIFY(saves(*m_window, m_home->path(QStringLiteral("project/new.xml"))));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("new.xml[*] — ") + program);
+    }
+
+    void foldersTellFilesApart_data()
+    {
+        QTest::addColumn<QStringList>("paths");
+        QTest::addColumn<QStringList>("folders");
+        const auto add = [](const char *name, const char *paths, const char *folders) {
+            QTest::newRow(name) << QString::fromLatin1(paths).split(QLatin1Char(' '))
+                                << QString::fromLatin1(folders).split(QLatin1Char(' '));
+        };
+        add("none alike", "/x/a /x/b", " ");
+        add("one folder", "/x/a /y/a /y/b", "x y ");
+        add("two folders", "/1/x/a /2/x/a /2/y/a", "1/x 2/x y");
+        add("one above the other", "/x/a /y/x/a", "x y/x");
+        add("the same file", "/x/a /x/a", " ");
+        add("at the root", "/a /x/a", " x");
+    }
+    void foldersTellFilesApart()
+    {
+        QFETCH(QStringList, paths);
+        QTEST(foldersThatTellApart(paths), "folders");
+    }
+
+private:
+    void show(Tab tab)
+    {
+        if (tab == Tab::Media)
+            m_window->toolbarMedia();
+        else if (tab == Tab::Effects)
+            m_window->toolbarEffects();
+        else
+            m_window->toolbarMarkers();
+    }
+    SearchBar &bar() const { return *m_window->currentPane().findChild<SearchBar *>(); }
+    QStringList names() const { return columnTexts(*m_window, Tab::Markers, QStringLiteral("name")); }
+    void choose(const QString &popUp, const QString &item)
+    {
+        for (QComboBox *const box : m_window->currentPane().findChildren<QComboBox *>()) {
+            if (box->accessibleName() != popUp)
+                continue;
+            box->setCurrentIndex(box->findText(item));
+            Q_EMIT box->activated(box->currentIndex());
+            return;
+        }
+        QFAIL(qPrintable(popUp));
+    }
+    QDialog *visibleSheet() const
+    {
+        for (QDialog *const dialog : m_window->findChildren<QDialog *>()) {
+            if (dialog->isVisible())
+                return dialog;
+        }
+        return nullptr;
+    }
+    static QPushButton *buttonOf(const QDialog &sheet, const QString &title)
+    {
+        for (QPushButton *const button : sheet.findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == title)
+                return button;
+        }
+        return nullptr;
+    }
+    QMenu *windowMenu() const
+    {
+        for (QMenu *const menu : m_window->menuBar()->findChildren<QMenu *>()) {
+            if (menu->title().remove(QLatin1Char('&')) == QStringLiteral("Window"))
+                return menu;
+        }
+        return nullptr;
+    }
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<AppController> m_controller;
+    QPointer<DocumentWindow> m_window;
+};
+
+QTEST_MAIN(FindingTest)
+#include "tst_finding.moc"
