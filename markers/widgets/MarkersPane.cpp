@@ -2,9 +2,12 @@
 
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
+#include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
 #include "markers/widgets/MarkerPresetSheet.h"
+#include "markers/widgets/MarkerStrip.h"
 #include "markers/widgets/MarkerTableModel.h"
+#include "markers/widgets/OverviewPopUp.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
 #include "table/widgets/ControlPopUp.h"
@@ -45,6 +48,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
     , m_ownOwners(new QCheckBox(tr("Own se&quence and clip"), this))
     , m_status(new QLabel(this))
+    , m_overview(new MarkerOverviewPanel(*this, workbench.document()))
 {
     m_filter->addItem(tr("All Colors"));
     for (int i = 0; i < markerModel().colorLabels().size(); ++i)
@@ -92,6 +96,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
             table().edit(index);
     });
     makeMenus();
+    placeOverview();
     updateControls();
 
     MarkerPresets *const presets = &workbench.markerPresets();
@@ -127,6 +132,17 @@ void MarkersPane::makeMenus()
             &MarkersPane::showMarkerFieldsDialog);
     connect(header->addAction(tr("Create Marker Preset…")), &QAction::triggered, this,
             &MarkersPane::showMarkerPresetDialog);
+}
+
+/// Above the table, also for the keyboard.
+void MarkersPane::placeOverview()
+{
+    auto *const content = static_cast<QBoxLayout *>(layout());
+    content->insertWidget(content->indexOf(&table()), m_overview);
+    m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
+    setTabOrder(m_fields, &m_overview->popUp());
+    setTabOrder(&m_overview->popUp(), &m_overview->strip());
+    setTabOrder(&m_overview->strip(), &table());
 }
 
 MarkerTableModel &MarkersPane::markerModel() const
@@ -220,6 +236,8 @@ void MarkersPane::applyDefaultsChange(const QString &key)
         workbench().markerPresets().refreshMarkerPresets();
     else if (key == MarkerInventory::ownOwnersDefault)
         m_ownOwners->setChecked(m_defaults.boolean(key));
+    else if (key == MarkerOverviewPanel::shownDefault)
+        m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
 }
 
 void MarkersPane::commitEdit(int, const QString &column, const QString &text)

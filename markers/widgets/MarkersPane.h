@@ -11,6 +11,7 @@ class QDialog;
 namespace vantrell
 {
 
+class MarkerOverviewPanel;
 class MarkerPresetPopUp;
 class MarkerTableModel;
 
@@ -26,6 +27,8 @@ public:
 
     void setEditingEnabled(bool enabled) override;
     void applyDefaultsChange(const QString &key) override;
+
+    MarkerOverviewPanel &overview() const { return *m_overview; }
 
 public Q_SLOTS:
     void addMarker();
@@ -51,6 +54,7 @@ protected:
 private:
     MarkerTableModel &markerModel() const;
     void makeMenus();
+    void placeOverview();
     void setMarkerLabels(const QStringList &labels);
     void openPresetSheet();
     void closePresetSheet();
@@ -64,6 +68,7 @@ private:
     QPushButton *m_fields;
     QCheckBox *m_ownOwners;
     QLabel *m_status;
+    MarkerOverviewPanel *m_overview;
     QString m_message;
     QPointer<QDialog> m_presetSheet;
     QPointer<QDialog> m_fieldsSheet;
