@@ -68,6 +68,7 @@ std::vector<OverviewColumn> withHeads(const std::vector<OverviewMarker> &markers
         if (beginning.rank < 0)
             continue;
         const auto most = std::max_element(beginning.counts.begin(), beginning.counts.end());
+        columns[i].count = std::accumulate(beginning.counts.begin(), beginning.counts.end(), 0U);
         columns[i].head = beginning.markers[std::size_t(most - beginning.counts.begin())];
     }
     return columns;

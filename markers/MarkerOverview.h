@@ -43,6 +43,7 @@ struct OverviewColumn {
     /// One that begins here, to be drawn for all that do: selected ones come before others, those that the
     /// table shows before faint ones, and then the most frequent colour decides.
     std::size_t head = none;
+    std::uint32_t count = 0; ///< how many of its place in that order begin here, of whatever colour
     /// One whose duration covers the column, in the same order, then the one that begins last.
     std::size_t bar = none;
 };

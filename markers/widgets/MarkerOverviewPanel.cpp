@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QHash>
 #include <QLabel>
+#include <QTextDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -46,7 +47,6 @@ MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
     , m_timer(new QTimer(this))
 {
     m_popUp->setAccessibleName(tr("Sequence of the overview"));
-    m_popUp->setToolTip(tr("Choose the sequence of the overview, or let it follow the selected row"));
     m_range->setTextFormat(Qt::PlainText);
     m_range->setForegroundRole(QPalette::PlaceholderText);
     m_range->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -202,6 +202,9 @@ void MarkerOverviewPanel::showSequence()
     m_popUp->setCurrentIndex(m_chosen ? int(item - m_items.begin()) + firstItem : 0);
     m_popUp->setFollowedTitle(title.isEmpty() ? tr("No sequence") : title);
     m_popUp->setAccessibleDescription(title);
+    m_popUp->setToolTip(Qt::convertFromPlainText(
+        tr("%1\nChoose the sequence of the overview, or let it follow the selected row").arg(title).trimmed(),
+        Qt::WhiteSpaceNormal));
     const auto duration = sequence ? clipsOf(wanted)->duration : 0;
     m_range->setText(duration > 0 ? tr("%1 – %2").arg(m_strip->timecode(0), m_strip->timecode(duration))
                                   : QString());

@@ -31,6 +31,8 @@ namespace
 constexpr int edge = 7;      // pixels beside the first and the last frame
 constexpr int headWidth = 9; // odd
 constexpr int headHeight = 11;
+constexpr int leastHead = 3;       // pixels of a place for a head with its shape
+constexpr double leastShare = 0.4; // of the height of a head
 constexpr int barHeight = 6;
 constexpr int positionHeight = 3;
 constexpr double grabbed = 5; // pixels beside a marker that still count as it
@@ -547,69 +549,84 @@ void MarkerStrip::paintBars(QPainter &painter) const
 
 void MarkerStrip::paintHeads(QPainter &painter) const
 {
-    const Places at = places();
-    const QColor base = palette().color(QPalette::Base);
-    const QColor highlight = palette().color(QPalette::Highlight);
     const std::vector<OverviewColumn> &all = columns();
     std::vector<int> heads;
     int selected = 0;
+    std::uint32_t most = 1;
     for (std::size_t i = 0; i < all.size(); ++i) {
         if (all[i].head == OverviewColumn::none)
             continue;
         heads.push_back(int(i));
         selected += m_sequence->markers[all[i].head].isSelected;
+        most = std::max(most, all[i].count);
     }
     const auto rankOf = [](const OverviewMarker &marker) { return marker.isSelected ? 2 : marker.isShown; };
     for (const int rank : {0, 1, 2}) {
         for (std::size_t i = 0; i < heads.size(); ++i) {
-            const OverviewMarker &marker = m_sequence->markers[all[std::size_t(heads[i])].head];
+            const OverviewColumn &column = all[std::size_t(heads[i])];
+            const OverviewMarker &marker = m_sequence->markers[column.head];
             if (rankOf(marker) != rank)
                 continue;
-            const int x = heads[i];
-            int free = headWidth;
+            int width = headWidth;
             if (i > 0)
-                free = std::min(free, x - heads[i - 1]);
+                width = std::min(width, heads[i] - heads[i - 1]);
             if (i + 1 < heads.size())
-                free = std::min(free, heads[i + 1] - x);
-            const QColor color = colorOf(marker, base);
-            const bool isSelected = marker.isSelected;
-            if (isSelected) {
-                QColor line = highlight;
-                line.setAlpha(190);
-                painter.fillRect(QRect(x, at.heads, 1, at.bottom - at.heads), line);
-            } else if (marker.isShown) {
-                QColor line = color;
-                line.setAlpha(130);
-                painter.fillRect(QRect(x, at.heads + headHeight - 1, 1, at.clips - at.heads - headHeight),
-                                 line);
-            }
-            if (free < headWidth / 2 && (!isSelected || selected > mostOutlined)) {
-                painter.setRenderHint(QPainter::Antialiasing, false);
-                painter.fillRect(QRect(x - (free - 1) / 2, at.heads, free, headHeight), color);
-                continue;
-            }
-            painter.setRenderHint(QPainter::Antialiasing);
-            const double middle = x + 0.5;
-            const double half = headWidth / 2.0 - 0.5;
-            const double shoulder = at.heads + headHeight * 0.55;
-            QPainterPath head;
-            head.moveTo(middle - half, at.heads + 0.5);
-            head.lineTo(middle + half, at.heads + 0.5);
-            head.lineTo(middle + half, shoulder);
-            head.lineTo(middle, at.heads + headHeight);
-            head.lineTo(middle - half, shoulder);
-            head.closeSubpath();
-            if (isSelected) {
-                painter.setPen(QPen(highlight, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-                painter.drawPath(head);
-            }
-            painter.setPen(QPen(outlineOf(color, base), 1));
-            painter.setBrush(color);
-            painter.drawPath(head);
-            painter.setBrush(Qt::NoBrush);
-            painter.setRenderHint(QPainter::Antialiasing, false);
+                width = std::min(width, heads[i + 1] - heads[i]);
+            if (marker.isSelected && selected <= mostOutlined)
+                width = headWidth;
+            // Where they are close together the higher ones stand for more of them.
+            const double share = leastShare + (1 - leastShare) * column.count / most;
+            const int height = width < leastHead ? int(std::lround(headHeight * share)) : headHeight;
+            const int bottom = places().heads + headHeight;
+            paintHead(painter, marker, {heads[i] - (width - 1) / 2, bottom - height, width, height});
         }
     }
+}
+
+void MarkerStrip::paintHead(QPainter &painter, const OverviewMarker &marker, const QRect &place) const
+{
+    const Places at = places();
+    const QColor base = palette().color(QPalette::Base);
+    const QColor color = colorOf(marker, base);
+    const int x = place.left() + (place.width() - 1) / 2;
+    const bool isNarrow = place.width() < leastHead;
+    if (marker.isSelected) {
+        QColor band = palette().color(QPalette::Highlight);
+        band.setAlpha(90);
+        const int wide = isNarrow ? place.width() : headWidth + 4;
+        painter.fillRect(QRect(x - (wide - 1) / 2, at.heads - 2, wide, at.bottom - at.heads + 2), band);
+    }
+    if (isNarrow) {
+        painter.fillRect(place, color);
+        return;
+    }
+    if (marker.isShown) {
+        QColor line = color;
+        line.setAlpha(130);
+        const int end = marker.isSelected ? at.bottom : at.clips - 1;
+        painter.fillRect(QRect(x, at.heads + headHeight - 1, 1, end - at.heads - headHeight + 1), line);
+    }
+    const double middle = x + 0.5;
+    const double half = headWidth / 2.0 - 0.5;
+    const double shoulder = at.heads + headHeight * 0.55;
+    QPainterPath head;
+    head.moveTo(middle - half, at.heads + 0.5);
+    head.lineTo(middle + half, at.heads + 0.5);
+    head.lineTo(middle + half, shoulder);
+    head.lineTo(middle, at.heads + headHeight);
+    head.lineTo(middle - half, shoulder);
+    head.closeSubpath();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (marker.isSelected) {
+        const QColor ring = mixed(palette().color(QPalette::Highlight), palette().color(QPalette::Text), 0.5);
+        painter.setPen(QPen(ring, 3.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(head);
+    }
+    painter.setPen(QPen(outlineOf(color, base), 1));
+    painter.setBrush(color);
+    painter.drawPath(head);
+    painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// Which part of the sequence is in view.

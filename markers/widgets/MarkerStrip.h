@@ -98,6 +98,7 @@ private:
     void paintClips(QPainter &painter) const;
     void paintBars(QPainter &painter) const;
     void paintHeads(QPainter &painter) const;
+    void paintHead(QPainter &painter, const OverviewMarker &marker, const QRect &place) const;
     void paintPosition(QPainter &painter) const;
 
     const OverviewSequence *m_sequence = nullptr;

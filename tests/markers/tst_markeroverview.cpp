@@ -231,6 +231,15 @@ private Q_SLOTS:
         QTEST(pixels(columns, &OverviewColumn::bar), "bars");
     }
 
+    void counts()
+    {
+        const auto columns =
+            sequenceOf(QStringLiteral("0:1 5:2 6:2 7:3? 15:4? 16:4?")).columns({0, 0.1, 3, 30});
+        QCOMPARE(columns[0].count, 3U);
+        QCOMPARE(columns[1].count, 2U);
+        QCOMPARE(columns[2].count, 0U);
+    }
+
     void findsMarkers_data()
     {
         QTest::addColumn<QString>("markers");
