@@ -11,6 +11,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <memory>
@@ -41,7 +42,8 @@ bool isSameFile(const QString &a, const QString &b)
         QFileInfo info(path);
         for (int links = 0; links < 40 && info.isSymLink(); ++links)
             info.setFile(info.symLinkTarget());
-        return info.absoluteFilePath();
+        const QString folder = info.dir().canonicalPath(); // empty when there is none
+        return folder.isEmpty() ? info.absoluteFilePath() : folder + QLatin1Char('/') + info.fileName();
     };
     return target(a) == target(b) || FileUtilities::isSameFile(a, b);
 }

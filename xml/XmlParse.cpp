@@ -1,5 +1,6 @@
 #include "xml/XmlParse.h"
 
+#include "xml/XmlEnumerations.h"
 #include "xml/XmlEvents.h"
 #include "xml/XmlLibrary.h"
 #include "xml/XmlNames.h"
@@ -32,7 +33,7 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-/// Comparisons. The library compares each value of an enumeration with all others.
+/// Comparisons.
 constexpr std::int64_t maximumValuesCost = 50'000'000;
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
@@ -95,7 +96,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.tooManyValues = m_valuesCost > maximumValuesCost;
+        outcome.tooManyValues = m_enumerations.cost() > maximumValuesCost;
         outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
@@ -130,9 +131,9 @@ private:
         Parse *const self = static_cast<Parse *>(parse);
         try {
             const int size = self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
-            if (size > 0 && self->m_inSubset)
-                self->noteEnumerations({buffer, std::size_t(size)});
-            return self->m_valuesCost > maximumValuesCost ? 0 : size;
+            if (size > 0 && self->m_isBeforeElements)
+                self->m_enumerations.note({buffer, std::size_t(size)});
+            return self->m_enumerations.cost() > maximumValuesCost ? 0 : size;
         } catch (const std::exception &) {
             self->m_outOfMemory = true;
             return 0;
@@ -382,21 +383,11 @@ private:
             m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
     }
 
-    /// In a part of the document type.
-    void noteEnumerations(std::string_view text)
-    {
-        for (const char character : text) {
-            if (character == '|')
-                m_valuesCost += ++m_values;
-            else if (character == '(' || character == '>')
-                m_values = 0;
-        }
-    }
-
     void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
                         int attributes, const xmlChar **attributeList)
     {
         m_inSubset = false;
+        m_isBeforeElements = false;
         if (isCancelled()) {
             m_cancelled = true;
             xmlStopParser(m_context);
@@ -564,6 +555,7 @@ private:
     XmlEvents m_events; // destroyed before the builder
     int m_depth = 0;
     bool m_inSubset = false;
+    bool m_isBeforeElements = true;
     bool m_repaired = false;
     bool m_tooDeep = false;
     bool m_cancelled = false;
@@ -584,8 +576,7 @@ private:
     int m_firstDropped = 0;                     // line
     const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
     long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
-    std::int64_t m_values = 0;                  // of the enumeration that was read last
-    std::int64_t m_valuesCost = 0;
+    XmlEnumerations m_enumerations;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing

@@ -113,6 +113,9 @@ public:
     /// Asks about the changes, or saves them, and leaves the window open; changesSettled() reports the
     /// result.
     void settleChanges(Settling settling) { m_saving.settleChanges(settling); }
+    /// Whether the project has changes but those that the user has given up.
+    bool hasUnsettledChanges() { return m_saving.hasUnsettledChanges(); }
+    void forgetGivenUpChanges() { m_saving.forgetGivenUpChanges(); }
     /// Closes the window without asking about changes that the user has given up.
     void closeSettled() { m_saving.closeSettled(); }
     /// Cancels the operation that closing the window would cancel.

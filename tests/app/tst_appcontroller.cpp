@@ -302,11 +302,14 @@ private Q_SLOTS:
         const QString save = QStringLiteral("Save");
         const QString lose = QStringLiteral("Don’t Save");
         const QString cancel = QStringLiteral("Cancel");
+        const QString edit = QStringLiteral("edit"); // the project asked about first
         QTest::newRow("cancel") << QStringList{cancel} << false << "";
         QTest::newRow("save all") << QStringList{QStringLiteral("Save All")} << true << "ab";
         QTest::newRow("review") << QStringList{review, save, lose} << true << "a";
         QTest::newRow("review, then cancel") << QStringList{review, save, cancel} << false << "a";
         QTest::newRow("give up, then cancel") << QStringList{review, lose, cancel} << false << "";
+        QTest::newRow("give up, edit") << QStringList{review, lose, edit, save, save} << true << "ab";
+        QTest::newRow("save, edit") << QStringList{review, save, edit, lose, cancel} << false << "a";
     }
     void quittingAsksAboutAllBeforeOneCloses()
     {
@@ -331,7 +334,10 @@ private Q_SLOTS:
             QTRY_VERIFY(visibleBox());
             for (const auto &window : windows)
                 QVERIFY(window && window->isVisible());
-            QVERIFY(press(visibleBox(), answer));
+            if (answer != QStringLiteral("edit"))
+                QVERIFY(press(visibleBox(), answer));
+            else
+                QVERIFY(editCell(*windows[1], Tab::Markers, 0, QStringLiteral("comment"), answer));
         }
         for (const auto &window : windows) {
             if (quits)

@@ -563,6 +563,15 @@ private Q_SLOTS:
         QTest::newRow("values of an attribute")
             << "<!DOCTYPE a [<!ATTLIST c d (x" + values + ") #IMPLIED>]><a/>"
             << QStringLiteral("more values");
+        QTest::newRow("values behind what looks like an end")
+            << "<!DOCTYPE a [<!--<!ATTLIST '--><!ATTLIST c b CDATA \">\" d (x" + values + ") #IMPLIED>]><a/>"
+            << QStringLiteral("more values");
+        const QByteArray table = QByteArray("| ").repeated(20'000);
+        QTest::newRow("bars elsewhere in the document type")
+            << "<!DOCTYPE a [<!--" + table + "--><?p " + table + "?><!ENTITY e \"" + table +
+                   "\"><!ATTLIST a b CDATA \"" + table + "\"><!ELEMENT a (#PCDATA" + values.left(50'000) +
+                   "x)*>]><a/>"
+            << QString();
         QTest::newRow("namespaces") << "<a>" + spaces + "</a>" << QString();
         QTest::newRow("name of an entity")
             << "<a>&" + QByteArray(50'000, 'e') + ";</a>" << QStringLiteral("…");
