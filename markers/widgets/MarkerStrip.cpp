@@ -359,8 +359,8 @@ void MarkerStrip::choose(const QPoint &point, bool toggles)
         if (!m_sequence->markers[found[chosen]].isShown)
             chosen = 0;
     }
-    Q_EMIT markerChosen(found[chosen], toggles);
     m_clicked = point;
+    Q_EMIT markerChosen(found[chosen], toggles);
 }
 
 void MarkerStrip::chooseNext(int direction)
