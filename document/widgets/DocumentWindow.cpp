@@ -238,6 +238,7 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
 
 void DocumentWindow::connectSession()
 {
+    m_saving.forgetGivenUpChanges(); // those of another document
     m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
         if (tab != selectedTab())
             (this->*toolBarItems()[std::size_t(tab)].action)();

@@ -115,6 +115,7 @@ public:
     void settleChanges(Settling settling) { m_saving.settleChanges(settling); }
     /// Whether the project has changes but those that the user has given up.
     bool hasUnsettledChanges() { return m_saving.hasUnsettledChanges(); }
+    /// They are asked about again.
     void forgetGivenUpChanges() { m_saving.forgetGivenUpChanges(); }
     /// Closes the window without asking about changes that the user has given up.
     void closeSettled() { m_saving.closeSettled(); }
