@@ -43,7 +43,7 @@ void WindowSaving::saveTo(const QString &path)
         finish(false);
         return;
     }
-    if (path != m_window.path() && m_isOpenElsewhere && m_isOpenElsewhere(path)) {
+    if (path != m_window.path() && isOpenElsewhere(path)) {
         m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
                              tr("The file is open in another window. Close that window first, or choose "
                                 "another name."));

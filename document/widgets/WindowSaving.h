@@ -32,6 +32,8 @@ public:
         m_isOpenElsewhere = std::move(isOpenElsewhere);
     }
 
+    bool isOpenElsewhere(const QString &path) const { return m_isOpenElsewhere && m_isOpenElsewhere(path); }
+
     void saveTo(const QString &path);
     void saveAs();
     void revert();
