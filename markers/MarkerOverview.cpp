@@ -136,6 +136,7 @@ std::vector<std::size_t> OverviewSequence::markersAt(const OverviewView &view, d
     std::stable_sort(found.begin(), found.end(),
                      [](const auto &a, const auto &b) { return a.first < b.first; });
     std::vector<std::size_t> indexes;
+    indexes.reserve(found.size());
     for (const auto &one : found)
         indexes.push_back(one.second);
     if (!indexes.empty())
