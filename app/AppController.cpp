@@ -8,6 +8,7 @@
 #include "app/Recovery.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
+#include "app/UserManual.h"
 #include "app/WebPages.h"
 #include "bridge/QVAppleEvents.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
@@ -414,10 +415,11 @@ void AppController::prefsToggleQCLogging(bool on)
 
 void AppController::helpUserManual()
 {
-    const QString manual =
-        StandardFolders::sharedLibrary() + QStringLiteral("/Documentation/Orvandel/Halvex User Manual.pdf");
-    if (QFileInfo::exists(manual))
-        Workspace::openFile(manual);
+    const Result<void> opened =
+        UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
+    if (!opened)
+        QVAlert::alertSheetWithMessageText(tr("The user manual cannot be shown"),
+                                           opened.message() + QLatin1Char('.'), nullptr);
 }
 
 void AppController::showAboutDialog()
