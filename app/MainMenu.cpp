@@ -178,6 +178,12 @@ void MainMenu::makeViewMenu()
     menu->addSeparator();
     m_sortMenu = menu->addMenu(tr("&Sort By"));
     connect(m_sortMenu, &QMenu::aboutToShow, this, &MainMenu::fillSortMenu);
+    menu->addSeparator();
+    m_markerOverview = menu->addAction(tr("Marker &Overview"));
+    m_markerOverview->setCheckable(true);
+    m_documentActions << m_markerOverview;
+    if (m_document)
+        connect(m_markerOverview, &QAction::triggered, m_document, &DocumentWindow::showMarkerOverview);
 }
 
 void MainMenu::makeMediaMenu()
@@ -307,6 +313,7 @@ void MainMenu::validate()
     for (QAction *const action : m_markerActions)
         action->setEnabled(showsPanes && m_document->selectedTab() == Tab::Markers);
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
+    m_markerOverview->setChecked(showsPanes && m_document->showsMarkerOverview());
     m_sortMenu->setEnabled(showsPanes);
     for (qsizetype i = 0; i < m_markerActions.size(); ++i)
         m_markerActions[i]->setEnabled(showsPanes && m_document->mayEdit() &&

@@ -72,6 +72,7 @@ private:
     QList<QAction *> m_markerActions; // edit markers
     QAction *m_qcLogging = nullptr;
     QAction *m_mediaUses = nullptr;
+    QAction *m_markerOverview = nullptr;
     QList<QAction *> m_reportActions;   // print and export reports
     QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab

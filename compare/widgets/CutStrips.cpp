@@ -1,6 +1,7 @@
 #include "compare/widgets/CutStrips.h"
 
 #include "compare/widgets/ChangeColors.h"
+#include "timecode/TimecodeRuler.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -30,21 +31,6 @@ constexpr int lettered = 12;     // height of a lane whose bars show names
 constexpr int grabbed = 4;       // pixels beside a narrow bar that still count as it
 constexpr double mostPixelsPerFrame = 24;
 constexpr double zoomStep = 1.25;
-
-/// Frames between the ticks of a ruler so that timecodes fit between them.
-std::int64_t tickStep(double framesPerSecond, double pixelsPerFrame, int width)
-{
-    const auto second = std::max<std::int64_t>(std::llround(framesPerSecond), 1);
-    for (const std::int64_t frames : {std::int64_t(1), std::int64_t(2), std::int64_t(5), std::int64_t(10)}) {
-        if (frames < second && double(frames) * pixelsPerFrame >= width)
-            return frames;
-    }
-    for (const int seconds : {1, 2, 5, 10, 30, 60, 120, 300, 600, 1800, 3600, 7200, 18000, 36000}) {
-        if (double(second * seconds) * pixelsPerFrame >= width)
-            return second * seconds;
-    }
-    return second * 86400;
-}
 
 } // namespace
 
@@ -302,7 +288,7 @@ void CutStrips::paintRuler(QPainter &painter, Which which) const
     painter.setPen(palette().color(QPalette::PlaceholderText));
     const double pixels = m_scale / cut.framesPerSecond();
     const int room = painter.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00:00")) + 16;
-    const std::int64_t step = tickStep(cut.framesPerSecond(), pixels, room);
+    const std::int64_t step = TimecodeRuler::step(cut.framesPerSecond(), pixels, room);
     const int line = isOld ? top + rulerHeight - 1 : top;
     painter.drawLine(0, line, viewport()->width(), line);
     auto frame = std::int64_t(std::max(frameAt(which, 0), 0.0)) / step * step;

@@ -7,6 +7,7 @@
 #include "document/widgets/ProgressSheet.h"
 #include "effects/widgets/EffectsPane.h"
 #include "interchange/widgets/MarkerListImport.h"
+#include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkersPane.h"
 #include "media/widgets/MediaPane.h"
 #include "support/files/FileUtilities.h"
@@ -689,6 +690,16 @@ void DocumentWindow::showMediaUses(bool isShown)
 bool DocumentWindow::showsMediaUses() const
 {
     return m_workbench && static_cast<MediaPane &>(pane(Tab::Media)).showsUses();
+}
+
+void DocumentWindow::showMarkerOverview(bool isShown)
+{
+    m_defaults.setValue(MarkerOverviewPanel::shownDefault, isShown);
+}
+
+bool DocumentWindow::showsMarkerOverview() const
+{
+    return MarkerOverviewPanel::isWanted(m_defaults);
 }
 
 QString DocumentWindow::folder() const

@@ -186,6 +186,9 @@ public Q_SLOTS:
     /// Shows or hides the columns of the Media tab that tell what the sequences use.
     void showMediaUses(bool isShown);
     bool showsMediaUses() const;
+    /// Shows or hides the overview above the marker table, in all windows.
+    void showMarkerOverview(bool isShown);
+    bool showsMarkerOverview() const;
     void verifyMediaListAt(const QString &path) { m_media.verifyListAt(path); }
     /// Asks for lists of notes and shows what each of them would add; markersImported() reports what was.
     void importNotes() { m_notes.runOpenPanel(); }

@@ -7,10 +7,13 @@
 #include "markers/widgets/MarkerAddSheet.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerOffsetSheet.h"
+#include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
 #include "markers/widgets/MarkerPresetSheet.h"
 #include "markers/widgets/MarkerPresetsSheet.h"
+#include "markers/widgets/MarkerStrip.h"
 #include "markers/widgets/MarkerTableModel.h"
+#include "markers/widgets/OverviewPopUp.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
 #include "table/widgets/ControlPopUp.h"
@@ -62,6 +65,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
     , m_ownOwners(new QCheckBox(tr("Own se&quence and clip"), this))
     , m_status(new QLabel(this))
+    , m_overview(new MarkerOverviewPanel(*this, workbench.document()))
 {
     m_filter->addItem(tr("All Colors"));
     for (int i = 0; i < markerModel().colorLabels().size(); ++i)
@@ -118,6 +122,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
             table().edit(index);
     });
     makeMenus();
+    placeOverview();
     updateControls();
 
     MarkerPresets *const presets = &workbench.markerPresets();
@@ -264,6 +269,17 @@ void MarkersPane::makeMenus()
     header->addAction(managePresets);
     m_markerPresetPopUp->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_markerPresetPopUp->addAction(managePresets);
+}
+
+/// Above the table, also for the keyboard.
+void MarkersPane::placeOverview()
+{
+    auto *const content = static_cast<QBoxLayout *>(layout());
+    content->insertWidget(content->indexOf(&table()), m_overview);
+    m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
+    setTabOrder(m_fields, &m_overview->popUp());
+    setTabOrder(&m_overview->popUp(), &m_overview->strip());
+    setTabOrder(&m_overview->strip(), &table());
 }
 
 MarkerTableModel &MarkersPane::markerModel() const
@@ -444,6 +460,8 @@ void MarkersPane::applyDefaultsChange(const QString &key)
         workbench().markerPresets().refreshMarkerPresets();
     else if (key == MarkerInventory::ownOwnersDefault)
         m_ownOwners->setChecked(m_defaults.boolean(key));
+    else if (key == MarkerOverviewPanel::shownDefault)
+        m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
 }
 
 void MarkersPane::commitEdit(int, const QString &column, const QString &text)

@@ -13,6 +13,7 @@ class QDialog;
 namespace vantrell
 {
 
+class MarkerOverviewPanel;
 class MarkerPresetPopUp;
 class MarkerTableModel;
 
@@ -28,6 +29,8 @@ public:
 
     void setEditingEnabled(bool enabled) override;
     void applyDefaultsChange(const QString &key) override;
+
+    MarkerOverviewPanel &overview() const { return *m_overview; }
 
 public Q_SLOTS:
     void addMarker();
@@ -76,6 +79,7 @@ private:
     void fillSequences();
     void goToRow(std::size_t row);
     void goToOfColor(MarkerNavigation::Direction direction);
+    void placeOverview();
     void setMarkerLabels(const QStringList &labels);
     void selectAdded(const RowList &added);
     void openPresetSheet();
@@ -94,6 +98,7 @@ private:
     QPushButton *m_fields;
     QCheckBox *m_ownOwners;
     QLabel *m_status;
+    MarkerOverviewPanel *m_overview;
     QString m_message;
     QPointer<QDialog> m_presetSheet;
     QPointer<QDialog> m_fieldsSheet;

@@ -1,0 +1,286 @@
+#include "markers/widgets/MarkerOverviewPanel.h"
+
+#include "document/MyDocument.h"
+#include "markers/MarkerKeys.h"
+#include "markers/widgets/MarkerStrip.h"
+#include "markers/widgets/OverviewPopUp.h"
+#include "support/settings/UserDefaults.h"
+#include "table/widgets/QVTableView.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableModel.h"
+
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QLabel>
+#include <QTextDocument>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr std::size_t rowsAtOnce = 500;
+constexpr int millisecondsAtOnce = 4;
+constexpr int firstItem = 2; // of the sequences in the pop-up
+
+} // namespace
+
+bool MarkerOverviewPanel::isWanted(const UserDefaults &defaults)
+{
+    const QVariant wanted = defaults.value(shownDefault);
+    return !wanted.isValid() || wanted.toBool();
+}
+
+MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
+    : QWidget(&pane)
+    , m_pane(pane)
+    , m_document(document)
+    , m_popUp(new OverviewPopUp(this))
+    , m_range(new QLabel(this))
+    , m_strip(new MarkerStrip(this))
+    , m_timer(new QTimer(this))
+{
+    m_popUp->setAccessibleName(tr("Sequence of the overview"));
+    m_range->setTextFormat(Qt::PlainText);
+    m_range->setForegroundRole(QPalette::PlaceholderText);
+    m_range->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    m_range->setFont(small);
+    constexpr int titleCharacters = 24;
+    const int range = QFontMetrics(small).horizontalAdvance(QStringLiteral("00:00:00:00 – 00:00:00:00")) + 8;
+    const int width = std::max(range, fontMetrics().averageCharWidth() * titleCharacters);
+    m_popUp->setFixedWidth(width);
+    m_range->setFixedWidth(width);
+
+    auto *const left = new QVBoxLayout;
+    left->setSpacing(4);
+    left->addWidget(m_popUp);
+    left->addWidget(m_range);
+    left->addStretch();
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(left);
+    layout->addWidget(m_strip, 1);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    m_timer->setSingleShot(true);
+    m_timer->setInterval(0);
+    connect(m_timer, &QTimer::timeout, this, &MarkerOverviewPanel::work);
+    const TableModel *const model = &m_pane.model();
+    connect(model, &QAbstractItemModel::modelReset, this, &MarkerOverviewPanel::rowsChanged);
+    connect(model, &QAbstractItemModel::dataChanged, this, &MarkerOverviewPanel::rowsChanged);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &MarkerOverviewPanel::rowsChanged);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &MarkerOverviewPanel::rowsChanged);
+    connect(&m_document, &MyDocument::sequenceMenuChanged, this, &MarkerOverviewPanel::rowsChanged);
+    connect(&m_pane, &TabPane::selectionChanged, this, &MarkerOverviewPanel::takeSelection);
+    connect(m_strip, &MarkerStrip::markerChosen, this, &MarkerOverviewPanel::choose);
+    connect(m_strip, &MarkerStrip::left, &m_pane.table(), qOverload<>(&QWidget::setFocus));
+    connect(m_popUp, &QComboBox::activated, this, [this](int item) {
+        m_chosen = item >= firstItem ? m_items[std::size_t(item - firstItem)].first : XmlNode();
+        if (!m_chosen)
+            takeSelection();
+        showSequence();
+    });
+}
+
+/// The overview that shows stays until the new one is there.
+void MarkerOverviewPanel::rowsChanged()
+{
+    m_isOutdated = true;
+    m_builder.reset();
+    if (isVisible() && m_pane.model().view().isVisible())
+        m_timer->start();
+}
+
+void MarkerOverviewPanel::showEvent(QShowEvent *)
+{
+    if (m_isOutdated)
+        rowsChanged();
+    else
+        takeSelection();
+}
+
+void MarkerOverviewPanel::work()
+{
+    const RowView &view = m_pane.model().view();
+    if (!isVisible() || !view.isVisible())
+        return;
+    if (!m_builder)
+        m_builder.emplace(view.list(), view.visibleRows());
+    QElapsedTimer time;
+    time.start();
+    while (!m_builder->work(rowsAtOnce)) {
+        if (time.elapsed() >= millisecondsAtOnce) {
+            m_timer->start();
+            return;
+        }
+    }
+    m_strip->setSequence(nullptr, nullptr, true); // what it draws goes
+    m_overview = m_builder->take();
+    m_builder.reset();
+    m_isOutdated = false;
+    markSelected();
+    fillPopUp();
+    showSequence();
+    revealSelected();
+}
+
+void MarkerOverviewPanel::markSelected()
+{
+    RowList selected;
+    const std::vector<std::size_t> rows = m_pane.selectedRows();
+    bool isFollowed = false;
+    for (const std::size_t row : rows) {
+        selected.push_back(m_pane.model().recordAt(int(row)));
+        isFollowed = isFollowed || selected.back()->get(MarkerKey::sequence) == m_shown;
+    }
+    m_overview.select(selected);
+    const XmlNode sequence = selected.empty() ? XmlNode() : selected.front()->get(MarkerKey::sequence);
+    if (isFollowed && m_shown)
+        m_followed = m_shown;
+    else if (sequence)
+        m_followed = sequence;
+}
+
+void MarkerOverviewPanel::takeSelection()
+{
+    if (m_isOutdated || !isVisible())
+        return;
+    markSelected();
+    showSequence();
+    m_strip->updateSelection();
+    revealSelected();
+}
+
+void MarkerOverviewPanel::revealSelected()
+{
+    const OverviewSequence *const sequence = m_strip->sequence();
+    if (!sequence)
+        return;
+    const auto selected = std::find_if(sequence->markers.begin(), sequence->markers.end(),
+                                       [](const OverviewMarker &marker) { return marker.isSelected; });
+    if (selected != sequence->markers.end())
+        m_strip->reveal(std::size_t(selected - sequence->markers.begin()));
+}
+
+/// Shows the sequence that the user has chosen or that is followed.
+void MarkerOverviewPanel::showSequence()
+{
+    const auto isThere = [this](XmlNode sequence) {
+        return sequence && std::any_of(m_items.begin(), m_items.end(),
+                                       [sequence](const auto &item) { return item.first == sequence; });
+    };
+    if (!isThere(m_chosen))
+        m_chosen = XmlNode();
+    XmlNode wanted = m_chosen ? m_chosen : isThere(m_followed) ? m_followed : XmlNode();
+    if (!wanted && m_overview.largest())
+        wanted = m_overview.largest()->element;
+    if (!wanted && !m_items.empty())
+        wanted = m_items.front().first;
+    const OverviewSequence *sequence = wanted ? m_overview.find(wanted) : nullptr;
+    if (!sequence && wanted) {
+        if (!(m_empty.element == wanted))
+            m_empty = {wanted, SequenceTiming::ofFirstTexts(wanted), QString(), {}};
+        sequence = &m_empty;
+    }
+    if (sequence != m_strip->sequence() || !(wanted == m_shown))
+        m_strip->setSequence(sequence, wanted ? clipsOf(wanted) : nullptr, wanted == m_shown);
+    m_shown = wanted;
+    if (!m_chosen)
+        m_followed = wanted;
+
+    const auto item = std::find_if(m_items.begin(), m_items.end(),
+                                   [wanted](const auto &one) { return one.first == wanted; });
+    const QString title = item == m_items.end() ? QString() : item->second;
+    m_popUp->setCurrentIndex(m_chosen ? int(item - m_items.begin()) + firstItem : 0);
+    m_popUp->setFollowedTitle(title.isEmpty() ? tr("No sequence") : title);
+    m_popUp->setAccessibleDescription(title);
+    m_popUp->setToolTip(Qt::convertFromPlainText(
+        tr("%1\nChoose the sequence of the overview, or let it follow the selected row").arg(title).trimmed(),
+        Qt::WhiteSpaceNormal));
+    const auto duration = sequence ? clipsOf(wanted)->duration : 0;
+    m_range->setText(duration > 0 ? tr("%1 – %2").arg(m_strip->timecode(0), m_strip->timecode(duration))
+                                  : QString());
+}
+
+/// The sequences of the document's menu, and others that own markers; those of one name with their timecodes.
+void MarkerOverviewPanel::fillPopUp()
+{
+    std::vector<std::pair<XmlNode, QString>> items;
+    const MenuPtr menu = m_document.sequenceMenu();
+    std::unordered_map<XmlNode, bool> known;
+    if (menu) {
+        for (const MenuItem &item : *menu) {
+            if (item.element && item.element.isAttached() && known.emplace(item.element, true).second)
+                items.emplace_back(item.element, item.title);
+        }
+    }
+    for (const OverviewSequence &sequence : m_overview.sequences()) {
+        if (known.emplace(sequence.element, true).second)
+            items.emplace_back(sequence.element, sequence.name);
+    }
+    QHash<QString, int> uses;
+    for (const auto &item : items)
+        ++uses[item.second];
+    for (auto &item : items) {
+        if (uses.value(item.second) > 1) {
+            const auto timing = SequenceTiming::ofFirstTexts(item.first);
+            RowRecord record;
+            timing.store(record);
+            item.second += QStringLiteral(" (%1)").arg(MyDocument::timecodeFromFrameCount(0, record));
+        }
+    }
+    const bool isEqual = items.size() == m_items.size() && m_popUp->count() > 0 &&
+                         std::equal(items.begin(), items.end(), m_items.begin(), [](auto &a, auto &b) {
+                             return a.first == b.first && a.second == b.second;
+                         });
+    if (isEqual)
+        return;
+    m_items = std::move(items);
+    m_popUp->clear();
+    m_popUp->addItem(tr("Sequence of the Selected Row"));
+    for (const auto &item : m_items)
+        m_popUp->addItem(item.second);
+    m_popUp->insertSeparator(1);
+}
+
+void MarkerOverviewPanel::choose(std::size_t marker, bool toggles)
+{
+    const RowRecordPtr record = m_strip->sequence()->markers[marker].record;
+    m_pane.table().commitEditing();
+    const RowList &rows = m_pane.model().view().visibleRows();
+    const auto found = std::find(rows.begin(), rows.end(), record);
+    if (found == rows.end()) {
+        m_pane.showMessage(tr("“%1” is hidden by the filter").arg(record->get(MarkerKey::name)));
+        return;
+    }
+    const auto row = std::size_t(found - rows.begin());
+    std::vector<std::size_t> selected = {row};
+    if (toggles) {
+        selected = m_pane.selectedRows();
+        const auto place = std::lower_bound(selected.begin(), selected.end(), row);
+        if (place != selected.end() && *place == row)
+            selected.erase(place);
+        else
+            selected.insert(place, row);
+    }
+    m_pane.selectRows(selected);
+    m_pane.scrollToRow(row);
+}
+
+std::shared_ptr<const SequenceClips> MarkerOverviewPanel::clipsOf(XmlNode sequence)
+{
+    std::shared_ptr<const SequenceClips> &clips = m_clips[sequence];
+    if (!clips)
+        clips = std::make_shared<SequenceClips>(SequenceClips::read(sequence));
+    return clips;
+}
+
+} // namespace vantrell
