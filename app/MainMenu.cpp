@@ -144,6 +144,10 @@ void MainMenu::makeEditMenu()
                              &DocumentWindow::showMarkerFieldsDialog)
                       << add(menu, tr("Create Marker &Preset…"), {}, m_document,
                              &DocumentWindow::showMarkerPresetDialog);
+    menu->addSeparator();
+    QAction *const preferences = add(menu, tr("Prefere&nces…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+                                     &m_controller, &AppController::showPreferences);
+    preferences->setMenuRole(QAction::PreferencesRole);
 }
 
 void MainMenu::makeViewMenu()

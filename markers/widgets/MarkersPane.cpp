@@ -7,6 +7,7 @@
 #include "markers/widgets/MarkerTableModel.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/SelectableLabel.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/TableIcons.h"
@@ -72,6 +73,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
+    makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         table().commitEditing();
@@ -90,6 +92,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
             table().edit(index);
+        else
+            tellWhyNotEditable();
     });
     makeMenus();
     updateControls();

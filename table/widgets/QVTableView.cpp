@@ -136,6 +136,14 @@ void QVTableView::commitEditing()
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
+/// A table without a current row makes the first one it; what is in view stays there.
+void QVTableView::focusInEvent(QFocusEvent *event)
+{
+    setAutoScroll(false);
+    QTableView::focusInEvent(event);
+    setAutoScroll(true);
+}
+
 void QVTableView::keyPressEvent(QKeyEvent *event)
 {
     if (isEditing()) {
