@@ -125,7 +125,6 @@ private:
     void cascade(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();
-    void stayOpen();
     void gatherLogsInto(const QString &folder);
     QString startFolder() const;
 
@@ -139,7 +138,8 @@ private:
     QPointer<AboutPanel> m_aboutPanel;
     QPointer<PreferencesWindow> m_preferences;
     QPointer<QVFCPProjectLoader> m_projectLoader;
-    bool m_quitting = false;
+    enum class Quitting { No, Asking, Closing };
+    Quitting m_quitting = Quitting::No;
     std::unique_ptr<QuitSequence> m_quit;
 };
 

@@ -17,6 +17,8 @@
 #include <memory>
 #include <new>
 #include <set>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace vantrell
@@ -33,8 +35,10 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-/// Comparisons.
+/// Comparisons, which the library makes between the values of an enumeration and between attributes.
 constexpr std::int64_t maximumValuesCost = 50'000'000;
+constexpr std::int64_t identifierCost = 50; // such comparisons; of two that are identifiers
+constexpr std::int64_t namespaceCost = 10;
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
@@ -76,6 +80,7 @@ public:
         sax->reference = reference;
         sax->getEntity = getEntity;
         sax->getParameterEntity = getParameterEntity;
+        sax->attributeDecl = attributeDeclaration;
         sax->entityDecl = entityDeclaration;
         sax->unparsedEntityDecl = [](void *parser, const xmlChar *, const xmlChar *, const xmlChar *,
                                      const xmlChar *) { of(parser)->m_hasEntities = true; };
@@ -96,7 +101,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.tooManyValues = m_enumerations.cost() > maximumValuesCost;
+        outcome.tooManyValues = hasTooManyValues();
         outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
@@ -133,7 +138,7 @@ private:
             const int size = self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
             if (size > 0 && self->m_isBeforeElements)
                 self->m_enumerations.note({buffer, std::size_t(size)});
-            return self->m_enumerations.cost() > maximumValuesCost ? 0 : size;
+            return self->hasTooManyValues() ? 0 : size;
         } catch (const std::exception &) {
             self->m_outOfMemory = true;
             return 0;
@@ -202,6 +207,36 @@ private:
         Parse *const self = of(context);
         return self->m_parameterEntities.contains(viewOf(name)) ? &self->m_emptyEntity : nullptr;
     }
+
+    /// The library compares a declared attribute with all identifiers of its element, and walks past its
+    /// namespaces.
+    static void attributeDeclaration(void *context, const xmlChar *element, const xmlChar *name, int type,
+                                     int use, const xmlChar *value, xmlEnumeration *values)
+    {
+        Parse *const self = of(context);
+        const std::string_view text = viewOf(name);
+        self->guard([&] {
+            Declared &declared = self->m_declared[std::string(viewOf(element))];
+            if (text == "xmlns" || text.starts_with("xmlns:") || text.ends_with(":xmlns"))
+                ++declared.namespaces;
+            else
+                self->m_attributesCost += namespaceCost * declared.namespaces;
+            if (type == XML_ATTRIBUTE_ID)
+                self->m_attributesCost += identifierCost * ++declared.identifiers;
+        });
+        if (self->hasTooManyValues())
+            xmlFreeEnumeration(values); // the input ends, too
+        else
+            xmlSAX2AttributeDecl(context, element, name, type, use, value, values);
+    }
+
+    /// How many attributes of an element are.
+    struct Declared {
+        std::int64_t identifiers = 0;
+        std::int64_t namespaces = 0;
+    };
+
+    bool hasTooManyValues() const { return m_enumerations.cost() + m_attributesCost > maximumValuesCost; }
 
     static void entityDeclaration(void *context, const xmlChar *name, int type, const xmlChar *,
                                   const xmlChar *, xmlChar *)
@@ -577,6 +612,8 @@ private:
     const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
     long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
     XmlEnumerations m_enumerations;
+    std::unordered_map<std::string, Declared> m_declared; // by element
+    std::int64_t m_attributesCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing

@@ -71,6 +71,14 @@ void WindowSaving::saveTo(const QString &path)
         });
 }
 
+bool WindowSaving::isOpenElsewhere(const QString &path) const
+{
+    const auto isOpen = std::make_shared<bool>(false);
+    if (m_openElsewhere)
+        m_openElsewhere(path, [isOpen](bool open) { *isOpen = open; });
+    return *isOpen;
+}
+
 void WindowSaving::write(const QString &path)
 {
     MyDocument *const document = m_window.document();

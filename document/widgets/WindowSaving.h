@@ -31,6 +31,9 @@ public:
     using OpenElsewhere = std::function<void(const QString &path, std::function<void(bool isOpen)> found)>;
     void setOpenElsewhere(OpenElsewhere openElsewhere) { m_openElsewhere = std::move(openElsewhere); }
 
+    /// Whether a file is open in another window, as far as the disk answers at once.
+    bool isOpenElsewhere(const QString &path) const;
+
     void saveTo(const QString &path);
     void saveAs();
     void revert();

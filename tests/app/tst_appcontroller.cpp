@@ -293,6 +293,67 @@ private Q_SLOTS:
         QVERIFY(!m_controller->startWindow().isVisible());
     }
 
+    /// While Quit asks about one project, others are reverted and edited, or their windows closed.
+    void quittingAsksAgainAboutWhatHappenedMeanwhile_data()
+    {
+        QTest::addColumn<bool>("revertsFirst");
+        QTest::newRow("given up, then reverted and edited as often") << true;
+        QTest::newRow("another window is closed, which is cancelled") << false;
+    }
+
+    void quittingAsksAgainAboutWhatHappenedMeanwhile()
+    {
+        QFETCH(bool, revertsFirst);
+        start();
+        std::vector<QPointer<DocumentWindow>> windows;
+        for (const char *const name : {"a", "b", "unchanged"}) {
+            m_controller->applicationOpenFile(copySample(m_home->path(QString::fromLatin1(name))));
+            windows.emplace_back(m_controller->documentWindows().back());
+            QTRY_COMPARE(windows.back()->state(), DocumentWindow::State::Ready);
+            if (windows.size() > 2)
+                break;
+            windows.back()->toolbarMarkers();
+            QVERIFY(
+                editCell(*windows.back(), Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        }
+        const QString lose = QStringLiteral("Don’t Save");
+        m_controller->quit();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Review…")));
+        const auto boxOf = [](const DocumentWindow *window) {
+            for (QWidget *const widget : QApplication::topLevelWidgets()) {
+                auto *const box = qobject_cast<QMessageBox *>(widget);
+                if (box && box->isVisible() && box->parentWidget() == window)
+                    return box;
+            }
+            return static_cast<QMessageBox *>(nullptr);
+        };
+        QTRY_VERIFY(boxOf(windows[0]));
+        if (revertsFirst) {
+            QVERIFY(press(boxOf(windows[0]), lose));
+            QTRY_VERIFY(boxOf(windows[1]));
+            windows[0]->revertWithoutQuestion();
+            QTRY_VERIFY(windows[0]->state() == DocumentWindow::State::Ready &&
+                        !windows[0]->document()->isEdited());
+            windows[0]->toolbarMarkers();
+            QVERIFY(editCell(*windows[0], Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Other")));
+            QVERIFY(press(boxOf(windows[1]), lose));
+            QTRY_VERIFY(boxOf(windows[0]));
+            QVERIFY(press(boxOf(windows[0]), QStringLiteral("Cancel")));
+            QVERIFY(windows[0] && windows[1] && windows[2]);
+        } else {
+            windows[2]->close();
+            QTRY_VERIFY(!windows[2]);
+            windows[1]->close();
+            QTRY_VERIFY(boxOf(windows[1]));
+            QVERIFY(press(boxOf(windows[1]), QStringLiteral("Cancel")));
+            QVERIFY(press(boxOf(windows[0]), lose));
+            QTRY_VERIFY(boxOf(windows[1]));
+            QVERIFY(windows[0]->isVisible() && press(boxOf(windows[1]), lose));
+            QTRY_VERIFY(!windows[0] && !windows[1]);
+        }
+    }
+
     void quittingAsksAboutAllBeforeOneCloses_data()
     {
         QTest::addColumn<QStringList>("answers"); // to the questions as they come
