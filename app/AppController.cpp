@@ -3,9 +3,12 @@
 #include "app/AboutPanel.h"
 #include "app/ApplicationWatch.h"
 #include "app/MainMenu.h"
+#include "app/PreferenceKeys.h"
+#include "app/PreferencesWindow.h"
 #include "app/QuitSequence.h"
 #include "app/RecentFiles.h"
 #include "app/Recovery.h"
+#include "app/SampleProject.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
 #include "app/UserManual.h"
@@ -22,7 +25,11 @@
 #include "support/files/StandardFolders.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 #include "support/widgets/WindowAlertPresenter.h"
+#include "table/widgets/TabPane.h"
+#include "table/widgets/TableFont.h"
 #include "table/widgets/TableIcons.h"
 #include "workbench/Workbench.h"
 
@@ -41,45 +48,58 @@ namespace vantrell
 namespace
 {
 
-const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 const QString logQCKey = QStringLiteral("logQC");
-const QString journalKey = QStringLiteral("journal");
 
 constexpr int startupActionMs = 1000;
-constexpr std::chrono::milliseconds volumeTimeout{500}; // an unmounted network volume may never answer
-constexpr int cascadeStep = 28;                         // pixels
+constexpr int cascadeStep = 28; // pixels
 
 QString qcListPath()
 {
     return StandardFolders::preferences() + QStringLiteral("/com.orvandel.qc.plist");
 }
 
-/// The absolute path without "." and ".."; where these follow a symbolic link, its target counts.
+QString cleanPath(const QString &path)
+{
+    return QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+bool goesUp(const QString &path)
+{
+    return path.contains(QStringLiteral("/../")) || path.startsWith(QStringLiteral("../"));
+}
+
+/// The absolute path without "." and ".."; where these follow a symbolic link, its target counts. Waits for
+/// the disk.
 QString absolutePath(const QString &path)
 {
     const QFileInfo file(QDir::current().absoluteFilePath(path));
-    const bool goesUp = file.filePath().contains(QStringLiteral("/../"));
-    const QString folder = goesUp ? QFileInfo(file.path()).canonicalFilePath() : QString();
-    return folder.isEmpty() ? QDir::cleanPath(file.filePath()) : QDir(folder).filePath(file.fileName());
+    const QString folder = goesUp(path) ? QFileInfo(file.path()).canonicalFilePath() : QString();
+    return folder.isEmpty() ? cleanPath(path) : QDir(folder).filePath(file.fileName());
 }
 
-/// The window of the file at that path; null without one, or when a volume does not answer.
-DocumentWindow *windowAt(const QString &path, const std::vector<DocumentWindow *> &windows)
+/// The path to open before the disk has said where it leads.
+QString openedPath(const QString &path)
 {
-    QStringList files;
-    for (DocumentWindow *const window : windows) {
-        if (window->path() == path)
-            return window;
-        files.append(window->path());
+    return goesUp(path) ? QDir::current().absoluteFilePath(path) : cleanPath(path);
+}
+
+/// What the disk says of a path: where it leads, and which of the files is the same one, -1 for none.
+struct FoundFile {
+    QString path;
+    qsizetype index = -1;
+};
+
+FoundFile findFile(const QString &path, const QStringList &files)
+{
+    const QString absolute = absolutePath(path);
+    qsizetype index = files.indexOf(absolute);
+    for (qsizetype i = 0; index < 0 && i < files.size(); ++i) {
+        if (FileUtilities::isSameFile(absolute, files[i]))
+            index = i;
     }
-    const auto find = [path, files] {
-        qsizetype index = 0;
-        while (index < files.size() && !FileUtilities::isSameFile(path, files[index]))
-            ++index;
-        return index;
-    };
-    const qsizetype index = answerWithin<qsizetype>(volumeTimeout, find).value_or(files.size());
-    return index < files.size() ? windows[std::size_t(index)] : nullptr;
+    return {absolute, index};
+}
+
 }
 
 QVariantMap qcList()
@@ -100,15 +120,21 @@ AppController::AppController(UserDefaults &defaults)
 {
     QVAlert::setPresenter(std::make_shared<WindowAlertPresenter>(m_defaults));
     QVariantMap registered = defaultWebAddresses();
-    registered.insert(showOpenDialogKey, 1);
-    registered.insert(journalKey, true);
+    registered.insert(PreferenceKey::showOpenDialog, 1);
+    registered.insert(PreferenceKey::journal, true);
     m_defaults.registerDefaults(registered);
+    TableFont::apply(m_defaults);
+    connect(&m_defaults, &UserDefaults::changed, this, [this](const QString &key) {
+        if (key == TableFont::familyKey || key == TableFont::sizeKey)
+            TableFont::apply(m_defaults);
+    });
 
     m_recentFiles = std::make_unique<RecentFiles>(m_defaults);
     m_finalCutPro = std::make_unique<ApplicationWatch>(QVAppleEvents::finalCutProIdentifier());
-    m_startWindow = std::make_unique<StartWindow>(*m_recentFiles);
+    m_startWindow = std::make_unique<StartWindow>(*m_recentFiles, m_defaults);
     new MainMenu(*this, *m_startWindow, nullptr);
     connect(m_startWindow.get(), &StartWindow::openRequested, this, &AppController::openFile);
+    connect(m_startWindow.get(), &StartWindow::sampleRequested, this, &AppController::openSampleProject);
     connect(m_startWindow.get(), &StartWindow::filesChosen, this, &AppController::openFiles,
             Qt::QueuedConnection);
     connect(m_startWindow.get(), &StartWindow::recentFileChosen, this, &AppController::openRecentFile,
@@ -123,6 +149,7 @@ AppController::~AppController()
 {
     QVAlert::closeAll();
     m_recovery.reset();
+    delete m_preferences;
     for (const QPointer<DocumentWindow> &window : m_windows)
         delete window;
     QVAlert::setPresenter(nullptr);
@@ -152,7 +179,7 @@ void AppController::applicationDidFinishLaunching()
 
 void AppController::performStartupAction()
 {
-    if (m_defaults.integer(showOpenDialogKey) == 1)
+    if (m_defaults.integer(PreferenceKey::showOpenDialog) == 1)
         openFile();
 }
 
@@ -182,7 +209,12 @@ void AppController::openFile()
 QString AppController::startFolder() const
 {
     const QString last = m_recentFiles->paths().value(0);
-    return last.isEmpty() ? StandardFolders::documents() : QFileInfo(last).path();
+    const QString folder = last.isEmpty() ? QString() : QFileInfo(last).path();
+    // The panel would wait for a folder that does not answer.
+    const auto look = [folder] { return QFileInfo::exists(folder); };
+    return !folder.isEmpty() && answerWithin<bool>(mainThreadPatience, look).value_or(false)
+               ? folder
+               : StandardFolders::documents();
 }
 
 void AppController::openFiles(const QStringList &paths)
@@ -208,6 +240,40 @@ void AppController::openRecentFile(const QString &path)
         openDocument(path, DocumentType::finalCutProProject);
     else
         applicationOpenFile(path);
+}
+
+void AppController::openSampleProject()
+{
+    BackgroundWork::run([self = QPointer(this), folder = SampleProject::folder()] {
+        const Result<QString> sample = SampleProject::prepare(folder);
+        MainThread::post([self, sample] {
+            if (!self)
+                return;
+            if (sample)
+                self->applicationOpenFile(sample.value());
+            else
+                self->tell(tr("The sample project could not be copied: %1").arg(sample.message()));
+        });
+    });
+}
+
+void AppController::showPreferences()
+{
+    if (!m_preferences)
+        m_preferences = new PreferencesWindow(m_defaults);
+    bringToFront(*m_preferences);
+}
+
+/// In the window that commands apply to: below its table, or where it tells of its file.
+void AppController::tell(const QString &text)
+{
+    DocumentWindow *const window = currentWindow();
+    if (!window)
+        m_startWindow->showMessage(text);
+    else if (window->state() == DocumentWindow::State::Failed)
+        window->setNotice(text + QLatin1Char('.'));
+    else
+        window->currentPane().showMessage(text);
 }
 
 void AppController::openFCPProject()
@@ -237,25 +303,42 @@ bool AppController::applicationOpenFile(const QString &path)
 /// A file may be open in two windows: as it is on disk, and as the project that Final Cut Pro has open.
 bool AppController::openDocument(const QString &path, const QString &typeName)
 {
-    const QString absolute = absolutePath(path);
-    if (DocumentWindow *const open = windowOf(absolute, typeName)) {
-        bringToFront(*open);
+    const auto opened = std::make_shared<QPointer<DocumentWindow>>();
+    const auto late = [this, opened](DocumentWindow *open) {
+        if (open)
+            closeDuplicate(*opened, *open);
+    };
+    const Place found = place(path, windowsOf(typeName), late).value_or(Place{openedPath(path)});
+    if (found.window) {
+        bringToFront(*found.window);
         return true;
     }
     DocumentWindow *const window = makeWindow();
+    *opened = window;
     connect(
         window, &DocumentWindow::loaded, m_recovery.get(), [this, window] { m_recovery->offerFor(*window); },
         Qt::SingleShotConnection);
-    return window->open(absolute, typeName);
+    return window->open(found.path, typeName);
+}
+
+/// Unless it has been edited since.
+void AppController::closeDuplicate(DocumentWindow *duplicate, DocumentWindow &window)
+{
+    if (!duplicate || duplicate == &window || duplicate->isClosing() ||
+        (duplicate->document() && duplicate->document()->isEdited()))
+        return;
+    duplicate->close();
+    bringToFront(window);
 }
 
 /// Opens the project of a journal with its changes, in its own window if it is open already.
 bool AppController::restoreChanges(JournalFolder::Restorable changes)
 {
     const JournalHeader header = changes.contents.header;
-    if (DocumentWindow *const open = windowOf(header.projectPath, header.typeName)) {
-        bringToFront(*open);
-        return open->restoreChanges(std::move(changes));
+    const std::optional<Place> found = place(header.projectPath, windowsOf(header.typeName));
+    if (found && found->window) {
+        bringToFront(*found->window);
+        return found->window->restoreChanges(std::move(changes));
     }
     return makeWindow()->openWithChanges(header.projectPath, header.typeName, std::move(changes));
 }
@@ -275,7 +358,9 @@ DocumentWindow *AppController::makeWindow()
             m_quitting = Quitting::No;
     });
     connect(window, &QWidget::windowTitleChanged, this, &AppController::updateTitles);
-    window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
+    window->setOpenElsewhere([this, window](const QString &file, const std::function<void(bool)> &found) {
+        findOpenElsewhere(file, *window, found);
+    });
     window->setOtherWindows([this, window] { return windowsBeside(*window); });
     cascade(*window);
     window->show();
@@ -288,26 +373,61 @@ void AppController::noteLoaded(DocumentWindow &window)
     m_recentFiles->add(window.path(), window.typeName() == DocumentType::finalCutProProject);
 }
 
-DocumentWindow *AppController::windowOf(const QString &path, const QString &typeName) const
+/// The windows in which a file of that type could be open.
+std::vector<DocumentWindow *> AppController::windowsOf(const QString &typeName) const
 {
     const bool isProject = typeName == DocumentType::finalCutProProject;
-    std::vector<DocumentWindow *> windows;
-    for (DocumentWindow *const window : documentWindows()) {
+    std::vector<DocumentWindow *> windows = documentWindows();
+    std::erase_if(windows, [isProject](const DocumentWindow *window) {
         const bool isOpenAsProject = window->typeName() == DocumentType::finalCutProProject;
-        if (isOpenAsProject == isProject && window->state() != DocumentWindow::State::Failed)
-            windows.push_back(window);
-    }
-    return windowAt(path, windows);
+        return isOpenAsProject != isProject || window->state() == DocumentWindow::State::Failed;
+    });
+    return windows;
 }
 
-bool AppController::isOpenElsewhere(const QString &path, const DocumentWindow &window) const
+/// Nothing when the disk does not answer at once; then `late` gets the window, or null, on the main thread
+/// when it does.
+std::optional<AppController::Place> AppController::place(const QString &path,
+                                                         const std::vector<DocumentWindow *> &windows,
+                                                         const std::function<void(DocumentWindow *)> &late)
 {
-    std::vector<DocumentWindow *> others;
-    for (DocumentWindow *const other : documentWindows()) {
-        if (other != &window && other->state() != DocumentWindow::State::Failed)
-            others.push_back(other);
+    QStringList files;
+    std::vector<QPointer<DocumentWindow>> kept;
+    for (DocumentWindow *const window : windows) {
+        files.append(window->path());
+        kept.emplace_back(window);
     }
-    return windowAt(path, others) != nullptr;
+    const auto windowAt = [kept](qsizetype index) {
+        DocumentWindow *const window = index < 0 ? nullptr : kept[std::size_t(index)].data();
+        return window && !window->isClosing() ? window : nullptr;
+    };
+    if (!goesUp(path)) {
+        const QString clean = cleanPath(path);
+        const qsizetype index = files.indexOf(clean);
+        if (index >= 0 || files.isEmpty())
+            return Place{clean, windowAt(index)};
+    }
+    const auto find = [path, files] { return findFile(path, files); };
+    const auto answerLate = [windowAt, late](const FoundFile &found) {
+        MainThread::post([windowAt, late, index = found.index] {
+            if (late)
+                late(windowAt(index));
+        });
+    };
+    const std::optional<FoundFile> found = answerWithin<FoundFile>(mainThreadPatience, find, answerLate);
+    return found ? std::optional(Place{found->path, windowAt(found->index)}) : std::nullopt;
+}
+
+void AppController::findOpenElsewhere(const QString &path, const DocumentWindow &window,
+                                      const std::function<void(bool)> &found) const
+{
+    std::vector<DocumentWindow *> others = documentWindows();
+    std::erase_if(others, [&window](const DocumentWindow *other) {
+        return other == &window || other->state() == DocumentWindow::State::Failed;
+    });
+    const auto late = [found](DocumentWindow *open) { found(open != nullptr); };
+    if (const std::optional<Place> there = place(path, others, late))
+        found(there->window != nullptr);
 }
 
 /// The other windows whose projects are ready.
@@ -420,6 +540,8 @@ void AppController::closeNextWindow()
         return;
     }
     QVAlert::closeAll();
+    if (m_preferences)
+        m_preferences->close(); // takes over what is being typed
     QCoreApplication::quit();
 }
 
@@ -448,8 +570,7 @@ void AppController::helpUserManual()
     const Result<void> opened =
         UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
     if (!opened)
-        QVAlert::alertSheetWithMessageText(tr("The user manual cannot be shown"),
-                                           opened.message() + QLatin1Char('.'), nullptr);
+        tell(tr("The user manual cannot be shown: %1").arg(opened.message()));
 }
 
 void AppController::showAboutDialog()

@@ -10,7 +10,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QFileDialog;
@@ -21,6 +23,7 @@ namespace vantrell
 class AboutPanel;
 class ApplicationWatch;
 class DocumentWindow;
+class PreferencesWindow;
 class QVFCPProjectLoader;
 class QuitSequence;
 class RecentFiles;
@@ -48,7 +51,8 @@ public:
     /// Shows the open panel if the default "showOpenDialogAtStartup" is 1.
     void performStartupAction();
     /// Opens the file in a new window, or brings the window to the front that has it open. False for a file
-    /// of unknown type; its window reports any other error.
+    /// of unknown type; its window reports any other error. When it turns out later that a slow volume's file
+    /// is open already, under another name, the new window closes again.
     bool applicationOpenFile(const QString &path);
     void openFiles(const QStringList &paths);
     /// Another process was started: opens its files, or comes to the front if there are none.
@@ -75,6 +79,8 @@ public:
 public Q_SLOTS:
     /// Shows the open panel.
     void openFile();
+    /// Opens a copy of the sample project in the user's application support folder; an earlier copy is kept.
+    void openSampleProject();
     /// Shows the list of the projects that are open in Final Cut Pro.
     void openFCPProject();
     void sendToFCP();
@@ -82,7 +88,9 @@ public Q_SLOTS:
     /// stay open.
     void quit();
 
+    void showPreferences();
     void prefsToggleQCLogging(bool on);
+    /// Opens the manual. Where its file does not exist, a line in the window tells that.
     void helpUserManual();
     void helpHalvexHome() { openWebPage(WebPage::HalvexHome, m_defaults); }
     void helpSupport() { openWebPage(WebPage::Support, m_defaults); }
@@ -97,13 +105,24 @@ public Q_SLOTS:
 private:
     inline static const QString programName = QStringLiteral("Vantrell");
 
+    /// A file as it is among those of the windows.
+    struct Place {
+        QString path;                     ///< absolute, without "." and ".."
+        DocumentWindow *window = nullptr; ///< that has it open; null for none
+    };
+
     bool openDocument(const QString &path, const QString &typeName);
+    void closeDuplicate(DocumentWindow *duplicate, DocumentWindow &window);
+    void tell(const QString &text);
     DocumentWindow *makeWindow();
     bool restoreChanges(JournalFolder::Restorable changes);
     Result<void> openProject(const QString &path);
     void noteLoaded(DocumentWindow &window);
-    DocumentWindow *windowOf(const QString &path, const QString &typeName) const;
-    bool isOpenElsewhere(const QString &path, const DocumentWindow &window) const;
+    std::vector<DocumentWindow *> windowsOf(const QString &typeName) const;
+    static std::optional<Place> place(const QString &path, const std::vector<DocumentWindow *> &windows,
+                                      const std::function<void(DocumentWindow *)> &late = {});
+    void findOpenElsewhere(const QString &path, const DocumentWindow &window,
+                           const std::function<void(bool)> &found) const;
     std::vector<DocumentWindow *> windowsBeside(const DocumentWindow &window) const;
     void cascade(DocumentWindow &window) const;
     void updateTitles();
@@ -120,6 +139,7 @@ private:
     std::vector<QPointer<DocumentWindow>> m_windows; // including those that are closing
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;
+    QPointer<PreferencesWindow> m_preferences;
     QPointer<QVFCPProjectLoader> m_projectLoader;
     enum class Quitting { No, Asking, Closing };
     Quitting m_quitting = Quitting::No;

@@ -136,10 +136,10 @@ void MainMenu::makeEditMenu()
                       << add(menu, tr("Pa&ste"), QKeySequence::Paste, m_document, &DocumentWindow::paste)
                       << add(menu, tr("Select &All"), QKeySequence::SelectAll, m_document,
                              &DocumentWindow::selectAllRows);
-    m_documentActions << add(menu, tr("F&ind"), QKeySequence::Find, m_document, &DocumentWindow::find)
+    m_documentActions << add(menu, tr("&Find"), QKeySequence::Find, m_document, &DocumentWindow::find)
                       << add(menu, tr("&Go to Timecode…"), QKeySequence(Qt::CTRL | Qt::Key_G), m_document,
                              &DocumentWindow::goToTimecode);
-    m_markerActions << add(menu, tr("&Next of Same Color"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down),
+    m_markerActions << add(menu, tr("Ne&xt of Same Color"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down),
                            m_document, &DocumentWindow::goToNextOfColor)
                     << add(menu, tr("Pre&vious of Same Color"),
                            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), m_document,
@@ -157,7 +157,11 @@ void MainMenu::makeEditMenu()
     m_documentActions
         << add(menu, tr("Mar&ker Fields…"), {}, m_document, &DocumentWindow::showMarkerFieldsDialog)
         << add(menu, tr("Create Marker &Preset…"), {}, m_document, &DocumentWindow::showMarkerPresetDialog)
-        << add(menu, tr("Mana&ge Marker Presets…"), {}, m_document, &DocumentWindow::showMarkerPresetsDialog);
+        << add(menu, tr("Manage Marker Prese&ts…"), {}, m_document, &DocumentWindow::showMarkerPresetsDialog);
+    menu->addSeparator();
+    QAction *const preferences = add(menu, tr("Prefere&nces…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+                                     &m_controller, &AppController::showPreferences);
+    preferences->setMenuRole(QAction::PreferencesRole);
 }
 
 void MainMenu::makeViewMenu()

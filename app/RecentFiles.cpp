@@ -1,8 +1,11 @@
 #include "app/RecentFiles.h"
 
+#include "media/AnswerWithin.h"
 #include "support/settings/UserDefaults.h"
+#include "support/threads/MainThread.h"
 
 #include <QFileInfo>
+#include <QPointer>
 
 namespace vantrell
 {
@@ -67,9 +70,20 @@ void RecentFiles::store(const QStringList &paths, const QStringList &projects)
 
 void RecentFiles::forgetIfGone(const QString &path)
 {
-    const QFileInfo file(path);
-    if (file.exists() || !QFileInfo::exists(file.path()))
-        return;
+    const auto isGone = [path] {
+        const QFileInfo file(path);
+        return !file.exists() && QFileInfo::exists(file.path());
+    };
+    const auto forget = [list = QPointer(this), path](const bool &gone) {
+        if (list && gone)
+            list->forget(path);
+    };
+    const auto late = [forget](const bool &gone) { MainThread::post([forget, gone] { forget(gone); }); };
+    forget(answerWithin<bool>(mainThreadPatience, isGone, late).value_or(false));
+}
+
+void RecentFiles::forget(const QString &path)
+{
     QStringList list = paths();
     if (list.removeAll(path) > 0)
         store(list, projects());

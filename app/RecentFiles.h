@@ -27,7 +27,8 @@ public:
     bool isFCPProject(const QString &path) const;
     /// Moves the file to the top of the list.
     void add(const QString &path, bool isFCPProject);
-    /// Removes a file that no longer exists, unless its folder is gone too: its volume may return.
+    /// Removes a file that no longer exists, unless its folder is gone too: its volume may return. Does not
+    /// wait for a volume that does not answer.
     void forgetIfGone(const QString &path);
     void clear();
 
@@ -36,6 +37,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void forget(const QString &path);
     void store(const QStringList &paths, const QStringList &projects);
     QStringList projects() const;
 

@@ -1,9 +1,13 @@
 #include "app/StartWindow.h"
 
+#include "app/PreferenceKeys.h"
 #include "app/RecentFiles.h"
+#include "support/settings/UserDefaults.h"
 #include "support/widgets/FilePanel.h"
+#include "support/widgets/SelectableLabel.h"
 #include "support/widgets/SymbolIcon.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -58,19 +62,34 @@ QString shownFolder(const QString &path)
 
 } // namespace
 
-StartWindow::StartWindow(RecentFiles &recentFiles)
+StartWindow::StartWindow(RecentFiles &recentFiles, UserDefaults &defaults)
     : m_recentFiles(recentFiles)
+    , m_defaults(defaults)
 {
     setWindowTitle(QCoreApplication::applicationName());
     setAcceptDrops(true);
     auto *const central = new QWidget(this);
-    auto *const layout = new QHBoxLayout(central);
-    layout->setContentsMargins(28, 24, 24, 24);
-    layout->setSpacing(28);
-    layout->addWidget(makeWelcome());
-    layout->addWidget(makeRecentList(), 1);
+    auto *const columns = new QHBoxLayout;
+    columns->setSpacing(28);
+    columns->addWidget(makeWelcome());
+    columns->addWidget(makeRecentList(), 1);
+    m_message = new QLabel(central);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    makeSelectable(*m_message);
+    m_message->hide();
+    auto *const layout = new QVBoxLayout(central);
+    layout->setContentsMargins(28, 24, 24, 20);
+    layout->setSpacing(14);
+    layout->addLayout(columns, 1);
+    layout->addWidget(m_message);
     setCentralWidget(central);
-    resize(760, 440);
+    resize(760, 480);
+    connect(&m_defaults, &UserDefaults::changed, this, [this](const QString &key) {
+        if (key == PreferenceKey::showOpenDialog)
+            showSetting();
+    });
+    showSetting();
     connect(&m_recentFiles, &RecentFiles::changed, this, &StartWindow::fillRecentList);
     fillRecentList();
 }
@@ -87,7 +106,11 @@ QWidget *StartWindow::makeWelcome()
     auto *const purpose = new QLabel(tr("Media, effects and markers\nof an editing project"), welcome);
     auto *const open = new QPushButton(tr("&Open…"), welcome);
     open->setDefault(true);
+    open->setToolTip(tr("Choose a project or an XML file"));
     connect(open, &QPushButton::clicked, this, &StartWindow::openRequested);
+    auto *const sample = new QPushButton(tr("Open Sa&mple Project"), welcome);
+    sample->setToolTip(tr("Try the program with a copy of a small project that has something of everything"));
+    connect(sample, &QPushButton::clicked, this, &StartWindow::sampleRequested);
     m_dropArea = new DropArea(tr("Drop a project or\nan XML file here"), welcome);
     m_dropArea->setAlignment(Qt::AlignCenter);
     m_dropArea->setMinimumSize(220, 96);
@@ -99,6 +122,7 @@ QWidget *StartWindow::makeWelcome()
     purpose->setAlignment(Qt::AlignHCenter);
     layout->addStretch(1);
     layout->addWidget(open);
+    layout->addWidget(sample);
     layout->addWidget(m_dropArea);
     return welcome;
 }
@@ -119,10 +143,15 @@ QWidget *StartWindow::makeRecentList()
         if (!path.isEmpty())
             Q_EMIT recentFileChosen(path);
     });
+    m_showsOpenDialog = new QCheckBox(tr("&Show the open dialog at start-up"), side);
+    connect(m_showsOpenDialog, &QCheckBox::clicked, this, [this](bool isChecked) {
+        m_defaults.setValue(PreferenceKey::showOpenDialog, isChecked ? 1 : 0);
+    });
     auto *const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(title);
     layout->addWidget(m_list, 1);
+    layout->addWidget(m_showsOpenDialog);
     return side;
 }
 
@@ -145,6 +174,24 @@ void StartWindow::fillRecentList()
     } else {
         m_list->setCurrentRow(0);
     }
+}
+
+void StartWindow::showSetting()
+{
+    m_showsOpenDialog->setChecked(m_defaults.integer(PreferenceKey::showOpenDialog) == 1);
+}
+
+void StartWindow::showMessage(const QString &text)
+{
+    m_message->setText(text.isEmpty() ? text : text + QLatin1Char('.'));
+    m_message->setVisible(!text.isEmpty());
+}
+
+void StartWindow::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        showMessage(QString());
+    QMainWindow::showEvent(event);
 }
 
 void StartWindow::closeEvent(QCloseEvent *event)

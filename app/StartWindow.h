@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+class QCheckBox;
 class QLabel;
 class QListWidget;
 
@@ -9,25 +10,31 @@ namespace vantrell
 {
 
 class RecentFiles;
+class UserDefaults;
 
-/// The window that shows while no document is open: recent projects and an area to drop files on. Closing it
-/// quits the program. Main thread.
+/// The window that shows while no document is open: recent projects, the sample project, an area to drop
+/// files on, and whether the open dialog shows at start-up. Closing it quits the program. Main thread.
 class StartWindow final : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// The list outlives the window.
-    explicit StartWindow(RecentFiles &recentFiles);
+    /// Both outlive the window.
+    StartWindow(RecentFiles &recentFiles, UserDefaults &defaults);
+
+    /// Shows a message at the bottom until the window is shown anew.
+    void showMessage(const QString &text);
 
 Q_SIGNALS:
     void openRequested();
+    void sampleRequested();
     /// The user has dropped files, or chosen a recent one.
     void filesChosen(const QStringList &paths);
     void recentFileChosen(const QString &path);
     void closed();
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -37,10 +44,14 @@ private:
     QWidget *makeWelcome();
     QWidget *makeRecentList();
     void fillRecentList();
+    void showSetting();
 
     RecentFiles &m_recentFiles;
+    UserDefaults &m_defaults;
     QListWidget *m_list = nullptr;
     QLabel *m_dropArea = nullptr;
+    QCheckBox *m_showsOpenDialog = nullptr;
+    QLabel *m_message = nullptr;
 };
 
 } // namespace vantrell

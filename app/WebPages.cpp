@@ -32,6 +32,11 @@ const std::array<Page, 5> pages{
 
 } // namespace
 
+QString webAddressKey(WebPage page)
+{
+    return pages.at(std::size_t(page)).key;
+}
+
 QVariantMap defaultWebAddresses()
 {
     QVariantMap addresses;
@@ -43,13 +48,22 @@ QVariantMap defaultWebAddresses()
 void openWebPage(WebPage page, const UserDefaults &defaults)
 {
     // Not formatText(): other percent signs are part of the address.
-    QString address = defaults.string(pages.at(std::size_t(page)).key);
+    QString address = defaults.string(webAddressKey(page));
     for (const QString &name : {QStringLiteral("halvex"), QStringLiteral("vantrell")}) {
         const qsizetype index = address.indexOf(QStringLiteral("%@"));
         if (index >= 0)
             address.replace(index, 2, name);
     }
-    if (!QDesktopServices::openUrl(QUrl(address)))
+    const QUrl url(address.trimmed());
+    if (!url.isValid() || url.scheme().isEmpty())
+        QVAlert::alertSheetWithMessageText(
+            QCoreApplication::translate("WebPages", "The page has no valid address"),
+            QCoreApplication::translate("WebPages",
+                                        "“%1” is no web address. Edit ▸ Preferences… has the address of "
+                                        "each help page.")
+                .arg(address),
+            nullptr);
+    else if (!QDesktopServices::openUrl(url))
         QVAlert::alertSheetWithMessageText(
             QCoreApplication::translate("WebPages", "The page cannot be shown"),
             QCoreApplication::translate("WebPages", "There is no browser to show it with: %1").arg(address),

@@ -167,6 +167,8 @@ void DocumentJournal::projectLoaded(const Project &project, XmlDocument &tree)
         return;
     }
     begin(XmlElementOrder::of(tree));
+    if (!m_recorder)
+        m_recorder.emplace(m_order); // what is restored is kept in any case
     restore(tree, *std::move(restorable));
 }
 
@@ -177,9 +179,31 @@ void DocumentJournal::begin(std::shared_ptr<const XmlElementOrder> order)
     m_header.typeName = m_project.typeName;
     m_header.file = order && m_project.file ? m_project.file->stamp() : std::nullopt;
     m_header.elements = order ? order->size() : 0;
-    m_recorder.emplace(std::move(order));
-    m_hasDigest = false;
+    m_order = std::move(order);
+    m_isBegun = true;
+    m_isStopped = false;
+    record();
     m_writer.begin(JournalFile::beginning(m_header));
+}
+
+/// Records what is changed from now on, if it is to be kept; the project has no unsaved changes.
+void DocumentJournal::record()
+{
+    m_recorder.reset();
+    m_hasDigest = false;
+    if (m_isEnabled && !m_isStopped)
+        m_recorder.emplace(m_order);
+}
+
+void DocumentJournal::setEnabled(bool isEnabled, bool hasUnsavedChanges)
+{
+    m_isEnabled = isEnabled;
+    if (hasUnsavedChanges || !m_isBegun || isEnabled == isRecording())
+        return;
+    guarded("DocumentJournal::setEnabled", [this] {
+        record();
+        m_writer.remove();
+    });
 }
 
 bool DocumentJournal::isSameFile(const JournalContents &contents)
@@ -278,12 +302,10 @@ void DocumentJournal::noteStep(Kind kind, const EditStep &step, XmlDocument &tre
 
 void DocumentJournal::noteClean()
 {
-    if (!m_recorder)
+    if (m_isStopped)
         return;
     guarded("DocumentJournal::noteClean", [this] {
-        const std::shared_ptr<const XmlElementOrder> order = m_recorder->order();
-        m_recorder.emplace(order);
-        m_hasDigest = false;
+        record();
         m_writer.remove();
     });
 }

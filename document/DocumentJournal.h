@@ -35,6 +35,12 @@ public:
     /// one when any of them could be restored, and stays as it is otherwise.
     void setRestorable(JournalFolder::Restorable restorable) { m_restorable.emplace(std::move(restorable)); }
 
+    /// Whether unsaved changes are kept; at first they are. While there are any this takes effect once they
+    /// are saved, given up or undone: what the journal holds stays, and none begins in the middle.
+    void setEnabled(bool isEnabled, bool hasUnsavedChanges);
+    /// Whether changes are being kept.
+    bool isRecording() const { return m_recorder.has_value(); }
+
     /// What has become of the changes that were to be restored.
     struct Outcome {
         std::size_t total = 0;    ///< changes
@@ -77,7 +83,11 @@ public:
     /// It was sent: no file holds it as it is now.
     void noteSent();
     /// What is changed from now on cannot be recorded; what was stays.
-    void stop() { m_recorder.reset(); }
+    void stop()
+    {
+        m_recorder.reset();
+        m_isStopped = true;
+    }
 
     /// Reverting has given the changes up, or was undone.
     void setGivenUp(bool isGivenUp);
@@ -90,6 +100,7 @@ private:
     struct Replay;
 
     void begin(std::shared_ptr<const XmlElementOrder> order);
+    void record();
     void restore(XmlDocument &tree, JournalFolder::Restorable restorable);
     bool isSameFile(const JournalContents &contents);
     std::string recordOf(Kind kind, const EditStep &step, XmlDocument &tree, const XmlChanges &done,
@@ -98,8 +109,12 @@ private:
     JournalWriter m_writer;
     Project m_project;
     JournalHeader m_header;
-    std::optional<XmlStepRecorder> m_recorder; ///< nothing while no changes can be recorded
-    bool m_hasDigest = false;                  ///< the journal
+    std::optional<XmlStepRecorder> m_recorder;      ///< nothing while no changes can be recorded
+    std::shared_ptr<const XmlElementOrder> m_order; ///< of the elements in the file; null when there is none
+    bool m_isBegun = false;                         ///< the project was read
+    bool m_isEnabled = true;
+    bool m_isStopped = false; ///< until the project is saved
+    bool m_hasDigest = false; ///< the journal
     std::optional<JournalFolder::Restorable> m_restorable;
     std::optional<Outcome> m_outcome;
     std::optional<Restored> m_restored;

@@ -48,6 +48,12 @@ QStringList answeringVolumesFolders()
         .value_or(QStringList(QStringLiteral("/Volumes")));
 }
 
+QStringList answeringVolumesFolders(const std::function<void(const QStringList &)> &late)
+{
+    return answerWithin<QStringList>(mainThreadPatience, StandardFolders::volumesFolders, late)
+        .value_or(QStringList(QStringLiteral("/Volumes")));
+}
+
 void populateDrivePopUp(std::vector<DriveItem> &menu)
 {
     const QString bootVolume = MediaFile::bootVolumeName();

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 namespace vantrell
@@ -17,6 +18,9 @@ struct DriveItem {
 /// The folders that hold the mounted volumes; "/Volumes" alone when they do not answer within half a
 /// second. Any thread.
 QStringList answeringVolumesFolders();
+/// The same for the main thread, which cannot wait: "/Volumes" alone for now when they do not answer at once.
+/// What they answer later is passed to `late`, on a thread of its own.
+QStringList answeringVolumesFolders(const std::function<void(const QStringList &)> &late);
 
 /// Refills the menu: "All Drives", the root volume, then every folder among the mounted volumes by its
 /// name. Folders that do not answer within half a second are left out. Any thread.

@@ -1,5 +1,6 @@
 #include "media/MediaInventory.h"
 
+#include "media/AnswerWithin.h"
 #include "media/MediaFacts.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
@@ -34,24 +35,29 @@ namespace
 
 constexpr std::size_t filesPerOperation = 256;
 
-/// Runs the action with the path when something exists there, and the other one when nothing does, on a
-/// thread that may be left behind.
-void withExistingFile(const QString &path, bool (*action)(const QString &),
-                      const std::function<void()> &whenMissing)
+/// Runs the action with the path when something exists there, on a thread that may be left behind. What keeps
+/// it from that is passed to `tell`, on such a thread; `failure` is what is told when the action fails.
+void withExistingFile(const QString &path, const FileChecks::Check &check, std::chrono::milliseconds wait,
+                      bool (*action)(const QString &), const QString &failure,
+                      const std::function<void(const QString &)> &tell)
 {
-    if (path.isEmpty())
-        return;
+    const auto lookAndAct = [path, check, wait, action, failure, tell] {
+        const QString name = QFileInfo(path).fileName();
+        const auto look = [path, check] { return check(QFile::encodeName(path)).exists; };
+        const auto isThere = answerWithin<bool>(wait, look);
+        if (!isThere)
+            tell(formatText(u"“%@” is on a volume that does not answer. Check its connection", name));
+        else if (!*isThere)
+            tell(formatText(u"“%@” is missing from “%@”. Media ▸ Relink… finds it in other folders", name,
+                            QFileInfo(path).path()));
+        else if (!action(path))
+            tell(failure);
+    };
     try {
-        std::thread([path, action, whenMissing] {
-            guarded("MediaInventory::withExistingFile", [&] {
-                if (FileChecks::lookUp(QFile::encodeName(path)).exists)
-                    action(path);
-                else
-                    whenMissing();
-            });
-        }).detach();
+        std::thread([lookAndAct] { guarded("MediaInventory::withExistingFile", lookAndAct); }).detach();
     } catch (const std::system_error &error) {
         QVLog::appendLog(u"The file %@ cannot be shown: %@", path, QString::fromLocal8Bit(error.what()));
+        tell(failure);
     }
 }
 
@@ -198,23 +204,42 @@ RowList MediaInventory::recordsOf(const std::vector<File> &files, const FileChec
 void MediaInventory::revealMediaInFinder()
 {
     const std::vector<std::size_t> selected = m_document.interface().selectedRows(Tab::Media);
-    if (!selected.empty())
-        withFileOfRow(selected.front(), Workspace::revealFile);
+    if (selected.empty())
+        tell(QStringLiteral("No file is selected. Click its row first"));
+    else
+        withFileOfRow(selected.front(), Workspace::revealFile,
+                      QStringLiteral("There is no file browser that could show the file"));
 }
 
 void MediaInventory::mediaTableViewDoubleClick(std::ptrdiff_t clickedRow)
 {
     if (clickedRow >= 0)
-        withFileOfRow(std::size_t(clickedRow), Workspace::openFile);
+        withFileOfRow(
+            std::size_t(clickedRow), Workspace::openFile,
+            QStringLiteral("There is no program that could open the file. The system’s settings tell "
+                           "which program opens files of its kind"));
 }
 
-void MediaInventory::withFileOfRow(std::size_t row, bool (*action)(const QString &))
+void MediaInventory::withFileOfRow(std::size_t row, bool (*action)(const QString &), const QString &failure)
 {
+    if (row >= m_document.rowsOnShow(Tab::Media).size())
+        return;
     const QString path = pathOfRow(row);
-    const auto tell = [document = &m_document, name = QFileInfo(path).fileName()] {
-        Q_EMIT document->messageGiven(Tab::Media, formatText(u"“%@” is missing", name));
+    if (path.isEmpty()) {
+        tell(QStringLiteral("The project names no valid place for this file. Connect it again in the editing "
+                            "application"));
+        return;
+    }
+    const auto tellLater = [gate = m_document.mainThread(), document = &m_document](const QString &text) {
+        gate->post([document, text] { Q_EMIT document->messageGiven(Tab::Media, text); });
     };
-    withExistingFile(path, action, [gate = m_document.mainThread(), tell] { gate->post(tell); });
+    const auto wait = std::min<std::chrono::milliseconds>(rowPatience, m_patience);
+    withExistingFile(path, m_check, wait, action, failure, tellLater);
+}
+
+void MediaInventory::tell(const QString &text) const
+{
+    Q_EMIT m_document.messageGiven(Tab::Media, text);
 }
 
 /// What relative paths are relative to.

@@ -29,6 +29,8 @@ class MediaInventory
 public:
     /// A path that gets no answer from the disk is waited for this long after the last answer.
     static constexpr std::chrono::seconds patience{15};
+    /// The same for a file that the user wants to see.
+    static constexpr std::chrono::seconds rowPatience{4};
 
     MediaInventory(MyDocument &document, MediaFilter &filter);
 
@@ -49,8 +51,9 @@ public:
     void populateUsageCountForClipWithSettings(const ClipSettings &settings);
 
     /// Shows the file of the first selected row of the media table in the file browser, opens the file of
-    /// the clicked row (-1 for none) with its default application. Neither waits for the disk. Nothing
-    /// happens without a row; that there is no file at its path is told on the tab. Main thread.
+    /// the clicked row (-1 for none) with its default application. Neither waits for the disk. Where nothing
+    /// happens, the tab tells why: without a row, without a file at its path, when the volume does not answer
+    /// within the patience for rows, and when there is no program that could show it. Main thread.
     void revealMediaInFinder();
     void mediaTableViewDoubleClick(std::ptrdiff_t clickedRow);
 
@@ -77,7 +80,8 @@ private:
     void countUsage(const std::vector<File> &files, const MediaUsage &usage);
     RowList recordsOf(const std::vector<File> &files, const FileChecks::Answers &answers,
                       std::uint64_t &total) const;
-    void withFileOfRow(std::size_t row, bool (*action)(const QString &));
+    void withFileOfRow(std::size_t row, bool (*action)(const QString &), const QString &failure);
+    void tell(const QString &text) const;
     QString projectFolder() const;
     QString pathOfRow(std::size_t row) const;
 

@@ -9,18 +9,22 @@
 #include "interchange/widgets/MarkerListImport.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkersPane.h"
+#include "media/AnswerWithin.h"
 #include "media/widgets/MediaPane.h"
 #include "support/files/FileUtilities.h"
+#include "support/files/StandardFolders.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
+#include "support/widgets/SelectableLabel.h"
 #include "support/widgets/SymbolIcon.h"
 #include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
 
 #include <QAction>
 #include <QActionGroup>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
@@ -172,7 +176,7 @@ QWidget *DocumentWindow::makeFailurePage()
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        makeSelectable(*label);
         layout->addWidget(label);
     }
     layout->addStretch(2);
@@ -221,12 +225,12 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     m_panes = {media, new EffectsPane(*m_workbench, m_defaults), new MarkersPane(*m_workbench, m_defaults)};
     for (TabPane *const pane : m_panes)
         m_content->addWidget(pane);
-    if (m_restorable || m_defaults.boolean(journalKey)) {
-        const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
-        if (m_restorable)
-            journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
-        m_workbench->document().setJournal(journal);
-    }
+    const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
+    if (m_restorable)
+        journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
+    else
+        journal->setEnabled(m_defaults.boolean(journalKey), false);
+    m_workbench->document().setJournal(journal);
     connectSession();
     m_state.load();
     m_notice->setNotice(QString());
@@ -350,6 +354,7 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
     showOutcomeOfRestoring();
+    applyJournalSetting();
     Q_EMIT this->loaded(m_path);
     Q_EMIT menusChanged();
 }
@@ -599,8 +604,19 @@ void DocumentWindow::applyDefaultsChange(const QString &key)
         reverted.changedDefaults.insert(key);
     if (key == MarkerInventory::ownOwnersDefault)
         applyOwnerListing();
+    if (key == journalKey)
+        applyJournalSetting();
     if (key == PathMappings::defaultsKey)
         m_media.applyMappings();
+}
+
+/// The journal of a project with unsaved changes follows when these are saved or given up: what it holds is
+/// not lost, and it never begins in the middle.
+void DocumentWindow::applyJournalSetting()
+{
+    const MyDocument *const current = document();
+    if (current && current->journal())
+        current->journal()->setEnabled(m_defaults.boolean(journalKey), current->isEdited());
 }
 
 /// Tells the user when markers are listed under other owners than their own.
@@ -704,7 +720,9 @@ bool DocumentWindow::showsMarkerOverview() const
 
 QString DocumentWindow::folder() const
 {
-    return QFileInfo(m_path).path();
+    const QString folder = QFileInfo(m_path).path();
+    const auto look = [folder] { return QFileInfo::exists(folder); };
+    return answerWithin<bool>(mainThreadPatience, look) ? folder : StandardFolders::documents();
 }
 
 QString DocumentWindow::fileTitle() const
@@ -750,6 +768,10 @@ void DocumentWindow::copySelection()
 {
     if (const auto *const field = qobject_cast<QLineEdit *>(focusWidget())) {
         field->copy();
+        return;
+    }
+    if (const auto *const label = qobject_cast<QLabel *>(focusWidget()); label && label->hasSelectedText()) {
+        QGuiApplication::clipboard()->setText(selectedTextOf(*label));
         return;
     }
     currentPane().copySelection();

@@ -103,9 +103,9 @@ public:
     QString message() const;
 
     /// Tells the window how to find out whether a file is open in another one.
-    void setOpenElsewhere(std::function<bool(const QString &path)> isOpenElsewhere)
+    void setOpenElsewhere(WindowSaving::OpenElsewhere openElsewhere)
     {
-        m_saving.setOpenElsewhere(std::move(isOpenElsewhere));
+        m_saving.setOpenElsewhere(std::move(openElsewhere));
     }
     bool isOpenElsewhere(const QString &path) const { return m_saving.isOpenElsewhere(path); }
 
@@ -261,6 +261,7 @@ public:
     NoticeBar &notice() const { return *m_notice; }
     void setNotice(const QString &text);
     void setFile(const QString &path, const QString &typeName);
+    /// That of the file, to begin choosing in; the user's documents while it does not answer.
     QString folder() const;
     /// The name of the file without its extension.
     QString fileTitle() const;
@@ -335,6 +336,7 @@ private:
     void updateTitle();
     MarkersPane &showMarkers();
     void applyOwnerListing();
+    void applyJournalSetting();
     void showPane(Tab tab);
     void restore(bool (MyDocument::*step)());
     void applyDefaultsChange(const QString &key);

@@ -1,5 +1,6 @@
 #include "document/widgets/NoticeBar.h"
 
+#include "support/widgets/SelectableLabel.h"
 #include "support/widgets/SymbolIcon.h"
 
 #include <QAccessible>
@@ -26,7 +27,7 @@ NoticeBar::NoticeBar(QWidget *parent)
         this);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    makeSelectable(*m_text);
     m_dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     m_dismiss->setAutoRaise(true);
     m_dismiss->setToolTip(tr("Dismiss"));

@@ -14,7 +14,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
-#include <chrono>
+#include <memory>
+#include <utility>
 
 namespace vantrell
 {
@@ -24,7 +25,6 @@ namespace
 
 const QString closeQuestion = QStringLiteral("closeQuestionDidEnd:returnCode:contextInfo:");
 const QString revertQuestion = QStringLiteral("revertQuestionDidEnd:returnCode:contextInfo:");
-constexpr std::chrono::milliseconds volumeTimeout{500}; // an unmounted network volume may never answer
 
 } // namespace
 
@@ -43,13 +43,45 @@ void WindowSaving::saveTo(const QString &path)
         finish(false);
         return;
     }
-    if (path != m_window.path() && isOpenElsewhere(path)) {
-        m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
+    if (path == m_window.path() || !m_openElsewhere) {
+        write(path);
+        return;
+    }
+    const QString name = QFileInfo(path).fileName();
+    const auto isAsking = std::make_shared<bool>(true);
+    m_openElsewhere(path, [this, window = QPointer(&m_window), path, name, isAsking](bool isOpen) {
+        if (!window || m_state.isClosed() || !std::exchange(*isAsking, false))
+            return;
+        if (m_state.isBusy())
+            m_work.end();
+        if (!isOpen) {
+            write(path);
+            return;
+        }
+        m_window.showFailure(tr("The document “%1” could not be saved.").arg(name),
                              tr("The file is open in another window. Close that window first, or choose "
                                 "another name."));
         finish(false);
-        return;
-    }
+    });
+    if (*isAsking)
+        m_work.begin(tr("Saving “%1”…").arg(name), WindowState::Work::Cancellable, [this, isAsking] {
+            *isAsking = false;
+            m_work.end();
+            finish(false);
+        });
+}
+
+bool WindowSaving::isOpenElsewhere(const QString &path) const
+{
+    const auto isOpen = std::make_shared<bool>(false);
+    if (m_openElsewhere)
+        m_openElsewhere(path, [isOpen](bool open) { *isOpen = open; });
+    return *isOpen;
+}
+
+void WindowSaving::write(const QString &path)
+{
+    MyDocument *const document = m_window.document();
     const QPointer window(&m_window);
     document->writeInBackground(QUrl::fromLocalFile(path), DocumentType::finalCutProXMLFile,
                                 [this, path, window](const Result<void> &written) {
@@ -184,8 +216,31 @@ void WindowSaving::revertWithoutQuestion()
 void WindowSaving::reload()
 {
     // If the file has gone, the open document is the only copy of the project.
-    const auto isReadable = [path = m_window.path()] { return QFileInfo(path).isReadable(); };
-    if (answerWithin<bool>(volumeTimeout, isReadable).value_or(false))
+    const QString path = m_window.path();
+    const auto isReadable = [path] { return QFileInfo(path).isReadable(); };
+    const auto isAsking = std::make_shared<bool>(true);
+    const auto late = [this, isAsking, gate = m_window.document()->mainThread()](const bool &readable) {
+        gate->post([this, isAsking, readable] {
+            if (m_state.isClosed() || !std::exchange(*isAsking, false))
+                return;
+            m_work.end();
+            reloadIf(readable);
+        });
+    };
+    if (const auto readable = answerWithin<bool>(mainThreadPatience, isReadable, late)) {
+        reloadIf(*readable);
+        return;
+    }
+    m_work.begin(tr("Waiting for the volume of “%1”…").arg(QFileInfo(path).fileName()),
+                 WindowState::Work::Expendable, [this, isAsking] {
+                     *isAsking = false;
+                     m_work.end();
+                 });
+}
+
+void WindowSaving::reloadIf(bool isReadable)
+{
+    if (isReadable)
         m_window.reload();
     else
         m_window.showFailure(tr("“%1” cannot be read any more.").arg(QFileInfo(m_window.path()).fileName()),

@@ -26,13 +26,13 @@ public:
     /// How changes are settled: the user is asked, or they are saved.
     enum class Settling { Ask, Save };
 
-    /// Tells whether a file is open in another window.
-    void setOpenElsewhere(std::function<bool(const QString &path)> isOpenElsewhere)
-    {
-        m_isOpenElsewhere = std::move(isOpenElsewhere);
-    }
+    /// Passes whether a file is open in another window to `found`: at once, or on the main thread when the
+    /// disk has answered.
+    using OpenElsewhere = std::function<void(const QString &path, std::function<void(bool isOpen)> found)>;
+    void setOpenElsewhere(OpenElsewhere openElsewhere) { m_openElsewhere = std::move(openElsewhere); }
 
-    bool isOpenElsewhere(const QString &path) const { return m_isOpenElsewhere && m_isOpenElsewhere(path); }
+    /// Whether a file is open in another window, as far as the disk answers at once.
+    bool isOpenElsewhere(const QString &path) const;
 
     void saveTo(const QString &path);
     void saveAs();
@@ -51,11 +51,13 @@ public:
     void closeSettled();
 
 private:
+    void write(const QString &path);
     void writeEnded(const QString &path, const Result<void> &written);
     void askAboutChangedFile(const QString &path);
     void saved(const QString &path);
     void runSavePanel(const std::function<void()> &whenCancelled = {});
     void reload();
+    void reloadIf(bool isReadable);
     void askBeforeClosing();
     void closeQuestionEnded(int code);
     void changesEnded(bool areSettled);
@@ -63,7 +65,7 @@ private:
     bool respondsTo(const QString &selector) const override;
     void perform(const QString &selector, QVAlert *alert, int code) override;
 
-    std::function<bool(const QString &path)> m_isOpenElsewhere;
+    OpenElsewhere m_openElsewhere;
     std::optional<ChangeMarks::State> m_givenUp; // the state of the project when the user gave it up
 };
 

@@ -4,6 +4,7 @@
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/WindowWork.h"
+#include "media/AnswerWithin.h"
 #include "support/files/FileUtilities.h"
 #include "support/widgets/FilePanel.h"
 #include "table/widgets/TabPane.h"
@@ -73,7 +74,9 @@ void WindowSending::exportChangedSequencesTo(const QString &path)
     MyDocument *const document = m_window.document();
     if (m_window.refusesAfterFailedLoad() || !document || m_state.isBusy() || m_state.isSending())
         return;
-    if (FileUtilities::isSameFile(path, m_window.path()) || m_window.isOpenElsewhere(path)) {
+    const auto isOwn = [path, own = m_window.path()] { return FileUtilities::isSameFile(path, own); };
+    if (answerWithin<bool>(mainThreadPatience, isOwn).value_or(path == m_window.path()) ||
+        m_window.isOpenElsewhere(path)) {
         m_window.showFailure(
             tr("The changed sequences could not be exported."),
             tr("“%1” is open in a window. Choose another name.").arg(QFileInfo(path).fileName()));

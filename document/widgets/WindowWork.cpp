@@ -85,10 +85,10 @@ void WindowWork::reset()
 
 void WindowWork::showSheet()
 {
-    // Over an alert the sheet would keep the user from answering it.
+    // Over an alert or another sheet it would keep the user from answering that. Panels stay beside it.
     const auto dialogs = m_window->findChildren<QDialog *>();
     const bool isCovered = std::any_of(dialogs.begin(), dialogs.end(), [this](const QDialog *dialog) {
-        return dialog != m_sheet && dialog->isVisible();
+        return dialog != m_sheet && dialog->isVisible() && dialog->isModal();
     });
     if (isCovered) {
         m_delay.start();

@@ -52,6 +52,14 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
             [this] { this->workbench().effectInventory().updateEffectStatusText(); });
 
     table().setAccessibleName(tr("Effects"));
+    connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (!isEditingEnabled())
+            tellWhyNotEditable();
+        else if (model().columnAt(index.column()).kind == Column::Kind::Text)
+            showMessage(
+                tr("An effect has nothing to open here. Its box switches it on and off, Remove… takes "
+                   "it out, and the editing application changes its settings"));
+    });
     table().setKeyDownHandler([this](QVTableView &, QKeyEvent &event) {
         const bool isDelete = event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
         if (!isDelete || !table().selectionModel()->hasSelection())

@@ -16,6 +16,7 @@
 #include "markers/widgets/OverviewPopUp.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/SelectableLabel.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
@@ -101,6 +102,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
+    makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         table().commitEditing();
@@ -120,6 +122,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
             table().edit(index);
+        else
+            tellWhyNotEditable();
     });
     makeMenus();
     placeOverview();
@@ -277,7 +281,7 @@ void MarkersPane::placeOverview()
     auto *const content = static_cast<QBoxLayout *>(layout());
     content->insertWidget(content->indexOf(&table()), m_overview);
     m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
-    setTabOrder(m_fields, &m_overview->popUp());
+    setTabOrder(m_flags, &m_overview->popUp());
     setTabOrder(&m_overview->popUp(), &m_overview->strip());
     setTabOrder(&m_overview->strip(), &table());
 }

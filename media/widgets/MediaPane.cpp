@@ -65,7 +65,9 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     auto *menu = new QMenu(this);
     menu->addAction(tr("Open"), this, [this] {
         const std::vector<std::size_t> rows = selectedRows();
-        if (!rows.empty())
+        if (rows.empty())
+            showMessage(tr("No file is selected. Click its row first"));
+        else
             this->workbench().mediaInventory().mediaTableViewDoubleClick(std::ptrdiff_t(rows.front()));
     });
     menu->addAction(tr("Reveal in File Browser"), this, &MediaPane::revealMediaInFinder);

@@ -3,15 +3,31 @@
 #include "media/MediaDrives.h"
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "support/threads/MainThread.h"
 #include "table/widgets/TableIcons.h"
+
+#include <QPointer>
 
 namespace vantrell
 {
 
 MediaTableModel::MediaTableModel(MyDocument &document, QObject *parent)
     : TableModel(document, Tab::Media, parent)
-    , m_volumesFolders(QStringList(QStringLiteral("/Volumes")) + answeringVolumesFolders())
 {
+    const auto late = [model = QPointer(this)](const QStringList &folders) {
+        MainThread::post([model, folders] {
+            if (!model)
+                return;
+            model->setVolumesFolders(folders);
+            model->rowsChanged(0, model->rowCount() - 1);
+        });
+    };
+    setVolumesFolders(answeringVolumesFolders(late));
+}
+
+void MediaTableModel::setVolumesFolders(const QStringList &answering)
+{
+    m_volumesFolders = QStringList(QStringLiteral("/Volumes")) + answering;
 }
 
 QString MediaTableModel::volumeOf(const QString &directory, const QStringList &volumesFolders)

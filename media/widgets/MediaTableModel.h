@@ -27,6 +27,8 @@ protected:
     QString toolTip(const RowRecord &record, const Column &column) const override;
 
 private:
+    void setVolumesFolders(const QStringList &answering);
+
     QStringList m_volumesFolders;
 };
 

@@ -224,6 +224,14 @@ bool QVTableView::focusNextPrevChild(bool next)
     return (hasFocus() && !isEditing() && moveToCellBeside(next)) || QTableView::focusNextPrevChild(next);
 }
 
+/// A table without a current row makes the first one it; what is in view stays there.
+void QVTableView::focusInEvent(QFocusEvent *event)
+{
+    setAutoScroll(false);
+    QTableView::focusInEvent(event);
+    setAutoScroll(true);
+}
+
 void QVTableView::keyPressEvent(QKeyEvent *event)
 {
     if (isEditing()) {

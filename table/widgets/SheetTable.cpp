@@ -48,7 +48,7 @@ SheetTable::SheetTable(QAbstractItemModel *model, QWidget *parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(0);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    setRowHeight();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
 }
@@ -67,6 +67,18 @@ void SheetTable::endEditing()
         commitData(editor);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
+}
+
+void SheetTable::setRowHeight()
+{
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+}
+
+void SheetTable::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        setRowHeight();
 }
 
 QModelIndex SheetTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)

@@ -21,7 +21,11 @@ public:
     void endEditing();
 
 protected:
+    void changeEvent(QEvent *event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    void setRowHeight();
 };
 
 } // namespace vantrell

@@ -2,8 +2,10 @@
 
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/SelectableLabel.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
+#include "table/widgets/TableDates.h"
 #include "table/widgets/TableDelegate.h"
 #include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
@@ -70,6 +72,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_messageTime(new QTimer(this))
 {
     m_model->setParent(this);
+    m_model->setDateFormat(TableDates::storedFormat(m_defaults));
     m_model->setEdit([this](int row, const QString &column, const QString &text) {
         writeCell(row, column, text, &TabPane::commitEdit);
     });
@@ -87,6 +90,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_busyText->hide();
     m_busyTimer->setInterval(busyInterval);
     m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    makeSelectable(*m_message);
     m_message->hide();
     m_messageTime->setSingleShot(true);
     m_messageTime->setInterval(messageMs);
@@ -203,7 +208,7 @@ void TabPane::rememberRows()
     const QModelIndex current = m_table->currentIndex();
     m_keptCurrent = current.isValid() ? m_model->recordAt(current.row()) : nullptr;
     m_keptColumn = current.column();
-    m_keptScroll = m_table->verticalScrollBar()->value();
+    m_keptScroll = {m_table->horizontalScrollBar()->value(), m_table->verticalScrollBar()->value()};
 }
 
 void TabPane::restoreRows()
@@ -221,13 +226,17 @@ void TabPane::restoreRows()
         }
     }
     m_selectionMuted = true;
+    m_table->setAutoScroll(false); // to the current row
     if (current >= 0 && m_keptColumn < m_model->columnCount())
         m_table->selectionModel()->setCurrentIndex(m_model->index(int(current), m_keptColumn),
                                                    QItemSelectionModel::NoUpdate);
     if (!selected.empty())
         selectRows(selected);
     m_selectionMuted = false;
-    m_table->verticalScrollBar()->setValue(m_keptScroll);
+    m_table->setAutoScroll(true);
+    static_cast<QAbstractItemView *>(m_table)->doItemsLayout(); // the scroll bars reach to the last row again
+    m_table->horizontalScrollBar()->setValue(m_keptScroll.x());
+    m_table->verticalScrollBar()->setValue(m_keptScroll.y());
 }
 
 std::vector<std::size_t> TabPane::selectedRows() const
@@ -329,6 +338,8 @@ void TabPane::copySelection()
     const QString text = selectionText();
     if (!text.isEmpty())
         QGuiApplication::clipboard()->setText(text);
+    else
+        showMessage(tr("Nothing was copied: no row is selected"));
 }
 
 // Sorting
@@ -477,6 +488,10 @@ void TabPane::restoreOrder()
 
 void TabPane::applyDefaultsChange(const QString &key)
 {
+    if (key == TableDates::formatKey) {
+        m_model->setDateFormat(TableDates::storedFormat(m_defaults));
+        m_model->rowsChanged(0, m_model->rowCount() - 1);
+    }
     if (key != layoutKey(tab()) || m_storesLayout)
         return;
     m_newColumns.clear();
@@ -606,7 +621,7 @@ void TabPane::updateCounts()
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)
 {
     auto *widget = new QLabel(parent);
-    widget->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    makeSelectable(*widget);
     m_labels.insert(label, widget);
     return widget;
 }
@@ -644,6 +659,17 @@ void TabPane::updatePlaceholder()
         m_table->setPlaceholder(QString());
     else
         m_table->setPlaceholder(view.list().empty() ? emptyText() : filteredText());
+}
+
+void TabPane::tellWhyNotEditable()
+{
+    if (m_editingEnabled)
+        return;
+    const MyDocument &document = m_workbench.document();
+    const bool isLoading = document.isPopulating(Tab::Media) || document.isPopulating(Tab::Effects) ||
+                           document.isPopulating(Tab::Markers);
+    showMessage(isLoading ? tr("Nothing can be edited yet, as the project is still being read")
+                          : tr("Nothing can be edited until the operation that is going on has ended"));
 }
 
 void TabPane::commitEdit(int, const QString &, const QString &) {}

@@ -4,6 +4,7 @@
 #include "rows/RowRecord.h"
 
 #include <QHash>
+#include <QPoint>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -118,6 +119,8 @@ protected:
     QLabel *makeLabel(Label label, QWidget *parent);
     QLabel *labelOf(Label label) const { return m_labels.value(label); }
     bool isEditingEnabled() const { return m_editingEnabled; }
+    /// Tells below the table why nothing can be edited now; nothing while editing is enabled.
+    void tellWhyNotEditable();
 
     /// A cell was edited: writes it into the project. The row is selected.
     virtual void commitEdit(int row, const QString &column, const QString &text);
@@ -202,7 +205,7 @@ private:
     RowList m_keptSelection;
     RowRecordPtr m_keptCurrent;
     int m_keptColumn = 0;
-    int m_keptScroll = 0;
+    QPoint m_keptScroll; // of the scroll bars
 };
 
 } // namespace vantrell

@@ -1,6 +1,5 @@
 #include "table/widgets/TableModel.h"
 
-#include <QLocale>
 #include <QTextDocument>
 
 namespace vantrell
@@ -190,7 +189,7 @@ QString TableModel::text(const RowRecord &record, const Column &column) const
         return isChecked(record, column) ? tr("on") : tr("off");
     const RecordValue *value = record.find(column.key);
     const auto *date = value ? std::get_if<QDateTime>(value) : nullptr;
-    return date ? QLocale().toString(date->toLocalTime(), QLocale::ShortFormat) : column.textOf(record);
+    return date ? TableDates::text(*date, m_dateFormat) : column.textOf(record);
 }
 
 } // namespace vantrell

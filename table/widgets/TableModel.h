@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "rows/Column.h"
+#include "table/widgets/TableDates.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>
@@ -84,6 +85,9 @@ public:
     bool isEditingEnabled() const { return m_editingEnabled; }
     void setEditingEnabled(bool enabled);
 
+    /// How dates are shown from now on; the caller announces the change.
+    void setDateFormat(TableDates::Format format) { m_dateFormat = format; }
+
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -115,6 +119,7 @@ private:
     Edit m_edit;
     Edit m_editAlong;
     bool m_editingEnabled = false;
+    TableDates::Format m_dateFormat = TableDates::Format::System;
 };
 
 } // namespace vantrell

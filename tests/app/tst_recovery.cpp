@@ -124,7 +124,8 @@ private Q_SLOTS:
         m_defaults->setValue(QStringLiteral("journal"), false);
         open();
         edit(0, "First");
-        QVERIFY(!m_window->document()->journal());
+        QVERIFY(!m_window->document()->journal()->isRecording());
+        m_window->document()->journal()->finish();
         QVERIFY(journals().isEmpty());
     }
 

@@ -1,3 +1,4 @@
+#include "media/AnswerWithin.h"
 #include "media/MediaFile.h"
 #include "support/desktop/Workspace.h"
 #include "support/log/QVLog.h"
@@ -11,8 +12,10 @@
 
 #include <QElapsedTimer>
 #include <QScopeGuard>
+#include <QSemaphore>
 #include <QTest>
 
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -409,13 +412,60 @@ private Q_SLOTS:
         opened.inventory.revealMediaInFinder();
         QTRY_VERIFY(QFile::exists(output));
         QCOMPARE(contentOf(output), m_home.path(QStringLiteral("m")).toUtf8());
-        // That a file is missing is said below the table.
+        // What keeps a file from showing is said below the table.
         opened.world.selectRows(Tab::Media, {0});
         opened.inventory.revealMediaInFinder();
-        const QString told = QStringLiteral("“x.mov” is missing 0");
-        QVERIFY(MainThread::drainUntil([&] { return opened.world.events.contains(told); },
-                                       std::chrono::seconds(30)));
+        const auto tells = [&opened](const char *text) {
+            const QString told = QString::fromUtf8(text) + QStringLiteral(" 0");
+            return MainThread::drainUntil([&] { return opened.world.events.contains(told); },
+                                          std::chrono::seconds(30));
+        };
+        QVERIFY(tells("“x.mov” is missing from “/nowhere”. Media ▸ Relink… finds it in other folders"));
+        opened.world.events.clear();
+        opened.world.selectRows(Tab::Media, {});
+        opened.inventory.revealMediaInFinder();
+        QVERIFY(tells("No file is selected. Click its row first"));
+        Workspace::setOpenProgram(m_home.path(QStringLiteral("no such program")));
+        opened.inventory.mediaTableViewDoubleClick(1);
+        QVERIFY(
+            tells("There is no program that could open the file. The system’s settings tell which program "
+                  "opens files of its kind"));
         Workspace::setOpenProgram(QString());
+
+        // A volume that does not answer keeps nobody waiting.
+        const auto hung = std::make_shared<QSemaphore>();
+        const auto returned = std::make_shared<std::atomic<bool>>(false);
+        opened.inventory.setFileCheck(
+            [hung, returned](const QByteArray &path) {
+                hung->acquire();
+                *returned = true;
+                return FileChecks::lookUp(path);
+            },
+            std::chrono::milliseconds(20));
+        opened.inventory.mediaTableViewDoubleClick(1);
+        QVERIFY(tells("“a b.mov” is on a volume that does not answer. Check its connection"));
+        hung->release();
+        QTRY_VERIFY(*returned);
+    }
+
+    void anAnswerMayComeLate()
+    {
+        const auto hung = std::make_shared<QSemaphore>();
+        const auto come = std::make_shared<std::atomic<int>>(0);
+        const auto ask = [hung] {
+            hung->acquire();
+            return 7;
+        };
+        const auto late = [come](const int &answer) { *come = answer; };
+        QVERIFY(!answerWithin<int>(std::chrono::milliseconds(20), ask, late));
+        QCOMPARE(int(*come), 0);
+        hung->release();
+        QTRY_COMPARE(int(*come), 7);
+        // One that comes in time comes once.
+        *come = 0;
+        hung->release();
+        QCOMPARE(answerWithin<int>(std::chrono::seconds(30), ask, late), std::optional(7));
+        QCOMPARE(int(*come), 0);
     }
 };
 

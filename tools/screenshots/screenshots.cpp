@@ -1,12 +1,13 @@
 // Takes a picture of each tab of a project, each sheet, the start window, a project that cannot be opened,
-// of the way to Final Cut Pro and back, and of the comparison with the project's recut beside it, light and
-// dark. Those of the manual go to the folder manual/images beside the other one.
+// the preferences, of the way to Final Cut Pro and back, and of the comparison with the project's recut
+// beside it, light and dark. Those of the manual go to the folder manual/images beside the other one.
 //
 // usage: vantrell-screenshots PROJECT FOLDER, with QT_QPA_PLATFORM=offscreen, while fcp-host holds the
 // project and takes a moment for each answer
 
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/PreferencesWindow.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
@@ -29,12 +30,15 @@
 #include <QPixmap>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <functional>
+#include <string>
 
 using namespace vantrell;
 
@@ -122,6 +126,10 @@ public:
         takeRoundTrip();
         takeComparison(project);
         take(m_controller.startWindow(), "start");
+        if (m_theme == QStringLiteral("light")) {
+            take(m_controller.startWindow(), "../manual/images/preferences-start");
+            takePreferences();
+        }
         return m_isTaken;
     }
 
@@ -250,6 +258,24 @@ private:
         }
         take(view, "../manual/images/compare");
         window.close();
+    }
+
+    void takePreferences()
+    {
+        m_controller.showPreferences();
+        PreferencesWindow *preferences = nullptr;
+        for (QWidget *const widget : QApplication::topLevelWidgets())
+            preferences = preferences ? preferences : qobject_cast<PreferencesWindow *>(widget);
+        auto *const pages = preferences ? preferences->findChild<QTabWidget *>() : nullptr;
+        if (!pages)
+            qFatal("The preferences have not come up.");
+        const std::array<const char *, 3> names = {"preferences-general", "preferences-tables",
+                                                   "preferences-help"};
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            take(*preferences, (std::string("../manual/images/") + names.at(std::size_t(page))).c_str());
+        }
+        preferences->close();
     }
 
     void takeSheet(const QWidget &window, const char *name)

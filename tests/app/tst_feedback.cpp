@@ -1,0 +1,257 @@
+#include "WindowTest.h"
+
+#include "app/AboutPanel.h"
+#include "app/AppController.h"
+#include "app/SampleProject.h"
+#include "app/StartWindow.h"
+#include "document/MyDocument.h"
+#include "document/widgets/NoticeBar.h"
+#include "document/widgets/ProgressSheet.h"
+#include "support/desktop/Workspace.h"
+#include "support/log/QVLog.h"
+#include "support/settings/UserDefaults.h"
+#include "support/threads/BackgroundWork.h"
+#include "table/widgets/QVTableView.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <QClipboard>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace vantrell;
+
+/// What a window says where nothing happens, and what must not get lost or in the way.
+class FeedbackTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init()
+    {
+        m_home = std::make_unique<TemporaryHome>();
+        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
+        AppController::startLog();
+        m_controller = std::make_unique<AppController>(*m_defaults);
+        Workspace::setOpenProgram(m_home->path(QStringLiteral("no such program")));
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        Workspace::setOpenProgram(QString());
+        QVLog::willTerminate();
+        m_defaults.reset();
+        m_home.reset();
+    }
+
+    void theFooterTellsWhyNothingHappens_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("missing, double click") << "double-click Lighthouse"
+                                               << "is missing from";
+        QTest::newRow("missing, reveal") << "reveal Lighthouse"
+                                         << "Media ▸ Relink… finds it";
+        QTest::newRow("no program") << "double-click Narration"
+                                    << "no program that could open the file";
+        QTest::newRow("no file browser") << "reveal Narration"
+                                         << "no file browser";
+        QTest::newRow("nothing selected") << "open"
+                                          << "No file is selected";
+        QTest::newRow("nothing to copy") << "copy"
+                                         << "no row is selected";
+        QTest::newRow("an effect") << "double-click an effect"
+                                   << "An effect has nothing to open";
+        QTest::newRow("a marker while busy") << "double-click a marker"
+                                             << "until the operation";
+        QTest::newRow("no manual") << "manual"
+                                   << "Help ▸ Support";
+    }
+    void theFooterTellsWhyNothingHappens()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, told);
+        DocumentWindow &window = open();
+        QVERIFY(!footerOf(window).contains(told));
+        TabPane &media = window.pane(Tab::Media);
+        if (action.startsWith(QStringLiteral("double-click "))) {
+            const Tab tab = action.endsWith(QStringLiteral("effect"))   ? Tab::Effects
+                            : action.endsWith(QStringLiteral("marker")) ? Tab::Markers
+                                                                        : Tab::Media;
+            if (tab == Tab::Effects)
+                window.toolbarEffects();
+            else if (tab == Tab::Markers)
+                window.toolbarMarkers();
+            if (tab == Tab::Markers)
+                window.beginReading({});
+            doubleClick(window.pane(tab), tab == Tab::Media ? rowOf(window, action.section(u' ', 1)) : 0,
+                        tab == Tab::Media ? QStringLiteral("filename") : QStringLiteral("name"));
+        } else if (action.startsWith(QStringLiteral("reveal "))) {
+            media.selectRows({std::size_t(rowOf(window, action.section(u' ', 1)))});
+            QVERIFY(triggerOf(media, QStringLiteral("Reveal in File Browser")));
+        } else if (action == QStringLiteral("open")) {
+            media.selectRows({});
+            QVERIFY(triggerOf(media, QStringLiteral("Open")));
+        } else if (action == QStringLiteral("copy")) {
+            media.selectRows({});
+            QVERIFY(trigger(window, QStringLiteral("Copy"), QStringLiteral("Edit")));
+        } else {
+            m_controller->helpUserManual();
+        }
+        QTRY_VERIFY2(footerOf(window).contains(told), qPrintable(footerOf(window)));
+        if (window.isBusy())
+            window.endReading();
+    }
+
+    void theStartWindowTellsToo()
+    {
+        m_controller->startWindow().show();
+        m_controller->helpUserManual();
+        QString told;
+        for (const QLabel *const label : m_controller->startWindow().findChildren<QLabel *>())
+            told += label->isVisible() ? label->text() : QString();
+        QVERIFY(told.contains(QStringLiteral("The user manual is not installed")));
+    }
+
+    /// Saving to another path asks the disk whether that file is open in another window.
+    void aSaveWaitsForTheDiskBesideTheAboutPanel()
+    {
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        QVERIFY(editCell(window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        std::function<void(bool)> answer;
+        window.setOpenElsewhere(
+            [&answer](const QString &, const std::function<void(bool)> &found) { answer = found; });
+        window.activateWindow();
+        m_controller->showAboutDialog();
+        const QString path = m_home->path(QStringLiteral("other.xml"));
+        QSignalSpy saved(&window, &DocumentWindow::saved);
+        window.saveTo(path);
+        QVERIFY(window.isBusy());
+        auto *const sheet = window.findChild<ProgressSheet *>();
+        QTRY_VERIFY(sheet->isVisible());
+        Q_EMIT sheet->cancelled();
+        QCOMPARE(saved.takeFirst().at(0).toBool(), false);
+        answer(false); // too late
+        QVERIFY(!window.isBusy());
+        QVERIFY(!QFile::exists(path));
+
+        window.saveTo(path);
+        answer(true);
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(visibleBox()->informativeText().contains(QStringLiteral("another window")));
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")));
+        QVERIFY(!saved.takeFirst().at(0).toBool());
+        window.saveTo(path);
+        answer(false);
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(saved.takeFirst().at(0).toBool());
+        QVERIFY(contentOf(path).contains("<name>New</name>"));
+    }
+
+    void eachTabKeepsItsScrollPosition()
+    {
+        DocumentWindow &window = open();
+        window.resize(640, 420);
+        QTest::qWait(0);
+        std::array<QPoint, 3> positions;
+        void (DocumentWindow::*const show[])() = {
+            &DocumentWindow::toolbarMedia, &DocumentWindow::toolbarEffects, &DocumentWindow::toolbarMarkers};
+        for (std::size_t tab = 0; tab < 3; ++tab) {
+            (window.*show[tab])();
+            const QVTableView &table = window.currentPane().table();
+            QTRY_VERIFY(table.verticalScrollBar()->maximum() > 1);
+            QVERIFY(table.horizontalScrollBar()->maximum() > 20);
+            table.verticalScrollBar()->setValue(table.verticalScrollBar()->maximum() - 1);
+            table.horizontalScrollBar()->setValue(17 + int(tab));
+            positions[tab] = {table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()};
+        }
+        for (std::size_t tab = 0; tab < 3; ++tab) {
+            (window.*show[tab])();
+            const QVTableView &table = window.currentPane().table();
+            QCOMPARE(QPoint(table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()),
+                     positions[tab]);
+        }
+    }
+
+    void copyTakesTheSelectedTextOfALabel()
+    {
+        DocumentWindow &window = open();
+        window.pane(Tab::Media).selectRows({0});
+        window.setNotice(QStringLiteral("Sidecar"));
+        auto *const notice = window.findChild<NoticeBar *>()->findChild<QLabel *>();
+        QTest::mouseDClick(notice, Qt::LeftButton, {}, QPoint(8, notice->height() / 2));
+        QCOMPARE(notice->selectedText(), QStringLiteral("Sidecar"));
+        QVERIFY(trigger(window, QStringLiteral("Copy"), QStringLiteral("Edit")));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Sidecar"));
+        // The table has its turn again once it has the focus.
+        window.pane(Tab::Media).table().setFocus(Qt::MouseFocusReason);
+        QVERIFY(!notice->hasSelectedText());
+        QVERIFY(trigger(window, QStringLiteral("Copy"), QStringLiteral("Edit")));
+        QVERIFY(QGuiApplication::clipboard()->text().contains(QLatin1Char('\t')));
+    }
+
+private:
+    DocumentWindow &open()
+    {
+        const Result<QString> path = SampleProject::prepare(m_home->path(QStringLiteral("sample")));
+        if (!path || !m_controller->applicationOpenFile(path.value()))
+            qFatal("The sample cannot be opened.");
+        DocumentWindow &window = *m_controller->currentWindow();
+        if (!QTest::qWaitFor([&window] { return window.state() == DocumentWindow::State::Ready; }, 30000))
+            qFatal("The sample is not loaded.");
+        return window;
+    }
+    /// The texts below the table.
+    static QString footerOf(const DocumentWindow &window)
+    {
+        QString text;
+        for (const QLabel *const label : window.currentPane().findChildren<QLabel *>())
+            text += label->isVisible() ? label->text() + QLatin1Char('\n') : QString();
+        return text;
+    }
+    static int rowOf(const DocumentWindow &window, const QString &name)
+    {
+        const QStringList names = columnTexts(window, Tab::Media, QStringLiteral("filename"));
+        for (int row = 0; row < names.size(); ++row) {
+            if (names[row].contains(name))
+                return row;
+        }
+        return -1;
+    }
+    static void doubleClick(TabPane &pane, int row, const QString &column)
+    {
+        QVTableView &table = pane.table();
+        const QModelIndex index = pane.model().index(row, pane.model().columnOf(column));
+        table.scrollTo(index);
+        const QPoint place = table.visualRect(index).center();
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
+    }
+    static bool triggerOf(const TabPane &pane, const QString &title)
+    {
+        for (QAction *const action : pane.table().menu()->actions()) {
+            if (action->text() == title && action->isEnabled()) {
+                action->trigger();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<AppController> m_controller;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    FeedbackTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_feedback.moc"
