@@ -8,6 +8,7 @@
 #include "app/Recovery.h"
 #include "app/StartWindow.h"
 #include "app/Troubleshooting.h"
+#include "app/UserManual.h"
 #include "app/WebPages.h"
 #include "bridge/QVAppleEvents.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
@@ -143,7 +144,7 @@ void AppController::applicationDidFinishLaunching()
         const QWidget *const active = QApplication::activeWindow();
         const bool isInUse = !documentWindows().empty() || m_recovery->isOffering() ||
                              (active && active != m_startWindow.get());
-        if (!isInUse && !m_quitting)
+        if (!isInUse && m_quitting == Quitting::No)
             performStartupAction();
     });
 }
@@ -268,7 +269,10 @@ DocumentWindow *AppController::makeWindow()
     connect(window, &DocumentWindow::loadFailed, m_recentFiles.get(), &RecentFiles::forgetIfGone);
     connect(window, &DocumentWindow::filesDropped, this, &AppController::openFiles, Qt::QueuedConnection);
     connect(window, &DocumentWindow::closed, this, &AppController::windowClosed);
-    connect(window, &DocumentWindow::closeCancelled, this, &AppController::stayOpen);
+    connect(window, &DocumentWindow::closeCancelled, this, [this] {
+        if (m_quitting == Quitting::Closing) // before that the window is asked about again
+            m_quitting = Quitting::No;
+    });
     window->setOpenElsewhere([this, window](const QString &file) { return isOpenElsewhere(file, *window); });
     window->setOtherWindows([this, window] { return windowsBeside(*window); });
     cascade(*window);
@@ -355,27 +359,27 @@ DocumentWindow *AppController::currentWindow() const
 void AppController::windowClosed()
 {
     std::erase_if(m_windows, [](const QPointer<DocumentWindow> &window) { return !window; });
-    if (m_quitting)
+    if (m_quitting == Quitting::Closing)
         closeNextWindow();
+    else if (m_quitting == Quitting::Asking)
+        return;
     else if (documentWindows().empty())
         m_startWindow->show();
 }
 
 void AppController::quit()
 {
-    if (m_quitting)
+    if (m_quitting != Quitting::No)
         return;
-    m_quitting = true;
+    m_quitting = Quitting::Asking;
     m_quit = std::make_unique<QuitSequence>([this] { return documentWindows(); }, nullptr);
-    connect(m_quit.get(), &QuitSequence::settled, this, &AppController::closeNextWindow,
-            Qt::QueuedConnection);
-    connect(m_quit.get(), &QuitSequence::cancelled, this, &AppController::stayOpen);
+    const auto close = [this] {
+        m_quitting = Quitting::Closing;
+        closeNextWindow();
+    };
+    connect(m_quit.get(), &QuitSequence::settled, this, close, Qt::QueuedConnection);
+    connect(m_quit.get(), &QuitSequence::cancelled, this, [this] { m_quitting = Quitting::No; });
     m_quit->start();
-}
-
-void AppController::stayOpen()
-{
-    m_quitting = false;
 }
 
 void AppController::closeNextWindow()
@@ -411,10 +415,11 @@ void AppController::prefsToggleQCLogging(bool on)
 
 void AppController::helpUserManual()
 {
-    const QString manual =
-        StandardFolders::sharedLibrary() + QStringLiteral("/Documentation/Orvandel/Halvex User Manual.pdf");
-    if (QFileInfo::exists(manual))
-        Workspace::openFile(manual);
+    const Result<void> opened =
+        UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
+    if (!opened)
+        QVAlert::alertSheetWithMessageText(tr("The user manual cannot be shown"),
+                                           opened.message() + QLatin1Char('.'), nullptr);
 }
 
 void AppController::showAboutDialog()

@@ -106,7 +106,6 @@ private:
     void cascade(DocumentWindow &window) const;
     void windowClosed();
     void closeNextWindow();
-    void stayOpen();
     void gatherLogsInto(const QString &folder);
     QString startFolder() const;
 
@@ -119,7 +118,8 @@ private:
     QPointer<QFileDialog> m_openPanel;
     QPointer<AboutPanel> m_aboutPanel;
     QPointer<QVFCPProjectLoader> m_projectLoader;
-    bool m_quitting = false;
+    enum class Quitting { No, Asking, Closing };
+    Quitting m_quitting = Quitting::No;
     std::unique_ptr<QuitSequence> m_quit;
 };
 

@@ -2,6 +2,7 @@
 
 #include "app/AppController.h"
 #include "app/ApplicationWatch.h"
+#include "app/KeyboardHelp.h"
 #include "app/RecentFiles.h"
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
@@ -186,6 +187,9 @@ void MainMenu::makeHelpMenu()
 {
     QMenu *const menu = addMenu(tr("&Help"));
     add(menu, tr("User &Manual"), QKeySequence::HelpContents, &m_controller, &AppController::helpUserManual);
+    QAction *const keys =
+        add(menu, tr("&Keyboard Shortcuts"), {}, this, [this] { KeyboardHelp::showFor(m_window); });
+    keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
     menu->addSeparator();
     add(menu, tr("&Halvex Home Page"), {}, &m_controller, &AppController::helpHalvexHome);
     add(menu, tr("&Orvandel Home Page"), {}, &m_controller, &AppController::helpQVHome);

@@ -1,11 +1,8 @@
 #include "app/QuitSequence.h"
 
-#include "document/MyDocument.h"
 #include "document/widgets/DocumentWindow.h"
 
 #include <QFileInfo>
-
-#include <algorithm>
 
 namespace vantrell
 {
@@ -26,6 +23,8 @@ QuitSequence::QuitSequence(std::function<std::vector<DocumentWindow *>()> window
 
 void QuitSequence::start()
 {
+    for (DocumentWindow *const window : m_windows())
+        window->forgetGivenUpChanges();
     proceed();
 }
 
@@ -62,9 +61,7 @@ std::vector<DocumentWindow *> QuitSequence::changedWindows() const
 {
     std::vector<DocumentWindow *> changed;
     for (DocumentWindow *const window : m_windows()) {
-        const MyDocument *const document = window->document();
-        const bool isSettled = std::find(m_settled.begin(), m_settled.end(), window) != m_settled.end();
-        if (document && document->isEdited() && !isSettled)
+        if (window->hasUnsettledChanges())
             changed.push_back(window);
     }
     return changed;
@@ -111,9 +108,10 @@ void QuitSequence::settleNext()
     DocumentWindow *const window = changed.front();
     connect(window, &DocumentWindow::changesSettled, this, &QuitSequence::windowSettled,
             Qt::SingleShotConnection);
-    m_settled.emplace_back(window);
-    window->settleChanges(m_stage == Stage::Saving ? DocumentWindow::Settling::Save
-                                                   : DocumentWindow::Settling::Ask);
+    // What was edited after it was saved is asked about.
+    const bool isFirst = m_saved.insert(window).second;
+    window->settleChanges(m_stage == Stage::Saving && isFirst ? DocumentWindow::Settling::Save
+                                                              : DocumentWindow::Settling::Ask);
 }
 
 void QuitSequence::windowSettled(bool isSettled)

@@ -3,9 +3,9 @@
 #include "support/alerts/QVAlert.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <functional>
+#include <set>
 #include <vector>
 
 namespace vantrell
@@ -14,8 +14,8 @@ namespace vantrell
 class DocumentWindow;
 
 /// Asks about the changes in all windows before any of them closes. A single changed project is asked about
-/// in its window; for several, one question offers to save all or review each in turn. Waits for windows that
-/// are busy. Main thread.
+/// in its window; for several, one question offers to save all or review each in turn. A project that is
+/// edited after its question was answered is asked about again. Waits for windows that are busy. Main thread.
 class QuitSequence final : public QObject, private AlertDelegate
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ private:
 
     std::function<std::vector<DocumentWindow *>()> m_windows;
     Stage m_stage = Stage::Waiting;
-    std::vector<QPointer<DocumentWindow>> m_settled;
+    std::set<DocumentWindow *> m_saved;
 };
 
 } // namespace vantrell

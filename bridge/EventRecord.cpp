@@ -50,6 +50,34 @@ QString FourCharCode::text() const
                        : QStringLiteral("0x%1").arg(value, 8, 16, QLatin1Char('0'));
 }
 
+EventDescriptor::EventDescriptor() = default;
+
+EventDescriptor::EventDescriptor(FourCharCode type, QByteArray bytes)
+    : m_type(type)
+    , m_bytes(std::move(bytes))
+{
+}
+
+EventDescriptor EventDescriptor::fromUtf8(QByteArray utf8)
+{
+    return {EventCode::Utf8, std::move(utf8)};
+}
+
+EventDescriptor EventDescriptor::fromFileUrl(QByteArray url)
+{
+    return {EventCode::FileUrl, std::move(url)};
+}
+
+EventDescriptor EventDescriptor::fromBool(bool value)
+{
+    return {EventCode::Bool, QByteArray(1, value ? '\1' : '\0')};
+}
+
+EventDescriptor EventDescriptor::fromFileReference(QByteArray bytes)
+{
+    return {EventCode::FileReference, std::move(bytes)};
+}
+
 EventDescriptor EventDescriptor::fromInteger(std::int32_t value)
 {
     return {EventCode::Integer, bigEndian(static_cast<std::uint32_t>(value))};

@@ -20,29 +20,19 @@ class EventDescriptor
 {
 public:
     /// The empty value, of type `null`.
-    EventDescriptor() = default;
+    EventDescriptor();
     /// A value of any type except `list` and `reco`; the bytes are not checked.
-    EventDescriptor(FourCharCode type, QByteArray bytes)
-        : m_type(type)
-        , m_bytes(std::move(bytes))
-    {
-    }
+    EventDescriptor(FourCharCode type, QByteArray bytes);
 
-    static EventDescriptor fromUtf8(QByteArray utf8) { return {EventCode::Utf8, std::move(utf8)}; }
+    static EventDescriptor fromUtf8(QByteArray utf8);
     /// The text of a file URL, or of a path with percent escapes, as UTF-8.
-    static EventDescriptor fromFileUrl(QByteArray url) { return {EventCode::FileUrl, std::move(url)}; }
-    static EventDescriptor fromBool(bool value)
-    {
-        return {EventCode::Bool, QByteArray(1, value ? '\1' : '\0')};
-    }
+    static EventDescriptor fromFileUrl(QByteArray url);
+    static EventDescriptor fromBool(bool value);
     static EventDescriptor fromInteger(std::int32_t value);
     /// The signature of an application.
     static EventDescriptor fromSignature(FourCharCode signature);
     /// The 80 bytes of a file reference (bridge/FileReference.h).
-    static EventDescriptor fromFileReference(QByteArray bytes)
-    {
-        return {EventCode::FileReference, std::move(bytes)};
-    }
+    static EventDescriptor fromFileReference(QByteArray bytes);
     static EventDescriptor fromList(std::vector<EventDescriptor> items);
     static EventDescriptor fromRecord(std::vector<EventParameter> fields);
 

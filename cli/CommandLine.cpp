@@ -44,10 +44,15 @@ const CLI::App *subcommandNamed(const CLI::App &app, const std::string &name)
     return found.empty() ? &app : found.front();
 }
 
+bool takesValue(const CLI::Option *option)
+{
+    return option && option->get_items_expected_max() > 0;
+}
+
 /// How many of the arguments behind that one belong to it.
 int valuesOf(const CLI::Option *option, const std::string &argument)
 {
-    if (!option || option->get_items_expected_max() == 0 || argument.find('=') != std::string::npos)
+    if (!takesValue(option) || argument.find('=') != std::string::npos)
         return 0;
     return option->get_items_expected_max() == 2 ? 2 : 1; // a list takes one at a time
 }
@@ -72,10 +77,16 @@ std::vector<std::string> markedValues(const CLI::App &program, const std::vector
         const auto isSpecial = [](const std::string &text) {
             return text.empty() || text[0] == mark || text[0] == '[' || text[0] == '-';
         };
+        // "-oVALUE"
+        if (values == 0 && !isRest && !option && argument.size() > 2 && beginsWithMinus(argument) &&
+            takesValue(app->get_option_no_throw(argument.substr(0, 2)))) {
+            marked.push_back(argument.substr(0, 2));
+            marked.push_back(mark + argument.substr(2));
+            continue;
+        }
         const std::size_t equals =
             option && argument.starts_with("--") ? argument.find('=') : std::string::npos;
-        if (equals != std::string::npos && option->get_items_expected_max() > 0 &&
-            isSpecial(argument.substr(equals + 1))) {
+        if (equals != std::string::npos && takesValue(option) && isSpecial(argument.substr(equals + 1))) {
             marked.push_back(argument.substr(0, equals));
             marked.push_back(mark + argument.substr(equals + 1));
             values = valuesOf(option, std::string()) - 1;

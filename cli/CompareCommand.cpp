@@ -1,10 +1,10 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/JsonText.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
 #include "compare/SequenceComparison.h"
+#include "rows/json/JsonText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

@@ -4,13 +4,14 @@
 #include "cli/EditScript.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
+#include "rows/json/RecordJson.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/FileUtilities.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <memory>
@@ -41,7 +42,8 @@ bool isSameFile(const QString &a, const QString &b)
         QFileInfo info(path);
         for (int links = 0; links < 40 && info.isSymLink(); ++links)
             info.setFile(info.symLinkTarget());
-        return info.absoluteFilePath();
+        const QString folder = info.dir().canonicalPath(); // empty when there is none
+        return folder.isEmpty() ? info.absoluteFilePath() : folder + QLatin1Char('/') + info.fileName();
     };
     return target(a) == target(b) || FileUtilities::isSameFile(a, b);
 }

@@ -1,8 +1,8 @@
 #include "cli/EditScript.h"
 
 #include "cli/Console.h"
-#include "cli/JsonText.h"
 #include "markers/MarkerColumns.h"
+#include "rows/json/JsonText.h"
 #include "support/files/FileUtilities.h"
 
 #include <nlohmann/json.hpp>

@@ -2,9 +2,9 @@
 #include "cli/Console.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
 #include "cli/TextTable.h"
 #include "effects/EffectColumns.h"
+#include "rows/json/RecordJson.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

@@ -2,7 +2,7 @@
 #include "cli/Console.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
+#include "interchange/MarkerJson.h"
 #include "interchange/NoteExporter.h"
 #include "interchange/NoteImporter.h"
 #include "support/files/FileUtilities.h"
@@ -39,7 +39,7 @@ int exportNotes(const ExportOptions &options, NoteExporter::Filter filter, Proje
     const RowList markers = exporter.markers(filter);
     QByteArray content;
     if (options.format == "json") {
-        content = markersAsJson(markers);
+        content = MarkerJson(markers).text();
     } else {
         const NoteWriter::Written written = exporter.list(fromArgument(options.format), markers);
         for (const QString &change : written.changes)

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/JsonText.h"
 #include "cli/ProjectSession.h"
+#include "rows/json/JsonText.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

@@ -2,12 +2,12 @@
 #include "cli/Console.h"
 #include "cli/NoteCommands.h"
 #include "cli/OptionValues.h"
-#include "cli/RecordJson.h"
 #include "cli/TextTable.h"
 #include "interchange/ImportedMarker.h"
 #include "interchange/MarkerListImporter.h"
 #include "interchange/QVFCPXMLParser.h"
 #include "rows/RecordText.h"
+#include "rows/json/RecordJson.h"
 #include "support/files/ProgramArguments.h"
 
 #include <QFileInfo>

@@ -2,8 +2,8 @@
 #include "cli/Console.h"
 #include "cli/OptionValues.h"
 #include "cli/ProjectSession.h"
-#include "cli/RecordJson.h"
 #include "cli/TextTable.h"
+#include "interchange/MarkerJson.h"
 #include "interchange/NoteExporter.h"
 #include "interchange/NoteImporter.h"
 #include "markers/MarkerColumns.h"
@@ -92,7 +92,7 @@ int markers(const MarkersOptions &options)
     }
     const RowList rows =
         NoteExporter(session.document()).markers(session.document().rowsOnShow(Tab::Markers), filter);
-    return print(options.json ? markersAsJson(rows) : markersAsTable(rows)) ? Done : Failed;
+    return print(options.json ? MarkerJson(rows).text() : markersAsTable(rows)) ? Done : Failed;
 }
 
 } // namespace

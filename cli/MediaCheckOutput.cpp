@@ -1,10 +1,10 @@
 #include "cli/Console.h"
-#include "cli/JsonText.h"
 #include "cli/MediaOptions.h"
 #include "cli/TextTable.h"
 #include "handover/TransferText.h"
 #include "handover/Verification.h"
 #include "media/MediaKeys.h"
+#include "rows/json/JsonText.h"
 #include "support/files/Descriptor.h"
 #include "support/files/ProgramArguments.h"
 

@@ -2,10 +2,10 @@
 #include "cli/Console.h"
 #include "cli/MediaOptions.h"
 #include "cli/OptionValues.h"
-#include "cli/RecordJson.h"
 #include "cli/TextTable.h"
 #include "media/MediaColumns.h"
 #include "media/MediaConditions.h"
+#include "rows/json/RecordJson.h"
 #include "support/files/ProgramArguments.h"
 
 #include <nlohmann/json.hpp>

@@ -1,8 +1,8 @@
 #include "cli/Console.h"
-#include "cli/JsonText.h"
 #include "cli/MediaOptions.h"
 #include "cli/TextTable.h"
 #include "media/MediaKeys.h"
+#include "rows/json/JsonText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,6 @@
 #include "cli/NoteJson.h"
 
-#include "cli/JsonText.h"
+#include "rows/json/JsonText.h"
 
 #include <nlohmann/json.hpp>
 

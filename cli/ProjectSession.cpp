@@ -7,9 +7,22 @@
 namespace vantrell::cli
 {
 
+namespace
+{
+
+/// Those of all sessions, which end with the process: this list keeps leak checkers from reporting them.
+std::vector<Workbench *> &workbenches()
+{
+    static auto &all = *new std::vector<Workbench *>;
+    return all;
+}
+
+} // namespace
+
 ProjectSession::ProjectSession(Workbench::Inventories inventories)
     : m_workbench(new Workbench(*this, inventories))
 {
+    workbenches().push_back(m_workbench.get());
     QObject::connect(&document(), &MyDocument::loadFinished, &m_loop,
                      [this](bool loaded, const QString &message, const QString &notice) {
                          loadEnded(loaded, message, notice);
@@ -19,9 +32,8 @@ ProjectSession::ProjectSession(Workbench::Inventories inventories)
 
 ProjectSession::~ProjectSession()
 {
-    static auto &left = *new std::vector<Workbench *>; // keeps leak checkers from reporting them
     m_workbench->document().close();
-    left.push_back(m_workbench.release());
+    static_cast<void>(m_workbench.release());
 }
 
 void ProjectSession::setOwnOwners(bool own)

@@ -174,12 +174,13 @@ private:
     std::vector<Shifts> shifts() const
     {
         std::vector<Shifts> shifts(m_old.events.size());
-        for (const auto &[track, items] : m_oldItems) {
+        for (const auto &[place, items] : m_oldItems) {
+            const int track = place.second;
             const auto walk = [&](auto begin, auto end, auto edgeOf, std::int64_t Shifts::*side) {
                 std::int64_t shift = 0;
                 for (auto item = begin; item != end; ++item) {
                     const int other = m_match.m_newOf[std::size_t(*item)];
-                    const bool onTrack = other != EventMatch::none && newEvent(other).track == track.second;
+                    const bool onTrack = other != EventMatch::none && newEvent(other).track == track;
                     if (onTrack)
                         shift = newEvent(other).*edgeOf - oldEvent(*item).*edgeOf;
                     shifts[std::size_t(*item)].*side = shift;

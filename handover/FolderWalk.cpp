@@ -14,6 +14,7 @@
 #include <set>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -38,11 +39,7 @@ QByteArray pathIn(const QByteArray &folder, const QByteArray &name)
 
 /// What the threads share. It outlives the walk for as long as one of them is stuck.
 struct FolderWalk::State {
-    struct Identity {
-        std::uint64_t device;
-        std::uint64_t number;
-        auto operator<=>(const Identity &) const = default;
-    };
+    using Identity = std::pair<std::uint64_t, std::uint64_t>; // device and number
 
     QSet<QString> names;
     Lister lister;

@@ -96,7 +96,8 @@ struct NotePreview::Plan {
     void make()
     {
         if (rereads)
-            source.list = std::make_shared<const NoteList>(NoteReader::read(source.bytes, settings.choices));
+            source.list = std::make_shared<const NoteList>(
+                NoteReader::readAgain(*source.list, source.bytes, settings.choices));
         meaning = meaningOf(*source.list, target, settings);
         NoteSettings resolved = settings;
         resolved.meaning = meaning;

@@ -37,7 +37,7 @@ Result<NoteSource> sourceOf(const QString &path, const QByteArray &bytes, const 
         auto list = std::make_shared<NoteList>(NoteReader::read(bytes));
         source.choices = memory.choicesFor(list->headers);
         if (!source.choices.empty())
-            *list = NoteReader::read(bytes, source.choices);
+            *list = NoteReader::readAgain(*list, bytes, source.choices);
         source.list = std::move(list);
     });
     if (!isRead)

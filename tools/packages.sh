@@ -1,8 +1,8 @@
 # Sourced by ./run, ./test and the tools: the Debian packages for each purpose, and their installation.
 
-# To build the core, the command line, the desktop program and their tests.
+# To build the core, the command line, the desktop program with its manual, and their tests.
 build_packages=(
-    g++ cmake ninja-build pkg-config ccache
+    g++ cmake ninja-build pkg-config ccache cmark-gfm
     qt6-base-dev libxml2-dev libplist-dev libxxhash-dev libssl-dev libcli11-dev nlohmann-json3-dev
 )
 

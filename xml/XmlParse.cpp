@@ -1,5 +1,6 @@
 #include "xml/XmlParse.h"
 
+#include "xml/XmlEnumerations.h"
 #include "xml/XmlEvents.h"
 #include "xml/XmlLibrary.h"
 #include "xml/XmlNames.h"
@@ -16,6 +17,8 @@
 #include <memory>
 #include <new>
 #include <set>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace vantrell
@@ -32,8 +35,10 @@ struct DocumentDeleter {
     void operator()(xmlDoc *document) const { xmlFreeDoc(document); }
 };
 
-/// Comparisons. The library compares each value of an enumeration with all others.
+/// Comparisons, which the library makes between the values of an enumeration and between attributes.
 constexpr std::int64_t maximumValuesCost = 50'000'000;
+constexpr std::int64_t identifierCost = 50; // such comparisons; of an identifier with an attribute
+constexpr std::int64_t namespaceCost = 10;  // of an attribute with a namespace
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
@@ -75,6 +80,7 @@ public:
         sax->reference = reference;
         sax->getEntity = getEntity;
         sax->getParameterEntity = getParameterEntity;
+        sax->attributeDecl = attributeDeclaration;
         sax->entityDecl = entityDeclaration;
         sax->unparsedEntityDecl = [](void *parser, const xmlChar *, const xmlChar *, const xmlChar *,
                                      const xmlChar *) { of(parser)->m_hasEntities = true; };
@@ -95,7 +101,7 @@ public:
                           (m_request.tolerant || m_input.fault().isEmpty());
         outcome.repaired = m_repaired || !m_context->wellFormed || !m_input.fault().isEmpty();
         outcome.tooDeep = m_tooDeep;
-        outcome.tooManyValues = m_valuesCost > maximumValuesCost;
+        outcome.tooManyValues = hasTooManyValues();
         outcome.tooManyHyphens = m_hyphenCost > maximumHyphenCost;
         outcome.readFailed = m_input.failed();
         outcome.cancelled = m_cancelled || m_input.wasCancelled() || isCancelled();
@@ -130,9 +136,9 @@ private:
         Parse *const self = static_cast<Parse *>(parse);
         try {
             const int size = self->m_outOfMemory ? 0 : self->m_input.read(buffer, length);
-            if (size > 0 && self->m_inSubset)
-                self->noteEnumerations({buffer, std::size_t(size)});
-            return self->m_valuesCost > maximumValuesCost ? 0 : size;
+            if (size > 0 && self->m_isBeforeElements)
+                self->m_enumerations.note({buffer, std::size_t(size)});
+            return self->hasTooManyValues() ? 0 : size;
         } catch (const std::exception &) {
             self->m_outOfMemory = true;
             return 0;
@@ -201,6 +207,37 @@ private:
         Parse *const self = of(context);
         return self->m_parameterEntities.contains(viewOf(name)) ? &self->m_emptyEntity : nullptr;
     }
+
+    /// For an identifier the library looks at all attributes of its element, and for what is no namespace at
+    /// those that are.
+    static void attributeDeclaration(void *context, const xmlChar *element, const xmlChar *name, int type,
+                                     int use, const xmlChar *value, xmlEnumeration *values)
+    {
+        Parse *const self = of(context);
+        const std::string_view text = viewOf(name);
+        self->guard([&] {
+            Declared &declared = self->m_declared[std::string(viewOf(element))];
+            if (text == "xmlns" || text.starts_with("xmlns:") || text.ends_with(":xmlns"))
+                ++declared.namespaces;
+            else
+                self->m_attributesCost += namespaceCost * declared.namespaces;
+            ++declared.attributes;
+            if (type == XML_ATTRIBUTE_ID)
+                self->m_attributesCost += identifierCost * declared.attributes;
+        });
+        if (self->hasTooManyValues())
+            xmlFreeEnumeration(values); // the input ends, too
+        else
+            xmlSAX2AttributeDecl(context, element, name, type, use, value, values);
+    }
+
+    /// Of an element.
+    struct Declared {
+        std::int64_t attributes = 0;
+        std::int64_t namespaces = 0;
+    };
+
+    bool hasTooManyValues() const { return m_enumerations.cost() + m_attributesCost > maximumValuesCost; }
 
     static void entityDeclaration(void *context, const xmlChar *name, int type, const xmlChar *,
                                   const xmlChar *, xmlChar *)
@@ -382,21 +419,11 @@ private:
             m_elementsInComments += text[i] == '<' && startsXmlName(text[i + 1]);
     }
 
-    /// In a part of the document type.
-    void noteEnumerations(std::string_view text)
-    {
-        for (const char character : text) {
-            if (character == '|')
-                m_valuesCost += ++m_values;
-            else if (character == '(' || character == '>')
-                m_values = 0;
-        }
-    }
-
     void onStartElement(const XmlNames::Raw &name, int namespaces, const xmlChar **namespaceList,
                         int attributes, const xmlChar **attributeList)
     {
         m_inSubset = false;
+        m_isBeforeElements = false;
         if (isCancelled()) {
             m_cancelled = true;
             xmlStopParser(m_context);
@@ -564,6 +591,7 @@ private:
     XmlEvents m_events; // destroyed before the builder
     int m_depth = 0;
     bool m_inSubset = false;
+    bool m_isBeforeElements = true;
     bool m_repaired = false;
     bool m_tooDeep = false;
     bool m_cancelled = false;
@@ -584,8 +612,9 @@ private:
     int m_firstDropped = 0;                     // line
     const xmlChar *m_passedReference = nullptr; // the character of the reference passed on last
     long m_bracketAt = -1;                      // bytes of the text: where a misplaced "]]>" is; -1 for none
-    std::int64_t m_values = 0;                  // of the enumeration that was read last
-    std::int64_t m_valuesCost = 0;
+    XmlEnumerations m_enumerations;
+    std::unordered_map<std::string, Declared> m_declared; // by element
+    std::int64_t m_attributesCost = 0;
     std::int64_t m_hyphenCost = 0;
     long m_lastTagEnd = 0;     // bytes of the text
     long m_swallowedFrom = -1; // the same: what no end was found of begins behind; -1 for nothing

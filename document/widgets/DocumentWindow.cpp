@@ -237,6 +237,7 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
 
 void DocumentWindow::connectSession()
 {
+    m_saving.forgetGivenUpChanges(); // those of another document
     m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
         if (tab != selectedTab())
             (this->*toolBarItems()[std::size_t(tab)].action)();
@@ -291,12 +292,25 @@ void DocumentWindow::keepSession()
         journal->setGivenUp(true);
     for (TabPane *const pane : m_panes)
         m_content->removeWidget(pane);
-    m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes, {}});
+    m_reverted.push_back({m_path,
+                          m_typeName,
+                          std::move(m_interface),
+                          std::move(m_workbench),
+                          m_panes,
+                          m_notice->notice(),
+                          m_notice->kind(),
+                          {}});
     m_panes = {};
 }
 
 void DocumentWindow::undoRevert()
 {
+    const QString path = m_reverted.back().path;
+    if (path != m_path && m_saving.isOpenElsewhere(path)) {
+        showFailure(tr("“%1” cannot be shown as it was.").arg(QFileInfo(path).fileName()),
+                    tr("The file is open in another window. Close that window first."));
+        return;
+    }
     endSession();
     Reverted reverted = std::move(m_reverted.back());
     m_reverted.pop_back();
@@ -312,7 +326,7 @@ void DocumentWindow::undoRevert()
     m_state.treeLoaded();
     m_state.listsFilled();
     m_toolBar->setEnabled(true);
-    m_notice->setNotice(QString());
+    m_notice->setNotice(reverted.notice, reverted.noticeKind);
     setFile(reverted.path, reverted.typeName);
     setWindowModified(document.isEdited());
     updateEditing();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentInterface.h"
+#include "document/widgets/NoticeBar.h"
 #include "document/widgets/WindowComparison.h"
 #include "document/widgets/WindowMarkerLists.h"
 #include "document/widgets/WindowMedia.h"
@@ -35,7 +36,6 @@ namespace vantrell
 class AlertParent;
 class DocumentWindowInterface;
 class MyDocument;
-class NoticeBar;
 class PrintOperation;
 
 class TabPane;
@@ -101,6 +101,7 @@ public:
     {
         m_saving.setOpenElsewhere(std::move(isOpenElsewhere));
     }
+    bool isOpenElsewhere(const QString &path) const { return m_saving.isOpenElsewhere(path); }
 
     /// Tells the window how to find the other windows whose projects are ready.
     void setOtherWindows(std::function<std::vector<DocumentWindow *>()> otherWindows)
@@ -113,6 +114,10 @@ public:
     /// Asks about the changes, or saves them, and leaves the window open; changesSettled() reports the
     /// result.
     void settleChanges(Settling settling) { m_saving.settleChanges(settling); }
+    /// Whether the project has changes but those that the user has given up.
+    bool hasUnsettledChanges() { return m_saving.hasUnsettledChanges(); }
+    /// They are asked about again.
+    void forgetGivenUpChanges() { m_saving.forgetGivenUpChanges(); }
     /// Closes the window without asking about changes that the user has given up.
     void closeSettled() { m_saving.closeSettled(); }
     /// Cancels the operation that closing the window would cancel.
@@ -348,6 +353,8 @@ private:
         std::shared_ptr<DocumentWindowInterface> interface;
         std::unique_ptr<Workbench> workbench;
         std::array<TabPane *, 3> panes;
+        QString notice;
+        NoticeBar::Kind noticeKind;
         QSet<QString> changedDefaults; ///< meanwhile
     };
     std::vector<Reverted> m_reverted; ///< the last one at the end

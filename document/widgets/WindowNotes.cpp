@@ -3,6 +3,7 @@
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/WindowMarkerLists.h"
 #include "document/widgets/WindowWork.h"
+#include "interchange/MarkerJson.h"
 #include "interchange/NotePreview.h"
 #include "interchange/widgets/ExportNotesSheet.h"
 #include "interchange/widgets/NoteAddition.h"
@@ -23,6 +24,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <unordered_set>
 #include <utility>
 
@@ -63,7 +65,7 @@ void WindowNotes::runOpenPanel()
                               .title = tr("Import Notes"),
                               .folder = m_window.folder(),
                               .filter = tr("Lists of notes (*.txt *.csv *.tsv *.edl *.xml *.fcpxml *.md "
-                                           "*.json *.vtt *.TXT *.CSV *.EDL *.XML)") +
+                                           "*.json *.vtt *.srt *.TXT *.CSV *.EDL *.XML)") +
                                         QStringLiteral(";;") + tr("All files (*)"),
                               .acceptLabel = tr("Open")},
                              [this](const QStringList &paths) { importFiles(paths); });
@@ -313,12 +315,17 @@ void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
     struct Export {
         QString format;
         QStringList columns;
-        std::vector<WrittenNote> notes;
+        std::vector<WrittenNote> notes = {};
+        std::optional<MarkerJson> json = std::nullopt; ///< instead of the notes
         QStringList changes = {};
     };
-    const auto list = std::make_shared<Export>(
-        Export{sheet.format(), sheet.columns(), NoteExporter::notes(sheet.markers())});
-    const std::size_t count = list->notes.size();
+    const RowList markers = sheet.markers();
+    const std::size_t count = markers.size();
+    const auto list = std::make_shared<Export>(Export{sheet.format(), sheet.columns()});
+    if (list->format == QStringLiteral("json"))
+        list->json.emplace(markers);
+    else
+        list->notes = NoteExporter::notes(markers);
     const auto write = std::make_shared<CancellableWrite>();
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [this, write] {
@@ -327,6 +334,8 @@ void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
                  });
     BackgroundWork::run(
         [write, path, list] {
+            if (list->json)
+                return FileUtilities::writeAtomically(path, list->json->text(), write->check());
             NoteWriter::Written written = NoteWriter::write(list->format, list->notes, list->columns);
             list->changes = std::move(written.changes);
             return FileUtilities::writeAtomically(path, written.text.toUtf8(), write->check());

@@ -43,7 +43,7 @@ void WindowSaving::saveTo(const QString &path)
         finish(false);
         return;
     }
-    if (path != m_window.path() && m_isOpenElsewhere && m_isOpenElsewhere(path)) {
+    if (path != m_window.path() && isOpenElsewhere(path)) {
         m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
                              tr("The file is open in another window. Close that window first, or choose "
                                 "another name."));
@@ -223,9 +223,16 @@ void WindowSaving::settleChanges(Settling settling)
     }
 }
 
+bool WindowSaving::hasUnsettledChanges()
+{
+    m_window.commitEditing();
+    const MyDocument *const document = m_window.document();
+    return document && document->isEdited() && m_givenUp != document->marks().state();
+}
+
 void WindowSaving::closeSettled()
 {
-    if (m_state.changes() == WindowState::Changes::GivenUp && !m_state.isBusy())
+    if (!hasUnsettledChanges() && !m_state.isBusy())
         m_window.shutDown();
     else
         m_window.close();
@@ -262,13 +269,14 @@ void WindowSaving::perform(const QString &selector, QVAlert *, int code)
 void WindowSaving::closeQuestionEnded(int code)
 {
     if (code == AlertAnswer::Alternate) {
-        m_state.answerGiveUp();
+        m_state.endQuestion();
+        m_givenUp = m_window.document()->marks().state();
         changesEnded(true);
     } else if (code != AlertAnswer::Default) {
-        m_state.answerCancel();
+        m_state.endQuestion();
         changesEnded(false);
     } else if (!m_window.document()->isEdited()) {
-        m_state.answerCancel(); // sent while the question showed: nothing is left to save
+        m_state.endQuestion(); // sent while the question showed: nothing is left to save
         changesEnded(true);
     } else {
         m_state.answerSave();

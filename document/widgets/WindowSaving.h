@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/ChangeMarks.h"
 #include "document/widgets/WindowPart.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/Result.h"
@@ -7,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace vantrell
 {
@@ -30,6 +32,8 @@ public:
         m_isOpenElsewhere = std::move(isOpenElsewhere);
     }
 
+    bool isOpenElsewhere(const QString &path) const { return m_isOpenElsewhere && m_isOpenElsewhere(path); }
+
     void saveTo(const QString &path);
     void saveAs();
     void revert();
@@ -42,6 +46,8 @@ public:
     /// Whether the window may close now. If not, it closes or reports closeCancelled() later.
     bool mayClose();
     void settleChanges(Settling settling);
+    bool hasUnsettledChanges();
+    void forgetGivenUpChanges() { m_givenUp.reset(); }
     void closeSettled();
 
 private:
@@ -58,6 +64,7 @@ private:
     void perform(const QString &selector, QVAlert *alert, int code) override;
 
     std::function<bool(const QString &path)> m_isOpenElsewhere;
+    std::optional<ChangeMarks::State> m_givenUp; // the state of the project when the user gave it up
 };
 
 } // namespace vantrell

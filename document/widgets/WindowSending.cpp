@@ -73,6 +73,13 @@ void WindowSending::exportChangedSequencesTo(const QString &path)
     MyDocument *const document = m_window.document();
     if (m_window.refusesAfterFailedLoad() || !document || m_state.isBusy() || m_state.isSending())
         return;
+    if (FileUtilities::isSameFile(path, m_window.path()) || m_window.isOpenElsewhere(path)) {
+        m_window.showFailure(
+            tr("The changed sequences could not be exported."),
+            tr("“%1” is open in a window. Choose another name.").arg(QFileInfo(path).fileName()));
+        Q_EMIT m_window.changedSequencesExported(false);
+        return;
+    }
     struct Export {
         std::atomic<bool> isCancelled = false;
         Result<void> written = Failure{tr("The file could not be written.")};
@@ -80,9 +87,13 @@ void WindowSending::exportChangedSequencesTo(const QString &path)
     const auto run = std::make_shared<Export>();
     const auto write = [document, run, path,
                         uuids = document->modifiedSequenceUUIDs().value_or(QStringList())] {
-        run->written = FileUtilities::writeAtomically(path, [&](QIODevice &device) {
+        const auto writeSequences = [&](QIODevice &device) {
             return OutputDocument(*document).write(uuids, device, &run->isCancelled);
-        });
+        };
+        const auto mayReplace = [&](int) {
+            return run->isCancelled ? Result<void>(Failure()) : Result<void>();
+        };
+        run->written = FileUtilities::writeAtomically(path, writeSequences, mayReplace);
     };
     if (document->runInBackground(write,
                                   [this, run, path] { exported(path, run->written, run->isCancelled); }))

@@ -29,10 +29,8 @@ namespace vantrell
 ///             Saving   → AskingWhileSaving          the same, for a send that takes long
 ///             Asking*  → Saving    answerSave()
 ///             Kept     → Saving    saveForClosing() without a question
-///             Asking*  → GivenUp   answerGiveUp()
-///             Asking*  → Kept      answerCancel()   also when a save for closing is under way
+///             Asking*  → Kept      endQuestion()    also when a save for closing is under way
 ///             Saving   → Kept      saveEnded()      AskingWhileSaving → Asking
-///             GivenUp  → Kept      settle()
 ///
 /// Sending runs beside the work and is a flag of its own. Main thread.
 class WindowState
@@ -50,7 +48,7 @@ public:
 
     enum class Next { Nothing, Revert, Close };
 
-    enum class Changes { Kept, Asking, Saving, AskingWhileSaving, GivenUp };
+    enum class Changes { Kept, Asking, Saving, AskingWhileSaving };
 
     /// What a decision about the changes leads to: closing the window, or only the news that they are
     /// settled.
@@ -102,8 +100,7 @@ public:
         return true;
     }
     void answerSave() { m_changes = Changes::Saving; }
-    void answerGiveUp() { m_changes = Changes::GivenUp; }
-    void answerCancel() { m_changes = Changes::Kept; }
+    void endQuestion() { m_changes = Changes::Kept; }
     void saveForClosing()
     {
         m_changes = m_changes == Changes::Asking ? Changes::AskingWhileSaving : Changes::Saving;
@@ -118,11 +115,7 @@ public:
     }
 
     /// From now on the changes are settled rather than the window closed, until takePurpose().
-    void settle()
-    {
-        m_purpose = Purpose::Settle;
-        m_changes = m_changes == Changes::GivenUp ? Changes::Kept : m_changes;
-    }
+    void settle() { m_purpose = Purpose::Settle; }
     /// The purpose of the decision that was made; the next one is for closing again.
     Purpose takePurpose() { return std::exchange(m_purpose, Purpose::Close); }
 

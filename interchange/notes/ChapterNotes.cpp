@@ -18,49 +18,107 @@ bool isWebVtt(QStringView text)
     return text.startsWith(webVtt) || text.left(20).trimmed().startsWith(webVtt);
 }
 
-/// Without bullets and an opening bracket.
+/// A number, and below it a line with an arrow between times.
+bool isSubRip(QStringView text)
+{
+    NoteLines lines(text);
+    QStringView line;
+    do {
+        if (!lines.next(line))
+            return false;
+    } while (line.trimmed().isEmpty());
+    const QStringView number = line.left(20).trimmed();
+    if (!std::all_of(number.begin(), number.end(), isDigit) || !lines.next(line))
+        return false;
+    const qsizetype arrow = line.left(100).indexOf(u"-->");
+    return arrow > 0 && NoteTime::parse(line.first(arrow), NoteUnit::Frames);
+}
+
+bool isDash(QChar character)
+{
+    return character == u'-' || character == u'–' || character == u'—';
+}
+
+/// Without a number, bullets and an opening bracket.
 QStringView withoutBullet(QStringView line)
 {
     line = line.trimmed();
+    qsizetype digits = 0;
+    while (digits < std::min<qsizetype>(line.size(), 4) && isDigit(line[digits]))
+        ++digits;
+    if (digits > 0 && digits + 1 < line.size() && (line[digits] == u'.' || line[digits] == u')') &&
+        line[digits + 1] == u' ')
+        line = line.sliced(digits + 1).trimmed();
     while (!line.isEmpty() && (line.front() == u'-' || line.front() == u'•' || line.front() == u'*' ||
                                line.front() == u'–' || line.front() == u'(' || line.front() == u'['))
         line = line.sliced(1).trimmed();
     return line;
 }
 
-struct Chapter {
-    QStringView time; ///< null for a line that does not begin with what looks like one
-    QStringView title;
-};
-
-Chapter chapterOf(QStringView line)
+/// How many of the first characters look like a time, with its fraction.
+qsizetype lengthOfTime(QStringView text)
 {
-    const QStringView text = withoutBullet(line);
     qsizetype end = 0;
     qsizetype colons = 0;
     while (end < text.size() && end < 20 && (isDigit(text[end]) || text[end] == u':' || text[end] == u';')) {
         colons += isDigit(text[end]) ? 0 : 1;
         ++end;
     }
+    if (end > 0 && !isDigit(text[end - 1])) { // "0:10: Title"
+        --end;
+        --colons;
+    }
     if (end == 0 || !isDigit(text.front()) || colons == 0 || !isDigit(text[end - 1]))
-        return {};
-    // A fraction
+        return 0;
     if (end + 1 < text.size() && (text[end] == u'.' || text[end] == u',') && isDigit(text[end + 1])) {
         ++end;
         while (end < text.size() && isDigit(text[end]))
             ++end;
     }
-    QStringView rest = text.sliced(end);
-    if (rest.isEmpty() || !(rest.front() == u' ' || rest.front() == u')' || rest.front() == u']' ||
-                            rest.front() == u'-' || rest.front() == u'–' || rest.front() == u'—'))
-        return {};
-    if (rest.front() == u')' || rest.front() == u']')
+    return end;
+}
+
+struct Chapter {
+    QStringView time; ///< null for a line that does not begin with what looks like one
+    QStringView end;  ///< null without one
+    QStringView title;
+};
+
+/// Takes what closes a time, and a dash or the like behind it; false where none can end there.
+bool takeSeparator(QStringView &rest, bool &isDashed)
+{
+    if (rest.isEmpty())
+        return false;
+    const bool isClosed = rest.front() == u')' || rest.front() == u']';
+    const bool isColon = rest.startsWith(u": ");
+    if (!isClosed && !isColon && rest.front() != u' ' && !isDash(rest.front()))
+        return false;
+    if (isClosed)
         rest = rest.sliced(1);
     rest = rest.trimmed();
-    if (rest.size() > 1 && (rest.front() == u'-' || rest.front() == u'–' || rest.front() == u'—' ||
-                            rest.front() == u':' || rest.front() == u'|'))
+    isDashed = rest.size() > 1 && isDash(rest.front());
+    if (isDashed || (rest.size() > 1 && (rest.front() == u':' || rest.front() == u'|')))
         rest = rest.sliced(1).trimmed();
-    return {text.first(end), rest};
+    return true;
+}
+
+Chapter chapterOf(QStringView line)
+{
+    const QStringView text = withoutBullet(line);
+    const qsizetype end = lengthOfTime(text);
+    QStringView rest = text.sliced(end);
+    bool isDashed = false;
+    if (end == 0 || !takeSeparator(rest, isDashed))
+        return {};
+    Chapter chapter{text.first(end), {}, rest};
+    // "00:10 - 00:20 Title"
+    const qsizetype second = isDashed ? lengthOfTime(rest) : 0;
+    QStringView behind = rest.sliced(second);
+    if (second > 0 && (behind.isEmpty() || takeSeparator(behind, isDashed))) {
+        chapter.end = rest.first(second);
+        chapter.title = behind;
+    }
+    return chapter;
 }
 
 void readCues(QStringView text, NoteList &list)
@@ -115,7 +173,7 @@ void readCues(QStringView text, NoteList &list)
 
 bool isChapters(QStringView text)
 {
-    if (isWebVtt(text))
+    if (isWebVtt(text) || isSubRip(text))
         return true;
     std::size_t lines = 0;
     std::size_t chapters = 0;
@@ -141,13 +199,13 @@ bool isChapters(QStringView text)
 void readChapters(QStringView text, NoteList &list)
 {
     list.shape = NoteShape::Chapters;
-    if (isWebVtt(text)) {
+    if (isWebVtt(text) || isSubRip(text)) {
         readCues(text, list);
         return;
     }
-    list.columns = {NoteRole{NoteRole::Time}, NoteRole{NoteRole::Name}};
     NoteLines lines(text);
     QStringView line;
+    bool hasEnds = false;
     while (lines.next(line)) {
         const Chapter chapter = chapterOf(line);
         if (chapter.time.isNull())
@@ -155,9 +213,14 @@ void readChapters(QStringView text, NoteList &list)
         NoteRow row;
         row.line = lines.number();
         row.time = chapter.time;
+        row.end = chapter.end;
         row.name = chapter.title.isEmpty() ? QStringView() : chapter.title;
+        hasEnds = hasEnds || !chapter.end.isNull();
         list.add(row);
     }
+    list.columns = {NoteRole{NoteRole::Time}, NoteRole{NoteRole::Name}};
+    if (hasEnds)
+        list.columns.insert(list.columns.begin() + 1, NoteRole{NoteRole::End});
 }
 
 } // namespace vantrell::NoteShapes

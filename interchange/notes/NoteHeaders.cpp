@@ -89,10 +89,13 @@ constexpr Titles table[] = {
     {NoteRole::Ignore, 0, u"#|no|nr|num|number|id|index|n°|№|row|line|event"},
 };
 
-/// Lower case, without what stands in brackets and with single blanks between words.
+/// Lower case, without what stands in brackets and quotes around it, and with single blanks between words.
 QString normalized(QStringView title)
 {
     QString text;
+    title = title.trimmed();
+    while (title.size() > 1 && title.front() == u'"' && title.back() == u'"')
+        title = title.sliced(1).chopped(1);
     for (const QChar c : title) {
         if (c == u'(' || c == u'[')
             break;

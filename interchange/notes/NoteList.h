@@ -89,6 +89,8 @@ struct UnreadableNote {
     QString reason;
 };
 
+struct NoteTableStart;
+
 /// A list of notes as it was read. Belongs to one thread at a time.
 struct NoteList {
     NoteShape shape = NoteShape::Table;
@@ -97,12 +99,15 @@ struct NoteList {
     std::optional<NoteRate> rate;         ///< what the list says
     NoteUnit timeUnit = NoteUnit::Frames; ///< of plain numbers in the column of times
     NoteUnit durationUnit = NoteUnit::Frames; ///< and of durations
-    QString title;                            ///< the name of the sequence that the list was made from
-    QStringList headers;                      ///< of the columns; empty for a list without a header
+    std::optional<NoteTime> start; ///< the timecode that times in seconds count from; without one, no matter
+    QString title;                 ///< the name of the sequence that the list was made from
+    QStringList headers;           ///< of the columns; empty for a list without a header
     std::vector<NoteRole> columns;
     QStringList examples; ///< the first value of each column of a table, at most 80 characters
     std::vector<NoteRow> rows;
     std::vector<UnreadableNote> unreadable; ///< in the order of their lines
+    /// What reading a table again takes; null for any other list. Never changed.
+    std::shared_ptr<const NoteTableStart> tableStart;
 
     /// Keeps a text for as long as the list, for views into it; null stays null.
     QStringView keep(const QString &text);

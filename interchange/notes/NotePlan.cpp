@@ -7,6 +7,7 @@
 #include "xml/XmlText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vantrell
 {
@@ -18,7 +19,10 @@ using Position = NoteTime::Position;
 
 QString matchKey(qint64 in, const QString &name, const QString &comment)
 {
-    return QString::number(in) + QChar(u'\0') + name.trimmed() + QChar(u'\0') + comment.trimmed();
+    QString key = QString::number(in);
+    key.reserve(key.size() + name.size() + comment.size() + 2);
+    key.append(QChar(u'\0')).append(QStringView(name).trimmed());
+    return key.append(QChar(u'\0')).append(QStringView(comment).trimmed());
 }
 
 /// As a file keeps it.
@@ -35,9 +39,22 @@ QString allowedText(QStringView text)
 /// The comment of the marker's record once it is written.
 QString commentAsRead(const QString &comment)
 {
+    if (!comment.contains(QLatin1Char('<')))
+        return comment;
     RowRecord record;
     MarkerComment::read(comment, record);
     return record.get(MarkerKey::comment);
+}
+
+/// Whether the type is that of a chapter in the language of the system that wrote the list.
+bool isChapterType(QStringView type)
+{
+    constexpr std::array<QStringView, 12> titles = {u"chapter",    u"kapitel",  u"chapitre", u"capítulo",
+                                                    u"capitulo",   u"capitolo", u"rozdział", u"глава",
+                                                    u"チャプター", u"章节",     u"章節",     u"챕터"};
+    return !type.isEmpty() && std::any_of(titles.begin(), titles.end(), [type](QStringView title) {
+        return type.compare(title, Qt::CaseInsensitive) == 0;
+    });
 }
 
 /// The key of NoteColorUse. An exact value counts with the name that stands beside it.
@@ -189,7 +206,28 @@ private:
     std::optional<NoteTime> timeOf(const NoteRow &row) const
     {
         const std::optional<NoteTime> time = NoteTime::parse(row.time, m_list.timeUnit);
-        return time && time->fits(m_rate) ? time : std::nullopt;
+        if (!time || !time->fits(m_rate))
+            return std::nullopt;
+        return countsFromStart(*time) ? behindStart(*time) : *time;
+    }
+
+    bool countsFromStart(const NoteTime &time) const
+    {
+        return time.kind == NoteTime::Kind::Seconds && m_list.start &&
+               m_list.start->kind == NoteTime::Kind::Timecode && m_list.start->fits(m_rate);
+    }
+
+    /// The frame at a time that counts from the list's start.
+    NoteTime behindStart(const NoteTime &time) const
+    {
+        const Position elapsed = time.framesFromZero(m_rate);
+        const WideInteger whole = elapsed.numerator / elapsed.denominator;
+        NoteTime frame;
+        frame.kind = NoteTime::Kind::Frames;
+        frame.frames = qint64(whole) + m_rate.framesAt(m_list.start->seconds, m_list.start->frames);
+        frame.numerator = qint64(elapsed.numerator - whole * elapsed.denominator);
+        frame.denominator = qint64(elapsed.denominator);
+        return frame;
     }
 
     NoteMeaning guessedMeaning() const
@@ -203,13 +241,16 @@ private:
             if (!time)
                 continue;
             ++rows;
-            timecodes += time->kind == NoteTime::Kind::Timecode ? 1 : 0;
+            timecodes += time->kind == NoteTime::Kind::Timecode || m_list.start ? 1 : 0;
             asRecord += m_converter.isInside(inOf(*time, NoteMeaning::Record)) ? 1 : 0;
             asElapsed += m_converter.isInside(inOf(*time, NoteMeaning::Elapsed)) ? 1 : 0;
         }
+        const bool areTimecodes = timecodes * 2 >= rows;
         if (asRecord == asElapsed)
-            return timecodes * 2 >= rows ? NoteMeaning::Record : NoteMeaning::Elapsed;
-        return asRecord > asElapsed ? NoteMeaning::Record : NoteMeaning::Elapsed;
+            return areTimecodes ? NoteMeaning::Record : NoteMeaning::Elapsed;
+        // Timecodes of sources lie inside by accident only.
+        const bool isAccident = areTimecodes && asElapsed * 2 < rows;
+        return asRecord > asElapsed || isAccident ? NoteMeaning::Record : NoteMeaning::Elapsed;
     }
 
     qint64 inOf(const NoteTime &time, NoteMeaning meaning) const
@@ -269,7 +310,7 @@ private:
         note.comment = allowedText(row.comment);
         note.color = colorOf(row);
         note.user = row.user.toString();
-        note.isChapter = row.type.compare(u"chapter", Qt::CaseInsensitive) == 0;
+        note.isChapter = isChapterType(row.type);
         const std::optional<NoteTime> time = timeOf(row);
         if (!time) {
             note.reason = QStringLiteral("%1 frames a second have no “%2”.").arg(m_rate.name(), row.time);

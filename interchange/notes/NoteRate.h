@@ -9,7 +9,7 @@ namespace vantrell
 {
 
 /// Whole numbers that no product of the conversions exceeds.
-__extension__ typedef __int128 WideInteger;
+__extension__ typedef __int128 WideInteger; // NOLINT(modernize-use-using): a pedantic compiler takes no other
 
 /// The frame rate of a list or a sequence, exactly, and how its timecode counts. Any thread.
 struct NoteRate {

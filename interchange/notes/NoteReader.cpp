@@ -37,8 +37,8 @@ NoteList read(const QByteArray &bytes, const NoteColumnChoices &choices)
     list.encoding = decoded.encoding;
     if (decoded.text.isNull())
         return list;
-    const QStringView text = list.keep(decoded.text);
-    decoded.text.clear();
+    const QString text = decoded.text;
+    list.keep(text); // and not another one: rows have views into it
     bool hasColumns = false;
     if (NoteShapes::isAvidXml(text)) {
         NoteShapes::readAvidXml(text, bytes, list);
@@ -60,6 +60,15 @@ NoteList read(const QByteArray &bytes, const NoteColumnChoices &choices)
         applyChoices(list, choices);
     inferDropFrame(list);
     return list;
+}
+
+NoteList readAgain(const NoteList &list, const QByteArray &bytes, const NoteColumnChoices &choices)
+{
+    if (!list.tableStart)
+        return read(bytes, choices);
+    NoteList again = NoteShapes::readTableAgain(list, choices);
+    inferDropFrame(again);
+    return again;
 }
 
 Result<NoteList> readFile(const QString &path, const NoteColumnChoices &choices)

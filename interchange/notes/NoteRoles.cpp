@@ -97,6 +97,7 @@ public:
         if (m_headers.isEmpty())
             chooseTextsByContent();
         nameTheRest();
+        findUnits();
         return m_roles;
     }
 
@@ -122,6 +123,15 @@ private:
         return m_sample.empty() || holdsAny || (kind != NoteRole::Time && content.filled == 0);
     }
 
+    /// A column with values suits better than one without.
+    bool suitsBetter(std::size_t column, std::size_t other) const
+    {
+        const bool isFilled = m_contents[column].filled > 0;
+        if (isFilled != (m_contents[other].filled > 0))
+            return isFilled;
+        return m_titles[column]->rank < m_titles[other]->rank;
+    }
+
     void chooseByTitles()
     {
         for (const NoteRole::Kind kind :
@@ -130,13 +140,11 @@ private:
             std::optional<std::size_t> best;
             for (std::size_t i = 0; i < m_titles.size(); ++i) {
                 if (m_titles[i] && m_titles[i]->kind == kind && canHold(i, kind) &&
-                    (!best || m_titles[i]->rank < m_titles[*best]->rank))
+                    (!best || suitsBetter(i, *best)))
                     best = i;
             }
-            if (best) {
+            if (best)
                 set(*best, kind);
-                setUnit(*best, kind);
-            }
         }
         for (std::size_t i = 0; i < m_titles.size(); ++i) {
             if (m_titles[i] && m_titles[i]->kind == NoteRole::Ignore)
@@ -144,19 +152,16 @@ private:
         }
     }
 
-    void setUnit(std::size_t column, NoteRole::Kind kind)
+    void findUnits()
     {
-        if (kind != NoteRole::Time && kind != NoteRole::Duration)
-            return;
-        const std::optional<NoteHeader> title = column < m_titles.size() ? m_titles[column] : std::nullopt;
-        NoteUnit unit = NoteUnit::Frames;
-        if (title && title->unit)
-            unit = *title->unit;
-        else if (m_contents[column].decimals > 0)
-            unit = NoteUnit::Seconds;
-        else if (kind == NoteRole::Duration && m_roles.timeUnit != NoteUnit::Frames)
-            unit = m_roles.timeUnit;
-        (kind == NoteRole::Time ? m_roles.timeUnit : m_roles.durationUnit) = unit;
+        m_roles.units.resize(m_contents.size());
+        for (std::size_t i = 0; i < m_contents.size(); ++i) {
+            if (m_titles[i] && m_titles[i]->unit)
+                m_roles.units[i] = m_titles[i]->unit;
+            else if (m_contents[i].decimals > 0)
+                m_roles.units[i] = NoteUnit::Seconds;
+        }
+        m_roles.setUnits();
     }
 
     void chooseTimesByContent()
@@ -176,7 +181,6 @@ private:
         if (columns.empty())
             return;
         set(columns[0], NoteRole::Time);
-        setUnit(columns[0], NoteRole::Time);
         for (std::size_t i = 1; i < columns.size() && i < 3; ++i) {
             const NoteRole::Kind kind = !has(NoteRole::End) && isNeverLess(columns[i], columns[0])
                                             ? NoteRole::End
@@ -184,7 +188,6 @@ private:
             if (has(kind))
                 continue;
             set(columns[i], kind);
-            setUnit(columns[i], kind);
         }
     }
 
@@ -288,6 +291,22 @@ NoteRoles NoteRoles::ofTable(const QStringList &headers, const std::vector<NoteT
 void NoteRoles::apply(const NoteColumnChoices &choices, const QStringList &headers)
 {
     chooseRoles(columns, choices, headers);
+    setUnits();
+}
+
+void NoteRoles::setUnits()
+{
+    if (units.empty())
+        return;
+    timeUnit = NoteUnit::Frames;
+    std::optional<NoteUnit> duration;
+    for (std::size_t i = 0; i < columns.size() && i < units.size(); ++i) {
+        if (columns[i].kind == NoteRole::Time)
+            timeUnit = units[i].value_or(NoteUnit::Frames);
+        else if (columns[i].kind == NoteRole::Duration)
+            duration = units[i];
+    }
+    durationUnit = duration.value_or(timeUnit);
 }
 
 NoteRow NoteRoles::rowOf(const NoteTable::Cells &cells, std::size_t line) const

@@ -24,6 +24,9 @@ using NoteColumnChoices = std::vector<NoteColumnChoice>;
 /// Which columns of a table hold what. Any thread.
 struct NoteRoles {
     std::vector<NoteRole> columns;
+    /// By column, the unit of its plain numbers where its title or its numbers tell; no column's for a list
+    /// that fixes its units.
+    std::vector<std::optional<NoteUnit>> units = {};
     NoteUnit timeUnit = NoteUnit::Frames;
     NoteUnit durationUnit = NoteUnit::Frames;
 
@@ -34,8 +37,12 @@ struct NoteRoles {
     static NoteRoles ofTable(const QStringList &headers, const std::vector<NoteTable::Cells> &sample);
 
     /// The same with the user's choices: a chosen role that only one column can have is taken from the
-    /// others.
+    /// others, and the units are those of the columns that have the roles then.
     void apply(const NoteColumnChoices &choices, const QStringList &headers);
+
+    /// Sets the units of times and durations by the columns that hold them; a duration without one has that
+    /// of the times.
+    void setUnits();
 
     /// The row of the cells.
     NoteRow rowOf(const NoteTable::Cells &cells, std::size_t line) const;

@@ -13,7 +13,9 @@ namespace vantrell::NoteShapes
 
 /// Lists with columns: Avid markers, Premiere, Audition, review tools, Final Cut Pro and any other table,
 /// those of Markdown included.
-void readTable(QStringView text, NoteList &list, const NoteColumnChoices &choices);
+void readTable(const QString &text, NoteList &list, const NoteColumnChoices &choices);
+/// The records of a list that has a start of its table, with the roles of other choices.
+NoteList readTableAgain(const NoteList &list, const NoteColumnChoices &choices);
 
 /// Edit decision lists with locators or with Resolve's markers. A locator stands at the time of its line, a
 /// marker at the record in point of its event; the line is that of the locator or the marker.
@@ -25,8 +27,8 @@ void readEdl(QStringView text, NoteList &list);
 bool isProTools(QStringView text);
 void readProTools(QStringView text, NoteList &list);
 
-/// Lines of a time and a title, as in the description of a video; other lines do not count. WebVTT too, of
-/// whose cues the first line is the name and the others the comment.
+/// Lines of a time, perhaps an end behind a dash, and a title, as in the description of a video; other lines
+/// do not count. WebVTT and SubRip too, of whose cues the first line is the name and the others the comment.
 bool isChapters(QStringView text);
 void readChapters(QStringView text, NoteList &list);
 

@@ -35,6 +35,18 @@ public:
     /// The line of the text in which the last record begins, counted from 1.
     std::size_t line() const { return m_recordLine; }
 
+    /// Between two records.
+    struct Place {
+        qsizetype position = 0; ///< in the text
+        std::size_t line = 1;
+    };
+    Place place() const { return {m_position, m_line}; }
+    void goTo(const Place &place)
+    {
+        m_position = place.position;
+        m_line = place.line;
+    }
+
     /// The delimiter of a text: the one of tab, comma and semicolon that most of the first lines hold equally
     /// often. The semicolons of timecodes do not count. A tab for a text without any.
     static QChar delimiterOf(QStringView text);

@@ -65,6 +65,20 @@ void setFraction(NoteTime &time, qint64 value, qsizetype digits)
         time.denominator *= 10;
 }
 
+/// The number of "90,000"; nullopt for any other.
+std::optional<qint64> numberInThousands(const Groups &groups)
+{
+    if (groups.count < 2 || groups.count > 4 || groups.digits[0] > 3 || groups.values[0] == 0)
+        return std::nullopt;
+    qint64 number = groups.values[0];
+    for (std::size_t i = 1; i < groups.count; ++i) {
+        if (groups.separators[i - 1] != u',' || groups.digits[i] != 3)
+            return std::nullopt;
+        number = number * 1000 + groups.values[i];
+    }
+    return number;
+}
+
 std::optional<NoteTime> numberTime(const Groups &groups, bool saysSeconds, NoteUnit unit)
 {
     NoteTime time;
@@ -80,6 +94,11 @@ std::optional<NoteTime> numberTime(const Groups &groups, bool saysSeconds, NoteU
     if (groups.count == 2 && groups.separators[0] == u'+') {
         time.kind = NoteTime::Kind::Frames;
         time.frames = groups.values[0] * 16 + groups.values[1];
+        return time;
+    }
+    if (const auto frames = numberInThousands(groups); frames && !saysSeconds && unit == NoteUnit::Frames) {
+        time.kind = NoteTime::Kind::Frames;
+        time.frames = *frames;
         return time;
     }
     if (groups.count == 2 && isPoint(groups.separators[0]))

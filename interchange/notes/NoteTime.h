@@ -27,7 +27,7 @@ struct NoteTime {
 
     /// Reads a time without regard to white space around it. Separators are ":" and ";" and, before a
     /// fraction, "." and ",". nullopt for anything else, for 60 and more minutes or seconds behind a
-    /// separator, and for more than fifteen digits in a row.
+    /// separator, and for more than fifteen digits in a row. Frames may have commas before each three digits.
     static std::optional<NoteTime> parse(QStringView text, NoteUnit unit);
 
     /// Whether the rate counts such a frame: the frame field of a timecode is below the timebase.

@@ -42,6 +42,8 @@ public:
             m_list.title = name.toString();
         else if (const QStringView rate = headerValue(line, u"SAMPLE RATE:"); !rate.isNull())
             m_sampleRate = integerValue(rate);
+        else if (const QStringView start = headerValue(line, u"SESSION START TIMECODE:"); !start.isNull())
+            m_list.start = NoteTime::parse(start, NoteUnit::Frames);
         else if (const QStringView format = headerValue(line, u"TIMECODE FORMAT:"); !format.isNull())
             m_list.rate = NoteRate::fromText(format);
     }

@@ -4,10 +4,24 @@
 #include "interchange/notes/NoteHeaders.h"
 #include "interchange/notes/NoteShapes.h"
 #include "interchange/notes/NoteText.h"
+#include "support/text/TextNumbers.h"
 
 #include <algorithm>
 
-namespace vantrell::NoteShapes
+namespace vantrell
+{
+
+/// Where the records of a table begin, and what was found out about them without the user's choices.
+struct NoteTableStart {
+    QString text; ///< of the whole list
+    QChar delimiter;
+    NoteTable::Quotes quotes = NoteTable::Quotes::Rfc4180;
+    NoteTable::Place place = {}; ///< of the first record
+    NoteRoles roles = {};
+    std::optional<NoteRate> rate = std::nullopt; ///< that the list states
+};
+
+namespace NoteShapes
 {
 
 namespace
@@ -262,13 +276,19 @@ std::optional<std::size_t> replyColumn(const QStringList &headers)
     return std::nullopt;
 }
 
-bool isYes(const Cells &cells, std::size_t column)
+bool isYes(QStringView cell)
 {
-    if (column >= cells.size())
-        return false;
-    const QString text = cells[column].trimmed().toString().toLower();
+    const QString text = cell.toString().toLower();
     return !text.isEmpty() && text != QStringLiteral("false") && text != QStringLiteral("no") &&
            text != QStringLiteral("0");
+}
+
+/// Whether the cell of a column of replies holds the reply itself rather than that it is one.
+bool isReplyText(QStringView cell)
+{
+    const QString text = cell.toString().toLower();
+    return isYes(cell) && text != QStringLiteral("true") && text != QStringLiteral("yes") &&
+           text != QStringLiteral("x") && !std::all_of(text.begin(), text.end(), isDigit);
 }
 
 /// For so many columns.
@@ -286,21 +306,9 @@ QStringList examplesOf(const std::vector<Cells> &records, std::size_t columns)
     return examples;
 }
 
-void readAvidText(NoteTable table, NoteList &list, const NoteColumnChoices &choices)
+void readAvidRecords(NoteTable &table, NoteList &list, const NoteRoles &roles)
 {
-    list.shape = NoteShape::AvidText;
-    list.delimiter = QStringLiteral("tab");
-    std::size_t most = 5;
     Cells cells;
-    for (NoteTable counted = table; counted.next(cells);) {
-        if (cells.size() <= avidColumns.size())
-            most = std::max(most, cells.size());
-    }
-    NoteRoles roles =
-        rolesOfKinds(Kinds(avidColumns.begin(), avidColumns.begin() + std::ptrdiff_t(most)), {});
-    roles.apply(choices, {});
-    list.columns = roles.columns;
-    list.examples = examplesOf(sampleOf(table), list.columns.size());
     while (table.next(cells)) {
         if (cells.size() < 5 || cells.size() > avidColumns.size())
             list.unreadable.push_back(
@@ -311,19 +319,54 @@ void readAvidText(NoteTable table, NoteList &list, const NoteColumnChoices &choi
     }
 }
 
-void readRecords(NoteTable table, NoteList &list, const NoteRoles &roles)
+NoteRoles rolesOfAvidText(NoteTable table, NoteList &list)
 {
-    const std::optional<std::size_t> replies =
-        list.shape == NoteShape::ReviewCsv ? replyColumn(list.headers) : std::nullopt;
+    list.shape = NoteShape::AvidText;
+    list.delimiter = QStringLiteral("tab");
+    std::size_t most = 5;
+    Cells cells;
+    for (NoteTable counted = table; counted.next(cells);) {
+        if (cells.size() <= avidColumns.size())
+            most = std::max(most, cells.size());
+    }
+    list.examples = examplesOf(sampleOf(table), most);
+    return rolesOfKinds(Kinds(avidColumns.begin(), avidColumns.begin() + std::ptrdiff_t(most)), {});
+}
+
+void readRecords(NoteTable &table, NoteList &list, const NoteRoles &roles)
+{
+    constexpr std::size_t none = std::size_t(-1);
+    const std::size_t replies =
+        list.shape == NoteShape::ReviewCsv ? replyColumn(list.headers).value_or(none) : none;
     Cells cells;
     QStringView lastTime;
     while (table.next(cells)) {
         NoteRow row = roles.rowOf(cells, table.line());
-        if (row.time.isEmpty() && replies && isYes(cells, *replies))
+        const QStringView reply = replies < cells.size() ? cells[replies].trimmed() : QStringView();
+        if (row.time.isEmpty() && isYes(reply))
             row.time = lastTime;
+        if (row.comment.isEmpty() && row.name.isEmpty() && isReplyText(reply))
+            row.comment = reply;
         lastTime = row.time;
         list.add(std::move(row));
     }
+}
+
+/// Reads the records of the list's table.
+void readFromStart(NoteList &list, const NoteColumnChoices &choices)
+{
+    const NoteTableStart &start = *list.tableStart;
+    NoteRoles roles = start.roles;
+    roles.apply(choices, list.headers);
+    list.columns = roles.columns;
+    list.timeUnit = roles.timeUnit;
+    list.durationUnit = roles.durationUnit;
+    NoteTable table(start.text, start.delimiter, list, start.quotes);
+    table.goTo(start.place);
+    if (list.shape == NoteShape::AvidText)
+        readAvidRecords(table, list, roles);
+    else
+        readRecords(table, list, roles);
 }
 
 /// The cells of a line of a Markdown table; false for any other line.
@@ -386,7 +429,7 @@ bool readMarkdown(QStringView text, NoteList &list, const NoteColumnChoices &cho
 
 } // namespace
 
-void readTable(QStringView text, NoteList &list, const NoteColumnChoices &choices)
+void readTable(const QString &text, NoteList &list, const NoteColumnChoices &choices)
 {
     if (readMarkdown(text, list, choices))
         return;
@@ -394,7 +437,9 @@ void readTable(QStringView text, NoteList &list, const NoteColumnChoices &choice
     if (delimiter == u'\t') {
         const NoteTable lines(text, delimiter, list, NoteTable::Quotes::None);
         if (isAvidText(sampleOf(lines))) {
-            readAvidText(lines, list, choices);
+            list.tableStart = std::make_shared<NoteTableStart>(
+                NoteTableStart{text, delimiter, NoteTable::Quotes::None, {}, rolesOfAvidText(lines, list)});
+            readFromStart(list, choices);
             return;
         }
     }
@@ -412,14 +457,28 @@ void readTable(QStringView text, NoteList &list, const NoteColumnChoices &choice
     }
     const std::optional<Kinds> fixed = header ? fixedColumns(list, sample) : std::nullopt;
     NoteRoles roles = fixed ? rolesOfKinds(*fixed, list.headers) : NoteRoles::ofTable(list.headers, sample);
-    roles.apply(choices, list.headers);
     if (!list.rate)
         list.rate = rateIn(list.headers, sample);
-    list.columns = roles.columns;
-    list.examples = examplesOf(sample, list.columns.size());
-    list.timeUnit = roles.timeUnit;
-    list.durationUnit = roles.durationUnit;
-    readRecords(table, list, roles);
+    list.examples = examplesOf(sample, roles.columns.size());
+    list.tableStart = std::make_shared<NoteTableStart>(NoteTableStart{
+        text, delimiter, NoteTable::Quotes::Rfc4180, table.place(), std::move(roles), list.rate});
+    readFromStart(list, choices);
 }
 
-} // namespace vantrell::NoteShapes
+NoteList readTableAgain(const NoteList &list, const NoteColumnChoices &choices)
+{
+    NoteList again;
+    again.shape = list.shape;
+    again.encoding = list.encoding;
+    again.delimiter = list.delimiter;
+    again.rate = list.tableStart->rate;
+    again.headers = list.headers;
+    again.examples = list.examples;
+    again.tableStart = list.tableStart;
+    again.rows.reserve(list.rows.size());
+    readFromStart(again, choices);
+    return again;
+}
+
+} // namespace NoteShapes
+} // namespace vantrell

@@ -3,6 +3,7 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
 #include "support/widgets/FilePanel.h"
+#include "table/widgets/CheckFrame.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QComboBox>
@@ -94,7 +95,8 @@ void ExportNotesSheet::fillFormats()
         {"resolve-edl", tr("Resolve markers (EDL)")},
         {"edl", tr("EDL with locators")},
         {"chapters", tr("Chapters for a video description")},
-        {"webvtt", tr("WebVTT")}};
+        {"webvtt", tr("WebVTT")},
+        {"json", tr("JSON for scripts")}};
     for (const auto &[format, title] : formats)
         m_format->addItem(title, QString::fromLatin1(format));
 }
@@ -135,6 +137,7 @@ QWidget *ExportNotesSheet::makeColumns()
     auto *const label = new QLabel(tr("Col&umns, in the order of the list:"), box);
     label->setBuddy(m_columns);
     m_columns->setToolTip(tr("Drag a column to another place"));
+    m_columns->setItemDelegate(new FramedCheckDelegate(m_columns));
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);
     for (const QString &title : NoteExporter::columnTitles(m_document.markerArray())) {
         auto *const item = new QListWidgetItem(title, m_columns);

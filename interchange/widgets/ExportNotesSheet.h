@@ -33,7 +33,7 @@ public:
     ExportNotesSheet(MyDocument &document, Markers markers, const QString &fileTitle, const QString &folder,
                      QWidget *window);
 
-    /// A format of NoteExporter.
+    /// A format of NoteWriter, or "json" for MarkerJson.
     QString format() const;
     /// The chosen ones that pass the filters, in their order.
     RowList markers() const;

@@ -3,6 +3,7 @@
 #include "interchange/NotePreview.h"
 #include "interchange/widgets/NotePreviewModel.h"
 #include "interchange/widgets/NoteStrip.h"
+#include "table/widgets/CheckFrame.h"
 #include "table/widgets/QVTableView.h"
 
 #include <QCheckBox>
@@ -143,6 +144,7 @@ void NotePreviewSheet::fillRates()
 QWidget *NotePreviewSheet::makeTable()
 {
     m_table->setModel(m_model);
+    m_table->setItemDelegate(new FramedCheckDelegate(m_table));
     m_table->setAccessibleName(tr("Notes"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setPlaceholder(tr("Reading…"));

@@ -133,10 +133,19 @@ bool NoteStrip::eventFilter(QObject *object, QEvent *event)
     return QScrollArea::eventFilter(object, event);
 }
 
+/// The scroll bar needs its height only where not everything fits.
+void NoteStrip::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry();
+}
+
 QSize NoteStrip::sizeHint() const
 {
     const QSize content = widget()->sizeHint();
-    return {content.width(), content.height() + horizontalScrollBar()->sizeHint().height()};
+    const bool fits = content.width() <= width();
+    return {content.width(), content.height() + (fits ? 0 : horizontalScrollBar()->sizeHint().height())};
 }
 
 QSize NoteStrip::minimumSizeHint() const

@@ -36,6 +36,7 @@ protected:
     /// A text instead of the settings that are too many.
     void addRest(const QString &text);
     bool eventFilter(QObject *object, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QHBoxLayout *m_row = nullptr;

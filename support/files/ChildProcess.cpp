@@ -110,6 +110,7 @@ Result<ChildProcess> ChildProcess::start(const Request &request)
     for (const QString &argument : request.arguments)
         texts.push_back(argument.toLocal8Bit());
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (QByteArray &argument : texts)
         pointers.push_back(argument.data());
     pointers.push_back(nullptr);

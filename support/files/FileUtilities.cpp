@@ -8,11 +8,14 @@
 #include <QRandomGenerator>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <fcntl.h>
 #include <new>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -21,6 +24,9 @@ namespace vantrell::FileUtilities
 
 namespace
 {
+
+constexpr std::chrono::seconds lockPatience{2};
+constexpr std::chrono::milliseconds lockInterval{5};
 
 Failure writeFailure(const QString &path, const QString &reason)
 {
@@ -124,12 +130,29 @@ QString linkTarget(QString path)
     return QString();
 }
 
+Descriptor openFolder(const QString &folder)
+{
+    return Descriptor(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
 /// Makes the new directory entry last; that it cannot be done on some file systems does no harm.
 void syncFolder(const QString &folder)
 {
-    const Descriptor file(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor file = openFolder(folder);
     if (file.isOpen())
         ::fsync(file.number());
+}
+
+/// Locks the folder against others that look at a file in it and replace it, until the descriptor is closed.
+/// Goes without the lock where there is none to be had: another process may be stopped while it holds it.
+Descriptor lockFolder(const QString &folder)
+{
+    Descriptor file = openFolder(folder);
+    const auto last = std::chrono::steady_clock::now() + lockPatience;
+    while (file.isOpen() && ::flock(file.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
+           std::chrono::steady_clock::now() < last)
+        std::this_thread::sleep_for(lockInterval);
+    return file;
 }
 
 QString withoutTrailingSlashes(QString path)
@@ -195,7 +218,9 @@ Result<void> writeAtomically(const QString &path, const Writer &writer,
     }
     if (::fsync(file.handle()) != 0 && errno != EINVAL)
         return writeFailure(path, errno);
+    Descriptor lock;
     if (beforeReplacing) {
+        lock = lockFolder(info.path());
         const Result<void> mayReplace = beforeReplacing(file.handle());
         if (!mayReplace)
             return mayReplace;

@@ -1,5 +1,6 @@
 #include "table/widgets/TableDelegate.h"
 
+#include "table/widgets/CheckFrame.h"
 #include "table/widgets/PopUpCell.h"
 #include "table/widgets/TableModel.h"
 
@@ -44,19 +45,6 @@ QRect checkBoxRect(const QStyleOptionViewItem &option)
     const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
                      style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
     return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
-}
-
-/// The frame of a check box on a dark background, where that of most styles cannot be seen.
-void paintFrame(QPainter *painter, const QStyleOptionViewItem &box, bool isDim)
-{
-    QColor ink = box.palette.color(QPalette::Text);
-    ink.setAlphaF(isDim ? 0.2F : 0.5F);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(ink, 1));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(box.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
-    painter->restore();
 }
 
 /// Whether the cell is in the current row, or in that below the mouse.
@@ -145,9 +133,7 @@ void TableDelegate::paintCheckBox(QPainter *painter, const QStyleOptionViewItem 
     const bool isDim = !isChecked && !index.flags().testFlag(Qt::ItemIsUserCheckable);
     cell.state.setFlag(QStyle::State_Enabled, !isDim);
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &cell, painter, cell.widget);
-    const QColor base = cell.palette.color(QPalette::Base);
-    if (base.lightness() < 128)
-        paintFrame(painter, cell, isDim);
+    paintCheckFrame(*painter, cell, isDim);
 }
 
 void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &option,

@@ -293,6 +293,67 @@ private Q_SLOTS:
         QVERIFY(!m_controller->startWindow().isVisible());
     }
 
+    /// While Quit asks about one project, others are reverted and edited, or their windows closed.
+    void quittingAsksAgainAboutWhatHappenedMeanwhile_data()
+    {
+        QTest::addColumn<bool>("revertsFirst");
+        QTest::newRow("given up, then reverted and edited as often") << true;
+        QTest::newRow("another window is closed, which is cancelled") << false;
+    }
+
+    void quittingAsksAgainAboutWhatHappenedMeanwhile()
+    {
+        QFETCH(bool, revertsFirst);
+        start();
+        std::vector<QPointer<DocumentWindow>> windows;
+        for (const char *const name : {"a", "b", "unchanged"}) {
+            m_controller->applicationOpenFile(copySample(m_home->path(QString::fromLatin1(name))));
+            windows.emplace_back(m_controller->documentWindows().back());
+            QTRY_COMPARE(windows.back()->state(), DocumentWindow::State::Ready);
+            if (windows.size() > 2)
+                break;
+            windows.back()->toolbarMarkers();
+            QVERIFY(
+                editCell(*windows.back(), Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        }
+        const QString lose = QStringLiteral("Don’t Save");
+        m_controller->quit();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Review…")));
+        const auto boxOf = [](const DocumentWindow *window) {
+            for (QWidget *const widget : QApplication::topLevelWidgets()) {
+                auto *const box = qobject_cast<QMessageBox *>(widget);
+                if (box && box->isVisible() && box->parentWidget() == window)
+                    return box;
+            }
+            return static_cast<QMessageBox *>(nullptr);
+        };
+        QTRY_VERIFY(boxOf(windows[0]));
+        if (revertsFirst) {
+            QVERIFY(press(boxOf(windows[0]), lose));
+            QTRY_VERIFY(boxOf(windows[1]));
+            windows[0]->revertWithoutQuestion();
+            QTRY_VERIFY(windows[0]->state() == DocumentWindow::State::Ready &&
+                        !windows[0]->document()->isEdited());
+            windows[0]->toolbarMarkers();
+            QVERIFY(editCell(*windows[0], Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Other")));
+            QVERIFY(press(boxOf(windows[1]), lose));
+            QTRY_VERIFY(boxOf(windows[0]));
+            QVERIFY(press(boxOf(windows[0]), QStringLiteral("Cancel")));
+            QVERIFY(windows[0] && windows[1] && windows[2]);
+        } else {
+            windows[2]->close();
+            QTRY_VERIFY(!windows[2]);
+            windows[1]->close();
+            QTRY_VERIFY(boxOf(windows[1]));
+            QVERIFY(press(boxOf(windows[1]), QStringLiteral("Cancel")));
+            QVERIFY(press(boxOf(windows[0]), lose));
+            QTRY_VERIFY(boxOf(windows[1]));
+            QVERIFY(windows[0]->isVisible() && press(boxOf(windows[1]), lose));
+            QTRY_VERIFY(!windows[0] && !windows[1]);
+        }
+    }
+
     void quittingAsksAboutAllBeforeOneCloses_data()
     {
         QTest::addColumn<QStringList>("answers"); // to the questions as they come
@@ -302,11 +363,14 @@ private Q_SLOTS:
         const QString save = QStringLiteral("Save");
         const QString lose = QStringLiteral("Don’t Save");
         const QString cancel = QStringLiteral("Cancel");
+        const QString edit = QStringLiteral("edit"); // the project asked about first
         QTest::newRow("cancel") << QStringList{cancel} << false << "";
         QTest::newRow("save all") << QStringList{QStringLiteral("Save All")} << true << "ab";
         QTest::newRow("review") << QStringList{review, save, lose} << true << "a";
         QTest::newRow("review, then cancel") << QStringList{review, save, cancel} << false << "a";
         QTest::newRow("give up, then cancel") << QStringList{review, lose, cancel} << false << "";
+        QTest::newRow("give up, edit") << QStringList{review, lose, edit, save, save} << true << "ab";
+        QTest::newRow("save, edit") << QStringList{review, save, edit, lose, cancel} << false << "a";
     }
     void quittingAsksAboutAllBeforeOneCloses()
     {
@@ -331,7 +395,10 @@ private Q_SLOTS:
             QTRY_VERIFY(visibleBox());
             for (const auto &window : windows)
                 QVERIFY(window && window->isVisible());
-            QVERIFY(press(visibleBox(), answer));
+            if (answer != QStringLiteral("edit"))
+                QVERIFY(press(visibleBox(), answer));
+            else
+                QVERIFY(editCell(*windows[1], Tab::Markers, 0, QStringLiteral("comment"), answer));
         }
         for (const auto &window : windows) {
             if (quits)

@@ -324,6 +324,22 @@ private Q_SLOTS:
         }
         QCOMPARE(exported(*sheet, u"out.csv"_s),
                  QByteArray("Name,In\r\nfirst,01:00:01:00\r\nthird,01:00:03:00\r\n"));
+
+        m_window->exportNotes();
+        sheet = sheetOf<ExportNotesSheet>(*m_window);
+        choose(popUpWith(*sheet, u"JSON for scripts"_s), u"JSON for scripts"_s);
+        choose(popUpWith(*sheet, u"All markers (3)"_s), u"All markers (3)"_s);
+        const QByteArray json = exported(*sheet, u"out.json"_s);
+        QVERIFY2(json.startsWith(
+                     "[{\"markerElement\":\"/xmeml[1]/project[1]/children[1]/sequence[1]/marker[1]\","),
+                 json.constData());
+        QVERIFY2(json.endsWith("\"name\":\"third\",\"comment\":\"\",\"color\":0,\"in\":\"75\",\"out\":\"-1\","
+                               "\"display\":{\"in\":\"01:00:03:00\",\"out\":\"00:00:00:00\"}}]\n"),
+                 json.constData());
+        NotePreviewSheet *const again = openPreview(m_home->path(u"out.json"_s));
+        QVERIFY(again);
+        QCOMPARE(again->preview().summary(), u"0 of 3 notes will be added; 3 are already there"_s);
+        again->reject();
     }
 
     void tellsWhatAFormatCannotHold()

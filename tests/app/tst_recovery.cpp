@@ -193,6 +193,37 @@ private Q_SLOTS:
         QVERIFY(!trigger(*m_window, QStringLiteral("Undo")));
     }
 
+    /// The notice of what is missing comes back with the project. It does not while another window has the
+    /// file.
+    void undoesARevertOfADamagedProject()
+    {
+        QVERIFY(QFile::resize(m_path, QFileInfo(m_path).size() / 2));
+        open();
+        const QString notice = m_window->message();
+        QVERIFY(notice.contains(QStringLiteral("missing")));
+        edit(0, "First");
+        m_window->revertWithoutQuestion();
+        QTRY_VERIFY(!m_window->isWindowModified());
+        ready();
+        DocumentWindow *const reverted = m_window;
+        reverted->saveTo(m_home->path(QStringLiteral("project/Copy.xml")));
+        QTRY_VERIFY(reverted->message().isEmpty());
+        m_controller->openFiles({m_path});
+        QTRY_VERIFY(m_controller->documentWindows().size() == 2);
+        ready();
+        QVERIFY(m_window != reverted);
+        reverted->undo();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(visibleBox()->informativeText().contains(QStringLiteral("open in another window")));
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")) && !reverted->isWindowModified());
+        m_window->close();
+        QTRY_VERIFY(m_controller->documentWindows().size() == 1);
+        reverted->undo();
+        QVERIFY(reverted->isWindowModified());
+        QCOMPARE(reverted->message(), notice);
+        QCOMPARE(reverted->path(), m_path);
+    }
+
     /// A reload that fails leaves the way back.
     void undoesARevertThatFailed()
     {

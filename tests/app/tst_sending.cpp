@@ -337,6 +337,14 @@ private Q_SLOTS:
         QTRY_COMPARE(exported.count(), 2);
         QVERIFY(!exported.at(1).at(0).toBool());
         QVERIFY(answerAlert().contains(text("taken.xml")));
+
+        const QString own = m_window->path();
+        const QByteArray file = contentOf(own);
+        m_window->exportChangedSequencesTo(own);
+        QTRY_COMPARE(exported.count(), 3);
+        QVERIFY(!exported.at(2).at(0).toBool());
+        QCOMPARE(answerAlert(), text("The changed sequences could not be exported."));
+        QCOMPARE(contentOf(own), file);
     }
 
 private:

@@ -101,6 +101,7 @@ private Q_SLOTS:
             {"timecode expand [1,2]", 0, ""},
             {"compare -1.xml -1.xml --sequence 1 -x", 1, ""},
             {"export -1.xml --format fcp -o \1x", 0, "\1x"},
+            {"export -1.xml --format fcp -o\1y", 0, "\1y"},
             {"edit -1.xml --quiet --script -s -o -1.out", 0, "-1.out"},
             {"edit -1.xml --quiet -o -out.xml --script -s", 0, "-out.xml"},
             {"edit -1.xml --script -o -2.out", 2, ""},

@@ -1,7 +1,6 @@
 // compare and carry, by their outcome.
 
-#include "tests/support/CliRun.h"
-#include "tests/support/TemporaryHome.h"
+#include "tests/cli/CliHome.h"
 
 #include <QFile>
 #include <QTest>
@@ -50,13 +49,9 @@ class CutsTest : public QObject
 {
     Q_OBJECT
 
-    const TemporaryHome m_home;
+    const CliHome m_home;
 
-    /// "~" stands for the home.
-    CliRun run(const QString &arguments) const
-    {
-        return runCli(QString(arguments).replace(u'~', m_home.path()).split(u' '));
-    }
+    CliRun run(const QString &arguments) const { return m_home.run(arguments); }
     QByteArray textOf(const QString &name) const
     {
         QFile file(m_home.path(name));

@@ -210,11 +210,14 @@ private Q_SLOTS:
         QCOMPARE(edit(script, {QStringLiteral("--output-bin"), m_home.path(QStringLiteral("in.xml"))}).status,
                  2);
         QCOMPARE(edit(script, {QStringLiteral("-o"), QString()}).status, 1); // never as if it were not given
-        // A link to what the same run is about to write.
+        // Links to what the same run is about to write.
         const QString link = m_home.path(QStringLiteral("link"));
-        QVERIFY(QFile::link(output(), link));
-        QCOMPARE(edit(script, {QStringLiteral("-o"), output(), QStringLiteral("--output-bin"), link}).status,
-                 2);
+        const QString folder = m_home.path(QStringLiteral("folder"));
+        QVERIFY(QFile::link(output(), link) && QFile::link(m_home.path(), folder));
+        for (const QString &alias : {link, folder + QStringLiteral("/out.xml")})
+            QCOMPARE(
+                edit(script, {QStringLiteral("-o"), output(), QStringLiteral("--output-bin"), alias}).status,
+                2);
     }
 
     void repairedProject()

@@ -1,5 +1,4 @@
-#include "tests/support/CliRun.h"
-#include "tests/support/TemporaryHome.h"
+#include "tests/cli/CliHome.h"
 
 #include <QFile>
 #include <QTest>
@@ -25,13 +24,9 @@ class NotesTest : public QObject
 {
     Q_OBJECT
 
-    const TemporaryHome m_home;
+    const CliHome m_home;
 
-    /// "~" stands for the home.
-    CliRun run(const QString &arguments) const
-    {
-        return runCli(QString(arguments).replace(u'~', m_home.path()).split(u' '));
-    }
+    CliRun run(const QString &arguments) const { return m_home.run(arguments); }
 
 private Q_SLOTS:
     void initTestCase()

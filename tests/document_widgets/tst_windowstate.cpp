@@ -109,14 +109,8 @@ private Q_SLOTS:
             "saved while the question shows", [](WindowState &s) { s.ask(), s.saveForClosing(); },
             Changes::AskingWhileSaving, true);
         add(
-            "cancel ends the wish to close",
-            [](WindowState &s) { s.saveForClosing(), s.ask(), s.answerCancel(); }, Changes::Kept, false);
-        add(
-            "given up during a send", [](WindowState &s) { s.saveForClosing(), s.ask(), s.answerGiveUp(); },
-            Changes::GivenUp, false);
-        add(
-            "a new decision", [](WindowState &s) { s.ask(), s.answerGiveUp(), s.settle(); }, Changes::Kept,
-            false);
+            "cancelled or given up during a save",
+            [](WindowState &s) { s.saveForClosing(), s.ask(), s.endQuestion(); }, Changes::Kept, false);
     }
     void decidesAboutChanges()
     {

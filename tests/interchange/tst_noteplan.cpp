@@ -66,6 +66,8 @@ private Q_SLOTS:
         // 240 frames of 23.976 are 10.01 s.
         QTest::newRow("23.976 onto 25") << QByteArray("Timecode,Comment\n01:00:10:00,a\n") << sequenceAt(pal)
                                         << meaning(NoteMeaning::Record, "", ntscFilm) << u"250+0"_s;
+        QTest::newRow("a line with an end")
+            << QByteArray("00:10 - 00:20 Fix\n") << sequenceAt(pal) << guessed << u"250+250"_s;
         QTest::newRow("24 onto 23.976, elapsed")
             << QByteArray("Timecode,Comment\n00:09:00:00,a\n") << sequenceAt(ntscFilm)
             << meaning(NoteMeaning::Guessed, "", film) << u"12947+0"_s; // 540 s
@@ -79,12 +81,30 @@ private Q_SLOTS:
             << QByteArray("00:00 Intro\n1:30 Title\n") << sequenceAt(pal) << guessed << u"0+0, 2250+0"_s;
         QTest::newRow("frames") << QByteArray("Frame,Comment\n48,a\n0,b\n") << sequenceAt(film) << guessed
                                 << u"48+0, 0+0"_s;
+        QTest::newRow("frames with thousands") << QByteArray("Frame,Comment\n\"1,250\",a\n250,b\n\"0,5\",c\n")
+                                               << sequenceAt(film) << guessed << u"1250+0, 250+0, 1+0"_s;
+        QTest::newRow("seconds with a comma")
+            << QByteArray("Zeit (s);Kommentar\n1,250;a\n") << sequenceAt(film) << guessed << u"30+0"_s;
+        // 10.5 s behind 00:59:50:00 are 12.5 frames behind the sequence's first; the bar stands at 11 s.
+        QTest::newRow("seconds from the session's start")
+            << QByteArray("SESSION NAME:\tMix\nSAMPLE RATE:\t48000.000000\n"
+                          "SESSION START TIMECODE:\t00:59:50:00\nTIMECODE FORMAT:\t25 Frame\n\n"
+                          "M A R K E R S  L I S T I N G\n"
+                          "#   \tLOCATION     \tTIME REFERENCE    \tUNITS    \tNAME     \tCOMMENTS\n"
+                          "1   \t0:10.500     \t504000            \tSamples  \tA        \t\n"
+                          "2   \t6|1|000      \t528000            \tSamples  \tB        \t\n"
+                          "3   \t01:00:02:00  \t576000            \tSamples  \tC        \t\n")
+            << sequenceAt(pal) << guessed << u"13+0, 25+0, 50+0"_s;
         QTest::newRow("an offset") << QByteArray("Timecode,Comment\n00:00:10:00,a\n01:00:00:00,b\n")
                                    << sequenceAt(pal) << meaning(NoteMeaning::Offset, "1...")
                                    << u"250+0, 90000+0 outside"_s;
         QTest::newRow("a negative offset")
             << QByteArray("Timecode,Comment\n10:00:10:00,a\n") << sequenceAt(pal)
             << meaning(NoteMeaning::Offset, "-9...") << u"250+0"_s;
+        // Only the last would lie inside as elapsed time.
+        QTest::newRow("timecodes of sources")
+            << QByteArray("Tape,Start\nA,18:51:50:23\nB,18:02:36:04\nC,00:00:39:03\n") << sequenceAt(pal)
+            << guessed << u"1607773+0 outside, 1533904+0 outside, -89022+0 outside"_s;
         QTest::newRow("the first note")
             << QByteArray("Timecode,Comment\n18:51:50:23,a\n18:51:51:23,b\n") << sequenceAt(pal)
             << meaning(NoteMeaning::First, "5.") << u"125+0, 150+0"_s;
@@ -106,6 +126,17 @@ private Q_SLOTS:
         const auto notes = planNotes(NoteReader::read(list), sequence, settings, matches);
         QVERIFY(notes);
         QTEST(placesOf(*notes), "places");
+    }
+
+    void chapterTypes()
+    {
+        const QByteArray list("Markername\tBeschreibung\tIn\tOut\tDauer\tMarkertyp\n"
+                              "A\t\t00:00:01:00\t00:00:01:00\t00:00:00:00\tKapitel\n"
+                              "B\t\t00:00:02:00\t00:00:02:00\t00:00:00:00\tKommentar\n");
+        NoteMatches matches;
+        const auto notes = planNotes(NoteReader::read(list), sequenceAt(pal), {}, matches);
+        QVERIFY(notes && notes->size() == 2);
+        QVERIFY(notes->at(0).isChapter && !notes->at(1).isChapter);
     }
 
     void wrongTimecode()

@@ -184,6 +184,25 @@ private Q_SLOTS:
             << u"table UTF-8 tab -"_s
             << u"ignore name field:Frame comment duration time end field:Frame Count Duration field:Tape"_s
             << u"2|18:51:50:23|A_010|-|00:00:09:21|-|-|-"_s;
+        QTest::newRow("an empty comment column does not count")
+            << QByteArray("Record In,Name,Comments,Color,Notes\n01:00:10:05,M 1,,Blue,note\n"
+                          "01:00:20:05,M 2,,Mint,\"two, three\"\n")
+            << u"table UTF-8 comma -"_s << u"time name field:Comments color comment"_s
+            << u"2|01:00:10:05|M 1|note|-|Blue|-|-\n3|01:00:20:05|M 2|two, three|-|Mint|-|-"_s;
+        QTest::newRow("replies with their text, titles in quotes")
+            << QByteArray("\"\"\"Timecode\"\"\",\"\"\"Username\"\"\",\"\"\"Note\"\"\",Reply\n"
+                          "00:00:10,Kim,first,\n,Lee,,I agree\n,Lee,,true\n")
+            << u"review-csv UTF-8 comma -"_s << u"time user comment field:Reply"_s
+            << u"2|00:00:10|-|first|-|-|Kim|-\n3|00:00:10|-|I agree|-|-|Lee|-\n"
+               "4|00:00:10|-|-|-|-|Lee|-"_s;
+        QTest::newRow("numbered lines with ends")
+            << QByteArray("1. 00:10 - 00:20 Fix\n2) (00:30:00)–00:31:00: That\n3. 1:00:00 - 2 men\n")
+            << u"chapters UTF-8  -"_s << u"time end name"_s
+            << u"1|00:10|Fix|-|-|-|-|-\n2|00:30:00|That|-|-|-|-|-\n3|1:00:00|2 men|-|-|-|-|-"_s;
+        QTest::newRow("subrip") << QByteArray("1\r\n00:00:10,000 --> 00:00:12,500\r\nHello\r\nthere\r\n\r\n"
+                                              "2\r\n00:01:00,000 --> 00:01:01,000\r\nBye\r\n")
+                                << u"chapters UTF-8  -"_s << u"time end name comment"_s
+                                << u"2|00:00:10,000|Hello|there|-|-|-|-\n7|00:01:00,000|Bye|-|-|-|-|-"_s;
         QTest::newRow("a title without a column")
             << QByteArray("#\tName\tStatus\tDate\tDuration\tStart\tEnd\tFrame Count Duration\tTape\n"
                           "1\tA_010\t\t00:00:09:21\t18:51:50:23\t18:52:00:21\t238\tB040\n")
@@ -227,6 +246,34 @@ private Q_SLOTS:
         QCOMPARE(columnsOf(byNumber), u"time field:Scene comment"_s);
         const NoteList chapters = NoteReader::read("00:00 Intro\n", {{u"2"_s, {NoteRole::Comment}}});
         QCOMPARE(rowsOf(chapters), u"1|00:00|-|Intro|-|-|-|-"_s);
+    }
+
+    void readAgainWithOtherChoices()
+    {
+        const QByteArray frames("Seconds,Frame,Note,Drop\n10.5,250,\"a \"\"b\"\"\",01:00:00;02\nx,260,c,\n");
+        const NoteList first = NoteReader::read(frames);
+        QCOMPARE(rowsOf(first), u"2|10.5|-|a \"b\"|-|-|-|-"_s);
+        QVERIFY(first.timeUnit == NoteUnit::Seconds && !first.rate);
+        const NoteList byFrame = NoteReader::readAgain(first, frames, {{u"2"_s, {NoteRole::Time}}});
+        QCOMPARE(rowsOf(byFrame), u"2|250|-|a \"b\"|-|-|-|-\n3|260|-|c|-|-|-|-"_s);
+        QVERIFY(byFrame.timeUnit == NoteUnit::Frames); // the unit is that of the column
+        QVERIFY(byFrame.unreadable.empty());
+        const NoteList byDrop = NoteReader::readAgain(byFrame, frames, {{u"drop"_s, {NoteRole::Time}}});
+        QCOMPARE(byDrop.rate->name(), u"29.97df"_s);
+        const NoteList back = NoteReader::readAgain(byDrop, frames, {});
+        QCOMPARE(rowsOf(back), rowsOf(first));
+        QVERIFY(!back.rate && back.headers == first.headers && back.examples == first.examples);
+        QCOMPARE(back.unreadable.size(), std::size_t(1));
+
+        const QByteArray avid("kim\t01:00:10:00\tV1\tred\tnote\nbroken\n");
+        const NoteList named =
+            NoteReader::readAgain(NoteReader::read(avid), avid, {{u"5"_s, {NoteRole::Name}}});
+        QCOMPARE(rowsOf(named), u"1|01:00:10:00|note|-|-|red|kim|V1"_s);
+        QCOMPARE(named.unreadable.size(), std::size_t(1));
+        const QByteArray markdown("| In | Note |\n| --- | --- |\n| 00:01 | a |\n");
+        QCOMPARE(rowsOf(NoteReader::readAgain(NoteReader::read(markdown), markdown,
+                                              {{u"note"_s, {NoteRole::Name}}})),
+                 u"3|00:01|a|-|-|-|-|-"_s);
     }
 
     /// Work that grows with the square of these would not end, and memory with more than the file would

@@ -35,6 +35,12 @@ files_below() {
     (cd -- "$1" && find . ! -type d -printf '%m %P\n' | LC_ALL=C sort -k 2)
 }
 
+# desktop_files: mode and path of what is installed with the window: those of the list, and the manual as it was made.
+desktop_files() {
+    cat "$here/files-desktop.txt"
+    (cd -- "$BUILD_DIR" && find share/vantrell/manual ! -type d -printf '644 %p\n')
+}
+
 # check_folder_modes FOLDER: that everybody may enter all folders in it.
 check_folder_modes() {
     expect "modes of the folders" "" "$(find "$1" -mindepth 1 -type d ! -perm 755)"

@@ -92,6 +92,33 @@ private Q_SLOTS:
         QCOMPARE(contentOf(path), "head\n" + large + large.left(110).repeated(1000));
     }
 
+    /// Of two who look at the file and replace it at the same time, neither overwrites what the other has
+    /// written.
+    void looksAndReplacesAtOnce()
+    {
+        const TemporaryHome home;
+        const QString path = home.addFile(QStringLiteral("out/count"), "0");
+        std::atomic<int> written = 0;
+        const auto count = [&path, &written] {
+            for (int i = 0; i < 60; ++i) {
+                const QByteArray old = contentOf(path);
+                const auto look = [&](int) -> Result<void> {
+                    if (contentOf(path) != old)
+                        return Failure{QStringLiteral("changed")};
+                    std::this_thread::yield();
+                    return {};
+                };
+                written +=
+                    bool(FileUtilities::writeAtomically(path, QByteArray::number(old.toInt() + 1), look));
+            }
+        };
+        std::thread other(count);
+        count();
+        other.join();
+        QCOMPARE(contentOf(path).toInt(), written.load());
+        QVERIFY(written > 0);
+    }
+
     void cancelledUntilItReplaces()
     {
         const TemporaryHome home;

@@ -563,6 +563,32 @@ private Q_SLOTS:
         QTest::newRow("values of an attribute")
             << "<!DOCTYPE a [<!ATTLIST c d (x" + values + ") #IMPLIED>]><a/>"
             << QStringLiteral("more values");
+        QTest::newRow("values behind what looks like an end")
+            << "<!DOCTYPE a [<!--<!ATTLIST '--><!ATTLIST c b CDATA \">\" d (x" + values + ") #IMPLIED>]><a/>"
+            << QStringLiteral("more values");
+        QTest::newRow("identifiers") << "<!DOCTYPE a [<!ATTLIST c" +
+                                            QByteArray(defaults).replace("CDATA \"\"", "ID #IMPLIED") +
+                                            ">]><a/>"
+                                     << QStringLiteral("more values");
+        QTest::newRow("identifiers among other attributes")
+            << "<!DOCTYPE a [<!ATTLIST c" + QByteArray(defaults).replace(" b", " e") +
+                   QByteArray(defaults).replace(" b", " f") +
+                   QByteArray(defaults.left(30'000)).replace("CDATA \"\"", "ID #IMPLIED") + ">]><a/>"
+            << QStringLiteral("more values");
+        QTest::newRow("namespaces that are declared")
+            << "<!DOCTYPE a [<!ATTLIST c" + QByteArray(defaults).replace(" CDATA", ":xmlns CDATA") +
+                   defaults + ">]><a/>"
+            << QStringLiteral("more values");
+        QByteArray elements;
+        for (int i = 0; i < 4000; ++i)
+            elements += "<!ATTLIST e" + QByteArray::number(i) + " id ID #IMPLIED xmlns CDATA #IMPLIED>";
+        QTest::newRow("identifiers of many elements") << "<!DOCTYPE a [" + elements + "]><a/>" << QString();
+        const QByteArray table = QByteArray("| ").repeated(20'000);
+        QTest::newRow("bars elsewhere in the document type")
+            << "<!DOCTYPE a [<!--" + table + "--><?p " + table + "?><!ENTITY e \"" + table +
+                   "\"><!ATTLIST a b CDATA \"" + table + "\"><!ELEMENT a (#PCDATA" + values.left(50'000) +
+                   "x)*>]><a/>"
+            << QString();
         QTest::newRow("namespaces") << "<a>" + spaces + "</a>" << QString();
         QTest::newRow("name of an entity")
             << "<a>&" + QByteArray(50'000, 'e') + ";</a>" << QStringLiteral("…");

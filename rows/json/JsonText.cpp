@@ -1,8 +1,8 @@
-#include "cli/JsonText.h"
+#include "rows/json/JsonText.h"
 
 #include <nlohmann/json.hpp>
 
-namespace vantrell::cli
+namespace vantrell
 {
 
 std::string jsonText(const QString &text)
@@ -21,4 +21,4 @@ QByteArray toBytes(const Json &json)
     return QByteArray(text.data(), qsizetype(text.size())) + '\n';
 }
 
-} // namespace vantrell::cli
+} // namespace vantrell

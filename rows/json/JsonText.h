@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace vantrell::cli
+namespace vantrell
 {
 
 using Json = nlohmann::ordered_json;
@@ -21,4 +21,4 @@ Json parseJson(const QByteArray &text);
 /// One JSON document as UTF-8, with a line end.
 QByteArray toBytes(const Json &json);
 
-} // namespace vantrell::cli
+} // namespace vantrell

@@ -1,18 +1,17 @@
-#include "cli/RecordJson.h"
+#include "rows/json/RecordJson.h"
 
-#include "markers/MarkerTableValues.h"
 #include "rows/RecordText.h"
 
 #include <nlohmann/json.hpp>
 
-namespace vantrell::cli
+namespace vantrell
 {
 
 namespace
 {
 
 struct ToJson {
-    XmlLocationPaths &paths;
+    const PathOfElement &pathOf;
 
     Json operator()(std::int64_t integer) const { return integer; }
     Json operator()(double number) const { return number; }
@@ -21,20 +20,25 @@ struct ToJson {
     Json operator()(const QDateTime &date) const { return jsonText(isoText(date)); }
     Json operator()(XmlNode node) const
     {
-        const QString path = paths.pathOf(node);
+        const QString path = pathOf(node);
         return path.isNull() ? Json() : Json(jsonText(path));
     }
 };
 
 } // namespace
 
-Json recordToJson(const RowRecord &record, XmlLocationPaths &paths)
+Json recordToJson(const RowRecord &record, const PathOfElement &pathOf)
 {
     Json json = Json::object();
-    const ToJson convert{paths};
+    const ToJson convert{pathOf};
     for (std::size_t i = 0; i < record.size(); ++i)
         json.push_back({jsonText(record.keyAt(i).text()), std::visit(convert, record.valueAt(i))});
     return json;
+}
+
+Json recordToJson(const RowRecord &record, XmlLocationPaths &paths)
+{
+    return recordToJson(record, [&paths](XmlNode node) { return paths.pathOf(node); });
 }
 
 Json recordsToJson(const RowList &records, XmlLocationPaths &paths)
@@ -45,17 +49,4 @@ Json recordsToJson(const RowList &records, XmlLocationPaths &paths)
     return list;
 }
 
-QByteArray markersAsJson(const RowList &markers)
-{
-    XmlLocationPaths paths;
-    Json list = Json::array();
-    for (const RowRecordPtr &marker : markers) {
-        Json json = recordToJson(*marker, paths);
-        json.push_back({"display", Json{{"in", jsonText(MarkerTableValues::inText(*marker))},
-                                        {"out", jsonText(MarkerTableValues::outText(*marker))}}});
-        list.push_back(std::move(json));
-    }
-    return toBytes(list);
-}
-
-} // namespace vantrell::cli
+} // namespace vantrell

@@ -1,0 +1,38 @@
+#include "table/widgets/CheckFrame.h"
+
+#include <QApplication>
+#include <QPainter>
+
+namespace vantrell
+{
+
+void paintCheckFrame(QPainter &painter, const QStyleOptionViewItem &box, bool isDim)
+{
+    if (box.palette.color(QPalette::Base).lightness() >= 128)
+        return;
+    QColor ink = box.palette.color(QPalette::Text);
+    ink.setAlphaF(isDim ? 0.2F : 0.5F);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(box.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.restore();
+}
+
+void FramedCheckDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    if (!cell.features.testFlag(QStyleOptionViewItem::HasCheckIndicator))
+        return;
+    const QStyle &style = cell.widget ? *cell.widget->style() : *QApplication::style();
+    cell.rect = style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, cell.widget);
+    const bool isUsable =
+        index.flags().testFlag(Qt::ItemIsUserCheckable) && cell.state.testFlag(QStyle::State_Enabled);
+    paintCheckFrame(*painter, cell, !isUsable);
+}
+
+} // namespace vantrell

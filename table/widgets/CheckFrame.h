@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class QPainter;
+
+namespace vantrell
+{
+
+/// Paints the frame of a check box in the rectangle of the option on a dark background, where that of most
+/// styles cannot be seen; nothing on a light one.
+void paintCheckFrame(QPainter &painter, const QStyleOptionViewItem &box, bool isDim);
+
+/// Paints the cells of the style, and frames their check boxes. Main thread.
+class FramedCheckDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+};
+
+} // namespace vantrell
