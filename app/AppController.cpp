@@ -570,7 +570,7 @@ void AppController::helpUserManual()
     const Result<void> opened =
         UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
     if (!opened)
-        tell(tr("The user manual cannot be shown: %1").arg(opened.message()));
+        tell(opened.message());
 }
 
 void AppController::showAboutDialog()

@@ -193,7 +193,9 @@ void MediaPane::setDrives(std::vector<DriveItem> drives)
     int index = 0;
     for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
         const DriveItem &drive = m_driveItems[i];
-        m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path), drive.title);
+        const bool isNameless = drive.title == QLatin1Char('/');
+        m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path),
+                          isNameless ? tr("System Drive") : drive.title);
         if (!chosen.isNull() && drive.path == chosen)
             index = int(i);
     }

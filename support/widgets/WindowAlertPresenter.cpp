@@ -7,11 +7,15 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEventLoop>
+#include <QFont>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTextDocument>
 #include <QTimer>
 
 #include <utility>
@@ -71,14 +75,51 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     return answers;
 }
 
-/// Both texts literally, even if they look like markup.
+constexpr int minimumWidth = 380;     // pixels, of the texts
+constexpr int maximumWordWidth = 420; // pixels
+
+/// The text with its paths kept on one line each, and words that are too wide elided in the middle.
+QString fitted(const QString &text, const QFontMetrics &metrics)
+{
+    static const QRegularExpression words(QStringLiteral("\\S+"));
+    QString result;
+    qsizetype end = 0;
+    for (auto match = words.globalMatch(text); match.hasNext();) {
+        const QRegularExpressionMatch word = match.next();
+        QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
+        // A line could be broken behind the slashes.
+        if (shown.count(QLatin1Char('/')) > 1)
+            shown.replace(QLatin1Char('/'), QStringLiteral("/\u2060"));
+        result += text.mid(end, word.capturedStart() - end) + shown;
+        end = word.capturedEnd();
+    }
+    return result + text.mid(end);
+}
+
+/// Both texts literally, even if they look like markup: the message in bold, the explanation below.
 void setTexts(QMessageBox &box, const AlertDescription &description)
 {
     box.setTextFormat(Qt::PlainText);
     box.setText(description.value(AlertKey::MessageText));
     box.setInformativeText(description.value(AlertKey::InformativeText));
-    for (QLabel *const label : box.findChildren<QLabel *>())
+    for (QLabel *const label : box.findChildren<QLabel *>()) {
         label->setTextFormat(Qt::PlainText);
+        if (label->text().isEmpty())
+            continue;
+        if (label->text() == description.value(AlertKey::MessageText)) {
+            QFont bold = label->font();
+            bold.setBold(true);
+            label->setFont(bold);
+        }
+        label->setMinimumWidth(minimumWidth);
+        const QString whole = label->text();
+        const QString shown = fitted(whole, QFontMetrics(label->font()));
+        if (shown == whole)
+            continue;
+        label->setText(shown);
+        if (shown.contains(QChar(0x2026)) && !whole.contains(QChar(0x2026)))
+            label->setToolTip(Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal));
+    }
 }
 
 } // namespace

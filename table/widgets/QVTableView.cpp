@@ -9,7 +9,10 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMetaObject>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <utility>
 
 namespace vantrell
 {
@@ -61,6 +64,43 @@ bool actsOnClick(const QModelIndex &index)
     return index.flags().testFlag(Qt::ItemIsUserCheckable) || isPopUp(index);
 }
 
+/// Repaints the row below the mouse, and the one that it has left.
+class HoveredRow final : public QObject
+{
+public:
+    explicit HoveredRow(QTableView *table)
+        : QObject(table)
+        , m_table(table)
+    {
+        m_table->viewport()->setMouseTracking(true);
+        m_table->viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseMove)
+            moveTo(m_table->rowAt(int(static_cast<QMouseEvent *>(event)->position().y())));
+        else if (event->type() == QEvent::Leave)
+            moveTo(-1);
+        return false;
+    }
+
+private:
+    void moveTo(int row)
+    {
+        if (row == m_row)
+            return;
+        for (const int changed : {std::exchange(m_row, row), row}) {
+            if (changed >= 0)
+                m_table->viewport()->update(0, m_table->rowViewportPosition(changed),
+                                            m_table->viewport()->width(), m_table->rowHeight(changed));
+        }
+    }
+
+    QTableView *m_table;
+    int m_row = -1;
+};
+
 } // namespace
 
 QVTableView::QVTableView(QWidget *parent)
@@ -85,6 +125,7 @@ QVTableView::QVTableView(QWidget *parent)
     header->setStretchLastSection(true);
     header->setMinimumSectionSize(fontMetrics().height() * 2);
     setRowHeight();
+    new HoveredRow(this);
     connect(this, &QAbstractItemView::clicked, this, &QVTableView::openPopUp);
 }
 

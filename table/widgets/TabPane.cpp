@@ -38,6 +38,7 @@ constexpr int messageMs = 30000;
 constexpr int countMs = 30;
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
+const QString characterKey = QStringLiteral("characterWidth");
 
 QString layoutKey(Tab tab)
 {
@@ -458,6 +459,7 @@ void TabPane::saveLayout()
         column.insert(identifierKey, identifier);
         column.insert(widthKey, present >= 0 ? m_table->columnWidth(present)
                                              : m_storedWidths.value(identifier, usualWidth(identifier)));
+        column.insert(characterKey, fontMetrics().averageCharWidth());
         layout.emplace_back(column);
     }
     const QScopedValueRollback<bool> stores(m_storesLayout, true);
@@ -512,7 +514,11 @@ void TabPane::restoreLayout()
     const QVariant stored = m_defaults.value(layoutKey(tab()));
     for (const QVariant &entry : stored.toList()) {
         const QString identifier = entry.toMap().value(identifierKey).toString();
-        const qint64 width = PropertyList::integer(entry.toMap().value(widthKey));
+        qint64 width = PropertyList::integer(entry.toMap().value(widthKey));
+        // Stored with a font of another size.
+        const qint64 character = PropertyList::integer(entry.toMap().value(characterKey));
+        if (character > 0 && character < 1000 && width > 0 && width < 10000)
+            width = width * fontMetrics().averageCharWidth() / character;
         const int column = m_model->columnOf(identifier);
         if (width > 0 && width < 10000) {
             m_storedWidths.insert(identifier, int(width));

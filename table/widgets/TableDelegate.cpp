@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -54,6 +55,18 @@ int roleOf(const QWidget &editor)
     return editor.property(writesAlong).toBool() ? TableModel::AlongRole : Qt::EditRole;
 }
 
+/// Whether the cell is in the current row, or in that below the mouse.
+bool isCurrentOrHovered(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
+    if (!view || view->currentIndex().row() == index.row())
+        return true;
+    const QWidget *viewport = view->viewport();
+    const QPoint mouse = viewport->mapFromGlobal(QCursor::pos());
+    return viewport->underMouse() && viewport->rect().contains(mouse) && option.rect.top() <= mouse.y() &&
+           mouse.y() <= option.rect.bottom();
+}
+
 /// Frames the whole current cell.
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
 {
@@ -87,9 +100,30 @@ void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         paintPopUp(painter, option, index);
         break;
     case Column::Kind::Text:
-        QStyledItemDelegate::paint(painter, option, index);
+        paintText(painter, option, index);
         break;
     }
+}
+
+void TableDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const
+{
+    if (columnOf(index).alignment != Qt::AlignRight) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle &style = styleOf(cell);
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    // Or the numbers would stand close to the text of the next column.
+    cell.rect.adjust(0, 0, -cell.fontMetrics.averageCharWidth(), 0);
+    cell.backgroundBrush = QBrush();
+    const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
+    cell.state &= ~QStyle::State_HasFocus;
+    style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    if (hasFocus)
+        paintFocus(painter, cell, option.rect);
 }
 
 void TableDelegate::paintCheckBox(QPainter *painter, const QStyleOptionViewItem &option,
@@ -129,7 +163,7 @@ void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &op
     if (hasFocus)
         paintFocus(painter, cell, whole);
     const bool hasChoices = !cell.text.isEmpty() || !cell.icon.isNull();
-    if (!hasChoices || !index.flags().testFlag(Qt::ItemIsEditable))
+    if (!hasChoices || !index.flags().testFlag(Qt::ItemIsEditable) || !isCurrentOrHovered(option, index))
         return;
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
     QColor ink = cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);

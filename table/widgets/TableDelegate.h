@@ -7,7 +7,8 @@ namespace vantrell
 
 /// Draws and edits the cells of a TableModel: texts in a field with the whole text selected, check boxes
 /// by a click or the space bar, pop-up cells with a list that opens at once. What is left unchanged is not
-/// written. Where the model tells what becomes of a text, that stands below the field while it is typed.
+/// written. Where the model tells what becomes of a text, that stands below the field while it is typed. The
+/// arrows of pop-up cells show in the current row and in the one below the mouse.
 class TableDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -37,6 +38,7 @@ protected:
 private:
     QWidget *createPopUp(QWidget *parent, const QModelIndex &index) const;
     void paintCheckBox(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintPopUp(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 };
 

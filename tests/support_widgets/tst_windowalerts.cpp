@@ -167,6 +167,35 @@ private Q_SLOTS:
         QVERIFY(labels.contains(QStringLiteral("a < b & %i")));
     }
 
+    void alertsAreWideAndKeepPathsWhole()
+    {
+        const QString path =
+            QStringLiteral("/Volumes/") + QString(200, QLatin1Char('x')) + QStringLiteral("/last.mov");
+        bool isBold = false;
+        int width = 0;
+        QString shown;
+        QString tip;
+        whenShown([&](QMessageBox *box) {
+            width = box->width();
+            for (const QLabel *const label : box->findChildren<QLabel *>()) {
+                if (label->text() == QStringLiteral("Short"))
+                    isBold = label->font().bold();
+                if (!label->toolTip().isEmpty()) {
+                    shown = label->text();
+                    tip = label->toolTip();
+                }
+            }
+            box->defaultButton()->click();
+        });
+        QVAlert::alertSheetWithMessageText(QStringLiteral("Short"), path, nullptr);
+        QVERIFY(isBold);
+        QVERIFY2(width >= 380 && width < 640, qPrintable(QString::number(width)));
+        QVERIFY(shown.startsWith(QStringLiteral("/\u2060Volumes")));
+        QVERIFY(shown.endsWith(QStringLiteral("last.mov")));
+        QVERIFY(shown.size() < path.size());
+        QVERIFY(tip.contains(path));
+    }
+
     void aSecondAlertStandsAlone()
     {
         QWidget window;

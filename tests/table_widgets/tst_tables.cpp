@@ -481,6 +481,17 @@ void TestTables::moveColumns()
     next.addColumn(markerFieldColumn(take, QStringLiteral("Take")));
     QCOMPARE(next.columns(), project().markers.columns());
     QCOMPARE(next.table().columnWidth(next.model().columnOf(QStringLiteral("comment"))), 333);
+
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+    const int inLarge = [&] {
+        MarkersPane pane(project().bench, project().defaults);
+        return pane.table().columnWidth(pane.model().columnOf(QStringLiteral("comment")));
+    }();
+    QApplication::setFont(usual);
+    QVERIFY2(inLarge > 550 && inLarge < 780, qPrintable(QString::number(inLarge)));
 }
 
 void TestTables::filterEffects()
