@@ -37,8 +37,8 @@ struct DocumentDeleter {
 
 /// Comparisons, which the library makes between the values of an enumeration and between attributes.
 constexpr std::int64_t maximumValuesCost = 50'000'000;
-constexpr std::int64_t identifierCost = 50; // such comparisons; of two that are identifiers
-constexpr std::int64_t namespaceCost = 10;
+constexpr std::int64_t identifierCost = 50; // such comparisons; of an identifier with an attribute
+constexpr std::int64_t namespaceCost = 10;  // of an attribute with a namespace
 /// Bytes. The library copies a comment at each double hyphen in it.
 constexpr std::int64_t maximumHyphenCost = 500'000'000;
 
@@ -208,8 +208,8 @@ private:
         return self->m_parameterEntities.contains(viewOf(name)) ? &self->m_emptyEntity : nullptr;
     }
 
-    /// The library compares a declared attribute with all identifiers of its element, and walks past its
-    /// namespaces.
+    /// For an identifier the library looks at all attributes of its element, and for what is no namespace at
+    /// those that are.
     static void attributeDeclaration(void *context, const xmlChar *element, const xmlChar *name, int type,
                                      int use, const xmlChar *value, xmlEnumeration *values)
     {
@@ -221,8 +221,9 @@ private:
                 ++declared.namespaces;
             else
                 self->m_attributesCost += namespaceCost * declared.namespaces;
+            ++declared.attributes;
             if (type == XML_ATTRIBUTE_ID)
-                self->m_attributesCost += identifierCost * ++declared.identifiers;
+                self->m_attributesCost += identifierCost * declared.attributes;
         });
         if (self->hasTooManyValues())
             xmlFreeEnumeration(values); // the input ends, too
@@ -230,9 +231,9 @@ private:
             xmlSAX2AttributeDecl(context, element, name, type, use, value, values);
     }
 
-    /// How many attributes of an element are.
+    /// Of an element.
     struct Declared {
-        std::int64_t identifiers = 0;
+        std::int64_t attributes = 0;
         std::int64_t namespaces = 0;
     };
 

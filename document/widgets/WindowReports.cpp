@@ -202,11 +202,12 @@ void WindowReports::exportReportTo(const QString &path, ReportFormat format)
             device.write(bytes); // errors are checked by whoever opened the device
             return *isCancelled ? Result<void>(Failure()) : Result<void>();
         };
+        const auto mayReplace = [&](int) { return *isCancelled ? Result<void>(Failure()) : Result<void>(); };
         const auto hasEnough = [&] { return isCancelled->load(); };
         return format == ReportFormat::Pdf
                    ? PrintHelper::writePDF(helper, write, ReportImages::standardFolder(), path, pages,
                                            hasEnough)
-                   : FileUtilities::writeAtomically(path, write);
+                   : FileUtilities::writeAtomically(path, write, mayReplace);
     };
     BackgroundWork::run(writeReport, m_window.workbench().document().mainThread(),
                         [this, path, isCancelled](const Result<void> &written) {

@@ -87,9 +87,13 @@ void WindowSending::exportChangedSequencesTo(const QString &path)
     const auto run = std::make_shared<Export>();
     const auto write = [document, run, path,
                         uuids = document->modifiedSequenceUUIDs().value_or(QStringList())] {
-        run->written = FileUtilities::writeAtomically(path, [&](QIODevice &device) {
+        const auto writeSequences = [&](QIODevice &device) {
             return OutputDocument(*document).write(uuids, device, &run->isCancelled);
-        });
+        };
+        const auto mayReplace = [&](int) {
+            return run->isCancelled ? Result<void>(Failure()) : Result<void>();
+        };
+        run->written = FileUtilities::writeAtomically(path, writeSequences, mayReplace);
     };
     if (document->runInBackground(write,
                                   [this, run, path] { exported(path, run->written, run->isCancelled); }))

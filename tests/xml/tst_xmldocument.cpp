@@ -570,6 +570,11 @@ private Q_SLOTS:
                                             QByteArray(defaults).replace("CDATA \"\"", "ID #IMPLIED") +
                                             ">]><a/>"
                                      << QStringLiteral("more values");
+        QTest::newRow("identifiers among other attributes")
+            << "<!DOCTYPE a [<!ATTLIST c" + QByteArray(defaults).replace(" b", " e") +
+                   QByteArray(defaults).replace(" b", " f") +
+                   QByteArray(defaults.left(30'000)).replace("CDATA \"\"", "ID #IMPLIED") + ">]><a/>"
+            << QStringLiteral("more values");
         QTest::newRow("namespaces that are declared")
             << "<!DOCTYPE a [<!ATTLIST c" + QByteArray(defaults).replace(" CDATA", ":xmlns CDATA") +
                    defaults + ">]><a/>"

@@ -7,7 +7,6 @@
 
 #include "app/AppController.h"
 #include "app/Application.h"
-#include "app/KeyboardHelp.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
@@ -21,6 +20,7 @@
 #include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QEventLoop>
 #include <QLineEdit>
@@ -113,11 +113,7 @@ public:
         take(window, "markers");
         takePrintPanel(window);
         takeSheets(window);
-        KeyboardHelp *const keys = KeyboardHelp::showFor(window);
-        // The shortcuts of the commands depend on the platform, which is none that anybody uses.
-        keys->findChild<QLineEdit *>()->setText(QStringLiteral("table"));
-        take(*keys, "../manual/images/keys");
-        keys->close();
+        takeKeys(window);
         window.close();
         m_controller.openFiles({project + QStringLiteral(".missing")});
         take(*m_controller.currentWindow(), "failure");
@@ -175,6 +171,17 @@ private:
         progress->setProgress(2, 3);
         take(*progress, "progress-sheet");
         progress->endProgress();
+    }
+
+    void takeKeys(DocumentWindow &window)
+    {
+        for (QAction *const action : window.findChildren<QAction *>()) {
+            if (action->shortcuts().contains(QKeySequence(Qt::Key_Question)))
+                action->trigger();
+        }
+        // The shortcuts of the commands depend on the platform, which is none that anybody uses.
+        visibleSheet(window)->findChild<QLineEdit *>()->setText(QStringLiteral("table"));
+        takeSheet(window, "../manual/images/keys");
     }
 
     /// A project is fetched from Final Cut Pro, changed and sent back.
