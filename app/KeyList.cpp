@@ -124,6 +124,8 @@ QList<KeyGroup> otherKeys()
             {keys({Key_Home, Key_End}), QT_TRANSLATE_NOOP("KeyList", "The first or last cell of the row")},
             {keys({CTRL | Key_Home, CTRL | Key_End}), QT_TRANSLATE_NOOP("KeyList", "The first or last cell of the table")},
             {keys({SHIFT | Key_Up, SHIFT | Key_Down}), QT_TRANSLATE_NOOP("KeyList", "Select further rows")},
+            {keys({Key_Tab, SHIFT | Key_Tab}), QT_TRANSLATE_NOOP("KeyList", "The next or previous cell")},
+            {keys({CTRL | Key_Tab, CTRL | SHIFT | Key_Tab}), QT_TRANSLATE_NOOP("KeyList", "Out of the table")},
             {keys({Key_Space}), QT_TRANSLATE_NOOP("KeyList", "Switch the check box of the current cell")},
             {keys({Key_F2}), QT_TRANSLATE_NOOP("KeyList", "Edit the current cell, or open its list")},
             {keys({Key_Menu, SHIFT | Key_F10}), QT_TRANSLATE_NOOP("KeyList", "The context menu of the selected rows")},
@@ -134,8 +136,16 @@ QList<KeyGroup> otherKeys()
         group(QT_TRANSLATE_NOOP("KeyList", "Effects Table"), {
             {keys({Key_Delete, Key_Backspace}), QT_TRANSLATE_NOOP("KeyList", "Take the selected effects off the list; the project keeps them")},
         }),
+        group(QT_TRANSLATE_NOOP("KeyList", "Marker Overview"), {
+            {keys({Key_Left, Key_Right}), QT_TRANSLATE_NOOP("KeyList", "The previous or next marker")},
+            {keys({Key_Plus, Key_Minus}), QT_TRANSLATE_NOOP("KeyList", "Zoom in or out")},
+            {keys({Key_0}), QT_TRANSLATE_NOOP("KeyList", "Show the whole sequence")},
+            {keys({Key_Escape}), QT_TRANSLATE_NOOP("KeyList", "Show the whole sequence, then back to the table")},
+        }),
         group(QT_TRANSLATE_NOOP("KeyList", "While a Cell Is Edited"), {
             {keys({Key_Return, Key_Enter}), QT_TRANSLATE_NOOP("KeyList", "Keep what was typed")},
+            {keys({ALT | Key_Return}), QT_TRANSLATE_NOOP("KeyList", "Keep a typed in point, with the duration of the marker")},
+            {keys({Key_Tab, SHIFT | Key_Tab}), QT_TRANSLATE_NOOP("KeyList", "Keep what was typed and edit the next or previous cell")},
             {keys({Key_Escape}), QT_TRANSLATE_NOOP("KeyList", "Leave the cell as it was")},
         }),
         group(QT_TRANSLATE_NOOP("KeyList", "Sheets and Alerts"), {
