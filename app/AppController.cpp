@@ -100,8 +100,6 @@ FoundFile findFile(const QString &path, const QStringList &files)
     return {absolute, index};
 }
 
-}
-
 QVariantMap qcList()
 {
     const Result<QVariant> list = PropertyList::fromFile(qcListPath());

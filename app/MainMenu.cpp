@@ -139,11 +139,11 @@ void MainMenu::makeEditMenu()
     m_documentActions << add(menu, tr("&Find"), QKeySequence::Find, m_document, &DocumentWindow::find)
                       << add(menu, tr("&Go to Timecode…"), QKeySequence(Qt::CTRL | Qt::Key_G), m_document,
                              &DocumentWindow::goToTimecode);
-    m_markerActions << add(menu, tr("Ne&xt of Same Color"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down),
-                           m_document, &DocumentWindow::goToNextOfColor)
-                    << add(menu, tr("Pre&vious of Same Color"),
-                           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), m_document,
-                           &DocumentWindow::goToPreviousOfColor);
+    m_colorActions << add(menu, tr("Ne&xt of Same Color"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down),
+                          m_document, &DocumentWindow::goToNextOfColor)
+                   << add(menu, tr("Pre&vious of Same Color"),
+                          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), m_document,
+                          &DocumentWindow::goToPreviousOfColor);
     menu->addSeparator();
     m_markerActions << add(menu, tr("Add &Marker…"), QKeySequence(Qt::CTRL | Qt::Key_M), m_document,
                            &DocumentWindow::showMarkerAddDialog)
@@ -209,8 +209,7 @@ void MainMenu::makeMediaMenu()
 void MainMenu::makeWindowMenu()
 {
     m_windowMenu = addMenu(tr("&Window"));
-    add(m_windowMenu, tr("&Minimize"), QKeySequence(), &m_window,
-        &QWidget::showMinimized);
+    add(m_windowMenu, tr("&Minimize"), QKeySequence(), &m_window, &QWidget::showMinimized);
     m_windowMenu->addSeparator();
     connect(m_windowMenu, &QMenu::aboutToShow, this, &MainMenu::fillWindowMenu);
     fillWindowMenu();
@@ -314,7 +313,7 @@ void MainMenu::validate()
     const bool showsPanes = m_document && m_document->state() != DocumentWindow::State::Failed;
     for (QAction *const action : m_documentActions)
         action->setEnabled(showsPanes);
-    for (QAction *const action : m_markerActions)
+    for (QAction *const action : m_colorActions)
         action->setEnabled(showsPanes && m_document->selectedTab() == Tab::Markers);
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_markerOverview->setChecked(showsPanes && m_document->showsMarkerOverview());

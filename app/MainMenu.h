@@ -76,7 +76,7 @@ private:
     QList<QAction *> m_reportActions;   // print and export reports
     QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab
-    QList<QAction *> m_markerActions;   // need the Markers tab
+    QList<QAction *> m_colorActions;    // need the Markers tab
     QList<QAction *> m_mediaActions;    // need a project that may be changed
 };
 
