@@ -4,6 +4,7 @@
 #include "support/widgets/NestedEvents.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEventLoop>
@@ -11,6 +12,7 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -75,6 +77,7 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     return answers;
 }
 
+constexpr QChar wordJoiner(0x2060);
 constexpr int minimumWidth = 380;     // pixels, of the texts
 constexpr int maximumWordWidth = 420; // pixels
 
@@ -89,16 +92,42 @@ QString fitted(const QString &text, const QFontMetrics &metrics)
         QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
         // A line could be broken behind the slashes.
         if (shown.count(QLatin1Char('/')) > 1)
-            shown.replace(QLatin1Char('/'), QStringLiteral("/\u2060"));
+            shown.replace(QLatin1Char('/'), QString(QLatin1Char('/')) + wordJoiner);
         result += text.mid(end, word.capturedStart() - end) + shown;
         end = word.capturedEnd();
     }
     return result + text.mid(end);
 }
 
+/// Copies the texts of an alert as they are, not as they are shown.
+class CopiesTexts final : public QObject
+{
+public:
+    CopiesTexts(QMessageBox &box, const AlertDescription &description)
+        : QObject(&box)
+        , m_texts(description.value(AlertKey::MessageText) + QLatin1Char('\n') +
+                  description.value(AlertKey::InformativeText))
+    {
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress ||
+            !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy))
+            return false;
+        QGuiApplication::clipboard()->setText(m_texts);
+        return true;
+    }
+
+private:
+    QString m_texts;
+};
+
 /// Both texts literally, even if they look like markup: the message in bold, the explanation below.
 void setTexts(QMessageBox &box, const AlertDescription &description)
 {
+    new CopiesTexts(box, description);
     box.setTextFormat(Qt::PlainText);
     box.setText(description.value(AlertKey::MessageText));
     box.setInformativeText(description.value(AlertKey::InformativeText));

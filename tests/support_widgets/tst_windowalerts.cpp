@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -185,6 +186,7 @@ private Q_SLOTS:
                     tip = label->toolTip();
                 }
             }
+            QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
             box->defaultButton()->click();
         });
         QVAlert::alertSheetWithMessageText(QStringLiteral("Short"), path, nullptr);
@@ -194,6 +196,7 @@ private Q_SLOTS:
         QVERIFY(shown.endsWith(QStringLiteral("last.mov")));
         QVERIFY(shown.size() < path.size());
         QVERIFY(tip.contains(path));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Short\n") + path);
     }
 
     void aSecondAlertStandsAlone()

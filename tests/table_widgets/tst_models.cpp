@@ -170,13 +170,14 @@ void TestModels::offerClipsOfTheRow()
     for (const PopUpItem &item : model.popUpItems(cell))
         enabled.push_back(item.isEnabled);
     QCOMPARE(std::vector<bool>(enabled.begin(), enabled.begin() + 4),
-             std::vector<bool>({true, true, false, true}));
+             std::vector<bool>({false, true, false, true}));
     QCOMPARE(titles(QStringLiteral("First light"), clip).mid(0, 4), trailer);
     // "(none)" takes a marker from a clip; elsewhere, and as a sequence, it would do nothing.
     const auto offersNone = [&](const QString &row, const QString &column) {
         const int modelRow = m_project->rowOf(Tab::Markers, QStringLiteral("name"), row);
         return model.popUpItems(m_project->cell(Tab::Markers, modelRow, column)).front().isEnabled;
     };
+    QVERIFY(offersNone(QStringLiteral("Light on"), clip));
     QVERIFY(!offersNone(QStringLiteral("Opening"), clip));
     QVERIFY(!offersNone(QStringLiteral("First light"), QStringLiteral("sequence")));
     QVERIFY(titles(QStringLiteral("Tide turns"), clip).isEmpty());
