@@ -191,7 +191,8 @@ private Q_SLOTS:
                 shown.append(marker.record->get(MarkerKey::name));
         }
         QCOMPARE(shown, QStringList({QStringLiteral("Applause"), QStringLiteral("Carte du port")}));
-        QVERIFY(strip().textAt(place).startsWith(QStringLiteral("Opening\n01:00:00;00\nhidden by the filter")));
+        QVERIFY(
+            strip().textAt(place).startsWith(QStringLiteral("Opening\n01:00:00;00\nhidden by the filter")));
         click(place);
         QVERIFY(selectedNames().isEmpty());
         QVERIFY(statusOf(*m_window).contains(QStringLiteral("“Opening” is hidden by the filter")));
