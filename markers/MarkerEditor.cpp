@@ -14,6 +14,8 @@
 #include "support/text/TextFormat.h"
 #include "timecode/QVTimecode.h"
 
+#include <unordered_set>
+
 namespace vantrell
 {
 
@@ -195,13 +197,28 @@ void MarkerEditor::removeMarkers()
         m_document.interface().selectRows(Tab::Markers, {});
 }
 
-bool MarkerEditor::remove(const RowList &records)
+RowList MarkerEditor::rowsOf(const RowList &records) const
+{
+    std::unordered_set<XmlNode> elements;
+    for (const RowRecordPtr &record : records)
+        elements.insert(record->get(MarkerKey::markerElement));
+    elements.erase(XmlNode());
+    RowList rows;
+    for (const RowRecordPtr &row : m_document.markerArray()) {
+        if (elements.contains(row->get(MarkerKey::markerElement)))
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+bool MarkerEditor::remove(const RowList &selected)
 {
     bool isRemoved = false;
     guarded("MarkerEditor::remove", [&] {
-        if (records.empty())
+        if (selected.empty())
             return;
-        const bool one = records.size() == 1;
+        const bool one = selected.size() == 1;
+        const std::uint64_t generation = m_document.rowView(Tab::Markers).generation();
         const int answer = QVAlert::alertSheetWithMessageText(
             formatText(u"Are you sure you wish to remove %@ marker%@?", one ? u"this" : u"these",
                        one ? u"" : u"s"),
@@ -210,6 +227,11 @@ bool MarkerEditor::remove(const RowList &records)
         // The answer may come while the project is being saved, which began since.
         if (answer != AlertAnswer::Default ||
             m_document.refusesWhileSaving(QStringLiteral("Unable to remove marker")))
+            return;
+        // The markers may have been listed anew meanwhile.
+        const bool isListed = m_document.rowView(Tab::Markers).generation() == generation;
+        const RowList records = isListed ? selected : rowsOf(selected);
+        if (records.empty())
             return;
         const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofRemoving(records.size()));
         for (const RowRecordPtr &record : records) {

@@ -128,6 +128,8 @@ private:
     XmlNode parentSequence(std::optional<std::int64_t> parentItem) const;
     void addRecord(const RowRecordPtr &record);
     void noteRestored(const MyDocument::RestoredRows &rows);
+    /// The rows of the list with the elements of those records.
+    RowList rowsOf(const RowList &records) const;
 
     void update(const RowRecordPtr &record, const QString &key, const QString &value, Candidates &candidates);
     void writeChild(XmlNode marker, const QString &name, const QString &text);

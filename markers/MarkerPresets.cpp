@@ -226,10 +226,10 @@ bool MarkerPresets::deleteMarkerPreset(const QString &name)
         return false;
     DocumentInterface &interface = m_document.interface();
     const int answer = QVAlert::alertSheetWithMessageText(
-        QStringLiteral("Delete the preset \"%1\"?").arg(name), QStringLiteral("Delete"),
-        QStringLiteral("Cancel"), QString(),
+        QStringLiteral("Delete the preset \"%1\"?").arg(name), QStringLiteral("Cancel"),
+        QStringLiteral("Delete"), QString(),
         QStringLiteral("Its labels will be lost. Markers keep their colors."), interface.alertParent(), true);
-    if (answer != AlertAnswer::Default)
+    if (answer != AlertAnswer::Alternate)
         return false;
     QFile file(foundPathOf(name));
     const bool isGone = file.remove() || !file.exists();

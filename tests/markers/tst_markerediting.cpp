@@ -402,6 +402,21 @@ private Q_SLOTS:
         QCOMPARE(p.world.selectedRows(Tab::Markers), std::vector<std::size_t>{0});
     }
 
+    /// The markers are listed anew while the question shows.
+    void removesRowsOfANewList()
+    {
+        MarkerProject p(projectWith(marker("1", "-1") + marker("2", "-1") + marker("3", "-1")));
+        p.alerts->queueEvent([&p] {
+            p.inventory.populateMarkerData();
+            p.alerts->answerOpenAlert(AlertAnswer::Default);
+        });
+        QVERIFY(p.editor.remove({p.marker(0), p.marker(2)}));
+        QCOMPARE(p.document.markerArray().size(), std::size_t(1));
+        QCOMPARE(p.tree().count(QStringLiteral("<marker>")), 1);
+        p.editor.setValue({p.marker(0)}, QStringLiteral("name"), QStringLiteral("left"));
+        QVERIFY(p.tree().contains(QStringLiteral("left")));
+    }
+
     void recordsWithoutElement()
     {
         MarkerProject p(projectWith(marker("1", "1") + marker("2", "2"), marker("2", "2")));

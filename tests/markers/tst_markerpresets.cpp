@@ -354,8 +354,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("deletes");
-        QTest::newRow("delete") << AlertAnswer::Default << true;
-        QTest::newRow("cancel") << AlertAnswer::Alternate << false;
+        QTest::newRow("delete") << AlertAnswer::Alternate << true;
+        QTest::newRow("cancel") << AlertAnswer::Default << false;
         QTest::newRow("window closed") << AlertAnswer::Other << false;
     }
     void deleting()
