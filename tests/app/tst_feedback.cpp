@@ -157,10 +157,16 @@ private Q_SLOTS:
         window.resize(640, 420);
         QTest::qWait(0);
         std::array<QPoint, 3> positions;
-        void (DocumentWindow::*const show[])() = {
-            &DocumentWindow::toolbarMedia, &DocumentWindow::toolbarEffects, &DocumentWindow::toolbarMarkers};
+        const auto show = [&window](std::size_t tab) {
+            if (tab == 0)
+                window.toolbarMedia();
+            else if (tab == 1)
+                window.toolbarEffects();
+            else
+                window.toolbarMarkers();
+        };
         for (std::size_t tab = 0; tab < 3; ++tab) {
-            (window.*show[tab])();
+            show(tab);
             const QVTableView &table = window.currentPane().table();
             QTRY_VERIFY(table.verticalScrollBar()->maximum() > 1);
             QVERIFY(table.horizontalScrollBar()->maximum() > 20);
@@ -169,7 +175,7 @@ private Q_SLOTS:
             positions[tab] = {table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()};
         }
         for (std::size_t tab = 0; tab < 3; ++tab) {
-            (window.*show[tab])();
+            show(tab);
             const QVTableView &table = window.currentPane().table();
             QCOMPARE(QPoint(table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()),
                      positions[tab]);
