@@ -409,8 +409,10 @@ void MarkersPane::showMarkerOffsetWindow()
         this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        whenIdle([this, offset = sheet->text()] {
-            workbench().markerEditor().offsetMarkers(offset);
+        const RowList records = workbench().document().selectedRecords(Tab::Markers);
+        whenIdle([this, records, offset = sheet->text()] {
+            workbench().markerEditor().offset(records, offset,
+                                              workbench().document().rowsOnShow(Tab::Markers));
             model().rowsChanged(0, model().rowCount() - 1);
         });
     });

@@ -229,6 +229,33 @@ private Q_SLOTS:
         QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
     }
 
+    /// What the file has lost meanwhile can be had again, though the project was not edited.
+    void undoesARevertToLess_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isLess");
+        const QByteArray whole = contentOf(copySample(QDir::tempPath()));
+        QTest::newRow("half") << whole.left(whole.size() / 2) << true;
+        QTest::newRow("no project") << QByteArray("<html/>") << true;
+        QTest::newRow("whole") << whole << false;
+    }
+    void undoesARevertToLess()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isLess);
+        open();
+        const QStringList before = names();
+        m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), content);
+        QSignalSpy loaded(m_window, &DocumentWindow::loaded);
+        m_window->revertWithoutQuestion();
+        QTRY_COMPARE(loaded.count(), 1);
+        ready();
+        QCOMPARE(m_window->mayUndoRevert(), isLess);
+        if (isLess)
+            m_window->undo();
+        QCOMPARE(names(), before);
+    }
+
     /// The open project may be the only copy when the file can no longer be read.
     void staysAfterARevertThatFails_data()
     {
