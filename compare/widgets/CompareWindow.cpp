@@ -7,6 +7,7 @@
 #include "support/files/FileUtilities.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/AlertBox.h"
 #include "support/widgets/FilePanel.h"
 #include "table/widgets/SheetTable.h"
 
@@ -550,12 +551,10 @@ void CompareWindow::exportTo(const QString &path, ChangeListFormat format)
         if (written) {
             self->m_status->setText(tr("Changes exported to “%1”").arg(name));
         } else {
-            auto *const alert = new QMessageBox(QMessageBox::Warning, QString(),
-                                                tr("The changes could not be exported to “%1”.").arg(name),
-                                                QMessageBox::Ok, self);
+            auto *const alert = new QMessageBox(self);
             alert->setAttribute(Qt::WA_DeleteOnClose);
-            alert->setInformativeText(written.message());
-            alert->setWindowModality(Qt::WindowModal);
+            alert->addButton(QMessageBox::Ok);
+            setUpAlert(*alert, tr("The changes could not be exported to “%1”.").arg(name), written.message());
             alert->open();
         }
         Q_EMIT self->exported(written.isOk());

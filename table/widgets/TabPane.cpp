@@ -36,6 +36,7 @@ namespace
 constexpr int busyInterval = 150; // milliseconds
 constexpr int messageMs = 30000;
 constexpr int countMs = 30;
+constexpr int restMs = 1000; // before rows are prepared for a search that may come
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 const QString characterKey = QStringLiteral("characterWidth");
@@ -123,6 +124,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     connect(m_prepareTimer, &QTimer::timeout, this, [this] {
         if (prepareSearch())
             m_prepareTimer->stop();
+        else
+            m_prepareTimer->setInterval(0);
     });
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
     const RowView &view = m_model->view();
@@ -138,10 +141,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         if (given == tab())
             showMessage(text);
     });
-    connect(&document, &MyDocument::historyChanged, this, [this] {
-        if (m_search && (m_search->field().hasFocus() || !m_search->text().isEmpty()))
-            m_prepareTimer->start(0); // texts may have changed
-    });
+    connect(&document, &MyDocument::historyChanged, this, &TabPane::prepareSoon); // texts may have changed
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
@@ -193,6 +193,7 @@ void TabPane::tableDidReload()
     m_isFilled = m_model->view().isVisible();
     if (m_isFilled)
         restoreRows();
+    prepareSoon();
     showSortIndicator();
     updatePlaceholder();
     updateControls();
@@ -586,11 +587,16 @@ SearchBar &TabPane::addSearchBar()
     connect(m_search, &SearchBar::changed, this, &TabPane::search);
     connect(m_search, &SearchBar::left, this, [this] { m_table->setFocus(Qt::OtherFocusReason); });
     connect(m_search, &SearchBar::entered, m_prepareTimer, [this] { m_prepareTimer->start(0); });
-    connect(m_search, &SearchBar::ended, this, [this] {
-        m_prepareTimer->stop();
-        endSearch();
-    });
     return *m_search;
+}
+
+/// Prepares the rows for a search when the window is at rest, or at once when somebody searches.
+void TabPane::prepareSoon()
+{
+    if (!m_search || !m_isFilled)
+        return;
+    const bool isSearched = m_search->field().hasFocus() || !m_search->text().isEmpty();
+    m_prepareTimer->start(isSearched ? 0 : restMs);
 }
 
 void TabPane::focusSearch()

@@ -147,8 +147,6 @@ protected:
     virtual void search() = 0;
     /// Prepares the rows for a search for a few milliseconds; true when that is done.
     virtual bool prepareSearch() { return true; }
-    /// Nothing is searched for any more.
-    virtual void endSearch() {}
     /// That many rows, which the text tells, such as "3 of 12": "3 of 12 markers".
     virtual QString countText(const QString &number, std::size_t count) const = 0;
     /// What the rows come to together; may be empty.
@@ -178,6 +176,7 @@ private:
     void updateBusy();
     void updatePlaceholder();
     void updateCounts();
+    void prepareSoon();
     void rememberRows();
     void restoreRows();
 
