@@ -16,7 +16,6 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -78,9 +77,6 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     connect(menu, &QMenu::aboutToShow, this,
             [this, relink] { relink->setEnabled(isEditingEnabled() && !selectedMissingUrl().isNull()); });
     table().setMenu(menu);
-    QHeaderView *const header = table().horizontalHeader();
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this, &MediaPane::showHeaderMenu);
     // Relinking gives files other URLs.
     const MyDocument &document = workbench.document();
     for (const auto signal :
@@ -293,23 +289,17 @@ void MediaPane::updateUses()
         });
 }
 
-void MediaPane::showHeaderMenu(const QPoint &position)
+void MediaPane::showColumn(const QString &identifier, bool isShown)
 {
-    auto *const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const Column &column : m_useColumns) {
-        QAction *const action = menu->addAction(column.name);
-        action->setCheckable(true);
-        action->setChecked(m_shownUseColumns.contains(column.identifier));
-        connect(action, &QAction::toggled, this, [this, identifier = column.identifier](bool isShown) {
-            QStringList identifiers = m_shownUseColumns;
-            identifiers.removeAll(identifier);
-            if (isShown)
-                identifiers.append(identifier);
-            storeUseColumns(identifiers);
-        });
+    if (!findColumn(m_useColumns, identifier)) {
+        TabPane::showColumn(identifier, isShown);
+        return;
     }
-    menu->popup(table().horizontalHeader()->mapToGlobal(position));
+    QStringList identifiers = m_shownUseColumns;
+    identifiers.removeAll(identifier);
+    if (isShown)
+        identifiers.append(identifier);
+    storeUseColumns(identifiers);
 }
 
 void MediaPane::revealMediaInFinder()

@@ -23,6 +23,8 @@ public:
     /// Refills the drive menu; the chosen drive stays chosen while it is there.
     void prepareToShow() override;
     void applyDefaultsChange(const QString &key) override;
+    /// Also adds and removes the columns of mediaUseColumns().
+    void showColumn(const QString &identifier, bool isShown) override;
 
     /// Whether the table shows columns of mediaUseColumns(). The user default "mediaUseColumns" has their
     /// identifiers, for all windows.
@@ -41,6 +43,7 @@ Q_SIGNALS:
 
 protected:
     void updateControls() override;
+    Columns otherColumns() const override { return m_useColumns; }
     void search() override;
     bool prepareSearch() override;
     void endSearch() override { m_mediaSearch.forget(); }
@@ -61,7 +64,6 @@ private:
     void restoreUseColumns();
     void storeUseColumns(const QStringList &identifiers);
     void updateUses();
-    void showHeaderMenu(const QPoint &position);
 
     QComboBox *m_kinds;
     QComboBox *m_drives;
