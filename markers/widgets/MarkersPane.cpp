@@ -102,6 +102,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
     makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {

@@ -10,7 +10,8 @@ class QComboBox;
 namespace vantrell
 {
 
-class QVGraphView;
+class MediaFooter;
+class MediaTableModel;
 
 /// The media files of the project, with their filters, totals and chart.
 class MediaPane : public TabPane
@@ -54,7 +55,11 @@ protected:
     QString filteredText() const override;
 
 private:
+    MediaTableModel &mediaModel() const;
     void setMediaChart(const std::vector<double> &values);
+    void updateShares();
+    QString driveNameOf(const QString &directory);
+    QString systemDriveName() const;
     void setDrives(std::vector<DriveItem> drives);
     void makeControls();
     void makeFooter();
@@ -70,7 +75,9 @@ private:
     QPushButton *m_reveal;
     QPushButton *m_relink;
     QPushButton *m_exportList;
-    QVGraphView *m_chart;
+    MediaFooter *m_mediaFooter = nullptr;
+    QTimer *m_shareTimer;
+    QHash<QString, QString> m_driveNames; // by folder, of the files' shares
     std::vector<DriveItem> m_driveItems;
     int m_driveLookups = 0; // started so far
 

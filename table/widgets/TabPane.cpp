@@ -2,6 +2,7 @@
 
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/ElidedLabel.h"
 #include "support/widgets/SelectableLabel.h"
 #include "table/widgets/ColumnLayout.h"
 #include "table/widgets/QVTableView.h"
@@ -637,7 +638,7 @@ void TabPane::updateCounts()
 
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)
 {
-    auto *widget = new QLabel(parent);
+    auto *widget = new ElidedLabel(parent);
     makeSelectable(*widget);
     m_labels.insert(label, widget);
     return widget;
