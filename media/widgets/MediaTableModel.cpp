@@ -97,7 +97,7 @@ QString MediaTableModel::missingText(const RowRecord &record) const
         return tr("Missing: the project has no usable address of this file");
     const QString path = MediaFile::joinedPath(directory, record.get(MediaKey::filename));
     const QString place = m_mappings.placeOf(record.get(MediaKey::rawpath), path);
-    const QString drive = volumeOf(place);
+    const QString drive = volumeOf(place.section(QLatin1Char('/'), 0, -2));
     const bool isDriveMissing = !m_drives.isEmpty() && !drive.isNull() && !m_drives.contains(drive);
     const QString reason =
         isDriveMissing

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStyle>
 
@@ -145,7 +146,8 @@ void ColumnLayout::fit(const QString &identifier)
     if (section < 0 || isHidden(identifier))
         return;
     m_widths.insert(identifier, fittingWidth(section));
-    arrange(section);
+    pin(section);
+    arrange();
 }
 
 void ColumnLayout::fitAll()
@@ -154,12 +156,14 @@ void ColumnLayout::fitAll()
         if (!m_table.isColumnHidden(section))
             m_widths.insert(column(section).identifier, fittingWidth(section));
     }
+    m_pinned.clear();
     arrange();
 }
 
 void ColumnLayout::reset()
 {
     m_widths.clear();
+    m_pinned.clear();
     m_hidden.clear();
     apply();
 }
@@ -170,6 +174,8 @@ bool ColumnLayout::eventFilter(QObject *object, QEvent *event)
     case QEvent::Resize:
         if (object == m_table.viewport()) {
             m_hasRoom = true;
+            if (std::exchange(m_pinnedAt, m_table.width()) != m_table.width())
+                m_pinned.clear(); // not when a scroll bar comes and goes
             arrange();
         }
         break;
@@ -180,7 +186,10 @@ bool ColumnLayout::eventFilter(QObject *object, QEvent *event)
             QMetaObject::invokeMethod(this, &ColumnLayout::followFont, Qt::QueuedConnection);
         break;
     case QEvent::MouseButtonPress:
-        m_isPressed = m_isPressed || object == m_table.horizontalHeader()->viewport();
+        // Not the button that opens the menu, which takes its release.
+        if (object == m_table.horizontalHeader()->viewport() &&
+            static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+            m_isPressed = true;
         break;
     case QEvent::MouseButtonRelease:
         if (m_isPressed) // the header comes first
@@ -200,7 +209,8 @@ void ColumnLayout::noteResize(int section, int from, int to)
         return;
     if (!m_isPressed) {
         m_widths.insert(column(section).identifier, to);
-        arrange(section);
+        pin(section);
+        arrange();
         return;
     }
     if (m_dragged != section) {
@@ -228,7 +238,8 @@ void ColumnLayout::endDrag()
     if (m_dragged < 0)
         return;
     const int dragged = std::exchange(m_dragged, -1);
-    arrange(m_neighbour >= 0 ? m_neighbour : dragged);
+    pin(m_neighbour >= 0 ? m_neighbour : dragged);
+    arrange();
     Q_EMIT resized();
 }
 
@@ -306,8 +317,13 @@ int ColumnLayout::stretchedSection() const
     return -1;
 }
 
-/// Gives all columns their widths; the pinned one gets the wished one in any case.
-void ColumnLayout::arrange(int pinned)
+void ColumnLayout::pin(int section)
+{
+    m_pinned.insert(column(section).identifier);
+}
+
+/// Gives all columns their widths; pinned ones get the wished ones in any case.
+void ColumnLayout::arrange()
 {
     if (m_isPressed && m_dragged >= 0)
         return;
@@ -325,7 +341,8 @@ void ColumnLayout::arrange(int pinned)
             continue;
         const int wish =
             std::max(width(column(section).identifier), m_table.horizontalHeader()->minimumSectionSize());
-        widths.push_back({section, wish, section == pinned ? wish : std::min(wish, smallestWidth(section))});
+        const bool isPinned = m_pinned.contains(column(section).identifier);
+        widths.push_back({section, wish, isPinned ? wish : std::min(wish, smallestWidth(section))});
         wished += wish;
         smallest += widths.back().smallest;
     }

@@ -17,8 +17,9 @@ class TableModel;
 /// How wide the columns of a tab's table are, and which are hidden. Each column has a wished width, which
 /// follows the font of the table. One column, such as the comment, takes what the others leave; where there
 /// is too little room, the columns whose cells can be read in a tool tip become narrower, so that the table
-/// has a horizontal scroll bar only when the smallest widths do not fit, or while the user wants a column
-/// wider. Widths are pixels of the window. Main thread; table and model outlive the object.
+/// has a horizontal scroll bar only when the smallest widths do not fit, or when the user has made columns
+/// wider since the table got its size. Widths are pixels of the window. Main thread; table and model outlive
+/// the object.
 class ColumnLayout : public QObject
 {
     Q_OBJECT
@@ -68,12 +69,15 @@ private:
     void endDrag();
     void takeFont();
     void followFont();
-    void arrange(int pinned = -1);
+    void pin(int section);
+    void arrange();
 
     QVTableView &m_table;
     TableModel &m_model;
     QHash<QString, int> m_widths; // by identifier; without an entry, the usual one
     QSet<QString> m_hidden;
+    QSet<QString> m_pinned; // the user gave them their widths while the table was that wide
+    int m_pinnedAt = 0;
     int m_characterWidth = 1;
     int m_draggedFrom = 0; // the width of the column when its edge was taken
     int m_dragged = -1;    // section

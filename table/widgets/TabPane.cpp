@@ -647,6 +647,7 @@ void TabPane::updateCounts()
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)
 {
     auto *widget = new ElidedLabel(parent);
+    widget->setTextFormat(Qt::PlainText);
     makeSelectable(*widget);
     m_labels.insert(label, widget);
     return widget;

@@ -70,6 +70,18 @@ private Q_SLOTS:
         pane.resize(1000, 600);
         QTRY_VERIFY(!pane.table().horizontalScrollBar()->isVisible());
         QVERIFY(timecodeFits());
+        // What the user widens stays so, until the window gets another size.
+        pane.table().setColumnWidth(columnOf(Tab::Markers, u"name"_s), 900);
+        QTRY_VERIFY(pane.table().horizontalScrollBar()->isVisible());
+        m_project->bench.document().viewState().selectedTab = Tab::Effects;
+        m_project->bench.effectInventory().populateFilteredEffectData();
+        QTRY_VERIFY(!pane.table().verticalScrollBar()->isVisible());
+        m_project->bench.document().viewState().selectedTab = Tab::Markers;
+        m_project->bench.markerInventory().populateFilteredMarkerData();
+        QTRY_VERIFY(pane.table().verticalScrollBar()->isVisible());
+        QCOMPARE(widthOf(Tab::Markers, u"name"_s), 900);
+        pane.resize(1001, 600);
+        QTRY_VERIFY(!pane.table().horizontalScrollBar()->isVisible());
     }
 
     void widthsFollowTheFont()
