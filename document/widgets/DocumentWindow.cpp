@@ -105,6 +105,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
+    setMinimumSize(QSize(680, 460).boundedTo(screen()->availableSize()));
     if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }

@@ -102,6 +102,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
     makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
@@ -263,7 +264,6 @@ void MarkersPane::makeMenus()
     menu->addAction(tr("&Copy"), this, &TabPane::copySelection);
     table().setMenu(menu);
     QHeaderView *const header = table().horizontalHeader();
-    header->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(header->addAction(tr("Marker &Fields…")), &QAction::triggered, this,
             &MarkersPane::showMarkerFieldsDialog);
     connect(header->addAction(tr("Create Marker &Preset…")), &QAction::triggered, this,
@@ -372,6 +372,10 @@ void MarkersPane::moveInPoint()
     const int in = model().columnOf(MarkerKey::in.text());
     const QModelIndex edited = table().editedCell();
     const QModelIndex current = table().currentIndex();
+    if (table().isColumnHidden(in)) {
+        showMessage(tr("The column In is hidden. View ▸ Columns shows it again"));
+        return;
+    }
     if (edited.isValid() && edited.column() == in) {
         table().commitEditingAlong();
     } else if (!edited.isValid() && current.isValid()) {
