@@ -2,7 +2,7 @@
 
 # To build the core, the command line, the desktop program with its manual, and their tests.
 build_packages=(
-    g++ cmake ninja-build pkg-config ccache cmark-gfm
+    g++ cmake ninja-build pkg-config ccache cmark-gfm qt6-l10n-tools
     qt6-base-dev libxml2-dev libplist-dev libxxhash-dev libssl-dev libcli11-dev nlohmann-json3-dev
 )
 

@@ -18,6 +18,7 @@
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/SelectableLabel.h"
+#include "support/widgets/ShownText.h"
 #include "support/widgets/SymbolIcon.h"
 #include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
@@ -412,7 +413,7 @@ void DocumentWindow::showLoadFailure(const QString &message)
     m_failureReason->setText(message.isEmpty() || message == LoadFailure::noProject
                                  ? tr("Project files are read by way of Final Cut Pro 7, which gave "
                                       "no project. An XML export of it opens without.")
-                                 : message);
+                                 : shownMessage(message));
     m_content->setCurrentWidget(m_failure->parentWidget());
     Q_EMIT menusChanged();
     Q_EMIT loadFailed(m_path);

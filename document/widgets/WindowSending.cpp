@@ -59,14 +59,15 @@ void WindowSending::exportChangedSequences()
     m_window.commitEditing();
     if (m_window.refusesAfterFailedLoad() || !m_window.document() || m_state.isBusy() || m_state.isSending())
         return;
-    FilePanel::runForSaving({.window = &m_window,
-                             .title = tr("Export Changed Sequences"),
-                             .folder = m_window.folder(),
-                             .filter = tr("XML files (*.xml *.XML)"),
-                             .extension = QStringLiteral("xml"),
-                             .proposedName = tr("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
-                             .acceptLabel = tr("Export")},
-                            [this](const QString &path) { exportChangedSequencesTo(path); });
+    FilePanel::runForSaving(
+        {.window = &m_window,
+         .title = tr("Export Changed Sequences"),
+         .folder = m_window.folder(),
+         .filter = tr("XML files (*.xml *.XML)"),
+         .extension = QStringLiteral("xml"),
+         .proposedName = QStringLiteral("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
+         .acceptLabel = tr("Export")},
+        [this](const QString &path) { exportChangedSequencesTo(path); });
 }
 
 void WindowSending::exportChangedSequencesTo(const QString &path)

@@ -195,7 +195,9 @@ void MediaPane::setDrives(std::vector<DriveItem> drives)
         const DriveItem &drive = m_driveItems[i];
         const bool isNameless = drive.title == QLatin1Char('/');
         m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path),
-                          isNameless ? tr("System Drive") : drive.title);
+                          drive.path.isNull() ? tr("All Drives")
+                          : isNameless        ? tr("System Drive")
+                                              : drive.title);
         if (!chosen.isNull() && drive.path == chosen)
             index = int(i);
     }
@@ -298,7 +300,7 @@ void MediaPane::showHeaderMenu(const QPoint &position)
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Column &column : m_useColumns) {
-        QAction *const action = menu->addAction(column.name);
+        QAction *const action = menu->addAction(TableModel::shownName(column));
         action->setCheckable(true);
         action->setChecked(m_shownUseColumns.contains(column.identifier));
         connect(action, &QAction::toggled, this, [this, identifier = column.identifier](bool isShown) {

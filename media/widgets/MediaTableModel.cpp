@@ -4,6 +4,7 @@
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QPointer>
@@ -46,6 +47,8 @@ QString MediaTableModel::text(const RowRecord &record, const Column &column) con
 {
     if (column.key == MediaKey::missing)
         return isChecked(record, column) ? tr("missing") : QString();
+    if (column.key == MediaKey::filetype)
+        return shownValue(TableModel::text(record, column));
     return TableModel::text(record, column);
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/NestedEvents.h"
+#include "support/widgets/ShownText.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -37,7 +38,21 @@ QWidget *windowOf(AlertParent *parent)
 
 bool isCancel(const QString &title)
 {
-    return title == QStringLiteral("Cancel") || title == QCoreApplication::translate("Alert", "Cancel");
+    const QString cancel = QStringLiteral("Cancel");
+    return title == cancel || title == shownMessage(cancel) ||
+           title == QCoreApplication::translate("Alert", "Cancel");
+}
+
+/// Texts of the core come in English.
+AlertDescription inWindowLanguage(const AlertDescription &description)
+{
+    AlertDescription shown = description;
+    for (const QString &key : {AlertKey::MessageText, AlertKey::InformativeText, AlertKey::DefaultButtonTitle,
+                               AlertKey::AlternateButtonTitle, AlertKey::OtherButtonTitle}) {
+        if (const auto text = shown.find(key); text != shown.end())
+            *text = shownMessage(*text);
+    }
+    return shown;
 }
 
 /// The buttons, in the order that the platform gives to their roles, each with its answer. Escape presses
@@ -163,9 +178,10 @@ void WindowAlertPresenter::setIcon(QMessageBox &box)
         box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
 }
 
-AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &description, AlertParent *parent,
+AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &english, AlertParent *parent,
                                                     Answer answered)
 {
+    const AlertDescription description = inWindowLanguage(english);
     QWidget *const window = windowOf(parent);
     auto *const box = new QMessageBox(window);
     box->setWindowTitle(QCoreApplication::applicationName());

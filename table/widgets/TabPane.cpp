@@ -3,6 +3,7 @@
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/SelectableLabel.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableDates.h"
@@ -132,7 +133,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     const MyDocument &document = m_workbench.document();
     connect(&document, &MyDocument::labelChanged, this, [this](Label label, const QString &text) {
         if (QLabel *widget = m_labels.value(label))
-            widget->setText(text);
+            widget->setText(shownMessage(text));
     });
     connect(&document, &MyDocument::messageGiven, this, [this](Tab given, const QString &text) {
         if (given == tab())
@@ -540,7 +541,7 @@ void TabPane::setEditingEnabled(bool enabled)
 
 void TabPane::showMessage(const QString &text)
 {
-    setMessage(text);
+    setMessage(shownMessage(text));
     m_messageTime->start();
 }
 
