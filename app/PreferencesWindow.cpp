@@ -161,7 +161,7 @@ void PreferencesWindow::addLanguage(QFormLayout &form)
         const QString code = m_language->itemData(index).toString();
         m_defaults.setValue(Translations::languageKey, code.isEmpty() ? QVariant() : QVariant(code));
     });
-    auto *const title = new QLabel(tr("Lan&guage:"));
+    auto *const title = new QLabel(tr("La&nguage:"));
     title->setBuddy(m_language);
     auto *const field = new QVBoxLayout;
     field->setSpacing(4);

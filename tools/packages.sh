@@ -6,8 +6,8 @@ build_packages=(
     qt6-base-dev libxml2-dev libplist-dev libxxhash-dev libssl-dev libcli11-dev nlohmann-json3-dev
 )
 
-# Also, to run the desktop program: its icons, and sessions without an X server.
-window_packages=(libqt6svg6 qt6-wayland)
+# Also, to run the desktop program: its icons, sessions without an X server, and Qt's dialogs in other languages.
+window_packages=(libqt6svg6 qt6-wayland qt6-translations-l10n)
 
 # Also, to build the plug-in and the program that print, and to print on paper.
 print_packages=(qt6-webengine-dev libqpdf-dev cups-client)

@@ -1301,11 +1301,11 @@
     </message>
     <message>
         <source>Sending to Final Cut Pro...</source>
-        <translation>Senden an Final Cut Pro …</translation>
+        <translation>Senden an Final Cut Pro…</translation>
     </message>
     <message>
         <source>Sending to Premiere Pro...</source>
-        <translation>Senden an Premiere Pro …</translation>
+        <translation>Senden an Premiere Pro…</translation>
     </message>
     <message>
         <source>No changes to send to Final Cut Pro</source>
@@ -1682,7 +1682,7 @@
     </message>
     <message>
         <source>Create preset...</source>
-        <translation>Vorgabe erstellen …</translation>
+        <translation>Vorgabe erstellen…</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -4158,10 +4158,6 @@ Frei auf dem Startvolume: %2 (blau)</translation>
         <translation>System</translation>
     </message>
     <message>
-        <source>Lan&amp;guage:</source>
-        <translation>Spra&amp;che:</translation>
-    </message>
-    <message>
         <source>Holds from the next start on. Reports, exported lists, logs and the command line are in English.</source>
         <translation>Gilt ab dem nächsten Start. Berichte, exportierte Listen, Protokolle und die Befehlszeile sind auf Englisch.</translation>
     </message>
@@ -4228,6 +4224,10 @@ Frei auf dem Startvolume: %2 (blau)</translation>
     <message>
         <source>Suggest a &amp;feature:</source>
         <translation>Funktion &amp;vorschlagen:</translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
+        <translation>S&amp;prache:</translation>
     </message>
 </context>
 <context>

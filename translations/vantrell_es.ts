@@ -4158,10 +4158,6 @@ Libre en el volumen de arranque: %2 (azul)</translation>
         <translation>Sistema</translation>
     </message>
     <message>
-        <source>Lan&amp;guage:</source>
-        <translation>I&amp;dioma:</translation>
-    </message>
-    <message>
         <source>Holds from the next start on. Reports, exported lists, logs and the command line are in English.</source>
         <translation>Se aplica a partir del próximo inicio. Los informes, las listas exportadas, los registros y la línea de comandos están en inglés.</translation>
     </message>
@@ -4228,6 +4224,10 @@ Libre en el volumen de arranque: %2 (azul)</translation>
     <message>
         <source>Suggest a &amp;feature:</source>
         <translation>Sugerir una &amp;función:</translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
+        <translation>&amp;Idioma:</translation>
     </message>
 </context>
 <context>

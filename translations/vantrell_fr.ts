@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Undo %1</source>
-        <translation>Annuler « %1 »</translation>
+        <translation>Annuler «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Take the selected effects off the list; the project keeps them</source>
-        <translation>Retirer de la liste les effets sélectionnés ; le projet les conserve</translation>
+        <translation>Retirer de la liste les effets sélectionnés&#xa0;; le projet les conserve</translation>
     </message>
     <message>
         <source>Marker Overview</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>In the preview of notes: check or uncheck the selected rows</source>
-        <translation>Dans l’aperçu des notes : cocher ou décocher les lignes sélectionnées</translation>
+        <translation>Dans l’aperçu des notes&#xa0;: cocher ou décocher les lignes sélectionnées</translation>
     </message>
     <message>
         <source>Comparison</source>
@@ -538,7 +538,7 @@
     </message>
     <message>
         <source>%1: “%2” moves from %3 to %4.</source>
-        <translation>%1 : « %2 » passe de %3 à %4.</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» passe de %3 à %4.</translation>
     </message>
     <message>
         <source>This is not a whole number of frames.</source>
@@ -589,35 +589,35 @@
     </message>
     <message>
         <source>An internal error ended the loading; the log tells more.</source>
-        <translation>Une erreur interne a mis fin au chargement ; le journal en dit plus.</translation>
+        <translation>Une erreur interne a mis fin au chargement&#xa0;; le journal en dit plus.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is damaged and was repaired while it was opened (%2).</source>
-        <translation>Le fichier « %1 » est endommagé et a été réparé à l’ouverture (%2).</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est endommagé et a été réparé à l’ouverture (%2).</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; was not read whole.</source>
-        <translation>Le fichier « %1 » n’a pas été lu en entier.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas été lu en entier.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is no editing project: %2. Nothing in it can be shown.</source>
-        <translation>Le fichier « %1 » n’est pas un projet de montage : %2. Rien de son contenu ne peut être affiché.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas un projet de montage&#xa0;: %2. Rien de son contenu ne peut être affiché.</translation>
     </message>
     <message>
         <source>its element &quot;%1&quot; is in the namespace &quot;%2&quot;, while those of a project are in none</source>
-        <translation>son élément « %1 » est dans l’espace de noms « %2 », ceux d’un projet ne sont dans aucun</translation>
+        <translation>son élément «&#xa0;%1&#xa0;» est dans l’espace de noms «&#xa0;%2&#xa0;», ceux d’un projet ne sont dans aucun</translation>
     </message>
     <message>
         <source>its root element &quot;%1&quot; is in the namespace &quot;%2&quot;, while those of a project are in none</source>
-        <translation>son élément racine « %1 » est dans l’espace de noms « %2 », ceux d’un projet ne sont dans aucun</translation>
+        <translation>son élément racine «&#xa0;%1&#xa0;» est dans l’espace de noms «&#xa0;%2&#xa0;», ceux d’un projet ne sont dans aucun</translation>
     </message>
     <message>
         <source>its root element is &quot;%1&quot; instead of &quot;xmeml&quot;</source>
-        <translation>son élément racine est « %1 » au lieu de « xmeml »</translation>
+        <translation>son élément racine est «&#xa0;%1&#xa0;» au lieu de «&#xa0;xmeml&#xa0;»</translation>
     </message>
     <message>
         <source>Not all that the project holds could be listed; the log tells why.</source>
-        <translation>Tout le contenu du projet n’a pas pu être listé ; le journal en donne la raison.</translation>
+        <translation>Tout le contenu du projet n’a pas pu être listé&#xa0;; le journal en donne la raison.</translation>
     </message>
     <message>
         <source>The project could not be written.</source>
@@ -661,47 +661,47 @@
     </message>
     <message>
         <source>Saving replaces the damaged file with the repaired project. Do you want to save it?</source>
-        <translation>L’enregistrement remplace le fichier endommagé par le projet réparé. Voulez-vous l’enregistrer ?</translation>
+        <translation>L’enregistrement remplace le fichier endommagé par le projet réparé. Voulez-vous l’enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; was changed by another program since it was opened</source>
-        <translation>Le fichier « %1 » a été modifié par un autre programme depuis son ouverture</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» a été modifié par un autre programme depuis son ouverture</translation>
     </message>
     <message>
         <source>Overwriting the file loses what the other program saved. Do you want to overwrite it?</source>
-        <translation>Si vous écrasez le fichier, ce que l’autre programme a enregistré sera perdu. Voulez-vous l’écraser ?</translation>
+        <translation>Si vous écrasez le fichier, ce que l’autre programme a enregistré sera perdu. Voulez-vous l’écraser&#xa0;?</translation>
     </message>
     <message>
         <source>Content is missing: %1, and %2 left out behind that.</source>
-        <translation>Du contenu manque : %1, et au-delà %2.</translation>
+        <translation>Du contenu manque&#xa0;: %1, et au-delà %2.</translation>
     </message>
     <message>
         <source>Content is missing: %1 in a comment or instruction that does not end where it should.</source>
-        <translation>Du contenu manque : %1 dans un commentaire ou une instruction qui ne se termine pas où il faut.</translation>
+        <translation>Du contenu manque&#xa0;: %1 dans un commentaire ou une instruction qui ne se termine pas où il faut.</translation>
     </message>
     <message>
         <source>Content is missing from its place: the tags do not match, so elements near or behind line %1 may be outside of those that they belong to.</source>
-        <translation>Du contenu n’est pas à sa place : les balises ne correspondent pas, et des éléments près de la ligne %1 ou au-delà peuvent être hors de ceux auxquels ils appartiennent.</translation>
+        <translation>Du contenu n’est pas à sa place&#xa0;: les balises ne correspondent pas, et des éléments près de la ligne %1 ou au-delà peuvent être hors de ceux auxquels ils appartiennent.</translation>
     </message>
     <message>
         <source>Content is missing: &quot;&amp;&quot; or &quot;&lt;&quot; is no reference or tag in %1, the first on line %2.</source>
-        <translation>Du contenu manque : « &amp; » ou « &lt; » n’est ni une référence ni une balise à %1, d’abord à la ligne %2.</translation>
+        <translation>Du contenu manque&#xa0;: «&#xa0;&amp;&#xa0;» ou «&#xa0;&lt;&#xa0;» n’est ni une référence ni une balise à %1, d’abord à la ligne %2.</translation>
     </message>
     <message>
         <source>Content is missing: %1, and what follows is no part of the project.</source>
-        <translation>Du contenu manque : %1, et ce qui suit ne fait pas partie du projet.</translation>
+        <translation>Du contenu manque&#xa0;: %1, et ce qui suit ne fait pas partie du projet.</translation>
     </message>
     <message>
         <source>Content is missing: the entities that the document type declares are not kept.</source>
-        <translation>Du contenu manque : les entités que déclare le type de document ne sont pas conservées.</translation>
+        <translation>Du contenu manque&#xa0;: les entités que déclare le type de document ne sont pas conservées.</translation>
     </message>
     <message>
         <source>Content is missing: %1, but the file ends in the middle of an element.</source>
-        <translation>Du contenu manque : %1, mais le fichier se termine au milieu d’un élément.</translation>
+        <translation>Du contenu manque&#xa0;: %1, mais le fichier se termine au milieu d’un élément.</translation>
     </message>
     <message>
         <source>Content is missing: %1.</source>
-        <translation>Du contenu manque : %1.</translation>
+        <translation>Du contenu manque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>all %1 bytes could be read</source>
@@ -737,27 +737,27 @@
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be opened as a project: %2</source>
-        <translation>Le fichier « %1 » ne peut pas être ouvert comme projet : %2</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être ouvert comme projet&#xa0;: %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; does not exist.</source>
-        <translation>Le fichier « %1 » n’existe pas.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2.</source>
-        <translation>Impossible d’ouvrir le fichier « %1 » : %2.</translation>
+        <translation>Impossible d’ouvrir le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be read: %2.</source>
-        <translation>Impossible de lire le fichier « %1 » : %2.</translation>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, not a project file.</source>
-        <translation>« %1 » est un dossier, pas un fichier de projet.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, pas un fichier de projet.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is empty.</source>
-        <translation>Le fichier « %1 » est vide.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est vide.</translation>
     </message>
     <message>
         <source>there is not enough memory to read it.</source>
@@ -809,19 +809,19 @@
     </message>
     <message>
         <source>The file &quot;%1&quot; could not be written: %2.</source>
-        <translation>Impossible d’écrire le fichier « %1 » : %2.</translation>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; could not be read: %2.</source>
-        <translation>Impossible de lire le fichier « %1 » : %2.</translation>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; could not be read. %2</source>
-        <translation>Impossible de lire le fichier « %1 ». %2</translation>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;». %2</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be made.</source>
-        <translation>Impossible de créer le dossier « %1 ».</translation>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Writing was cancelled.</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>The property list is damaged: %1.</source>
-        <translation>La liste de propriétés est endommagée : %1.</translation>
+        <translation>La liste de propriétés est endommagée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The property list could not be written.</source>
@@ -841,11 +841,11 @@
     </message>
     <message>
         <source>%1 could not be started: %2</source>
-        <translation>Impossible de lancer %1 : %2</translation>
+        <translation>Impossible de lancer %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 could not be started: too many open files</source>
-        <translation>Impossible de lancer %1 : trop de fichiers ouverts</translation>
+        <translation>Impossible de lancer %1&#xa0;: trop de fichiers ouverts</translation>
     </message>
     <message>
         <source>%1 was given up.</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>A temporary file could not be written: %1.</source>
-        <translation>Impossible d’écrire un fichier temporaire : %1.</translation>
+        <translation>Impossible d’écrire un fichier temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No such file or directory</source>
@@ -961,15 +961,15 @@
     </message>
     <message>
         <source>An internal error occurred; the log tells more.</source>
-        <translation>Une erreur interne s’est produite ; le journal en dit plus.</translation>
+        <translation>Une erreur interne s’est produite&#xa0;; le journal en dit plus.</translation>
     </message>
     <message>
         <source>Are you sure you wish to remove this marker?</source>
-        <translation>Voulez-vous vraiment supprimer ce marqueur ?</translation>
+        <translation>Voulez-vous vraiment supprimer ce marqueur&#xa0;?</translation>
     </message>
     <message>
         <source>Are you sure you wish to remove these markers?</source>
-        <translation>Voulez-vous vraiment supprimer ces marqueurs ?</translation>
+        <translation>Voulez-vous vraiment supprimer ces marqueurs&#xa0;?</translation>
     </message>
     <message>
         <source>The name or comment holds XML markup.</source>
@@ -977,11 +977,11 @@
     </message>
     <message>
         <source>The title &quot;%1&quot; would give the identifier %2, which the field &quot;%3&quot; has.</source>
-        <translation>Le titre « %1 » donnerait l’identifiant %2, qui est celui du champ « %3 ».</translation>
+        <translation>Le titre «&#xa0;%1&#xa0;» donnerait l’identifiant %2, qui est celui du champ «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>The field &quot;%1&quot; has the identifier %2 already.</source>
-        <translation>Le champ « %1 » a déjà l’identifiant %2.</translation>
+        <translation>Le champ «&#xa0;%1&#xa0;» a déjà l’identifiant %2.</translation>
     </message>
     <message>
         <source>%1 of %2 markers is listed under another sequence or clip than their own.</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>The name &quot;%1&quot; contains a slash, which separates folders.</source>
-        <translation>Le nom « %1 » contient une barre oblique, qui sépare les dossiers.</translation>
+        <translation>Le nom «&#xa0;%1&#xa0;» contient une barre oblique, qui sépare les dossiers.</translation>
     </message>
     <message>
         <source>The name contains a character that the name of a file cannot contain.</source>
@@ -1029,15 +1029,15 @@
     </message>
     <message>
         <source>There is a preset named &quot;%1&quot; already.</source>
-        <translation>Il existe déjà un préréglage nommé « %1 ».</translation>
+        <translation>Il existe déjà un préréglage nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be renamed: %2.</source>
-        <translation>Impossible de renommer « %1 » : %2.</translation>
+        <translation>Impossible de renommer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot;?</source>
-        <translation>Supprimer le préréglage « %1 » ?</translation>
+        <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Its labels will be lost. Markers keep their colors.</source>
@@ -1049,7 +1049,7 @@
     </message>
     <message>
         <source>Would you like to overwrite it?</source>
-        <translation>Voulez-vous l’écraser ?</translation>
+        <translation>Voulez-vous l’écraser&#xa0;?</translation>
     </message>
     <message>
         <source>Unable to remove effect</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Are you sure you wish to remove this effect?</source>
-        <translation>Voulez-vous vraiment supprimer cet effet ?</translation>
+        <translation>Voulez-vous vraiment supprimer cet effet&#xa0;?</translation>
     </message>
     <message>
         <source>Are you sure you wish to remove these effects?</source>
-        <translation>Voulez-vous vraiment supprimer ces effets ?</translation>
+        <translation>Voulez-vous vraiment supprimer ces effets&#xa0;?</translation>
     </message>
     <message>
         <source>%1 item</source>
@@ -1081,43 +1081,43 @@
     </message>
     <message>
         <source>Total size: %1</source>
-        <translation>Taille totale : %1</translation>
+        <translation>Taille totale&#xa0;: %1</translation>
     </message>
     <message>
         <source>Total number of files: %1</source>
-        <translation>Nombre total de fichiers : %1</translation>
+        <translation>Nombre total de fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Total size of filtered media: %1</source>
-        <translation>Taille totale des médias filtrés : %1</translation>
+        <translation>Taille totale des médias filtrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Number of filtered media files: %1</source>
-        <translation>Nombre de médias filtrés : %1</translation>
+        <translation>Nombre de médias filtrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Largest file: Unknown</source>
-        <translation>Plus gros fichier : inconnu</translation>
+        <translation>Plus gros fichier&#xa0;: inconnu</translation>
     </message>
     <message>
         <source>Smallest file: Unknown</source>
-        <translation>Plus petit fichier : inconnu</translation>
+        <translation>Plus petit fichier&#xa0;: inconnu</translation>
     </message>
     <message>
         <source>Largest file: %1 (%2)</source>
-        <translation>Plus gros fichier : %1 (%2)</translation>
+        <translation>Plus gros fichier&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Smallest file: %1 (%2)</source>
-        <translation>Plus petit fichier : %1 (%2)</translation>
+        <translation>Plus petit fichier&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>“%1” is on a volume that does not answer. Check its connection</source>
-        <translation>« %1 » se trouve sur un volume qui ne répond pas. Vérifiez sa connexion</translation>
+        <translation>«&#xa0;%1&#xa0;» se trouve sur un volume qui ne répond pas. Vérifiez sa connexion</translation>
     </message>
     <message>
         <source>“%1” is missing from “%2”. Media ▸ Relink… finds it in other folders</source>
-        <translation>« %1 » manque dans « %2 ». Médias ▸ Relier… le retrouve dans d’autres dossiers</translation>
+        <translation>«&#xa0;%1&#xa0;» manque dans «&#xa0;%2&#xa0;». Médias ▸ Relier… le retrouve dans d’autres dossiers</translation>
     </message>
     <message>
         <source>No file is selected. Click its row first</source>
@@ -1141,11 +1141,11 @@
     </message>
     <message>
         <source>The name &quot;%1&quot; cannot stand in an XML file.</source>
-        <translation>Le nom « %1 » ne peut pas figurer dans un fichier XML.</translation>
+        <translation>Le nom «&#xa0;%1&#xa0;» ne peut pas figurer dans un fichier XML.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is no media hash list.</source>
-        <translation>Le fichier « %1 » n’est pas une liste d’empreintes de médias.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas une liste d’empreintes de médias.</translation>
     </message>
     <message>
         <source>%1 of %2, %3 files read</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>1 row holds a tab or a line break; other systems will not be able to read it</source>
-        <translation>1 ligne contient une tabulation ou un saut de ligne ; d’autres systèmes ne pourront pas la lire</translation>
+        <translation>1 ligne contient une tabulation ou un saut de ligne&#xa0;; d’autres systèmes ne pourront pas la lire</translation>
     </message>
     <message>
         <source>%1 rows hold a tab or a line break; other systems will not be able to read them</source>
-        <translation>%1 lignes contiennent une tabulation ou un saut de ligne ; d’autres systèmes ne pourront pas les lire</translation>
+        <translation>%1 lignes contiennent une tabulation ou un saut de ligne&#xa0;; d’autres systèmes ne pourront pas les lire</translation>
     </message>
     <message>
         <source>No markers to import</source>
@@ -1189,19 +1189,19 @@
     </message>
     <message>
         <source>line %1, “%2”: %3</source>
-        <translation>ligne %1, « %2 » : %3</translation>
+        <translation>ligne %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
         <source>marker %1, “%2”: %3</source>
-        <translation>marqueur %1, « %2 » : %3</translation>
+        <translation>marqueur %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1, line %2, “%3”: %4</source>
-        <translation>%1, ligne %2, « %3 » : %4</translation>
+        <translation>%1, ligne %2, «&#xa0;%3&#xa0;»&#xa0;: %4</translation>
     </message>
     <message>
         <source>%1, marker %2, “%3”: %4</source>
-        <translation>%1, marqueur %2, « %3 » : %4</translation>
+        <translation>%1, marqueur %2, «&#xa0;%3&#xa0;»&#xa0;: %4</translation>
     </message>
     <message>
         <source>… and %1 more</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>The JSON is damaged: %1.</source>
-        <translation>Le JSON est endommagé : %1.</translation>
+        <translation>Le JSON est endommagé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There is no time.</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>“%1” is no time.</source>
-        <translation>« %1 » n’est pas un temps.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un temps.</translation>
     </message>
     <message>
         <source>There are %1 fields instead of five to eight.</source>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>%1 frames a second have no “%2”.</source>
-        <translation>« %2 » n’existe pas à %1 images par seconde.</translation>
+        <translation>«&#xa0;%2&#xa0;» n’existe pas à %1 images par seconde.</translation>
     </message>
     <message>
         <source>A bar was replaced by a slash in %1.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Critical error: unable to load FCP project loader dialog.</source>
-        <translation>Erreur critique : impossible de charger la fenêtre d’ouverture des projets FCP.</translation>
+        <translation>Erreur critique&#xa0;: impossible de charger la fenêtre d’ouverture des projets FCP.</translation>
     </message>
     <message>
         <source>You must reinstall the application.</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Error: unable to load About dialog.</source>
-        <translation>Erreur : impossible de charger la fenêtre À propos.</translation>
+        <translation>Erreur&#xa0;: impossible de charger la fenêtre À propos.</translation>
     </message>
     <message>
         <source>Please report this error to Orvandel.</source>
@@ -1377,7 +1377,7 @@
     </message>
     <message>
         <source>A PDF needs the package &quot;vantrell-print&quot;, which is not installed.</source>
-        <translation>Un PDF nécessite le paquet « vantrell-print », qui n’est pas installé.</translation>
+        <translation>Un PDF nécessite le paquet «&#xa0;vantrell-print&#xa0;», qui n’est pas installé.</translation>
     </message>
     <message>
         <source>The PDF could not be made.</source>
@@ -1385,11 +1385,11 @@
     </message>
     <message>
         <source>The PDF could not be written: %1.</source>
-        <translation>Impossible d’écrire le PDF : %1.</translation>
+        <translation>Impossible d’écrire le PDF&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The pages could not be put together: %1.</source>
-        <translation>Impossible d’assembler les pages : %1.</translation>
+        <translation>Impossible d’assembler les pages&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The report could not be loaded.</source>
@@ -1408,11 +1408,11 @@
     <name>PrintPlugin</name>
     <message>
         <source>Printing needs the package “vantrell-print”, which is not installed.</source>
-        <translation>L’impression nécessite le paquet « vantrell-print », qui n’est pas installé.</translation>
+        <translation>L’impression nécessite le paquet «&#xa0;vantrell-print&#xa0;», qui n’est pas installé.</translation>
     </message>
     <message>
         <source>The package “vantrell-print” does not fit this program: %1</source>
-        <translation>Le paquet « vantrell-print » ne convient pas à ce programme : %1</translation>
+        <translation>Le paquet «&#xa0;vantrell-print&#xa0;» ne convient pas à ce programme&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1467,27 +1467,27 @@
     </message>
     <message>
         <source>Digits are missing between two separators; points count as zeros only at the end.</source>
-        <translation>Il manque des chiffres entre deux séparateurs ; les points ne valent des zéros qu’à la fin.</translation>
+        <translation>Il manque des chiffres entre deux séparateurs&#xa0;; les points ne valent des zéros qu’à la fin.</translation>
     </message>
     <message>
         <source>A digit is missing: fields after a colon need two.</source>
-        <translation>Il manque un chiffre : les champs après un deux-points en demandent deux.</translation>
+        <translation>Il manque un chiffre&#xa0;: les champs après un deux-points en demandent deux.</translation>
     </message>
     <message>
         <source>There are too many digits; only the last eight count.</source>
-        <translation>Il y a trop de chiffres ; seuls les huit derniers comptent.</translation>
+        <translation>Il y a trop de chiffres&#xa0;; seuls les huit derniers comptent.</translation>
     </message>
     <message>
         <source>Digits are missing: hours, minutes, seconds and frames are needed.</source>
-        <translation>Il manque des chiffres : heures, minutes, secondes et images sont nécessaires.</translation>
+        <translation>Il manque des chiffres&#xa0;: heures, minutes, secondes et images sont nécessaires.</translation>
     </message>
     <message>
         <source>There are too many fields; only the first four count.</source>
-        <translation>Il y a trop de champs ; seuls les quatre premiers comptent.</translation>
+        <translation>Il y a trop de champs&#xa0;; seuls les quatre premiers comptent.</translation>
     </message>
     <message>
         <source>A digit is missing: each field needs two.</source>
-        <translation>Il manque un chiffre : chaque champ en demande deux.</translation>
+        <translation>Il manque un chiffre&#xa0;: chaque champ en demande deux.</translation>
     </message>
     <message>
         <source>There are no more than 23 hours.</source>
@@ -1595,11 +1595,11 @@
     <name>UserManual</name>
     <message>
         <source>The user manual is not installed: there is no file “%1”</source>
-        <translation>Le manuel de l’utilisateur n’est pas installé : le fichier « %1 » n’existe pas</translation>
+        <translation>Le manuel de l’utilisateur n’est pas installé&#xa0;: le fichier «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
         <source>There is no program that could show the manual “%1”</source>
-        <translation>Aucun programme ne peut afficher le manuel « %1 »</translation>
+        <translation>Aucun programme ne peut afficher le manuel «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1797,7 +1797,7 @@
     <name>WebEngine</name>
     <message>
         <source>This system keeps the web engine from locking up what it shows (it allows no user name spaces), so nothing is printed.</source>
-        <translation>Ce système empêche le moteur web d’isoler ce qu’il affiche (il n’autorise pas les espaces de noms utilisateur) ; rien n’est donc imprimé.</translation>
+        <translation>Ce système empêche le moteur web d’isoler ce qu’il affiche (il n’autorise pas les espaces de noms utilisateur)&#xa0;; rien n’est donc imprimé.</translation>
     </message>
 </context>
 <context>
@@ -1808,7 +1808,7 @@
     </message>
     <message>
         <source>“%1” is no web address. Edit ▸ Preferences… has the address of each help page.</source>
-        <translation>« %1 » n’est pas une adresse web. Édition ▸ Préférences… contient l’adresse de chaque page d’aide.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse web. Édition ▸ Préférences… contient l’adresse de chaque page d’aide.</translation>
     </message>
     <message>
         <source>The page cannot be shown</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message>
         <source>There is no browser to show it with: %1</source>
-        <translation>Aucun navigateur ne peut l’afficher : %1</translation>
+        <translation>Aucun navigateur ne peut l’afficher&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1850,11 +1850,11 @@
     </message>
     <message>
         <source>The sample project could not be copied: %1</source>
-        <translation>Impossible de copier le projet d’exemple : %1</translation>
+        <translation>Impossible de copier le projet d’exemple&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>Impossible d’ouvrir « %1 ».</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Choose a folder for the logs</source>
@@ -1904,7 +1904,7 @@
     </message>
     <message>
         <source>Its picture is gone. Tick it, or enter a timecode under “New”, to add it nevertheless.</source>
-        <translation>Son image a disparu. Cochez-le, ou saisissez un timecode sous « Nouveau », pour l’ajouter quand même.</translation>
+        <translation>Son image a disparu. Cochez-le, ou saisissez un timecode sous «&#xa0;Nouveau&#xa0;», pour l’ajouter quand même.</translation>
     </message>
     <message>
         <source>Marker</source>
@@ -1931,11 +1931,11 @@
     <name>vantrell::ChangeTableModel</name>
     <message>
         <source>Old: %1, %2 to %3</source>
-        <translation>Ancien : %1, de %2 à %3</translation>
+        <translation>Ancien&#xa0;: %1, de %2 à %3</translation>
     </message>
     <message>
         <source>New: %1, %2 to %3</source>
-        <translation>Nouveau : %1, de %2 à %3</translation>
+        <translation>Nouveau&#xa0;: %1, de %2 à %3</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1970,11 +1970,11 @@
     <name>vantrell::ChangedFileSheet</name>
     <message>
         <source>“%1” was changed by another program.</source>
-        <translation>« %1 » a été modifié par un autre programme.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été modifié par un autre programme.</translation>
     </message>
     <message>
         <source>Someone else has saved it since you opened it. If you overwrite it, those changes are lost; if you reload it, yours are.</source>
-        <translation>Quelqu’un d’autre l’a enregistré depuis que vous l’avez ouvert. Si vous l’écrasez, ces modifications seront perdues ; si vous le rechargez, ce sont les vôtres qui le seront.</translation>
+        <translation>Quelqu’un d’autre l’a enregistré depuis que vous l’avez ouvert. Si vous l’écrasez, ces modifications seront perdues&#xa0;; si vous le rechargez, ce sont les vôtres qui le seront.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>An &amp;open project:</source>
-        <translation>Un projet &amp;ouvert :</translation>
+        <translation>Un projet &amp;ouvert&#xa0;:</translation>
     </message>
     <message>
         <source>Another sequence of &amp;this project</source>
@@ -2013,7 +2013,7 @@
     </message>
     <message>
         <source>Compare this project with:</source>
-        <translation>Comparer ce projet avec :</translation>
+        <translation>Comparer ce projet avec&#xa0;:</translation>
     </message>
     <message>
         <source>Open project</source>
@@ -2032,11 +2032,11 @@
     <name>vantrell::CompareWindow</name>
     <message>
         <source>Compare Sequences of “%1”</source>
-        <translation>Comparer des séquences de « %1 »</translation>
+        <translation>Comparer des séquences de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Compare “%1” with “%2”</source>
-        <translation>Comparer « %1 » avec « %2 »</translation>
+        <translation>Comparer «&#xa0;%1&#xa0;» avec «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Old sequence</source>
@@ -2132,19 +2132,19 @@
     </message>
     <message>
         <source>Old cut:</source>
-        <translation>Ancien montage :</translation>
+        <translation>Ancien montage&#xa0;:</translation>
     </message>
     <message>
         <source>Old cut, in “%1”:</source>
-        <translation>Ancien montage, dans « %1 » :</translation>
+        <translation>Ancien montage, dans «&#xa0;%1&#xa0;»&#xa0;:</translation>
     </message>
     <message>
         <source>New cut:</source>
-        <translation>Nouveau montage :</translation>
+        <translation>Nouveau montage&#xa0;:</translation>
     </message>
     <message>
         <source>New cut, in “%1”:</source>
-        <translation>Nouveau montage, dans « %1 » :</translation>
+        <translation>Nouveau montage, dans «&#xa0;%1&#xa0;»&#xa0;:</translation>
     </message>
     <message>
         <source>The cuts were not compared.</source>
@@ -2156,7 +2156,7 @@
     </message>
     <message>
         <source>“%1” was closed or loaded again. To add markers or compare again, choose Compare with… once more.</source>
-        <translation>« %1 » a été fermé ou rechargé. Pour ajouter des marqueurs ou refaire la comparaison, choisissez Comparer avec… à nouveau.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été fermé ou rechargé. Pour ajouter des marqueurs ou refaire la comparaison, choisissez Comparer avec… à nouveau.</translation>
     </message>
     <message>
         <source>1 marker added</source>
@@ -2180,7 +2180,7 @@
     </message>
     <message>
         <source>Markers of the old cut: %1 carried, %2 nearest, %3 gone, %4 there; %5 ticked</source>
-        <translation>Marqueurs de l’ancien montage : %1 reportés, %2 approchés, %3 disparus, %4 présents ; %5 cochés</translation>
+        <translation>Marqueurs de l’ancien montage&#xa0;: %1 reportés, %2 approchés, %3 disparus, %4 présents&#xa0;; %5 cochés</translation>
     </message>
     <message>
         <source>The old cut has no markers.</source>
@@ -2188,7 +2188,7 @@
     </message>
     <message>
         <source>Markers are added to the new cut, which is in “%1”. Swap the cuts if it is the old one, or open it and compare it with this project.</source>
-        <translation>Les marqueurs sont ajoutés au nouveau montage, qui se trouve dans « %1 ». Permutez les montages si c’est l’ancien, ou ouvrez-le et comparez-le avec ce projet.</translation>
+        <translation>Les marqueurs sont ajoutés au nouveau montage, qui se trouve dans «&#xa0;%1&#xa0;». Permutez les montages si c’est l’ancien, ou ouvrez-le et comparez-le avec ce projet.</translation>
     </message>
     <message>
         <source>CSV files</source>
@@ -2212,11 +2212,11 @@
     </message>
     <message>
         <source>Changes exported to “%1”</source>
-        <translation>Modifications exportées dans « %1 »</translation>
+        <translation>Modifications exportées dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The changes could not be exported to “%1”.</source>
-        <translation>Impossible d’exporter les modifications dans « %1 ».</translation>
+        <translation>Impossible d’exporter les modifications dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -2261,7 +2261,7 @@
     </message>
     <message>
         <source>“%1” cannot be shown as it was.</source>
-        <translation>Impossible d’afficher « %1 » tel qu’il était.</translation>
+        <translation>Impossible d’afficher «&#xa0;%1&#xa0;» tel qu’il était.</translation>
     </message>
     <message>
         <source>The file is open in another window. Close that window first.</source>
@@ -2281,11 +2281,11 @@
     </message>
     <message>
         <source>%1 of %2 unsaved changes were restored; the project was changed where the others belong.</source>
-        <translation>Modifications non enregistrées restaurées : %1 sur %2 ; le projet a été modifié à l’endroit des autres.</translation>
+        <translation>Modifications non enregistrées restaurées&#xa0;: %1 sur %2&#xa0;; le projet a été modifié à l’endroit des autres.</translation>
     </message>
     <message>
         <source>Restored in part: %1.</source>
-        <translation>Restaurées en partie : %1.</translation>
+        <translation>Restaurées en partie&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The file is as it was until you save.</source>
@@ -2293,7 +2293,7 @@
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>Impossible d’ouvrir « %1 ».</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Project files are read by way of Final Cut Pro 7, which gave no project. An XML export of it opens without.</source>
@@ -2418,7 +2418,7 @@
     </message>
     <message>
         <source>Looking for effects: %1 so far…</source>
-        <translation>Recherche des effets : %1 jusqu’ici…</translation>
+        <translation>Recherche des effets&#xa0;: %1 jusqu’ici…</translation>
     </message>
     <message>
         <source>No effect is of this type.</source>
@@ -2426,7 +2426,7 @@
     </message>
     <message>
         <source>No effect of this type has a name with “%1”.</source>
-        <translation>Aucun effet de ce type n’a un nom contenant « %1 ».</translation>
+        <translation>Aucun effet de ce type n’a un nom contenant «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>This project has no effects.</source>
@@ -2449,11 +2449,11 @@
     </message>
     <message>
         <source>One path a line, for rsync --files-from with the source “/”. Missing files are left out.</source>
-        <translation>Un chemin par ligne, pour rsync --files-from avec la source « / ». Les fichiers manquants sont omis.</translation>
+        <translation>Un chemin par ligne, pour rsync --files-from avec la source «&#xa0;/&#xa0;». Les fichiers manquants sont omis.</translation>
     </message>
     <message>
         <source>Paths that a NUL ends, for rsync --from0 --files-from with the source “/”. Missing files are left out.</source>
-        <translation>Des chemins terminés par NUL, pour rsync --from0 --files-from avec la source « / ». Les fichiers manquants sont omis.</translation>
+        <translation>Des chemins terminés par NUL, pour rsync --from0 --files-from avec la source «&#xa0;/&#xa0;». Les fichiers manquants sont omis.</translation>
     </message>
     <message>
         <source>Media hash lists</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>Every file is read, which takes as long as copying it. A list that was cancelled goes on where it stopped when it is exported to the same file again. Files in the list’s folder are listed relative to it: keep it beside the media. Missing files are left out.</source>
-        <translation>Chaque fichier est lu, ce qui prend autant de temps que de le copier. Une liste annulée reprend où elle s’était arrêtée quand elle est exportée à nouveau dans le même fichier. Les fichiers situés dans le dossier de la liste y figurent par rapport à celui-ci : conservez-la à côté des médias. Les fichiers manquants sont omis.</translation>
+        <translation>Chaque fichier est lu, ce qui prend autant de temps que de le copier. Une liste annulée reprend où elle s’était arrêtée quand elle est exportée à nouveau dans le même fichier. Les fichiers situés dans le dossier de la liste y figurent par rapport à celui-ci&#xa0;: conservez-la à côté des médias. Les fichiers manquants sont omis.</translation>
     </message>
     <message>
         <source>Export List</source>
@@ -2493,7 +2493,7 @@
     </message>
     <message>
         <source>Files used by “%1”</source>
-        <translation>Fichiers utilisés par « %1 »</translation>
+        <translation>Fichiers utilisés par «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&amp;Format</source>
@@ -2520,27 +2520,27 @@
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation>&amp;Format :</translation>
+        <translation>&amp;Format&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Markers:</source>
-        <translation>&amp;Marqueurs :</translation>
+        <translation>&amp;Marqueurs&#xa0;:</translation>
     </message>
     <message>
         <source>Co&amp;lor:</source>
-        <translation>Cou&amp;leur :</translation>
+        <translation>Cou&amp;leur&#xa0;:</translation>
     </message>
     <message>
         <source>Se&amp;quence:</source>
-        <translation>Sé&amp;quence :</translation>
+        <translation>Sé&amp;quence&#xa0;:</translation>
     </message>
     <message>
         <source>Fla&amp;g:</source>
-        <translation>Indi&amp;cateur :</translation>
+        <translation>Indi&amp;cateur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Containing:</source>
-        <translation>Contena&amp;nt :</translation>
+        <translation>Contena&amp;nt&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
@@ -2624,7 +2624,7 @@
     </message>
     <message>
         <source>Col&amp;umns, in the order of the list:</source>
-        <translation>Col&amp;onnes, dans l’ordre de la liste :</translation>
+        <translation>Col&amp;onnes, dans l’ordre de la liste&#xa0;:</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -2690,15 +2690,15 @@
     </message>
     <message>
         <source>Digits fill the timecode from the right; a full stop stands for two zeros</source>
-        <translation>Les chiffres remplissent le timecode depuis la droite ; un point remplace deux zéros</translation>
+        <translation>Les chiffres remplissent le timecode depuis la droite&#xa0;; un point remplace deux zéros</translation>
     </message>
     <message>
         <source>&amp;Timecode:</source>
-        <translation>&amp;Timecode :</translation>
+        <translation>&amp;Timecode&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Sequence:</source>
-        <translation>&amp;Séquence :</translation>
+        <translation>&amp;Séquence&#xa0;:</translation>
     </message>
     <message>
         <source>No sequence</source>
@@ -2714,11 +2714,11 @@
     </message>
     <message>
         <source>Nearest: a marker without a name at %1.</source>
-        <translation>Le plus proche : un marqueur sans nom à %1.</translation>
+        <translation>Le plus proche&#xa0;: un marqueur sans nom à %1.</translation>
     </message>
     <message>
         <source>Nearest: “%1” at %2.</source>
-        <translation>Le plus proche : « %1 » à %2.</translation>
+        <translation>Le plus proche&#xa0;: «&#xa0;%1&#xa0;» à %2.</translation>
     </message>
 </context>
 <context>
@@ -3063,27 +3063,27 @@
     </message>
     <message>
         <source>&amp;Sequence:</source>
-        <translation>&amp;Séquence :</translation>
+        <translation>&amp;Séquence&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Timecode:</source>
-        <translation>&amp;Timecode :</translation>
+        <translation>&amp;Timecode&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Duration:</source>
-        <translation>&amp;Durée :</translation>
+        <translation>&amp;Durée&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Co&amp;mment:</source>
-        <translation>Co&amp;mmentaire :</translation>
+        <translation>Co&amp;mmentaire&#xa0;:</translation>
     </message>
     <message>
         <source>C&amp;olor:</source>
-        <translation>C&amp;ouleur :</translation>
+        <translation>C&amp;ouleur&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -3133,7 +3133,7 @@
     </message>
     <message>
         <source>Move the in points of the selected markers &amp;by:</source>
-        <translation>Décaler les points d’entrée des marqueurs sélectionnés &amp;de :</translation>
+        <translation>Décaler les points d’entrée des marqueurs sélectionnés &amp;de&#xa0;:</translation>
     </message>
     <message>
         <source>Frames, such as 12 or -12, or a timecode, such as 00:00:01:00 or -1:00.</source>
@@ -3170,7 +3170,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>“%1” is hidden by the filter</source>
-        <translation>« %1 » est masqué par le filtre</translation>
+        <translation>«&#xa0;%1&#xa0;» est masqué par le filtre</translation>
     </message>
 </context>
 <context>
@@ -3193,7 +3193,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>Preset &amp;name:</source>
-        <translation>&amp;Nom du préréglage :</translation>
+        <translation>&amp;Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Labels of the colors</source>
@@ -3251,7 +3251,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>on the clip “%1”</source>
-        <translation>sur le clip « %1 »</translation>
+        <translation>sur le clip «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>outside the sequence</source>
@@ -3280,7 +3280,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     <name>vantrell::MarkerTableModel</name>
     <message>
         <source>%1; the duration is kept</source>
-        <translation>%1 ; la durée est conservée</translation>
+        <translation>%1&#xa0;; la durée est conservée</translation>
     </message>
 </context>
 <context>
@@ -3343,7 +3343,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>&amp;Preset:</source>
-        <translation>Préré&amp;glage :</translation>
+        <translation>Préré&amp;glage&#xa0;:</translation>
     </message>
     <message>
         <source>Marker preset</source>
@@ -3471,7 +3471,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>%1 (%2 selected)</source>
-        <translation>%1 (sélection : %2)</translation>
+        <translation>%1 (sélection&#xa0;: %2)</translation>
     </message>
     <message>
         <source>%1. %2.</source>
@@ -3483,7 +3483,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>Looking for markers: %1 so far…</source>
-        <translation>Recherche des marqueurs : %1 jusqu’ici…</translation>
+        <translation>Recherche des marqueurs&#xa0;: %1 jusqu’ici…</translation>
     </message>
     <message>
         <source>This project has no markers yet.</source>
@@ -3635,8 +3635,8 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     <message>
         <source>Media on show: %1 (green)
 Free on the start-up volume: %2 (blue)</source>
-        <translation>Médias affichés : %1 (vert)
-Libre sur le volume de démarrage : %2 (bleu)</translation>
+        <translation>Médias affichés&#xa0;: %1 (vert)
+Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     </message>
     <message>
         <source>Looking for media…</source>
@@ -3644,7 +3644,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Looking for media: %1 so far…</source>
-        <translation>Recherche des médias : %1 jusqu’ici…</translation>
+        <translation>Recherche des médias&#xa0;: %1 jusqu’ici…</translation>
     </message>
     <message>
         <source>This project uses no media files.</source>
@@ -3690,7 +3690,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Color for “%1”</source>
-        <translation>Couleur pour « %1 »</translation>
+        <translation>Couleur pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -3749,7 +3749,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Role of the column “%1”</source>
-        <translation>Rôle de la colonne « %1 »</translation>
+        <translation>Rôle de la colonne «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -3832,23 +3832,23 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Recognized as %1</source>
-        <translation>Format reconnu : %1</translation>
+        <translation>Format reconnu&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” is no timecode</source>
-        <translation>« %1 » n’est pas un timecode</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un timecode</translation>
     </message>
     <message>
         <source>Outside the sequence: before its first frame</source>
-        <translation>Hors de la séquence : avant sa première image</translation>
+        <translation>Hors de la séquence&#xa0;: avant sa première image</translation>
     </message>
     <message>
         <source>Outside the sequence: after its last frame</source>
-        <translation>Hors de la séquence : après sa dernière image</translation>
+        <translation>Hors de la séquence&#xa0;: après sa dernière image</translation>
     </message>
     <message>
         <source>Already there; will be added again</source>
-        <translation>Déjà présente ; sera ajoutée à nouveau</translation>
+        <translation>Déjà présente&#xa0;; sera ajoutée à nouveau</translation>
     </message>
     <message>
         <source>Already there</source>
@@ -3860,11 +3860,11 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>%1 of 1 note will be added</source>
-        <translation>Notes à ajouter : %1 sur 1</translation>
+        <translation>Notes à ajouter&#xa0;: %1 sur 1</translation>
     </message>
     <message>
         <source>%1 of %2 notes will be added</source>
-        <translation>Notes à ajouter : %1 sur %2</translation>
+        <translation>Notes à ajouter&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>1 is already there</source>
@@ -3954,7 +3954,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Import Notes from “%1”</source>
-        <translation>Importer des notes de « %1 »</translation>
+        <translation>Importer des notes de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Timecode</source>
@@ -3962,27 +3962,27 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>A timecode or its last digits; a point stands for two zeros: 100 or 1. is one second</source>
-        <translation>Un timecode ou ses derniers chiffres ; un point remplace deux zéros : 100 ou 1. vaut une seconde</translation>
+        <translation>Un timecode ou ses derniers chiffres&#xa0;; un point remplace deux zéros&#xa0;: 100 ou 1. vaut une seconde</translation>
     </message>
     <message>
         <source>Add &amp;to:</source>
-        <translation>Ajo&amp;uter à :</translation>
+        <translation>Ajo&amp;uter à&#xa0;:</translation>
     </message>
     <message>
         <source>Times &amp;are:</source>
-        <translation>Les temps &amp;sont :</translation>
+        <translation>Les temps &amp;sont&#xa0;:</translation>
     </message>
     <message>
         <source>Frame &amp;rate:</source>
-        <translation>&amp;Cadence :</translation>
+        <translation>&amp;Cadence&#xa0;:</translation>
     </message>
     <message>
         <source>Columns:</source>
-        <translation>Colonnes :</translation>
+        <translation>Colonnes&#xa0;:</translation>
     </message>
     <message>
         <source>Colors:</source>
-        <translation>Couleurs :</translation>
+        <translation>Couleurs&#xa0;:</translation>
     </message>
     <message>
         <source>Timecodes of the sequence</source>
@@ -4084,7 +4084,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>“%1” is no absolute path: it must begin with a slash.</source>
-        <translation>« %1 » n’est pas un chemin absolu : il doit commencer par une barre oblique.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un chemin absolu&#xa0;: il doit commencer par une barre oblique.</translation>
     </message>
 </context>
 <context>
@@ -4119,7 +4119,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Start-up:</source>
-        <translation>Démarrage :</translation>
+        <translation>Démarrage&#xa0;:</translation>
     </message>
     <message>
         <source>Show the &amp;open dialog</source>
@@ -4131,7 +4131,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Markers:</source>
-        <translation>Marqueurs :</translation>
+        <translation>Marqueurs&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;List each marker under its own sequence and clip</source>
@@ -4143,7 +4143,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Unsaved changes:</source>
-        <translation>Modifications non enregistrées :</translation>
+        <translation>Modifications non enregistrées&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Keep them in a journal</source>
@@ -4158,10 +4158,6 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
         <translation>Système</translation>
     </message>
     <message>
-        <source>Lan&amp;guage:</source>
-        <translation>Lan&amp;gue :</translation>
-    </message>
-    <message>
         <source>Holds from the next start on. Reports, exported lists, logs and the command line are in English.</source>
         <translation>Prend effet au prochain démarrage. Rapports, listes exportées, journaux et ligne de commande sont en anglais.</translation>
     </message>
@@ -4171,11 +4167,11 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation>Police :</translation>
+        <translation>Police&#xa0;:</translation>
     </message>
     <message>
         <source>Fa&amp;mily:</source>
-        <translation>Fa&amp;mille :</translation>
+        <translation>Fa&amp;mille&#xa0;:</translation>
     </message>
     <message>
         <source> pt</source>
@@ -4183,23 +4179,23 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Si&amp;ze:</source>
-        <translation>Ta&amp;ille :</translation>
+        <translation>Ta&amp;ille&#xa0;:</translation>
     </message>
     <message>
         <source>As the system’s settings have it: %1</source>
-        <translation>Selon les réglages du système : %1</translation>
+        <translation>Selon les réglages du système&#xa0;: %1</translation>
     </message>
     <message>
         <source>Year, month, day: %1</source>
-        <translation>Année, mois, jour : %1</translation>
+        <translation>Année, mois, jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>Month by name: %1</source>
-        <translation>Mois en lettres : %1</translation>
+        <translation>Mois en lettres&#xa0;: %1</translation>
     </message>
     <message>
         <source>D&amp;ates:</source>
-        <translation>D&amp;ates :</translation>
+        <translation>D&amp;ates&#xa0;:</translation>
     </message>
     <message>
         <source>These are for the tables of all windows. Reports, exported lists and the command line stay as they are.</source>
@@ -4207,38 +4203,42 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>The addresses of the pages that the Help menu opens, for a site with pages of its own. An empty field stands for the standard address. The first %@ in an address becomes “halvex”, the second “vantrell”.</source>
-        <translation>Les adresses des pages qu’ouvre le menu Aide, pour un site qui a ses propres pages. Un champ vide correspond à l’adresse standard. Le premier %@ d’une adresse devient « halvex », le second « vantrell ».</translation>
+        <translation>Les adresses des pages qu’ouvre le menu Aide, pour un site qui a ses propres pages. Un champ vide correspond à l’adresse standard. Le premier %@ d’une adresse devient «&#xa0;halvex&#xa0;», le second «&#xa0;vantrell&#xa0;».</translation>
     </message>
     <message>
         <source>Halve&amp;x home page:</source>
-        <translation>Page d’accueil de &amp;Halvex :</translation>
+        <translation>Page d’accueil de &amp;Halvex&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Orvandel home page:</source>
-        <translation>Page d’accueil d’&amp;Orvandel :</translation>
+        <translation>Page d’accueil d’&amp;Orvandel&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Support:</source>
-        <translation>A&amp;ssistance :</translation>
+        <translation>A&amp;ssistance&#xa0;:</translation>
     </message>
     <message>
         <source>Report a &amp;bug:</source>
-        <translation>Signaler un &amp;bogue :</translation>
+        <translation>Signaler un &amp;bogue&#xa0;:</translation>
     </message>
     <message>
         <source>Suggest a &amp;feature:</source>
-        <translation>S&amp;uggérer une fonctionnalité :</translation>
+        <translation>S&amp;uggérer une fonctionnalité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
+        <translation>La&amp;ngue&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>vantrell::PrintOperation</name>
     <message>
         <source>The printing system cannot be reached; the package “cups-client” has its program “lp”. %1</source>
-        <translation>Le système d’impression est inaccessible ; son programme « lp » se trouve dans le paquet « cups-client ». %1</translation>
+        <translation>Le système d’impression est inaccessible&#xa0;; son programme «&#xa0;lp&#xa0;» se trouve dans le paquet «&#xa0;cups-client&#xa0;». %1</translation>
     </message>
     <message>
         <source>The printer “%1” did not take the report. %2</source>
-        <translation>L’imprimante « %1 » n’a pas accepté le rapport. %2</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas accepté le rapport. %2</translation>
     </message>
     <message>
         <source>Making the pages…</source>
@@ -4246,7 +4246,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Making the pages for “%1”…</source>
-        <translation>Création des pages pour « %1 »…</translation>
+        <translation>Création des pages pour «&#xa0;%1&#xa0;»…</translation>
     </message>
 </context>
 <context>
@@ -4342,7 +4342,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>&amp;Projects that are open in Final Cut Pro:</source>
-        <translation>&amp;Projets ouverts dans Final Cut Pro :</translation>
+        <translation>&amp;Projets ouverts dans Final Cut Pro&#xa0;:</translation>
     </message>
     <message>
         <source>Projects that are open in Final Cut Pro</source>
@@ -4377,7 +4377,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     <name>vantrell::QuitSequence</name>
     <message>
         <source>Do you want to save the changes made to %1 projects before quitting?</source>
-        <translation>Voulez-vous enregistrer les modifications apportées à %1 projets avant de quitter ?</translation>
+        <translation>Voulez-vous enregistrer les modifications apportées à %1 projets avant de quitter&#xa0;?</translation>
     </message>
     <message>
         <source>Save All</source>
@@ -4396,7 +4396,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     <name>vantrell::Recovery</name>
     <message>
         <source>The unsaved changes to “%1” could not be restored.</source>
-        <translation>Impossible de restaurer les modifications non enregistrées de « %1 ».</translation>
+        <translation>Impossible de restaurer les modifications non enregistrées de «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The project is in use. The changes are kept and offered again the next time.</source>
@@ -4479,11 +4479,11 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>Do you want to discard the unsaved changes to this project?</source>
-        <translation>Voulez-vous supprimer les modifications non enregistrées de ce projet ?</translation>
+        <translation>Voulez-vous supprimer les modifications non enregistrées de ce projet&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to discard the unsaved changes to %1 projects?</source>
-        <translation>Voulez-vous supprimer les modifications non enregistrées de %1 projets ?</translation>
+        <translation>Voulez-vous supprimer les modifications non enregistrées de %1 projets&#xa0;?</translation>
     </message>
     <message>
         <source>They cannot be restored after that.</source>
@@ -4538,7 +4538,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>&amp;Look in these folders, and all that is below them:</source>
-        <translation>Chercher &amp;dans ces dossiers et tout ce qu’ils contiennent :</translation>
+        <translation>Chercher &amp;dans ces dossiers et tout ce qu’ils contiennent&#xa0;:</translation>
     </message>
     <message>
         <source>Folders to look in</source>
@@ -4570,23 +4570,23 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>%1 folders, %2 files seen, %3 found…</source>
-        <translation>Dossiers : %1, fichiers parcourus : %2, trouvés : %3…</translation>
+        <translation>Dossiers&#xa0;: %1, fichiers parcourus&#xa0;: %2, trouvés&#xa0;: %3…</translation>
     </message>
     <message>
         <source>%1 of %2 missing files found</source>
-        <translation>Fichiers manquants trouvés : %1 sur %2</translation>
+        <translation>Fichiers manquants trouvés&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>, %1 of them several times: choose one of each</source>
-        <translation>, dont %1 plusieurs fois : choisissez-en un pour chacun</translation>
+        <translation>, dont %1 plusieurs fois&#xa0;: choisissez-en un pour chacun</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation>Impossible de lire « %1 ».</translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” does not answer.</source>
-        <translation>« %1 » ne répond pas.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne répond pas.</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
@@ -4598,7 +4598,7 @@ Libre sur le volume de démarrage : %2 (bleu)</translation>
     </message>
     <message>
         <source>All of them are found where “%1” is “%2”. A path mapping leaves the project as it is.</source>
-        <translation>Tous se trouvent là où « %1 » est « %2 ». Une correspondance de chemins laisse le projet inchangé.</translation>
+        <translation>Tous se trouvent là où «&#xa0;%1&#xa0;» est «&#xa0;%2&#xa0;». Une correspondance de chemins laisse le projet inchangé.</translation>
     </message>
 </context>
 <context>
@@ -4724,7 +4724,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Nothing was copied: no row is selected</source>
-        <translation>Rien n’a été copié : aucune ligne n’est sélectionnée</translation>
+        <translation>Rien n’a été copié&#xa0;: aucune ligne n’est sélectionnée</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -4742,7 +4742,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>%1 selected</source>
-        <translation>Sélection : %1</translation>
+        <translation>Sélection&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 so far</source>
@@ -4812,11 +4812,11 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>All files are as listed in “%1”.</source>
-        <translation>Tous les fichiers sont conformes à « %1 ».</translation>
+        <translation>Tous les fichiers sont conformes à «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Not all files are as listed in “%1”.</source>
-        <translation>Certains fichiers ne sont pas conformes à « %1 ».</translation>
+        <translation>Certains fichiers ne sont pas conformes à «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Verified files</source>
@@ -4847,15 +4847,15 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Opening “%1”…</source>
-        <translation>Ouverture de « %1 »…</translation>
+        <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>Impossible d’ouvrir « %1 ».</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The project “%1” is not ready.</source>
-        <translation>Le projet « %1 » n’est pas prêt.</translation>
+        <translation>Le projet «&#xa0;%1&#xa0;» n’est pas prêt.</translation>
     </message>
     <message>
         <source>Wait until it is loaded.</source>
@@ -4863,15 +4863,15 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>“%1” has no two sequences to compare.</source>
-        <translation>« %1 » n’a pas deux séquences à comparer.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas deux séquences à comparer.</translation>
     </message>
     <message>
         <source>“%1” has no sequence to compare.</source>
-        <translation>« %1 » n’a aucune séquence à comparer.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a aucune séquence à comparer.</translation>
     </message>
     <message>
         <source>“%1” is busy. Try again when that is done.</source>
-        <translation>« %1 » est occupé. Réessayez une fois l’opération terminée.</translation>
+        <translation>«&#xa0;%1&#xa0;» est occupé. Réessayez une fois l’opération terminée.</translation>
     </message>
     <message>
         <source>Comparing…</source>
@@ -4879,7 +4879,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>The cuts could not be compared; the log tells why.</source>
-        <translation>Impossible de comparer les montages ; le journal en donne la raison.</translation>
+        <translation>Impossible de comparer les montages&#xa0;; le journal en donne la raison.</translation>
     </message>
     <message>
         <source>The sequences have changed. Compare again first.</source>
@@ -4918,7 +4918,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Reading “%1”…</source>
-        <translation>Lecture de « %1 »…</translation>
+        <translation>Lecture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Reading %1 marker lists…</source>
@@ -4926,7 +4926,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>%1 of %2 markers imported</source>
-        <translation>Marqueurs importés : %1 sur %2</translation>
+        <translation>Marqueurs importés&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>%1 markers imported from %2 files</source>
@@ -4934,23 +4934,23 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>1 marker imported from “%1”</source>
-        <translation>1 marqueur importé de « %1 »</translation>
+        <translation>1 marqueur importé de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 markers imported from “%2”</source>
-        <translation>%1 marqueurs importés de « %2 »</translation>
+        <translation>%1 marqueurs importés de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation>Écriture de « %1 »…</translation>
+        <translation>Écriture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>1 marker exported to “%1”</source>
-        <translation>1 marqueur exporté dans « %1 »</translation>
+        <translation>1 marqueur exporté dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 markers exported to “%2”</source>
-        <translation>%1 marqueurs exportés dans « %2 »</translation>
+        <translation>%1 marqueurs exportés dans «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -4973,35 +4973,35 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>; 1 is still missing</source>
-        <translation> ; 1 est encore manquant</translation>
+        <translation>&#xa0;; 1 est encore manquant</translation>
     </message>
     <message>
         <source>; %1 are still missing</source>
-        <translation> ; %1 sont encore manquants</translation>
+        <translation>&#xa0;; %1 sont encore manquants</translation>
     </message>
     <message>
         <source>Files of “%1” are looked for in “%2”</source>
-        <translation>Les fichiers de « %1 » sont recherchés dans « %2 »</translation>
+        <translation>Les fichiers de «&#xa0;%1&#xa0;» sont recherchés dans «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation>Écriture de « %1 »…</translation>
+        <translation>Écriture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>The list could not be exported to “%1”.</source>
-        <translation>Impossible d’exporter la liste dans « %1 ».</translation>
+        <translation>Impossible d’exporter la liste dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>1 file listed in “%1”</source>
-        <translation>1 fichier listé dans « %1 »</translation>
+        <translation>1 fichier listé dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 files listed in “%2”</source>
-        <translation>%1 fichiers listés dans « %2 »</translation>
+        <translation>%1 fichiers listés dans «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>; %1 missing left out</source>
-        <translation> ; fichiers manquants omis : %1</translation>
+        <translation>&#xa0;; fichiers manquants omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -5029,7 +5029,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Verifying the files of “%1”…</source>
-        <translation>Vérification des fichiers de « %1 »…</translation>
+        <translation>Vérification des fichiers de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>There is no file in it.</source>
@@ -5037,7 +5037,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>The list “%1” cannot be verified.</source>
-        <translation>Impossible de vérifier la liste « %1 ».</translation>
+        <translation>Impossible de vérifier la liste «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -5072,7 +5072,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Reading “%1”…</source>
-        <translation>Lecture de « %1 »…</translation>
+        <translation>Lecture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>The clipboard holds no list of notes</source>
@@ -5080,7 +5080,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>There are no notes in “%1”</source>
-        <translation>« %1 » ne contient aucune note</translation>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune note</translation>
     </message>
     <message>
         <source>No line of the file has a timecode, a frame number or a time.</source>
@@ -5088,7 +5088,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>“%1” could not be read</source>
-        <translation>Impossible de lire « %1 »</translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Unable to add the notes</source>
@@ -5108,7 +5108,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Line %1, “%2”: %3</source>
-        <translation>Ligne %1, « %2 » : %3</translation>
+        <translation>Ligne %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
         <source>1 note could not be added</source>
@@ -5124,23 +5124,23 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation>Écriture de « %1 »…</translation>
+        <translation>Écriture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>The notes could not be exported to “%1”.</source>
-        <translation>Impossible d’exporter les notes dans « %1 ».</translation>
+        <translation>Impossible d’exporter les notes dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>1 marker exported to “%1”</source>
-        <translation>1 marqueur exporté dans « %1 »</translation>
+        <translation>1 marqueur exporté dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 markers exported to “%2”</source>
-        <translation>%1 marqueurs exportés dans « %2 »</translation>
+        <translation>%1 marqueurs exportés dans «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>“%1” cannot hold everything</source>
-        <translation>« %1 » ne peut pas tout contenir</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas tout contenir</translation>
     </message>
 </context>
 <context>
@@ -5163,30 +5163,30 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Report saved to “%1”</source>
-        <translation>Rapport enregistré dans « %1 »</translation>
+        <translation>Rapport enregistré dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Report handed to the printer “%1”</source>
-        <translation>Rapport transmis à l’imprimante « %1 »</translation>
+        <translation>Rapport transmis à l’imprimante «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation>Écriture de « %1 »…</translation>
+        <translation>Écriture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Report exported to “%1”</source>
-        <translation>Rapport exporté dans « %1 »</translation>
+        <translation>Rapport exporté dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The report could not be exported to “%1”.</source>
-        <translation>Impossible d’exporter le rapport dans « %1 ».</translation>
+        <translation>Impossible d’exporter le rapport dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>vantrell::WindowSaving</name>
     <message>
         <source>The document “%1” could not be saved.</source>
-        <translation>Impossible d’enregistrer le document « %1 ».</translation>
+        <translation>Impossible d’enregistrer le document «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The file is open in another window. Close that window first, or choose another name.</source>
@@ -5194,7 +5194,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Saving “%1”…</source>
-        <translation>Enregistrement de « %1 »…</translation>
+        <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -5214,7 +5214,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Do you want to revert to the saved version of “%1”?</source>
-        <translation>Voulez-vous revenir à la version enregistrée de « %1 » ?</translation>
+        <translation>Voulez-vous revenir à la version enregistrée de «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -5234,11 +5234,11 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Waiting for the volume of “%1”…</source>
-        <translation>En attente du volume de « %1 »…</translation>
+        <translation>En attente du volume de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>“%1” cannot be read any more.</source>
-        <translation>« %1 » n’est plus lisible.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est plus lisible.</translation>
     </message>
     <message>
         <source>The project stays open as it is. You can save it to another place.</source>
@@ -5246,7 +5246,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Do you want to save the changes made to “%1”?</source>
-        <translation>Voulez-vous enregistrer les modifications apportées à « %1 » ?</translation>
+        <translation>Voulez-vous enregistrer les modifications apportées à «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Send</source>
@@ -5297,7 +5297,7 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>“%1” is open in a window. Choose another name.</source>
-        <translation>« %1 » est ouvert dans une fenêtre. Choisissez un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» est ouvert dans une fenêtre. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
@@ -5305,15 +5305,15 @@ ou un fichier XML</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation>Écriture de « %1 »…</translation>
+        <translation>Écriture de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Changed sequences exported to “%1”</source>
-        <translation>Séquences modifiées exportées dans « %1 »</translation>
+        <translation>Séquences modifiées exportées dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The changed sequences could not be exported to “%1”.</source>
-        <translation>Impossible d’exporter les séquences modifiées dans « %1 ».</translation>
+        <translation>Impossible d’exporter les séquences modifiées dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 </TS>

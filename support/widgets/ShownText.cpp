@@ -38,7 +38,8 @@ bool hasLetter(const QString &text)
 
 Pattern patternOf(const char *source)
 {
-    Pattern pattern{.source = source};
+    Pattern pattern;
+    pattern.source = source;
     const QString text = QString::fromUtf8(source);
     QString part;
     for (qsizetype i = 0; i < text.size(); ++i) {
