@@ -1702,7 +1702,7 @@
     </message>
     <message>
         <source>%1 frames</source>
-        <translation>%1 Bilder</translation>
+        <translation>%1 Frames</translation>
     </message>
     <message>
         <source>same name</source>
@@ -1714,7 +1714,7 @@
     </message>
     <message>
         <source>other case</source>
-        <translation>andere Groß-/Kleinschreibung</translation>
+        <translation>Groß/klein anders</translation>
     </message>
     <message>
         <source>other escapes</source>
@@ -1734,7 +1734,7 @@
     </message>
     <message>
         <source>other rate</source>
-        <translation>andere Bildrate</translation>
+        <translation>andere Framerate</translation>
     </message>
     <message>
         <source>there</source>
@@ -1766,7 +1766,7 @@
     </message>
     <message>
         <source>Slipped</source>
-        <translation>Verschoben im Clip</translation>
+        <translation>Slip</translation>
     </message>
     <message>
         <source>Trimmed</source>
@@ -2320,6 +2320,14 @@
     <message>
         <source>Comparing…</source>
         <translation>Vergleich läuft…</translation>
+    </message>
+    <message>
+        <source>Waiting for the volume of “%1”…</source>
+        <translation>Auf das Volume von „%1“ wird gewartet…</translation>
+    </message>
+    <message>
+        <source>The project stays open as it is. You can save it to another place.</source>
+        <translation>Das Projekt bleibt unverändert geöffnet. Sie können es an einem anderen Ort speichern.</translation>
     </message>
 </context>
 <context>
@@ -4135,7 +4143,7 @@ Frei auf dem Startvolume: %2 (blau)</translation>
     </message>
     <message>
         <source>&amp;List each marker under its own sequence and clip</source>
-        <translation>Jeden Marker unter seiner eigenen Sequenz und seinem eigenen Clip auf&amp;listen</translation>
+        <translation>Unter eigener Sequenz und eigenem Clip auf&amp;listen</translation>
     </message>
     <message>
         <source>Otherwise sequences at the same position in different bins share one name, and so do the clips of a track. All open projects are listed anew.</source>

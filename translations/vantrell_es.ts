@@ -1714,7 +1714,7 @@
     </message>
     <message>
         <source>other case</source>
-        <translation>otras mayúsculas o minúsculas</translation>
+        <translation>otras mayúsculas</translation>
     </message>
     <message>
         <source>other escapes</source>
@@ -2320,6 +2320,14 @@
     <message>
         <source>Comparing…</source>
         <translation>Comparando…</translation>
+    </message>
+    <message>
+        <source>Waiting for the volume of “%1”…</source>
+        <translation>Esperando el volumen de «%1»…</translation>
+    </message>
+    <message>
+        <source>The project stays open as it is. You can save it to another place.</source>
+        <translation>El proyecto sigue abierto como está. Puede guardarlo en otro lugar.</translation>
     </message>
 </context>
 <context>
@@ -4135,7 +4143,7 @@ Libre en el volumen de arranque: %2 (azul)</translation>
     </message>
     <message>
         <source>&amp;List each marker under its own sequence and clip</source>
-        <translation>Mostrar cada marcador &amp;bajo su propia secuencia y su propio clip</translation>
+        <translation>Mostrar &amp;bajo su propia secuencia y su propio clip</translation>
     </message>
     <message>
         <source>Otherwise sequences at the same position in different bins share one name, and so do the clips of a track. All open projects are listed anew.</source>

@@ -2321,6 +2321,14 @@
         <source>Comparing…</source>
         <translation>Comparaison…</translation>
     </message>
+    <message>
+        <source>Waiting for the volume of “%1”…</source>
+        <translation>En attente du volume de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>The project stays open as it is. You can save it to another place.</source>
+        <translation>Le projet reste ouvert tel quel. Vous pouvez l’enregistrer à un autre emplacement.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::EffectsPane</name>
@@ -4135,7 +4143,7 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     </message>
     <message>
         <source>&amp;List each marker under its own sequence and clip</source>
-        <translation>&amp;Lister chaque marqueur sous sa propre séquence et son propre clip</translation>
+        <translation>&amp;Lister sous leur propre séquence et leur propre clip</translation>
     </message>
     <message>
         <source>Otherwise sequences at the same position in different bins share one name, and so do the clips of a track. All open projects are listed anew.</source>

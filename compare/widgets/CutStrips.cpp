@@ -127,7 +127,8 @@ int CutStrips::laneHeight() const
 {
     const auto lanes = int(strip(Which::Old).lanes().size() + strip(Which::New).lanes().size());
     const int room = viewport()->height() - 2 * rulerHeight - leastBetween - lanes * laneGap;
-    return std::clamp(lanes > 0 ? room / lanes : mostLane, leastLane, mostLane);
+    const int height = lanes > 0 ? room / lanes : mostLane; // whole pixels
+    return std::clamp(height, leastLane, mostLane);
 }
 
 int CutStrips::contentHeight() const

@@ -43,6 +43,16 @@ struct ReadNotes {
 
 } // namespace
 
+/// A list that is to be written.
+struct WindowNotes::Export {
+    QString format;
+    QStringList columns;
+    std::size_t count = 0; ///< of markers
+    std::vector<WrittenNote> notes = {};
+    std::optional<MarkerJson> json = std::nullopt; ///< instead of the notes
+    QStringList changes = {};
+};
+
 bool WindowNotes::mayImport()
 {
     if (!m_lists.mayChangeMarkers() || m_state.isClosed() || m_preview || m_addition)
@@ -62,14 +72,15 @@ void WindowNotes::runOpenPanel()
     m_window.commitEditing();
     if (!mayImport())
         return;
-    FilePanel::runForOpening({.window = &m_window,
-                              .title = tr("Import Notes"),
-                              .folder = m_window.folder(),
-                              .filter = tr("Lists of notes (*.txt *.csv *.tsv *.edl *.xml *.fcpxml *.md "
-                                           "*.json *.vtt *.srt *.TXT *.CSV *.EDL *.XML)") +
-                                        QStringLiteral(";;") + tr("All files (*)"),
-                              .acceptLabel = tr("Open")},
-                             [this](const QStringList &paths) { importFiles(paths); });
+    FilePanel::runForOpening(
+        {.window = &m_window,
+         .title = tr("Import Notes"),
+         .folder = m_window.folder(),
+         .filter = tr("Lists of notes (*.txt *.csv *.tsv *.edl *.xml *.fcpxml *.md "
+                      "*.json *.vtt *.srt *.TXT *.CSV *.EDL *.XML)") +
+                   QStringLiteral(";;") + tr("All files (*)"),
+         .acceptLabel = tr("Open")},
+        [this](const QStringList &paths) { m_window.whenIdle([this, paths] { importFiles(paths); }); });
 }
 
 void WindowNotes::importFiles(const QStringList &paths)
@@ -178,8 +189,11 @@ void WindowNotes::show(const NoteSource &source)
                                      &m_window);
     NotePreviewSheet *const sheet = m_preview;
     QObject::connect(sheet, &NotePreviewSheet::chosen, &m_window, [this, sheet] {
-        m_preview = nullptr;
-        add(sheet->preview());
+        m_window.whenIdle([this, sheet] {
+            m_preview = nullptr;
+            add(sheet->preview());
+            sheet->deleteLater();
+        });
     });
     QObject::connect(sheet, &QDialog::rejected, &m_window, [this] {
         m_preview = nullptr;
@@ -304,30 +318,28 @@ void WindowNotes::exportNotes()
     m_export = new ExportNotesSheet(workbench.document(), {std::move(selected), shown}, m_window.fileTitle(),
                                     m_window.folder(), &m_window);
     ExportNotesSheet *const sheet = m_export;
-    QObject::connect(sheet, &ExportNotesSheet::chosen, &m_window,
-                     [this, sheet](const QString &path) { exportTo(path, *sheet); });
+    QObject::connect(sheet, &ExportNotesSheet::chosen, &m_window, [this, sheet](const QString &path) {
+        m_window.whenIdle([this, path, list = exportOf(*sheet)] { exportTo(path, list); });
+    });
     QObject::connect(sheet, &QDialog::finished, &m_window, [this] { m_export = nullptr; });
     sheet->open();
 }
 
-void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
+std::shared_ptr<WindowNotes::Export> WindowNotes::exportOf(const ExportNotesSheet &sheet) const
 {
-    if (m_state.isBusy() || !m_window.document())
-        return;
-    struct Export {
-        QString format;
-        QStringList columns;
-        std::vector<WrittenNote> notes = {};
-        std::optional<MarkerJson> json = std::nullopt; ///< instead of the notes
-        QStringList changes = {};
-    };
     const RowList markers = sheet.markers();
-    const std::size_t count = markers.size();
-    const auto list = std::make_shared<Export>(Export{sheet.format(), sheet.columns()});
+    const auto list = std::make_shared<Export>(Export{sheet.format(), sheet.columns(), markers.size()});
     if (list->format == QStringLiteral("json"))
         list->json.emplace(markers);
     else
         list->notes = NoteExporter::notes(markers);
+    return list;
+}
+
+void WindowNotes::exportTo(const QString &path, const std::shared_ptr<Export> &list)
+{
+    if (!m_window.document())
+        return;
     const auto write = std::make_shared<CancellableWrite>();
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [this, write] {
@@ -343,10 +355,11 @@ void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
             return FileUtilities::writeAtomically(path, written.text.toUtf8(), write->check());
         },
         m_window.document()->mainThread(),
-        [this, write, path, list, count](const Result<void> &written) {
+        [this, write, path, list](const Result<void> &written) {
             if (write->isCancelled())
                 return;
             m_work.end();
+            const std::size_t count = list->count;
             const QString name = QFileInfo(path).fileName();
             if (!written) {
                 m_window.showFailure(tr("The notes could not be exported to “%1”.").arg(name),

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 class QMimeData;
 
@@ -26,6 +27,8 @@ class WindowMarkerLists;
 /// the other. Main thread.
 class WindowNotes final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowNotes)
+
 public:
     /// The lists and the defaults outlive this object.
     WindowNotes(const WindowPart &part, WindowMarkerLists &lists, UserDefaults &defaults)
@@ -45,6 +48,8 @@ public:
     void close();
 
 private:
+    struct Export;
+
     bool mayImport();
     void importNext();
     void read(const QString &title, std::function<Result<NoteSource>()> read);
@@ -55,7 +60,8 @@ private:
     void added(const NoteAddition &addition);
     void select(const NoteAddition &addition);
     void tellRejected(const NoteAddition &addition);
-    void exportTo(const QString &path, const ExportNotesSheet &sheet);
+    std::shared_ptr<Export> exportOf(const ExportNotesSheet &sheet) const;
+    void exportTo(const QString &path, const std::shared_ptr<Export> &list);
 
     WindowMarkerLists &m_lists;
     UserDefaults &m_defaults;

@@ -14,6 +14,8 @@ namespace vantrell
 /// The window owns it. Main thread.
 class WindowSending final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowSending)
+
 public:
     explicit WindowSending(const WindowPart &part)
         : WindowPart(part)
@@ -30,6 +32,7 @@ public:
     void exportChangedSequencesTo(const QString &path);
 
 private:
+    void writeChangedSequences(const QString &path);
     void sent();
     void exported(const QString &path, const Result<void> &written, bool isCancelled);
 

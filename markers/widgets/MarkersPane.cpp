@@ -331,11 +331,10 @@ void MarkersPane::showMarkerAddDialog()
                                            markerModel().shownColorLabels(), this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        if (!isEditingEnabled())
-            return;
-        if (const RowRecordPtr record =
-                workbench().markerEditor().addMarkerAt(sheet->sequence(), sheet->marker()))
-            selectAdded({record});
+        whenIdle([this, sequence = sheet->sequence(), marker = sheet->marker()] {
+            if (const RowRecordPtr record = workbench().markerEditor().addMarkerAt(sequence, marker))
+                selectAdded({record});
+        });
     });
     sheet->open();
 }
@@ -411,10 +410,10 @@ void MarkersPane::showMarkerOffsetWindow()
         this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        if (!isEditingEnabled())
-            return;
-        workbench().markerEditor().offsetMarkers(sheet->text());
-        model().rowsChanged(0, model().rowCount() - 1);
+        whenIdle([this, offset = sheet->text()] {
+            workbench().markerEditor().offsetMarkers(offset);
+            model().rowsChanged(0, model().rowCount() - 1);
+        });
     });
     sheet->open();
 }

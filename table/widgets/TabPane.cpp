@@ -539,6 +539,14 @@ void TabPane::setEditingEnabled(bool enabled)
     updateControls();
 }
 
+void TabPane::whenIdle(std::function<void()> answer)
+{
+    if (m_whenIdle)
+        m_whenIdle(std::move(answer));
+    else
+        answer();
+}
+
 void TabPane::showMessage(const QString &text)
 {
     setMessage(shownMessage(text));

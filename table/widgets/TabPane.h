@@ -95,6 +95,11 @@ public:
     /// copySelection() copies them to the clipboard.
     QString selectionText() const;
 
+    /// What takes over the answers of the pane's sheets, until the project may be edited; without it they
+    /// are applied at once.
+    using WhenIdle = std::function<void(std::function<void()> answer)>;
+    void setWhenIdle(WhenIdle whenIdle) { m_whenIdle = std::move(whenIdle); }
+
 public Q_SLOTS:
     void copySelection();
 
@@ -102,6 +107,8 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
+    /// Applies what a sheet was answered with, now or when the project may be edited again.
+    void whenIdle(std::function<void()> answer);
     /// The model becomes the pane's.
     TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent);
 
@@ -196,6 +203,7 @@ private:
 
     bool m_spinning = false;
     bool m_editingEnabled = false;
+    WhenIdle m_whenIdle;
     bool m_isFilled = false;     // the table has got the rows of its list
     bool m_movesColumns = false; // by the program
     bool m_storesLayout = false;
