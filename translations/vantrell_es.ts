@@ -1792,6 +1792,10 @@
         <source>Removed</source>
         <translation>Quitado</translation>
     </message>
+    <message>
+        <source>%1 frames (%2 %)</source>
+        <translation>%1 fotogramas (%2 %)</translation>
+    </message>
 </context>
 <context>
     <name>WebEngine</name>

@@ -47,9 +47,15 @@ QString MediaTableModel::text(const RowRecord &record, const Column &column) con
 {
     if (column.key == MediaKey::missing)
         return isChecked(record, column) ? tr("missing") : QString();
-    if (column.key == MediaKey::filetype)
-        return shownValue(TableModel::text(record, column));
-    return TableModel::text(record, column);
+    const QString text = TableModel::text(record, column);
+    static const QStringList ownWords{MediaKey::filetype.text(), QStringLiteral("length"),
+                                      QStringLiteral("used"), QStringLiteral("notes")};
+    if (!ownWords.contains(column.identifier))
+        return text;
+    QStringList words = text.split(QStringLiteral(", "));
+    for (QString &word : words)
+        word = shownValue(word);
+    return words.join(QStringLiteral(", "));
 }
 
 QIcon MediaTableModel::icon(const RowRecord &record, const Column &column) const

@@ -308,6 +308,7 @@ constexpr const char *valueTexts[] = {
     QT_TRANSLATE_NOOP("Value", "duplicate"),
     QT_TRANSLATE_NOOP("Value", "still"),
     QT_TRANSLATE_NOOP("Value", "%1 frames"),
+    QT_TRANSLATE_NOOP("Value", "%1 frames (%2 %)"),
     // Matches of file names
     QT_TRANSLATE_NOOP("Value", "same name"),
     QT_TRANSLATE_NOOP("Value", "other Unicode form"),
