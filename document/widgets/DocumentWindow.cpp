@@ -354,6 +354,7 @@ void DocumentWindow::showReverted()
     setWindowModified(document.isEdited());
     updateEditing();
     updateOwnersNotice();
+    m_media.resume();
     for (const QString &key : std::as_const(reverted.changedDefaults))
         applyDefaultsChange(key);
     showPane(document.viewState().selectedTab);

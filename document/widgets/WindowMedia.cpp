@@ -91,8 +91,20 @@ WindowMedia::~WindowMedia() = default;
 
 void WindowMedia::start()
 {
+    m_window.workbench().mediaInventory().setPathMappings(PathMappings::stored(m_defaults));
+    makeLook();
+}
+
+void WindowMedia::resume()
+{
+    makeLook();
+    m_look->begin();
+    applyMappings();
+}
+
+void WindowMedia::makeLook()
+{
     Workbench &workbench = m_window.workbench();
-    workbench.mediaInventory().setPathMappings(PathMappings::stored(m_defaults));
     m_look = std::make_unique<MediaLook>(workbench.document(), workbench.mediaInventory(),
                                          workbench.mediaFilter());
 }

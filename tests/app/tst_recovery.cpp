@@ -7,6 +7,7 @@
 #include "document/DocumentJournal.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "media/PathMapping.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
@@ -254,8 +255,13 @@ private Q_SLOTS:
         QVERIFY(m_window->mayEdit() && !m_window->mayUndoRevert());
         QCOMPARE(names(), before);
         QTRY_COMPARE(journals(), kept);
+        // Its files are looked for and its questions asked as before.
+        QSignalSpy checked(m_window, &DocumentWindow::mediaChecked);
+        PathMappings mappings = PathMappings::stored(*m_defaults);
+        mappings.add(QStringLiteral("/from"), QStringLiteral("/to"));
+        mappings.store(*m_defaults);
+        QTRY_COMPARE(checked.count(), 1);
         edit(1, "Second");
-        // Its questions are asked as before.
         m_window->close();
         QTRY_VERIFY(visibleBox());
         QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
