@@ -18,7 +18,11 @@ AboutPanel *AboutPanel::load(QWidget *parent)
     QFile file(QStringLiteral(":/about/QVAbout.html"));
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
-    const QString format = QString::fromUtf8(file.readAll());
+    QString format = QString::fromUtf8(file.readAll());
+    for (const char *const text :
+         {QT_TR_NOOP("Version %@"), QT_TR_NOOP("Media, effects and markers of an editing project."),
+          QT_TR_NOOP("Made by Orvandel.")})
+        format.replace(QString::fromUtf8(text), tr(text));
     return new AboutPanel(formatText(format, QCoreApplication::applicationVersion()), parent);
 }
 

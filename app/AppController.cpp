@@ -27,6 +27,7 @@
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/ShownText.h"
 #include "support/widgets/WindowAlertPresenter.h"
 #include "table/widgets/TabPane.h"
 #include "table/widgets/TableFont.h"
@@ -250,7 +251,8 @@ void AppController::openSampleProject()
             if (sample)
                 self->applicationOpenFile(sample.value());
             else
-                self->tell(tr("The sample project could not be copied: %1").arg(sample.message()));
+                self->tell(
+                    tr("The sample project could not be copied: %1").arg(shownMessage(sample.message())));
         });
     });
 }

@@ -7,6 +7,7 @@
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentWindow.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TabPane.h"
 #include "table/widgets/TableModel.h"
 
@@ -281,7 +282,7 @@ void MainMenu::fillSortMenu()
     TabPane &pane = m_document->pane(m_document->selectedTab());
     const std::optional<SortDescriptor> sort = pane.shownSort();
     for (const QString &column : pane.columns()) {
-        QString title = pane.model().columnAt(pane.model().columnOf(column)).name;
+        QString title = TableModel::shownName(pane.model().columnAt(pane.model().columnOf(column)));
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_sortMenu->addAction(title);
         action->setCheckable(true);
@@ -347,9 +348,11 @@ void MainMenu::validateUndo()
         return step.isEmpty() ? command : command + QLatin1Char(' ') + step;
     };
     const bool undoesRevert = m_document && m_document->mayUndoRevert();
-    const QString undone = undoesRevert ? tr("Revert") : document ? document->undoName() : QString();
+    const QString undone = undoesRevert ? tr("Revert")
+                           : document   ? shownEdit(document->undoName())
+                                        : QString();
     m_undo->setText(title(tr("&Undo"), field ? QString() : undone));
-    m_redo->setText(title(tr("&Redo"), document && !field ? document->redoName() : QString()));
+    m_redo->setText(title(tr("&Redo"), document && !field ? shownEdit(document->redoName()) : QString()));
     m_undo->setEnabled((field && field->isUndoAvailable()) || (mayEdit && document->canUndo()) ||
                        (undoesRevert && !field));
     m_redo->setEnabled((field && field->isRedoAvailable()) || (mayEdit && document->canRedo()));

@@ -1,6 +1,7 @@
 #include "app/PreferencesWindow.h"
 
 #include "app/PreferenceKeys.h"
+#include "app/Translations.h"
 #include "app/WebPages.h"
 #include "markers/MarkerInventory.h"
 #include "support/settings/UserDefaults.h"
@@ -144,7 +145,31 @@ QWidget *PreferencesWindow::makeGeneralPage()
            "kept, and offered, in any case."));
     connect(m_keepsJournal, &QCheckBox::clicked, this,
             [this](bool keeps) { m_defaults.setValue(PreferenceKey::journal, keeps); });
+    addLanguage(*form);
     return pageWith(form);
+}
+
+/// Each language is called what it calls itself.
+void PreferencesWindow::addLanguage(QFormLayout &form)
+{
+    m_language = new QComboBox;
+    m_language->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_language->addItem(tr("System"), QString());
+    for (const Translations::Language &language : Translations::languages())
+        m_language->addItem(language.name, language.code);
+    connect(m_language, &QComboBox::activated, this, [this](int index) {
+        const QString code = m_language->itemData(index).toString();
+        m_defaults.setValue(Translations::languageKey, code.isEmpty() ? QVariant() : QVariant(code));
+    });
+    auto *const title = new QLabel(tr("La&nguage:"));
+    title->setBuddy(m_language);
+    auto *const field = new QVBoxLayout;
+    field->setSpacing(4);
+    field->addWidget(m_language);
+    field->addWidget(
+        makeHint(tr("Holds from the next start on. Reports, exported lists, logs and the command "
+                    "line are in English.")));
+    form.addRow(title, field);
 }
 
 QWidget *PreferencesWindow::makeTablesPage()
@@ -214,6 +239,9 @@ void PreferencesWindow::showSettings()
     m_ownOwners->setChecked(m_defaults.boolean(MarkerInventory::ownOwnersDefault));
     m_keepsJournal->setChecked(m_defaults.boolean(PreferenceKey::journal));
 
+    const QString language = m_defaults.string(Translations::languageKey);
+    m_language->setCurrentIndex(std::max(0, m_language->findData(language)));
+
     const QString family = m_defaults.string(TableFont::familyKey);
     const qint64 size = m_defaults.integer(TableFont::sizeKey);
     const QFont system = QApplication::font();
@@ -270,7 +298,7 @@ void PreferencesWindow::restoreDefaults()
     QVariantMap removed;
     for (const QString &key :
          {PreferenceKey::showOpenDialog, MarkerInventory::ownOwnersDefault, PreferenceKey::journal,
-          TableFont::familyKey, TableFont::sizeKey, TableDates::formatKey})
+          Translations::languageKey, TableFont::familyKey, TableFont::sizeKey, TableDates::formatKey})
         removed.insert(key, QVariant());
     for (std::size_t page = 0; page < addressCount; ++page) {
         m_addresses[page]->setModified(false);

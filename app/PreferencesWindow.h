@@ -35,6 +35,7 @@ protected:
 
 private:
     QWidget *makeGeneralPage();
+    void addLanguage(QFormLayout &form);
     QWidget *makeTablesPage();
     QWidget *makeHelpPage();
     QCheckBox *addSwitch(QFormLayout &form, const QString &subject, const QString &title,
@@ -53,6 +54,7 @@ private:
     QCheckBox *m_usesSystemFont = nullptr;
     QFontComboBox *m_family = nullptr;
     QSpinBox *m_size = nullptr;
+    QComboBox *m_language = nullptr; ///< the data of its items are codes, empty for the system's
     QComboBox *m_dates = nullptr;
     std::array<QLineEdit *, addressCount> m_addresses = {}; ///< by WebPage
 };

@@ -26,10 +26,9 @@ namespace
 
 constexpr int archiveTimeoutMs = 60000;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Troubleshooting", source);
-}
+struct LogsText {
+    Q_DECLARE_TR_FUNCTIONS(Troubleshooting)
+};
 
 QString logFolder()
 {
@@ -51,11 +50,11 @@ void appendTaskLog(const QString &name, const QString &line)
     file.write(QStringLiteral("%1 - %2\n").arg(date, line).toUtf8());
 }
 
-void show(const QString &path, const char *whenMissing)
+void show(const QString &path, const QString &whenMissing)
 {
     if (QFile::exists(path) && Workspace::openFile(path))
         return;
-    QVAlert::alertSheetWithMessageText(text("Unable to show the log"), text(whenMissing), nullptr);
+    QVAlert::alertSheetWithMessageText(LogsText::tr("Unable to show the log"), whenMissing, nullptr);
 }
 
 /// Any thread.
@@ -64,7 +63,7 @@ Result<QString> archive(const QString &name, const QString &folder)
     QVLog::finishWriting();
     const QStringList logs = QDir(logFolder()).entryList({name + QStringLiteral("*.log")}, QDir::Files);
     if (logs.isEmpty())
-        return Failure{text("There are no logs.")};
+        return Failure{LogsText::tr("There are no logs.")};
     const QString date = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd"));
     const QString path =
         FileUtilities::uniqueFilePath(QStringLiteral("%1/%2 Logs %3.tgz").arg(folder, name, date));
@@ -89,12 +88,14 @@ Result<QString> archive(const QString &name, const QString &folder)
 void viewLogForApp(const QString &)
 {
     QVLog::finishWriting();
-    show(QVLog::availableLogs().value(0), "There is no log yet, or no program to show it with.");
+    show(QVLog::availableLogs().value(0),
+         LogsText::tr("There is no log yet, or no program to show it with."));
 }
 
 void viewTaskLogForApp(const QString &name)
 {
-    show(taskLogPath(name), "No helper program was run yet, or there is no program to show the log with.");
+    show(taskLogPath(name),
+         LogsText::tr("No helper program was run yet, or there is no program to show the log with."));
 }
 
 void gatherLogsForAppWithName(const QString &name, const QString &folder, QObject *context,
@@ -102,7 +103,8 @@ void gatherLogsForAppWithName(const QString &name, const QString &folder, QObjec
 {
     const QPointer<QObject> guard(context);
     BackgroundWork::run([name, folder, guard, ended] {
-        const auto result = std::make_shared<Result<QString>>(Failure{text("The logs cannot be read.")});
+        const auto result =
+            std::make_shared<Result<QString>>(Failure{LogsText::tr("The logs cannot be read.")});
         guarded("gatherLogsForAppWithName", [&] { *result = archive(name, folder); });
         MainThread::post([guard, ended, result] {
             if (guard)

@@ -1,6 +1,7 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "app/SingleInstance.h"
+#include "app/Translations.h"
 #include "support/files/ProcessStart.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
@@ -70,6 +71,7 @@ QStringList filesOf(const QStringList &arguments)
 int run(vantrell::Application &application, vantrell::SingleInstance &instance, const QStringList &paths)
 {
     vantrell::AppController::startLog();
+    vantrell::Translations::installChosen(application, vantrell::UserDefaults::standard());
     vantrell::AppController controller(vantrell::UserDefaults::standard());
     QObject::connect(&application, &vantrell::Application::openFileRequested, &controller,
                      &vantrell::AppController::applicationOpenFile);

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
 #include <memory>
 
 namespace
@@ -44,6 +45,7 @@ int main(int argc, char **argv)
     vantrell::prepareProcess();
     vantrell::UnfinishedFiles::removeOnSignals();
     QCoreApplication application(argc, argv);
+    std::setlocale(LC_MESSAGES, "C"); // all output is English, the reasons that the system gives as well
     QCoreApplication::setApplicationName(QStringLiteral("vantrell-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VANTRELL_VERSION));
     vantrell::UserDefaults::setStandardAccess(vantrell::UserDefaults::Access::ReadOnly);

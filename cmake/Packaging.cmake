@@ -38,10 +38,10 @@ set(CPACK_DEBIAN_MAIN_PACKAGE_NAME vantrell)
 set(CPACK_DEBIAN_MAIN_DESCRIPTION "${CPACK_DEBIAN_PACKAGE_DESCRIPTION}")
 
 # Library dependencies are found automatically. Icons and Wayland sessions need plug-ins that are loaded by name,
-# and files are opened with xdg-open.
+# files are opened with xdg-open, and Qt has translations of its dialogs in a package of their own.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_MAIN_PACKAGE_DEPENDS "libqt6svg6, xdg-utils")
-set(CPACK_DEBIAN_MAIN_PACKAGE_RECOMMENDS "qt6-wayland, vantrell-print")
+set(CPACK_DEBIAN_MAIN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, vantrell-print")
 
 # The plug-in requires the program that it was built with. Printing uses lp.
 set(CPACK_DEBIAN_PRINT_PACKAGE_NAME vantrell-print)

@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QSet>
 #include <QStringList>
@@ -41,11 +42,13 @@ std::optional<Range> unsavedSteps(const EditHistory &history, const ChangeMarks 
     return std::nullopt;
 }
 
-QString counted(std::size_t count, const char *singular, const char *plural)
+struct ChangesText {
+    Q_DECLARE_TR_FUNCTIONS(UnsavedChanges)
+};
+
+QString counted(std::size_t count, const QString &one, const QString &several)
 {
-    return count == 1 ? QStringLiteral("1 %1").arg(QLatin1String(singular))
-                      : QStringLiteral("%1 %2").arg(QLocale(QLocale::English).toString(qulonglong(count)),
-                                                    QLatin1String(plural));
+    return count == 1 ? one : several.arg(QLocale(QLocale::English).toString(qulonglong(count)));
 }
 
 } // namespace
@@ -93,21 +96,26 @@ QString UnsavedChanges::text() const
     if (!isKnown || changes == 0)
         return QString();
     QStringList parts;
-    const auto add = [&](Tab tab, const char *singular, const char *plural) {
+    const auto add = [&](Tab tab, const QString &one, const QString &several) {
         if (const std::size_t count = rows[std::size_t(tab)])
-            parts.append(counted(count, singular, plural));
+            parts.append(counted(count, one, several));
     };
-    add(Tab::Markers, "marker", "markers");
-    add(Tab::Effects, "effect", "effects");
-    add(Tab::Media, "media file", "media files");
-    QString text = counted(changes, "change", "changes");
+    add(Tab::Markers, ChangesText::tr("1 marker"), ChangesText::tr("%1 markers"));
+    add(Tab::Effects, ChangesText::tr("1 effect"), ChangesText::tr("%1 effects"));
+    add(Tab::Media, ChangesText::tr("1 media file"), ChangesText::tr("%1 media files"));
+    QString text = counted(changes, ChangesText::tr("1 change"), ChangesText::tr("%1 changes"));
     if (!parts.isEmpty()) {
         const QString last = parts.takeLast();
-        text += QStringLiteral(" to ") +
-                (parts.isEmpty() ? last : parts.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last);
+        const QString list =
+            parts.isEmpty()
+                ? last
+                : ChangesText::tr("%1 and %2", "rows").arg(parts.join(QStringLiteral(", ")), last);
+        text = ChangesText::tr("%1 to %2", "changes to rows").arg(text, list);
     }
     if (sequences > 0)
-        text += QStringLiteral(" in ") + counted(sequences, "sequence", "sequences");
+        text = ChangesText::tr("%1 in %2", "changes in sequences")
+                   .arg(text,
+                        counted(sequences, ChangesText::tr("1 sequence"), ChangesText::tr("%1 sequences")));
     return text;
 }
 

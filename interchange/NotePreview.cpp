@@ -142,7 +142,7 @@ QString NotePreview::columnTitle(std::size_t column) const
         list()
             .headers.value(qsizetype(column), role.kind == NoteRole::Field ? role.title : QString())
             .simplified();
-    return title.isEmpty() ? tr("Column %1").arg(column + 1) : title;
+    return title.isEmpty() ? QStringLiteral("Column %1").arg(column + 1) : title;
 }
 
 std::vector<NotePreview::Column> NotePreview::columns() const

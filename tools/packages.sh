@@ -2,12 +2,12 @@
 
 # To build the core, the command line, the desktop program with its manual, and their tests.
 build_packages=(
-    g++ cmake ninja-build pkg-config ccache cmark-gfm
+    g++ cmake ninja-build pkg-config ccache cmark-gfm qt6-l10n-tools
     qt6-base-dev libxml2-dev libplist-dev libxxhash-dev libssl-dev libcli11-dev nlohmann-json3-dev
 )
 
-# Also, to run the desktop program: its icons, and sessions without an X server.
-window_packages=(libqt6svg6 qt6-wayland)
+# Also, to run the desktop program: its icons, sessions without an X server, and Qt's dialogs in other languages.
+window_packages=(libqt6svg6 qt6-wayland qt6-translations-l10n)
 
 # Also, to build the plug-in and the program that print, and to print on paper.
 print_packages=(qt6-webengine-dev libqpdf-dev cups-client)

@@ -16,6 +16,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <clocale>
 #include <csignal>
 
 namespace
@@ -153,6 +154,7 @@ int run(const HostOptions &options)
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
+    std::setlocale(LC_MESSAGES, "C"); // all output is English, the reasons that the system gives as well
     QCoreApplication::setApplicationName(QStringLiteral("fcp-host"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VANTRELL_VERSION));
     vantrell::UserDefaults::setStandardAccess(vantrell::UserDefaults::Access::ReadOnly);

@@ -1,5 +1,6 @@
 #include "compare/widgets/CarriedMarkerModel.h"
 
+#include "support/widgets/ShownText.h"
 #include "timecode/QVTimecode.h"
 
 #include <QFont>
@@ -163,7 +164,7 @@ QString CarriedMarkerModel::text(const CarriedMarker &marker, int column) const
                    ? m_comparison->newTimecode(*marker.statedFrame)
                    : tr("no place left");
     case State: {
-        QString name = marker.isAdded ? tr("added") : marker.stateName();
+        QString name = marker.isAdded ? tr("added") : shownValue(marker.stateName());
         name[0] = name[0].toUpper();
         return name;
     }

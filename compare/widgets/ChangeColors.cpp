@@ -1,5 +1,7 @@
 #include "compare/widgets/ChangeColors.h"
 
+#include "support/widgets/ShownText.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -65,7 +67,7 @@ QString title(EventChange::Kind kind)
     change.kind = kind;
     QString name = change.kindName();
     name[0] = name[0].toUpper();
-    return name;
+    return shownValue(name);
 }
 
 } // namespace vantrell::ChangeColors

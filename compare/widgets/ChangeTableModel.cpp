@@ -2,6 +2,7 @@
 
 #include "compare/ChangeDifference.h"
 #include "compare/widgets/ChangeColors.h"
+#include "support/widgets/ShownText.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -175,7 +176,7 @@ QString ChangeTableModel::text(const EventChange &change, int column) const
     case New:
         return change.after ? m_comparison->newTimecode(m_comparison->newEvent(change)->start) : QString();
     case Difference:
-        return differenceOf(*m_comparison, change);
+        return shownDifference(differenceOf(*m_comparison, change));
     case File:
         return m_comparison->file(change).section(QLatin1Char('/'), -1);
     default:
@@ -196,7 +197,7 @@ QString ChangeTableModel::toolTip(const CutComparison &comparison, std::size_t i
         lines << tr("New: %1, %2 to %3")
                      .arg(after->trackName(), comparison.newTimecode(after->start),
                           comparison.newTimecode(after->end));
-    const QString difference = differenceOf(comparison, change);
+    const QString difference = shownDifference(differenceOf(comparison, change));
     if (!difference.isEmpty())
         lines << difference;
     if (const QString file = comparison.file(change); !file.isEmpty())

@@ -18,6 +18,7 @@
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/SelectableLabel.h"
+#include "support/widgets/ShownText.h"
 #include "support/widgets/SymbolIcon.h"
 #include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
@@ -441,7 +442,7 @@ void DocumentWindow::showLoadFailure(const QString &message)
     m_failureReason->setText(message.isEmpty() || message == LoadFailure::noProject
                                  ? tr("Project files are read by way of Final Cut Pro 7, which gave "
                                       "no project. An XML export of it opens without.")
-                                 : message);
+                                 : shownMessage(message));
     if (std::exchange(m_isReloading, false)) {
         // The document that failed is telling of it: it is replaced after that.
         m_hasReloadFailed = true;

@@ -1,6 +1,7 @@
 #include "document/widgets/NoticeBar.h"
 
 #include "support/widgets/SelectableLabel.h"
+#include "support/widgets/ShownText.h"
 #include "support/widgets/SymbolIcon.h"
 
 #include <QAccessible>
@@ -46,7 +47,7 @@ NoticeBar::NoticeBar(QWidget *parent)
 void NoticeBar::setNotice(const QString &text, Kind kind)
 {
     m_kind = kind;
-    m_text->setText(text);
+    m_text->setText(shownMessage(text));
     m_dismiss->setVisible(kind == Kind::Dismissible);
     setVisible(!text.isEmpty());
     if (isVisible()) {

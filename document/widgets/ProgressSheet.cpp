@@ -1,5 +1,7 @@
 #include "document/widgets/ProgressSheet.h"
 
+#include "support/widgets/ShownText.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QProgressBar>
@@ -41,7 +43,7 @@ void ProgressSheet::startProgress()
 
 void ProgressSheet::updateProgressLabel(const QString &text)
 {
-    m_progressLabel->setText(text);
+    m_progressLabel->setText(shownMessage(text));
 }
 
 void ProgressSheet::setProgress(std::size_t done, std::size_t total)

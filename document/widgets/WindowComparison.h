@@ -18,6 +18,8 @@ class MyDocument;
 /// cut to the document. The window owns it. Main thread.
 class WindowComparison final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowComparison)
+
 public:
     explicit WindowComparison(const WindowPart &part);
     ~WindowComparison();

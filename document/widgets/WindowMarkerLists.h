@@ -14,6 +14,8 @@ namespace vantrell
 /// Imports and exports marker lists for the document of a window, which owns it. Main thread.
 class WindowMarkerLists final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowMarkerLists)
+
 public:
     explicit WindowMarkerLists(const WindowPart &part)
         : WindowPart(part)

@@ -25,6 +25,8 @@ struct RelinkChoice;
 /// Main thread.
 class WindowMedia final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowMedia)
+
 public:
     WindowMedia(const WindowPart &part, UserDefaults &defaults);
     ~WindowMedia();

@@ -13,6 +13,7 @@
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/widgets/FilePanel.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TabPane.h"
 #include "workbench/Workbench.h"
 #include "xml/QVXMLParser.h"
@@ -310,7 +311,8 @@ void WindowNotes::tellRejected(const NoteAddition &addition)
     QStringList reasons;
     for (const PlannedNote &note : addition.notes()) {
         if (note.state == PlannedNote::State::Unreadable)
-            reasons.append(tr("Line %1, “%2”: %3").arg(note.line).arg(note.name, note.reason.trimmed()));
+            reasons.append(
+                tr("Line %1, “%2”: %3").arg(note.line).arg(note.name, shownMessage(note.reason.trimmed())));
     }
     if (reasons.isEmpty())
         return;

@@ -27,6 +27,8 @@ class WindowMarkerLists;
 /// the other. Main thread.
 class WindowNotes final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowNotes)
+
 public:
     /// The lists and the defaults outlive this object.
     WindowNotes(const WindowPart &part, WindowMarkerLists &lists, UserDefaults &defaults)

@@ -11,11 +11,8 @@ class DocumentWindow;
 class WindowWork;
 
 /// What the classes that a document window consists of share: the window, which owns them, its state and its
-/// long operations. Main thread.
+/// long operations. Each declares text functions of its own. Main thread.
 struct WindowPart {
-    Q_DECLARE_TR_FUNCTIONS(vantrell::DocumentWindow)
-
-public:
     DocumentWindow &m_window;
     WindowState &m_state;
     WindowWork &m_work;

@@ -23,6 +23,8 @@ enum class ReportFormat;
 /// Prints and exports reports of the tables of a window, which owns it. Main thread.
 class WindowReports final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowReports)
+
 public:
     WindowReports(const WindowPart &part, UserDefaults &defaults)
         : WindowPart(part)

@@ -17,6 +17,8 @@ namespace vantrell
 /// owns it. Main thread.
 class WindowSaving final : private WindowPart, private AlertDelegate
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowSaving)
+
 public:
     explicit WindowSaving(const WindowPart &part)
         : WindowPart(part)

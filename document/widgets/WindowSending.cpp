@@ -64,7 +64,7 @@ void WindowSending::exportChangedSequences()
          .folder = m_window.folder(),
          .filter = tr("XML files (*.xml *.XML)"),
          .extension = QStringLiteral("xml"),
-         .proposedName = tr("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
+         .proposedName = QStringLiteral("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
          .acceptLabel = tr("Export")},
         [this](const QString &path) { m_window.whenIdle([this, path] { exportChangedSequencesTo(path); }); });
 }

@@ -14,6 +14,8 @@ namespace vantrell
 /// The window owns it. Main thread.
 class WindowSending final : private WindowPart
 {
+    Q_DECLARE_TR_FUNCTIONS(vantrell::WindowSending)
+
 public:
     explicit WindowSending(const WindowPart &part)
         : WindowPart(part)

@@ -1,6 +1,7 @@
 #include "effects/widgets/EffectsPane.h"
 
 #include "effects/EffectKeys.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableIcons.h"
@@ -142,6 +143,13 @@ QString EffectsPane::filteredText() const
 EffectTableModel::EffectTableModel(MyDocument &document, QObject *parent)
     : TableModel(document, Tab::Effects, parent)
 {
+}
+
+QString EffectTableModel::text(const RowRecord &record, const Column &column) const
+{
+    const QString text = TableModel::text(record, column);
+    const bool isKind = column.key == EffectKey::effectType || column.key == EffectKey::mediaType;
+    return isKind ? shownValue(text) : text;
 }
 
 QIcon EffectTableModel::icon(const RowRecord &record, const Column &column) const

@@ -49,6 +49,7 @@ public:
     explicit EffectTableModel(MyDocument &document, QObject *parent = nullptr);
 
 protected:
+    QString text(const RowRecord &record, const Column &column) const override;
     QIcon icon(const RowRecord &record, const Column &column) const override;
 };
 

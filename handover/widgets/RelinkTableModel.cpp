@@ -1,6 +1,7 @@
 #include "handover/widgets/RelinkTableModel.h"
 
 #include "media/MediaFile.h"
+#include "support/widgets/ShownText.h"
 
 namespace vantrell
 {
@@ -85,12 +86,12 @@ QString RelinkTableModel::matchText(int row) const
     if (candidates.empty())
         return tr("not found");
     const RelinkCandidate *const chosen = m_plan.chosen(std::size_t(row));
-    QString text = FileNames::textOf((chosen ? *chosen : candidates.front()).name);
+    QString text = shownValue(FileNames::textOf((chosen ? *chosen : candidates.front()).name));
     if (candidates.size() > 1)
         text += tr(", %1 files").arg(candidates.size());
     if (chosen) {
         for (const QString &other : Relinker::contradictions(m_plan.match(std::size_t(row)).missing, *chosen))
-            text += QStringLiteral(", ") + other;
+            text += QStringLiteral(", ") + shownValue(other);
     }
     return text;
 }

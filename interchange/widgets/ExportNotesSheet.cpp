@@ -3,6 +3,7 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
 #include "support/widgets/FilePanel.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/CheckFrame.h"
 #include "table/widgets/TableIcons.h"
 
@@ -119,7 +120,7 @@ void ExportNotesSheet::fillMarkers()
 
     m_color->addItem(tr("All colors"));
     for (std::size_t i = 0; i < MarkerColors::count; ++i)
-        m_color->addItem(TableIcons::marker(int(i)), MarkerColors::table()[i].label);
+        m_color->addItem(TableIcons::marker(int(i)), shownValue(MarkerColors::table()[i].label));
     m_sequence->addItem(tr("All sequences"));
     const MenuPtr menu = m_document.sequenceMenu();
     for (std::size_t i = 1; i < menu->size(); ++i)
@@ -141,7 +142,8 @@ QWidget *ExportNotesSheet::makeColumns()
     m_columns->setItemDelegate(new FramedCheckDelegate(m_columns));
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);
     for (const QString &title : NoteExporter::columnTitles(m_document.markerArray())) {
-        auto *const item = new QListWidgetItem(title, m_columns);
+        auto *const item = new QListWidgetItem(shownColumn(title), m_columns);
+        item->setData(Qt::UserRole, title); // as the list has it
         item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsDropEnabled);
         item->setCheckState(Qt::Checked);
     }
@@ -183,7 +185,7 @@ QStringList ExportNotesSheet::columns() const
     QStringList titles;
     for (int i = 0; i < m_columns->count() && NoteWriter::hasColumns(format()); ++i) {
         if (m_columns->item(i)->checkState() == Qt::Checked)
-            titles.append(m_columns->item(i)->text());
+            titles.append(m_columns->item(i)->data(Qt::UserRole).toString());
     }
     return titles;
 }
@@ -226,7 +228,7 @@ void ExportNotesSheet::askForFile()
                        .arg(m_format->currentText().remove(QLatin1Char('(')).remove(QLatin1Char(')')),
                             extension, extension.toUpper()),
          .extension = extension,
-         .proposedName = tr("%1 Notes").arg(m_fileTitle) + QLatin1Char('.') + extension,
+         .proposedName = QStringLiteral("%1 Notes.%2").arg(m_fileTitle, extension),
          .acceptLabel = tr("Export")},
         [this](const QString &path) {
             hide(); // an alert then is the window's only sheet

@@ -10,19 +10,21 @@ namespace vantrell
 namespace
 {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("MarkerListPanels", source);
-}
+struct MarkerListPanels {
+    Q_DECLARE_TR_FUNCTIONS(MarkerListPanels)
+};
 
 QString filterOf(const MarkerListPanel &panel)
 {
-    const QString kind =
-        panel.format == MarkerListFormat::fcpx ? text("Final Cut Pro X XML files") : text("Marker lists");
+    const QString kind = panel.format == MarkerListFormat::fcpx
+                             ? MarkerListPanels::tr("Final Cut Pro X XML files")
+                             : MarkerListPanels::tr("Marker lists");
     const QString filter =
         QStringLiteral("%1 (*.%2 *.%3)").arg(kind, panel.extension, panel.extension.toUpper());
     // Text files may have any extension.
-    return panel.typeIdentifier.isNull() ? filter : filter + QStringLiteral(";;") + text("All files (*)");
+    return panel.typeIdentifier.isNull()
+               ? filter
+               : filter + QStringLiteral(";;") + MarkerListPanels::tr("All files (*)");
 }
 
 } // namespace
@@ -31,10 +33,10 @@ void runMarkerListOpenPanel(const MarkerListPanel &panel, QWidget *window, const
                             const std::function<void(const QStringList &)> &chosen)
 {
     FilePanel::runForOpening({.window = window,
-                              .title = text("Import Markers"),
+                              .title = MarkerListPanels::tr("Import Markers"),
                               .folder = folder,
                               .filter = filterOf(panel),
-                              .acceptLabel = text("Import")},
+                              .acceptLabel = MarkerListPanels::tr("Import")},
                              chosen);
 }
 
@@ -42,12 +44,12 @@ void runMarkerListSavePanel(const MarkerListPanel &panel, QWidget *window, const
                             const std::function<void(const QString &)> &chosen)
 {
     FilePanel::runForSaving({.window = window,
-                             .title = text("Export Markers"),
+                             .title = MarkerListPanels::tr("Export Markers"),
                              .folder = folder,
                              .filter = filterOf(panel),
                              .extension = panel.extension,
                              .proposedName = panel.proposedName,
-                             .acceptLabel = text("Export")},
+                             .acceptLabel = MarkerListPanels::tr("Export")},
                             chosen);
 }
 

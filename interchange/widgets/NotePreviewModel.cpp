@@ -2,6 +2,7 @@
 
 #include "interchange/NotePreview.h"
 #include "markers/MarkerColors.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QGuiApplication>
@@ -104,13 +105,13 @@ QString NotePreviewModel::text(std::size_t row, int column) const
     case Duration:
         return m_preview.duration(row);
     case Color:
-        return note.isRow ? MarkerColors::table()[std::size_t(note.color)].label : QString();
+        return note.isRow ? shownValue(MarkerColors::table()[std::size_t(note.color)].label) : QString();
     case Owner:
         return note.isRow ? m_owner : QString();
     case User:
         return note.user;
     case Remark:
-        return m_preview.remark(row);
+        return shownMessage(m_preview.remark(row));
     default:
         return QString();
     }

@@ -2,6 +2,7 @@
 
 #include "interchange/NotePreview.h"
 #include "markers/MarkerColors.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QComboBox>
@@ -173,8 +174,8 @@ void NoteColumnStrip::takePlan()
         m_titles = titles;
         clear();
         for (std::size_t i = 0; i < shown; ++i) {
-            QComboBox *const popUp = add(columns[i].title, columns[i].example,
-                                         tr("Role of the column “%1”").arg(columns[i].title));
+            QComboBox *const popUp = add(shownMessage(columns[i].title), columns[i].example,
+                                         tr("Role of the column “%1”").arg(shownMessage(columns[i].title)));
             for (const NoteRole::Kind role :
                  {NoteRole::Ignore, NoteRole::Time, NoteRole::Duration, NoteRole::End, NoteRole::Name,
                   NoteRole::Comment, NoteRole::Color, NoteRole::User, NoteRole::Track, NoteRole::Type,
@@ -219,7 +220,8 @@ void NoteColorStrip::takePlan()
             const QString title = colors[i].text.isEmpty() ? tr("No color") : colors[i].text;
             QComboBox *const popUp = add(title, rows(colors[i]), tr("Color for “%1”").arg(title));
             for (std::size_t color = 0; color < MarkerColors::count; ++color)
-                popUp->addItem(TableIcons::marker(int(color)), MarkerColors::table()[color].label);
+                popUp->addItem(TableIcons::marker(int(color)),
+                               shownValue(MarkerColors::table()[color].label));
             connect(popUp, &QComboBox::activated, this,
                     [this, key = colors[i].key](int color) { m_preview.setColor(key, color); });
         }

@@ -1,6 +1,7 @@
 #include "markers/widgets/MarkerFieldsSheet.h"
 
 #include "markers/MarkerFields.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/SheetTable.h"
 #include "table/widgets/SheetTableModel.h"
 
@@ -144,7 +145,7 @@ bool MarkerFieldsSheet::endEditing()
 
 void MarkerFieldsSheet::tell(const QString &conflict)
 {
-    m_conflict->setText(tr("⚠ %1 It was left as it was.").arg(conflict));
+    m_conflict->setText(tr("⚠ %1 It was left as it was.").arg(shownMessage(conflict)));
     m_conflict->setVisible(!conflict.isEmpty());
 }
 

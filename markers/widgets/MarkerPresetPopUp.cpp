@@ -1,5 +1,7 @@
 #include "markers/widgets/MarkerPresetPopUp.h"
 
+#include "support/widgets/ShownText.h"
+
 #include <QAbstractItemView>
 #include <QStandardItemModel>
 #include <QTimer>
@@ -24,10 +26,11 @@ void MarkerPresetPopUp::setMenu(const QStringList &titles, int selected)
         m_titles = titles;
         clear();
         for (const QString &title : titles) {
+            const bool isOwn = &title == &titles.first() || &title == &titles.last();
             if (title.isNull())
                 insertSeparator(count());
             else
-                addItem(title);
+                addItem(isOwn ? shownValue(title) : title);
         }
         setCreateEnabled(view()->isVisible());
     }

@@ -2,6 +2,7 @@
 
 #include "markers/MarkerColors.h"
 #include "markers/MarkerPresets.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/SheetTable.h"
 #include "table/widgets/SheetTableModel.h"
 #include "table/widgets/TableIcons.h"
@@ -41,7 +42,7 @@ protected:
     QString text(int row, const QString &column) const override
     {
         return column == labelColumn ? m_presets.markerPresetTableDataArray()[std::size_t(row)].label
-                                     : MarkerColors::table()[std::size_t(row)].label;
+                                     : shownValue(MarkerColors::table()[std::size_t(row)].label);
     }
     void setText(int row, const QString &column, const QString &text) override
     {
@@ -53,7 +54,8 @@ protected:
     }
     QString description(int row, int) const override
     {
-        return MarkerPresetSheet::tr("Label of %1").arg(MarkerColors::table()[std::size_t(row)].label);
+        return MarkerPresetSheet::tr("Label of %1")
+            .arg(shownValue(MarkerColors::table()[std::size_t(row)].label));
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "markers/widgets/MarkerPresetsSheet.h"
 
 #include "markers/MarkerPresets.h"
+#include "support/widgets/ShownText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -125,7 +126,7 @@ void MarkerPresetsSheet::remove()
 
 void MarkerPresetsSheet::tell(const QString &failure)
 {
-    m_failure->setText(tr("⚠ %1").arg(failure));
+    m_failure->setText(tr("⚠ %1").arg(shownMessage(failure)));
     m_failure->setVisible(!failure.isEmpty());
 }
 

@@ -4,6 +4,7 @@
 #include "markers/MarkerKeys.h"
 #include "markers/MenuTitles.h"
 #include "markers/TimecodeEntry.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TableIcons.h"
 
 namespace vantrell
@@ -14,11 +15,24 @@ MarkerTableModel::MarkerTableModel(MyDocument &document, QObject *parent)
 {
     for (const MarkerColor &color : MarkerColors::table())
         m_colorLabels.append(color.label);
+    m_shownLabels = shownLabels(m_colorLabels);
+}
+
+QStringList MarkerTableModel::shownLabels(const QStringList &labels)
+{
+    QStringList shown;
+    for (qsizetype i = 0; i < labels.size(); ++i) {
+        const bool isName =
+            i < qsizetype(MarkerColors::count) && labels[i] == MarkerColors::table()[std::size_t(i)].label;
+        shown.append(isName ? shownValue(labels[i]) : labels[i]);
+    }
+    return shown;
 }
 
 void MarkerTableModel::setColorLabels(const QStringList &labels)
 {
     m_colorLabels = labels;
+    m_shownLabels = shownLabels(labels);
     rowsChanged(0, rowCount() - 1);
 }
 
@@ -52,8 +66,8 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
     std::vector<PopUpItem> items;
     const Column &column = columnAt(index.column());
     if (column.key == MarkerKey::color) {
-        for (int i = 0; i < m_colorLabels.size(); ++i)
-            items.push_back({m_colorLabels[i], TableIcons::marker(i), true});
+        for (int i = 0; i < m_shownLabels.size(); ++i)
+            items.push_back({m_shownLabels[i], TableIcons::marker(i), true});
         return items;
     }
     const RowRecord &record = *recordAt(index.row());
@@ -66,7 +80,8 @@ std::vector<PopUpItem> MarkerTableModel::popUpItems(const QModelIndex &index) co
     const bool leavesClip = isClip && popUpIndex(record, column) > 0;
     for (std::size_t i = 0; i < menu->size(); ++i) {
         const MenuItem &item = (*menu)[i];
-        items.push_back({titles[qsizetype(i)], TableIcons::named(item.image),
+        const QString &title = titles[qsizetype(i)];
+        items.push_back({i == 0 ? shownValue(title) : title, TableIcons::named(item.image),
                          item.element ? item.element.isAttached() : leavesClip});
     }
     return items;
@@ -100,9 +115,12 @@ QString MarkerTableModel::text(const RowRecord &record, const Column &column) co
         return TableModel::text(record, column);
     const int item = popUpIndex(record, column);
     if (column.key == MarkerKey::color)
-        return m_colorLabels.value(item);
+        return m_shownLabels.value(item);
     const MenuPtr menu = ownerMenu(record, column);
-    return menu && item >= 0 && item < int(menu->size()) ? (*menu)[std::size_t(item)].title : QString();
+    if (!menu || item < 0 || item >= int(menu->size()))
+        return QString();
+    const QString &title = (*menu)[std::size_t(item)].title;
+    return item == 0 ? shownValue(title) : title;
 }
 
 QIcon MarkerTableModel::icon(const RowRecord &record, const Column &column) const

@@ -17,6 +17,9 @@ public:
 
     /// The labels of the colours, by colour index.
     const QStringList &colorLabels() const { return m_colorLabels; }
+    /// The labels with the names of the colors in the window's language; those of a preset as they are.
+    static QStringList shownLabels(const QStringList &labels);
+    const QStringList &shownColorLabels() const { return m_shownLabels; }
     void setColorLabels(const QStringList &labels);
 
     /// The sequence menu was exchanged.
@@ -41,6 +44,7 @@ private:
     MenuPtr ownerMenu(const RowRecord &record, const Column &column) const;
 
     QStringList m_colorLabels;
+    QStringList m_shownLabels;
 };
 
 } // namespace vantrell

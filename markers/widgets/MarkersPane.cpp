@@ -69,8 +69,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_overview(new MarkerOverviewPanel(*this, workbench.document()))
 {
     m_filter->addItem(tr("All Colors"));
-    for (int i = 0; i < markerModel().colorLabels().size(); ++i)
-        m_filter->addItem(TableIcons::marker(i), markerModel().colorLabels()[i]);
+    for (int i = 0; i < markerModel().shownColorLabels().size(); ++i)
+        m_filter->addItem(TableIcons::marker(i), markerModel().shownColorLabels()[i]);
     m_filter->setAccessibleName(tr("Color of markers"));
     m_filter->setToolTip(tr("Show markers of one color only"));
     m_add->setToolTip(tr("Add a marker to the first sequence"));
@@ -296,8 +296,9 @@ void MarkersPane::setMarkerLabels(const QStringList &labels)
     if (labels == markerModel().colorLabels())
         return;
     markerModel().setColorLabels(labels);
-    for (int i = 0; i < labels.size() && i + 1 < m_filter->count(); ++i)
-        m_filter->setItemText(i + 1, labels[i]);
+    const QStringList &shown = markerModel().shownColorLabels();
+    for (int i = 0; i < shown.size() && i + 1 < m_filter->count(); ++i)
+        m_filter->setItemText(i + 1, shown[i]);
 }
 
 void MarkersPane::setMessage(const QString &text)
@@ -327,7 +328,7 @@ void MarkersPane::showMarkerAddDialog()
     const std::int64_t item =
         current.isValid() ? model().recordAt(current.row())->get(MarkerKey::sequenceIndex) : 1;
     auto *const sheet = new MarkerAddSheet(sequences, item, workbench().markerEditor().freeName(),
-                                           markerModel().colorLabels(), this);
+                                           markerModel().shownColorLabels(), this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
         whenIdle([this, sequence = sheet->sequence(), marker = sheet->marker()] {

@@ -184,7 +184,9 @@ void MediaPane::setDrives(std::vector<DriveItem> drives)
         const DriveItem &drive = m_driveItems[i];
         const bool isSystem = drive.path == QLatin1Char('/');
         m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path),
-                          isSystem ? systemDriveName() : drive.title);
+                          drive.path.isNull() ? tr("All Drives")
+                          : isSystem          ? systemDriveName()
+                                              : drive.title);
         if (!chosen.isNull() && drive.path == chosen)
             index = int(i);
     }

@@ -4,6 +4,7 @@
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QGuiApplication>
@@ -61,7 +62,15 @@ QString MediaTableModel::text(const RowRecord &record, const Column &column) con
 {
     if (column.key == MediaKey::missing)
         return isChecked(record, column) ? tr("missing") : QString();
-    return TableModel::text(record, column);
+    const QString text = TableModel::text(record, column);
+    static const QStringList ownWords{MediaKey::filetype.text(), QStringLiteral("length"),
+                                      QStringLiteral("used"), QStringLiteral("notes")};
+    if (!ownWords.contains(column.identifier))
+        return text;
+    QStringList words = text.split(QStringLiteral(", "));
+    for (QString &word : words)
+        word = shownValue(word);
+    return words.join(QStringLiteral(", "));
 }
 
 QIcon MediaTableModel::icon(const RowRecord &record, const Column &column) const

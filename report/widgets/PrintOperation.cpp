@@ -5,6 +5,7 @@
 #include "support/files/TaskRunner.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/ShownText.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -153,7 +154,7 @@ void PrintProgress::printed(const Result<void> &result)
         return;
     }
     m_bar->hide();
-    m_text->setText(result.message());
+    m_text->setText(shownMessage(result.message()));
     m_cancel->setText(tr("Close"));
 }
 

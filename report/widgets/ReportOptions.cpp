@@ -1,7 +1,9 @@
 #include "report/widgets/ReportOptions.h"
 
+#include "markers/MarkerColumns.h"
 #include "report/ReportGenerator.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/ShownText.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
@@ -49,7 +51,9 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     columnsLabel->setBuddy(m_columns);
     m_columns->setAccessibleName(tr("Columns of the report"));
     for (const PrintColumn &column : report.printColumnArray()) {
-        auto *const item = new QListWidgetItem(column.title, m_columns);
+        auto *const item = new QListWidgetItem(
+            isMarkerField(column.tableColumn.identifier) ? column.title : shownColumn(column.title),
+            m_columns);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(column.selected == 1 ? Qt::Checked : Qt::Unchecked);
     }

@@ -3,6 +3,7 @@
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/AlertBox.h"
 #include "support/widgets/NestedEvents.h"
+#include "support/widgets/ShownText.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -29,7 +30,21 @@ QWidget *windowOf(AlertParent *parent)
 
 bool isCancel(const QString &title)
 {
-    return title == QStringLiteral("Cancel") || title == QCoreApplication::translate("Alert", "Cancel");
+    const QString cancel = QStringLiteral("Cancel");
+    return title == cancel || title == shownMessage(cancel) ||
+           title == QCoreApplication::translate("Alert", "Cancel");
+}
+
+/// Texts of the core come in English.
+AlertDescription inWindowLanguage(const AlertDescription &description)
+{
+    AlertDescription shown = description;
+    for (const QString &key : {AlertKey::MessageText, AlertKey::InformativeText, AlertKey::DefaultButtonTitle,
+                               AlertKey::AlternateButtonTitle, AlertKey::OtherButtonTitle}) {
+        if (const auto text = shown.find(key); text != shown.end())
+            *text = shownMessage(*text);
+    }
+    return shown;
 }
 
 /// The buttons, in the order that the platform gives to their roles, each with its answer. Escape presses
@@ -71,9 +86,10 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
 
 } // namespace
 
-AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &description, AlertParent *parent,
+AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &english, AlertParent *parent,
                                                     Answer answered)
 {
+    const AlertDescription description = inWindowLanguage(english);
     QWidget *const window = windowOf(parent);
     auto *const box = new QMessageBox(window);
     setUpAlert(*box, description.value(AlertKey::MessageText), description.value(AlertKey::InformativeText));

@@ -32,6 +32,11 @@ void ControlPopUp::showPopup()
     QComboBox::showPopup();
 }
 
+QSize ControlPopUp::sizeHint() const
+{
+    return QComboBox::sizeHint() + QSize(fontMetrics().averageCharWidth() * 3 / 2, 0);
+}
+
 void ControlPopUp::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);

@@ -15,6 +15,8 @@ public:
     explicit ControlPopUp(QWidget *parent);
 
     void showPopup() override;
+    /// Wide enough for its titles with the margins around them.
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -5,6 +5,7 @@
 #include "support/widgets/ElidedLabel.h"
 #include "support/widgets/SelectableLabel.h"
 #include "table/widgets/ColumnLayout.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableDates.h"
@@ -144,7 +145,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     const MyDocument &document = m_workbench.document();
     connect(&document, &MyDocument::labelChanged, this, [this](Label label, const QString &text) {
         if (QLabel *widget = m_labels.value(label))
-            widget->setText(text);
+            widget->setText(shownMessage(text));
     });
     connect(&document, &MyDocument::messageGiven, this, [this](Tab given, const QString &text) {
         if (given == tab())
@@ -561,7 +562,7 @@ void TabPane::whenIdle(std::function<void()> answer)
 
 void TabPane::showMessage(const QString &text)
 {
-    setMessage(text);
+    setMessage(shownMessage(text));
     m_messageTime->start();
 }
 

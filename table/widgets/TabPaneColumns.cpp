@@ -15,7 +15,7 @@ namespace
 
 QString menuTitle(const Column &column)
 {
-    QString title = column.name;
+    QString title = TableModel::shownName(column);
     return title.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 

@@ -1,5 +1,8 @@
 #include "table/widgets/TableModel.h"
 
+#include "markers/MarkerColumns.h"
+#include "support/widgets/ShownText.h"
+
 #include <QTextDocument>
 
 namespace vantrell
@@ -11,6 +14,11 @@ TableModel::TableModel(MyDocument &document, Tab tab, QObject *parent)
     , m_tab(tab)
     , m_columns(view().columns())
 {
+}
+
+QString TableModel::shownName(const Column &column)
+{
+    return isMarkerField(column.identifier) ? column.name : shownColumn(column.name);
 }
 
 int TableModel::columnOf(const QString &identifier) const
@@ -102,9 +110,9 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         return QVariant();
     const Column &column = columnAt(section);
     if (role == Qt::DisplayRole)
-        return column.title;
+        return column.title.isEmpty() ? QString() : shownName(column);
     if (column.title.isEmpty() && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
-        return column.name;
+        return shownName(column);
     if (role == Qt::TextAlignmentRole)
         return QVariant(column.alignment | Qt::AlignVCenter);
     return QVariant();

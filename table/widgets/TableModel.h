@@ -51,6 +51,8 @@ public:
 
     const Columns &columns() const { return m_columns; }
     const Column &columnAt(int column) const { return m_columns[std::size_t(column)]; }
+    /// What the column is called in the window's language; a custom field as the user called it.
+    static QString shownName(const Column &column);
     /// -1 when there is no such column.
     int columnOf(const QString &identifier) const;
     /// Changes the title of a column that is present.

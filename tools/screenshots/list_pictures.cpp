@@ -5,6 +5,7 @@
 
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/Translations.h"
 #include "document/widgets/DocumentWindow.h"
 #include "interchange/NotePreview.h"
 #include "interchange/widgets/ExportNotesSheet.h"
@@ -106,6 +107,7 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
     AppController::startLog();
+    Translations::installChosen(application, UserDefaults::standard());
     const QTemporaryDir scratch;
     QFile notes(scratch.filePath(QStringLiteral("Harbour Lights – Reel 1 review.csv")));
     if (!notes.open(QIODevice::WriteOnly) || notes.write(reviewNotes) < 0)

@@ -5,6 +5,7 @@
 
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/Translations.h"
 #include "document/widgets/DocumentWindow.h"
 #include "handover/widgets/PathMappingsSheet.h"
 #include "handover/widgets/RelinkSheet.h"
@@ -189,6 +190,7 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
     AppController::startLog();
+    Translations::installChosen(application, UserDefaults::standard());
     const QString project = moveSample(QDir(arguments.at(1)));
     const bool isTaken = MediaPictures(arguments.at(2)).takeAll(project);
     QDir(drive).removeRecursively();

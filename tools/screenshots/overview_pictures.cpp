@@ -6,6 +6,7 @@
 
 #include "app/AppController.h"
 #include "app/Application.h"
+#include "app/Translations.h"
 #include "document/widgets/DocumentWindow.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkerStrip.h"
@@ -62,6 +63,7 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
     AppController::startLog();
+    Translations::installChosen(application, UserDefaults::standard());
     UserDefaults defaults{QString(), UserDefaults::Access::Volatile};
     AppController controller{defaults};
     controller.openFiles({arguments.at(1)});

@@ -10,6 +10,7 @@
 #include "app/PreferencesWindow.h"
 #include "app/RecentFiles.h"
 #include "app/StartWindow.h"
+#include "app/Translations.h"
 #include "bridge/widgets/QVFCPProjectLoader.h"
 #include "compare/widgets/ChangeTableModel.h"
 #include "compare/widgets/CompareWindow.h"
@@ -318,6 +319,7 @@ int main(int argc, char **argv)
     const QPalette light = QApplication::style()->standardPalette();
     QApplication::setPalette(light);
     AppController::startLog();
+    Translations::installChosen(application, UserDefaults::standard());
     const bool taken = Photographer(arguments.at(2), QStringLiteral("light")).takeAll(arguments.at(1));
     QApplication::setPalette(darkPalette());
     return taken && Photographer(arguments.at(2), QStringLiteral("dark")).takeAll(arguments.at(1)) ? 0 : 1;
