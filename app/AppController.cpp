@@ -356,9 +356,10 @@ DocumentWindow *AppController::makeWindow()
             m_quitting = Quitting::No;
     });
     connect(window, &QWidget::windowTitleChanged, this, &AppController::updateTitles);
-    window->setOpenElsewhere([this, window](const QString &file, const std::function<void(bool)> &found) {
-        findOpenElsewhere(file, *window, found);
-    });
+    window->setFindOpen(
+        [this, window](const QString &file, bool thisToo, const std::function<void(bool)> &found) {
+            findOpen(file, thisToo ? nullptr : window, found);
+        });
     window->setOtherWindows([this, window] { return windowsBeside(*window); });
     cascade(*window);
     window->show();
@@ -416,12 +417,13 @@ std::optional<AppController::Place> AppController::place(const QString &path,
     return found ? std::optional(Place{found->path, windowAt(found->index)}) : std::nullopt;
 }
 
-void AppController::findOpenElsewhere(const QString &path, const DocumentWindow &window,
-                                      const std::function<void(bool)> &found) const
+/// Whether a file is open in a window other than the exception, which may be null.
+void AppController::findOpen(const QString &path, const DocumentWindow *except,
+                             const std::function<void(bool)> &found) const
 {
     std::vector<DocumentWindow *> others = documentWindows();
-    std::erase_if(others, [&window](const DocumentWindow *other) {
-        return other == &window || other->state() == DocumentWindow::State::Failed;
+    std::erase_if(others, [except](const DocumentWindow *other) {
+        return other == except || other->state() == DocumentWindow::State::Failed;
     });
     const auto late = [found](DocumentWindow *open) { found(open != nullptr); };
     if (const std::optional<Place> there = place(path, others, late))

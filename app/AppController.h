@@ -121,8 +121,8 @@ private:
     std::vector<DocumentWindow *> windowsOf(const QString &typeName) const;
     static std::optional<Place> place(const QString &path, const std::vector<DocumentWindow *> &windows,
                                       const std::function<void(DocumentWindow *)> &late = {});
-    void findOpenElsewhere(const QString &path, const DocumentWindow &window,
-                           const std::function<void(bool)> &found) const;
+    void findOpen(const QString &path, const DocumentWindow *except,
+                  const std::function<void(bool)> &found) const;
     std::vector<DocumentWindow *> windowsBeside(const DocumentWindow &window) const;
     void cascade(DocumentWindow &window) const;
     void updateTitles();

@@ -63,7 +63,7 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
 {
     guarded("EffectEditor::updateXMLEffect", [&] {
         QVLog::appendLog(u"Updating XML effect key %@ value %@...", key, value);
-        if (!hasProject(changeTitle) || !isInProject(effect->get(EffectKey::effectElement), changeTitle))
+        if (!hasProject(changeTitle) || present({effect}, changeTitle).empty())
             return;
         const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value, 1));
         QString text = value;
@@ -86,9 +86,16 @@ void EffectEditor::updateXMLEffect(const RowRecordPtr &effect, const QString &ke
 
 void EffectEditor::updateXMLEffects(const RowList &effects, const QString &key, const QString &value)
 {
-    const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value, effects.size()));
-    for (const RowRecordPtr &effect : effects)
-        updateXMLEffect(effect, key, value);
+    guarded("EffectEditor::updateXMLEffects", [&] {
+        if (!hasProject(changeTitle))
+            return;
+        const RowList changed = present(effects, changeTitle);
+        if (changed.empty() || m_document.refusesWhileSaving(changeTitle))
+            return;
+        const DocumentEdit edit(m_document, Tab::Effects, nameOfChange(key, value, changed.size()));
+        for (const RowRecordPtr &effect : changed)
+            updateXMLEffect(effect, key, value);
+    });
 }
 
 void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
@@ -97,7 +104,7 @@ void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
         if (!hasProject(removeTitle))
             return;
         const XmlNode element = effect->get(EffectKey::effectElement);
-        if (!isInProject(element, removeTitle))
+        if (present({effect}, removeTitle).empty())
             return;
         const DocumentEdit edit(m_document, Tab::Effects, nameOfRemoval(1));
         m_document.xmlDoc()->remove(element);
@@ -138,8 +145,11 @@ bool EffectEditor::remove(const RowList &effects)
         // The answer may come while the project is being saved, which began since.
         if (answer != AlertAnswer::Default || m_document.refusesWhileSaving(removeTitle))
             return;
+        const RowList removed = hasProject(removeTitle) ? present(effects, removeTitle) : RowList();
+        if (m_document.refusesWhileSaving(removeTitle)) // since that alert
+            return;
         const DocumentEdit edit(m_document, Tab::Effects, nameOfRemoval(effects.size()));
-        removeElements(effects);
+        removeElements(removed);
         m_document.removeRows(Tab::Effects, effects);
         m_inventory.populateFilteredEffectData();
         isRemoved = true;
@@ -150,15 +160,8 @@ bool EffectEditor::remove(const RowList &effects)
 /// What goes with another of the effects, such as the filters of a generator, counts as removed, too.
 void EffectEditor::removeElements(const RowList &effects)
 {
-    if (!hasProject(removeTitle))
-        return;
-    RowList present;
-    for (const RowRecordPtr &effect : effects) {
-        if (isInProject(effect->get(EffectKey::effectElement), removeTitle))
-            present.push_back(effect);
-    }
     XmlNodeList removed;
-    for (const RowRecordPtr &effect : present) {
+    for (const RowRecordPtr &effect : effects) {
         removed.push_back(effect->get(EffectKey::effectElement));
         m_document.xmlDoc()->remove(removed.back());
         m_document.markSequenceModified(effect->get(EffectKey::sequenceUUID));
@@ -189,14 +192,22 @@ bool EffectEditor::hasProject(const QString &alertTitle)
     return false;
 }
 
-/// Whether an edit of the element would be saved; an alert under that title says when not.
-bool EffectEditor::isInProject(XmlNode element, const QString &alertTitle)
+/// Those of the effects whose edits would be saved; one alert under that title tells of the others.
+RowList EffectEditor::present(const RowList &effects, const QString &alertTitle)
 {
-    if (element.isAttached())
-        return true;
-    QVAlert::alertSheetWithMessageText(alertTitle, QStringLiteral("It was removed from the project."),
-                                       m_document.interface().alertParent());
-    return false;
+    RowList present;
+    std::copy_if(effects.begin(), effects.end(), std::back_inserter(present), [](const RowRecordPtr &effect) {
+        return effect->get(EffectKey::effectElement).isAttached();
+    });
+    const std::size_t gone = effects.size() - present.size();
+    if (gone > 0) {
+        const QString reason =
+            effects.size() == 1 ? QStringLiteral("It was removed from the project.")
+            : gone == 1         ? QStringLiteral("One of the effects was removed from the project.")
+                        : QStringLiteral("%1 of the effects were removed from the project.").arg(gone);
+        QVAlert::alertSheetWithMessageText(alertTitle, reason, m_document.interface().alertParent());
+    }
+    return present;
 }
 
 } // namespace vantrell

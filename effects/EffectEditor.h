@@ -34,7 +34,8 @@ public:
     /// that cannot be an element's name changes nothing.
     void updateXMLEffect(const RowRecordPtr &effect, const QString &key, const QString &value);
 
-    /// The same for each of the effects.
+    /// The same for each of the effects; one alert tells of those that are no longer in the tree. Refused
+    /// with an alert while the project is being saved.
     void updateXMLEffects(const RowList &effects, const QString &key, const QString &value);
 
     /// Takes the effect's element out of the tree, a generator with all that is on it. Without a project
@@ -54,7 +55,7 @@ public:
 
 private:
     bool hasProject(const QString &alertTitle);
-    bool isInProject(XmlNode element, const QString &alertTitle);
+    RowList present(const RowList &effects, const QString &alertTitle);
     void removeElements(const RowList &effects);
     void noteRemoved(const XmlNodeList &elements);
 

@@ -107,7 +107,8 @@ void CutStrips::changeEvent(QEvent *event)
 
 double CutStrips::x(double seconds) const
 {
-    return m_gutter * 3 / 4 + seconds * m_scale - horizontalScrollBar()->value();
+    const int origin = m_gutter * 3 / 4;
+    return origin + seconds * m_scale - horizontalScrollBar()->value();
 }
 
 double CutStrips::x(Which which, double frame) const

@@ -105,6 +105,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
+    setMinimumSize(QSize(680, 460).boundedTo(screen()->availableSize()));
     if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
@@ -113,10 +114,14 @@ DocumentWindow::~DocumentWindow()
 {
     m_state.close();
     endSession();
-    for (Reverted &reverted : m_reverted) {
-        qDeleteAll(reverted.panes);
-        DocumentDisposal::dispose(std::move(reverted.workbench), std::move(reverted.interface));
-    }
+    for (Reverted &reverted : m_reverted)
+        reverted.dispose();
+}
+
+void DocumentWindow::Reverted::dispose()
+{
+    qDeleteAll(panes);
+    DocumentDisposal::dispose(std::move(workbench), std::move(interface));
 }
 
 void DocumentWindow::makeToolBar()
@@ -207,7 +212,7 @@ bool DocumentWindow::openWithChanges(const QString &path, const QString &typeNam
 bool DocumentWindow::restoreChanges(JournalFolder::Restorable changes)
 {
     const MyDocument *const current = document();
-    if (!current || isBusy() || current->isSaving() || current->isEdited())
+    if (!current || m_isCovered || isBusy() || current->isSaving() || current->isEdited())
         return false;
     m_restorable.emplace(std::move(changes));
     reload();
@@ -223,8 +228,10 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     connect(media, &MediaPane::relinkRequested, this, [this](const QString &url) { m_media.relink(url); });
     connect(media, &MediaPane::exportListRequested, this, &DocumentWindow::exportMediaList);
     m_panes = {media, new EffectsPane(*m_workbench, m_defaults), new MarkersPane(*m_workbench, m_defaults)};
-    for (TabPane *const pane : m_panes)
+    for (TabPane *const pane : m_panes) {
         m_content->addWidget(pane);
+        pane->setWhenIdle([this](std::function<void()> answer) { whenIdle(std::move(answer)); });
+    }
     const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
     if (m_restorable)
         journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
@@ -271,6 +278,7 @@ void DocumentWindow::leaveSession()
     m_interface->disconnectFromWindow();
     qDeleteAll(findChildren<MarkerListImport *>());
     m_notes.close();
+    m_answers.clear();
     m_work.reset();
     m_sending.reset();
     m_state.load();
@@ -290,39 +298,49 @@ void DocumentWindow::endSession()
     DocumentDisposal::dispose(std::move(m_workbench), std::move(m_interface));
 }
 
-/// Keeps the document with its panes, as they are, for undoRevert().
+/// Keeps the document with its panes, as they are, for undoRevert() and in case the file cannot be read.
 void DocumentWindow::keepSession()
 {
+    const bool isEdited = m_workbench->document().isEdited();
+    const bool isListed = state() == State::Ready;
     leaveSession();
     if (DocumentJournal *const journal = m_workbench->document().journal())
         journal->setGivenUp(true);
     for (TabPane *const pane : m_panes)
         m_content->removeWidget(pane);
-    m_reverted.push_back({m_path,
-                          m_typeName,
-                          std::move(m_interface),
-                          std::move(m_workbench),
-                          m_panes,
-                          m_notice->notice(),
-                          m_notice->kind(),
-                          {}});
+    m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes,
+                          m_notice->notice(), m_notice->kind(), isEdited, isListed});
     m_panes = {};
 }
 
 void DocumentWindow::undoRevert()
 {
     const QString path = m_reverted.back().path;
-    if (path != m_path && m_saving.isOpenElsewhere(path)) {
-        showFailure(tr("“%1” cannot be shown as it was.").arg(QFileInfo(path).fileName()),
-                    tr("The file is open in another window. Close that window first."));
+    if (path == m_path) {
+        showReverted();
         return;
     }
+    const QString name = QFileInfo(path).fileName();
+    m_saving.findOpen(path, false, tr("Waiting for the volume of “%1”…").arg(name),
+                      [this, name](bool isOpen) {
+                          if (isOpen)
+                              showFailure(tr("“%1” cannot be shown as it was.").arg(name),
+                                          tr("The file is open in another window. Close that window first."));
+                          else
+                              showReverted();
+                      });
+}
+
+/// Shows what was reverted last in place of what is there now.
+void DocumentWindow::showReverted()
+{
     endSession();
     Reverted reverted = std::move(m_reverted.back());
     m_reverted.pop_back();
     m_interface = std::move(reverted.interface);
     m_workbench = std::move(reverted.workbench);
     m_panes = reverted.panes;
+    m_interface->alertParent()->setOpen();
     MyDocument &document = m_workbench->document();
     if (DocumentJournal *const journal = document.journal())
         journal->setGivenUp(false);
@@ -330,17 +348,23 @@ void DocumentWindow::undoRevert()
         m_content->addWidget(pane);
     connectSession();
     m_state.treeLoaded();
-    m_state.listsFilled();
+    if (reverted.isListed)
+        m_state.listsFilled();
     m_toolBar->setEnabled(true);
     m_notice->setNotice(reverted.notice, reverted.noticeKind);
     setFile(reverted.path, reverted.typeName);
     setWindowModified(document.isEdited());
     updateEditing();
     updateOwnersNotice();
+    m_media.resume();
     for (const QString &key : std::as_const(reverted.changedDefaults))
         applyDefaultsChange(key);
     showPane(document.viewState().selectedTab);
     applyOwnerListing();
+    const bool isListing = document.isPopulating(Tab::Media) || document.isPopulating(Tab::Effects) ||
+                           document.isPopulating(Tab::Markers);
+    if (!reverted.isListed && !isListing)
+        inventoriesEnded(); // while it was put aside
 }
 
 void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &notice)
@@ -350,6 +374,11 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         return;
     }
     m_state.treeLoaded();
+    // What the file has lost may be in the project as it was.
+    if (std::exchange(m_isReloading, false) && !m_reverted.back().isEdited && notice.isEmpty()) {
+        m_reverted.back().dispose();
+        m_reverted.pop_back();
+    }
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
@@ -413,20 +442,59 @@ void DocumentWindow::showLoadFailure(const QString &message)
                                  ? tr("Project files are read by way of Final Cut Pro 7, which gave "
                                       "no project. An XML export of it opens without.")
                                  : message);
-    m_content->setCurrentWidget(m_failure->parentWidget());
+    if (std::exchange(m_isReloading, false)) {
+        // The document that failed is telling of it: it is replaced after that.
+        m_hasReloadFailed = true;
+        QMetaObject::invokeMethod(this, &DocumentWindow::returnFromFailedReload, Qt::QueuedConnection);
+    } else {
+        m_content->setCurrentWidget(m_failure->parentWidget());
+    }
     Q_EMIT menusChanged();
     Q_EMIT loadFailed(m_path);
 }
 
+/// The project that the reload was to replace may be the only copy that is left.
+void DocumentWindow::returnFromFailedReload()
+{
+    if (isClosing() || !std::exchange(m_hasReloadFailed, false))
+        return;
+    showReverted();
+    showFailure(m_failure->text(),
+                m_failureReason->text() + QLatin1Char('\n') +
+                    tr("The project stays open as it is. You can save it to another place."));
+}
+
 bool DocumentWindow::mayEdit() const
 {
-    return state() == State::Ready && !isBusy() && !m_workbench->document().isSaving();
+    return state() == State::Ready && isIdle();
+}
+
+bool DocumentWindow::isIdle() const
+{
+    return !isBusy() && !m_workbench->document().isSaving();
 }
 
 void DocumentWindow::updateEditing()
 {
     for (TabPane *const pane : m_panes)
         pane->setEditingEnabled(mayEdit());
+    if (!m_answers.empty())
+        QMetaObject::invokeMethod(this, &DocumentWindow::applyAnswers, Qt::QueuedConnection);
+}
+
+void DocumentWindow::whenIdle(std::function<void()> answer)
+{
+    m_answers.push_back(std::move(answer));
+    applyAnswers();
+}
+
+void DocumentWindow::applyAnswers()
+{
+    while (!m_answers.empty() && m_workbench && !isClosing() && state() != State::Loading && isIdle()) {
+        const std::function<void()> answer = std::move(m_answers.front());
+        m_answers.pop_front();
+        answer();
+    }
 }
 
 void DocumentWindow::commitEditing()
@@ -435,15 +503,18 @@ void DocumentWindow::commitEditing()
         if (pane)
             pane->table().commitEditing();
     }
+    applyAnswers();
+    returnFromFailedReload();
 }
 
 /// What follows a long operation.
 void DocumentWindow::workEnded(WindowState::Next next)
 {
+    // What ended the operation goes on first, and may begin another.
     if (next == WindowState::Next::Close)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     else
-        applyOwnerListing();
+        QMetaObject::invokeMethod(this, &DocumentWindow::applyOwnerListing, Qt::QueuedConnection);
 }
 
 void DocumentWindow::cancelProgress()
@@ -585,10 +656,8 @@ void DocumentWindow::selectToolbarItem(Tab tab)
 void DocumentWindow::reload()
 {
     const Tab tab = selectedTab();
-    if (document() && document()->isEdited())
-        keepSession();
-    else
-        endSession();
+    keepSession();
+    m_isReloading = true;
     open(m_path, m_typeName);
     if (state() != State::Failed && !isClosing() && tab != Tab::Media)
         (this->*toolBarItems()[std::size_t(tab)].action)();
@@ -627,10 +696,10 @@ void DocumentWindow::updateOwnersNotice()
 }
 
 /// Lists the markers again when the user has changed which owners are listed, unless something else is going
-/// on.
+/// on. A sheet or alert that waits for an answer may be about rows that are listed now.
 void DocumentWindow::applyOwnerListing()
 {
-    if (!m_workbench || !mayEdit())
+    if (!m_workbench || m_isCovered || !mayEdit())
         return;
     MarkerInventory &inventory = m_workbench->markerInventory();
     const auto wanted =
@@ -752,8 +821,6 @@ bool DocumentWindow::mayUndoRevert() const
 {
     if (m_reverted.empty() || isBusy() || isClosing())
         return false;
-    if (state() == State::Failed)
-        return true;
     const MyDocument *const current = document();
     return current && mayEdit() && !current->canUndo() && !current->isEdited();
 }
@@ -835,6 +902,16 @@ void DocumentWindow::removeSelection()
         static_cast<EffectsPane &>(pane(Tab::Effects)).removeEffects();
     else if (selectedTab() == Tab::Markers)
         static_cast<MarkersPane &>(pane(Tab::Markers)).removeMarkers();
+}
+
+bool DocumentWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked) {
+        m_isCovered = event->type() == QEvent::WindowBlocked;
+        if (!m_isCovered)
+            QMetaObject::invokeMethod(this, &DocumentWindow::applyOwnerListing, Qt::QueuedConnection);
+    }
+    return QMainWindow::event(event);
 }
 
 void DocumentWindow::closeEvent(QCloseEvent *event)

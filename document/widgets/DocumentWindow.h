@@ -20,6 +20,7 @@
 
 #include <array>
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -65,7 +66,8 @@ public:
 
     /// The same, with the unsaved changes of a journal restored.
     bool openWithChanges(const QString &path, const QString &typeName, JournalFolder::Restorable changes);
-    /// Loads the file again with these changes restored; false when the project was edited or is in use.
+    /// Loads the file again with these changes restored; false when the project was edited, is in use or has
+    /// a question of its own.
     bool restoreChanges(JournalFolder::Restorable changes);
 
     /// The window's file, and the document type it was last opened or saved as.
@@ -103,11 +105,7 @@ public:
     QString message() const;
 
     /// Tells the window how to find out whether a file is open in another one.
-    void setOpenElsewhere(WindowSaving::OpenElsewhere openElsewhere)
-    {
-        m_saving.setOpenElsewhere(std::move(openElsewhere));
-    }
-    bool isOpenElsewhere(const QString &path) const { return m_saving.isOpenElsewhere(path); }
+    void setFindOpen(WindowSaving::FindOpen findOpen) { m_saving.setFindOpen(std::move(findOpen)); }
 
     /// Tells the window how to find the other windows whose projects are ready.
     void setOtherWindows(std::function<std::vector<DocumentWindow *>()> otherWindows)
@@ -252,8 +250,17 @@ public:
 
     // For the classes that the window consists of
 
-    /// Writes text that is being typed into a cell to the document.
+    /// Settles what is pending: text that is being typed into a cell, the answers that whenIdle() keeps, and
+    /// the return from a failed reload.
     void commitEditing();
+    /// Applies what a sheet or panel was answered with: now, or once the long operation has ended that began
+    /// while it was open. What waits when the document goes is dropped.
+    void whenIdle(std::function<void()> answer);
+    /// Tells whether any window has the file; see WindowSaving::findOpen().
+    void findOpen(const QString &path, const QString &text, const std::function<void(bool isOpen)> &found)
+    {
+        m_saving.findOpen(path, true, text, found);
+    }
     /// Whether the project could not be loaded; if so, an alert says why.
     bool refusesAfterFailedLoad();
     void showFailure(const QString &title, const QString &reason);
@@ -311,6 +318,7 @@ Q_SIGNALS:
     void changesSettled(bool areSettled);
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -325,6 +333,10 @@ private:
     void endSession();
     void keepSession();
     void undoRevert();
+    void showReverted();
+    void returnFromFailedReload();
+    void applyAnswers();
+    bool isIdle() const;
     void showOutcomeOfRestoring();
     void showLoadFailure(const QString &message);
     void loadEnded(bool loaded, const QString &message, const QString &notice);
@@ -380,9 +392,18 @@ private:
         std::array<TabPane *, 3> panes;
         QString notice;
         NoticeBar::Kind noticeKind;
-        QSet<QString> changedDefaults; ///< meanwhile
+        bool isEdited = false;
+        bool isListed = false;              ///< its rows had all been collected
+        QSet<QString> changedDefaults = {}; ///< meanwhile
+
+        void dispose();
     };
     std::vector<Reverted> m_reverted; ///< the last one at the end
+    bool m_isReloading = false;       ///< until the file has been read; the last one is kept until then
+    bool m_hasReloadFailed = false;   ///< and the last one is still to be shown again
+
+    std::deque<std::function<void()>> m_answers; ///< see whenIdle()
+    bool m_isCovered = false;                    ///< by a sheet, panel or alert that waits for an answer
 };
 
 } // namespace vantrell

@@ -38,8 +38,9 @@ void WindowMarkerLists::runOpenPanel(const QString &format)
         return;
     if (const auto panel = m_window.workbench().markerListImporter().showMarkerListOpenDialog(format))
         runMarkerListOpenPanel(
-            *panel, &m_window, m_window.folder(),
-            [this, format](const QStringList &paths) { importMarkerLists(paths, format); });
+            *panel, &m_window, m_window.folder(), [this, format](const QStringList &paths) {
+                m_window.whenIdle([this, paths, format] { importMarkerLists(paths, format); });
+            });
 }
 
 void WindowMarkerLists::importMarkerLists(const QStringList &paths, const QString &format)
@@ -96,8 +97,9 @@ void WindowMarkerLists::runSavePanel(const QString &format)
     if (m_state.isBusy() || m_window.refusesAfterFailedLoad())
         return;
     if (const auto panel = m_window.workbench().markerListExporter().showMarkerListSaveDialog(format))
-        runMarkerListSavePanel(*panel, &m_window, m_window.folder(),
-                               [this, format](const QString &path) { exportMarkerList(path, format); });
+        runMarkerListSavePanel(*panel, &m_window, m_window.folder(), [this, format](const QString &path) {
+            m_window.whenIdle([this, path, format] { exportMarkerList(path, format); });
+        });
 }
 
 void WindowMarkerLists::exportMarkerList(const QString &path, const QString &format)

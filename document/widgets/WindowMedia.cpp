@@ -91,8 +91,22 @@ WindowMedia::~WindowMedia() = default;
 
 void WindowMedia::start()
 {
+    m_window.workbench().mediaInventory().setPathMappings(PathMappings::stored(m_defaults));
+    makeLook();
+}
+
+void WindowMedia::resume()
+{
+    makeLook();
+    if (m_state.stage() != WindowState::Stage::Ready)
+        return; // listing looks for the files
+    m_look->begin();
+    applyMappings();
+}
+
+void WindowMedia::makeLook()
+{
     Workbench &workbench = m_window.workbench();
-    workbench.mediaInventory().setPathMappings(PathMappings::stored(m_defaults));
     m_look = std::make_unique<MediaLook>(workbench.document(), workbench.mediaInventory(),
                                          workbench.mediaFilter());
 }
@@ -138,7 +152,9 @@ void WindowMedia::relink(const QString &url)
     }
     auto *const sheet = new RelinkSheet(std::move(missing), m_window.folder(), url, m_defaults, &m_window);
     QObject::connect(sheet, &RelinkSheet::relinkChosen, &m_window,
-                     [this](const std::vector<RelinkChoice> &choices) { relinkTo(choices); });
+                     [this](const std::vector<RelinkChoice> &choices) {
+                         m_window.whenIdle([this, choices] { relinkTo(choices); });
+                     });
     QObject::connect(sheet, &RelinkSheet::mappingChosen, &m_window,
                      [this](const PathMapping &mapping) { storeMapping(mapping); });
     QObject::connect(
@@ -259,7 +275,8 @@ void WindowMedia::exportList()
     auto *const sheet = new ExportListSheet(sequences, m_window.fileTitle(), m_window.folder(), &m_window);
     QObject::connect(sheet, &ExportListSheet::chosen, &m_window,
                      [this](const QString &path, MediaListFormat format, const MediaListScope &scope) {
-                         exportListTo(path, format, scope);
+                         m_window.whenIdle(
+                             [this, path, format, scope] { exportListTo(path, format, scope); });
                      });
     openSheet(sheet);
 }
@@ -385,7 +402,9 @@ void WindowMedia::verifyList()
                               .folder = m_window.folder(),
                               .filter = tr("Media hash lists") + QStringLiteral(" (*.mhl *.MHL)"),
                               .acceptLabel = tr("Verify")},
-                             [this](const QStringList &paths) { verifyListAt(paths.value(0)); });
+                             [this](const QStringList &paths) {
+                                 m_window.whenIdle([this, paths] { verifyListAt(paths.value(0)); });
+                             });
 }
 
 void WindowMedia::verifyListAt(const QString &path)

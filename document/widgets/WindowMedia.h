@@ -33,6 +33,8 @@ public:
 
     /// The window has a new document, which has not been opened yet.
     void start();
+    /// Goes on with a document that close() was called for, and looks for its files again.
+    void resume();
 
     /// Asks where the missing files are; the user began with the one at that URL, or with none (null).
     void relink(const QString &url);
@@ -54,6 +56,7 @@ private:
     struct Transfer;
     struct ListJob;
 
+    void makeLook();
     bool mayChange();
     void relinked(std::size_t count);
     void storeMapping(const PathMapping &mapping);

@@ -8,12 +8,14 @@
 #include "interchange/widgets/ExportNotesSheet.h"
 #include "interchange/widgets/NoteAddition.h"
 #include "interchange/widgets/NotePreviewSheet.h"
+#include "markers/MarkerKeys.h"
 #include "support/files/CancellableWrite.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/widgets/FilePanel.h"
 #include "table/widgets/TabPane.h"
 #include "workbench/Workbench.h"
+#include "xml/QVXMLParser.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -22,6 +24,7 @@
 #include <QMimeData>
 #include <QTimer>
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <optional>
@@ -42,6 +45,16 @@ struct ReadNotes {
 
 } // namespace
 
+/// A list that is to be written.
+struct WindowNotes::Export {
+    QString format;
+    QStringList columns;
+    std::size_t count = 0; ///< of markers
+    std::vector<WrittenNote> notes = {};
+    std::optional<MarkerJson> json = std::nullopt; ///< instead of the notes
+    QStringList changes = {};
+};
+
 bool WindowNotes::mayImport()
 {
     if (!m_lists.mayChangeMarkers() || m_state.isClosed() || m_preview || m_addition)
@@ -61,22 +74,27 @@ void WindowNotes::runOpenPanel()
     m_window.commitEditing();
     if (!mayImport())
         return;
-    FilePanel::runForOpening({.window = &m_window,
-                              .title = tr("Import Notes"),
-                              .folder = m_window.folder(),
-                              .filter = tr("Lists of notes (*.txt *.csv *.tsv *.edl *.xml *.fcpxml *.md "
-                                           "*.json *.vtt *.srt *.TXT *.CSV *.EDL *.XML)") +
-                                        QStringLiteral(";;") + tr("All files (*)"),
-                              .acceptLabel = tr("Open")},
-                             [this](const QStringList &paths) { importFiles(paths); });
+    FilePanel::runForOpening(
+        {.window = &m_window,
+         .title = tr("Import Notes"),
+         .folder = m_window.folder(),
+         .filter = tr("Lists of notes (*.txt *.csv *.tsv *.edl *.xml *.fcpxml *.md "
+                      "*.json *.vtt *.srt *.TXT *.CSV *.EDL *.XML)") +
+                   QStringLiteral(";;") + tr("All files (*)"),
+         .acceptLabel = tr("Open")},
+        [this](const QStringList &paths) { m_window.whenIdle([this, paths] { importFiles(paths); }); });
 }
 
 void WindowNotes::importFiles(const QStringList &paths)
 {
     m_window.commitEditing();
+    if (m_preview || m_addition) {
+        m_waiting += paths; // after those that are being imported
+        return;
+    }
     if (paths.isEmpty() || !mayImport())
         return;
-    m_waiting = paths;
+    m_waiting += paths;
     importNext();
 }
 
@@ -124,7 +142,7 @@ void WindowNotes::takeDropped(const QStringList &paths)
         [this, sorted](const Result<void> &) {
             if (!sorted->projects.isEmpty())
                 Q_EMIT m_window.filesDropped(sorted->projects);
-            importFiles(sorted->lists);
+            m_window.whenIdle([this, lists = sorted->lists] { importFiles(lists); });
         });
 }
 
@@ -170,15 +188,35 @@ void WindowNotes::tellUnusable(const QString &name, const QString &reason)
         m_window.showFailure(tr("“%1” could not be read").arg(name), reason);
 }
 
+/// What is pasted belongs to the sequence of the first selected marker; to the first one without any.
+std::int64_t WindowNotes::selectedSequence() const
+{
+    MyDocument &document = m_window.workbench().document();
+    const RowList selected = document.selectedRecords(Tab::Markers);
+    if (selected.empty())
+        return 1;
+    // Which need not be the one that the marker is listed under.
+    const XmlNode sequence =
+        QVXMLParser::parentWithName(selected.front()->get(MarkerKey::markerElement), "sequence");
+    const MenuPtr menu = document.sequenceMenu();
+    const auto item = std::find_if(menu->begin(), menu->end(),
+                                   [sequence](const auto &entry) { return entry.element == sequence; });
+    return !sequence || item == menu->end() ? 1 : item - menu->begin();
+}
+
 void WindowNotes::show(const NoteSource &source)
 {
     Workbench &workbench = m_window.workbench();
-    m_preview = new NotePreviewSheet(new NotePreview(workbench.document(), workbench.markerEditor(), source),
-                                     &m_window);
+    const std::int64_t item = source.path.isNull() ? selectedSequence() : 1;
+    m_preview = new NotePreviewSheet(
+        new NotePreview(workbench.document(), workbench.markerEditor(), source, item), &m_window);
     NotePreviewSheet *const sheet = m_preview;
     QObject::connect(sheet, &NotePreviewSheet::chosen, &m_window, [this, sheet] {
-        m_preview = nullptr;
-        add(sheet->preview());
+        m_window.whenIdle([this, sheet] {
+            m_preview = nullptr;
+            add(sheet->preview());
+            sheet->deleteLater();
+        });
     });
     QObject::connect(sheet, &QDialog::rejected, &m_window, [this] {
         m_preview = nullptr;
@@ -302,30 +340,28 @@ void WindowNotes::exportNotes()
     m_export = new ExportNotesSheet(workbench.document(), {std::move(selected), shown}, m_window.fileTitle(),
                                     m_window.folder(), &m_window);
     ExportNotesSheet *const sheet = m_export;
-    QObject::connect(sheet, &ExportNotesSheet::chosen, &m_window,
-                     [this, sheet](const QString &path) { exportTo(path, *sheet); });
+    QObject::connect(sheet, &ExportNotesSheet::chosen, &m_window, [this, sheet](const QString &path) {
+        m_window.whenIdle([this, path, list = exportOf(*sheet)] { exportTo(path, list); });
+    });
     QObject::connect(sheet, &QDialog::finished, &m_window, [this] { m_export = nullptr; });
     sheet->open();
 }
 
-void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
+std::shared_ptr<WindowNotes::Export> WindowNotes::exportOf(const ExportNotesSheet &sheet) const
 {
-    if (m_state.isBusy() || !m_window.document())
-        return;
-    struct Export {
-        QString format;
-        QStringList columns;
-        std::vector<WrittenNote> notes = {};
-        std::optional<MarkerJson> json = std::nullopt; ///< instead of the notes
-        QStringList changes = {};
-    };
     const RowList markers = sheet.markers();
-    const std::size_t count = markers.size();
-    const auto list = std::make_shared<Export>(Export{sheet.format(), sheet.columns()});
+    const auto list = std::make_shared<Export>(Export{sheet.format(), sheet.columns(), markers.size()});
     if (list->format == QStringLiteral("json"))
         list->json.emplace(markers);
     else
         list->notes = NoteExporter::notes(markers);
+    return list;
+}
+
+void WindowNotes::exportTo(const QString &path, const std::shared_ptr<Export> &list)
+{
+    if (!m_window.document())
+        return;
     const auto write = std::make_shared<CancellableWrite>();
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [this, write] {
@@ -341,10 +377,11 @@ void WindowNotes::exportTo(const QString &path, const ExportNotesSheet &sheet)
             return FileUtilities::writeAtomically(path, written.text.toUtf8(), write->check());
         },
         m_window.document()->mainThread(),
-        [this, write, path, list, count](const Result<void> &written) {
+        [this, write, path, list](const Result<void> &written) {
             if (write->isCancelled())
                 return;
             m_work.end();
+            const std::size_t count = list->count;
             const QString name = QFileInfo(path).fileName();
             if (!written) {
                 m_window.showFailure(tr("The notes could not be exported to “%1”.").arg(name),

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 class QMimeData;
 
@@ -45,9 +46,12 @@ public:
     void close();
 
 private:
+    struct Export;
+
     bool mayImport();
     void importNext();
     void read(const QString &title, std::function<Result<NoteSource>()> read);
+    std::int64_t selectedSequence() const;
     void show(const NoteSource &source);
     void tellUnusable(const QString &name, const QString &reason);
     void add(const NotePreview &preview);
@@ -55,7 +59,8 @@ private:
     void added(const NoteAddition &addition);
     void select(const NoteAddition &addition);
     void tellRejected(const NoteAddition &addition);
-    void exportTo(const QString &path, const ExportNotesSheet &sheet);
+    std::shared_ptr<Export> exportOf(const ExportNotesSheet &sheet) const;
+    void exportTo(const QString &path, const std::shared_ptr<Export> &list);
 
     WindowMarkerLists &m_lists;
     UserDefaults &m_defaults;

@@ -172,7 +172,9 @@ void WindowReports::exportReport()
     auto *const sheet =
         new ExportReportSheet(*report, m_defaults, m_window.fileTitle(), m_window.folder(), &m_window);
     QObject::connect(sheet, &ExportReportSheet::chosen, &m_window,
-                     [this](const QString &path, ReportFormat format) { exportReportTo(path, format); });
+                     [this](const QString &path, ReportFormat format) {
+                         m_window.whenIdle([this, path, format] { exportReportTo(path, format); });
+                     });
     sheet->open();
 }
 

@@ -43,17 +43,12 @@ void WindowSaving::saveTo(const QString &path)
         finish(false);
         return;
     }
-    if (path == m_window.path() || !m_openElsewhere) {
+    if (path == m_window.path()) {
         write(path);
         return;
     }
     const QString name = QFileInfo(path).fileName();
-    const auto isAsking = std::make_shared<bool>(true);
-    m_openElsewhere(path, [this, window = QPointer(&m_window), path, name, isAsking](bool isOpen) {
-        if (!window || m_state.isClosed() || !std::exchange(*isAsking, false))
-            return;
-        if (m_state.isBusy())
-            m_work.end();
+    const auto found = [this, path, name](bool isOpen) {
         if (!isOpen) {
             write(path);
             return;
@@ -62,21 +57,36 @@ void WindowSaving::saveTo(const QString &path)
                              tr("The file is open in another window. Close that window first, or choose "
                                 "another name."));
         finish(false);
-    });
-    if (*isAsking)
-        m_work.begin(tr("Saving “%1”…").arg(name), WindowState::Work::Cancellable, [this, isAsking] {
-            *isAsking = false;
-            m_work.end();
-            finish(false);
-        });
+    };
+    findOpen(path, false, tr("Saving “%1”…").arg(name), found, [this] { finish(false); });
 }
 
-bool WindowSaving::isOpenElsewhere(const QString &path) const
+void WindowSaving::findOpen(const QString &path, bool thisToo, const QString &text,
+                            const std::function<void(bool isOpen)> &found,
+                            const std::function<void()> &cancelled)
 {
-    const auto isOpen = std::make_shared<bool>(false);
-    if (m_openElsewhere)
-        m_openElsewhere(path, [isOpen](bool open) { *isOpen = open; });
-    return *isOpen;
+    if (!m_findOpen) {
+        found(thisToo && path == m_window.path());
+        return;
+    }
+    const auto isAsking = std::make_shared<bool>(true);
+    const auto isLate = std::make_shared<bool>(false);
+    m_findOpen(path, thisToo, [this, window = QPointer(&m_window), found, isAsking, isLate](bool isOpen) {
+        if (!window || m_state.isClosed() || !std::exchange(*isAsking, false))
+            return;
+        if (*isLate)
+            m_work.end();
+        found(isOpen);
+    });
+    if (!*isAsking)
+        return;
+    *isLate = true;
+    m_work.begin(text, WindowState::Work::Cancellable, [this, cancelled, isAsking] {
+        *isAsking = false;
+        m_work.end();
+        if (cancelled)
+            cancelled();
+    });
 }
 
 void WindowSaving::write(const QString &path)
@@ -122,13 +132,13 @@ void WindowSaving::askAboutChangedFile(const QString &path)
             return;
         if (choice == Choice::Overwrite) {
             m_window.document()->overwriteChangedFile();
-            saveTo(path);
+            m_window.whenIdle([this, path] { saveTo(path); });
         } else if (choice == Choice::SaveAs) {
             runSavePanel([this] { finish(false); });
         } else {
             finish(false);
             if (choice == Choice::Reload && !m_state.isClosed())
-                revertWithoutQuestion();
+                m_window.whenIdle([this] { revertWithoutQuestion(); });
         }
     });
     sheet->open();
@@ -173,7 +183,7 @@ void WindowSaving::runSavePanel(const std::function<void()> &whenCancelled)
          .filter = tr("XML files (*.xml *.XML)"),
          .extension = QStringLiteral("xml"),
          .proposedName = QFileInfo(m_window.path()).fileName()},
-        [this](const QString &path) { saveTo(path); }, whenCancelled);
+        [this](const QString &path) { m_window.whenIdle([this, path] { saveTo(path); }); }, whenCancelled);
 }
 
 void WindowSaving::revert()
@@ -318,7 +328,7 @@ void WindowSaving::perform(const QString &selector, QVAlert *, int code)
     if (selector == closeQuestion)
         closeQuestionEnded(code);
     else if (code == AlertAnswer::Alternate)
-        revertWithoutQuestion();
+        m_window.whenIdle([this] { revertWithoutQuestion(); });
 }
 
 void WindowSaving::closeQuestionEnded(int code)

@@ -27,12 +27,16 @@ public:
     enum class Settling { Ask, Save };
 
     /// Passes whether a file is open in another window to `found`: at once, or on the main thread when the
-    /// disk has answered.
-    using OpenElsewhere = std::function<void(const QString &path, std::function<void(bool isOpen)> found)>;
-    void setOpenElsewhere(OpenElsewhere openElsewhere) { m_openElsewhere = std::move(openElsewhere); }
+    /// disk has answered. With `thisToo` the window itself counts as well.
+    using FindOpen =
+        std::function<void(const QString &path, bool thisToo, std::function<void(bool isOpen)> found)>;
+    void setFindOpen(FindOpen findOpen) { m_findOpen = std::move(findOpen); }
 
-    /// Whether a file is open in another window, as far as the disk answers at once.
-    bool isOpenElsewhere(const QString &path) const;
+    /// Calls `found` with whether a file is open in another window, or with `thisToo` in any. While the disk
+    /// does not answer the progress sheet shows the text; `cancelled` is called instead (it may be empty)
+    /// when the user no longer waits, and nothing once the window closes.
+    void findOpen(const QString &path, bool thisToo, const QString &text,
+                  const std::function<void(bool isOpen)> &found, const std::function<void()> &cancelled = {});
 
     void saveTo(const QString &path);
     void saveAs();
@@ -65,7 +69,7 @@ private:
     bool respondsTo(const QString &selector) const override;
     void perform(const QString &selector, QVAlert *alert, int code) override;
 
-    OpenElsewhere m_openElsewhere;
+    FindOpen m_findOpen;
     std::optional<ChangeMarks::State> m_givenUp; // the state of the project when the user gave it up
 };
 

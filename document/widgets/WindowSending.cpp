@@ -4,7 +4,6 @@
 #include "document/widgets/DocumentWindow.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/WindowWork.h"
-#include "media/AnswerWithin.h"
 #include "support/files/FileUtilities.h"
 #include "support/widgets/FilePanel.h"
 #include "table/widgets/TabPane.h"
@@ -59,30 +58,37 @@ void WindowSending::exportChangedSequences()
     m_window.commitEditing();
     if (m_window.refusesAfterFailedLoad() || !m_window.document() || m_state.isBusy() || m_state.isSending())
         return;
-    FilePanel::runForSaving({.window = &m_window,
-                             .title = tr("Export Changed Sequences"),
-                             .folder = m_window.folder(),
-                             .filter = tr("XML files (*.xml *.XML)"),
-                             .extension = QStringLiteral("xml"),
-                             .proposedName = tr("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
-                             .acceptLabel = tr("Export")},
-                            [this](const QString &path) { exportChangedSequencesTo(path); });
+    FilePanel::runForSaving(
+        {.window = &m_window,
+         .title = tr("Export Changed Sequences"),
+         .folder = m_window.folder(),
+         .filter = tr("XML files (*.xml *.XML)"),
+         .extension = QStringLiteral("xml"),
+         .proposedName = tr("%1 Changed Sequences.xml").arg(m_window.fileTitle()),
+         .acceptLabel = tr("Export")},
+        [this](const QString &path) { m_window.whenIdle([this, path] { exportChangedSequencesTo(path); }); });
 }
 
 void WindowSending::exportChangedSequencesTo(const QString &path)
 {
-    MyDocument *const document = m_window.document();
-    if (m_window.refusesAfterFailedLoad() || !document || m_state.isBusy() || m_state.isSending())
+    if (m_window.refusesAfterFailedLoad() || !m_window.document() || m_state.isBusy() || m_state.isSending())
         return;
-    const auto isOwn = [path, own = m_window.path()] { return FileUtilities::isSameFile(path, own); };
-    if (answerWithin<bool>(mainThreadPatience, isOwn).value_or(path == m_window.path()) ||
-        m_window.isOpenElsewhere(path)) {
-        m_window.showFailure(
-            tr("The changed sequences could not be exported."),
-            tr("“%1” is open in a window. Choose another name.").arg(QFileInfo(path).fileName()));
+    const QString name = QFileInfo(path).fileName();
+    const auto found = [this, path, name](bool isOpen) {
+        if (!isOpen) {
+            writeChangedSequences(path);
+            return;
+        }
+        m_window.showFailure(tr("The changed sequences could not be exported."),
+                             tr("“%1” is open in a window. Choose another name.").arg(name));
         Q_EMIT m_window.changedSequencesExported(false);
-        return;
-    }
+    };
+    m_window.findOpen(path, tr("Writing “%1”…").arg(name), found);
+}
+
+void WindowSending::writeChangedSequences(const QString &path)
+{
+    MyDocument *const document = m_window.document();
     struct Export {
         std::atomic<bool> isCancelled = false;
         Result<void> written = Failure{tr("The file could not be written.")};

@@ -30,6 +30,7 @@ public:
     void exportChangedSequencesTo(const QString &path);
 
 private:
+    void writeChangedSequences(const QString &path);
     void sent();
     void exported(const QString &path, const Result<void> &written, bool isCancelled);
 

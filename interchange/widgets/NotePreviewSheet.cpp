@@ -270,7 +270,6 @@ void NotePreviewSheet::add()
         return;
     hide(); // an alert then is the window's only sheet
     Q_EMIT chosen();
-    accept();
 }
 
 } // namespace vantrell

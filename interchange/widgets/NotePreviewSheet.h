@@ -28,7 +28,8 @@ public:
     NotePreview &preview() const { return *m_preview; }
 
 Q_SIGNALS:
-    /// The user wants the checked rows, of which there is at least one; the sheet is hidden.
+    /// The user wants the checked rows, of which there is at least one; the sheet is hidden, and to be
+    /// deleted.
     void chosen();
 
 private:

@@ -49,6 +49,8 @@ public:
     /// Whether it is closing: no alert is shown for it any more. Main thread.
     bool isClosing() const { return m_closing; }
     void setClosing() { m_closing = true; }
+    /// What was closing is shown again.
+    void setOpen() { m_closing = false; }
 
 private:
     bool m_closing = false;

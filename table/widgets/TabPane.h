@@ -16,6 +16,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QPushButton;
 class QTimer;
@@ -24,6 +25,7 @@ class QVBoxLayout;
 namespace vantrell
 {
 
+class ColumnLayout;
 class QVTableView;
 class SearchBar;
 class TableModel;
@@ -72,6 +74,20 @@ public:
     void removeColumn(const QString &identifier);
     void moveColumn(const QString &identifier, int index);
 
+    // What the user asks of the columns; hidden ones stay in columns(). All of it is stored with the layout.
+
+    bool isColumnShown(const QString &identifier) const;
+    /// Nothing happens when the column cannot be hidden.
+    virtual void showColumn(const QString &identifier, bool isShown);
+    /// As wide as its title and the cells on show.
+    void fitColumn(const QString &identifier);
+    void fitAllColumns();
+    /// Shows all columns in the order and with the widths of a new table.
+    void resetColumns();
+    /// Lists the columns to be shown and hidden, and what changes their widths: that of the clicked column,
+    /// or of the current cell's when it is empty.
+    void fillColumnMenu(QMenu &menu, const QString &clicked = QString());
+
     // What the window asks
 
     /// Puts the keyboard focus into the search field, with its text selected.
@@ -83,9 +99,9 @@ public:
     /// Shows a message below the table for a while.
     void showMessage(const QString &text);
 
-    /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout", which decides on
-    /// the order in all windows. It is stored with each column that the user moves, and restored by the
-    /// constructor.
+    /// Order and widths of the columns and which are hidden, kept in the user defaults under
+    /// "%@ColumnLayout", which decides on the order and the hidden ones in all windows. It is stored with
+    /// each change that the user makes, and restored by the constructor.
     void saveLayout();
     void restoreLayout();
     /// A setting that all documents share changed.
@@ -95,6 +111,11 @@ public:
     /// copySelection() copies them to the clipboard.
     QString selectionText() const;
 
+    /// What takes over the answers of the pane's sheets, until the project may be edited; without it they
+    /// are applied at once.
+    using WhenIdle = std::function<void(std::function<void()> answer)>;
+    void setWhenIdle(WhenIdle whenIdle) { m_whenIdle = std::move(whenIdle); }
+
 public Q_SLOTS:
     void copySelection();
 
@@ -102,6 +123,8 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
+    /// Applies what a sheet was answered with, now or when the project may be edited again.
+    void whenIdle(std::function<void()> answer);
     /// The model becomes the pane's.
     TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model, QWidget *parent);
 
@@ -131,6 +154,8 @@ protected:
     }
     /// The user moved a column; the index is its new position from the left.
     virtual void columnMoved(const QString &, int) {}
+    /// Columns that showColumn() can add to the table; those that are there may be among them.
+    virtual Columns otherColumns() const { return {}; }
     /// Shows the text of showMessage(), empty when its time is up. A pane with a status line of its own
     /// overrides it.
     virtual void setMessage(const QString &text);
@@ -163,7 +188,8 @@ private:
     QStringList storedOrder() const;
     void restoreOrder();
     void moveColumnTo(const QString &identifier, int index);
-    int usualWidth(const QString &identifier) const;
+    void restoreHidden();
+    void showHeaderMenu(const QPoint &position);
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void updateBusy();
@@ -178,6 +204,7 @@ private:
     TableSorting m_sorting;
     TableModel *m_model;
     QVTableView *m_table;
+    ColumnLayout *m_columnLayout;
     QHBoxLayout *m_controls;
     SearchBar *m_search = nullptr;
     QTimer *m_countTimer;
@@ -190,11 +217,11 @@ private:
     QLabel *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
-    QSet<QString> m_newColumns;         // added without a position in the stored layout
-    QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
+    QSet<QString> m_newColumns; // added without a position in the stored layout
 
     bool m_spinning = false;
     bool m_editingEnabled = false;
+    WhenIdle m_whenIdle;
     bool m_isFilled = false;     // the table has got the rows of its list
     bool m_movesColumns = false; // by the program
     bool m_storesLayout = false;

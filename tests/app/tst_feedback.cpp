@@ -6,10 +6,17 @@
 #include "document/MyDocument.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
+#include "markers/MarkerInventory.h"
+#include "markers/widgets/MarkerAddSheet.h"
+#include "markers/widgets/MarkerOffsetSheet.h"
+#include "markers/widgets/MarkersPane.h"
 #include "support/desktop/Workspace.h"
 #include "table/widgets/QVTableView.h"
+#include "workbench/Workbench.h"
 
 #include <QClipboard>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 
@@ -109,8 +116,8 @@ private Q_SLOTS:
         window.toolbarMarkers();
         QVERIFY(editCell(window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
         std::function<void(bool)> answer;
-        window.setOpenElsewhere(
-            [&answer](const QString &, const std::function<void(bool)> &found) { answer = found; });
+        window.setFindOpen(
+            [&answer](const QString &, bool, const std::function<void(bool)> &found) { answer = found; });
         window.activateWindow();
         m_controller->showAboutDialog();
         const QString path = m_home->path(QStringLiteral("other.xml"));
@@ -138,6 +145,82 @@ private Q_SLOTS:
         QVERIFY(contentOf(path).contains("<name>New</name>"));
     }
 
+    /// What was typed into a sheet or panel is not lost because another window began something meanwhile.
+    void answersWaitForTheOperation_data()
+    {
+        QTest::addColumn<QString>("question");
+        for (const char *const question : {"add", "offset", "save as", "export"})
+            QTest::newRow(question) << QString::fromLatin1(question);
+    }
+    void answersWaitForTheOperation()
+    {
+        QFETCH(QString, question);
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        const std::size_t count = window.document()->markerArray().size();
+        const QString in = columnTexts(window, Tab::Markers, QStringLiteral("in")).at(0);
+        window.pane(Tab::Markers).selectRows({0});
+        const QString path = m_home->path(QStringLiteral("other.txt"));
+        if (question == QStringLiteral("add")) {
+            window.showMarkerAddDialog();
+        } else if (question == QStringLiteral("offset")) {
+            static_cast<MarkersPane &>(window.pane(Tab::Markers)).showMarkerOffsetWindow();
+        } else if (question == QStringLiteral("save as")) {
+            window.saveAs();
+        } else {
+            window.exportFCPMarkers();
+        }
+        window.beginReading({});
+        if (auto *const sheet = window.findChild<MarkerAddSheet *>()) {
+            sheet->accept();
+        } else if (auto *const offset = window.findChild<MarkerOffsetSheet *>()) {
+            offset->findChild<QLineEdit *>()->setText(QStringLiteral("12"));
+            offset->accept();
+        } else {
+            choosePath(path);
+        }
+        QTest::qWait(50);
+        QVERIFY(!window.document()->isEdited() && !QFile::exists(path) && window.isBusy());
+        window.endReading();
+        if (question == QStringLiteral("add"))
+            QTRY_COMPARE(window.document()->markerArray().size(), count + 1);
+        else if (question == QStringLiteral("offset"))
+            QTRY_VERIFY(columnTexts(window, Tab::Markers, QStringLiteral("in")).at(0) != in);
+        else
+            QTRY_VERIFY(!window.isBusy() &&
+                        !QDir(m_home->path(QString())).entryList({QStringLiteral("other*")}).isEmpty());
+        QVERIFY(!visibleBox());
+    }
+
+    /// Markers are not listed anew under a question, nor between the answer of the disk and the save.
+    void listingWaitsForQuestionsAndSaves()
+    {
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        QVERIFY(editCell(window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        std::function<void(bool)> answer;
+        window.setFindOpen(
+            [&answer](const QString &, bool, const std::function<void(bool)> &found) { answer = found; });
+        const QString path = m_home->path(QStringLiteral("other.xml"));
+        QSignalSpy saved(&window, &DocumentWindow::saved);
+        window.saveTo(path);
+        QVERIFY(window.isBusy());
+        m_defaults->setValue(MarkerInventory::ownOwnersDefault, true);
+        answer(false);
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(saved.takeFirst().at(0).toBool());
+        const MarkerInventory &inventory = window.workbench().markerInventory();
+        QTRY_VERIFY(inventory.ownerListing() == OwnerListing::Own && window.mayEdit());
+
+        QVERIFY(editCell(window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Newer")));
+        window.close();
+        QTRY_VERIFY(visibleBox());
+        m_defaults->setValue(MarkerInventory::ownOwnersDefault, false);
+        QVERIFY(!window.isBusy());
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+        QTRY_VERIFY(inventory.ownerListing() == OwnerListing::ByPosition && window.mayEdit());
+    }
+
     void eachTabKeepsItsScrollPosition()
     {
         DocumentWindow &window = open();
@@ -156,7 +239,8 @@ private Q_SLOTS:
             show(tab);
             const QVTableView &table = window.currentPane().table();
             QTRY_VERIFY(table.verticalScrollBar()->maximum() > 1);
-            QVERIFY(table.horizontalScrollBar()->maximum() > 20);
+            table.horizontalHeader()->resizeSection(1, 900);
+            QTRY_VERIFY(table.horizontalScrollBar()->maximum() > 20);
             table.verticalScrollBar()->setValue(table.verticalScrollBar()->maximum() - 1);
             table.horizontalScrollBar()->setValue(17 + int(tab));
             positions[tab] = {table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()};

@@ -7,6 +7,7 @@
 #include "document/DocumentJournal.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "media/PathMapping.h"
 #include "support/log/QVLog.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
@@ -243,20 +244,78 @@ private Q_SLOTS:
         QVERIFY(reverted->isWindowModified());
         QCOMPARE(reverted->message(), notice);
         QCOMPARE(reverted->path(), m_path);
+        reverted->close();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
     }
 
-    /// A reload that fails leaves the way back.
-    void undoesARevertThatFailed()
+    /// What the file has lost meanwhile can be had again, though the project was not edited.
+    void undoesARevertToLess_data()
     {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isLess");
+        const QByteArray whole = contentOf(copySample(QDir::tempPath()));
+        QTest::newRow("half") << whole.left(whole.size() / 2) << true;
+        QTest::newRow("no project") << QByteArray("<html/>") << true;
+        QTest::newRow("whole") << whole << false;
+    }
+    void undoesARevertToLess()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isLess);
         open();
-        edit(0, "First");
-        QSignalSpy failed(m_window, &DocumentWindow::loadFailed);
+        const QStringList before = names();
+        m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), content);
+        QSignalSpy loaded(m_window, &DocumentWindow::loaded);
+        m_window->revertWithoutQuestion();
+        QTRY_COMPARE(loaded.count(), 1);
+        ready();
+        QCOMPARE(m_window->mayUndoRevert(), isLess);
+        if (isLess)
+            m_window->undo();
+        QCOMPARE(names(), before);
+    }
+
+    /// The open project may be the only copy when the file can no longer be read.
+    void staysAfterARevertThatFails_data()
+    {
+        QTest::addColumn<bool>("isEdited");
+        QTest::newRow("edited") << true;
+        QTest::newRow("as it was in the file") << false;
+    }
+    void staysAfterARevertThatFails()
+    {
+        QFETCH(bool, isEdited);
+        open();
+        if (isEdited)
+            edit(0, "First");
+        const QStringList before = names();
+        QTRY_COMPARE(journals().size(), isEdited ? 1 : 0);
+        const QStringList kept = journals();
         m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), "no project");
         m_window->revertWithoutQuestion();
-        QTRY_COMPARE(failed.count(), 1);
-        QVERIFY(trigger(*m_window, QStringLiteral("Undo Revert")));
-        QCOMPARE(names().value(0), QStringLiteral("First"));
-        QVERIFY(m_window->isWindowModified() && m_window->mayEdit());
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(visibleBox()->text().contains(QStringLiteral("could not be opened")));
+        QVERIFY(visibleBox()->informativeText().contains(QStringLiteral("stays open")));
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")));
+        QCOMPARE(m_window->isWindowModified(), isEdited);
+        QVERIFY(m_window->mayEdit() && !m_window->mayUndoRevert());
+        QCOMPARE(names(), before);
+        QTRY_COMPARE(journals(), kept);
+        // Its files are looked for and its questions asked as before.
+        QSignalSpy checked(m_window, &DocumentWindow::mediaChecked);
+        PathMappings mappings = PathMappings::stored(*m_defaults);
+        mappings.add(QStringLiteral("/from"), QStringLiteral("/to"));
+        mappings.store(*m_defaults);
+        QTRY_COMPARE(checked.count(), 1);
+        edit(1, "Second");
+        m_window->close();
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+        const QString copy = m_home->path(QStringLiteral("project/Copy.xml"));
+        m_window->saveTo(copy);
+        QTRY_VERIFY(!m_window->isWindowModified());
+        QVERIFY(contentOf(copy).contains("<name>Second</name>"));
     }
 
 private:

@@ -79,8 +79,10 @@ private Q_SLOTS:
         const ScriptedHost host(ScriptedHost::replying(
             [](const EventRecord &event) { return textReply(QByteArray::number(event.transaction)); }));
         SocketEventTransport transport;
+        constexpr int count = 32; // more than may wait to be accepted
         std::vector<std::future<bool>> results;
-        for (int i = 0; i < 32; ++i) // more than may wait to be accepted
+        results.reserve(count);
+        for (int i = 0; i < count; ++i)
             results.push_back(std::async(std::launch::async, [&transport, i] {
                 EventRecord sent = exportEvent();
                 sent.transaction = i;

@@ -97,6 +97,26 @@ private Q_SLOTS:
         QVERIFY(!opened.document.canUndo());
     }
 
+    /// One alert tells of all that are gone, before anything is written.
+    void switchesThoseThatAreLeft()
+    {
+        EffectProject opened;
+        QVERIFY(opened.load(
+            project(sequence("S", clip(filter("<a/>")) + clip(filter("<b/>")) + clip(filter("<c/>"))))));
+        const RowList effects = opened.document.effectArray();
+        opened.editor.removeXMLEffect(effects.at(0));
+        opened.editor.removeXMLEffect(effects.at(2));
+        const std::size_t before = m_alerts->shown().size();
+        m_alerts->queueAnswer(1);
+        opened.editor.updateXMLEffects(effects, QStringLiteral("enabled"), QStringLiteral("0"));
+        QCOMPARE(m_alerts->shown().size(), before + 1);
+        QCOMPARE(lastQuestion(), QStringLiteral("Unable to change setting"));
+        QCOMPARE(lastQuestion(AlertKey::InformativeText),
+                 QStringLiteral("2 of the effects were removed from the project."));
+        QCOMPARE(effects.at(0)->get(EffectKey::enabled), 1);
+        QCOMPARE(effects.at(1)->get(EffectKey::enabled), 0);
+    }
+
     void aKeyThatIsNoNameChangesNothing()
     {
         EffectProject opened;
