@@ -2,10 +2,12 @@
 
 #include "compare/ChangeDifference.h"
 #include "compare/widgets/ChangeColors.h"
+#include "support/threads/BackgroundWork.h"
+#include "support/threads/MainThread.h"
 #include "support/widgets/ShownText.h"
 
 #include <QGuiApplication>
-#include <QHash>
+#include <QPointer>
 
 #include <algorithm>
 #include <limits>
@@ -17,6 +19,7 @@ namespace
 {
 
 constexpr std::int64_t nowhere = std::numeric_limits<std::int64_t>::max();
+constexpr std::size_t mostRankedAtOnce = 2000; // changes whose texts are ranked in some milliseconds
 
 /// What changes are sorted by where that is a number.
 std::int64_t sortNumber(const CutComparison &comparison, const EventChange &change, int column)
@@ -49,13 +52,40 @@ void ChangeTableModel::setComparison(std::shared_ptr<const CutComparison> compar
 {
     beginResetModel();
     m_comparison = std::move(comparison);
+    m_ranks.reset();
+    m_nextRanks.reset();
     m_counts = {};
     if (m_comparison) {
         for (const EventChange &change : m_comparison->changes)
             ++m_counts[std::size_t(change.kind)];
     }
+    rankTexts();
     fill();
     endResetModel();
+}
+
+void ChangeTableModel::rankTexts()
+{
+    if (!m_comparison)
+        return;
+    const auto ranks = std::make_shared<ChangeRanks>();
+    if (m_comparison->changes.size() <= mostRankedAtOnce) {
+        *ranks = ChangeRanks::of(*m_comparison);
+        m_ranks = ranks;
+        return;
+    }
+    m_nextRanks = ranks;
+    BackgroundWork::run([ranks, comparison = m_comparison, model = QPointer(this)]() mutable {
+        *ranks = ChangeRanks::of(*comparison);
+        comparison.reset(); // here, when nobody else holds it
+        MainThread::post([ranks, model] {
+            if (!model || model->m_nextRanks != ranks)
+                return; // there is another comparison
+            model->m_ranks = ranks;
+            if (model->sortsByText())
+                model->sort(model->m_sortColumn, model->m_sortOrder);
+        });
+    });
 }
 
 void ChangeTableModel::setKinds(Kinds kinds)
@@ -83,48 +113,33 @@ void ChangeTableModel::sort(int column, Qt::SortOrder order)
     beginResetModel();
     m_sortColumn = column;
     m_sortOrder = order;
-    std::sort(m_shown.begin(), m_shown.end());
-    applySort();
+    fill();
     endResetModel();
 }
 
 void ChangeTableModel::applySort()
 {
-    if (m_sortColumn >= 0 && m_comparison) {
-        const auto sortBy = [this](const auto &keyOf) {
-            using Key = decltype(keyOf(EventChange()));
-            std::vector<std::pair<Key, std::size_t>> keyed;
-            keyed.reserve(m_shown.size());
-            for (const std::size_t i : m_shown)
-                keyed.emplace_back(keyOf(m_comparison->changes[i]), i);
-            const bool isAscending = m_sortOrder == Qt::AscendingOrder;
-            std::stable_sort(keyed.begin(), keyed.end(), [isAscending](const auto &a, const auto &b) {
-                return isAscending ? a.first < b.first : b.first < a.first;
-            });
-            for (std::size_t i = 0; i < keyed.size(); ++i)
-                m_shown[i] = keyed[i].second;
-        };
-        const auto sortByText = [&](const auto &textOf) {
-            QHash<QString, int> ranks; // each distinct text gets its rank once
-            for (const std::size_t i : m_shown)
-                ranks.insert(textOf(m_comparison->changes[i]), 0);
-            QStringList texts = ranks.keys();
-            texts.sort(Qt::CaseInsensitive);
-            for (int rank = 0; rank < texts.size(); ++rank)
-                ranks[texts[rank]] = rank;
-            sortBy([&](const EventChange &change) { return ranks.value(textOf(change)); });
-        };
-        if (m_sortColumn == Event)
-            sortByText([this](const EventChange &change) { return m_comparison->event(change).name; });
-        else if (m_sortColumn == File)
-            sortByText([this](const EventChange &change) {
-                return m_comparison->file(change).section(QLatin1Char('/'), -1);
-            });
-        else
-            sortBy([this](const EventChange &change) {
-                return sortNumber(*m_comparison, change, m_sortColumn);
-            });
-    }
+    const auto sortBy = [this](const auto &keyOf) {
+        using Key = decltype(keyOf(std::size_t()));
+        std::vector<std::pair<Key, std::size_t>> keyed;
+        keyed.reserve(m_shown.size());
+        for (const std::size_t i : m_shown)
+            keyed.emplace_back(keyOf(i), i);
+        const bool isAscending = m_sortOrder == Qt::AscendingOrder;
+        std::stable_sort(keyed.begin(), keyed.end(), [isAscending](const auto &a, const auto &b) {
+            return isAscending ? a.first < b.first : b.first < a.first;
+        });
+        for (std::size_t i = 0; i < keyed.size(); ++i)
+            m_shown[i] = keyed[i].second;
+    };
+    if (m_comparison && sortsByText() && m_ranks)
+        sortBy([&ranks = m_sortColumn == Event ? m_ranks->names : m_ranks->files](std::size_t change) {
+            return ranks[change];
+        });
+    else if (m_comparison && m_sortColumn >= 0 && !sortsByText())
+        sortBy([this](std::size_t change) {
+            return sortNumber(*m_comparison, m_comparison->changes[change], m_sortColumn);
+        });
     m_rows.assign(m_comparison ? m_comparison->changes.size() : 0, -1);
     for (std::size_t row = 0; row < m_shown.size(); ++row)
         m_rows[m_shown[row]] = int(row);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "compare/CutComparison.h"
+#include "compare/ChangeRanks.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>
@@ -14,7 +14,8 @@
 namespace vantrell
 {
 
-/// The changes between two cuts of the kinds that are wanted, as a table. Main thread.
+/// The changes between two cuts of the kinds that are wanted, as a table. What sorts many changes by a text
+/// is made in the background: until it is there, they stay in the order of the tracks. Main thread.
 class ChangeTableModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -53,9 +54,13 @@ public:
 private:
     void fill();
     void applySort();
+    void rankTexts();
+    bool sortsByText() const { return m_sortColumn == Event || m_sortColumn == File; }
     QString text(const EventChange &change, int column) const;
 
     std::shared_ptr<const CutComparison> m_comparison;
+    std::shared_ptr<const ChangeRanks> m_ranks;     // of the comparison; null until they are there
+    std::shared_ptr<const ChangeRanks> m_nextRanks; // that are being made in the background
     Kinds m_kinds = ~Kinds().set(std::size_t(EventChange::Kind::Unchanged));
     std::array<std::size_t, 16> m_counts = {};
     std::vector<std::size_t> m_shown;

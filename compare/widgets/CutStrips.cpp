@@ -3,7 +3,6 @@
 #include "compare/widgets/ChangeColors.h"
 #include "timecode/TimecodeRuler.h"
 
-#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -30,7 +29,6 @@ constexpr int leastBetween = 34; // for the lines
 constexpr int lettered = 12;     // height of a lane whose bars show names
 constexpr int grabbed = 4;       // pixels beside a narrow bar that still count as it
 constexpr double mostPixelsPerFrame = 24;
-constexpr double zoomStep = 1.25;
 
 } // namespace
 
@@ -182,12 +180,14 @@ void CutStrips::zoom(double factor, double around)
 
 void CutStrips::zoomIn()
 {
-    zoom(zoomStep * zoomStep, x(0) + horizontalScrollBar()->value() + visibleWidth() / 2.0);
+    zoom(StripMouse::zoomStep * StripMouse::zoomStep,
+         x(0) + horizontalScrollBar()->value() + visibleWidth() / 2.0);
 }
 
 void CutStrips::zoomOut()
 {
-    zoom(1 / zoomStep / zoomStep, x(0) + horizontalScrollBar()->value() + visibleWidth() / 2.0);
+    zoom(1 / StripMouse::zoomStep / StripMouse::zoomStep,
+         x(0) + horizontalScrollBar()->value() + visibleWidth() / 2.0);
 }
 
 void CutStrips::showAll()
@@ -560,49 +560,35 @@ std::optional<std::size_t> CutStrips::changeAt(const QPoint &point) const
 
 void CutStrips::wheelEvent(QWheelEvent *event)
 {
-    const QPoint angle = event->angleDelta();
-    const bool pans =
-        event->modifiers().testFlag(Qt::ShiftModifier) || std::abs(angle.x()) > std::abs(angle.y());
-    if (pans) {
-        const int delta = std::abs(angle.x()) > std::abs(angle.y()) ? angle.x() : angle.y();
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - delta);
-    } else {
-        constexpr double notch = 120;
-        zoom(std::pow(zoomStep, angle.y() / notch), event->position().x());
-    }
+    const StripMouse::Turn turn = StripMouse::turnOf(*event);
+    if (turn.scroll != 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + turn.scroll);
+    else
+        zoom(turn.zoom, event->position().x());
     event->accept();
 }
 
 void CutStrips::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_pressed = m_last = event->pos();
-    m_isPanning = false;
+    m_mouse.press(*event);
 }
 
 void CutStrips::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed)
+    const auto way = m_mouse.drag(*event);
+    if (!way)
         return;
-    if ((event->pos() - *m_pressed).manhattanLength() >= QApplication::startDragDistance() && !m_isPanning) {
-        m_isPanning = true;
-        viewport()->setCursor(Qt::ClosedHandCursor);
-    }
-    if (!m_isPanning)
-        return;
-    const QPoint way = event->pos() - m_last;
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
-    m_last = event->pos();
+    viewport()->setCursor(Qt::ClosedHandCursor);
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way->x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - way->y());
 }
 
 void CutStrips::mouseReleaseEvent(QMouseEvent *event)
 {
-    viewport()->setCursor(Qt::OpenHandCursor);
-    const bool isClick = m_pressed && !m_isPanning;
-    m_pressed.reset();
-    if (!isClick)
+    const StripMouse::Released released = m_mouse.release(*event);
+    if (released != StripMouse::Released::Nothing)
+        viewport()->setCursor(Qt::OpenHandCursor);
+    if (released != StripMouse::Released::Click)
         return;
     if (const auto change = changeAt(event->pos())) {
         m_chosen = change;

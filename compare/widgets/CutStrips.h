@@ -2,6 +2,7 @@
 
 #include "compare/widgets/ChangeTableModel.h"
 #include "compare/widgets/CutStrip.h"
+#include "support/widgets/StripMouse.h"
 
 #include <QAbstractScrollArea>
 
@@ -106,9 +107,7 @@ private:
     bool m_showsAll = true;
     std::optional<std::size_t> m_chosen;
     std::array<std::optional<std::int64_t>, 2> m_chosenFrames; // by Which
-    std::optional<QPoint> m_pressed;
-    QPoint m_last;
-    bool m_isPanning = false;
+    StripMouse m_mouse;
 };
 
 } // namespace vantrell

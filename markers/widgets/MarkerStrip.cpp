@@ -7,7 +7,6 @@
 #include "timecode/TimecodeRuler.h"
 #include "xml/QVXMLParser.h"
 
-#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
@@ -37,7 +36,6 @@ constexpr int barHeight = 6;
 constexpr int positionHeight = 3;
 constexpr double grabbed = 5; // pixels beside a marker that still count as it
 constexpr double mostScale = 24;
-constexpr double stripZoomStep = 1.25;
 constexpr int mostOutlined = 100; // selected markers that are close together
 constexpr int leastClip = 3;      // pixels of a clip that is drawn on its own
 constexpr int leastName = 36;     // pixels of a clip that shows its name
@@ -187,12 +185,12 @@ void MarkerStrip::scrollBy(double pixels)
 
 void MarkerStrip::zoomIn()
 {
-    zoom(stripZoomStep * stripZoomStep, width() / 2.0);
+    zoom(StripMouse::zoomStep * StripMouse::zoomStep, width() / 2.0);
 }
 
 void MarkerStrip::zoomOut()
 {
-    zoom(1 / stripZoomStep / stripZoomStep, width() / 2.0);
+    zoom(1 / StripMouse::zoomStep / StripMouse::zoomStep, width() / 2.0);
 }
 
 void MarkerStrip::showAll()
@@ -288,51 +286,40 @@ bool MarkerStrip::event(QEvent *event)
 
 void MarkerStrip::wheelEvent(QWheelEvent *event)
 {
-    const QPoint angle = event->angleDelta();
-    const bool isSideways = std::abs(angle.x()) > std::abs(angle.y());
-    if (isSideways || event->modifiers().testFlag(Qt::ShiftModifier)) {
-        scrollBy(isSideways ? -angle.x() : -angle.y());
-    } else {
-        constexpr double notch = 120;
-        zoom(std::pow(stripZoomStep, angle.y() / notch), event->position().x());
-    }
+    const StripMouse::Turn turn = StripMouse::turnOf(*event);
+    if (turn.scroll != 0)
+        scrollBy(turn.scroll);
+    else
+        zoom(turn.zoom, event->position().x());
     event->accept();
 }
 
 void MarkerStrip::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_pressed = m_last = event->pos();
-    m_isPanning = false;
+    m_mouse.press(*event);
 }
 
 void MarkerStrip::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed) {
+    if (!m_mouse.isPressed()) {
         setCursor(markersAt(event->pos().x()).empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
         return;
     }
-    if ((event->pos() - *m_pressed).manhattanLength() >= QApplication::startDragDistance() && !m_isPanning) {
-        m_isPanning = true;
-        if (!m_showsAll)
-            setCursor(Qt::ClosedHandCursor);
-    }
-    if (!m_isPanning)
+    const auto way = m_mouse.drag(*event);
+    if (!way)
         return;
-    scrollBy(m_last.x() - event->pos().x());
-    m_last = event->pos();
+    if (!m_showsAll)
+        setCursor(Qt::ClosedHandCursor);
+    scrollBy(-way->x());
 }
 
 void MarkerStrip::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || !m_pressed)
+    const StripMouse::Released released = m_mouse.release(*event);
+    if (released == StripMouse::Released::Nothing)
         return;
-    const bool isClick = !m_isPanning;
-    m_pressed.reset();
-    m_isPanning = false;
     setCursor(Qt::ArrowCursor);
-    if (isClick)
+    if (released == StripMouse::Released::Click)
         choose(event->pos(), event->modifiers().testFlag(Qt::ControlModifier));
 }
 

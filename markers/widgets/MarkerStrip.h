@@ -2,6 +2,7 @@
 
 #include "markers/MarkerOverview.h"
 #include "markers/SequenceClips.h"
+#include "support/widgets/StripMouse.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -109,9 +110,7 @@ private:
     double m_first = 0;                                           ///< frame at the left end
     mutable std::optional<std::vector<OverviewColumn>> m_columns; ///< made when they are drawn
 
-    std::optional<QPoint> m_pressed;
-    QPoint m_last;
-    bool m_isPanning = false;
+    StripMouse m_mouse;
     std::optional<QPoint> m_clicked; ///< where the last click chose a marker
 };
 

@@ -14,6 +14,8 @@
 #include <QRegularExpression>
 #include <QTextDocument>
 
+#include <utility>
+
 namespace vantrell
 {
 
@@ -23,7 +25,7 @@ namespace
 constexpr QChar wordJoiner(0x2060);
 constexpr QChar ellipsis(0x2026);
 constexpr int minimumWidth = 380;     // pixels, of the texts
-constexpr int maximumWordWidth = 420; // pixels
+constexpr int maximumWordWidth = 376; // pixels; fits into each line
 
 /// The text with its paths kept on one line each, and words that are too wide elided in the middle.
 QString fitted(const QString &text, const QFontMetrics &metrics)
@@ -34,9 +36,14 @@ QString fitted(const QString &text, const QFontMetrics &metrics)
     for (auto match = words.globalMatch(text); match.hasNext();) {
         const QRegularExpressionMatch word = match.next();
         QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
-        // A line could be broken behind the slashes.
+        // A line could be broken behind these.
+        QList<QChar> breaks;
+        if (shown != word.captured())
+            breaks.append(ellipsis);
         if (shown.count(QLatin1Char('/')) > 1)
-            shown.replace(QLatin1Char('/'), QString(QLatin1Char('/')) + wordJoiner);
+            breaks.append({QLatin1Char('/'), QLatin1Char('-')});
+        for (const QChar character : std::as_const(breaks))
+            shown.replace(character, QString(character) + wordJoiner);
         result += text.mid(end, word.capturedStart() - end) + shown;
         end = word.capturedEnd();
     }

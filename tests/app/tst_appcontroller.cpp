@@ -1,6 +1,5 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "app/RecentFiles.h"
 #include "app/SingleInstance.h"
 #include "app/StartWindow.h"
@@ -11,10 +10,6 @@
 #include "support/alerts/QVAlert.h"
 #include "support/files/PropertyList.h"
 #include "support/files/TaskRunner.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
-#include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
 #include <QDesktopServices>
@@ -33,7 +28,7 @@ const QString showOpenDialogKey = QStringLiteral("showOpenDialogAtStartup");
 
 } // namespace
 
-class TestAppController : public QObject
+class TestAppController : public QObject, private ProgramTest
 {
     Q_OBJECT
 
@@ -44,18 +39,10 @@ private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
+        makeHome();
         m_path = copySample(m_home->path(QStringLiteral("project")));
     }
-    void cleanup()
-    {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
-    }
+    void cleanup() { QVERIFY(end()); }
 
     void startWindowStandsWhileNothingIsOpen()
     {
@@ -581,15 +568,11 @@ private:
     }
     void start()
     {
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
+        makeProgram();
         if (m_defaults->value(showOpenDialogKey).toLongLong() == 1)
             m_controller->startWindow().show();
     }
 
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
     QString m_path;
     QString m_address;
 };

@@ -1,18 +1,14 @@
 // Comparing two cuts in the window: what it lists and draws, and how markers are added.
 
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "compare/widgets/CarriedMarkerModel.h"
 #include "compare/widgets/ChangeTableModel.h"
 #include "compare/widgets/CompareChoiceSheet.h"
 #include "compare/widgets/CompareWindow.h"
 #include "compare/widgets/CutStrips.h"
 #include "document/MyDocument.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
-#include "tests/support/TemporaryHome.h"
+#include "xml/XmlDocument.h"
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
@@ -48,7 +44,8 @@ int rowOf(const QAbstractItemModel &model, const QString &text, int column = 0)
 
 } // namespace
 
-class CompareWindowTest : public QObject
+/// The program's window shows the recut.
+class CompareWindowTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
@@ -57,6 +54,7 @@ private Q_SLOTS:
     void cleanup();
 
     void comparesWithAFile();
+    void sortsManyByName();
     void choosesAndZooms();
     void addsMarkersAsOneStep();
     void placesWhatIsGone();
@@ -81,20 +79,12 @@ private:
     CarriedMarkerModel &markers() const { return *part<CarriedMarkerModel>(); }
     ChangeTableModel &changes() const { return *part<ChangeTableModel>(); }
 
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
-    QPointer<DocumentWindow> m_window; // of the recut
     QString m_old;
 };
 
 void CompareWindowTest::init()
 {
-    m_home = std::make_unique<TemporaryHome>();
-    m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-    m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
-    AppController::startLog();
-    m_controller = std::make_unique<AppController>(*m_defaults);
+    makeQuietProgram();
     m_controller->applicationDidFinishLaunching();
     m_old = copySample(m_home->path(QStringLiteral("project")));
     const QString recut = m_home->path(QStringLiteral("project/Recut.xml"));
@@ -108,11 +98,7 @@ void CompareWindowTest::init()
 
 void CompareWindowTest::cleanup()
 {
-    m_controller.reset();
-    QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-    QVLog::willTerminate();
-    m_defaults.reset();
-    m_home.reset();
+    QVERIFY(end());
 }
 
 QPushButton *CompareWindowTest::button(const QString &title) const
@@ -182,6 +168,34 @@ void CompareWindowTest::comparesWithAFile()
     QCOMPARE(textAt(changes(), 0, ChangeTableModel::Kind), QStringLiteral("Removed")); // without a new place
     QCOMPARE(textAt(changes(), changes().rowCount() - 1, ChangeTableModel::New),
              QStringLiteral("01:00:00;00"));
+    changes().sort(ChangeTableModel::Event, Qt::AscendingOrder);
+    QStringList names;
+    for (int row = 0; row < changes().rowCount(); ++row)
+        names.append(textAt(changes(), row, ChangeTableModel::Event).toLower());
+    QVERIFY(std::is_sorted(names.begin(), names.end()) && names.first() != names.last());
+}
+
+/// What orders the names of many changes is there some time after the changes.
+void CompareWindowTest::sortsManyByName()
+{
+    constexpr int count = 2500;
+    QByteArray clips;
+    for (int i = 0; i < count; ++i)
+        clips += "<clipitem><name>" + QByteArray::number(10000 + i * 7 % count) + "</name><start>" +
+                 QByteArray::number(i) + "</start><end>" + QByteArray::number(i + 1) + "</end></clipitem>";
+    const auto document = XmlDocument::fromData("<xmeml><sequence><name>S</name><media><video><track>" +
+                                                    clips + "</track></video></media></sequence></xmeml>",
+                                                {});
+    const XmlNode sequence = document.value()->rootElement().childElement("sequence");
+    ChangeTableModel model;
+    model.setKinds(ChangeTableModel::Kinds().set());
+    model.setComparison(std::make_shared<CutComparison>(CutComparison::of(sequence, sequence)));
+    model.sort(ChangeTableModel::Event, Qt::DescendingOrder);
+    QCOMPARE(model.rowCount(), count);
+    QTRY_COMPARE(textAt(model, 0, ChangeTableModel::Event), QStringLiteral("12499"));
+    QCOMPARE(textAt(model, count - 1, ChangeTableModel::Event), QStringLiteral("10000"));
+    for (std::size_t change = 0; change < count; change += 100)
+        QCOMPARE(model.changeAt(model.rowOf(change)), change);
 }
 
 void CompareWindowTest::choosesAndZooms()

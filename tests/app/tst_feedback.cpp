@@ -1,7 +1,6 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
 #include "app/AboutPanel.h"
-#include "app/AppController.h"
 #include "app/SampleProject.h"
 #include "app/StartWindow.h"
 #include "document/MyDocument.h"
@@ -12,11 +11,7 @@
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkersPane.h"
 #include "support/desktop/Workspace.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/QVTableView.h"
-#include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
 #include <QClipboard>
@@ -28,7 +23,7 @@
 using namespace vantrell;
 
 /// What a window says where nothing happens, and what must not get lost or in the way.
-class FeedbackTest : public QObject
+class FeedbackTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
@@ -36,21 +31,13 @@ private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
+        makeQuietProgram();
         Workspace::setOpenProgram(m_home->path(QStringLiteral("no such program")));
     }
     void cleanup()
     {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
+        QVERIFY(end());
         Workspace::setOpenProgram(QString());
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
     }
 
     void theFooterTellsWhyNothingHappens_data()
@@ -330,10 +317,6 @@ private:
         }
         return false;
     }
-
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
 };
 
 int main(int argc, char **argv)

@@ -1,15 +1,10 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "app/WindowTitles.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
-#include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
 #include <QComboBox>
@@ -19,32 +14,17 @@
 
 using namespace vantrell;
 
-class FindingTest : public QObject
+class FindingTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
-        m_controller->applicationDidFinishLaunching();
-        m_controller->openFiles({copySample(m_home->path(QStringLiteral("project")))});
-        m_window = m_controller->currentWindow();
-        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        QVERIFY(openSample());
         QVERIFY(QTest::qWaitForWindowActive(m_window));
     }
-    void cleanup()
-    {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
-    }
+    void cleanup() { QVERIFY(end()); }
 
     void everyTabHasASearchField_data()
     {
@@ -311,10 +291,6 @@ private:
         }
         return nullptr;
     }
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
-    QPointer<DocumentWindow> m_window;
 };
 
 QTEST_MAIN(FindingTest)

@@ -1,16 +1,11 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "app/KeyList.h"
 #include "app/KeyboardHelp.h"
 #include "app/StartWindow.h"
 #include "app/UserManual.h"
 #include "support/desktop/Workspace.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/QVTableView.h"
-#include "tests/support/TemporaryHome.h"
 #include "timecode/QVTimecode.h"
 
 #include <QCoreApplication>
@@ -78,26 +73,20 @@ QStringList matchesIn(const QString &text, const QString &pattern)
 
 } // namespace
 
-class TestHelp : public QObject
+class TestHelp : public QObject, private ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
+        makeHome();
+        makeProgram();
     }
     void cleanup()
     {
         Workspace::setOpenProgram({});
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
+        QVERIFY(end());
     }
 
     void everyShortcutIsListed()
@@ -327,10 +316,6 @@ private:
     {
         return QString::fromUtf8(contentOf(manualFolder() + QLatin1Char('/') + page));
     }
-
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
 };
 
 int main(int argc, char **argv)

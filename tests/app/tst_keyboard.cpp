@@ -1,20 +1,15 @@
 #include "DialogKeys.h"
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "app/Application.h"
 #include "app/StartWindow.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerPresets.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/PropertyList.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/EntryHint.h"
 #include "table/widgets/PopUpCell.h"
 #include "table/widgets/QVTableView.h"
-#include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
 #include <QClipboard>
@@ -25,34 +20,19 @@
 
 using namespace vantrell;
 
-class KeyboardTest : public QObject
+class KeyboardTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
-        m_controller->applicationDidFinishLaunching();
-        m_controller->openFiles({copySample(m_home->path(QStringLiteral("project")))});
-        m_window = m_controller->currentWindow();
-        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        QVERIFY(openSample());
         m_window->resize(1400, 700);
         m_window->toolbarMarkers();
         m_window->activateWindow();
     }
-    void cleanup()
-    {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
-    }
+    void cleanup() { QVERIFY(end()); }
 
     void menusHaveEachKeyOnce()
     {
@@ -441,11 +421,6 @@ private:
         return nullptr;
     }
     static QString shownIn(const QWidget &hint) { return hint.findChildren<QLabel *>().constLast()->text(); }
-
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
-    DocumentWindow *m_window = nullptr;
 };
 
 int main(int argc, char **argv)

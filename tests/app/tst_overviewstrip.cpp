@@ -1,17 +1,12 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "markers/MarkerKeys.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkerStrip.h"
 #include "markers/widgets/MarkersPane.h"
 #include "markers/widgets/OverviewPopUp.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/QVTableView.h"
 #include "tests/support/LongSeries.h"
-#include "tests/support/TemporaryHome.h"
 
 #include <QComboBox>
 #include <QTest>
@@ -30,29 +25,18 @@ const QString trailer = QStringLiteral("Trailer 25 fps");
 
 } // namespace
 
-class OverviewStripTest : public QObject
+class OverviewStripTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        m_defaults->setValue(QStringLiteral("showOpenDialogAtStartup"), 0);
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
+        makeQuietProgram();
         m_controller->applicationDidFinishLaunching();
         open(copySample(m_home->path(QStringLiteral("project"))));
     }
-    void cleanup()
-    {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
-    }
+    void cleanup() { QVERIFY(end()); }
 
     void clickSelectsTheRow()
     {
@@ -344,11 +328,6 @@ private:
         Q_EMIT popUp->activated(item);
         waitForStrip();
     }
-
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
-    DocumentWindow *m_window = nullptr;
 };
 
 QTEST_MAIN(OverviewStripTest)

@@ -1,6 +1,5 @@
-#include "WindowTest.h"
+#include "ProgramTest.h"
 
-#include "app/AppController.h"
 #include "app/PreferencesWindow.h"
 #include "app/SampleProject.h"
 #include "app/StartWindow.h"
@@ -8,11 +7,7 @@
 #include "document/MyDocument.h"
 #include "markers/MarkerInventory.h"
 #include "support/files/StandardFolders.h"
-#include "support/log/QVLog.h"
-#include "support/settings/UserDefaults.h"
-#include "support/threads/BackgroundWork.h"
 #include "table/widgets/QVTableView.h"
-#include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
 #include <QCheckBox>
@@ -28,7 +23,7 @@
 using namespace vantrell;
 
 /// The start window and the preferences, over two projects.
-class PreferencesTest : public QObject
+class PreferencesTest : public QObject, private ProgramTest
 {
     Q_OBJECT
 
@@ -39,19 +34,10 @@ private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
-        m_home = std::make_unique<TemporaryHome>();
-        m_defaults = std::make_unique<UserDefaults>(m_home->path(QStringLiteral("test.plist")));
-        AppController::startLog();
-        m_controller = std::make_unique<AppController>(*m_defaults);
+        makeHome();
+        makeProgram();
     }
-    void cleanup()
-    {
-        m_controller.reset();
-        QVERIFY(BackgroundWork::waitForAll(std::chrono::seconds(20)));
-        QVLog::willTerminate();
-        m_defaults.reset();
-        m_home.reset();
-    }
+    void cleanup() { QVERIFY(end()); }
 
     void theStartWindowOffersAllWaysIn()
     {
@@ -294,9 +280,6 @@ private:
         return int(QDir(JournalFolder::standard()).entryList(QDir::Files).size());
     }
 
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<UserDefaults> m_defaults;
-    std::unique_ptr<AppController> m_controller;
     QString m_address;
 };
 

@@ -4,6 +4,7 @@
 
 #include "compare/ChangeDifference.h"
 #include "compare/ChangeListFile.h"
+#include "compare/ChangeRanks.h"
 #include "compare/CutGuess.h"
 #include "xml/XmlDocument.h"
 
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void guesses_data();
     void guesses();
     void stopsWhenCancelled();
+    void ranksNamesAndFiles();
 };
 
 void TestChangeList::differences_data()
@@ -263,6 +265,16 @@ void TestChangeList::stopsWhenCancelled()
     const std::atomic<bool> isCancelled = true;
     const XmlNode sequence = old->rootElement().childElement("sequence");
     QVERIFY(CutComparison::of(sequence, sequence, &isCancelled).changes.empty());
+}
+
+void TestChangeList::ranksNamesAndFiles()
+{
+    const QByteArray clips = clip("b", "two/X.mov", 0, 10, 0) + clip("C", "one/y.mov", 10, 20, 0) +
+                             clip("a", "one/x.mov", 20, 30, 0) + clip("b", "one/X.mov", 30, 40, 0);
+    const auto old = documentOf(timedSequence("Old", clips));
+    const ChangeRanks ranks = ChangeRanks::of(comparisonOf(*old, *old));
+    QCOMPARE(ranks.names, std::vector<std::uint32_t>({1, 2, 0, 1}));
+    QCOMPARE(ranks.files, std::vector<std::uint32_t>({0, 2, 1, 0})); // X.mov, x.mov, y.mov
 }
 
 QTEST_GUILESS_MAIN(TestChangeList)
