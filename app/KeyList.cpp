@@ -129,6 +129,7 @@ QList<KeyGroup> otherKeys()
             {keys({Key_Space}), QT_TRANSLATE_NOOP("KeyList", "Switch the check box of the current cell")},
             {keys({Key_F2}), QT_TRANSLATE_NOOP("KeyList", "Edit the current cell, or open its list")},
             {keys({Key_Menu, SHIFT | Key_F10}), QT_TRANSLATE_NOOP("KeyList", "The context menu of the selected rows")},
+            {keys({CTRL | Key_Menu}), QT_TRANSLATE_NOOP("KeyList", "The menu of the table's header: its columns")},
         }),
         group(QT_TRANSLATE_NOOP("KeyList", "Markers Table"), {
             {keys({Key_Return, Key_Enter}), QT_TRANSLATE_NOOP("KeyList", "Edit the current cell, or open its list")},

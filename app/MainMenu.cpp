@@ -183,6 +183,11 @@ void MainMenu::makeViewMenu()
     menu->addSeparator();
     m_sortMenu = menu->addMenu(tr("&Sort By"));
     connect(m_sortMenu, &QMenu::aboutToShow, this, &MainMenu::fillSortMenu);
+    m_columnMenu = menu->addMenu(tr("&Columns"));
+    connect(m_columnMenu, &QMenu::aboutToShow, this, [this] {
+        m_columnMenu->clear();
+        m_document->pane(m_document->selectedTab()).fillColumnMenu(*m_columnMenu);
+    });
     menu->addSeparator();
     m_markerOverview = menu->addAction(tr("Marker &Overview"));
     m_markerOverview->setCheckable(true);
@@ -319,6 +324,7 @@ void MainMenu::validate()
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_markerOverview->setChecked(showsPanes && m_document->showsMarkerOverview());
     m_sortMenu->setEnabled(showsPanes);
+    m_columnMenu->setEnabled(showsPanes);
     for (qsizetype i = 0; i < m_markerActions.size(); ++i)
         m_markerActions[i]->setEnabled(showsPanes && m_document->mayEdit() &&
                                        (i == 0 || m_document->selectedTab() == Tab::Markers));

@@ -55,6 +55,7 @@ private:
     QMenu *m_importMenu = nullptr;
     QMenu *m_exportMenu = nullptr;
     QMenu *m_sortMenu = nullptr;
+    QMenu *m_columnMenu = nullptr;
     QMenu *m_windowMenu = nullptr;
     QList<QAction *> m_windowItems; // of the projects
     QAction *m_openFCPProject = nullptr;

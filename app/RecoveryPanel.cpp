@@ -1,6 +1,6 @@
 #include "app/RecoveryPanel.h"
 
-#include "support/widgets/WindowAlertPresenter.h"
+#include "support/widgets/AlertBox.h"
 
 #include <QDateTime>
 #include <QDialogButtonBox>
@@ -58,11 +58,13 @@ RecoveryPanel::RecoveryPanel(std::vector<FoundJournal> journals, QWidget *parent
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Unsaved Changes"));
-    auto *const text = new QLabel(
-        m_journals.size() == 1 ? tr("The program ended before the changes to this project were saved.")
-                               : tr("The program ended before the changes to these projects were saved."),
-        this);
-    text->setWordWrap(true);
+    auto *const message = new QLabel(this);
+    setMessageText(*message, m_journals.size() == 1
+                                 ? tr("The program ended before the changes to this project were saved.")
+                                 : tr("The program ended before the changes to these projects were saved."));
+    auto *const explanation = new QLabel(this);
+    setExplanationText(*explanation, tr("A restored project opens with its changes, which are not saved yet. "
+                                        "Those left for later are offered again."));
     m_list->setAccessibleName(tr("Projects with unsaved changes"));
     m_list->setHeaderLabels({tr("Project"), tr("Changes"), tr("Last Change"), tr("File"), tr("Folder")});
     m_list->setRootIsDecorated(false);
@@ -82,7 +84,8 @@ RecoveryPanel::RecoveryPanel(std::vector<FoundJournal> journals, QWidget *parent
     connect(later, &QPushButton::clicked, this, &QDialog::reject);
 
     auto *const layout = new QVBoxLayout(this);
-    layout->addWidget(text);
+    layout->addWidget(message);
+    layout->addWidget(explanation);
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
     fill();
@@ -155,13 +158,10 @@ void RecoveryPanel::discardSelected()
         return;
     auto *const question = new QMessageBox(this);
     question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setWindowModality(Qt::WindowModal);
-    WindowAlertPresenter::setIcon(*question);
-    question->setTextFormat(Qt::PlainText);
-    question->setText(count == 1
-                          ? tr("Do you want to discard the unsaved changes to this project?")
-                          : tr("Do you want to discard the unsaved changes to %1 projects?").arg(count));
-    question->setInformativeText(tr("They cannot be restored after that."));
+    setUpAlert(*question,
+               count == 1 ? tr("Do you want to discard the unsaved changes to this project?")
+                          : tr("Do you want to discard the unsaved changes to %1 projects?").arg(count),
+               tr("They cannot be restored after that."));
     QPushButton *const cancel = question->addButton(tr("Cancel"), QMessageBox::RejectRole);
     QPushButton *const discard = question->addButton(tr("Discard"), QMessageBox::DestructiveRole);
     question->setDefaultButton(cancel);

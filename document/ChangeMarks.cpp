@@ -45,7 +45,7 @@ void ChangeMarks::noteSaved()
 
 void ChangeMarks::beginEdit()
 {
-    m_edit.emplace();
+    m_edit = Edit();
     m_edit->before = m_state;
     m_edit->added = {m_period, {}};
     m_editSet.clear();

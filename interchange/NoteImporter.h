@@ -34,6 +34,8 @@ public:
     /// letters nor digits; the longest of several. Without one the item that is titled as the list is, else
     /// the first. Nothing without sequences.
     std::optional<std::int64_t> guessedSequence(const QString &path, const NoteList &list) const;
+    /// The same without the first one for want of another.
+    std::optional<std::int64_t> sequenceNamedBy(const QString &path, const NoteList &list) const;
     /// Whether guessedSequence() goes by the file's name or the title.
     bool isSequenceNamedBy(const QString &path, const NoteList &list) const;
 
@@ -58,7 +60,6 @@ public:
                  std::optional<std::chrono::milliseconds> limit) const;
 
 private:
-    std::optional<std::int64_t> sequenceNamedBy(const QString &path, const NoteList &list) const;
     RowRecordPtr added(PlannedNote &note, std::int64_t item) const;
 
     MyDocument &m_document;

@@ -107,14 +107,15 @@ struct NotePreview::Plan {
     }
 };
 
-NotePreview::NotePreview(MyDocument &document, MarkerEditor &editor, NoteSource source, QObject *parent)
+NotePreview::NotePreview(MyDocument &document, MarkerEditor &editor, NoteSource source, std::int64_t item,
+                         QObject *parent)
     : QObject(parent)
     , m_document(document)
     , m_importer(document, editor)
     , m_source(std::move(source))
 {
     m_settings.choices = m_source.choices;
-    setSequence(m_importer.guessedSequence(m_source.path, list()).value_or(1));
+    setSequence(m_importer.sequenceNamedBy(m_source.path, list()).value_or(item));
 }
 
 NotePreview::~NotePreview()

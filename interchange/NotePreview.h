@@ -29,8 +29,10 @@ class NotePreview final : public QObject
     Q_OBJECT
 
 public:
-    /// Begins with the sequence that the list names, else the first, and what the list says and suggests.
-    NotePreview(MyDocument &document, MarkerEditor &editor, NoteSource source, QObject *parent = nullptr);
+    /// Begins with the sequence that the list names, else the one of that item of the sequence menu, and what
+    /// the list says and suggests.
+    NotePreview(MyDocument &document, MarkerEditor &editor, NoteSource source, std::int64_t item = 1,
+                QObject *parent = nullptr);
     ~NotePreview() override;
 
     // The list

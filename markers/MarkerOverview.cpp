@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <numeric>
+#include <unordered_set>
 #include <utility>
 
 namespace vantrell
@@ -208,23 +209,43 @@ void MarkerOverview::select(const RowList &rows)
     }
 }
 
-MarkerOverviewBuilder::MarkerOverviewBuilder(RowList list, RowList visible)
-    : m_list(std::move(list))
-    , m_visible(std::move(visible))
-    , m_showsAll(m_visible.size() == m_list.size()) // the visible rows are some of the list
+bool ShownMarkers::work(const MarkerOverview &overview, const RowList &list, const RowList &visible,
+                        std::size_t rows)
 {
-    if (m_showsAll)
-        m_visible.clear();
-    m_shown.reserve(m_visible.size());
+    const bool showsAll = visible.size() == list.size(); // the visible rows are some of the list
+    if (!showsAll) {
+        if (m_noted == 0)
+            m_shown.reserve(qsizetype(visible.size()));
+        for (; rows > 0 && m_noted < visible.size(); --rows)
+            m_shown.insert(visible[m_noted++].get());
+        if (m_noted < visible.size())
+            return false;
+    }
+    for (; m_sequence < overview.sequences().size(); ++m_sequence, m_marker = 0) {
+        const std::vector<OverviewMarker> &markers = overview.sequences()[m_sequence].markers;
+        for (; m_marker < markers.size(); ++m_marker, --rows) {
+            if (rows == 0)
+                return false;
+            m_areShown.push_back(showsAll || m_shown.contains(markers[m_marker].record.get()));
+        }
+    }
+    return true;
 }
 
-bool MarkerOverviewBuilder::work(std::size_t rows)
+void ShownMarkers::apply(MarkerOverview &overview) const
 {
-    for (; rows > 0 && m_noted < m_visible.size(); --rows)
-        m_shown.insert(m_visible[m_noted++].get());
-    for (; rows > 0 && m_added < m_list.size(); --rows)
-        add(m_list[m_added++]);
-    if (m_added < m_list.size() || m_noted < m_visible.size())
+    std::size_t i = 0;
+    for (OverviewSequence &sequence : overview.m_sequences) {
+        for (OverviewMarker &marker : sequence.markers)
+            marker.isShown = m_areShown[i++];
+    }
+}
+
+bool MarkerOverviewBuilder::work(const RowList &list, std::size_t rows)
+{
+    for (; rows > 0 && m_added < list.size(); --rows)
+        add(list[m_added++]);
+    if (m_added < list.size())
         return false;
     sort();
     return true;
@@ -253,7 +274,7 @@ void MarkerOverviewBuilder::add(const RowRecordPtr &row)
     marker.record = row;
     const std::int64_t color = row->get(MarkerKey::color);
     marker.color = color > 0 && color < std::int64_t(MarkerColors::count) ? std::uint8_t(color) : 0;
-    marker.isShown = m_showsAll || m_shown.contains(row.get());
+    marker.isShown = true;
     sequences[m_last].markers.push_back(std::move(marker));
 }
 

@@ -3,13 +3,13 @@
 #include "markers/SequenceTiming.h"
 #include "rows/RowRecord.h"
 
+#include <QSet>
 #include <QString>
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace vantrell
@@ -85,33 +85,45 @@ public:
 
 private:
     friend class MarkerOverviewBuilder;
+    friend class ShownMarkers;
 
     std::vector<OverviewSequence> m_sequences;
     std::unordered_map<XmlNode, std::size_t> m_indexes;
+};
+
+/// Finds out in steps which markers of an overview the table shows. Main thread.
+class ShownMarkers
+{
+public:
+    /// Goes on with about that many rows; true when all are found. Of the overview, the list that it was made
+    /// of and the rows that the table shows, which are the same in each call.
+    bool work(const MarkerOverview &overview, const RowList &list, const RowList &visible, std::size_t rows);
+    /// Notes them in the overview, when all are found.
+    void apply(MarkerOverview &overview) const;
+
+private:
+    std::size_t m_noted = 0;         // of the visible rows
+    QSet<const RowRecord *> m_shown; // empty if that is the whole list
+    std::size_t m_sequence = 0;      // the next one
+    std::size_t m_marker = 0;        // of it
+    std::vector<bool> m_areShown;    // in the order of the overview
 };
 
 /// Makes an overview in steps, from rows that do not change meanwhile. Main thread.
 class MarkerOverviewBuilder
 {
 public:
-    /// All rows of the list, and those that the table shows.
-    MarkerOverviewBuilder(RowList list, RowList visible);
-
-    /// Goes on with about that many rows; true when the overview is there.
-    bool work(std::size_t rows);
+    /// Goes on with about that many rows of the list, the same in each call; true when the overview is there,
+    /// with all markers as shown ones.
+    bool work(const RowList &list, std::size_t rows);
     MarkerOverview take() { return std::move(m_overview); }
 
 private:
     void add(const RowRecordPtr &row);
     void sort();
 
-    RowList m_list;
-    RowList m_visible;
-    bool m_showsAll;
-    std::unordered_set<const RowRecord *> m_shown;
-    std::size_t m_noted = 0; // of the visible rows
-    std::size_t m_added = 0; // of the list
-    std::size_t m_last = 0;  // index of the sequence of the last row
+    std::size_t m_added = 0;
+    std::size_t m_last = 0; // index of the sequence of the last row
     MarkerOverview m_overview;
 };
 

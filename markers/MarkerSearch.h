@@ -43,23 +43,33 @@ public:
     /// Shows the markers that fulfil these, in the order in which the table is, if the Markers tab shows.
     void setConditions(const Conditions &conditions);
 
-    /// See RowSearch.
+    /// See RowSearch. While some markers are hidden, it goes on to sort them all in the background.
     bool prepare(std::chrono::milliseconds time);
     void forget();
 
 private:
     struct State;
+    struct Sorting;
 
+    RowList foundIn(const RowList &base);
+    RowList foundAmong(const RowList &some) const;
+    RowList foundInList() const;
     RowList unsearchedRows() const;
+    RowList sortedAsView(RowList rows) const;
     void prepareAll();
+    bool prepareBase(std::chrono::milliseconds time);
+    void takeBase(const std::vector<std::uint32_t> &order);
+    void forgetBase();
     void forgetOtherList();
 
     MyDocument &m_document;
     std::shared_ptr<State> m_state;
-    std::uint64_t m_generation = 0; // of the list that texts are kept of
-    std::optional<RowList> m_base;  // what shows without conditions, in the order of the table; if known
-    bool m_shows = false;           // rows that fulfil them
-    QObject m_context;              // of connections
+    std::uint64_t m_generation = 0;     // of the list that texts are kept of
+    std::optional<RowList> m_base;      // what shows without conditions, in the order of the table; if known
+    RowSearch::Places m_places;         // of these rows, or of the visible ones if those are they; if known
+    std::unique_ptr<Sorting> m_sorting; // of those rows, which are not known yet; null for none
+    bool m_shows = false;               // rows that fulfil them
+    QObject m_context;                  // of connections
 };
 
 } // namespace vantrell

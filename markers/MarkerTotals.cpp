@@ -58,10 +58,11 @@ QString totalDurationText(const RowList &markers)
     quint64 frames = 0;
     double otherSeconds = 0;
     for (const RowRecordPtr &marker : markers) {
-        const QString out = marker->get(MarkerKey::out);
-        if (out.isEmpty() || out.startsWith(QLatin1Char('-')))
+        const RecordValue *const value = marker->find(MarkerKey::out);
+        const QString *const out = value ? std::get_if<QString>(value) : nullptr;
+        if (!out || out->isEmpty() || out->startsWith(QLatin1Char('-')))
             continue;
-        const std::int64_t length = integerValue(out) - integerValue(marker->get(MarkerKey::in));
+        const std::int64_t length = integerValue(*out) - integerValue(marker->get(MarkerKey::in));
         if (length <= 0)
             continue;
         const MarkerRate rate = MarkerRate::of(*marker);

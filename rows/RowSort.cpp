@@ -1,9 +1,11 @@
 #include "rows/RowSort.h"
 
+#include "rows/TextRanks.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <unordered_map>
+#include <numeric>
 #include <utility>
 
 namespace vantrell
@@ -38,76 +40,6 @@ quint64 orderOf(double number)
     return bits & signBit ? ~bits : bits | signBit;
 }
 
-/// The different texts of a column in their order. Many rows have the same text, and numbers are compared
-/// faster than texts.
-class TextRanks
-{
-public:
-    /// Gives the text a number of its own.
-    quint64 add(const QString &text)
-    {
-        const auto [entry, isNew] = m_numbers.try_emplace(text, quint32(m_texts.size()));
-        if (isNew)
-            m_texts.push_back({text, text.toCaseFolded()});
-        return entry->second;
-    }
-
-    /// The ranks by the numbers of the texts.
-    std::vector<quint64> ranks() const
-    {
-        std::vector<Order> order;
-        order.reserve(m_texts.size());
-        for (const Text &text : m_texts)
-            order.push_back({beginningOf(text.folded), quint32(order.size())});
-        std::sort(order.begin(), order.end(), [this](const Order &a, const Order &b) {
-            return a.beginning != b.beginning ? a.beginning < b.beginning : comesBefore(a.number, b.number);
-        });
-        std::vector<quint64> ranks(order.size());
-        for (std::size_t rank = 0; rank < order.size(); ++rank)
-            ranks[order[rank].number] = rank;
-        return ranks;
-    }
-
-private:
-    struct Text {
-        QString text;
-        QString folded;
-    };
-    struct Order {
-        quint64 beginning;
-        quint32 number;
-    };
-    struct Hash {
-        std::size_t operator()(const QString &text) const { return qHash(text); }
-    };
-
-    bool comesBefore(quint32 a, quint32 b) const
-    {
-        const int comparison = m_texts[a].folded.compare(m_texts[b].folded);
-        return comparison != 0 ? comparison < 0 : m_texts[a].text < m_texts[b].text;
-    }
-
-    /// The first eight code units as bytes, the first one highest, up to the first above 0xfe, which counts
-    /// as 0xff: of two different beginnings, the smaller is that of the text that comes first.
-    static quint64 beginningOf(const QString &text)
-    {
-        constexpr int units = 8;
-        constexpr quint64 large = 0xff;
-        quint64 beginning = 0;
-        int taken = 0;
-        for (; taken < units && taken < text.size(); ++taken) {
-            const quint64 unit = std::min<quint64>(text[taken].unicode(), large);
-            beginning |= unit << 8 * (units - 1 - taken);
-            if (unit == large)
-                break;
-        }
-        return beginning;
-    }
-
-    std::unordered_map<QString, quint32, Hash> m_numbers;
-    std::vector<Text> m_texts;
-};
-
 Rank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
 {
     Rank rank;
@@ -132,42 +64,77 @@ Rank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
     return rank;
 }
 
-std::vector<Rank> ranksOf(const RowList &rows, const Column &column)
+} // namespace
+
+/// What is sorted by one descriptor.
+struct RowSorter::Values {
+    Column column;
+    bool isDescending;
+    std::vector<Rank> ranks = {}; // of a text, its number
+    TextRanks texts = {};
+};
+
+RowSorter::RowSorter(const std::vector<SortDescriptor> &descriptors, const Columns &columns)
 {
-    std::vector<Rank> ranks;
-    ranks.reserve(rows.size());
-    TextRanks texts;
-    for (const RowRecordPtr &row : rows) {
-        ranks.push_back(rankOf(column.sortValueOf(*row), texts));
-        ranks.back().row = quint32(ranks.size() - 1);
+    for (const SortDescriptor &descriptor : descriptors) {
+        const Column *const known = findColumn(columns, descriptor.column);
+        m_values.push_back({known ? *known : Column{descriptor.column}, descriptor.descending});
     }
-    const std::vector<quint64> textRanks = texts.ranks();
-    for (Rank &rank : ranks) {
-        if (rank.kind == Rank::Kind::Text)
-            rank.value = textRanks[rank.value];
-    }
-    return ranks;
 }
 
-} // namespace
+RowSorter::RowSorter(RowSorter &&) noexcept = default;
+RowSorter::~RowSorter() = default;
+
+void RowSorter::add(const RowRecord &row)
+{
+    for (Values &values : m_values) {
+        values.ranks.push_back(rankOf(values.column.sortValueOf(row), values.texts));
+        values.ranks.back().row = quint32(m_size);
+    }
+    ++m_size;
+}
+
+std::vector<std::uint32_t> RowSorter::order()
+{
+    std::vector<std::uint32_t> order(m_size);
+    std::iota(order.begin(), order.end(), 0);
+    // The least important column first: each stable pass keeps the order of those before it.
+    for (auto values = m_values.rbegin(); values != m_values.rend(); ++values) {
+        const std::vector<std::uint32_t> textRanks = values->texts.ranks();
+        for (Rank &rank : values->ranks) {
+            if (rank.kind == Rank::Kind::Text)
+                rank.value = textRanks[rank.value];
+        }
+        std::vector<Rank> ranks;
+        if (values == m_values.rbegin()) {
+            ranks = std::move(values->ranks);
+        } else {
+            ranks.reserve(m_size);
+            for (const std::uint32_t row : order)
+                ranks.push_back(values->ranks[row]);
+        }
+        const bool isDescending = values->isDescending;
+        std::stable_sort(ranks.begin(), ranks.end(), [isDescending](const Rank &a, const Rank &b) {
+            return isDescending ? comesBefore(b, a) : comesBefore(a, b);
+        });
+        std::transform(ranks.begin(), ranks.end(), order.begin(), [](const Rank &rank) { return rank.row; });
+    }
+    m_values.clear(); // on this thread
+    return order;
+}
 
 RowList sortedRows(RowList rows, const std::vector<SortDescriptor> &descriptors, const Columns &columns)
 {
-    // The least important column first: each stable pass keeps the order of those before it.
-    for (auto descriptor = descriptors.rbegin(); descriptor != descriptors.rend(); ++descriptor) {
-        const Column *known = findColumn(columns, descriptor->column);
-        std::vector<Rank> ranks = ranksOf(rows, known ? *known : Column{descriptor->column});
-        const bool descending = descriptor->descending;
-        std::stable_sort(ranks.begin(), ranks.end(), [descending](const Rank &a, const Rank &b) {
-            return descending ? comesBefore(b, a) : comesBefore(a, b);
-        });
-        RowList sorted;
-        sorted.reserve(rows.size());
-        for (const Rank &rank : ranks)
-            sorted.push_back(std::move(rows[rank.row]));
-        rows = std::move(sorted);
-    }
-    return rows;
+    if (descriptors.empty())
+        return rows;
+    RowSorter sorter(descriptors, columns);
+    for (const RowRecordPtr &row : rows)
+        sorter.add(*row);
+    RowList sorted;
+    sorted.reserve(rows.size());
+    for (const std::uint32_t row : sorter.order())
+        sorted.push_back(std::move(rows[row]));
+    return sorted;
 }
 
 RowList reverseArray(const RowList &rows)

@@ -55,6 +55,7 @@ const Columns &RowView::columns() const
 void RowView::append(const RowRecordPtr &row)
 {
     m_list.push_back(row);
+    ++m_revision;
     if (!m_isVisible)
         return;
     m_waitingRows.push_back(row);
@@ -76,6 +77,7 @@ void RowView::remove(const RowList &rows)
         if (!others.empty())
             std::erase_if(list, [&others](const RowRecordPtr &row) { return others.contains(row); });
     };
+    ++m_revision;
     removeFrom(m_list);
     removeFrom(m_visibleRows);
 }
@@ -95,18 +97,20 @@ void RowView::insert(const RowList &rows, const std::vector<std::size_t> &indexe
     }
     all.insert(all.end(), before, end);
     m_list = std::move(all);
+    ++m_revision;
 }
 
-void RowView::show(RowList rows, Order order)
+RowList RowView::exchange(RowList rows, Order order)
 {
     if (!m_isVisible)
         Q_EMIT willBecomeVisible();
     Q_EMIT willReload();
     m_isVisible = true;
     m_order = order;
-    m_visibleRows = std::move(rows);
+    m_visibleRows.swap(rows);
     m_waitingRows.clear();
     Q_EMIT didReload();
+    return rows;
 }
 
 void RowView::showList()
@@ -149,6 +153,7 @@ void RowView::hide()
 
 void RowView::reload()
 {
+    ++m_revision;
     Q_EMIT willReload();
     Q_EMIT didReload();
 }

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace vantrell
@@ -60,9 +61,12 @@ public:
     {
         m_list = std::move(rows);
         ++m_generation;
+        ++m_revision;
     }
     /// Counts how often the list was replaced by a new one.
     std::uint64_t generation() const { return m_generation; }
+    /// Counts the changes of the list, and how often records were reported to have changed.
+    std::uint64_t revision() const { return m_revision; }
     /// Adds a row at the end of the list, and of the visible rows of a visible view.
     void append(const RowRecordPtr &row);
     /// Takes rows out of the list and out of the visible rows. Emits nothing.
@@ -84,8 +88,9 @@ public:
     const RowList &visibleRows() const { return m_visibleRows; }
     Order order() const { return m_order; }
 
-    /// Makes these the visible rows.
-    void show(RowList rows, Order order = Order::Sorted);
+    /// Makes these the visible rows, and returns those that were.
+    RowList exchange(RowList rows, Order order = Order::Sorted);
+    void show(RowList rows, Order order = Order::Sorted) { exchange(std::move(rows), order); }
     /// The same with the whole list, which costs next to nothing when it is visible already.
     void showList();
     /// Sorts the visible rows, if there are any, and sets the sort descriptors.
@@ -142,6 +147,7 @@ private:
 
     RowList m_list;
     std::uint64_t m_generation = 0;
+    std::uint64_t m_revision = 0;
     std::atomic<bool> m_isPopulating = false;
     std::atomic<std::size_t> m_foundSoFar = 0;
 

@@ -7,7 +7,9 @@
 #include "support/files/FileUtilities.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/AlertBox.h"
 #include "support/widgets/FilePanel.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/SheetTable.h"
 
 #include <QCheckBox>
@@ -550,12 +552,11 @@ void CompareWindow::exportTo(const QString &path, ChangeListFormat format)
         if (written) {
             self->m_status->setText(tr("Changes exported to “%1”").arg(name));
         } else {
-            auto *const alert = new QMessageBox(QMessageBox::Warning, QString(),
-                                                tr("The changes could not be exported to “%1”.").arg(name),
-                                                QMessageBox::Ok, self);
+            auto *const alert = new QMessageBox(self);
             alert->setAttribute(Qt::WA_DeleteOnClose);
-            alert->setInformativeText(written.message());
-            alert->setWindowModality(Qt::WindowModal);
+            alert->addButton(QMessageBox::Ok);
+            setUpAlert(*alert, tr("The changes could not be exported to “%1”.").arg(name),
+                       shownMessage(written.message()));
             alert->open();
         }
         Q_EMIT self->exported(written.isOk());

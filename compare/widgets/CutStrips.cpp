@@ -109,7 +109,8 @@ void CutStrips::changeEvent(QEvent *event)
 
 double CutStrips::x(double seconds) const
 {
-    return m_gutter * 3 / 4 + seconds * m_scale - horizontalScrollBar()->value();
+    const int origin = m_gutter * 3 / 4;
+    return origin + seconds * m_scale - horizontalScrollBar()->value();
 }
 
 double CutStrips::x(Which which, double frame) const
@@ -127,8 +128,7 @@ int CutStrips::laneHeight() const
 {
     const auto lanes = int(strip(Which::Old).lanes().size() + strip(Which::New).lanes().size());
     const int room = viewport()->height() - 2 * rulerHeight - leastBetween - lanes * laneGap;
-    const int height = lanes > 0 ? room / lanes : mostLane; // whole pixels
-    return std::clamp(height, leastLane, mostLane);
+    return std::clamp(lanes > 0 ? room / lanes : mostLane, leastLane, mostLane);
 }
 
 int CutStrips::contentHeight() const

@@ -1,8 +1,7 @@
 #include "document/widgets/ChangedFileSheet.h"
 
-#include "support/widgets/WindowAlertPresenter.h"
+#include "support/widgets/AlertBox.h"
 
-#include <QCoreApplication>
 #include <QPushButton>
 
 #include <map>
@@ -13,13 +12,10 @@ namespace vantrell
 ChangedFileSheet::ChangedFileSheet(const QString &fileName, QWidget *parent)
     : QMessageBox(parent)
 {
-    setWindowTitle(QCoreApplication::applicationName());
-    setWindowModality(Qt::WindowModal);
-    WindowAlertPresenter::setIcon(*this);
-    setTextFormat(Qt::PlainText);
-    setText(tr("“%1” was changed by another program.").arg(fileName));
-    setInformativeText(tr("Someone else has saved it since you opened it. If you overwrite it, those changes "
-                          "are lost; if you reload it, yours are."));
+    setUpAlert(
+        *this, tr("“%1” was changed by another program.").arg(fileName),
+        tr("Someone else has saved it since you opened it. If you overwrite it, those changes are lost; "
+           "if you reload it, yours are."));
     QPushButton *const cancel = addButton(tr("Cancel"), RejectRole);
     setDefaultButton(cancel);
     setEscapeButton(cancel);

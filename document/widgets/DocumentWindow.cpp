@@ -106,6 +106,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
+    setMinimumSize(QSize(680, 460).boundedTo(screen()->availableSize()));
     if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
@@ -212,7 +213,7 @@ bool DocumentWindow::openWithChanges(const QString &path, const QString &typeNam
 bool DocumentWindow::restoreChanges(JournalFolder::Restorable changes)
 {
     const MyDocument *const current = document();
-    if (!current || isBusy() || current->isSaving() || current->isEdited())
+    if (!current || m_isCovered || isBusy() || current->isSaving() || current->isEdited())
         return false;
     m_restorable.emplace(std::move(changes));
     reload();
@@ -302,13 +303,14 @@ void DocumentWindow::endSession()
 void DocumentWindow::keepSession()
 {
     const bool isEdited = m_workbench->document().isEdited();
+    const bool isListed = state() == State::Ready;
     leaveSession();
     if (DocumentJournal *const journal = m_workbench->document().journal())
         journal->setGivenUp(true);
     for (TabPane *const pane : m_panes)
         m_content->removeWidget(pane);
     m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes,
-                          m_notice->notice(), m_notice->kind(), isEdited});
+                          m_notice->notice(), m_notice->kind(), isEdited, isListed});
     m_panes = {};
 }
 
@@ -347,7 +349,8 @@ void DocumentWindow::showReverted()
         m_content->addWidget(pane);
     connectSession();
     m_state.treeLoaded();
-    m_state.listsFilled();
+    if (reverted.isListed)
+        m_state.listsFilled();
     m_toolBar->setEnabled(true);
     m_notice->setNotice(reverted.notice, reverted.noticeKind);
     setFile(reverted.path, reverted.typeName);
@@ -359,6 +362,10 @@ void DocumentWindow::showReverted()
         applyDefaultsChange(key);
     showPane(document.viewState().selectedTab);
     applyOwnerListing();
+    const bool isListing = document.isPopulating(Tab::Media) || document.isPopulating(Tab::Effects) ||
+                           document.isPopulating(Tab::Markers);
+    if (!reverted.isListed && !isListing)
+        inventoriesEnded(); // while it was put aside
 }
 
 void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &notice)
@@ -368,7 +375,8 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         return;
     }
     m_state.treeLoaded();
-    if (std::exchange(m_isReloading, false) && !m_reverted.back().isEdited) {
+    // What the file has lost may be in the project as it was.
+    if (std::exchange(m_isReloading, false) && !m_reverted.back().isEdited && notice.isEmpty()) {
         m_reverted.back().dispose();
         m_reverted.pop_back();
     }
@@ -483,7 +491,7 @@ void DocumentWindow::whenIdle(std::function<void()> answer)
 
 void DocumentWindow::applyAnswers()
 {
-    while (!m_answers.empty() && m_workbench && !isClosing() && isIdle()) {
+    while (!m_answers.empty() && m_workbench && !isClosing() && state() != State::Loading && isIdle()) {
         const std::function<void()> answer = std::move(m_answers.front());
         m_answers.pop_front();
         answer();

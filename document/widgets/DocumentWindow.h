@@ -66,7 +66,8 @@ public:
 
     /// The same, with the unsaved changes of a journal restored.
     bool openWithChanges(const QString &path, const QString &typeName, JournalFolder::Restorable changes);
-    /// Loads the file again with these changes restored; false when the project was edited or is in use.
+    /// Loads the file again with these changes restored; false when the project was edited, is in use or has
+    /// a question of its own.
     bool restoreChanges(JournalFolder::Restorable changes);
 
     /// The window's file, and the document type it was last opened or saved as.
@@ -392,6 +393,7 @@ private:
         QString notice;
         NoticeBar::Kind noticeKind;
         bool isEdited = false;
+        bool isListed = false;              ///< its rows had all been collected
         QSet<QString> changedDefaults = {}; ///< meanwhile
 
         void dispose();

@@ -128,12 +128,15 @@ void WindowComparison::ask()
     QObject::connect(sheet, &QDialog::accepted, &m_window, [this, sheet, others] {
         sheet->hide();
         using With = CompareChoiceSheet::With;
-        if (sheet->with() == With::Itself) {
-            compareWithItself();
-        } else if (sheet->with() == With::File) {
+        if (sheet->with() == With::File) {
             runOpenPanel();
-        } else if (DocumentWindow *const other = others[std::size_t(sheet->openProject())]) {
-            compareWithWindow(*other);
+        } else if (sheet->with() == With::Itself) {
+            m_window.whenIdle([this] { compareWithItself(); });
+        } else {
+            m_window.whenIdle([this, other = others[std::size_t(sheet->openProject())]] {
+                if (other)
+                    compareWithWindow(*other);
+            });
         }
     });
     sheet->open();
@@ -147,7 +150,9 @@ void WindowComparison::runOpenPanel()
          .folder = m_window.folder(),
          .filter = tr("Final Cut Pro 7 projects and XML files (*.fcp *.xml *.FCP *.XML)"),
          .acceptLabel = tr("Compare")},
-        [this](const QStringList &paths) { compareWithFile(paths.value(0)); });
+        [this](const QStringList &paths) {
+            m_window.whenIdle([this, paths] { compareWithFile(paths.value(0)); });
+        });
 }
 
 /// Ends the comparison there was; false when there can be no other one now.

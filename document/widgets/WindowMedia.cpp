@@ -98,6 +98,8 @@ void WindowMedia::start()
 void WindowMedia::resume()
 {
     makeLook();
+    if (m_state.stage() != WindowState::Stage::Ready)
+        return; // listing looks for the files
     m_look->begin();
     applyMappings();
 }

@@ -8,6 +8,7 @@
 #include "interchange/widgets/ExportNotesSheet.h"
 #include "interchange/widgets/NoteAddition.h"
 #include "interchange/widgets/NotePreviewSheet.h"
+#include "markers/MarkerKeys.h"
 #include "support/files/CancellableWrite.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
@@ -15,6 +16,7 @@
 #include "support/widgets/ShownText.h"
 #include "table/widgets/TabPane.h"
 #include "workbench/Workbench.h"
+#include "xml/QVXMLParser.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -23,6 +25,7 @@
 #include <QMimeData>
 #include <QTimer>
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <optional>
@@ -86,9 +89,13 @@ void WindowNotes::runOpenPanel()
 void WindowNotes::importFiles(const QStringList &paths)
 {
     m_window.commitEditing();
+    if (m_preview || m_addition) {
+        m_waiting += paths; // after those that are being imported
+        return;
+    }
     if (paths.isEmpty() || !mayImport())
         return;
-    m_waiting = paths;
+    m_waiting += paths;
     importNext();
 }
 
@@ -136,7 +143,7 @@ void WindowNotes::takeDropped(const QStringList &paths)
         [this, sorted](const Result<void> &) {
             if (!sorted->projects.isEmpty())
                 Q_EMIT m_window.filesDropped(sorted->projects);
-            importFiles(sorted->lists);
+            m_window.whenIdle([this, lists = sorted->lists] { importFiles(lists); });
         });
 }
 
@@ -182,11 +189,28 @@ void WindowNotes::tellUnusable(const QString &name, const QString &reason)
         m_window.showFailure(tr("“%1” could not be read").arg(name), reason);
 }
 
+/// What is pasted belongs to the sequence of the first selected marker; to the first one without any.
+std::int64_t WindowNotes::selectedSequence() const
+{
+    MyDocument &document = m_window.workbench().document();
+    const RowList selected = document.selectedRecords(Tab::Markers);
+    if (selected.empty())
+        return 1;
+    // Which need not be the one that the marker is listed under.
+    const XmlNode sequence =
+        QVXMLParser::parentWithName(selected.front()->get(MarkerKey::markerElement), "sequence");
+    const MenuPtr menu = document.sequenceMenu();
+    const auto item = std::find_if(menu->begin(), menu->end(),
+                                   [sequence](const auto &entry) { return entry.element == sequence; });
+    return !sequence || item == menu->end() ? 1 : item - menu->begin();
+}
+
 void WindowNotes::show(const NoteSource &source)
 {
     Workbench &workbench = m_window.workbench();
-    m_preview = new NotePreviewSheet(new NotePreview(workbench.document(), workbench.markerEditor(), source),
-                                     &m_window);
+    const std::int64_t item = source.path.isNull() ? selectedSequence() : 1;
+    m_preview = new NotePreviewSheet(
+        new NotePreview(workbench.document(), workbench.markerEditor(), source, item), &m_window);
     NotePreviewSheet *const sheet = m_preview;
     QObject::connect(sheet, &NotePreviewSheet::chosen, &m_window, [this, sheet] {
         m_window.whenIdle([this, sheet] {

@@ -53,6 +53,7 @@ private:
     bool mayImport();
     void importNext();
     void read(const QString &title, std::function<Result<NoteSource>()> read);
+    std::int64_t selectedSequence() const;
     void show(const NoteSource &source);
     void tellUnusable(const QString &name, const QString &reason);
     void add(const NotePreview &preview);

@@ -138,7 +138,7 @@ void WindowSaving::askAboutChangedFile(const QString &path)
         } else {
             finish(false);
             if (choice == Choice::Reload && !m_state.isClosed())
-                revertWithoutQuestion();
+                m_window.whenIdle([this] { revertWithoutQuestion(); });
         }
     });
     sheet->open();

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrell
 {
@@ -75,10 +76,11 @@ MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
     connect(m_timer, &QTimer::timeout, this, &MarkerOverviewPanel::work);
     const TableModel *const model = &m_pane.model();
     connect(model, &QAbstractItemModel::modelReset, this, &MarkerOverviewPanel::rowsChanged);
-    connect(model, &QAbstractItemModel::dataChanged, this, &MarkerOverviewPanel::rowsChanged);
-    connect(model, &QAbstractItemModel::rowsInserted, this, &MarkerOverviewPanel::rowsChanged);
-    connect(model, &QAbstractItemModel::rowsRemoved, this, &MarkerOverviewPanel::rowsChanged);
-    connect(&m_document, &MyDocument::sequenceMenuChanged, this, &MarkerOverviewPanel::rowsChanged);
+    connect(model, &QAbstractItemModel::dataChanged, this, &MarkerOverviewPanel::recordsChanged);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &MarkerOverviewPanel::recordsChanged);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &MarkerOverviewPanel::recordsChanged);
+    connect(&m_document, &MyDocument::historyChanged, this, &MarkerOverviewPanel::recordsChanged);
+    connect(&m_document, &MyDocument::sequenceMenuChanged, this, &MarkerOverviewPanel::recordsChanged);
     connect(&m_pane, &TabPane::selectionChanged, this, &MarkerOverviewPanel::takeSelection);
     connect(m_strip, &MarkerStrip::markerChosen, this, &MarkerOverviewPanel::choose);
     connect(m_strip, &MarkerStrip::left, &m_pane.table(), qOverload<>(&QWidget::setFocus));
@@ -90,11 +92,18 @@ MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
     });
 }
 
+void MarkerOverviewPanel::recordsChanged()
+{
+    m_revision.reset();
+    rowsChanged();
+}
+
 /// The overview that shows stays until the new one is there.
 void MarkerOverviewPanel::rowsChanged()
 {
     m_isOutdated = true;
     m_builder.reset();
+    m_shownMarkers.reset();
     if (isVisible() && m_pane.model().view().isVisible())
         m_timer->start();
 }
@@ -112,24 +121,45 @@ void MarkerOverviewPanel::work()
     const RowView &view = m_pane.model().view();
     if (!isVisible() || !view.isVisible())
         return;
-    if (!m_builder)
-        m_builder.emplace(view.list(), view.visibleRows());
     QElapsedTimer time;
     time.start();
-    while (!m_builder->work(rowsAtOnce)) {
+    while (!workOn(rowsAtOnce)) {
         if (time.elapsed() >= millisecondsAtOnce) {
             m_timer->start();
             return;
         }
     }
-    m_strip->setSequence(nullptr, nullptr, true); // what it draws goes
-    m_overview = m_builder->take();
-    m_builder.reset();
+    if (m_next) {
+        m_strip->setSequence(nullptr, nullptr, true); // what it draws goes
+        m_overview = std::move(*std::exchange(m_next, std::nullopt));
+    }
+    m_shownMarkers->apply(m_overview);
+    m_shownMarkers.reset();
     m_isOutdated = false;
     markSelected();
     fillPopUp();
     showSequence();
+    m_strip->updateSelection();
     revealSelected();
+}
+
+/// Goes on with about that many rows; true when all is there for the strip to show.
+bool MarkerOverviewPanel::workOn(std::size_t rows)
+{
+    const RowView &view = m_pane.model().view();
+    if (m_revision != view.revision()) {
+        if (!m_builder)
+            m_builder.emplace();
+        if (!m_builder->work(view.list(), rows))
+            return false;
+        m_next = m_builder->take();
+        m_builder.reset();
+        m_shownMarkers.reset();
+        m_revision = view.revision();
+    }
+    if (!m_shownMarkers)
+        m_shownMarkers.emplace();
+    return m_shownMarkers->work(m_next ? *m_next : m_overview, view.list(), view.visibleRows(), rows);
 }
 
 void MarkerOverviewPanel::markSelected()

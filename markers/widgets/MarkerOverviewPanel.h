@@ -27,7 +27,8 @@ class UserDefaults;
 
 /// The overview above the marker table: the strip of one sequence, and the pop-up that chooses it. Unless the
 /// user has chosen one it is the sequence of the selected row, at first the one with most markers. It is made
-/// anew, in steps, when rows change. Main thread; a child of the pane.
+/// anew, in steps, when records change; when others are on show, it is only found out which. Main thread; a
+/// child of the pane.
 class MarkerOverviewPanel final : public QWidget
 {
     Q_OBJECT
@@ -50,7 +51,9 @@ protected:
 
 private:
     void rowsChanged();
+    void recordsChanged();
     void work();
+    bool workOn(std::size_t rows);
     void takeSelection();
     void markSelected();
     void revealSelected();
@@ -67,9 +70,12 @@ private:
     QTimer *m_timer;
 
     bool m_isOutdated = true;
-    std::optional<MarkerOverviewBuilder> m_builder;
     MarkerOverview m_overview;
-    OverviewSequence m_empty; ///< the sequence on show if it has no markers
+    std::optional<MarkerOverviewBuilder> m_builder; ///< of the next one
+    std::optional<MarkerOverview> m_next;
+    std::optional<std::uint64_t> m_revision;    ///< of the list of the next one, or of this one without it
+    std::optional<ShownMarkers> m_shownMarkers; ///< of the same
+    OverviewSequence m_empty;                   ///< the sequence on show if it has no markers
     XmlNode m_shown;
     XmlNode m_followed;                               ///< of the row that was selected last
     XmlNode m_chosen;                                 ///< by the user

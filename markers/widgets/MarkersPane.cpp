@@ -102,6 +102,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
     m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
     makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
@@ -263,7 +264,6 @@ void MarkersPane::makeMenus()
     menu->addAction(tr("&Copy"), this, &TabPane::copySelection);
     table().setMenu(menu);
     QHeaderView *const header = table().horizontalHeader();
-    header->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(header->addAction(tr("Marker &Fields…")), &QAction::triggered, this,
             &MarkersPane::showMarkerFieldsDialog);
     connect(header->addAction(tr("Create Marker &Preset…")), &QAction::triggered, this,
@@ -373,6 +373,10 @@ void MarkersPane::moveInPoint()
     const int in = model().columnOf(MarkerKey::in.text());
     const QModelIndex edited = table().editedCell();
     const QModelIndex current = table().currentIndex();
+    if (table().isColumnHidden(in)) {
+        showMessage(tr("The column In is hidden. View ▸ Columns shows it again"));
+        return;
+    }
     if (edited.isValid() && edited.column() == in) {
         table().commitEditingAlong();
     } else if (!edited.isValid() && current.isValid()) {
@@ -410,8 +414,10 @@ void MarkersPane::showMarkerOffsetWindow()
         this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        whenIdle([this, offset = sheet->text()] {
-            workbench().markerEditor().offsetMarkers(offset);
+        const RowList records = workbench().document().selectedRecords(Tab::Markers);
+        whenIdle([this, records, offset = sheet->text()] {
+            workbench().markerEditor().offset(records, offset,
+                                              workbench().document().rowsOnShow(Tab::Markers));
             model().rowsChanged(0, model().rowCount() - 1);
         });
     });

@@ -65,7 +65,6 @@ protected:
     void updateControls() override;
     void search() override;
     bool prepareSearch() override;
-    void endSearch() override { m_markerSearch.forget(); }
     QString countText(const QString &number, std::size_t count) const override;
     QString totalText(const RowList &rows) const override;
     QString loadingText(std::size_t found) const override;

@@ -2,8 +2,9 @@
 
 #include "media/MediaFile.h"
 #include "media/MediaKeys.h"
+#include "media/MediaShares.h"
+#include "media/widgets/MediaFooter.h"
 #include "media/widgets/MediaTableModel.h"
-#include "media/widgets/QVGraphView.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
@@ -14,16 +15,15 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -36,6 +36,7 @@ namespace
 {
 
 constexpr std::chrono::milliseconds prepareTime{4};
+constexpr int shareMs = 30;
 const QString useColumnsKey = QStringLiteral("mediaUseColumns");
 
 } // namespace
@@ -47,7 +48,7 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     , m_reveal(new QPushButton(tr("&Reveal"), this))
     , m_relink(new QPushButton(tr("Re&link…"), this))
     , m_exportList(new QPushButton(tr("E&xport List…"), this))
-    , m_chart(new QVGraphView(this))
+    , m_shareTimer(new QTimer(this))
     , m_defaults(defaults)
     , m_mediaSearch(workbench.document(), workbench.mediaFilter(), m_uses)
     , m_states(new QComboBox(this))
@@ -78,14 +79,12 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     connect(menu, &QMenu::aboutToShow, this,
             [this, relink] { relink->setEnabled(isEditingEnabled() && !selectedMissingUrl().isNull()); });
     table().setMenu(menu);
-    QHeaderView *const header = table().horizontalHeader();
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this, &MediaPane::showHeaderMenu);
     // Relinking gives files other URLs.
     const MyDocument &document = workbench.document();
     for (const auto signal :
          {&MyDocument::inventoriesFinished, &MyDocument::historyChanged, &MyDocument::editingAllowedChanged})
         connect(&document, signal, this, &MediaPane::updateUses);
+    mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     restoreUseColumns();
     updateControls();
 }
@@ -150,26 +149,16 @@ QString MediaPane::totalText(const RowList &rows) const
 
 void MediaPane::makeFooter()
 {
-    auto *labels = new QGridLayout;
-    labels->setHorizontalSpacing(fontMetrics().averageCharWidth() * 4);
-    labels->addWidget(makeLabel(Label::MediaTotalSize, this), 1, 0);
-    labels->addWidget(makeLabel(Label::MediaTotalFiles, this), 2, 0);
-    labels->addWidget(makeLabel(Label::MediaFilteredTotalSize, this), 1, 1);
-    labels->addWidget(makeLabel(Label::MediaFilteredTotalFiles, this), 2, 1);
-    labels->addWidget(makeLabel(Label::MediaLargestFile, this), 1, 2);
-    labels->addWidget(makeLabel(Label::MediaSmallestFile, this), 2, 2);
-    labels->setColumnStretch(2, 1);
-    labels->setRowStretch(0, 1);
-    labels->setRowStretch(3, 1);
-    for (const Label file : {Label::MediaLargestFile, Label::MediaSmallestFile}) {
-        // A long name must not widen the window.
-        labelOf(file)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-    m_chart->setAccessibleName(tr("Chart of the media on show and the free space of the start-up volume"));
-    auto *line = new QHBoxLayout;
-    line->addLayout(labels, 1);
-    line->addWidget(m_chart);
-    footer().addLayout(line);
+    std::vector<QLabel *> labels;
+    for (const Label label :
+         {Label::MediaTotalSize, Label::MediaTotalFiles, Label::MediaFilteredTotalSize,
+          Label::MediaFilteredTotalFiles, Label::MediaLargestFile, Label::MediaSmallestFile})
+        labels.push_back(makeLabel(label, this));
+    m_mediaFooter = new MediaFooter(labels, this);
+    footer().addWidget(m_mediaFooter);
+    m_shareTimer->setSingleShot(true);
+    m_shareTimer->setInterval(shareMs);
+    connect(m_shareTimer, &QTimer::timeout, this, &MediaPane::updateShares);
 }
 
 void MediaPane::prepareToShow()
@@ -193,15 +182,21 @@ void MediaPane::setDrives(std::vector<DriveItem> drives)
     int index = 0;
     for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
         const DriveItem &drive = m_driveItems[i];
-        const bool isNameless = drive.title == QLatin1Char('/');
+        const bool isSystem = drive.path == QLatin1Char('/');
         m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path),
                           drive.path.isNull() ? tr("All Drives")
-                          : isNameless        ? tr("System Drive")
+                          : isSystem          ? systemDriveName()
                                               : drive.title);
         if (!chosen.isNull() && drive.path == chosen)
             index = int(i);
     }
     m_drives->setCurrentIndex(index);
+    QStringList paths;
+    for (const DriveItem &drive : m_driveItems)
+        paths.append(drive.path);
+    mediaModel().setDrives(paths);
+    m_driveNames.clear();
+    m_shareTimer->start();
     if (!chosen.isNull() && index == 0 && workbench().document().viewState().selectedTab == Tab::Media)
         applyFilters(); // the chosen drive has gone
 }
@@ -217,14 +212,75 @@ void MediaPane::applyFilters()
 
 void MediaPane::setMediaChart(const std::vector<double> &values)
 {
-    m_chart->setValues(values);
-    m_chart->refresh();
-    if (values.size() != 2)
-        return;
-    const QString text = tr("Media on show: %1 (green)\nFree on the start-up volume: %2 (blue)")
-                             .arg(MediaFile::formatFileSize(values[0]), MediaFile::formatFileSize(values[1]));
-    m_chart->setToolTip(text);
-    m_chart->setAccessibleDescription(text);
+    m_mediaFooter->setChart(values);
+    m_shareTimer->start();
+}
+
+MediaTableModel &MediaPane::mediaModel() const
+{
+    return static_cast<MediaTableModel &>(model());
+}
+
+/// Shows the shares of the rows on show in the bars.
+void MediaPane::updateShares()
+{
+    const RowList &rows = model().view().visibleRows();
+    const QHash<QString, QString> kindNames{{MediaKind::movieClip, tr("Movie Clips")},
+                                            {MediaKind::audioClip, tr("Audio Clips")},
+                                            {MediaKind::image, tr("Images")}};
+    const QHash<QString, QColor> kindColors{{tr("Movie Clips"), QColor(62, 126, 190)},
+                                            {tr("Audio Clips"), QColor(84, 156, 84)},
+                                            {tr("Images"), QColor(214, 140, 46)}};
+    const std::array<QColor, 6> driveColors{QColor(118, 104, 184), QColor(60, 152, 156),
+                                            QColor(196, 104, 132), QColor(156, 140, 60),
+                                            QColor(96, 130, 168),  QColor(170, 116, 80)};
+    const QColor other(136, 136, 136);
+    const auto show = [](SharesBar &bar, const std::vector<MediaShare> &shares, const auto &colorOf) {
+        std::vector<SharesBar::Share> shown;
+        for (const MediaShare &share : shares) {
+            const QString number = QLocale().toString(qulonglong(share.files));
+            const QString files = share.files == 1 ? tr("%1 file").arg(number) : tr("%1 files").arg(number);
+            shown.push_back(
+                {.name = share.name,
+                 .figure = shares.front().bytes > 0 ? MediaFile::formatFileSize(share.bytes) : files,
+                 .part = share.part,
+                 .color = colorOf(share.name, shown.size())});
+        }
+        bar.setShares(std::move(shown));
+    };
+    show(m_mediaFooter->kinds(),
+         mediaShares(rows,
+                     [&](const RowRecord &row) {
+                         return kindNames.value(row.get(MediaKey::filetype), tr("Unknown Kind"));
+                     }),
+         [&](const QString &name, std::size_t) { return kindColors.value(name, other); });
+    show(
+        m_mediaFooter->drives(),
+        mediaShares(rows, [this](const RowRecord &row) { return driveNameOf(row.get(MediaKey::directory)); }),
+        [&](const QString &, std::size_t i) { return i < driveColors.size() ? driveColors[i] : other; });
+}
+
+QString MediaPane::driveNameOf(const QString &directory)
+{
+    const auto known = m_driveNames.constFind(directory);
+    if (known != m_driveNames.constEnd())
+        return *known;
+    const QString volume = mediaModel().volumeOf(directory);
+    QString name = volume == QLatin1Char('/') ? systemDriveName() : volume.section(QLatin1Char('/'), -1);
+    if (directory.isEmpty() || name.isEmpty())
+        name = tr("Unknown Drive");
+    m_driveNames.insert(directory, name);
+    return name;
+}
+
+/// The name of "/" on the screen.
+QString MediaPane::systemDriveName() const
+{
+    for (const DriveItem &drive : m_driveItems) {
+        if (drive.path == QLatin1Char('/') && drive.title != drive.path)
+            return drive.title;
+    }
+    return tr("System Drive");
 }
 
 // What the sequences use
@@ -248,6 +304,8 @@ void MediaPane::applyDefaultsChange(const QString &key)
 {
     if (key == useColumnsKey)
         restoreUseColumns();
+    else if (key == PathMappings::defaultsKey)
+        mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     TabPane::applyDefaultsChange(key);
 }
 
@@ -295,23 +353,17 @@ void MediaPane::updateUses()
         });
 }
 
-void MediaPane::showHeaderMenu(const QPoint &position)
+void MediaPane::showColumn(const QString &identifier, bool isShown)
 {
-    auto *const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const Column &column : m_useColumns) {
-        QAction *const action = menu->addAction(TableModel::shownName(column));
-        action->setCheckable(true);
-        action->setChecked(m_shownUseColumns.contains(column.identifier));
-        connect(action, &QAction::toggled, this, [this, identifier = column.identifier](bool isShown) {
-            QStringList identifiers = m_shownUseColumns;
-            identifiers.removeAll(identifier);
-            if (isShown)
-                identifiers.append(identifier);
-            storeUseColumns(identifiers);
-        });
+    if (!findColumn(m_useColumns, identifier)) {
+        TabPane::showColumn(identifier, isShown);
+        return;
     }
-    menu->popup(table().horizontalHeader()->mapToGlobal(position));
+    QStringList identifiers = m_shownUseColumns;
+    identifiers.removeAll(identifier);
+    if (isShown)
+        identifiers.append(identifier);
+    storeUseColumns(identifiers);
 }
 
 void MediaPane::revealMediaInFinder()

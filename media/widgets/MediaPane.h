@@ -10,7 +10,8 @@ class QComboBox;
 namespace vantrell
 {
 
-class QVGraphView;
+class MediaFooter;
+class MediaTableModel;
 
 /// The media files of the project, with their filters, totals and chart.
 class MediaPane : public TabPane
@@ -23,6 +24,8 @@ public:
     /// Refills the drive menu; the chosen drive stays chosen while it is there.
     void prepareToShow() override;
     void applyDefaultsChange(const QString &key) override;
+    /// Also adds and removes the columns of mediaUseColumns().
+    void showColumn(const QString &identifier, bool isShown) override;
 
     /// Whether the table shows columns of mediaUseColumns(). The user default "mediaUseColumns" has their
     /// identifiers, for all windows.
@@ -41,9 +44,9 @@ Q_SIGNALS:
 
 protected:
     void updateControls() override;
+    Columns otherColumns() const override { return m_useColumns; }
     void search() override;
     bool prepareSearch() override;
-    void endSearch() override { m_mediaSearch.forget(); }
     QString countText(const QString &number, std::size_t count) const override;
     QString totalText(const RowList &rows) const override;
     QString loadingText(std::size_t found) const override;
@@ -51,7 +54,11 @@ protected:
     QString filteredText() const override;
 
 private:
+    MediaTableModel &mediaModel() const;
     void setMediaChart(const std::vector<double> &values);
+    void updateShares();
+    QString driveNameOf(const QString &directory);
+    QString systemDriveName() const;
     void setDrives(std::vector<DriveItem> drives);
     void makeControls();
     void makeFooter();
@@ -61,14 +68,15 @@ private:
     void restoreUseColumns();
     void storeUseColumns(const QStringList &identifiers);
     void updateUses();
-    void showHeaderMenu(const QPoint &position);
 
     QComboBox *m_kinds;
     QComboBox *m_drives;
     QPushButton *m_reveal;
     QPushButton *m_relink;
     QPushButton *m_exportList;
-    QVGraphView *m_chart;
+    MediaFooter *m_mediaFooter = nullptr;
+    QTimer *m_shareTimer;
+    QHash<QString, QString> m_driveNames; // by folder, of the files' shares
     std::vector<DriveItem> m_driveItems;
     int m_driveLookups = 0; // started so far
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/PathMapping.h"
 #include "table/widgets/TableModel.h"
 
 #include <QStringList>
@@ -7,7 +8,7 @@
 namespace vantrell
 {
 
-/// The table of the media files.
+/// The table of the media files. Those that are missing stand out, and tell what is missing.
 class MediaTableModel : public TableModel
 {
     Q_OBJECT
@@ -19,6 +20,15 @@ public:
     /// begins with "/Volumes". Null for "/Volumes" itself. Other folders that hold the mounted volumes
     /// count as that one does.
     static QString volumeOf(const QString &directory, const QStringList &volumesFolders);
+    QString volumeOf(const QString &directory) const { return volumeOf(directory, m_volumesFolders); }
+
+    /// The paths of the drives that are there. Before it is called nothing is said about drives.
+    void setDrives(const QStringList &paths) { m_drives = paths; }
+    /// Where files are looked for.
+    void setPathMappings(const PathMappings &mappings) { m_mappings = mappings; }
+
+    /// The name of a missing file has a colour of its own.
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
 protected:
     QString text(const RowRecord &record, const Column &column) const override;
@@ -28,8 +38,11 @@ protected:
 
 private:
     void setVolumesFolders(const QStringList &answering);
+    QString missingText(const RowRecord &record) const;
 
     QStringList m_volumesFolders;
+    QStringList m_drives;
+    PathMappings m_mappings;
 };
 
 } // namespace vantrell

@@ -6,17 +6,15 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
 namespace vantrell
 {
 
 namespace
 {
-
-QColor colorOf(const ChartColor &color)
-{
-    return QColor::fromHsvF(float(color.hue), float(color.saturation), float(color.brightness),
-                            float(color.alpha));
-}
 
 QPainterPath pathOf(const ChartSlice &slice, const QPointF &centre, double radius)
 {
@@ -41,6 +39,12 @@ QLinearGradient gradientAt45Degrees(const QRectF &bounds)
 }
 
 } // namespace
+
+QColor QVGraphView::colorOf(const ChartColor &color)
+{
+    return QColor::fromHsvF(float(color.hue), float(color.saturation), float(color.brightness),
+                            float(color.alpha));
+}
 
 QVGraphView::QVGraphView(QWidget *parent)
     : QWidget(parent)
@@ -67,8 +71,19 @@ void QVGraphView::drawRect(QPainter &painter, const QRectF &area) const
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     const QPointF centre(chart.centreX, area.height() - chart.centreY);
+    const double pixel = 1 / painter.device()->devicePixelRatioF();
+    const auto isSeen = [&](const ChartSlice &slice) {
+        return std::abs(slice.sweep) * std::numbers::pi / 180 * chart.radius >= pixel;
+    };
+    const bool isAlone = std::count_if(chart.slices.begin(), chart.slices.end(), isSeen) == 1;
     for (const ChartSlice &slice : chart.slices) {
-        const QPainterPath path = pathOf(slice, centre, chart.radius);
+        if (!isSeen(slice))
+            continue;
+        QPainterPath path;
+        if (isAlone)
+            path.addEllipse(centre, chart.radius, chart.radius);
+        else
+            path = pathOf(slice, centre, chart.radius);
         painter.strokePath(path, QPen(colorOf(slice.wideOutline), MediaChart::wideLine));
         if (slice.fill) {
             QLinearGradient gradient = gradientAt45Degrees(path.boundingRect());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QWidget>
 
 #include <vector>
@@ -8,6 +9,8 @@ class QPainter;
 
 namespace vantrell
 {
+
+struct ChartColor;
 
 /// The pie chart of the media pane. Main thread.
 class QVGraphView : public QWidget
@@ -26,8 +29,10 @@ public:
     void refresh() { update(); }
 
     QSize sizeHint() const override;
+    static QColor colorOf(const ChartColor &color);
 
-    /// Draws the chart for an area of that size, which begins in the painter's origin.
+    /// Draws the chart for an area of that size, which begins in the painter's origin. A slice that is
+    /// narrower than a pixel has no edges, nor has a slice that only such ones are next to.
     void drawRect(QPainter &painter, const QRectF &area) const;
 
 protected:

@@ -1,24 +1,16 @@
 #include "support/widgets/WindowAlertPresenter.h"
 
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/AlertBox.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/ShownText.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEventLoop>
-#include <QFont>
-#include <QFontMetrics>
-#include <QGuiApplication>
-#include <QIcon>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QTextDocument>
 #include <QTimer>
 
 #include <utility>
@@ -92,91 +84,7 @@ std::map<QAbstractButton *, int> addButtons(QMessageBox &box, const AlertDescrip
     return answers;
 }
 
-constexpr QChar wordJoiner(0x2060);
-constexpr int minimumWidth = 380;     // pixels, of the texts
-constexpr int maximumWordWidth = 420; // pixels
-
-/// The text with its paths kept on one line each, and words that are too wide elided in the middle.
-QString fitted(const QString &text, const QFontMetrics &metrics)
-{
-    static const QRegularExpression words(QStringLiteral("\\S+"));
-    QString result;
-    qsizetype end = 0;
-    for (auto match = words.globalMatch(text); match.hasNext();) {
-        const QRegularExpressionMatch word = match.next();
-        QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
-        // A line could be broken behind the slashes.
-        if (shown.count(QLatin1Char('/')) > 1)
-            shown.replace(QLatin1Char('/'), QString(QLatin1Char('/')) + wordJoiner);
-        result += text.mid(end, word.capturedStart() - end) + shown;
-        end = word.capturedEnd();
-    }
-    return result + text.mid(end);
-}
-
-/// Copies the texts of an alert as they are, not as they are shown.
-class CopiesTexts final : public QObject
-{
-public:
-    CopiesTexts(QMessageBox &box, const AlertDescription &description)
-        : QObject(&box)
-        , m_texts(description.value(AlertKey::MessageText) + QLatin1Char('\n') +
-                  description.value(AlertKey::InformativeText))
-    {
-        box.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() != QEvent::KeyPress ||
-            !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy))
-            return false;
-        QGuiApplication::clipboard()->setText(m_texts);
-        return true;
-    }
-
-private:
-    QString m_texts;
-};
-
-/// Both texts literally, even if they look like markup: the message in bold, the explanation below.
-void setTexts(QMessageBox &box, const AlertDescription &description)
-{
-    new CopiesTexts(box, description);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(description.value(AlertKey::MessageText));
-    box.setInformativeText(description.value(AlertKey::InformativeText));
-    for (QLabel *const label : box.findChildren<QLabel *>()) {
-        label->setTextFormat(Qt::PlainText);
-        if (label->text().isEmpty())
-            continue;
-        if (label->text() == description.value(AlertKey::MessageText)) {
-            QFont bold = label->font();
-            bold.setBold(true);
-            label->setFont(bold);
-        }
-        label->setMinimumWidth(minimumWidth);
-        const QString whole = label->text();
-        const QString shown = fitted(whole, QFontMetrics(label->font()));
-        if (shown == whole)
-            continue;
-        label->setText(shown);
-        if (shown.contains(QChar(0x2026)) && !whole.contains(QChar(0x2026)))
-            label->setToolTip(Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal));
-    }
-}
-
 } // namespace
-
-void WindowAlertPresenter::setIcon(QMessageBox &box)
-{
-    constexpr int side = 48;
-    const QIcon icon = QGuiApplication::windowIcon();
-    if (icon.isNull())
-        box.setIcon(QMessageBox::Warning);
-    else
-        box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
-}
 
 AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &english, AlertParent *parent,
                                                     Answer answered)
@@ -184,12 +92,9 @@ AlertPresenter::AlertId WindowAlertPresenter::begin(const AlertDescription &engl
     const AlertDescription description = inWindowLanguage(english);
     QWidget *const window = windowOf(parent);
     auto *const box = new QMessageBox(window);
-    box->setWindowTitle(QCoreApplication::applicationName());
-    setIcon(*box);
-    setTexts(*box, description);
+    setUpAlert(*box, description.value(AlertKey::MessageText), description.value(AlertKey::InformativeText));
     const auto answers = addButtons(*box, description);
     addSuppression(*box, description.value(AlertKey::SuppressionBinding));
-    box->setWindowModality(window ? Qt::WindowModal : Qt::ApplicationModal);
 
     const AlertId alert = ++m_lastId;
     m_shown[alert] = {parent, box};

@@ -41,9 +41,6 @@ public:
     }
     ~WindowAlertPresenter() override { closeAll(nullptr); }
 
-    /// Gives the box the program's own icon, the same for questions, notices and warnings.
-    static void setIcon(QMessageBox &box);
-
     AlertId begin(const AlertDescription &description, AlertParent *parent, Answer answered) override;
     void close(AlertId alert) override;
     void closeAll(AlertParent *parent) override;

@@ -64,6 +64,24 @@ bool actsOnClick(const QModelIndex &index)
     return index.flags().testFlag(Qt::ItemIsUserCheckable) || isPopUp(index);
 }
 
+/// Leaves room behind titles at the right, as the cells below them do.
+class TableHeader final : public QHeaderView
+{
+public:
+    explicit TableHeader(QWidget *parent)
+        : QHeaderView(Qt::Horizontal, parent)
+    {
+    }
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        if (option->textAlignment.testFlag(Qt::AlignRight))
+            option->text += QChar::Nbsp;
+    }
+};
+
 /// Repaints the row below the mouse, and the one that it has left.
 class HoveredRow final : public QObject
 {
@@ -115,6 +133,7 @@ QVTableView::QVTableView(QWidget *parent)
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    setHorizontalHeader(new TableHeader(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     QHeaderView *header = horizontalHeader();
@@ -159,6 +178,8 @@ void QVTableView::setPlaceholder(const QString &text)
 
 bool QVTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
+    if (index.isValid() && isColumnHidden(index.column()))
+        return false;
     const bool starts = trigger == AllEditTriggers || trigger == EditKeyPressed;
     const bool needsSelecting = starts && index.isValid() && index.flags().testFlag(Qt::ItemIsEditable) &&
                                 !selectionModel()->isSelected(index);
@@ -321,6 +342,11 @@ void QVTableView::keyReleaseEvent(QKeyEvent *event)
 
 void QVTableView::contextMenuEvent(QContextMenuEvent *event)
 {
+    const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (isKey && event->modifiers().testFlag(Qt::ControlModifier)) {
+        Q_EMIT headerMenuRequested();
+        return;
+    }
     QMenu *menu = event->reason() == QContextMenuEvent::Mouse ? menuForEvent(event->pos()) : m_menu.data();
     if (menu)
         menu->popup(event->globalPos());

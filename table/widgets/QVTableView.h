@@ -74,6 +74,8 @@ public:
 
 Q_SIGNALS:
     void copyRequested();
+    /// By the context menu key with the control key.
+    void headerMenuRequested();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;

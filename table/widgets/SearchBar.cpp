@@ -126,10 +126,6 @@ bool SearchBar::eventFilter(QObject *object, QEvent *event)
     case QEvent::FocusIn:
         Q_EMIT entered();
         break;
-    case QEvent::FocusOut:
-        if (text().isEmpty() && static_cast<QFocusEvent *>(event)->reason() != Qt::ActiveWindowFocusReason)
-            Q_EMIT ended();
-        break;
     default:
         break;
     }

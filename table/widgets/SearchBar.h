@@ -40,8 +40,6 @@ Q_SIGNALS:
     void changed();
     /// The field has got the keyboard focus.
     void entered();
-    /// The field has lost the keyboard focus and is empty.
-    void ended();
     /// The user wants to go to the table.
     void left();
 

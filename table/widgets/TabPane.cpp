@@ -2,8 +2,10 @@
 
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/ElidedLabel.h"
 #include "support/widgets/SelectableLabel.h"
 #include "support/widgets/ShownText.h"
+#include "table/widgets/ColumnLayout.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableDates.h"
@@ -37,9 +39,11 @@ namespace
 constexpr int busyInterval = 150; // milliseconds
 constexpr int messageMs = 30000;
 constexpr int countMs = 30;
+constexpr int restMs = 1000; // before rows are prepared for a search that may come
 const QString identifierKey = QStringLiteral("identifier");
 const QString widthKey = QStringLiteral("width");
 const QString characterKey = QStringLiteral("characterWidth");
+const QString hiddenKey = QStringLiteral("hidden");
 
 QString layoutKey(Tab tab)
 {
@@ -63,6 +67,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_sorting(workbench.document(), defaults, model->tab())
     , m_model(model)
     , m_table(new QVTableView(this))
+    , m_columnLayout(nullptr)
     , m_controls(new QHBoxLayout)
     , m_countTimer(new QTimer(this))
     , m_prepareTimer(new QTimer(this))
@@ -82,6 +87,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         writeCell(row, column, text, &TabPane::commitEditAlong);
     });
     m_table->setModel(m_model);
+    m_columnLayout = new ColumnLayout(*m_table, *m_model, this);
     m_table->setItemDelegate(new TableDelegate(m_table));
     m_table->setDelegateObject(this);
     m_busy->setRange(0, 0);
@@ -114,6 +120,10 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     QHeaderView *header = m_table->horizontalHeader();
     connect(header, &QHeaderView::sectionClicked, this, &TabPane::clickHeader);
     connect(header, &QHeaderView::sectionMoved, this, &TabPane::moveSection);
+    connect(m_columnLayout, &ColumnLayout::resized, this, &TabPane::saveLayout);
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, &TabPane::showHeaderMenu);
+    connect(m_table, &QVTableView::headerMenuRequested, this, [this] { showHeaderMenu(QPoint()); });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TabPane::noteSelectionChange);
     connect(m_table, &QVTableView::copyRequested, this, &TabPane::copySelection);
@@ -124,6 +134,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     connect(m_prepareTimer, &QTimer::timeout, this, [this] {
         if (prepareSearch())
             m_prepareTimer->stop();
+        else
+            m_prepareTimer->setInterval(0);
     });
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
     const RowView &view = m_model->view();
@@ -139,10 +151,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         if (given == tab())
             showMessage(text);
     });
-    connect(&document, &MyDocument::historyChanged, this, [this] {
-        if (m_search && (m_search->field().hasFocus() || !m_search->text().isEmpty()))
-            m_prepareTimer->start(0); // texts may have changed
-    });
+    connect(&document, &MyDocument::historyChanged, this, &TabPane::prepareSoon); // texts may have changed
     header->setSortIndicatorShown(true);
     restoreLayout();
     showSortIndicator();
@@ -194,6 +203,7 @@ void TabPane::tableDidReload()
     m_isFilled = m_model->view().isVisible();
     if (m_isFilled)
         restoreRows();
+    prepareSoon();
     showSortIndicator();
     updatePlaceholder();
     updateControls();
@@ -296,7 +306,8 @@ void TabPane::scrollToRow(std::size_t row)
 {
     if (row >= std::size_t(m_model->rowCount()))
         return;
-    const int column = std::clamp(m_table->currentIndex().column(), 0, m_model->columnCount() - 1);
+    const int current = std::clamp(m_table->currentIndex().column(), 0, m_model->columnCount() - 1);
+    const int column = m_table->isColumnHidden(current) ? m_model->columnOf(m_columnLayout->key()) : current;
     const QModelIndex index = m_model->index(int(row), column);
     m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(index);
@@ -392,8 +403,7 @@ void TabPane::addColumn(const Column &column)
     m_model->addColumn(column);
     if (isPresent)
         return;
-    m_table->setColumnWidth(m_model->columnOf(identifier),
-                            m_storedWidths.value(identifier, usualWidth(identifier)));
+    m_columnLayout->apply();
     if (storedOrder().contains(identifier)) {
         restoreOrder();
     } else {
@@ -409,8 +419,9 @@ void TabPane::removeColumn(const QString &identifier)
     if (column < 0)
         return;
     m_table->commitEditing();
-    m_storedWidths.insert(identifier, m_table->columnWidth(column));
+    m_columnLayout->setWidth(identifier, m_columnLayout->width(identifier));
     m_model->removeColumn(identifier);
+    m_columnLayout->apply();
     showSortIndicator();
 }
 
@@ -455,12 +466,12 @@ void TabPane::saveLayout()
     }
     QVariantList layout;
     for (const QString &identifier : order) {
-        const int present = m_model->columnOf(identifier);
         QVariantMap column;
         column.insert(identifierKey, identifier);
-        column.insert(widthKey, present >= 0 ? m_table->columnWidth(present)
-                                             : m_storedWidths.value(identifier, usualWidth(identifier)));
-        column.insert(characterKey, fontMetrics().averageCharWidth());
+        column.insert(widthKey, m_columnLayout->width(identifier));
+        column.insert(characterKey, m_columnLayout->characterWidth());
+        if (m_columnLayout->isHidden(identifier))
+            column.insert(hiddenKey, true);
         layout.emplace_back(column);
     }
     const QScopedValueRollback<bool> stores(m_storesLayout, true);
@@ -499,19 +510,24 @@ void TabPane::applyDefaultsChange(const QString &key)
         return;
     m_newColumns.clear();
     restoreOrder();
+    restoreHidden();
 }
 
-/// In pixels.
-int TabPane::usualWidth(const QString &identifier) const
+void TabPane::restoreHidden()
 {
-    const Column *column = findColumn(m_model->columns(), identifier);
-    return (column ? *column : Column()).width * fontMetrics().averageCharWidth();
+    QStringList hidden;
+    const QVariant stored = m_defaults.value(layoutKey(tab()));
+    for (const QVariant &entry : stored.toList()) {
+        const QVariantMap column = entry.toMap();
+        if (column.value(hiddenKey).toBool())
+            hidden.append(column.value(identifierKey).toString());
+    }
+    m_columnLayout->setHidden(hidden);
+    m_columnLayout->apply();
 }
 
 void TabPane::restoreLayout()
 {
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        m_table->setColumnWidth(column, usualWidth(m_model->columnAt(column).identifier));
     const QVariant stored = m_defaults.value(layoutKey(tab()));
     for (const QVariant &entry : stored.toList()) {
         const QString identifier = entry.toMap().value(identifierKey).toString();
@@ -519,15 +535,12 @@ void TabPane::restoreLayout()
         // Stored with a font of another size.
         const qint64 character = PropertyList::integer(entry.toMap().value(characterKey));
         if (character > 0 && character < 1000 && width > 0 && width < 10000)
-            width = width * fontMetrics().averageCharWidth() / character;
-        const int column = m_model->columnOf(identifier);
-        if (width > 0 && width < 10000) {
-            m_storedWidths.insert(identifier, int(width));
-            if (column >= 0)
-                m_table->setColumnWidth(column, int(width));
-        }
+            width = width * m_columnLayout->characterWidth() / character;
+        if (width > 0 && width < 10000)
+            m_columnLayout->setWidth(identifier, int(width));
     }
     restoreOrder();
+    restoreHidden();
 }
 
 // What else the document and the window ask
@@ -587,11 +600,16 @@ SearchBar &TabPane::addSearchBar()
     connect(m_search, &SearchBar::changed, this, &TabPane::search);
     connect(m_search, &SearchBar::left, this, [this] { m_table->setFocus(Qt::OtherFocusReason); });
     connect(m_search, &SearchBar::entered, m_prepareTimer, [this] { m_prepareTimer->start(0); });
-    connect(m_search, &SearchBar::ended, this, [this] {
-        m_prepareTimer->stop();
-        endSearch();
-    });
     return *m_search;
+}
+
+/// Prepares the rows for a search when the window is at rest, or at once when somebody searches.
+void TabPane::prepareSoon()
+{
+    if (!m_search || !m_isFilled)
+        return;
+    const bool isSearched = m_search->field().hasFocus() || !m_search->text().isEmpty();
+    m_prepareTimer->start(isSearched ? 0 : restMs);
 }
 
 void TabPane::focusSearch()
@@ -635,7 +653,8 @@ void TabPane::updateCounts()
 
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)
 {
-    auto *widget = new QLabel(parent);
+    auto *widget = new ElidedLabel(parent);
+    widget->setTextFormat(Qt::PlainText);
     makeSelectable(*widget);
     m_labels.insert(label, widget);
     return widget;

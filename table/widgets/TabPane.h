@@ -16,6 +16,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QPushButton;
 class QTimer;
@@ -24,6 +25,7 @@ class QVBoxLayout;
 namespace vantrell
 {
 
+class ColumnLayout;
 class QVTableView;
 class SearchBar;
 class TableModel;
@@ -72,6 +74,20 @@ public:
     void removeColumn(const QString &identifier);
     void moveColumn(const QString &identifier, int index);
 
+    // What the user asks of the columns; hidden ones stay in columns(). All of it is stored with the layout.
+
+    bool isColumnShown(const QString &identifier) const;
+    /// Nothing happens when the column cannot be hidden.
+    virtual void showColumn(const QString &identifier, bool isShown);
+    /// As wide as its title and the cells on show.
+    void fitColumn(const QString &identifier);
+    void fitAllColumns();
+    /// Shows all columns in the order and with the widths of a new table.
+    void resetColumns();
+    /// Lists the columns to be shown and hidden, and what changes their widths: that of the clicked column,
+    /// or of the current cell's when it is empty.
+    void fillColumnMenu(QMenu &menu, const QString &clicked = QString());
+
     // What the window asks
 
     /// Puts the keyboard focus into the search field, with its text selected.
@@ -83,9 +99,9 @@ public:
     /// Shows a message below the table for a while.
     void showMessage(const QString &text);
 
-    /// Order and widths of the columns, kept in the user defaults under "%@ColumnLayout", which decides on
-    /// the order in all windows. It is stored with each column that the user moves, and restored by the
-    /// constructor.
+    /// Order and widths of the columns and which are hidden, kept in the user defaults under
+    /// "%@ColumnLayout", which decides on the order and the hidden ones in all windows. It is stored with
+    /// each change that the user makes, and restored by the constructor.
     void saveLayout();
     void restoreLayout();
     /// A setting that all documents share changed.
@@ -138,6 +154,8 @@ protected:
     }
     /// The user moved a column; the index is its new position from the left.
     virtual void columnMoved(const QString &, int) {}
+    /// Columns that showColumn() can add to the table; those that are there may be among them.
+    virtual Columns otherColumns() const { return {}; }
     /// Shows the text of showMessage(), empty when its time is up. A pane with a status line of its own
     /// overrides it.
     virtual void setMessage(const QString &text);
@@ -147,8 +165,6 @@ protected:
     virtual void search() = 0;
     /// Prepares the rows for a search for a few milliseconds; true when that is done.
     virtual bool prepareSearch() { return true; }
-    /// Nothing is searched for any more.
-    virtual void endSearch() {}
     /// That many rows, which the text tells, such as "3 of 12": "3 of 12 markers".
     virtual QString countText(const QString &number, std::size_t count) const = 0;
     /// What the rows come to together; may be empty.
@@ -172,12 +188,14 @@ private:
     QStringList storedOrder() const;
     void restoreOrder();
     void moveColumnTo(const QString &identifier, int index);
-    int usualWidth(const QString &identifier) const;
+    void restoreHidden();
+    void showHeaderMenu(const QPoint &position);
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void updateBusy();
     void updatePlaceholder();
     void updateCounts();
+    void prepareSoon();
     void rememberRows();
     void restoreRows();
 
@@ -186,6 +204,7 @@ private:
     TableSorting m_sorting;
     TableModel *m_model;
     QVTableView *m_table;
+    ColumnLayout *m_columnLayout;
     QHBoxLayout *m_controls;
     SearchBar *m_search = nullptr;
     QTimer *m_countTimer;
@@ -198,8 +217,7 @@ private:
     QLabel *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
-    QSet<QString> m_newColumns;         // added without a position in the stored layout
-    QHash<QString, int> m_storedWidths; // of columns that are not there, by identifier
+    QSet<QString> m_newColumns; // added without a position in the stored layout
 
     bool m_spinning = false;
     bool m_editingEnabled = false;

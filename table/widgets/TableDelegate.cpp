@@ -41,6 +41,17 @@ QStyle &styleOf(const QStyleOptionViewItem &option)
     return option.widget ? *option.widget->style() : *QApplication::style();
 }
 
+/// About the arrow of a pop-up cell.
+int arrowMargin(const QStyleOptionViewItem &option)
+{
+    return styleOf(option).pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 2;
+}
+
+int arrowRoom(const QStyleOptionViewItem &option)
+{
+    return iconSide / 2 + 2 * arrowMargin(option);
+}
+
 QRect checkBoxRect(const QStyleOptionViewItem &option)
 {
     const QStyle &style = styleOf(option);
@@ -87,6 +98,17 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     option->decorationSize = QSize(iconSide, iconSide);
     if (columnOf(index).elidesMiddle)
         option->textElideMode = Qt::ElideMiddle;
+}
+
+/// With the room that the text leaves for the arrow, or for the next column.
+QSize TableDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    if (columnOf(index).kind == Column::Kind::PopUp)
+        size.rwidth() += arrowRoom(option);
+    else if (columnOf(index).alignment == Qt::AlignRight)
+        size.rwidth() += option.fontMetrics.averageCharWidth();
+    return size;
 }
 
 void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -152,10 +174,10 @@ void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &op
     const QStyle &style = styleOf(cell);
     const QRect whole = cell.rect;
     const int arrow = iconSide / 2;
-    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 2;
+    const int margin = arrowMargin(cell);
     // The background goes over the whole cell; icon and text leave room for the arrow.
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
-    cell.rect.adjust(0, 0, -(arrow + 2 * margin), 0);
+    cell.rect.adjust(0, 0, -arrowRoom(cell), 0);
     cell.backgroundBrush = QBrush();
     const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
     cell.state &= ~QStyle::State_HasFocus;
@@ -195,7 +217,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = field;
     }
     if (editor)
-        editor->setAccessibleName(columnOf(index).name);
+        editor->setAccessibleName(TableModel::shownName(columnOf(index)));
     return editor;
 }
 

@@ -19,6 +19,7 @@ public:
     /// What the editor holds is to be written along with what belongs to the cell; see TableModel::AlongRole.
     static void setWritesAlong(QWidget &editor);
 
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,

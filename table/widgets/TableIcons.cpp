@@ -54,6 +54,12 @@ QIcon TableIcons::file(const QString &filename)
     return icon;
 }
 
+QIcon TableIcons::missing()
+{
+    static const QIcon icon = tableSymbol(QStringLiteral("missing"), QColor(240, 160, 0));
+    return icon;
+}
+
 QIcon TableIcons::volume(const QString &path)
 {
     static const QIcon symbol = tableSymbol(QStringLiteral("volume"));

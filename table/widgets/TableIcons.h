@@ -13,6 +13,8 @@ namespace TableIcons
 
 /// By the file's name alone.
 QIcon file(const QString &filename);
+/// In place of a file's that is missing.
+QIcon missing();
 /// "/" is the start-up volume.
 QIcon volume(const QString &path);
 /// "sequence" or "clip"; null for another name.

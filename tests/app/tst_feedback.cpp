@@ -20,6 +20,7 @@
 #include "workbench/Workbench.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
@@ -251,7 +252,8 @@ private Q_SLOTS:
             show(tab);
             const QVTableView &table = window.currentPane().table();
             QTRY_VERIFY(table.verticalScrollBar()->maximum() > 1);
-            QVERIFY(table.horizontalScrollBar()->maximum() > 20);
+            table.horizontalHeader()->resizeSection(1, 900);
+            QTRY_VERIFY(table.horizontalScrollBar()->maximum() > 20);
             table.verticalScrollBar()->setValue(table.verticalScrollBar()->maximum() - 1);
             table.horizontalScrollBar()->setValue(17 + int(tab));
             positions[tab] = {table.horizontalScrollBar()->value(), table.verticalScrollBar()->value()};

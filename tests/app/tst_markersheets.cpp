@@ -215,10 +215,15 @@ private Q_SLOTS:
         move(take, 2);
         const QStringList moved = columns();
         QCOMPARE(moved.mid(0, 4), QStringList({lens, QStringLiteral("color"), take, crew}));
+        m_window->pane(Tab::Markers).showColumn(take, false);
         reopen();
         QCOMPARE(columns(), moved);
+        QVERIFY(!m_window->pane(Tab::Markers).isColumnShown(take));
         m_other = open(QStringLiteral("b"));
         QCOMPARE(m_other->pane(Tab::Markers).columns(), moved);
+        QVERIFY(!m_other->pane(Tab::Markers).isColumnShown(take));
+        m_window->pane(Tab::Markers).showColumn(take, true);
+        QVERIFY(m_other->pane(Tab::Markers).isColumnShown(take));
         openFields(m_window)->close();
         QCOMPARE(columns(), moved);
         // The other document follows, and does not undo it when it ends last.

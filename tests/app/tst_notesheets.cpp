@@ -13,6 +13,7 @@
 #include "support/widgets/WindowAlertPresenter.h"
 #include "table/widgets/QVTableView.h"
 #include "tests/support/TemporaryHome.h"
+#include "workbench/Workbench.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -282,6 +283,17 @@ private Q_SLOTS:
         QTRY_VERIFY(sheetOf<NotePreviewSheet>(*m_window));
         QVERIFY(add(*sheetOf<NotePreviewSheet>(*m_window)));
         QCOMPARE(markers(), u"a/ 25--1, pasted/ 50--1, more/ 75--1"_s);
+
+        // What is pasted goes where the selected markers are.
+        const RowRecordPtr film =
+            m_window->workbench().markerEditor().addMarkerWithName(u"film"_s, 1, -1, QString(), u"red"_s, 2);
+        QVERIFY(film);
+        m_window->pane(Tab::Markers).selectRows({m_window->document()->rowsOnShow(Tab::Markers).size() - 1});
+        QGuiApplication::clipboard()->setText(u"01:00:04:00\tthere\n"_s);
+        m_window->paste();
+        QTRY_VERIFY(sheetOf<NotePreviewSheet>(*m_window));
+        QCOMPARE(sheetOf<NotePreviewSheet>(*m_window)->preview().sequence(), 2);
+        sheetOf<NotePreviewSheet>(*m_window)->reject();
 
         QGuiApplication::clipboard()->setText(u"no list"_s);
         m_window->paste();

@@ -17,7 +17,24 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 using namespace vantrell;
+
+namespace
+{
+
+/// Whether the message is in bold, wide enough and can be selected.
+bool showsAsAlert(const QWidget &window, const QString &message)
+{
+    const auto labels = window.findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(), [&message](const QLabel *label) {
+        return label->text() == message && label->font().bold() && label->width() >= 380 &&
+               label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse);
+    });
+}
+
+} // namespace
 
 /// What becomes of unsaved changes after a crash, and after Revert.
 class RecoveryTest : public QObject
@@ -48,6 +65,8 @@ private Q_SLOTS:
         start();
         QTRY_VERIFY(panel());
         QCOMPARE(panel()->journals().size(), std::size_t(1));
+        QVERIFY(showsAsAlert(*panel(), QStringLiteral("The program ended before the changes to this project "
+                                                      "were saved.")));
         const auto *const list = panel()->findChild<QTreeWidget *>();
         QCOMPARE(list->topLevelItem(0)->text(0), QStringLiteral("Harbour Lights.xml"));
         QCOMPARE(list->topLevelItem(0)->text(1), QStringLiteral("2"));
@@ -186,6 +205,7 @@ private Q_SLOTS:
         m_window->save();
         QTRY_VERIFY(visibleBox());
         QVERIFY(visibleBox()->text().contains(QStringLiteral("was changed by another program")));
+        QVERIFY(showsAsAlert(*visibleBox(), visibleBox()->text()));
         QVERIFY(press(visibleBox(), QStringLiteral("Overwrite")));
         QTRY_VERIFY(!m_window->isWindowModified());
         QVERIFY(contentOf(m_path).contains("<name>First</name>"));
@@ -227,6 +247,33 @@ private Q_SLOTS:
         reverted->close();
         QTRY_VERIFY(visibleBox());
         QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+    }
+
+    /// What the file has lost meanwhile can be had again, though the project was not edited.
+    void undoesARevertToLess_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isLess");
+        const QByteArray whole = contentOf(copySample(QDir::tempPath()));
+        QTest::newRow("half") << whole.left(whole.size() / 2) << true;
+        QTest::newRow("no project") << QByteArray("<html/>") << true;
+        QTest::newRow("whole") << whole << false;
+    }
+    void undoesARevertToLess()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isLess);
+        open();
+        const QStringList before = names();
+        m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), content);
+        QSignalSpy loaded(m_window, &DocumentWindow::loaded);
+        m_window->revertWithoutQuestion();
+        QTRY_COMPARE(loaded.count(), 1);
+        ready();
+        QCOMPARE(m_window->mayUndoRevert(), isLess);
+        if (isLess)
+            m_window->undo();
+        QCOMPARE(names(), before);
     }
 
     /// The open project may be the only copy when the file can no longer be read.

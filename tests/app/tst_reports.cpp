@@ -69,6 +69,7 @@ private Q_SLOTS:
         m_window->pane(Tab::Markers).selectRows({1, 3});
         auto *const header = m_window->pane(Tab::Markers).table().horizontalHeader();
         header->moveSection(m_window->pane(Tab::Markers).columns().indexOf(u"in"_s), 0);
+        m_window->pane(Tab::Markers).showColumn(u"comment"_s, false); // in the window alone
         QSignalSpy printed(m_window.get(), &DocumentWindow::reportPrinted);
         m_window->printDocument();
         auto *const panel = m_window->findChild<PrintPanel *>();

@@ -32,10 +32,15 @@ const QByteArray green("<color><alpha>0</alpha><red>48</red><green>191</green><b
 
 MarkerOverview overviewOf(const RowList &list, const RowList &visible, std::size_t rowsAtOnce = 1000)
 {
-    MarkerOverviewBuilder builder(list, visible);
-    while (!builder.work(rowsAtOnce)) {
+    MarkerOverviewBuilder builder;
+    while (!builder.work(list, rowsAtOnce)) {
     }
-    return builder.take();
+    MarkerOverview overview = builder.take();
+    ShownMarkers shown;
+    while (!shown.work(overview, list, visible, rowsAtOnce)) {
+    }
+    shown.apply(overview);
+    return overview;
 }
 
 /// "name start-end", with the index of the colour, "?" if it is not in the table and "*" if selected.

@@ -1,19 +1,23 @@
 #include "markers/MarkerNavigation.h"
 #include "markers/MarkerSearch.h"
 #include "markers/MarkerTotals.h"
+#include "rows/RowSort.h"
+#include "support/threads/BackgroundWork.h"
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/TemporaryHome.h"
+
+#include <QRandomGenerator>
 
 using namespace vantrell;
 
 namespace
 {
 
-QByteArray marker(const char *name, const char *comment, const char *in, const char *out = "-1",
-                  const char *color = "")
+QByteArray marker(const QByteArray &name, const QByteArray &comment, const QByteArray &in,
+                  const char *out = "-1", const char *color = "")
 {
-    return QByteArray("<marker><name>") + name + "</name><comment>" + comment + "</comment><in>" + in +
-           "</in><out>" + out + "</out>" + color + "</marker>";
+    return "<marker><name>" + name + "</name><comment>" + comment + "</comment><in>" + in + "</in><out>" +
+           out + "</out>" + color + "</marker>";
 }
 
 const char *const blue = "<color><red>0</red><green>128</green><blue>255</blue></color>";
@@ -138,6 +142,72 @@ private Q_SLOTS:
         QCOMPARE(p.shown("ree"), QStringLiteral("dacb"));
         QCOMPARE(p.shown(""), QStringLiteral("dacbef"));
         QVERIFY(p.document.rowView(Tab::Markers).order() == RowView::Order::Sorted);
+    }
+
+    /// Whatever was typed and sorted before, the table shows what a look at each marker of the list finds, in
+    /// its order.
+    void showsWhatASimpleSearchShows()
+    {
+        QRandomGenerator random(1);
+        const auto letters = [&random](int count) {
+            QByteArray text;
+            for (; count > 0; --count)
+                text += char('a' + random.bounded(4));
+            return text;
+        };
+        QByteArray markers;
+        for (int i = 0; i < 60; ++i) {
+            const QByteArray comment = letters(2) + (i % 3 == 0 ? "&lt;CHAPTER&gt;" : "");
+            const QByteArray number = QByteArray::number(i * 7 % 61);
+            markers += marker(letters(3) + number, comment, number, "-1", i % 4 == 0 ? blue : "");
+        }
+        MarkerProject p(project(sequence("1", "25", "0", markers)));
+        MarkerSearch search(p.document);
+        p.inventory.populateFilteredMarkerData();
+        RowView &view = p.document.rowView(Tab::Markers);
+        MarkerSearch::Conditions conditions;
+        for (int step = 0; step < 600; ++step) {
+            switch (random.bounded(12)) {
+            case 0:
+                view.sortBy({{QLatin1String(random.bounded(2) ? "name" : "in"), random.bounded(2) == 1}});
+                break;
+            case 1:
+                p.document.viewState().markerFilter = random.bounded(2) * 6; // blue
+                p.inventory.changeMarkerFilter();
+                break;
+            case 2:
+                conditions.flag = random.bounded(2) ? std::optional(MarkerFlag::Chapter) : std::nullopt;
+                break;
+            case 3:
+                conditions = {};
+                break;
+            case 4:
+            case 5:
+            case 6:
+                conditions.text.chop(1);
+                break;
+            default:
+                conditions.text += QString::fromLatin1(letters(1));
+            }
+            if (random.bounded(2)) {
+                search.prepare(std::chrono::hours(1));
+                BackgroundWork::waitForAll(std::chrono::seconds(20));
+            }
+            search.setConditions(conditions);
+            RowList expected;
+            for (const RowRecordPtr &row : view.list()) {
+                const bool isHit =
+                    row->get(MarkerKey::name).contains(conditions.text) ||
+                    row->get(MarkerKey::comment).contains(conditions.text, Qt::CaseInsensitive);
+                const bool isBlue = row->get(MarkerKey::color) == 5;
+                if (isHit && (!conditions.flag || hasFlag(*row, *conditions.flag)) &&
+                    (p.document.viewState().markerFilter == 0 || isBlue))
+                    expected.push_back(row);
+            }
+            if (view.order() == RowView::Order::Sorted)
+                expected = sortedRows(expected, view.sortDescriptors(), view.columns());
+            QCOMPARE(names(view.visibleRows()), names(expected));
+        }
     }
 
     void findsWhatWasEdited()

@@ -1,7 +1,9 @@
 #include "rows/RowSearch.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
 #include <thread>
 
 using namespace vantrell;
@@ -89,6 +91,58 @@ private Q_SLOTS:
         QVERIFY(!search.condition()(*rows[0]));
         search.forget();
         QVERIFY(search.condition()(*rows[0]));
+    }
+
+    /// Texts of few letters, so that many hold what is looked for: letter by letter, and back.
+    void findsWhatALookAtEachTextFinds()
+    {
+        QRandomGenerator random(18);
+        const QStringList letters{
+            QStringLiteral("a"),      QStringLiteral("B"),          QStringLiteral("b"),
+            QStringLiteral(" "),      QStringLiteral("\u00e9"),     QStringLiteral("e\u0301"),
+            QStringLiteral("\u00df"), QStringLiteral("ss"),         QStringLiteral("\u0416"),
+            QStringLiteral("\u4e2d"), QStringLiteral("\U0001f600"), QString(QChar(0xd83d)),
+            QStringLiteral("\n")};
+        const auto word = [&](int most) {
+            QString text;
+            for (int length = random.bounded(most + 1); length > 0; --length)
+                text += letters[random.bounded(letters.size())];
+            return text;
+        };
+        RowList rows;
+        QString shared;
+        for (int i = 0; i < 400; ++i) {
+            if (i % 7 == 0)
+                shared = word(6);
+            rows.push_back(row(word(8), shared));
+        }
+        RowSearch search(texts());
+        search.prepare({rows.begin(), rows.begin() + 150});
+        for (int run = 0; run < 60; ++run) {
+            if (run == 20)
+                search.prepare(rows);
+            const QString whole = word(5);
+            QStringList typed;
+            for (qsizetype length = 0; length <= whole.size(); ++length)
+                typed.append(whole.left(length));
+            for (qsizetype length = whole.size(); length > 0; --length)
+                typed.append(whole.left(length));
+            for (const QString &text : std::as_const(typed)) {
+                search.setText(text);
+                const QString folded = RowSearch::folded(text);
+                const auto holds = [&](const RowRecordPtr &record) {
+                    return RowSearch::folded(record->get(first)).contains(folded) ||
+                           RowSearch::folded(record->get(second)).contains(folded);
+                };
+                const RowSearch::Condition condition = search.condition();
+                const RowSearch::Places places = search.placesOf(rows);
+                for (std::size_t i = 0; i < rows.size(); ++i) {
+                    QCOMPARE(condition(*rows[i]), holds(rows[i]));
+                    if (places[i] != RowSearch::nowhere)
+                        QCOMPARE(bool(search.hits()[places[i]]), holds(rows[i]));
+                }
+            }
+        }
     }
 
     void takesLittleTimeAtOnce()

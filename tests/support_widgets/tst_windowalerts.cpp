@@ -176,17 +176,32 @@ private Q_SLOTS:
         int width = 0;
         QString shown;
         QString tip;
+        QString all;
+        QString part;
+        QString whole;
         whenShown([&](QMessageBox *box) {
             width = box->width();
-            for (const QLabel *const label : box->findChildren<QLabel *>()) {
+            QLabel *elided = nullptr;
+            for (QLabel *const label : box->findChildren<QLabel *>()) {
                 if (label->text() == QStringLiteral("Short"))
                     isBold = label->font().bold();
                 if (!label->toolTip().isEmpty()) {
                     shown = label->text();
                     tip = label->toolTip();
+                    elided = label;
                 }
             }
             QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
+            all = QGuiApplication::clipboard()->text();
+            if (elided) {
+                const auto copied = [elided](int first, int length) {
+                    elided->setSelection(first, length);
+                    QTest::keyClick(elided, Qt::Key_C, Qt::ControlModifier);
+                    return QGuiApplication::clipboard()->text();
+                };
+                part = copied(0, 10);
+                whole = copied(0, int(elided->text().size()));
+            }
             box->defaultButton()->click();
         });
         QVAlert::alertSheetWithMessageText(QStringLiteral("Short"), path, nullptr);
@@ -196,7 +211,9 @@ private Q_SLOTS:
         QVERIFY(shown.endsWith(QStringLiteral("last.mov")));
         QVERIFY(shown.size() < path.size());
         QVERIFY(tip.contains(path));
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Short\n") + path);
+        QCOMPARE(all, QStringLiteral("Short\n") + path);
+        QCOMPARE(part, QStringLiteral("/Volumes/"));
+        QCOMPARE(whole, path); // although it is elided
     }
 
     void aSecondAlertStandsAlone()

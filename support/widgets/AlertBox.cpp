@@ -1,0 +1,134 @@
+#include "support/widgets/AlertBox.h"
+
+#include "support/widgets/SelectableLabel.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFont>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QTextDocument>
+
+namespace vantrell
+{
+
+namespace
+{
+
+constexpr QChar wordJoiner(0x2060);
+constexpr QChar ellipsis(0x2026);
+constexpr int minimumWidth = 380;     // pixels, of the texts
+constexpr int maximumWordWidth = 420; // pixels
+
+/// The text with its paths kept on one line each, and words that are too wide elided in the middle.
+QString fitted(const QString &text, const QFontMetrics &metrics)
+{
+    static const QRegularExpression words(QStringLiteral("\\S+"));
+    QString result;
+    qsizetype end = 0;
+    for (auto match = words.globalMatch(text); match.hasNext();) {
+        const QRegularExpressionMatch word = match.next();
+        QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
+        // A line could be broken behind the slashes.
+        if (shown.count(QLatin1Char('/')) > 1)
+            shown.replace(QLatin1Char('/'), QString(QLatin1Char('/')) + wordJoiner);
+        result += text.mid(end, word.capturedStart() - end) + shown;
+        end = word.capturedEnd();
+    }
+    return result + text.mid(end);
+}
+
+/// Copies texts as they are, not as they are shown: what is selected in a label, else all.
+class CopiesTexts final : public QObject
+{
+public:
+    CopiesTexts(QObject *parent, const QString &texts)
+        : QObject(parent)
+        , m_texts(texts)
+    {
+        parent->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress ||
+            !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy))
+            return false;
+        QString copied = m_texts;
+        if (const auto *const label = qobject_cast<QLabel *>(object)) {
+            const QString selected = selectedTextOf(*label).remove(wordJoiner);
+            if (!selected.isEmpty() && (!selected.contains(ellipsis) || m_texts.contains(ellipsis)))
+                copied = selected;
+        }
+        QGuiApplication::clipboard()->setText(copied);
+        return true;
+    }
+
+private:
+    QString m_texts;
+};
+
+void setText(QLabel &label, const QString &text)
+{
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
+    label.setMinimumWidth(minimumWidth);
+    makeSelectable(label);
+    const QString shown = fitted(text, QFontMetrics(label.font()));
+    label.setText(shown);
+    const bool isElided = shown.contains(ellipsis) && !text.contains(ellipsis);
+    label.setToolTip(isElided ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
+    new CopiesTexts(&label, text);
+}
+
+void setIcon(QMessageBox &box)
+{
+    constexpr int side = 48;
+    const QIcon icon = QGuiApplication::windowIcon();
+    if (icon.isNull())
+        box.setIcon(QMessageBox::Warning);
+    else
+        box.setIconPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatio()));
+}
+
+} // namespace
+
+void setMessageText(QLabel &label, const QString &message)
+{
+    QFont bold = label.font();
+    bold.setBold(true);
+    label.setFont(bold);
+    setText(label, message);
+}
+
+void setExplanationText(QLabel &label, const QString &explanation)
+{
+    setText(label, explanation);
+}
+
+void setUpAlert(QMessageBox &box, const QString &message, const QString &explanation)
+{
+    box.setWindowTitle(QCoreApplication::applicationName());
+    box.setWindowModality(box.parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+    setIcon(box);
+    new CopiesTexts(&box, message + QLatin1Char('\n') + explanation);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(message);
+    box.setInformativeText(explanation);
+    for (QLabel *const label : box.findChildren<QLabel *>()) {
+        const QString text = label->text();
+        if (text.isEmpty())
+            continue;
+        if (text == message)
+            setMessageText(*label, text);
+        else
+            setExplanationText(*label, text);
+    }
+}
+
+} // namespace vantrell
