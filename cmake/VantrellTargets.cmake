@@ -126,7 +126,7 @@ function(vantrell_test folder name)
     add_test(NAME ${folder}/${name} COMMAND tst_${name})
     set_tests_properties(${folder}/${name} PROPERTIES
         TIMEOUT ${program_seconds}
-        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=${function_seconds}000;QT_QPA_PLATFORM=offscreen;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
+        ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=${function_seconds}000;QT_QPA_PLATFORM=offscreen;LANGUAGE=en;VANTRELL_SOURCE_DIR=${PROJECT_SOURCE_DIR};VANTRELL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY};${VANTRELL_SANITIZER_ENVIRONMENT}")
     if(ARG_SECONDS)
         set_tests_properties(${folder}/${name} PROPERTIES COST ${ARG_SECONDS})
     endif()

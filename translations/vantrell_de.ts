@@ -471,6 +471,10 @@
         <source>Close the window</source>
         <translation>Das Fenster schließen</translation>
     </message>
+    <message>
+        <source>The menu of the table&apos;s header: its columns</source>
+        <translation>Das Menü des Tabellenkopfes: seine Spalten</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -3054,6 +3058,10 @@
         <source>Final Cut Pro is not running. Start it and open a project in it first.</source>
         <translation>Final Cut Pro läuft nicht. Starten Sie es und öffnen Sie zuerst ein Projekt darin.</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>S&amp;palten</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3509,6 +3517,47 @@ Sequenz der Übersicht wählen oder der ausgewählten Zeile folgen lassen</trans
         <source>No marker has this color.</source>
         <translation>Kein Marker hat diese Farbe.</translation>
     </message>
+    <message>
+        <source>The column In is hidden. View ▸ Columns shows it again</source>
+        <translation>Die Spalte In ist ausgeblendet. Ansicht ▸ Spalten zeigt sie wieder</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MediaFooter</name>
+    <message>
+        <source>By kind:</source>
+        <translation>Nach Art:</translation>
+    </message>
+    <message>
+        <source>By drive:</source>
+        <translation>Nach Laufwerk:</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by kind</source>
+        <translation>Anteile der angezeigten Medien nach Art</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by drive</source>
+        <translation>Anteile der angezeigten Medien nach Laufwerk</translation>
+    </message>
+    <message>
+        <source>Chart of the media on show and the free space of the start-up volume</source>
+        <translation>Diagramm der angezeigten Medien und des freien Platzes auf dem Startvolume</translation>
+    </message>
+    <message>
+        <source>Media on show</source>
+        <translation>Angezeigte Medien</translation>
+    </message>
+    <message>
+        <source>Free on System Drive</source>
+        <translation>Frei auf dem Systemlaufwerk</translation>
+    </message>
+    <message>
+        <source>Media on show: %1 (green)
+Free on the start-up volume: %2 (blue)</source>
+        <translation>Angezeigte Medien: %1 (grün)
+Frei auf dem Startvolume: %2 (blau)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaPane</name>
@@ -3637,18 +3686,8 @@ Sequenz der Übersicht wählen oder der ausgewählten Zeile folgen lassen</trans
         <translation>%1 Dateien</translation>
     </message>
     <message>
-        <source>Chart of the media on show and the free space of the start-up volume</source>
-        <translation>Diagramm der angezeigten Medien und des freien Platzes auf dem Startvolume</translation>
-    </message>
-    <message>
         <source>System Drive</source>
         <translation>Systemlaufwerk</translation>
-    </message>
-    <message>
-        <source>Media on show: %1 (green)
-Free on the start-up volume: %2 (blue)</source>
-        <translation>Angezeigte Medien: %1 (grün)
-Frei auf dem Startvolume: %2 (blau)</translation>
     </message>
     <message>
         <source>Looking for media…</source>
@@ -3674,12 +3713,42 @@ Frei auf dem Startvolume: %2 (blau)</translation>
         <source>No media file is of this kind and on this drive.</source>
         <translation>Keine Mediendatei dieser Art ist auf diesem Laufwerk.</translation>
     </message>
+    <message>
+        <source>Unknown Drive</source>
+        <translation>Unbekanntes Laufwerk</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
     <message>
         <source>missing</source>
         <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Missing: the project has no usable address of this file</source>
+        <translation>Fehlt: Das Projekt hat keine brauchbare Adresse dieser Datei</translation>
+    </message>
+    <message>
+        <source>Missing: the drive “%1” is not connected</source>
+        <translation>Fehlt: Das Laufwerk „%1“ ist nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Missing: there is no such file. Relink… finds it in other folders</source>
+        <translation>Fehlt: Es gibt keine solche Datei. Neu verknüpfen… sucht in anderen Ordnern danach</translation>
+    </message>
+    <message>
+        <source>%1
+%2</source>
+        <translation>%1
+%2</translation>
+    </message>
+    <message>
+        <source>%1
+looked for at %2
+%3</source>
+        <translation>%1
+gesucht unter %2
+%3</translation>
     </message>
 </context>
 <context>
@@ -4509,6 +4578,10 @@ Frei auf dem Startvolume: %2 (blau)</translation>
         <source>Discard</source>
         <translation>Verwerfen</translation>
     </message>
+    <message>
+        <source>A restored project opens with its changes, which are not saved yet. Those left for later are offered again.</source>
+        <translation>Ein wiederhergestelltes Projekt wird mit seinen Änderungen geöffnet, die noch nicht gespeichert sind. Was auf später verschoben wird, wird erneut angeboten.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::RelinkSheet</name>
@@ -4678,6 +4751,27 @@ Frei auf dem Startvolume: %2 (blau)</translation>
     </message>
 </context>
 <context>
+    <name>vantrell::SharesBar</name>
+    <message>
+        <source>&lt;1 %</source>
+        <translation>&lt;1 %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>name, size, percentage</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>+%1</source>
+        <comment>further shares</comment>
+        <translation>+%1</translation>
+    </message>
+</context>
+<context>
     <name>vantrell::StartWindow</name>
     <message>
         <source>Media, effects and markers
@@ -4771,6 +4865,18 @@ hier ablegen</translation>
     <message>
         <source>Nothing can be edited until the operation that is going on has ended</source>
         <translation>Bis der laufende Vorgang beendet ist, ist keine Bearbeitung möglich</translation>
+    </message>
+    <message>
+        <source>Fi&amp;t Column</source>
+        <translation>Spalte an&amp;passen</translation>
+    </message>
+    <message>
+        <source>Fit &amp;All Columns</source>
+        <translation>&amp;Alle Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Columns</source>
+        <translation>Spalten &amp;zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -471,6 +471,10 @@
         <source>Close the window</source>
         <translation>Cerrar la ventana</translation>
     </message>
+    <message>
+        <source>The menu of the table&apos;s header: its columns</source>
+        <translation>El menú del encabezado de la tabla: sus columnas</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -3054,6 +3058,10 @@
         <source>Final Cut Pro is not running. Start it and open a project in it first.</source>
         <translation>Final Cut Pro no se está ejecutando. Inícielo y abra antes un proyecto en él.</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>Co&amp;lumnas</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3323,7 +3331,7 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
     </message>
     <message>
         <source>All Colors</source>
-        <translation>Todos los colores</translation>
+        <translation>Todo color</translation>
     </message>
     <message>
         <source>Color of markers</source>
@@ -3395,7 +3403,7 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
     </message>
     <message>
         <source>All Flags</source>
-        <translation>Todos los indicadores</translation>
+        <translation>Todo indicador</translation>
     </message>
     <message>
         <source>Chapter</source>
@@ -3419,7 +3427,7 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
     </message>
     <message>
         <source>All Sequences</source>
-        <translation>Todas las secuencias</translation>
+        <translation>Toda secuencia</translation>
     </message>
     <message>
         <source>%1 marker</source>
@@ -3508,6 +3516,47 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
     <message>
         <source>No marker has this color.</source>
         <translation>Ningún marcador tiene este color.</translation>
+    </message>
+    <message>
+        <source>The column In is hidden. View ▸ Columns shows it again</source>
+        <translation>La columna Entrada está oculta. Ver ▸ Columnas la muestra de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MediaFooter</name>
+    <message>
+        <source>By kind:</source>
+        <translation>Por tipo:</translation>
+    </message>
+    <message>
+        <source>By drive:</source>
+        <translation>Por unidad:</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by kind</source>
+        <translation>Porcentajes de los medios mostrados por tipo</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by drive</source>
+        <translation>Porcentajes de los medios mostrados por unidad</translation>
+    </message>
+    <message>
+        <source>Chart of the media on show and the free space of the start-up volume</source>
+        <translation>Gráfico de los medios mostrados y del espacio libre en el volumen de arranque</translation>
+    </message>
+    <message>
+        <source>Media on show</source>
+        <translation>Medios mostrados</translation>
+    </message>
+    <message>
+        <source>Free on System Drive</source>
+        <translation>Libre en la unidad del sistema</translation>
+    </message>
+    <message>
+        <source>Media on show: %1 (green)
+Free on the start-up volume: %2 (blue)</source>
+        <translation>Medios mostrados: %1 (verde)
+Libre en el volumen de arranque: %2 (azul)</translation>
     </message>
 </context>
 <context>
@@ -3637,18 +3686,8 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
         <translation>%1 archivos</translation>
     </message>
     <message>
-        <source>Chart of the media on show and the free space of the start-up volume</source>
-        <translation>Gráfico de los medios mostrados y del espacio libre en el volumen de arranque</translation>
-    </message>
-    <message>
         <source>System Drive</source>
         <translation>Unidad del sistema</translation>
-    </message>
-    <message>
-        <source>Media on show: %1 (green)
-Free on the start-up volume: %2 (blue)</source>
-        <translation>Medios mostrados: %1 (verde)
-Libre en el volumen de arranque: %2 (azul)</translation>
     </message>
     <message>
         <source>Looking for media…</source>
@@ -3674,12 +3713,42 @@ Libre en el volumen de arranque: %2 (azul)</translation>
         <source>No media file is of this kind and on this drive.</source>
         <translation>Ningún archivo de medios es de este tipo y está en esta unidad.</translation>
     </message>
+    <message>
+        <source>Unknown Drive</source>
+        <translation>Unidad desconocida</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
     <message>
         <source>missing</source>
         <translation>faltante</translation>
+    </message>
+    <message>
+        <source>Missing: the project has no usable address of this file</source>
+        <translation>Falta: el proyecto no tiene ninguna dirección utilizable de este archivo</translation>
+    </message>
+    <message>
+        <source>Missing: the drive “%1” is not connected</source>
+        <translation>Falta: la unidad «%1» no está conectada</translation>
+    </message>
+    <message>
+        <source>Missing: there is no such file. Relink… finds it in other folders</source>
+        <translation>Falta: no existe tal archivo. Revincular… lo encuentra en otras carpetas</translation>
+    </message>
+    <message>
+        <source>%1
+%2</source>
+        <translation>%1
+%2</translation>
+    </message>
+    <message>
+        <source>%1
+looked for at %2
+%3</source>
+        <translation>%1
+buscado en %2
+%3</translation>
     </message>
 </context>
 <context>
@@ -4509,6 +4578,10 @@ Libre en el volumen de arranque: %2 (azul)</translation>
         <source>Discard</source>
         <translation>Descartar</translation>
     </message>
+    <message>
+        <source>A restored project opens with its changes, which are not saved yet. Those left for later are offered again.</source>
+        <translation>Un proyecto restaurado se abre con sus cambios, que aún no están guardados. Los que se dejen para más tarde se ofrecen de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::RelinkSheet</name>
@@ -4678,6 +4751,27 @@ Libre en el volumen de arranque: %2 (azul)</translation>
     </message>
 </context>
 <context>
+    <name>vantrell::SharesBar</name>
+    <message>
+        <source>&lt;1 %</source>
+        <translation>&lt;1 %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>name, size, percentage</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>+%1</source>
+        <comment>further shares</comment>
+        <translation>+%1</translation>
+    </message>
+</context>
+<context>
     <name>vantrell::StartWindow</name>
     <message>
         <source>Media, effects and markers
@@ -4771,6 +4865,18 @@ o un archivo XML</translation>
     <message>
         <source>Nothing can be edited until the operation that is going on has ended</source>
         <translation>No se puede editar nada hasta que termine la operación en curso</translation>
+    </message>
+    <message>
+        <source>Fi&amp;t Column</source>
+        <translation>Ajustar colum&amp;na</translation>
+    </message>
+    <message>
+        <source>Fit &amp;All Columns</source>
+        <translation>Ajustar &amp;todas las columnas</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Columns</source>
+        <translation>&amp;Restablecer columnas</translation>
     </message>
 </context>
 <context>

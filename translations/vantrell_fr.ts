@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Usage</source>
-        <translation>Utilisation</translation>
+        <translation>Usage</translation>
     </message>
     <message>
         <source>Missing</source>
@@ -470,6 +470,10 @@
     <message>
         <source>Close the window</source>
         <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>The menu of the table&apos;s header: its columns</source>
+        <translation>Le menu de l’en-tête du tableau&#xa0;: ses colonnes</translation>
     </message>
 </context>
 <context>
@@ -3054,6 +3058,10 @@
         <source>Final Cut Pro is not running. Start it and open a project in it first.</source>
         <translation>Final Cut Pro n’est pas lancé. Lancez-le d’abord et ouvrez-y un projet.</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3323,7 +3331,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>All Colors</source>
-        <translation>Toutes les couleurs</translation>
+        <translation>Toute couleur</translation>
     </message>
     <message>
         <source>Color of markers</source>
@@ -3395,7 +3403,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>All Flags</source>
-        <translation>Tous les indicateurs</translation>
+        <translation>Tout indicateur</translation>
     </message>
     <message>
         <source>Chapter</source>
@@ -3419,7 +3427,7 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     </message>
     <message>
         <source>All Sequences</source>
-        <translation>Toutes les séquences</translation>
+        <translation>Toute séquence</translation>
     </message>
     <message>
         <source>%1 marker</source>
@@ -3508,6 +3516,47 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     <message>
         <source>No marker has this color.</source>
         <translation>Aucun marqueur n’a cette couleur.</translation>
+    </message>
+    <message>
+        <source>The column In is hidden. View ▸ Columns shows it again</source>
+        <translation>La colonne Entrée est masquée. Affichage ▸ Colonnes la réaffiche</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MediaFooter</name>
+    <message>
+        <source>By kind:</source>
+        <translation>Par type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>By drive:</source>
+        <translation>Par disque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by kind</source>
+        <translation>Parts des médias affichés par type</translation>
+    </message>
+    <message>
+        <source>Shares of the media on show by drive</source>
+        <translation>Parts des médias affichés par disque</translation>
+    </message>
+    <message>
+        <source>Chart of the media on show and the free space of the start-up volume</source>
+        <translation>Graphique des médias affichés et de l’espace libre du volume de démarrage</translation>
+    </message>
+    <message>
+        <source>Media on show</source>
+        <translation>Médias affichés</translation>
+    </message>
+    <message>
+        <source>Free on System Drive</source>
+        <translation>Libre sur le disque système</translation>
+    </message>
+    <message>
+        <source>Media on show: %1 (green)
+Free on the start-up volume: %2 (blue)</source>
+        <translation>Médias affichés&#xa0;: %1 (vert)
+Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     </message>
 </context>
 <context>
@@ -3637,18 +3686,8 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
         <translation>%1 fichiers</translation>
     </message>
     <message>
-        <source>Chart of the media on show and the free space of the start-up volume</source>
-        <translation>Graphique des médias affichés et de l’espace libre du volume de démarrage</translation>
-    </message>
-    <message>
         <source>System Drive</source>
         <translation>Disque système</translation>
-    </message>
-    <message>
-        <source>Media on show: %1 (green)
-Free on the start-up volume: %2 (blue)</source>
-        <translation>Médias affichés&#xa0;: %1 (vert)
-Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     </message>
     <message>
         <source>Looking for media…</source>
@@ -3674,12 +3713,42 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
         <source>No media file is of this kind and on this drive.</source>
         <translation>Aucun fichier de médias n’est de ce type et sur ce disque.</translation>
     </message>
+    <message>
+        <source>Unknown Drive</source>
+        <translation>Disque inconnu</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
     <message>
         <source>missing</source>
         <translation>manquant</translation>
+    </message>
+    <message>
+        <source>Missing: the project has no usable address of this file</source>
+        <translation>Manque&#xa0;: le projet n’a pas d’adresse utilisable pour ce fichier</translation>
+    </message>
+    <message>
+        <source>Missing: the drive “%1” is not connected</source>
+        <translation>Manque&#xa0;: le disque «&#xa0;%1&#xa0;» n’est pas connecté</translation>
+    </message>
+    <message>
+        <source>Missing: there is no such file. Relink… finds it in other folders</source>
+        <translation>Manque&#xa0;: ce fichier n’existe pas. Relier… le retrouve dans d’autres dossiers</translation>
+    </message>
+    <message>
+        <source>%1
+%2</source>
+        <translation>%1
+%2</translation>
+    </message>
+    <message>
+        <source>%1
+looked for at %2
+%3</source>
+        <translation>%1
+cherché dans %2
+%3</translation>
     </message>
 </context>
 <context>
@@ -4509,6 +4578,10 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
         <source>Discard</source>
         <translation>Supprimer</translation>
     </message>
+    <message>
+        <source>A restored project opens with its changes, which are not saved yet. Those left for later are offered again.</source>
+        <translation>Un projet restauré s’ouvre avec ses modifications, qui ne sont pas encore enregistrées. Celles remises à plus tard seront proposées à nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::RelinkSheet</name>
@@ -4678,6 +4751,27 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     </message>
 </context>
 <context>
+    <name>vantrell::SharesBar</name>
+    <message>
+        <source>&lt;1 %</source>
+        <translation>&lt;1 %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>name, size, percentage</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>+%1</source>
+        <comment>further shares</comment>
+        <translation>+%1</translation>
+    </message>
+</context>
+<context>
     <name>vantrell::StartWindow</name>
     <message>
         <source>Media, effects and markers
@@ -4771,6 +4865,18 @@ ou un fichier XML</translation>
     <message>
         <source>Nothing can be edited until the operation that is going on has ended</source>
         <translation>Rien ne peut être modifié tant que l’opération en cours n’est pas terminée</translation>
+    </message>
+    <message>
+        <source>Fi&amp;t Column</source>
+        <translation>A&amp;juster la colonne</translation>
+    </message>
+    <message>
+        <source>Fit &amp;All Columns</source>
+        <translation>Ajuster &amp;toutes les colonnes</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Columns</source>
+        <translation>&amp;Rétablir les colonnes</translation>
     </message>
 </context>
 <context>

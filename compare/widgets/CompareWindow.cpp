@@ -9,6 +9,7 @@
 #include "support/threads/MainThread.h"
 #include "support/widgets/AlertBox.h"
 #include "support/widgets/FilePanel.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/SheetTable.h"
 
 #include <QCheckBox>
@@ -554,7 +555,8 @@ void CompareWindow::exportTo(const QString &path, ChangeListFormat format)
             auto *const alert = new QMessageBox(self);
             alert->setAttribute(Qt::WA_DeleteOnClose);
             alert->addButton(QMessageBox::Ok);
-            setUpAlert(*alert, tr("The changes could not be exported to “%1”.").arg(name), written.message());
+            setUpAlert(*alert, tr("The changes could not be exported to “%1”.").arg(name),
+                       shownMessage(written.message()));
             alert->open();
         }
         Q_EMIT self->exported(written.isOk());

@@ -217,7 +217,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         editor = field;
     }
     if (editor)
-        editor->setAccessibleName(columnOf(index).name);
+        editor->setAccessibleName(TableModel::shownName(columnOf(index)));
     return editor;
 }
 

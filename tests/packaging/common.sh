@@ -3,7 +3,7 @@
 # VERSION; WINDOW and PRINT (ON or OFF: print.deb is there); CMAKE, CPACK (the programs).
 
 set -euo pipefail
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 LANGUAGE=en
 
 here=$SOURCE_DIR/tests/packaging
 root=$PACKAGE_DIR/root
