@@ -131,10 +131,14 @@ void setUpAlert(QMessageBox &box, const QString &message, const QString &explana
         const QString text = label->text();
         if (text.isEmpty())
             continue;
-        if (text == message)
+        if (text == message) {
             setMessageText(*label, text);
-        else
+            // The box wraps a message that is too wide by what the label asks for.
+            if (label->fontMetrics().size(0, label->text()).width() > minimumWidth)
+                label->setMinimumWidth(0);
+        } else {
             setExplanationText(*label, text);
+        }
     }
 }
 

@@ -81,13 +81,14 @@ bool isCurrentOrHovered(const QStyleOptionViewItem &option, const QModelIndex &i
 /// Frames the whole current cell.
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect)
 {
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(cell);
-    focus.rect = rect;
-    focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-    focus.backgroundColor = cell.palette.color(
-        cell.state.testFlag(QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
-    styleOf(cell).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, cell.widget);
+    constexpr int width = 2; // styles draw a hair line, which is lost in a selected row
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    const QColor color = cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Highlight);
+    painter->save();
+    painter->setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    painter->restore();
 }
 
 } // namespace
@@ -131,7 +132,11 @@ void TableDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &opt
                               const QModelIndex &index) const
 {
     if (columnOf(index).alignment != Qt::AlignRight) {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem unfocused = option;
+        unfocused.state &= ~QStyle::State_HasFocus;
+        QStyledItemDelegate::paint(painter, unfocused, index);
+        if (option.state.testFlag(QStyle::State_HasFocus))
+            paintFocus(painter, option, option.rect);
         return;
     }
     QStyleOptionViewItem cell = option;
@@ -156,14 +161,17 @@ void TableDelegate::paintCheckBox(QPainter *painter, const QStyleOptionViewItem 
     const bool isChecked = cell.checkState == Qt::Checked;
     const QStyle &style = styleOf(cell);
     cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
+    cell.state &= ~QStyle::State_HasFocus;
     style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     cell.rect = checkBoxRect(option);
-    cell.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    cell.state &= ~QStyle::State_MouseOver;
     cell.state |= isChecked ? QStyle::State_On : QStyle::State_Off;
     const bool isDim = !isChecked && !index.flags().testFlag(Qt::ItemIsUserCheckable);
     cell.state.setFlag(QStyle::State_Enabled, !isDim);
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &cell, painter, cell.widget);
     paintCheckFrame(*painter, cell, isDim);
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        paintFocus(painter, option, option.rect);
 }
 
 void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &option,

@@ -93,8 +93,11 @@ private Q_SLOTS:
         QCOMPARE(later.font().pointSize(), usual.pointSize() + 9);
 
         QComboBox *dates = nullptr;
-        for (QComboBox *const box : preferences.findChildren<QComboBox *>())
-            dates = qobject_cast<QFontComboBox *>(box) ? dates : box;
+        for (QComboBox *const box : preferences.findChildren<QComboBox *>()) {
+            if (box->findData(QStringLiteral("iso")) >= 0)
+                dates = box;
+        }
+        QVERIFY(dates);
         dates->setCurrentIndex(1);
         Q_EMIT dates->activated(1);
         for (const int i : {0, 1})

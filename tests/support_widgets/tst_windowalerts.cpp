@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTimer>
 
@@ -62,6 +63,20 @@ void whenShown(const std::function<void(QMessageBox *)> &action)
 class TestWindowAlerts : public QObject
 {
     Q_OBJECT
+
+public:
+    /// A screen of usual size: a box wraps its message by it.
+    static void initMain()
+    {
+        static QTemporaryFile screens;
+        if (!screens.open())
+            qFatal("No temporary file can be had.");
+        screens.write(R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,
+                          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        screens.close();
+        if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
+            qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screens.fileName()));
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -214,6 +229,31 @@ private Q_SLOTS:
         QCOMPARE(all, QStringLiteral("Short\n") + path);
         QCOMPARE(part, QStringLiteral("/Volumes/"));
         QCOMPARE(whole, path); // although it is elided
+    }
+
+    /// The box itself reckons with letters that are not bold.
+    void noTextIsCut()
+    {
+        const QString message =
+            QStringLiteral("Do you want to save the changes made to “Harbour Lights %1 Recut.xml”?");
+        QStringList cut;
+        for (int length = 0; length < 40; length += 3) {
+            whenShown([&cut](QMessageBox *box) {
+                for (const QLabel *const label : box->findChildren<QLabel *>()) {
+                    const QSize room = label->contentsRect().size();
+                    const QRect needed = label->fontMetrics().boundingRect(
+                        QRect(0, 0, room.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, label->text());
+                    if (needed.height() > room.height() || needed.width() > room.width())
+                        cut.append(label->text());
+                }
+                press(box, QStringLiteral("Save"));
+            });
+            QVAlert::alertSheetWithMessageText(
+                message.arg(QString(length, QLatin1Char('m'))), QStringLiteral("Save"),
+                QStringLiteral("Don’t Save"), QStringLiteral("Cancel"),
+                QStringLiteral("Your changes will be lost if you don’t save them."), nullptr, true);
+        }
+        QCOMPARE(cut, QStringList());
     }
 
     void aSecondAlertStandsAlone()
