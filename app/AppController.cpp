@@ -213,7 +213,7 @@ QString AppController::startFolder() const
     const auto look = [folder] { return QFileInfo::exists(folder); };
     return !folder.isEmpty() && answerWithin<bool>(mainThreadPatience, look).value_or(false)
                ? folder
-               : StandardFolders::documents();
+               : StandardFolders::documentsOrHome();
 }
 
 void AppController::openFiles(const QStringList &paths)

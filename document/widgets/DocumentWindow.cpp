@@ -792,7 +792,7 @@ QString DocumentWindow::folder() const
 {
     const QString folder = QFileInfo(m_path).path();
     const auto look = [folder] { return QFileInfo::exists(folder); };
-    return answerWithin<bool>(mainThreadPatience, look) ? folder : StandardFolders::documents();
+    return answerWithin<bool>(mainThreadPatience, look) ? folder : StandardFolders::documentsOrHome();
 }
 
 QString DocumentWindow::fileTitle() const

@@ -112,7 +112,7 @@ RelinkSheet::RelinkSheet(std::vector<MissingFile> missing, const QString &folder
     std::vector<RelinkMatch> rows;
     for (const MissingFile &file : m_missing)
         rows.push_back({file, {}});
-    m_model->setPlan(RelinkPlan(std::move(rows)));
+    m_model->setPlan(RelinkPlan(std::move(rows)), false);
     m_status->setText(m_missing.size() == 1 ? tr("1 file is missing.")
                                             : tr("%1 files are missing.").arg(countText(m_missing.size())));
     QStringList stored;
@@ -238,7 +238,7 @@ void RelinkSheet::showProgress(const FolderWalk::Progress &progress)
 
 void RelinkSheet::showResult(const RelinkSearch::Result &result)
 {
-    m_model->setPlan(RelinkPlan(result.matches));
+    m_model->setPlan(RelinkPlan(result.matches), true);
     endSearch();
     const RelinkPlan &plan = m_model->plan();
     const std::size_t found = plan.foundCount();

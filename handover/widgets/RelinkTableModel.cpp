@@ -6,10 +6,11 @@
 namespace vantrell
 {
 
-void RelinkTableModel::setPlan(RelinkPlan plan)
+void RelinkTableModel::setPlan(RelinkPlan plan, bool isSearched)
 {
     beginResetModel();
     m_plan = std::move(plan);
+    m_isSearched = isSearched;
     endResetModel();
     Q_EMIT planChanged();
 }
@@ -84,7 +85,7 @@ QString RelinkTableModel::matchText(int row) const
 {
     const std::vector<RelinkCandidate> &candidates = m_plan.match(std::size_t(row)).candidates;
     if (candidates.empty())
-        return tr("not found");
+        return m_isSearched ? tr("not found") : QString();
     const RelinkCandidate *const chosen = m_plan.chosen(std::size_t(row));
     QString text = shownValue(FileNames::textOf((chosen ? *chosen : candidates.front()).name));
     if (candidates.size() > 1)

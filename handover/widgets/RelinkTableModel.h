@@ -19,7 +19,8 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setPlan(RelinkPlan plan);
+    /// Rows without a candidate say so once files were searched for.
+    void setPlan(RelinkPlan plan, bool isSearched);
     const RelinkPlan &plan() const { return m_plan; }
     /// The row of the file with that URL; -1 for none.
     int rowOf(const QString &url) const;
@@ -46,6 +47,7 @@ private:
     QString matchText(int row) const;
 
     RelinkPlan m_plan;
+    bool m_isSearched = false;
 };
 
 } // namespace vantrell

@@ -1,6 +1,7 @@
 #include "support/files/StandardFolders.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <mutex>
@@ -81,6 +82,12 @@ QString applicationSupport()
 QString documents()
 {
     return userFolder("XDG_DOCUMENTS_DIR", QStandardPaths::DocumentsLocation);
+}
+
+QString documentsOrHome()
+{
+    const QString folder = documents();
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
 QString desktop()

@@ -24,6 +24,8 @@ QString applicationSupport();
 /// The user's documents and desktop: XDG_DOCUMENTS_DIR and XDG_DESKTOP_DIR of the environment or of the file
 /// user-dirs.dirs in the preferences folder, else ~/Documents and ~/Desktop.
 QString documents();
+/// The same, or the home folder if there is none such.
+QString documentsOrHome();
 QString desktop();
 
 /// Where this user's programs meet while the user is logged in: the folder "vantrell" in XDG_RUNTIME_DIR.

@@ -298,6 +298,7 @@ private Q_SLOTS:
     {
         const TemporaryHome home;
         QCOMPARE(StandardFolders::documents(), home.path(QStringLiteral("Documents")));
+        QCOMPARE(StandardFolders::documentsOrHome(), home.path(QString()));
         home.addFile(
             QStringLiteral(".config/user-dirs.dirs"),
             "# comment\nXDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n"
