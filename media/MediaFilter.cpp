@@ -196,9 +196,9 @@ void MediaFilter::populateFilteredMediaData()
     });
 }
 
-void MediaFilter::noteShown(RowRecord statistics, std::uint64_t totalSize)
+void MediaFilter::noteShown(const RowRecord &statistics, std::uint64_t totalSize)
 {
-    m_statistics = std::move(statistics);
+    m_statistics = statistics;
     updateMediaStats(m_statistics);
     m_document.setLabel(Label::MediaTotalSize,
                         formatText(u"Total size: %@", MediaFile::formatFileSize(double(totalSize))));

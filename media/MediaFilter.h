@@ -56,7 +56,7 @@ Q_SIGNALS:
     void chartChanged(const std::vector<double> &values);
 
 private:
-    void noteShown(RowRecord statistics, std::uint64_t totalSize);
+    void noteShown(const RowRecord &statistics, std::uint64_t totalSize);
 
     MyDocument &m_document;
     Columns m_columns;

@@ -204,7 +204,7 @@ MediaUses::MediaUses(MyDocument &document)
 {
     if (!document.xmlDoc())
         return;
-    Builder(*this, document);
+    const Builder builder(*this, document);
     markDuplicates();
 }
 

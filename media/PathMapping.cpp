@@ -219,6 +219,7 @@ std::vector<PathMapping> suggestedMappings(const std::vector<std::pair<QString, 
     std::stable_sort(counted.begin(), counted.end(),
                      [](const auto &a, const auto &b) { return a.second > b.second; });
     std::vector<PathMapping> mappings;
+    mappings.reserve(counted.size());
     for (auto &entry : counted)
         mappings.push_back(std::move(entry.first));
     return mappings;

@@ -115,7 +115,7 @@ void readJson(QStringView text, NoteList &list)
         if (!value.isEmpty())
             row.setValue(kind, list.keep(value));
     };
-    for (const QJsonValue &value : document.array()) {
+    for (const auto &value : document.array()) {
         if (!value.isObject())
             continue;
         const QJsonObject object = value.toObject();

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
 

@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <array>
 #include <chrono>

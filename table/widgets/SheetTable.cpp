@@ -1,5 +1,6 @@
 #include "table/widgets/SheetTable.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>

@@ -67,7 +67,6 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_sorting(workbench.document(), defaults, model->tab())
     , m_model(model)
     , m_table(new QVTableView(this))
-    , m_columnLayout(nullptr)
     , m_controls(new QHBoxLayout)
     , m_countTimer(new QTimer(this))
     , m_prepareTimer(new QTimer(this))

@@ -204,7 +204,7 @@ private:
     TableSorting m_sorting;
     TableModel *m_model;
     QVTableView *m_table;
-    ColumnLayout *m_columnLayout;
+    ColumnLayout *m_columnLayout = nullptr;
     QHBoxLayout *m_controls;
     SearchBar *m_search = nullptr;
     QTimer *m_countTimer;
