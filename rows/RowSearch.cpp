@@ -21,6 +21,8 @@ constexpr std::size_t rowsBetweenLooks = 64; // at the clock
 constexpr std::size_t rowsLeftOut = 16;      // at most, for a look ahead to be quicker than another one
 constexpr std::size_t mostResults = 24;      // kept, each a bit for every row and every text
 
+} // namespace
+
 /// The numbers of rows by their addresses.
 class RowNumbers
 {
@@ -66,8 +68,6 @@ private:
     std::vector<std::uint32_t> m_slots;
     std::size_t m_size = 0;
 };
-
-} // namespace
 
 class RowSearch::Index
 {

@@ -11,17 +11,17 @@
 namespace vantrell
 {
 
-namespace
-{
-
 /// What orders a row, as numbers: first by kind, then by value, both ascending.
-struct Rank {
+struct RowRank {
     enum class Kind : quint32 { Absent, Integer, Number, Text } kind = Kind::Absent;
     quint32 row = 0; // before sorting
     quint64 value = 0;
 };
 
-bool comesBefore(const Rank &a, const Rank &b)
+namespace
+{
+
+bool comesBefore(const RowRank &a, const RowRank &b)
 {
     return a.kind != b.kind ? a.kind < b.kind : a.value < b.value;
 }
@@ -40,25 +40,25 @@ quint64 orderOf(double number)
     return bits & signBit ? ~bits : bits | signBit;
 }
 
-Rank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
+RowRank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
 {
-    Rank rank;
+    RowRank rank;
     if (!value)
         return rank;
     if (const auto *text = std::get_if<QString>(&*value)) {
-        rank.kind = Rank::Kind::Text;
+        rank.kind = RowRank::Kind::Text;
         rank.value = texts.add(*text);
     } else if (const auto *number = std::get_if<double>(&*value)) {
-        rank.kind = Rank::Kind::Number;
+        rank.kind = RowRank::Kind::Number;
         rank.value = orderOf(*number);
     } else if (const auto *integer = std::get_if<std::int64_t>(&*value)) {
-        rank.kind = Rank::Kind::Integer;
+        rank.kind = RowRank::Kind::Integer;
         rank.value = orderOf(*integer);
     } else if (const auto *flag = std::get_if<bool>(&*value)) {
-        rank.kind = Rank::Kind::Integer;
+        rank.kind = RowRank::Kind::Integer;
         rank.value = orderOf(std::int64_t(*flag));
     } else if (const auto *date = std::get_if<QDateTime>(&*value)) {
-        rank.kind = Rank::Kind::Integer;
+        rank.kind = RowRank::Kind::Integer;
         rank.value = orderOf(std::int64_t(date->toMSecsSinceEpoch()));
     }
     return rank;
@@ -70,7 +70,7 @@ Rank rankOf(const std::optional<RecordValue> &value, TextRanks &texts)
 struct RowSorter::Values {
     Column column;
     bool isDescending;
-    std::vector<Rank> ranks = {}; // of a text, its number
+    std::vector<RowRank> ranks = {}; // of a text, its number
     TextRanks texts = {};
 };
 
@@ -101,11 +101,11 @@ std::vector<std::uint32_t> RowSorter::order()
     // The least important column first: each stable pass keeps the order of those before it.
     for (auto values = m_values.rbegin(); values != m_values.rend(); ++values) {
         const std::vector<std::uint32_t> textRanks = values->texts.ranks();
-        for (Rank &rank : values->ranks) {
-            if (rank.kind == Rank::Kind::Text)
+        for (RowRank &rank : values->ranks) {
+            if (rank.kind == RowRank::Kind::Text)
                 rank.value = textRanks[rank.value];
         }
-        std::vector<Rank> ranks;
+        std::vector<RowRank> ranks;
         if (values == m_values.rbegin()) {
             ranks = std::move(values->ranks);
         } else {
@@ -114,10 +114,11 @@ std::vector<std::uint32_t> RowSorter::order()
                 ranks.push_back(values->ranks[row]);
         }
         const bool isDescending = values->isDescending;
-        std::stable_sort(ranks.begin(), ranks.end(), [isDescending](const Rank &a, const Rank &b) {
+        std::stable_sort(ranks.begin(), ranks.end(), [isDescending](const RowRank &a, const RowRank &b) {
             return isDescending ? comesBefore(b, a) : comesBefore(a, b);
         });
-        std::transform(ranks.begin(), ranks.end(), order.begin(), [](const Rank &rank) { return rank.row; });
+        std::transform(ranks.begin(), ranks.end(), order.begin(),
+                       [](const RowRank &rank) { return rank.row; });
     }
     m_values.clear(); // on this thread
     return order;
