@@ -4720,7 +4720,7 @@ gesucht unter %2
 <context>
     <name>vantrell::ReportOptions</name>
     <message>
-        <source>Colour &amp;labels behind marker names</source>
+        <source>Color &amp;labels behind marker names</source>
         <translation>Farb&amp;bezeichnungen hinter Markernamen</translation>
     </message>
     <message>

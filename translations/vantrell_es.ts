@@ -4720,7 +4720,7 @@ buscado en %2
 <context>
     <name>vantrell::ReportOptions</name>
     <message>
-        <source>Colour &amp;labels behind marker names</source>
+        <source>Color &amp;labels behind marker names</source>
         <translation>Etiquetas de co&amp;lor tras los nombres de los marcadores</translation>
     </message>
     <message>

@@ -4720,7 +4720,7 @@ cherché dans %2
 <context>
     <name>vantrell::ReportOptions</name>
     <message>
-        <source>Colour &amp;labels behind marker names</source>
+        <source>Color &amp;labels behind marker names</source>
         <translation>&amp;Libellés de couleur après les noms de marqueurs</translation>
     </message>
     <message>

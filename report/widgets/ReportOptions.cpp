@@ -28,7 +28,7 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     : QWidget(parent)
     , m_defaults(defaults)
     , m_title(new QLineEdit(this))
-    , m_colorLabels(new QCheckBox(tr("Colour &labels behind marker names"), this))
+    , m_colorLabels(new QCheckBox(tr("Color &labels behind marker names"), this))
     , m_columns(new QListWidget(this))
     , m_titleDelay(new QTimer(this))
 {
