@@ -147,7 +147,11 @@ std::vector<FoundJournal> RecoveryPanel::takeSelected(bool onlyRestorable)
 
 void RecoveryPanel::restoreSelected()
 {
-    for (const FoundJournal &journal : takeSelected(true))
+    const std::vector<FoundJournal> taken = takeSelected(true);
+    // The window below loads its project again; the other changes are offered the next time.
+    if (parentWidget() && !taken.empty())
+        accept();
+    for (const FoundJournal &journal : taken)
         Q_EMIT restoreRequested(journal);
 }
 

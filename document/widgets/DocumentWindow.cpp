@@ -37,6 +37,7 @@
 #include <QLineEdit>
 #include <QMimeDatabase>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
@@ -491,6 +492,9 @@ void DocumentWindow::whenIdle(std::function<void()> answer)
 
 void DocumentWindow::applyAnswers()
 {
+    if (m_appliesAnswers)
+        return; // one after the other
+    const QScopedValueRollback applying(m_appliesAnswers, true);
     while (!m_answers.empty() && m_workbench && !isClosing() && state() != State::Loading && isIdle()) {
         const std::function<void()> answer = std::move(m_answers.front());
         m_answers.pop_front();

@@ -403,7 +403,8 @@ private:
     bool m_hasReloadFailed = false;   ///< and the last one is still to be shown again
 
     std::deque<std::function<void()>> m_answers; ///< see whenIdle()
-    bool m_isCovered = false;                    ///< by a sheet, panel or alert that waits for an answer
+    bool m_appliesAnswers = false;
+    bool m_isCovered = false; ///< by a sheet, panel or alert that waits for an answer
 };
 
 } // namespace vantrell

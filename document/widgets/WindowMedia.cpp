@@ -275,13 +275,30 @@ void WindowMedia::exportList()
     auto *const sheet = new ExportListSheet(sequences, m_window.fileTitle(), m_window.folder(), &m_window);
     QObject::connect(sheet, &ExportListSheet::chosen, &m_window,
                      [this](const QString &path, MediaListFormat format, const MediaListScope &scope) {
-                         m_window.whenIdle(
-                             [this, path, format, scope] { exportListTo(path, format, scope); });
+                         m_window.whenIdle([this, listed = recordsOf(scope), path, format, scope] {
+                             exportListOf(listed, path, format, scope);
+                         });
                      });
     openSheet(sheet);
 }
 
 void WindowMedia::exportListTo(const QString &path, MediaListFormat format, const MediaListScope &scope)
+{
+    if (m_window.mayEdit())
+        exportListOf(recordsOf(scope), path, format, scope);
+}
+
+/// What the list is made from, before a choice by sequence.
+RowList WindowMedia::recordsOf(const MediaListScope &scope) const
+{
+    const MyDocument &document = m_window.workbench().document();
+    return scope.files == MediaListScope::Files::OnShow && document.tableTab() == Tab::Media
+               ? document.rowsOnShow(Tab::Media)
+               : document.mediaArray();
+}
+
+void WindowMedia::exportListOf(const RowList &listed, const QString &path, MediaListFormat format,
+                               const MediaListScope &scope)
 {
     if (!m_window.mayEdit())
         return;
@@ -293,10 +310,8 @@ void WindowMedia::exportListTo(const QString &path, MediaListFormat format, cons
     MyDocument &document = m_window.workbench().document();
     const auto uses = std::make_shared<std::unique_ptr<MediaUses>>();
     const bool needsUses = format == MediaListFormat::Csv || scope.files == Files::OfSequence;
-    const auto collect = [this, job, transfer, uses, scope, &document] {
-        RowList records = scope.files == Files::OnShow && document.tableTab() == Tab::Media
-                              ? document.rowsOnShow(Tab::Media)
-                              : document.mediaArray();
+    const auto collect = [this, job, transfer, uses, scope, listed] {
+        RowList records = listed;
         MediaUses::Choice choice;
         if (scope.files == Files::OfSequence) {
             choice.sequences = {scope.sequence};

@@ -2,6 +2,7 @@
 
 #include "document/widgets/WindowPart.h"
 #include "handover/MediaListChoice.h"
+#include "rows/RowRecord.h"
 #include "support/files/Result.h"
 
 #include <QDialog>
@@ -58,6 +59,9 @@ private:
     struct Transfer;
     struct ListJob;
 
+    RowList recordsOf(const MediaListScope &scope) const;
+    void exportListOf(const RowList &listed, const QString &path, MediaListFormat format,
+                      const MediaListScope &scope);
     void makeLook();
     bool mayChange();
     void relinked(std::size_t count);

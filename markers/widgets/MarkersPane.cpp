@@ -415,9 +415,9 @@ void MarkersPane::showMarkerOffsetWindow()
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
         const RowList records = workbench().document().selectedRecords(Tab::Markers);
-        whenIdle([this, records, offset = sheet->text()] {
-            workbench().markerEditor().offset(records, offset,
-                                              workbench().document().rowsOnShow(Tab::Markers));
+        const RowList table = workbench().document().rowsOnShow(Tab::Markers);
+        whenIdle([this, records, table, offset = sheet->text()] {
+            workbench().markerEditor().offset(records, offset, table);
             model().rowsChanged(0, model().rowCount() - 1);
         });
     });

@@ -192,6 +192,24 @@ private Q_SLOTS:
         QVERIFY(!visibleBox());
     }
 
+    void answersAreAppliedOneAfterTheOther()
+    {
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        const QString path = m_home->path(QStringLiteral("other.xml"));
+        const QString list = m_home->path(QStringLiteral("other.txt"));
+        QSignalSpy saved(&window, &DocumentWindow::saved);
+        QSignalSpy exported(&window, &DocumentWindow::markersExported);
+        window.beginReading({});
+        window.whenIdle([&] { window.saveTo(path); });
+        window.whenIdle([&] { window.exportMarkerList(list, MarkerListFormat::fcp); });
+        window.endReading();
+        QTRY_COMPARE(exported.count(), 1);
+        QCOMPARE(saved.count(), 1);
+        QVERIFY(saved.takeFirst().at(0).toBool() && exported.takeFirst().at(0).toBool());
+        QVERIFY(QFile::exists(path) && QFile::exists(list));
+    }
+
     /// Markers are not listed anew under a question, nor between the answer of the disk and the save.
     void listingWaitsForQuestionsAndSaves()
     {

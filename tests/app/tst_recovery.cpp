@@ -113,6 +113,27 @@ private Q_SLOTS:
         QCOMPARE(names().value(1), QStringLiteral("Second"));
     }
 
+    void restoresOneOfTwo()
+    {
+        crashAfterTwoEdits();
+        const QStringList both{QStringLiteral("left.journal"), QStringLiteral("older.journal")};
+        const QDir folder(JournalFolder::standard());
+        QVERIFY(QFile::copy(folder.filePath(both[0]), folder.filePath(both[1])));
+        start({m_path});
+        ready();
+        QTRY_VERIFY(sheet());
+        QCOMPARE(sheet()->journals().size(), both.size());
+        auto *const list = sheet()->findChild<QTreeWidget *>();
+        list->clearSelection();
+        list->topLevelItem(1)->setSelected(true);
+        sheet()->restoreSelected();
+        QTRY_VERIFY(m_window->isWindowModified());
+        ready();
+        QCOMPARE(names().value(1), QStringLiteral("Second"));
+        QVERIFY(!sheet() && !visibleBox());
+        QVERIFY(journals().contains(both[0]) || journals().contains(both[1])); // offered again
+    }
+
     void discards()
     {
         crashAfterTwoEdits();
