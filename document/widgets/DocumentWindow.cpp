@@ -116,12 +116,13 @@ DocumentWindow::~DocumentWindow()
 {
     m_state.close();
     endSession();
-    for (Reverted &reverted : m_reverted)
-        reverted.dispose();
+    forgetReverted(0);
 }
 
 void DocumentWindow::Reverted::dispose()
 {
+    if (DocumentJournal *const journal = workbench->document().journal())
+        journal->discard();
     qDeleteAll(panes);
     DocumentDisposal::dispose(std::move(workbench), std::move(interface));
 }
@@ -264,6 +265,9 @@ void DocumentWindow::connectSession()
     connect(document, &MyDocument::historyChanged, this, &DocumentWindow::menusChanged);
     connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
+        // Once changes have been saved, no undo leads back to the reverted project.
+        if (!edited && m_workbench->document().canUndo())
+            forgetReverted(0);
         Q_EMIT menusChanged();
     });
 }
@@ -313,6 +317,15 @@ void DocumentWindow::keepSession()
     m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes,
                           m_notice->notice(), m_notice->kind(), isEdited, isListed});
     m_panes = {};
+}
+
+/// Gives up what was reverted but for the last `kept`, which take the memory of a project each.
+void DocumentWindow::forgetReverted(std::size_t kept)
+{
+    while (m_reverted.size() > kept) {
+        m_reverted.front().dispose();
+        m_reverted.pop_front();
+    }
 }
 
 void DocumentWindow::undoRevert()
@@ -381,6 +394,7 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         m_reverted.back().dispose();
         m_reverted.pop_back();
     }
+    forgetReverted(1);
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);

@@ -332,6 +332,7 @@ private:
     void leaveSession();
     void endSession();
     void keepSession();
+    void forgetReverted(std::size_t kept);
     void undoRevert();
     void showReverted();
     void returnFromFailedReload();
@@ -398,9 +399,9 @@ private:
 
         void dispose();
     };
-    std::vector<Reverted> m_reverted; ///< the last one at the end
-    bool m_isReloading = false;       ///< until the file has been read; the last one is kept until then
-    bool m_hasReloadFailed = false;   ///< and the last one is still to be shown again
+    std::deque<Reverted> m_reverted; ///< the last one at the end; one, and another one during a reload
+    bool m_isReloading = false;      ///< until the file has been read; the last one is kept until then
+    bool m_hasReloadFailed = false;  ///< and the last one is still to be shown again
 
     std::deque<std::function<void()>> m_answers; ///< see whenIdle()
     bool m_appliesAnswers = false;

@@ -14,6 +14,7 @@
 #include "table/widgets/QVTableView.h"
 #include "tests/support/TemporaryHome.h"
 
+#include <QPointer>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -268,6 +269,34 @@ private Q_SLOTS:
         reverted->close();
         QTRY_VERIFY(visibleBox());
         QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+    }
+
+    /// Each reverted project takes as much memory as the open one, so one is kept, and none once changes have
+    /// been saved.
+    void keepsTheLastRevertedProject()
+    {
+        open();
+        const auto revert = [this] {
+            QSignalSpy loaded(m_window, &DocumentWindow::loaded);
+            m_window->revertWithoutQuestion();
+            QTRY_COMPARE(loaded.count(), 1);
+            ready();
+        };
+        edit(0, "First");
+        QPointer<QWidget> first = &m_window->pane(Tab::Markers);
+        revert();
+        QVERIFY(first && m_window->mayUndoRevert());
+        edit(0, "Second");
+        QPointer<QWidget> second = &m_window->pane(Tab::Markers);
+        revert();
+        QVERIFY(!first && second && m_window->mayUndoRevert());
+        QTRY_COMPARE(journals().size(), 1);
+        edit(0, "Third");
+        m_window->save();
+        QTRY_VERIFY(!m_window->isWindowModified());
+        QVERIFY(!second && !m_window->mayUndoRevert());
+        QTRY_VERIFY(journals().isEmpty());
+        QVERIFY(names().contains(QStringLiteral("Third")));
     }
 
     /// What the file has lost meanwhile can be had again, though the project was not edited.
