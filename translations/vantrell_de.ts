@@ -5343,8 +5343,8 @@ hier ablegen</translation>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Bis Sie das Fenster schließen, lassen sie sich mit Bearbeiten ▸ Rückgängig Zurücksetzen zurückholen.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Bearbeiten ▸ Rückgängig Zurücksetzen holt das Projekt zurück, wie es jetzt ist, bis Sie sichern, wieder zurücksetzen oder das Fenster schließen.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>

@@ -5343,8 +5343,8 @@ o un archivo XML</translation>
         <translation>Revertir</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Hasta que cierre la ventana, Editar ▸ Deshacer Revertir los recupera.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Editar ▸ Deshacer Revertir recupera el proyecto como está ahora, hasta que guarde, vuelva a revertir o cierre la ventana.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>

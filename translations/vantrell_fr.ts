@@ -5343,8 +5343,8 @@ ou un fichier XML</translation>
         <translation>Revenir</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Jusqu’à la fermeture de la fenêtre, Édition ▸ Annuler le retour à la version enregistrée les rétablit.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Édition ▸ Annuler le retour à la version enregistrée rétablit le projet dans son état actuel, jusqu’à un enregistrement, un nouveau retour ou la fermeture de la fenêtre.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>

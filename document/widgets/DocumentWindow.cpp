@@ -44,6 +44,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrell
@@ -116,7 +117,7 @@ DocumentWindow::~DocumentWindow()
 {
     m_state.close();
     endSession();
-    forgetReverted(0);
+    forgetReverted();
 }
 
 void DocumentWindow::Reverted::dispose()
@@ -267,7 +268,7 @@ void DocumentWindow::connectSession()
         setWindowModified(edited);
         // Once changes have been saved, no undo leads back to the reverted project.
         if (!edited && m_workbench->document().canUndo())
-            forgetReverted(0);
+            forgetReverted();
         Q_EMIT menusChanged();
     });
 }
@@ -319,13 +320,32 @@ void DocumentWindow::keepSession()
     m_panes = {};
 }
 
-/// Gives up what was reverted but for the last `kept`, which take the memory of a project each.
-void DocumentWindow::forgetReverted(std::size_t kept)
+void DocumentWindow::forgetReverted()
 {
-    while (m_reverted.size() > kept) {
-        m_reverted.front().dispose();
-        m_reverted.pop_front();
+    for (Reverted &reverted : m_reverted)
+        reverted.dispose();
+    m_reverted.clear();
+}
+
+/// As each takes the memory of a project, there stay the last one with edits and, while the file lacks
+/// something, the first one without, which may hold it.
+void DocumentWindow::forgetOlderReverted(bool isFileWhole)
+{
+    std::deque<Reverted> kept;
+    bool hasUnedited = false;
+    for (std::size_t i = 0; i < m_reverted.size(); ++i) {
+        Reverted &each = m_reverted[i];
+        const bool isLast = i + 1 == m_reverted.size();
+        const bool stays =
+            each.isEdited ? isLast || !m_reverted.back().isEdited : !isFileWhole && !hasUnedited;
+        if (!stays) {
+            each.dispose();
+            continue;
+        }
+        hasUnedited |= !each.isEdited;
+        kept.push_back(std::move(each));
     }
+    m_reverted = std::move(kept);
 }
 
 void DocumentWindow::undoRevert()
@@ -389,12 +409,8 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         return;
     }
     m_state.treeLoaded();
-    // What the file has lost may be in the project as it was.
-    if (std::exchange(m_isReloading, false) && !m_reverted.back().isEdited && notice.isEmpty()) {
-        m_reverted.back().dispose();
-        m_reverted.pop_back();
-    }
-    forgetReverted(1);
+    if (std::exchange(m_isReloading, false))
+        forgetOlderReverted(notice.isEmpty());
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);

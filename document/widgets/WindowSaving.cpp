@@ -202,7 +202,10 @@ void WindowSaving::revert()
     QVAlert::alertSheetWithMessageText(
         tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_window.path()).fileName()),
         tr("Cancel"), tr("Revert"), QString(),
-        lost + QLatin1Char(' ') + tr("Until you close the window, Edit ▸ Undo Revert brings them back."),
+        lost + QLatin1Char(' ') +
+            tr("Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or "
+               "close "
+               "the window."),
         m_window.alertParent(), this, revertQuestion, false, nullptr);
 }
 

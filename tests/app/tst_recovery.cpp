@@ -299,6 +299,30 @@ private Q_SLOTS:
         QVERIFY(names().contains(QStringLiteral("Third")));
     }
 
+    /// What was given up with the question stays when the file, damaged by then, is read again without one.
+    void keepsRevertedChangesBesideAWholeProject()
+    {
+        open();
+        edit(0, "First");
+        const auto revert = [this] {
+            QSignalSpy loaded(m_window, &DocumentWindow::loaded);
+            m_window->revertWithoutQuestion();
+            QTRY_COMPARE(loaded.count(), 1);
+            ready();
+        };
+        revert();
+        const QStringList whole = names();
+        m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), "<html/>");
+        revert();
+        revert(); // once more
+        QVERIFY(names().isEmpty());
+        m_window->undo();
+        QVERIFY(!m_window->isWindowModified());
+        QCOMPARE(names(), whole);
+        m_window->undo();
+        QVERIFY(m_window->isWindowModified() && names().contains(QStringLiteral("First")));
+    }
+
     /// What the file has lost meanwhile can be had again, though the project was not edited.
     void undoesARevertToLess_data()
     {
