@@ -24,7 +24,7 @@ class NotesTest : public QObject
 {
     Q_OBJECT
 
-    const CliHome m_home;
+    const CliHome m_home{};
 
     CliRun run(const QString &arguments) const { return m_home.run(arguments); }
 
