@@ -201,6 +201,7 @@ private Q_SLOTS:
                      visibleBox()->informativeText().startsWith(
                          QStringLiteral("2 changes to 2 markers in 2 sequences will be lost.")),
                  qPrintable(visibleBox()->informativeText()));
+        QVERIFY(visibleBox()->informativeText().endsWith(QStringLiteral("brings them back.")));
         QVERIFY(press(visibleBox(), QStringLiteral("Revert")));
         QTRY_VERIFY(!m_window->isWindowModified());
         ready();
@@ -209,6 +210,10 @@ private Q_SLOTS:
 
         // What is done after that is undone first.
         edit(0, "Other");
+        m_window->revert();
+        QVERIFY(visibleBox()->informativeText().startsWith(QStringLiteral("1 change to 1 marker")) &&
+                visibleBox()->informativeText().endsWith(QStringLiteral("brings it back.")));
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
         QVERIFY(trigger(*m_window, QStringLiteral("Undo Rename Marker")));
         // Another program saves the project.
         m_home->addFile(QStringLiteral("project/Harbour Lights.xml"), file + "\n");
