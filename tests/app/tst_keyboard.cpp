@@ -38,7 +38,8 @@ private Q_SLOTS:
     {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
             showTab(tab);
-            QCOMPARE(keyFaults(*m_window->menuBar(), m_window->pane(tab), table().menu()), QStringList());
+            QCOMPARE(keyFaults(*m_window->menuBar(), m_window->pane(tab), table().menu()).join(u'\n'),
+                     QString());
         }
         QCOMPARE(clashes(textsWithKeys(*m_controller->startWindow().centralWidget())), QStringList());
         QCOMPARE(nameless(*m_controller->startWindow().centralWidget()), QStringList());
