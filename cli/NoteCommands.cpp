@@ -162,10 +162,22 @@ std::optional<Sources> readSources(const NoteImportOptions &options, const NoteC
     return sources;
 }
 
-void tellUnreadable(const PlannedNote &note, const QString &file)
+/// Says why rows were left out. Those that are there already are counted: an import may be repeated.
+void tellLeftOut(const std::vector<PlannedNote> &notes, const QStringList &files)
 {
-    if (note.state == PlannedNote::State::Unreadable)
-        complain(QStringLiteral("%1, line %2: %3").arg(file).arg(note.line).arg(note.reason));
+    std::size_t there = 0;
+    for (std::size_t i = 0; i < notes.size(); ++i) {
+        const PlannedNote &note = notes[i];
+        const bool isOutside = note.state == PlannedNote::State::Outside;
+        if (isOutside || note.state == PlannedNote::State::Unreadable)
+            complain(QStringLiteral("%1, line %2: %3")
+                         .arg(files.at(qsizetype(i)))
+                         .arg(note.line)
+                         .arg(isOutside ? QStringLiteral("It lies outside the sequence.") : note.reason));
+        there += std::size_t(note.state == PlannedNote::State::There);
+    }
+    if (there > 0)
+        complain(QStringLiteral("%1 of %2 rows are there already").arg(there).arg(notes.size()));
 }
 
 } // namespace
@@ -229,8 +241,7 @@ int importNotes(const NoteImportOptions &options)
         return show() ? Done : Failed;
 
     const std::size_t added = importer.add(all, sources->sequence);
-    for (std::size_t i = 0; i < all.size(); ++i)
-        tellUnreadable(all[i], files.at(qsizetype(i)));
+    tellLeftOut(all, files);
     const bool isWritten = added > 0 && writeProject(session.document(), fromArgument(options.output));
     if (isWritten || added == 0)
         complain(QStringLiteral("%1 of %2 rows added").arg(added).arg(all.size()));

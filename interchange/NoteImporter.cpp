@@ -13,6 +13,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace vantrell
 {
 
@@ -32,6 +34,23 @@ bool holdsWords(const QString &text, const QString &name)
             return true;
     }
     return false;
+}
+
+/// The custom fields by their names. Titles may have the same name; what stands under them is joined.
+std::vector<std::pair<QString, QString>> fieldsOf(const PlannedNote &note)
+{
+    std::vector<std::pair<QString, QString>> fields;
+    for (const auto &[title, value] : note.fields) {
+        const QString name = MarkerFields::formatMarkerFieldName(title);
+        const auto same = std::find_if(fields.begin(), fields.end(),
+                                       [&name](const auto &field) { return field.first == name; });
+        if (same == fields.end())
+            fields.emplace_back(name, value);
+        else
+            same->second +=
+                (same->second.isEmpty() || value.isEmpty() ? QString() : QStringLiteral(", ")) + value;
+    }
+    return fields;
 }
 
 } // namespace
@@ -122,8 +141,8 @@ RowRecordPtr NoteImporter::added(PlannedNote &note, std::int64_t item) const
     }
     if (note.isChapter)
         m_editor.updateXMLMarker(record, MarkerKey::chapter.text(), QStringLiteral("1"));
-    for (const auto &[title, value] : note.fields)
-        m_editor.updateXMLMarker(record, MarkerFields::formatMarkerFieldName(title), value);
+    for (const auto &[name, value] : fieldsOf(note))
+        m_editor.updateXMLMarker(record, name, value);
     return record;
 }
 

@@ -1432,6 +1432,25 @@
     </message>
 </context>
 <context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>„%1“ gibt es schon. Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Der Inhalt der Datei in „%1“ geht verloren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>TimecodeEntry</name>
     <message>
         <source>An empty field</source>
@@ -5405,8 +5424,8 @@ hier ablegen</translation>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Bis Sie das Fenster schließen, lassen sie sich mit Bearbeiten ▸ Rückgängig Zurücksetzen zurückholen.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Bearbeiten ▸ Rückgängig Zurücksetzen holt das Projekt zurück, wie es jetzt ist, bis Sie sichern, wieder zurücksetzen oder das Fenster schließen.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>
@@ -5447,10 +5466,6 @@ hier ablegen</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Wenn Sie Ihre Änderungen nicht speichern, gehen sie verloren.</translation>
-    </message>
-    <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings it back.</source>
-        <translation>Bis Sie das Fenster schließen, lässt sie sich mit Bearbeiten ▸ Rückgängig Zurücksetzen zurückholen.</translation>
     </message>
 </context>
 <context>

@@ -1432,6 +1432,25 @@
     </message>
 </context>
 <context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Se perderá el contenido del archivo en «%1».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+</context>
+<context>
     <name>TimecodeEntry</name>
     <message>
         <source>An empty field</source>
@@ -5405,8 +5424,8 @@ o un archivo XML</translation>
         <translation>Revertir</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Hasta que cierre la ventana, Editar ▸ Deshacer Revertir los recupera.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Editar ▸ Deshacer Revertir recupera el proyecto como está ahora, hasta que guarde, vuelva a revertir o cierre la ventana.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>
@@ -5447,10 +5466,6 @@ o un archivo XML</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Los cambios se perderán si no los guarda.</translation>
-    </message>
-    <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings it back.</source>
-        <translation>Hasta que cierre la ventana, Editar ▸ Deshacer Revertir lo recupera.</translation>
     </message>
 </context>
 <context>

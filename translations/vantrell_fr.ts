@@ -1432,6 +1432,25 @@
     </message>
 </context>
 <context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Le contenu du fichier dans «&#xa0;%1&#xa0;» sera perdu.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+</context>
+<context>
     <name>TimecodeEntry</name>
     <message>
         <source>An empty field</source>
@@ -5405,8 +5424,8 @@ ou un fichier XML</translation>
         <translation>Revenir</translation>
     </message>
     <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings them back.</source>
-        <translation>Jusqu’à la fermeture de la fenêtre, Édition ▸ Annuler le retour à la version enregistrée les rétablit.</translation>
+        <source>Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or close the window.</source>
+        <translation>Édition ▸ Annuler le retour à la version enregistrée rétablit le projet dans son état actuel, jusqu’à un enregistrement, un nouveau retour ou la fermeture de la fenêtre.</translation>
     </message>
     <message>
         <source>Waiting for the question in another window…</source>
@@ -5447,10 +5466,6 @@ ou un fichier XML</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Vos modifications seront perdues si vous ne les enregistrez pas.</translation>
-    </message>
-    <message>
-        <source>Until you close the window, Edit ▸ Undo Revert brings it back.</source>
-        <translation>Jusqu’à la fermeture de la fenêtre, Édition ▸ Annuler le retour à la version enregistrée la rétablit.</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrell
@@ -117,12 +118,13 @@ DocumentWindow::~DocumentWindow()
 {
     m_state.close();
     endSession();
-    for (Reverted &reverted : m_reverted)
-        reverted.dispose();
+    forgetReverted();
 }
 
 void DocumentWindow::Reverted::dispose()
 {
+    if (DocumentJournal *const journal = workbench->document().journal())
+        journal->discard();
     qDeleteAll(panes);
     DocumentDisposal::dispose(std::move(workbench), std::move(interface));
 }
@@ -265,6 +267,9 @@ void DocumentWindow::connectSession()
     connect(document, &MyDocument::historyChanged, this, &DocumentWindow::menusChanged);
     connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);
+        // Once changes have been saved, no undo leads back to the reverted project.
+        if (!edited && m_workbench->document().canUndo())
+            forgetReverted();
         Q_EMIT menusChanged();
     });
 }
@@ -314,6 +319,34 @@ void DocumentWindow::keepSession()
     m_reverted.push_back({m_path, m_typeName, std::move(m_interface), std::move(m_workbench), m_panes,
                           m_notice->notice(), m_notice->kind(), isEdited, isListed});
     m_panes = {};
+}
+
+void DocumentWindow::forgetReverted()
+{
+    for (Reverted &reverted : m_reverted)
+        reverted.dispose();
+    m_reverted.clear();
+}
+
+/// As each takes the memory of a project, there stay the last one with edits and, while the file lacks
+/// something, the first one without, which may hold it.
+void DocumentWindow::forgetOlderReverted(bool isFileWhole)
+{
+    std::deque<Reverted> kept;
+    bool hasUnedited = false;
+    for (std::size_t i = 0; i < m_reverted.size(); ++i) {
+        Reverted &each = m_reverted[i];
+        const bool isLast = i + 1 == m_reverted.size();
+        const bool stays =
+            each.isEdited ? isLast || !m_reverted.back().isEdited : !isFileWhole && !hasUnedited;
+        if (!stays) {
+            each.dispose();
+            continue;
+        }
+        hasUnedited |= !each.isEdited;
+        kept.push_back(std::move(each));
+    }
+    m_reverted = std::move(kept);
 }
 
 void DocumentWindow::undoRevert()
@@ -377,11 +410,8 @@ void DocumentWindow::loadEnded(bool loaded, const QString &message, const QStrin
         return;
     }
     m_state.treeLoaded();
-    // What the file has lost may be in the project as it was.
-    if (std::exchange(m_isReloading, false) && !m_reverted.back().isEdited && notice.isEmpty()) {
-        m_reverted.back().dispose();
-        m_reverted.pop_back();
-    }
+    if (std::exchange(m_isReloading, false))
+        forgetOlderReverted(notice.isEmpty());
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);

@@ -139,8 +139,9 @@ public Q_SLOTS:
     /// Asks for a file and saves to it; from then on it is the window's file.
     void saveAs() { m_saving.saveAs(); }
     void saveTo(const QString &path) { m_saving.saveTo(path); }
-    /// Loads the file again, after a question if changes would be lost. Until the window is closed undo()
-    /// brings the project back as it was, once what was done since is undone.
+    /// Loads the file again, after a question if changes would be lost. Until changes are saved, another
+    /// project with changes is reverted or the window is closed, undo() brings the project back as it was,
+    /// once what was done since is undone.
     void revert() { m_saving.revert(); }
     void revertWithoutQuestion() { m_saving.revertWithoutQuestion(); }
 
@@ -336,6 +337,8 @@ private:
     void leaveSession();
     void endSession();
     void keepSession();
+    void forgetReverted();
+    void forgetOlderReverted(bool isFileWhole);
     void undoRevert();
     void showReverted();
     void returnFromFailedReload();
@@ -402,9 +405,9 @@ private:
 
         void dispose();
     };
-    std::vector<Reverted> m_reverted; ///< the last one at the end
-    bool m_isReloading = false;       ///< until the file has been read; the last one is kept until then
-    bool m_hasReloadFailed = false;   ///< and the last one is still to be shown again
+    std::deque<Reverted> m_reverted; ///< the last one at the end; at most two, and one more during a reload
+    bool m_isReloading = false;      ///< until the file has been read; the last one is kept until then
+    bool m_hasReloadFailed = false;  ///< and the last one is still to be shown again
 
     std::deque<std::function<void()>> m_answers; ///< see whenIdle()
     bool m_appliesAnswers = false;

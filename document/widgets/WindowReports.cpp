@@ -173,15 +173,23 @@ void WindowReports::exportReport()
         new ExportReportSheet(*report, m_defaults, m_window.fileTitle(), m_window.folder(), &m_window);
     QObject::connect(sheet, &ExportReportSheet::chosen, &m_window,
                      [this](const QString &path, ReportFormat format) {
-                         m_window.whenIdle([this, path, format] { exportReportTo(path, format); });
+                         // What is on show now, whenever it can be written.
+                         if (!m_window.document())
+                             return;
+                         const Result<QByteArray> content = contentOf(format);
+                         m_window.whenIdle([this, path, format, content] { write(path, format, content); });
                      });
     sheet->open();
 }
 
 void WindowReports::exportReportTo(const QString &path, ReportFormat format)
 {
-    if (!mayReport())
-        return;
+    if (mayReport())
+        write(path, format, contentOf(format));
+}
+
+Result<QByteArray> WindowReports::contentOf(ReportFormat format)
+{
     ReportGenerator &report = m_window.workbench().reportGenerator();
     if (!report.printTableRef())
         report.setPrintTable(m_window.selectedTab(), columnsOf(m_window.currentPane()));
@@ -190,16 +198,23 @@ void WindowReports::exportReportTo(const QString &path, ReportFormat format)
     const Result<void> made = format == ReportFormat::Page  ? report.writePage(text)
                               : format == ReportFormat::Csv ? report.writeCSV(text)
                                                             : report.writeHTML(text, true);
+    return made ? Result<QByteArray>(text.data()) : Result<QByteArray>(made.failure());
+}
+
+void WindowReports::write(const QString &path, ReportFormat format, const Result<QByteArray> &content)
+{
+    if (!mayReport())
+        return;
     const QString helper = PrintHelper::find();
-    if (!made || (format == ReportFormat::Pdf && helper.isEmpty())) {
-        exported(path, made ? Failure{PrintHelper::missingMessage()} : made.failure(), false);
+    if (!content || (format == ReportFormat::Pdf && helper.isEmpty())) {
+        exported(path, content ? Failure{PrintHelper::missingMessage()} : content.failure(), false);
         return;
     }
     const auto isCancelled = std::make_shared<std::atomic<bool>>(false);
     m_work.begin(tr("Writing “%1”…").arg(QFileInfo(path).fileName()), WindowState::Work::Expendable,
                  [isCancelled] { *isCancelled = true; });
     const PrintHelper::Pages pages = PrintInfo(m_defaults.value(printSettingsKey).toMap()).pages();
-    const auto writeReport = [path, format, helper, pages, isCancelled, bytes = text.data()] {
+    const auto writeReport = [path, format, helper, pages, isCancelled, bytes = content.value()] {
         const FileUtilities::Writer write = [&](QIODevice &device) {
             device.write(bytes); // errors are checked by whoever opened the device
             return *isCancelled ? Result<void>(Failure()) : Result<void>();

@@ -44,6 +44,8 @@ public:
 
 private:
     ReportGenerator *prepareReport();
+    Result<QByteArray> contentOf(ReportFormat format);
+    void write(const QString &path, ReportFormat format, const Result<QByteArray> &content);
     void exported(const QString &path, const Result<void> &written, bool isCancelled);
     void showPrintFailure(const QString &reason);
 

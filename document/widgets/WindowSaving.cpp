@@ -196,17 +196,17 @@ void WindowSaving::revert()
         revertWithoutQuestion();
         return;
     }
-    const UnsavedChanges unsaved = UnsavedChanges::of(*document);
-    const QString changes = unsaved.text();
+    const QString changes = UnsavedChanges::of(*document).text();
     const QString lost = changes.isEmpty() ? tr("Your changes since it was last saved will be lost.")
                                            : tr("%1 will be lost.").arg(changes);
-    const QString back = unsaved.isKnown && unsaved.changes == 1
-                             ? tr("Until you close the window, Edit ▸ Undo Revert brings it back.")
-                             : tr("Until you close the window, Edit ▸ Undo Revert brings them back.");
     QVAlert::alertSheetWithMessageText(
         tr("Do you want to revert to the saved version of “%1”?").arg(QFileInfo(m_window.path()).fileName()),
-        tr("Cancel"), tr("Revert"), QString(), lost + QLatin1Char(' ') + back, m_window.alertParent(), this,
-        revertQuestion, false, nullptr);
+        tr("Cancel"), tr("Revert"), QString(),
+        lost + QLatin1Char(' ') +
+            tr("Edit ▸ Undo Revert brings the project back as it is now, until you save, revert again or "
+               "close "
+               "the window."),
+        m_window.alertParent(), this, revertQuestion, false, nullptr);
 }
 
 void WindowSaving::revertWithoutQuestion()

@@ -241,6 +241,7 @@ void MediaPane::updateShares()
     const QHash<QString, QString> kindNames{{MediaKind::movieClip, tr("Movie Clips")},
                                             {MediaKind::audioClip, tr("Audio Clips")},
                                             {MediaKind::image, tr("Images")}};
+    const QString unknownKind = tr("Unknown Kind");
     const QHash<QString, QColor> kindColors{{tr("Movie Clips"), QColor(62, 126, 190)},
                                             {tr("Audio Clips"), QColor(84, 156, 84)},
                                             {tr("Images"), QColor(214, 140, 46)}};
@@ -264,7 +265,7 @@ void MediaPane::updateShares()
     show(m_mediaFooter->kinds(),
          mediaShares(rows,
                      [&](const RowRecord &row) {
-                         return kindNames.value(row.get(MediaKey::filetype), tr("Unknown Kind"));
+                         return kindNames.value(row.get(MediaKey::filetype), unknownKind);
                      }),
          [&](const QString &name, std::size_t) { return kindColors.value(name, other); });
     show(

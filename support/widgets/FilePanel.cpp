@@ -1,7 +1,10 @@
 #include "support/widgets/FilePanel.h"
 
+#include "support/widgets/ReplaceQuestion.h"
+
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QMimeData>
@@ -120,9 +123,31 @@ void runForFolder(const Request &request, const std::function<void(const QString
 void runForSaving(const Request &request, const std::function<void(const QString &)> &chosen,
                   const std::function<void()> &cancelled)
 {
-    QFileDialog *const dialog = makeDialog(request, QFileDialog::AcceptSave,
-                                           [chosen](const QStringList &paths) { chosen(paths.value(0)); });
-    dialog->setDefaultSuffix(request.extension);
+    // Panels of the platform ask about the name as it was typed. QFileDialog would add the extension after
+    // that.
+    const auto complete = [request, chosen, cancelled](const QStringList &paths) {
+        const QFileInfo typed(paths.value(0));
+        if (request.extension.isEmpty() || typed.fileName().contains(QLatin1Char('.'))) {
+            chosen(typed.filePath());
+            return;
+        }
+        const QString path = typed.filePath() + QLatin1Char('.') + request.extension;
+        if (!QFileInfo::exists(path)) {
+            chosen(path);
+            return;
+        }
+        askToReplace(path, request.window, [request, chosen, cancelled, path](bool replaces) {
+            if (replaces) {
+                chosen(path);
+                return;
+            }
+            Request again = request;
+            again.folder = QFileInfo(path).path();
+            again.proposedName = QFileInfo(path).fileName();
+            runForSaving(again, chosen, cancelled);
+        });
+    };
+    QFileDialog *const dialog = makeDialog(request, QFileDialog::AcceptSave, complete);
     dialog->selectFile(request.proposedName);
     if (cancelled)
         QObject::connect(dialog, &QDialog::rejected, request.window, cancelled);

@@ -202,6 +202,28 @@ private Q_SLOTS:
         }
     }
 
+    /// The panel of the platform asks about the name without the extension, the program about the file.
+    void savingAsksAboutTheFileWithTheExtension()
+    {
+        start();
+        m_controller->applicationOpenFile(m_path);
+        DocumentWindow *const window = m_controller->currentWindow();
+        QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
+        const QString path = m_home->addFile(QStringLiteral("project/cut2.xml"), "other");
+        QVERIFY(trigger(*window, QStringLiteral("Save As…")));
+        choosePath(m_home->path(QStringLiteral("project/cut2")));
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(visibleBox()->text().contains(QStringLiteral("“cut2.xml” already exists")));
+        QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
+        QTRY_VERIFY(visiblePanel());
+        QCOMPARE(contentOf(path), QByteArray("other"));
+        choosePath(m_home->path(QStringLiteral("project/cut2")));
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Replace")));
+        QTRY_COMPARE(window->path(), path);
+        QVERIFY(contentOf(path).contains("<xmeml"));
+    }
+
     void importsAndExportsMarkerLists_data()
     {
         QTest::addColumn<QString>("format");

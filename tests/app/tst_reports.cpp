@@ -112,7 +112,17 @@ private Q_SLOTS:
         m_window->exportReport();
         auto *const sheet = m_window->findChild<ExportReportSheet *>();
         QVERIFY(sheet && sheet->isVisible());
+        // A report that can be written only later holds what was selected when it was chosen.
+        QSignalSpy late(m_window.get(), &DocumentWindow::reportExported);
+        m_window->beginReading({});
+        Q_EMIT sheet->chosen(m_home.path(u"late.csv"_s), ReportFormat::Csv);
         sheet->reject();
+        m_window->pane(Tab::Markers).selectRows({1});
+        m_window->endReading();
+        QTRY_COMPARE(late.count(), 1);
+        QCOMPARE(contentOf(m_home.path(u"late.csv"_s)).count('\n'), 2);
+        QVERIFY(contentOf(m_home.path(u"late.csv"_s)).contains("Tide turns"));
+        m_window->pane(Tab::Markers).selectRows({0});
         const struct {
             const char *name;
             ReportFormat format;

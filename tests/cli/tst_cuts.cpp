@@ -49,7 +49,7 @@ class CutsTest : public QObject
 {
     Q_OBJECT
 
-    const CliHome m_home;
+    const CliHome m_home{};
 
     CliRun run(const QString &arguments) const { return m_home.run(arguments); }
     QByteArray textOf(const QString &name) const

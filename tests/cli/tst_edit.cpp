@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(json.keys().size(), 3);
         QCOMPARE(json[QStringLiteral("modifiedSequenceUUIDs")].toArray(), QJsonArray{QStringLiteral("A")});
         QStringList markers;
-        for (const QJsonValue &value : json[QStringLiteral("markers")].toArray()) {
+        for (const auto &value : json[QStringLiteral("markers")].toArray()) {
             const QJsonObject one = value.toObject();
             markers.append(one[QStringLiteral("name")].toString() + QLatin1Char(' ') +
                            one[QStringLiteral("in")].toString() + QLatin1Char(' ') +
@@ -239,7 +239,7 @@ private Q_SLOTS:
             const CliRun run =
                 runCli(QStringList{QStringLiteral("markers"), QStringLiteral("--json"), file} + options);
             QString text = run.status == 0 ? QString() : QString::number(run.status);
-            for (const QJsonValue &value : QJsonDocument::fromJson(run.output).array())
+            for (const auto &value : QJsonDocument::fromJson(run.output).array())
                 text += value.toObject()[QStringLiteral("name")].toString();
             return text;
         };

@@ -37,7 +37,7 @@ class MarkerFilesTest : public QObject
 {
     Q_OBJECT
 
-    const CliHome m_home;
+    const CliHome m_home{};
 
     CliRun run(const QString &arguments) const { return m_home.run(arguments); }
 

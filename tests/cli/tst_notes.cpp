@@ -24,7 +24,7 @@ class NotesTest : public QObject
 {
     Q_OBJECT
 
-    const CliHome m_home;
+    const CliHome m_home{};
 
     CliRun run(const QString &arguments) const { return m_home.run(arguments); }
 
@@ -77,16 +77,30 @@ private Q_SLOTS:
         const CliRun result = run(import + u" --json -o ~/out.xml"_s);
         QCOMPARE(result.status, 0);
         QCOMPARE(result.output, planned);
-        QCOMPARE(result.messages, QByteArray("vantrell-cli: notes.csv, line 6: There is no time.\n"
-                                             "vantrell-cli: 1 of 4 rows added\n"));
+        QCOMPARE(result.messages,
+                 QByteArray("vantrell-cli: notes.csv, line 5: It lies outside the sequence.\n"
+                            "vantrell-cli: notes.csv, line 6: There is no time.\n"
+                            "vantrell-cli: 1 of 4 rows are there already\n"
+                            "vantrell-cli: 1 of 4 rows added\n"));
         const QByteArray markers = run(u"markers ~/out.xml --json"_s).output;
         QVERIFY2(markers.contains("\"name\":\"A & <b>\""), markers.constData());
         QVERIFY2(markers.contains("\"comment\":\"x \\\"y\\\"\\nz\""), markers.constData());
         QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"12\""), markers.constData());
         const CliRun again = run(u"import ~/out.xml ~/notes.csv --format auto -o ~/again.xml"_s);
         QCOMPARE(again.status, 1);
-        QVERIFY(again.messages.endsWith("0 of 4 rows added\n"));
+        QVERIFY(again.messages.endsWith("2 of 4 rows are there already\nvantrell-cli: 0 of 4 rows added\n"));
         QVERIFY(!QFile::exists(m_home.path(u"again.xml"_s)));
+    }
+
+    void fieldsOfTheSameName()
+    {
+        m_home.addFile(u"scenes.csv"_s, "Name,In,Scene,Scene#\nN,01:00:02:00,12,3\nO,01:00:03:00,,4\n");
+        const CliRun result = run(u"import ~/project.xml ~/scenes.csv --format auto --map Scene=field:Scene "
+                                  "--map Scene#=field:Scene# -o ~/scenes.xml"_s);
+        QCOMPARE(result.messages, QByteArray("vantrell-cli: 2 of 2 rows added\n"));
+        const QByteArray markers = run(u"markers ~/scenes.xml --json"_s).output;
+        QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"12, 3\""), markers.constData());
+        QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"4\""), markers.constData());
     }
 
     void chosenSequence()

@@ -145,6 +145,7 @@ private Q_SLOTS:
         QVERIFY(host.start({path}));
         std::vector<CliRun> runs(3);
         std::vector<std::thread> threads;
+        threads.reserve(runs.size());
         for (CliRun &run : runs)
             threads.emplace_back([&] {
                 run = runCli({text("send"), path, text("--script"), text("-")}, addMarker);

@@ -59,7 +59,7 @@ Cut Cut::random(RandomNumbers &random)
         cut.rate = "<timebase>30</timebase><ntsc>TRUE</ntsc>";
         cut.hasDropFrame = true;
     }
-    cut.tracks.resize(std::size_t(1 + random.below(3)));
+    cut.tracks.resize(1 + std::size_t(random.below(3)));
     const int sources = 2 + random.below(6);
     for (std::size_t track = 0; track < cut.tracks.size(); ++track) {
         std::int64_t at = random.oneIn(2) ? 0 : random.below(40);

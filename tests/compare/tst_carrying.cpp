@@ -101,9 +101,9 @@ void TestCarrying::randomRecuts()
     for (int seed = 0; seed < seriesLength(1000); ++seed) {
         RandomNumbers random{quint64(seed)};
         Cut cut = Cut::random(random);
-        std::vector<std::int64_t> markers;
-        for (int i = 0; i < 60; ++i)
-            markers.push_back(random.below(int(cut.length()) + 5));
+        std::vector<std::int64_t> markers(60);
+        for (std::int64_t &marker : markers)
+            marker = random.below(int(cut.length()) + 5);
         const std::vector<Picture> before = cut.pictures();
         const ReadCut old(cut.xml(markers));
         for (int i = 1 + random.below(30); i > 0; --i)

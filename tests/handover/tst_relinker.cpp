@@ -128,6 +128,7 @@ private Q_SLOTS:
             {"/", ""},
         };
         std::vector<MissingFile> files;
+        files.reserve(table.size());
         for (const auto &row : table)
             files.push_back(missing(QString::fromLatin1(row.first)));
         const std::vector<RelinkMatch> matches = Relinker::matches(files, found);
@@ -281,9 +282,11 @@ private Q_SLOTS:
     void many()
     {
         std::vector<FolderWalk::Found> found;
+        found.reserve(200'000);
         for (int i = 0; i < 200'000; ++i)
             found.push_back({QStringLiteral("/m/%1/Clip %2.mov").arg(i % 100).arg(i), {}});
         std::vector<MissingFile> files;
+        files.reserve(10'000);
         for (int i = 0; i < 10'000; ++i)
             files.push_back(missing(QStringLiteral("/V/clip %1.MOV").arg(i * 20)));
         QElapsedTimer timer;

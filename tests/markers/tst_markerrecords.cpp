@@ -5,6 +5,8 @@
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/TemporaryHome.h"
 
+#include <compare>
+
 using namespace vantrell;
 
 namespace
@@ -278,10 +280,11 @@ private Q_SLOTS:
         QCOMPARE(names(1, "name", false), QStringLiteral("y"));
         QCOMPARE(names(8, "name", false), QString());
         using namespace MarkerTableValues;
-        QVERIFY(compareIntegersFromString(*project.marker(0), *project.marker(3), QStringLiteral("in")) > 0);
-        QVERIFY(compareIntegersFromString(*project.marker(0), *project.marker(2), QStringLiteral("out")) ==
-                0);
-        QVERIFY(compareIntegersFromString(QStringLiteral("10"), QStringLiteral("9")) > 0);
+        QVERIFY(std::is_gt(
+            compareIntegersFromString(*project.marker(0), *project.marker(3), QStringLiteral("in"))));
+        QVERIFY(std::is_eq(
+            compareIntegersFromString(*project.marker(0), *project.marker(2), QStringLiteral("out"))));
+        QVERIFY(std::is_gt(compareIntegersFromString(QStringLiteral("10"), QStringLiteral("9"))));
     }
 
     void closingWhileMarkersAreRead()

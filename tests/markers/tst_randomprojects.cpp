@@ -9,6 +9,7 @@
 #include <QBuffer>
 
 #include <array>
+#include <compare>
 #include <map>
 
 using namespace vantrell;
@@ -314,8 +315,8 @@ private Q_SLOTS:
                 shown += rows.size();
                 for (std::size_t i = 0; i < rows.size(); ++i) {
                     QCOMPARE(rows[i]->get(MarkerKey::color), std::int64_t(color));
-                    QVERIFY(i == 0 || MarkerTableValues::compareIntegersFromString(
-                                          *rows[i - 1], *rows[i], QStringLiteral("in")) <= 0);
+                    QVERIFY(i == 0 || std::is_lteq(MarkerTableValues::compareIntegersFromString(
+                                          *rows[i - 1], *rows[i], QStringLiteral("in"))));
                 }
             }
             QCOMPARE(shown, p.document.markerArray().size());

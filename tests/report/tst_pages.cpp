@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTest>
 
-#include <signal.h>
+#include <csignal>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;

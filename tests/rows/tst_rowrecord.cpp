@@ -92,6 +92,7 @@ private Q_SLOTS:
     {
         std::vector<std::thread> threads;
         std::atomic<int> wrong = 0;
+        threads.reserve(4);
         for (int t = 0; t < 4; ++t) {
             threads.emplace_back([&wrong, t] {
                 for (int i = 0; i < 300; ++i) {

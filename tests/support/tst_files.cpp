@@ -327,6 +327,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         std::atomic<int> written = 0;
         std::vector<std::thread> threads;
+        threads.reserve(6);
         for (int i = 0; i < 6; ++i) {
             threads.emplace_back([&, i] {
                 for (int n = 0; n < 40; ++n) {

@@ -304,6 +304,7 @@ private Q_SLOTS:
         constexpr int threadCount = 4;
         constexpr int lineCount = 500;
         std::vector<std::thread> threads;
+        threads.reserve(threadCount);
         for (int thread = 0; thread < threadCount; ++thread) {
             threads.emplace_back([thread] {
                 for (int i = 0; i < lineCount; ++i) {

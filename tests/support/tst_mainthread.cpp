@@ -123,6 +123,7 @@ private Q_SLOTS:
         int runs = 0;
         gate->post([&] { ++runs; });
         std::vector<std::thread> workers;
+        workers.reserve(4);
         for (int i = 0; i < 4; ++i) {
             workers.emplace_back([&, gate] {
                 ++begun;

@@ -122,6 +122,7 @@ private Q_SLOTS:
     {
         std::atomic<int> right = 0;
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int i = 0; i < 4; ++i) {
             threads.emplace_back([&right, i] {
                 const QByteArray text = QByteArray::number(i);

@@ -184,6 +184,7 @@ private Q_SLOTS:
         const TemporaryHome home;
         UserDefaults defaults((QString()));
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int thread = 0; thread < 4; ++thread) {
             threads.emplace_back([&defaults, thread] {
                 for (int i = 0; i < 10; ++i) {

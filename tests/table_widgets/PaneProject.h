@@ -31,7 +31,7 @@ public:
     {
         watch(bench.document());
     }
-    ~PaneProject() { bench.document().close(); }
+    ~PaneProject() override { bench.document().close(); }
 
     /// Loads the project; false when that fails or does not end in 40 seconds.
     bool load()
