@@ -5,6 +5,7 @@
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
+#include "document/widgets/UnseenRows.h"
 #include "effects/widgets/EffectsPane.h"
 #include "interchange/widgets/MarkerListImport.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
@@ -834,6 +835,17 @@ QString DocumentWindow::fileTitle() const
     return FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName());
 }
 
+void DocumentWindow::showHiddenEffects()
+{
+    static_cast<EffectsPane &>(pane(Tab::Effects)).showHiddenEffects();
+}
+
+bool DocumentWindow::hidesEffects() const
+{
+    return m_workbench && selectedTab() == Tab::Effects &&
+           static_cast<EffectsPane &>(pane(Tab::Effects)).hidesEffects();
+}
+
 void DocumentWindow::undo()
 {
     if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
@@ -863,7 +875,16 @@ bool DocumentWindow::mayUndoRevert() const
 void DocumentWindow::restore(bool (MyDocument::*step)())
 {
     commitEditing();
-    (m_workbench->document().*step)();
+    MyDocument &document = m_workbench->document();
+    const EditHistory &history = document.history();
+    const bool isUndo = step == &MyDocument::undo;
+    if (isUndo ? !history.canUndo() : !history.canRedo())
+        return;
+    const EditStep &next = isUndo ? history.toUndo() : history.toRedo();
+    const QString name = shownEdit(next.name);
+    const UnseenRows unseen(document, next);
+    if ((document.*step)() && unseen.remain(document))
+        pane(unseen.tab()).showMessage((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(name));
 }
 
 void DocumentWindow::copySelection()

@@ -26,6 +26,7 @@ namespace vantrell
 {
 
 class ColumnLayout;
+class MessageLine;
 class QVTableView;
 class SearchBar;
 class TableModel;
@@ -98,6 +99,8 @@ public:
 
     /// Shows a message below the table for a while.
     void showMessage(const QString &text);
+    /// The same with a button that copies the path that the message is about.
+    void showMessage(const QString &text, const QString &path);
 
     /// Order and widths of the columns and which are hidden, kept in the user defaults under
     /// "%@ColumnLayout", which decides on the order and the hidden ones in all windows. It is stored with
@@ -214,7 +217,7 @@ private:
     QProgressBar *m_busy;
     QLabel *m_busyText;
     QTimer *m_busyTimer;
-    QLabel *m_message;
+    MessageLine *m_message;
     QTimer *m_messageTime;
     QHash<Label, QLabel *> m_labels;
     QSet<QString> m_newColumns; // added without a position in the stored layout
