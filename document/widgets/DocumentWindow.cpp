@@ -58,6 +58,7 @@ const QString geometryKey = QStringLiteral("documentWindowPlace");
 const QString journalKey = QStringLiteral("journal");
 
 constexpr int redrawMs = 50;
+constexpr QSize smallestSize(680, 460);
 
 struct ToolBarItem {
     QString identifier;
@@ -109,7 +110,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
-    setMinimumSize(QSize(680, 460).boundedTo(screen()->availableSize()));
+    setMinimumSize(smallestSize.boundedTo(screen()->availableSize()));
     if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
@@ -237,6 +238,7 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
         m_content->addWidget(pane);
         pane->setWhenIdle([this](std::function<void()> answer) { whenIdle(std::move(answer)); });
     }
+    fitMinimumWidth();
     const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
     if (m_restorable)
         journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
@@ -251,6 +253,13 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     setWindowModified(false);
     updateEditing();
     setFile(path, typeName);
+}
+
+/// The controls of the panes are longer in some languages and fonts.
+void DocumentWindow::fitMinimumWidth()
+{
+    const int needed = std::max(smallestSize.width(), m_content->minimumSizeHint().width());
+    setMinimumWidth(std::min(needed, screen()->availableSize().width()));
 }
 
 void DocumentWindow::connectSession()

@@ -333,6 +333,7 @@ private:
     void makeContent();
     QWidget *makeFailurePage();
     void startSession(const QString &path, const QString &typeName);
+    void fitMinimumWidth();
     void connectSession();
     void leaveSession();
     void endSession();

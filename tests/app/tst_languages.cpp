@@ -336,6 +336,28 @@ private Q_SLOTS:
         close();
     }
 
+    void buttonsFitInTheSmallestWindow_data() { addLanguages(); }
+    void buttonsFitInTheSmallestWindow()
+    {
+        QFETCH(QString, language);
+        const Speaks speaks(language);
+        open();
+        m_window->resize(m_window->minimumSize());
+        for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+            showTab(tab);
+            QCoreApplication::processEvents();
+            const QWidget &pane = m_window->pane(tab);
+            QCOMPARE(pane.width(), m_window->width());
+            for (const auto *const button : pane.findChildren<QPushButton *>()) {
+                QString text = button->text().remove(QLatin1Char('&'));
+                QVERIFY2(!button->isVisible() ||
+                             button->width() > button->fontMetrics().horizontalAdvance(text),
+                         qPrintable(text));
+            }
+        }
+        close();
+    }
+
     void sheetsHaveEachKeyOnce_data() { addLanguages(); }
     void sheetsHaveEachKeyOnce()
     {
