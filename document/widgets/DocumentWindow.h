@@ -38,6 +38,7 @@ class AlertParent;
 class DocumentWindowInterface;
 class MyDocument;
 class MarkersPane;
+class OwnersNotice;
 class PrintOperation;
 
 class TabPane;
@@ -347,7 +348,6 @@ private:
     void updateEditing();
     void workEnded(WindowState::Next next);
     void cancelProgress();
-    void updateOwnersNotice();
     void updateTitle();
     MarkersPane &showMarkers();
     void applyOwnerListing();
@@ -375,7 +375,7 @@ private:
     QActionGroup *m_toolBarItems = nullptr;
     QString m_selectedToolbarItemIdentifier;
     NoticeBar *m_notice = nullptr;
-    NoticeBar *m_ownersNotice = nullptr;
+    OwnersNotice *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;
