@@ -792,6 +792,18 @@ void DocumentWindow::duplicateSelection()
         static_cast<MarkersPane &>(pane(Tab::Markers)).duplicateMarkers();
 }
 
+void DocumentWindow::offsetSelection()
+{
+    if (mayOffsetSelection())
+        static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerOffsetWindow();
+}
+
+bool DocumentWindow::mayOffsetSelection() const
+{
+    return mayEdit() && selectedTab() == Tab::Markers &&
+           pane(Tab::Markers).table().selectionModel()->hasSelection();
+}
+
 void DocumentWindow::moveInPoint()
 {
     if (mayEdit() && selectedTab() == Tab::Markers)

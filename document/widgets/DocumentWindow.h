@@ -227,6 +227,8 @@ public Q_SLOTS:
     void removeSelection();
     // For the Markers tab; nothing on the others
     void duplicateSelection();
+    void offsetSelection();
+    bool mayOffsetSelection() const;
     void moveInPoint();
     /// Moves the keyboard focus into its search field.
     void find();

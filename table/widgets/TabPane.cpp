@@ -76,6 +76,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_busyTimer(new QTimer(this))
     , m_message(new QLabel(this))
     , m_messageTime(new QTimer(this))
+    , m_newMessage(new QTimer(this))
 {
     m_model->setParent(this);
     m_model->setDateFormat(TableDates::storedFormat(m_defaults));
@@ -102,6 +103,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_message->hide();
     m_messageTime->setSingleShot(true);
     m_messageTime->setInterval(messageMs);
+    m_newMessage->setSingleShot(true);
+    m_newMessage->setInterval(0);
     m_countTimer->setSingleShot(true);
     m_countTimer->setInterval(countMs);
 
@@ -137,6 +140,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
             m_prepareTimer->setInterval(0);
     });
     connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
+    connect(&m_workbench.document(), &MyDocument::historyChanged, this, &TabPane::dropMessage);
     const RowView &view = m_model->view();
     connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
     connect(&view, &RowView::didReload, this, &TabPane::tableDidReload);
@@ -328,6 +332,7 @@ void TabPane::noteSelectionChange()
 {
     if (m_selectionMuted || m_reloads > 0)
         return;
+    dropMessage();
     updateControls();
     Q_EMIT selectionChanged();
 }
@@ -563,6 +568,16 @@ void TabPane::showMessage(const QString &text)
 {
     setMessage(shownMessage(text));
     m_messageTime->start();
+    m_newMessage->start();
+}
+
+/// Takes away a message that tells of something earlier.
+void TabPane::dropMessage()
+{
+    if (!m_messageTime->isActive() || m_newMessage->isActive())
+        return;
+    m_messageTime->stop();
+    setMessage(QString());
 }
 
 void TabPane::setMessage(const QString &text)
@@ -635,7 +650,11 @@ void TabPane::updateCounts()
     const std::size_t all = view.list().size();
     const QString shownNumber =
         shown.size() == all ? number(all) : tr("%1 of %2").arg(number(shown.size()), number(all));
-    QString text = withTotal(countText(shownNumber, all), shown);
+    const auto both = [](const QString &counted, const QString &chosen) {
+        return tr("%1 · %2", "shown and selected").arg(counted, chosen);
+    };
+    QString shorter = countText(shownNumber, all);
+    QString text = withTotal(shorter, shown);
     const std::vector<std::size_t> selected = selectedRows();
     if (!selected.empty()) {
         RowList rows;
@@ -644,10 +663,11 @@ void TabPane::updateCounts()
             if (row < shown.size())
                 rows.push_back(shown[row]);
         }
-        text = tr("%1 · %2", "shown and selected")
-                   .arg(text, withTotal(tr("%1 selected").arg(number(selected.size())), rows));
+        const QString chosen = tr("%1 selected").arg(number(selected.size()));
+        text = both(text, withTotal(chosen, rows));
+        shorter = both(shorter, chosen);
     }
-    m_search->setCounts(text);
+    m_search->setCounts(text, shorter);
 }
 
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)

@@ -96,7 +96,8 @@ public:
     /// Whether the project may be changed; false until all its inventories are there.
     virtual void setEditingEnabled(bool enabled);
 
-    /// Shows a message below the table for a while.
+    /// Shows a message below the table for a while: until the next edit of the project or another selection.
+    /// What follows in the same call of the event loop belongs to what the message tells of.
     void showMessage(const QString &text);
 
     /// Order and widths of the columns and which are hidden, kept in the user defaults under
@@ -192,6 +193,7 @@ private:
     void showHeaderMenu(const QPoint &position);
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
+    void dropMessage();
     void updateBusy();
     void updatePlaceholder();
     void updateCounts();
@@ -216,6 +218,7 @@ private:
     QTimer *m_busyTimer;
     QLabel *m_message;
     QTimer *m_messageTime;
+    QTimer *m_newMessage; // runs while what is told of may go on
     QHash<Label, QLabel *> m_labels;
     QSet<QString> m_newColumns; // added without a position in the stored layout
 
