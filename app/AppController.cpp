@@ -27,6 +27,7 @@
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/FilePanel.h"
 #include "support/widgets/ShownText.h"
 #include "support/widgets/WindowAlertPresenter.h"
 #include "table/widgets/TabPane.h"
@@ -201,6 +202,7 @@ void AppController::openFile()
     m_openPanel->setFileMode(QFileDialog::ExistingFiles);
     m_openPanel->setOption(QFileDialog::ReadOnly); // without the button that makes folders
     connect(m_openPanel, &QFileDialog::filesSelected, this, &AppController::openFiles, Qt::QueuedConnection);
+    FilePanel::fitColumns(*m_openPanel);
     m_openPanel->setWindowModality(Qt::ApplicationModal);
     m_openPanel->show();
 }
@@ -265,15 +267,17 @@ void AppController::showPreferences()
 }
 
 /// In the window that commands apply to: below its table, or where it tells of its file.
-void AppController::tell(const QString &text)
+void AppController::tell(const QString &text, const QString &path)
 {
     DocumentWindow *const window = currentWindow();
     if (!window)
-        m_startWindow->showMessage(text);
+        m_startWindow->showMessage(text, path);
     else if (window->state() == DocumentWindow::State::Failed)
         window->setNotice(text + QLatin1Char('.'));
-    else
+    else if (path.isEmpty())
         window->currentPane().showMessage(text);
+    else
+        window->currentPane().showMessage(text, path);
 }
 
 void AppController::openFCPProject()
@@ -569,10 +573,11 @@ void AppController::prefsToggleQCLogging(bool on)
 
 void AppController::helpUserManual()
 {
-    const Result<void> opened =
-        UserManual::open(StandardFolders::sharedLibrary(), QCoreApplication::applicationDirPath());
+    const QString sharedLibrary = StandardFolders::sharedLibrary();
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    const Result<void> opened = UserManual::open(sharedLibrary, programFolder);
     if (!opened)
-        tell(opened.message());
+        tell(opened.message(), UserManual::file(sharedLibrary, programFolder));
 }
 
 void AppController::showAboutDialog()
@@ -596,6 +601,7 @@ void AppController::gatherLogs()
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
     connect(panel, &QFileDialog::fileSelected, this, &AppController::gatherLogsInto);
+    FilePanel::fitColumns(*panel);
     panel->setWindowModality(Qt::ApplicationModal);
     panel->show();
 }

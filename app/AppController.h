@@ -113,7 +113,7 @@ private:
 
     bool openDocument(const QString &path, const QString &typeName);
     void closeDuplicate(DocumentWindow *duplicate, DocumentWindow &window);
-    void tell(const QString &text);
+    void tell(const QString &text, const QString &path = QString());
     DocumentWindow *makeWindow();
     bool restoreChanges(JournalFolder::Restorable changes);
     Result<void> openProject(const QString &path);

@@ -1,10 +1,12 @@
 #include "app/Application.h"
 
+#include "app/ThemeColors.h"
 #include "support/log/QVException.h"
 #include "support/widgets/DialogMnemonics.h"
 
 #include <QFileOpenEvent>
 #include <QIcon>
+#include <QPalette>
 
 #include <cstring>
 
@@ -26,6 +28,7 @@ Application::Application(int &argc, char **argv)
     setDesktopFileName(QStringLiteral("vantrell"));
     setWindowIcon(
         QIcon::fromTheme(QStringLiteral("vantrell"), QIcon(QStringLiteral(":/icons/vantrell.svg"))));
+    mendPalette();
     DialogMnemonics::install(*this);
     setQuitOnLastWindowClosed(false); // the controller decides
 }
@@ -54,12 +57,21 @@ bool Application::notify(QObject *receiver, QEvent *event)
     return isHandled;
 }
 
+void Application::mendPalette()
+{
+    const QPalette readable = withReadableSecondaryTexts(palette());
+    if (readable != palette())
+        setPalette(readable);
+}
+
 bool Application::event(QEvent *event)
 {
     if (event->type() == QEvent::FileOpen) {
         Q_EMIT openFileRequested(static_cast<QFileOpenEvent *>(event)->file());
         return true;
     }
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        mendPalette();
     return QApplication::event(event);
 }
 

@@ -26,6 +26,9 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+
+private:
+    void mendPalette();
 };
 
 } // namespace vantrell

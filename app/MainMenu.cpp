@@ -195,6 +195,8 @@ void MainMenu::makeViewMenu()
     m_documentActions << m_markerOverview;
     if (m_document)
         connect(m_markerOverview, &QAction::triggered, m_document, &DocumentWindow::showMarkerOverview);
+    m_hiddenEffects =
+        add(menu, tr("Show &Hidden Effects"), {}, m_document, &DocumentWindow::showHiddenEffects);
 }
 
 void MainMenu::makeMediaMenu()
@@ -324,6 +326,7 @@ void MainMenu::validate()
         action->setEnabled(showsPanes && m_document->selectedTab() == Tab::Markers);
     m_mediaUses->setChecked(showsPanes && m_document->showsMediaUses());
     m_markerOverview->setChecked(showsPanes && m_document->showsMarkerOverview());
+    m_hiddenEffects->setEnabled(showsPanes && m_document->hidesEffects());
     m_sortMenu->setEnabled(showsPanes);
     m_columnMenu->setEnabled(showsPanes);
     for (qsizetype i = 0; i < m_markerActions.size(); ++i)

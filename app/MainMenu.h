@@ -75,6 +75,7 @@ private:
     QAction *m_qcLogging = nullptr;
     QAction *m_mediaUses = nullptr;
     QAction *m_markerOverview = nullptr;
+    QAction *m_hiddenEffects = nullptr;
     QList<QAction *> m_reportActions;   // print and export reports
     QList<QAction *> m_documentActions; // need a loaded document
     QList<QAction *> m_paneActions;     // by tab

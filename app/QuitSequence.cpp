@@ -1,8 +1,13 @@
 #include "app/QuitSequence.h"
 
 #include "document/widgets/DocumentWindow.h"
+#include "support/widgets/AlertBox.h"
 
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <map>
 
 namespace vantrell
 {
@@ -10,7 +15,6 @@ namespace vantrell
 namespace
 {
 
-const QString quitQuestion = QStringLiteral("quitQuestionDidEnd:returnCode:contextInfo:");
 constexpr std::size_t listedProjects = 6;
 
 } // namespace
@@ -19,6 +23,11 @@ QuitSequence::QuitSequence(std::function<std::vector<DocumentWindow *>()> window
     : QObject(parent)
     , m_windows(std::move(windows))
 {
+}
+
+QuitSequence::~QuitSequence()
+{
+    delete m_question;
 }
 
 void QuitSequence::start()
@@ -77,25 +86,29 @@ void QuitSequence::ask(const std::vector<DocumentWindow *> &changed)
         }
         names.append(QFileInfo(window->path()).fileName());
     }
-    QVAlert::alertSheetWithMessageText(
-        tr("Do you want to save the changes made to %1 projects before quitting?").arg(changed.size()),
-        tr("Save All"), tr("Review…"), tr("Cancel"), names.join(QLatin1Char('\n')), nullptr, this,
-        quitQuestion, false, nullptr);
-}
-
-bool QuitSequence::respondsTo(const QString &selector) const
-{
-    return selector == quitQuestion;
-}
-
-void QuitSequence::perform(const QString &, QVAlert *, int code)
-{
-    if (code != AlertAnswer::Default && code != AlertAnswer::Alternate) {
-        Q_EMIT cancelled();
-        return;
-    }
-    m_stage = code == AlertAnswer::Default ? Stage::Saving : Stage::Reviewing;
-    settleNext();
+    m_question = new QMessageBox;
+    QMessageBox &box = *m_question;
+    setUpAlert(box,
+               tr("Do you want to save the changes made to %1 projects before quitting?").arg(changed.size()),
+               names.join(QLatin1Char('\n')));
+    QPushButton *const save = box.addButton(tr("Save All"), QMessageBox::AcceptRole);
+    box.setDefaultButton(save);
+    box.setEscapeButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
+    const std::map<QAbstractButton *, Stage> stages{
+        {save, Stage::Saving},
+        {box.addButton(tr("Review…"), QMessageBox::ActionRole), Stage::Reviewing},
+        {box.addButton(tr("Discard All"), QMessageBox::DestructiveRole), Stage::Discarding}};
+    connect(&box, &QDialog::finished, this, [this, &box, stages] {
+        box.deleteLater();
+        const auto stage = stages.find(box.clickedButton());
+        if (stage == stages.end()) {
+            Q_EMIT cancelled();
+            return;
+        }
+        m_stage = stage->second;
+        settleNext();
+    });
+    box.show();
 }
 
 void QuitSequence::settleNext()
@@ -108,10 +121,15 @@ void QuitSequence::settleNext()
     DocumentWindow *const window = changed.front();
     connect(window, &DocumentWindow::changesSettled, this, &QuitSequence::windowSettled,
             Qt::SingleShotConnection);
-    // What was edited after it was saved is asked about.
-    const bool isFirst = m_saved.insert(window).second;
-    window->settleChanges(m_stage == Stage::Saving && isFirst ? DocumentWindow::Settling::Save
-                                                              : DocumentWindow::Settling::Ask);
+    // What was edited after it was saved or discarded is asked about.
+    auto settling = DocumentWindow::Settling::Ask;
+    if (m_settled.insert(window).second) {
+        if (m_stage == Stage::Saving)
+            settling = DocumentWindow::Settling::Save;
+        else if (m_stage == Stage::Discarding)
+            settling = DocumentWindow::Settling::Discard;
+    }
+    window->settleChanges(settling);
 }
 
 void QuitSequence::windowSettled(bool isSettled)

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "support/alerts/QVAlert.h"
-
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <set>
 #include <vector>
+
+class QMessageBox;
 
 namespace vantrell
 {
@@ -14,15 +15,17 @@ namespace vantrell
 class DocumentWindow;
 
 /// Asks about the changes in all windows before any of them closes. A single changed project is asked about
-/// in its window; for several, one question offers to save all or review each in turn. A project that is
-/// edited after its question was answered is asked about again. Waits for windows that are busy. Main thread.
-class QuitSequence final : public QObject, private AlertDelegate
+/// in its window; for several, one question offers to save all, discard all or review each in turn. A project
+/// that is edited after its question was answered is asked about again. Waits for windows that are busy. Main
+/// thread.
+class QuitSequence final : public QObject
 {
     Q_OBJECT
 
 public:
     /// `windows` returns the open windows.
     QuitSequence(std::function<std::vector<DocumentWindow *>()> windows, QObject *parent);
+    ~QuitSequence() override;
 
     /// Called once; settled() or cancelled() reports the result.
     void start();
@@ -34,7 +37,7 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    enum class Stage { Waiting, Asking, Saving, Reviewing };
+    enum class Stage { Waiting, Asking, Saving, Discarding, Reviewing };
 
     void proceed();
     bool waitsForBusyWindow();
@@ -43,12 +46,10 @@ private:
     void windowSettled(bool isSettled);
     std::vector<DocumentWindow *> changedWindows() const;
 
-    bool respondsTo(const QString &selector) const override;
-    void perform(const QString &selector, QVAlert *alert, int code) override;
-
     std::function<std::vector<DocumentWindow *>()> m_windows;
     Stage m_stage = Stage::Waiting;
-    std::set<DocumentWindow *> m_saved;
+    std::set<DocumentWindow *> m_settled; ///< as was answered for all
+    QPointer<QMessageBox> m_question;
 };
 
 } // namespace vantrell

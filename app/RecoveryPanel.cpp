@@ -104,7 +104,7 @@ void RecoveryPanel::fill()
         auto *const item = new QTreeWidgetItem(m_list);
         item->setText(ProjectColumn, file.fileName());
         item->setText(ChangesColumn, QLocale().toString(journal.changes));
-        item->setTextAlignment(ChangesColumn, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(ChangesColumn, Qt::AlignCenter);
         item->setText(TimeColumn, QLocale().toString(time, QLocale::ShortFormat));
         item->setText(StateColumn, stateText(journal.project));
         item->setText(FolderColumn, file.path());

@@ -4,7 +4,7 @@
 #include "app/RecentFiles.h"
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/FilePanel.h"
-#include "support/widgets/SelectableLabel.h"
+#include "support/widgets/MessageLine.h"
 #include "support/widgets/SymbolIcon.h"
 
 #include <QCheckBox>
@@ -73,11 +73,7 @@ StartWindow::StartWindow(RecentFiles &recentFiles, UserDefaults &defaults)
     columns->setSpacing(28);
     columns->addWidget(makeWelcome());
     columns->addWidget(makeRecentList(), 1);
-    m_message = new QLabel(central);
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
-    makeSelectable(*m_message);
-    m_message->hide();
+    m_message = new MessageLine(central);
     auto *const layout = new QVBoxLayout(central);
     layout->setContentsMargins(28, 24, 24, 20);
     layout->setSpacing(14);
@@ -181,10 +177,9 @@ void StartWindow::showSetting()
     m_showsOpenDialog->setChecked(m_defaults.integer(PreferenceKey::showOpenDialog) == 1);
 }
 
-void StartWindow::showMessage(const QString &text)
+void StartWindow::showMessage(const QString &text, const QString &path)
 {
-    m_message->setText(text.isEmpty() ? text : text + QLatin1Char('.'));
-    m_message->setVisible(!text.isEmpty());
+    m_message->setMessage(text, path);
 }
 
 void StartWindow::showEvent(QShowEvent *event)

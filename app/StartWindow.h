@@ -9,6 +9,7 @@ class QListWidget;
 namespace vantrell
 {
 
+class MessageLine;
 class RecentFiles;
 class UserDefaults;
 
@@ -22,8 +23,9 @@ public:
     /// Both outlive the window.
     StartWindow(RecentFiles &recentFiles, UserDefaults &defaults);
 
-    /// Shows a message at the bottom until the window is shown anew.
-    void showMessage(const QString &text);
+    /// Shows a message at the bottom until the window is shown anew, with a button that copies the path that
+    /// it is about, if any.
+    void showMessage(const QString &text, const QString &path = QString());
 
 Q_SIGNALS:
     void openRequested();
@@ -51,7 +53,7 @@ private:
     QListWidget *m_list = nullptr;
     QLabel *m_dropArea = nullptr;
     QCheckBox *m_showsOpenDialog = nullptr;
-    QLabel *m_message = nullptr;
+    MessageLine *m_message = nullptr;
 };
 
 } // namespace vantrell

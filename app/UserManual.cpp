@@ -38,9 +38,10 @@ Result<void> open(const QString &sharedLibrary, const QString &programFolder)
                                                    "The user manual is not installed: there is no file “%1”")
                            .arg(pagesPath(programFolder))};
     if (!Workspace::openFile(path))
-        return Failure{
-            QCoreApplication::translate("UserManual", "There is no program that could show the manual “%1”")
-                .arg(path)};
+        return Failure{QCoreApplication::translate("UserManual",
+                                                   "There is no program that could show the manual. Open the "
+                                                   "file “%1” in a web browser")
+                           .arg(path)};
     return {};
 }
 

@@ -1407,6 +1407,18 @@
         <source>The web engine made no pages of the report.</source>
         <translation>Die Web-Engine hat keine Seiten des Berichts erzeugt.</translation>
     </message>
+    <message>
+        <source>The property list nests more than %1 levels.</source>
+        <translation>Die Eigenschaftsliste ist mehr als %1 Ebenen tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>One of the effects was removed from the project.</source>
+        <translation>Einer der Effekte wurde aus dem Projekt entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 of the effects were removed from the project.</source>
+        <translation>%1 der Effekte wurden aus dem Projekt entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>
@@ -1417,6 +1429,25 @@
     <message>
         <source>The package “vantrell-print” does not fit this program: %1</source>
         <translation>Das Paket „vantrell-print“ passt nicht zu diesem Programm: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>„%1“ gibt es schon. Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Der Inhalt der Datei in „%1“ geht verloren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
     </message>
 </context>
 <context>
@@ -1602,8 +1633,8 @@
         <translation>Das Benutzerhandbuch ist nicht installiert: Die Datei „%1“ fehlt</translation>
     </message>
     <message>
-        <source>There is no program that could show the manual “%1”</source>
-        <translation>Es gibt kein Programm, das das Handbuch „%1“ anzeigen könnte</translation>
+        <source>There is no program that could show the manual. Open the file “%1” in a web browser</source>
+        <translation>Es gibt kein Programm, das das Handbuch anzeigen könnte. Öffnen Sie die Datei „%1“ in einem Webbrowser</translation>
     </message>
 </context>
 <context>
@@ -2337,6 +2368,14 @@
         <source>The project stays open as it is. You can save it to another place.</source>
         <translation>Das Projekt bleibt unverändert geöffnet. Sie können es an einem anderen Ort speichern.</translation>
     </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::EffectsPane</name>
@@ -2397,10 +2436,6 @@
         <translation>Nur Effekte anzeigen, deren Name diesen Text enthält</translation>
     </message>
     <message>
-        <source>The Delete key takes rows off this list only, until it is filtered anew. Edit ▸ Remove… removes the effects from the project.</source>
-        <translation>Die Taste Entf nimmt Zeilen nur aus dieser Liste, bis sie neu gefiltert wird. Bearbeiten ▸ Entfernen… entfernt die Effekte aus dem Projekt.</translation>
-    </message>
-    <message>
         <source>Effects</source>
         <translation>Effekte</translation>
     </message>
@@ -2447,6 +2482,22 @@
     <message>
         <source>This project has no effects.</source>
         <translation>Dieses Projekt hat keine Effekte.</translation>
+    </message>
+    <message>
+        <source>Show Hidde&amp;n Effects</source>
+        <translation>Ausgeble&amp;ndete Effekte anzeigen</translation>
+    </message>
+    <message>
+        <source>The Delete key takes rows off this list only; View ▸ Show Hidden Effects lists them again. Edit ▸ Remove… removes the effects from the project.</source>
+        <translation>Die Taste Entf nimmt Zeilen nur aus dieser Liste; Ansicht ▸ Ausgeblendete Effekte anzeigen listet sie wieder auf. Bearbeiten ▸ Entfernen… entfernt die Effekte aus dem Projekt.</translation>
+    </message>
+    <message>
+        <source>List the effects again that the Delete key has taken off the list</source>
+        <translation>Die Effekte wieder auflisten, die die Taste Entf aus der Liste genommen hat</translation>
+    </message>
+    <message>
+        <source>All effects were taken off this list. They are still in the project.</source>
+        <translation>Alle Effekte sind aus dieser Liste genommen. Sie sind noch im Projekt.</translation>
     </message>
 </context>
 <context>
@@ -2682,16 +2733,16 @@
         <translation>CSV für Tabellenkalkulation</translation>
     </message>
     <message>
-        <source>&amp;Format</source>
-        <translation>&amp;Format</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>E&amp;xportieren…</translation>
     </message>
     <message>
         <source>Export</source>
         <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
     </message>
 </context>
 <context>
@@ -3062,6 +3113,10 @@
         <source>&amp;Columns</source>
         <translation>S&amp;palten</translation>
     </message>
+    <message>
+        <source>Show &amp;Hidden Effects</source>
+        <translation>Aus&amp;geblendete Effekte anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3249,6 +3304,12 @@ Sequenz der Übersicht wählen oder der ausgewählten Zeile folgen lassen</trans
     <message>
         <source>⚠ %1</source>
         <translation>⚠ %1</translation>
+    </message>
+    <message>
+        <source>There are no presets yet.
+Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
+        <translation>Es gibt noch keine Vorgaben.
+Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufklappmenü „Vorgabe“ über den Markern.</translation>
     </message>
 </context>
 <context>
@@ -3717,6 +3778,15 @@ Frei auf dem Startvolume: %2 (blau)</translation>
         <source>Unknown Drive</source>
         <translation>Unbekanntes Laufwerk</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>sizes</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The size of the files on show</source>
+        <translation>Die Größe der angezeigten Dateien</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
@@ -3749,6 +3819,13 @@ looked for at %2
         <translation>%1
 gesucht unter %2
 %3</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MessageLine</name>
+    <message>
+        <source>Copy Path</source>
+        <translation>Pfad kopieren</translation>
     </message>
 </context>
 <context>
@@ -4357,26 +4434,6 @@ gesucht unter %2
         <translation>Vorschau</translation>
     </message>
     <message>
-        <source>&amp;Printer</source>
-        <translation>D&amp;rucker</translation>
-    </message>
-    <message>
-        <source>C&amp;opies</source>
-        <translation>E&amp;xemplare</translation>
-    </message>
-    <message>
-        <source>Pa&amp;per</source>
-        <translation>&amp;Papier</translation>
-    </message>
-    <message>
-        <source>Or&amp;ientation</source>
-        <translation>&amp;Ausrichtung</translation>
-    </message>
-    <message>
-        <source>&amp;Margins</source>
-        <translation>Rä&amp;nder</translation>
-    </message>
-    <message>
         <source>&amp;Save…</source>
         <translation>Sp&amp;eichern…</translation>
     </message>
@@ -4387,6 +4444,26 @@ gesucht unter %2
     <message>
         <source>PDF files (*.pdf *.PDF)</source>
         <translation>PDF-Dateien (*.pdf *.PDF)</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>D&amp;rucker:</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>E&amp;xemplare:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>&amp;Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>Rä&amp;nder:</translation>
     </message>
 </context>
 <context>
@@ -4471,6 +4548,10 @@ gesucht unter %2
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Discard All</source>
+        <translation>Alle verwerfen</translation>
     </message>
 </context>
 <context>
@@ -4724,16 +4805,16 @@ gesucht unter %2
         <translation>Farb&amp;bezeichnungen hinter Markernamen</translation>
     </message>
     <message>
-        <source>Report &amp;title</source>
-        <translation>&amp;Titel des Berichts</translation>
-    </message>
-    <message>
-        <source>&amp;Columns</source>
-        <translation>&amp;Spalten</translation>
-    </message>
-    <message>
         <source>Columns of the report</source>
         <translation>Spalten des Berichts</translation>
+    </message>
+    <message>
+        <source>Report &amp;title:</source>
+        <translation>&amp;Titel des Berichts:</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Spalten:</translation>
     </message>
 </context>
 <context>

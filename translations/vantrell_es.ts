@@ -1407,6 +1407,18 @@
         <source>The web engine made no pages of the report.</source>
         <translation>El motor web no produjo ninguna página del informe.</translation>
     </message>
+    <message>
+        <source>The property list nests more than %1 levels.</source>
+        <translation>La lista de propiedades tiene más de %1 niveles.</translation>
+    </message>
+    <message>
+        <source>One of the effects was removed from the project.</source>
+        <translation>Uno de los efectos se quitó del proyecto.</translation>
+    </message>
+    <message>
+        <source>%1 of the effects were removed from the project.</source>
+        <translation>%1 de los efectos se quitaron del proyecto.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>
@@ -1417,6 +1429,25 @@
     <message>
         <source>The package “vantrell-print” does not fit this program: %1</source>
         <translation>El paquete «vantrell-print» no es compatible con este programa: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Se perderá el contenido del archivo en «%1».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
     </message>
 </context>
 <context>
@@ -1602,8 +1633,8 @@
         <translation>El manual de usuario no está instalado: no existe el archivo «%1»</translation>
     </message>
     <message>
-        <source>There is no program that could show the manual “%1”</source>
-        <translation>No hay ningún programa que pueda mostrar el manual «%1»</translation>
+        <source>There is no program that could show the manual. Open the file “%1” in a web browser</source>
+        <translation>No hay ningún programa que pueda mostrar el manual. Abra el archivo «%1» en un navegador web</translation>
     </message>
 </context>
 <context>
@@ -2337,6 +2368,14 @@
         <source>The project stays open as it is. You can save it to another place.</source>
         <translation>El proyecto sigue abierto como está. Puede guardarlo en otro lugar.</translation>
     </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rehecho: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::EffectsPane</name>
@@ -2397,10 +2436,6 @@
         <translation>Mostrar solo los efectos cuyo nombre contiene este texto</translation>
     </message>
     <message>
-        <source>The Delete key takes rows off this list only, until it is filtered anew. Edit ▸ Remove… removes the effects from the project.</source>
-        <translation>La tecla Supr solo retira filas de esta lista, hasta que se vuelva a filtrar. Editar ▸ Quitar… elimina los efectos del proyecto.</translation>
-    </message>
-    <message>
         <source>Effects</source>
         <translation>Efectos</translation>
     </message>
@@ -2447,6 +2482,22 @@
     <message>
         <source>This project has no effects.</source>
         <translation>Este proyecto no tiene efectos.</translation>
+    </message>
+    <message>
+        <source>Show Hidde&amp;n Effects</source>
+        <translation>Mostrar efectos &amp;ocultos</translation>
+    </message>
+    <message>
+        <source>The Delete key takes rows off this list only; View ▸ Show Hidden Effects lists them again. Edit ▸ Remove… removes the effects from the project.</source>
+        <translation>La tecla Supr solo retira filas de esta lista; Ver ▸ Mostrar efectos ocultos las vuelve a listar. Editar ▸ Quitar… elimina los efectos del proyecto.</translation>
+    </message>
+    <message>
+        <source>List the effects again that the Delete key has taken off the list</source>
+        <translation>Volver a listar los efectos que la tecla Supr retiró de la lista</translation>
+    </message>
+    <message>
+        <source>All effects were taken off this list. They are still in the project.</source>
+        <translation>Todos los efectos se retiraron de esta lista. Siguen en el proyecto.</translation>
     </message>
 </context>
 <context>
@@ -2682,16 +2733,16 @@
         <translation>CSV para hojas de cálculo</translation>
     </message>
     <message>
-        <source>&amp;Format</source>
-        <translation>&amp;Formato</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exportar…</translation>
     </message>
     <message>
         <source>Export</source>
         <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
     </message>
 </context>
 <context>
@@ -3062,6 +3113,10 @@
         <source>&amp;Columns</source>
         <translation>Co&amp;lumnas</translation>
     </message>
+    <message>
+        <source>Show &amp;Hidden Effects</source>
+        <translation>Mo&amp;strar efectos ocultos</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3249,6 +3304,12 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
     <message>
         <source>⚠ %1</source>
         <translation>⚠ %1</translation>
+    </message>
+    <message>
+        <source>There are no presets yet.
+Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
+        <translation>Todavía no hay preajustes.
+Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú «Preajuste» sobre los marcadores.</translation>
     </message>
 </context>
 <context>
@@ -3717,6 +3778,15 @@ Libre en el volumen de arranque: %2 (azul)</translation>
         <source>Unknown Drive</source>
         <translation>Unidad desconocida</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>sizes</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>The size of the files on show</source>
+        <translation>El tamaño de los archivos mostrados</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
@@ -3749,6 +3819,13 @@ looked for at %2
         <translation>%1
 buscado en %2
 %3</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MessageLine</name>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copiar ruta</translation>
     </message>
 </context>
 <context>
@@ -4357,26 +4434,6 @@ buscado en %2
         <translation>Vista previa</translation>
     </message>
     <message>
-        <source>&amp;Printer</source>
-        <translation>Impre&amp;sora</translation>
-    </message>
-    <message>
-        <source>C&amp;opies</source>
-        <translation>C&amp;opias</translation>
-    </message>
-    <message>
-        <source>Pa&amp;per</source>
-        <translation>Pa&amp;pel</translation>
-    </message>
-    <message>
-        <source>Or&amp;ientation</source>
-        <translation>O&amp;rientación</translation>
-    </message>
-    <message>
-        <source>&amp;Margins</source>
-        <translation>&amp;Márgenes</translation>
-    </message>
-    <message>
         <source>&amp;Save…</source>
         <translation>&amp;Guardar…</translation>
     </message>
@@ -4387,6 +4444,26 @@ buscado en %2
     <message>
         <source>PDF files (*.pdf *.PDF)</source>
         <translation>Archivos PDF (*.pdf *.PDF)</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>Impre&amp;sora:</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>C&amp;opias:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>Pa&amp;pel:</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>O&amp;rientación:</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>&amp;Márgenes:</translation>
     </message>
 </context>
 <context>
@@ -4471,6 +4548,10 @@ buscado en %2
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Discard All</source>
+        <translation>Descartar todo</translation>
     </message>
 </context>
 <context>
@@ -4724,16 +4805,16 @@ buscado en %2
         <translation>Etiquetas de co&amp;lor tras los nombres de los marcadores</translation>
     </message>
     <message>
-        <source>Report &amp;title</source>
-        <translation>&amp;Título del informe</translation>
-    </message>
-    <message>
-        <source>&amp;Columns</source>
-        <translation>Col&amp;umnas</translation>
-    </message>
-    <message>
         <source>Columns of the report</source>
         <translation>Columnas del informe</translation>
+    </message>
+    <message>
+        <source>Report &amp;title:</source>
+        <translation>&amp;Título del informe:</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>Col&amp;umnas:</translation>
     </message>
 </context>
 <context>

@@ -1407,6 +1407,18 @@
         <source>The web engine made no pages of the report.</source>
         <translation>Le moteur web n’a produit aucune page du rapport.</translation>
     </message>
+    <message>
+        <source>The property list nests more than %1 levels.</source>
+        <translation>La liste de propriétés est imbriquée sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
+        <source>One of the effects was removed from the project.</source>
+        <translation>L’un des effets a été supprimé du projet.</translation>
+    </message>
+    <message>
+        <source>%1 of the effects were removed from the project.</source>
+        <translation>%1 des effets ont été supprimés du projet.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>
@@ -1417,6 +1429,25 @@
     <message>
         <source>The package “vantrell-print” does not fit this program: %1</source>
         <translation>Le paquet «&#xa0;vantrell-print&#xa0;» ne convient pas à ce programme&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>What the file in “%1” contains will be lost.</source>
+        <translation>Le contenu du fichier dans «&#xa0;%1&#xa0;» sera perdu.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
     </message>
 </context>
 <context>
@@ -1602,8 +1633,8 @@
         <translation>Le manuel de l’utilisateur n’est pas installé&#xa0;: le fichier «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
-        <source>There is no program that could show the manual “%1”</source>
-        <translation>Aucun programme ne peut afficher le manuel «&#xa0;%1&#xa0;»</translation>
+        <source>There is no program that could show the manual. Open the file “%1” in a web browser</source>
+        <translation>Aucun programme ne peut afficher le manuel. Ouvrez le fichier «&#xa0;%1&#xa0;» dans un navigateur web</translation>
     </message>
 </context>
 <context>
@@ -2337,6 +2368,14 @@
         <source>The project stays open as it is. You can save it to another place.</source>
         <translation>Le projet reste ouvert tel quel. Vous pouvez l’enregistrer à un autre emplacement.</translation>
     </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::EffectsPane</name>
@@ -2397,10 +2436,6 @@
         <translation>N’afficher que les effets dont le nom contient ce texte</translation>
     </message>
     <message>
-        <source>The Delete key takes rows off this list only, until it is filtered anew. Edit ▸ Remove… removes the effects from the project.</source>
-        <translation>La touche Suppr ne retire des lignes que de cette liste, jusqu’au prochain filtrage. Édition ▸ Supprimer… supprime les effets du projet.</translation>
-    </message>
-    <message>
         <source>Effects</source>
         <translation>Effets</translation>
     </message>
@@ -2447,6 +2482,22 @@
     <message>
         <source>This project has no effects.</source>
         <translation>Ce projet n’a pas d’effets.</translation>
+    </message>
+    <message>
+        <source>Show Hidde&amp;n Effects</source>
+        <translation>Afficher les effets mas&amp;qués</translation>
+    </message>
+    <message>
+        <source>The Delete key takes rows off this list only; View ▸ Show Hidden Effects lists them again. Edit ▸ Remove… removes the effects from the project.</source>
+        <translation>La touche Suppr ne retire des lignes que de cette liste&#xa0;; Affichage ▸ Afficher les effets masqués les liste à nouveau. Édition ▸ Supprimer… supprime les effets du projet.</translation>
+    </message>
+    <message>
+        <source>List the effects again that the Delete key has taken off the list</source>
+        <translation>Lister à nouveau les effets que la touche Suppr a retirés de la liste</translation>
+    </message>
+    <message>
+        <source>All effects were taken off this list. They are still in the project.</source>
+        <translation>Tous les effets ont été retirés de cette liste. Ils restent dans le projet.</translation>
     </message>
 </context>
 <context>
@@ -2682,16 +2733,16 @@
         <translation>CSV pour tableurs</translation>
     </message>
     <message>
-        <source>&amp;Format</source>
-        <translation>&amp;Format</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>Export</source>
         <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -3062,6 +3113,10 @@
         <source>&amp;Columns</source>
         <translation>&amp;Colonnes</translation>
     </message>
+    <message>
+        <source>Show &amp;Hidden Effects</source>
+        <translation>&amp;Afficher les effets masqués</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -3249,6 +3304,12 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
     <message>
         <source>⚠ %1</source>
         <translation>⚠ %1</translation>
+    </message>
+    <message>
+        <source>There are no presets yet.
+Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
+        <translation>Il n’y a pas encore de préréglages.
+Édition ▸ Créer un préréglage de marqueur… en crée un, tout comme «&#xa0;%1&#xa0;» dans la liste «&#xa0;Préréglage&#xa0;» au-dessus des marqueurs.</translation>
     </message>
 </context>
 <context>
@@ -3717,6 +3778,15 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
         <source>Unknown Drive</source>
         <translation>Disque inconnu</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>sizes</comment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>The size of the files on show</source>
+        <translation>La taille des fichiers affichés</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaTableModel</name>
@@ -3749,6 +3819,13 @@ looked for at %2
         <translation>%1
 cherché dans %2
 %3</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::MessageLine</name>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copier le chemin</translation>
     </message>
 </context>
 <context>
@@ -4357,26 +4434,6 @@ cherché dans %2
         <translation>Aperçu</translation>
     </message>
     <message>
-        <source>&amp;Printer</source>
-        <translation>Im&amp;primante</translation>
-    </message>
-    <message>
-        <source>C&amp;opies</source>
-        <translation>C&amp;opies</translation>
-    </message>
-    <message>
-        <source>Pa&amp;per</source>
-        <translation>P&amp;apier</translation>
-    </message>
-    <message>
-        <source>Or&amp;ientation</source>
-        <translation>Or&amp;ientation</translation>
-    </message>
-    <message>
-        <source>&amp;Margins</source>
-        <translation>&amp;Marges</translation>
-    </message>
-    <message>
         <source>&amp;Save…</source>
         <translation>&amp;Enregistrer…</translation>
     </message>
@@ -4387,6 +4444,26 @@ cherché dans %2
     <message>
         <source>PDF files (*.pdf *.PDF)</source>
         <translation>Fichiers PDF (*.pdf *.PDF)</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>Im&amp;primante&#xa0;:</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>C&amp;opies&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>P&amp;apier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>Or&amp;ientation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>&amp;Marges&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4471,6 +4548,10 @@ cherché dans %2
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Discard All</source>
+        <translation>Tout abandonner</translation>
     </message>
 </context>
 <context>
@@ -4724,16 +4805,16 @@ cherché dans %2
         <translation>&amp;Libellés de couleur après les noms de marqueurs</translation>
     </message>
     <message>
-        <source>Report &amp;title</source>
-        <translation>&amp;Titre du rapport</translation>
-    </message>
-    <message>
-        <source>&amp;Columns</source>
-        <translation>&amp;Colonnes</translation>
-    </message>
-    <message>
         <source>Columns of the report</source>
         <translation>Colonnes du rapport</translation>
+    </message>
+    <message>
+        <source>Report &amp;title:</source>
+        <translation>&amp;Titre du rapport&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Colonnes&#xa0;:</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/OwnersNotice.h"
 #include "document/widgets/ProgressSheet.h"
+#include "document/widgets/UnseenRows.h"
 #include "effects/widgets/EffectsPane.h"
 #include "interchange/widgets/MarkerListImport.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
@@ -58,6 +59,7 @@ const QString geometryKey = QStringLiteral("documentWindowPlace");
 const QString journalKey = QStringLiteral("journal");
 
 constexpr int redrawMs = 50;
+constexpr QSize smallestSize(680, 460);
 
 struct ToolBarItem {
     QString identifier;
@@ -109,7 +111,7 @@ DocumentWindow::DocumentWindow(UserDefaults &defaults)
     });
     connect(&m_work, &WindowWork::ended, this, &DocumentWindow::workEnded);
     connect(&m_defaults, &UserDefaults::changed, this, &DocumentWindow::applyDefaultsChange);
-    setMinimumSize(QSize(680, 460).boundedTo(screen()->availableSize()));
+    setMinimumSize(smallestSize.boundedTo(screen()->availableSize()));
     if (!restoreGeometry(m_defaults.value(geometryKey).toByteArray()))
         resize(QSize(1180, 720).boundedTo(screen()->availableSize() * 0.9));
 }
@@ -238,6 +240,7 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
         m_content->addWidget(pane);
         pane->setWhenIdle([this](std::function<void()> answer) { whenIdle(std::move(answer)); });
     }
+    fitMinimumWidth();
     const auto journal = std::make_shared<DocumentJournal>(JournalFolder::standard());
     if (m_restorable)
         journal->setRestorable(*std::exchange(m_restorable, std::nullopt));
@@ -251,6 +254,13 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     setWindowModified(false);
     updateEditing();
     setFile(path, typeName);
+}
+
+/// The controls of the panes are longer in some languages and fonts.
+void DocumentWindow::fitMinimumWidth()
+{
+    const int needed = std::max(smallestSize.width(), m_content->minimumSizeHint().width());
+    setMinimumWidth(std::min(needed, screen()->availableSize().width()));
 }
 
 void DocumentWindow::connectSession()
@@ -842,6 +852,17 @@ QString DocumentWindow::fileTitle() const
     return FileUtilities::deletingPathExtension(QFileInfo(m_path).fileName());
 }
 
+void DocumentWindow::showHiddenEffects()
+{
+    static_cast<EffectsPane &>(pane(Tab::Effects)).showHiddenEffects();
+}
+
+bool DocumentWindow::hidesEffects() const
+{
+    return m_workbench && selectedTab() == Tab::Effects &&
+           static_cast<EffectsPane &>(pane(Tab::Effects)).hidesEffects();
+}
+
 void DocumentWindow::undo()
 {
     if (auto *const field = qobject_cast<QLineEdit *>(focusWidget()))
@@ -871,7 +892,16 @@ bool DocumentWindow::mayUndoRevert() const
 void DocumentWindow::restore(bool (MyDocument::*step)())
 {
     commitEditing();
-    (m_workbench->document().*step)();
+    MyDocument &document = m_workbench->document();
+    const EditHistory &history = document.history();
+    const bool isUndo = step == &MyDocument::undo;
+    if (isUndo ? !history.canUndo() : !history.canRedo())
+        return;
+    const EditStep &next = isUndo ? history.toUndo() : history.toRedo();
+    const QString name = shownEdit(next.name);
+    const UnseenRows unseen(document, next);
+    if ((document.*step)() && unseen.remain(document))
+        pane(unseen.tab()).showMessage((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(name));
 }
 
 void DocumentWindow::copySelection()

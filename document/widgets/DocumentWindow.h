@@ -189,6 +189,10 @@ public Q_SLOTS:
     /// Shows or hides the overview above the marker table, in all windows.
     void showMarkerOverview(bool isShown);
     bool showsMarkerOverview() const;
+    /// Lists the effects again that the Delete key has taken off the list.
+    void showHiddenEffects();
+    /// Whether there are such effects; false on the other tabs, which list them again.
+    bool hidesEffects() const;
     void verifyMediaListAt(const QString &path) { m_media.verifyListAt(path); }
     /// Asks for lists of notes and shows what each of them would add; markersImported() reports what was.
     void importNotes() { m_notes.runOpenPanel(); }
@@ -332,6 +336,7 @@ private:
     void makeContent();
     QWidget *makeFailurePage();
     void startSession(const QString &path, const QString &typeName);
+    void fitMinimumWidth();
     void connectSession();
     void leaveSession();
     void endSession();

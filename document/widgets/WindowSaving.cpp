@@ -284,6 +284,9 @@ void WindowSaving::settleChanges(Settling settling)
         changesEnded(true);
     } else if (settling == Settling::Ask) {
         askBeforeClosing();
+    } else if (settling == Settling::Discard) {
+        m_givenUp = document->marks().state();
+        changesEnded(true);
     } else {
         m_state.saveForClosing();
         if (!m_state.isSending())

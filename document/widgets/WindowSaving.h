@@ -25,8 +25,8 @@ public:
     {
     }
 
-    /// How changes are settled: the user is asked, or they are saved.
-    enum class Settling { Ask, Save };
+    /// How changes are settled: the user is asked, or they are saved, or given up.
+    enum class Settling { Ask, Save, Discard };
 
     /// Passes whether a file is open in another window to `found`: at once, or on the main thread when the
     /// disk has answered. With `thisToo` the window itself counts as well.

@@ -17,6 +17,10 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
 namespace vantrell
 {
 
@@ -25,6 +29,7 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_types(new QComboBox(this))
     , m_showDefaults(new QCheckBox(tr("Show &defaults"), this))
     , m_remove(new QPushButton(tr("&Remove…"), this))
+    , m_showHidden(new QPushButton(tr("Show Hidde&n Effects"), this))
 {
     m_types->addItems({tr("All Effects"), tr("Filters"), tr("Video Filters"), tr("Audio Filters"),
                        tr("Generators"), tr("Transitions")});
@@ -39,16 +44,23 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     field.setToolTip(tr("Show only effects whose name contains this text"));
     footer().addWidget(makeLabel(Label::EffectStatus, this));
     auto *const deleteKey =
-        new QLabel(tr("The Delete key takes rows off this list only, until it is filtered "
-                      "anew. Edit ▸ Remove… removes the effects from the project."),
+        new QLabel(tr("The Delete key takes rows off this list only; View ▸ Show Hidden Effects "
+                      "lists them again. Edit ▸ Remove… removes the effects from the project."),
                    this);
     deleteKey->setWordWrap(true);
     deleteKey->setForegroundRole(QPalette::PlaceholderText);
-    footer().addWidget(deleteKey);
+    m_showHidden->setToolTip(tr("List the effects again that the Delete key has taken off the list"));
+    m_showHidden->hide();
+    auto *const line = new QHBoxLayout;
+    line->addWidget(deleteKey, 1);
+    line->addWidget(m_showHidden, 0, Qt::AlignTop);
+    footer().addLayout(line);
 
     connect(m_types, &QComboBox::activated, this, &EffectsPane::applyFilters);
     connect(m_showDefaults, &QCheckBox::toggled, this, &EffectsPane::applyFilters);
     connect(m_remove, &QPushButton::clicked, this, &EffectsPane::removeEffects);
+    connect(m_showHidden, &QPushButton::clicked, this, &EffectsPane::showHiddenEffects);
+    connect(&model().view(), &RowView::didReload, this, &EffectsPane::noteReload);
     connect(this, &TabPane::selectionChanged, this,
             [this] { this->workbench().effectInventory().updateEffectStatusText(); });
 
@@ -65,12 +77,7 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         const bool isDelete = event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
         if (!isDelete || !table().selectionModel()->hasSelection())
             return false;
-        const auto count = qsizetype(selectedRows().size());
-        this->workbench().effectEditor().hideSelectedEffects();
-        showMessage(
-            count == 1
-                ? tr("1 effect left the list, but is still in the project")
-                : tr("%1 effects left the list, but are still in the project").arg(locale().toString(count)));
+        hideSelectedEffects();
         return true;
     });
     auto *menu = new QMenu(this);
@@ -88,11 +95,63 @@ void EffectsPane::applyFilters()
     const bool isSearch = state.effectSearch != searchBar().text();
     state.effectSearch = searchBar().text();
     if (state.selectedTab != Tab::Effects)
-        return; // showing the tab applies them
+        return;     // showing the tab applies them
+    keepHidden({}); // the list is made anew
     if (isSearch)
         workbench().effectInventory().effectSearchAction();
     else
         workbench().effectInventory().changeEffectFilter();
+}
+
+void EffectsPane::hideSelectedEffects()
+{
+    RowList hidden = m_hidden;
+    const std::vector<std::size_t> rows = selectedRows();
+    for (const std::size_t row : rows)
+        hidden.push_back(model().recordAt(int(row)));
+    m_generation = model().view().generation();
+    keepHidden(std::move(hidden)); // first: an empty table tells of them
+    workbench().effectEditor().hideSelectedEffects();
+    const auto count = qsizetype(rows.size());
+    showMessage(
+        count == 1
+            ? tr("1 effect left the list, but is still in the project")
+            : tr("%1 effects left the list, but are still in the project").arg(locale().toString(count)));
+}
+
+/// Those of an earlier list no longer count.
+bool EffectsPane::hidesEffects() const
+{
+    return !m_hidden.empty() && m_generation == model().view().generation();
+}
+
+void EffectsPane::showHiddenEffects()
+{
+    if (!hidesEffects())
+        return;
+    table().setFocus(Qt::OtherFocusReason); // the button goes
+    applyFilters();
+    setMessage(QString());
+}
+
+/// All hidden effects come back together, whatever rebuilds the rows.
+void EffectsPane::noteReload()
+{
+    if (m_hidden.empty())
+        return;
+    const RowView &view = model().view();
+    const std::unordered_set<RowRecordPtr> hidden(m_hidden.begin(), m_hidden.end());
+    const RowList &rows = view.visibleRows();
+    const bool isBack =
+        std::any_of(rows.begin(), rows.end(), [&](const RowRecordPtr &row) { return hidden.contains(row); });
+    if (isBack || !hidesEffects())
+        keepHidden({});
+}
+
+void EffectsPane::keepHidden(RowList hidden)
+{
+    m_hidden = std::move(hidden);
+    m_showHidden->setVisible(hidesEffects());
 }
 
 void EffectsPane::removeEffects()
@@ -135,6 +194,8 @@ QString EffectsPane::loadingText(std::size_t found) const
 
 QString EffectsPane::filteredText() const
 {
+    if (hidesEffects())
+        return tr("All effects were taken off this list. They are still in the project.");
     return searchBar().text().isEmpty()
                ? tr("No effect is of this type.")
                : tr("No effect of this type has a name with “%1”.").arg(searchBar().text());

@@ -3,6 +3,8 @@
 #include "table/widgets/TabPane.h"
 #include "table/widgets/TableModel.h"
 
+#include <cstdint>
+
 class QCheckBox;
 class QComboBox;
 
@@ -19,7 +21,12 @@ public:
 
     void setEditingEnabled(bool enabled) override;
 
+    /// Whether the Delete key has taken effects off the list that its filters leave.
+    bool hidesEffects() const;
+
 public Q_SLOTS:
+    /// Makes the list anew, so that they are back.
+    void showHiddenEffects();
     /// Removes the selected effects after a question.
     void removeEffects();
 
@@ -34,10 +41,16 @@ protected:
 
 private:
     void applyFilters();
+    void hideSelectedEffects();
+    void noteReload();
+    void keepHidden(RowList hidden);
 
     QComboBox *m_types;
     QCheckBox *m_showDefaults;
     QPushButton *m_remove;
+    QPushButton *m_showHidden;
+    RowList m_hidden;
+    std::uint64_t m_generation = 0; ///< of the list that they belong to
 };
 
 /// The table of the effects.

@@ -36,14 +36,19 @@ QString allowedText(QStringView text)
                           : XmlText::fromUtf8(XmlText::toUtf8(text.toString()).toStdString());
 }
 
-/// The comment of the marker's record once it is written.
-QString commentAsRead(const QString &comment)
+/// The comment without the tags of flags and custom fields, of which a record's comment may keep some.
+QString withoutTags(QString comment)
 {
-    if (!comment.contains(QLatin1Char('<')))
-        return comment;
-    RowRecord record;
-    MarkerComment::read(comment, record);
-    return record.get(MarkerKey::comment);
+    constexpr int mostTags = 200; // each costs a copy
+    for (int i = 0; i < mostTags && comment.contains(QLatin1Char('<')); ++i) {
+        RowRecord record;
+        MarkerComment::read(comment, record);
+        const QString rest = record.get(MarkerKey::comment);
+        if (rest.size() == comment.size())
+            break;
+        comment = rest;
+    }
+    return comment;
 }
 
 /// Whether the type is that of a chapter in the language of the system that wrote the list.
@@ -334,12 +339,11 @@ private:
             if (std::find(m_fieldColumns.begin(), m_fieldColumns.end(), column) != m_fieldColumns.end())
                 note.fields.emplace_back(m_list.columns[column].title, allowedText(value));
         }
-        const QString comment = commentAsRead(note.comment);
         if (!m_converter.isInside(note.in)) {
             note.state = PlannedNote::State::Outside;
         } else {
-            note.state = m_matches.add(note.in, note.name, comment) ? PlannedNote::State::Add
-                                                                    : PlannedNote::State::There;
+            note.state = m_matches.add(note.in, note.name, note.comment) ? PlannedNote::State::Add
+                                                                         : PlannedNote::State::There;
         }
         return note;
     }
@@ -362,7 +366,7 @@ private:
 bool NoteMatches::add(qint64 in, const QString &name, const QString &comment)
 {
     const qsizetype before = m_keys.size();
-    m_keys.insert(matchKey(in, name, comment));
+    m_keys.insert(matchKey(in, name, withoutTags(comment)));
     return m_keys.size() > before;
 }
 

@@ -21,6 +21,11 @@ MarkerPresetsSheet::MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent)
     : QDialog(parent, Qt::Sheet)
     , m_presets(presets)
     , m_list(new QListWidget(this))
+    , m_hint(new QLabel(
+          tr("There are no presets yet.\nEdit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up "
+             "“Preset” above the markers.")
+              .arg(shownValue(QStringLiteral("Create preset..."))),
+          m_list->viewport()))
     , m_failure(new QLabel(this))
     , m_rename(new QPushButton(tr("&Rename"), this))
     , m_delete(new QPushButton(tr("D&elete…"), this))
@@ -34,6 +39,12 @@ MarkerPresetsSheet::MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent)
     m_list->setSpacing(2);
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setMinimumSize(fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 10);
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    auto *const empty = new QVBoxLayout(m_list->viewport());
+    empty->addWidget(m_hint);
     m_failure->setTextFormat(Qt::PlainText);
     m_failure->setWordWrap(true);
     m_failure->hide();
@@ -133,6 +144,7 @@ void MarkerPresetsSheet::tell(const QString &failure)
 void MarkerPresetsSheet::updateButtons()
 {
     const bool isChosen = m_list->currentRow() >= 0;
+    m_hint->setVisible(m_names.isEmpty());
     m_rename->setEnabled(isChosen);
     m_delete->setEnabled(isChosen);
 }

@@ -30,6 +30,7 @@ private:
 
     MarkerPresets &m_presets;
     QListWidget *m_list;
+    QLabel *m_hint; ///< while there are no presets
     QLabel *m_failure;
     QPushButton *m_rename;
     QPushButton *m_delete;

@@ -17,7 +17,7 @@
 #include "markers/widgets/OverviewPopUp.h"
 #include "support/files/FolderWatcher.h"
 #include "support/settings/UserDefaults.h"
-#include "support/widgets/SelectableLabel.h"
+#include "support/widgets/WrappedLabel.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
@@ -66,7 +66,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     , m_markerPresetPopUp(new MarkerPresetPopUp(this))
     , m_fields(new QPushButton(tr("Fie&lds…"), this))
     , m_ownOwners(new QCheckBox(tr("Own se&quence and clip"), this))
-    , m_status(new QLabel(this))
+    , m_status(new WrappedLabel(this))
     , m_overview(new MarkerOverviewPanel(*this, workbench.document()))
 {
     m_filter->addItem(tr("All Colors"));
@@ -102,9 +102,6 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     line->addWidget(m_status, 1);
     line->addWidget(m_ownOwners);
     footer().addLayout(line);
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
-    makeSelectable(*m_status);
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         table().commitEditing();
@@ -545,7 +542,7 @@ void MarkersPane::updateControls()
     QString text = count == 1 ? tr("1 marker") : tr("%1 markers").arg(locale.toString(count));
     if (selected > 0)
         text = tr("%1 (%2 selected)").arg(text, locale.toString(qulonglong(selected)));
-    m_status->setText(m_message.isEmpty() ? text : tr("%1. %2.").arg(text, m_message));
+    m_status->setWhole(m_message.isEmpty() ? text : tr("%1. %2.").arg(text, m_message));
 }
 
 QString MarkersPane::loadingText(std::size_t found) const

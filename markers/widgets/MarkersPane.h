@@ -18,6 +18,7 @@ namespace vantrell
 class MarkerOverviewPanel;
 class MarkerPresetPopUp;
 class MarkerTableModel;
+class WrappedLabel;
 
 /// The markers of the project, where they are edited.
 class MarkersPane : public TabPane
@@ -101,7 +102,7 @@ private:
     MarkerPresetPopUp *m_markerPresetPopUp;
     QPushButton *m_fields;
     QCheckBox *m_ownOwners;
-    QLabel *m_status;
+    WrappedLabel *m_status;
     MarkerOverviewPanel *m_overview;
     QString m_message;
     QPointer<QDialog> m_presetSheet;

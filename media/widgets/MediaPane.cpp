@@ -139,13 +139,24 @@ QString MediaPane::countText(const QString &number, std::size_t count) const
     return count == 1 ? tr("%1 file").arg(number) : tr("%1 files").arg(number);
 }
 
-/// Of those that are there.
+/// Of those that are there; beside the size of the rows on show that of all files.
 QString MediaPane::totalText(const RowList &rows) const
 {
-    double bytes = 0;
-    for (const RowRecordPtr &row : rows)
-        bytes += double(std::uint64_t(row->get(MediaKey::filesize)));
-    return bytes > 0 ? MediaFile::formatFileSize(bytes) : QString();
+    const auto sizeOf = [](const RowList &files) {
+        double bytes = 0;
+        for (const RowRecordPtr &file : files)
+            bytes += double(std::uint64_t(file->get(MediaKey::filesize)));
+        return bytes;
+    };
+    const RowView &view = model().view();
+    const double bytes = sizeOf(rows);
+    const QString size = bytes > 0 ? MediaFile::formatFileSize(bytes) : QString();
+    if (&rows != &view.visibleRows() || rows.size() == view.list().size())
+        return size;
+    const double all = sizeOf(view.list());
+    return all > 0
+               ? tr("%1 of %2", "sizes").arg(MediaFile::formatFileSize(bytes), MediaFile::formatFileSize(all))
+               : size;
 }
 
 void MediaPane::makeFooter()
@@ -155,6 +166,7 @@ void MediaPane::makeFooter()
          {Label::MediaTotalSize, Label::MediaTotalFiles, Label::MediaFilteredTotalSize,
           Label::MediaFilteredTotalFiles, Label::MediaLargestFile, Label::MediaSmallestFile})
         labels.push_back(makeLabel(label, this));
+    labels.front()->setToolTip(tr("The size of the files on show"));
     m_mediaFooter = new MediaFooter(labels, this);
     footer().addWidget(m_mediaFooter);
     m_shareTimer->setSingleShot(true);

@@ -30,7 +30,7 @@ ExportReportSheet::ExportReportSheet(ReportGenerator &report, UserDefaults &defa
     m_format->addItem(tr("CSV for spreadsheets"), int(ReportFormat::Csv));
 
     auto *const form = new QFormLayout;
-    form->addRow(tr("&Format"), m_format);
+    form->addRow(tr("&Format:"), m_format);
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     if (PrintHelper::find().isEmpty()) {

@@ -98,11 +98,11 @@ QWidget *PrintPanel::makeSettings()
     auto *const settings = new QWidget(this);
     settings->setFixedWidth(settingsWidth);
     auto *const form = new QFormLayout;
-    form->addRow(tr("&Printer"), m_printer);
-    form->addRow(tr("C&opies"), m_copies);
-    form->addRow(tr("Pa&per"), m_paper);
-    form->addRow(tr("Or&ientation"), m_orientation);
-    form->addRow(tr("&Margins"), m_margin);
+    form->addRow(tr("&Printer:"), m_printer);
+    form->addRow(tr("C&opies:"), m_copies);
+    form->addRow(tr("Pa&per:"), m_paper);
+    form->addRow(tr("Or&ientation:"), m_orientation);
+    form->addRow(tr("&Margins:"), m_margin);
     auto *const layout = new QVBoxLayout(settings);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(form);

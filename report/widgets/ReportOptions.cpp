@@ -32,7 +32,7 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     , m_columns(new QListWidget(this))
     , m_titleDelay(new QTimer(this))
 {
-    auto *const titleLabel = new QLabel(tr("Report &title"), this);
+    auto *const titleLabel = new QLabel(tr("Report &title:"), this);
     titleLabel->setBuddy(m_title);
     m_title->setPlaceholderText(fileTitle);
     m_titleDelay->setSingleShot(true);
@@ -47,7 +47,7 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     connect(m_colorLabels, &QCheckBox::clicked, this,
             [this](bool isChecked) { m_defaults.setValue(printColorLabelsKey, isChecked ? 1 : 0); });
 
-    auto *const columnsLabel = new QLabel(tr("&Columns"), this);
+    auto *const columnsLabel = new QLabel(tr("&Columns:"), this);
     columnsLabel->setBuddy(m_columns);
     m_columns->setAccessibleName(tr("Columns of the report"));
     for (const PrintColumn &column : report.printColumnArray()) {

@@ -97,6 +97,7 @@ constexpr const char *messageTexts[] = {
     QT_TRANSLATE_NOOP("Message", "Writing was cancelled."),
     QT_TRANSLATE_NOOP("Message", "unknown error"),
     QT_TRANSLATE_NOOP("Message", "The property list is damaged: %1."),
+    QT_TRANSLATE_NOOP("Message", "The property list nests more than %1 levels."),
     QT_TRANSLATE_NOOP("Message", "The property list could not be written."),
     QT_TRANSLATE_NOOP("Message", "%1 could not be started: %2"),
     QT_TRANSLATE_NOOP("Message", "%1 could not be started: too many open files"),
@@ -158,6 +159,8 @@ constexpr const char *messageTexts[] = {
     QT_TRANSLATE_NOOP("Message", "Would you like to overwrite it?"),
     // Effects
     QT_TRANSLATE_NOOP("Message", "Unable to remove effect"),
+    QT_TRANSLATE_NOOP("Message", "One of the effects was removed from the project."),
+    QT_TRANSLATE_NOOP("Message", "%1 of the effects were removed from the project."),
     QT_TRANSLATE_NOOP("Message", "Are you sure you wish to remove this effect?"),
     QT_TRANSLATE_NOOP("Message", "Are you sure you wish to remove these effects?"),
     QT_TRANSLATE_NOOP("Message", "%1 item"),

@@ -2,16 +2,87 @@
 
 #include "support/widgets/ReplaceQuestion.h"
 
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
 #include <QMimeData>
+#include <QScreen>
+#include <QTreeView>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace vantrell::FilePanel
 {
 
 namespace
 {
+
+/// The list of a panel: the name takes the width that the other columns leave.
+class PanelColumns final : public QObject
+{
+public:
+    PanelColumns(QFileDialog &panel, QTreeView &list, const QFileSystemModel &files)
+        : QObject(&panel)
+        , m_panel(panel)
+        , m_list(list)
+    {
+        m_list.viewport()->installEventFilter(this);
+        QObject::connect(&files, &QFileSystemModel::directoryLoaded, this, [this] { fit(); });
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            giveNameTheRest();
+        else if (event->type() == QEvent::Show)
+            fit();
+        return false;
+    }
+
+private:
+    void fit()
+    {
+        const QHeaderView &header = *m_list.header();
+        for (int column = 1; column < header.count(); ++column) {
+            if (!header.isSectionHidden(column))
+                m_list.resizeColumnToContents(column);
+        }
+        if (m_list.isVisible() && !m_isWidened)
+            widen();
+        giveNameTheRest();
+    }
+    void widen()
+    {
+        constexpr int longestName = 50; // characters of average width
+        m_isWidened = m_list.model()->rowCount(m_list.rootIndex()) > 0;
+        const auto &view = static_cast<const QAbstractItemView &>(m_list);
+        const int name = std::clamp(view.sizeHintForColumn(0), smallestName(),
+                                    m_list.fontMetrics().averageCharWidth() * longestName);
+        const int missing = name + others() - m_list.viewport()->width();
+        const int room = m_panel.screen()->availableGeometry().width() - m_panel.frameGeometry().width();
+        if (missing > 0 && room > 0)
+            m_panel.resize(m_panel.width() + std::min(missing, room), m_panel.height());
+    }
+    void giveNameTheRest()
+    {
+        m_list.header()->resizeSection(0, std::max(smallestName(), m_list.viewport()->width() - others()));
+    }
+    int smallestName() const { return m_list.fontMetrics().averageCharWidth() * 20; }
+    int others() const
+    {
+        int width = 0;
+        for (int column = 1; column < m_list.header()->count(); ++column)
+            width += m_list.header()->sectionSize(column);
+        return width;
+    }
+
+    QFileDialog &m_panel;
+    QTreeView &m_list;
+    bool m_isWidened = false; ///< for the first folder; after that the size is the user's
+};
 
 QFileDialog *makeDialog(const Request &request, QFileDialog::AcceptMode mode,
                         const std::function<void(const QStringList &)> &chosen)
@@ -20,6 +91,7 @@ QFileDialog *makeDialog(const Request &request, QFileDialog::AcceptMode mode,
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setAcceptMode(mode);
+    fitColumns(*dialog);
     if (!request.acceptLabel.isNull())
         dialog->setLabelText(QFileDialog::Accept, request.acceptLabel);
     QObject::connect(dialog, &QDialog::accepted, request.window, [dialog, chosen] {
@@ -80,6 +152,14 @@ void runForSaving(const Request &request, const std::function<void(const QString
     if (cancelled)
         QObject::connect(dialog, &QDialog::rejected, request.window, cancelled);
     dialog->open();
+}
+
+void fitColumns(QFileDialog &panel)
+{
+    auto *const list = panel.findChild<QTreeView *>(QStringLiteral("treeView"));
+    const auto *const files = panel.findChild<QFileSystemModel *>();
+    if (list && files) // there are none in a panel of the platform
+        new PanelColumns(panel, *list, *files);
 }
 
 QStringList localFiles(const QMimeData *data)

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QFileDialog;
 class QMimeData;
 class QWidget;
 
@@ -32,6 +33,11 @@ void runForFolder(const Request &request, const std::function<void(const QString
 /// Lets the user choose where a file is saved.
 void runForSaving(const Request &request, const std::function<void(const QString &path)> &chosen,
                   const std::function<void()> &cancelled = {});
+
+/// Makes the columns of a panel of the program's own as wide as their contents whenever it lists a folder,
+/// and the panel itself when it is shown, as far as the screen allows. Before it is shown; done for the
+/// panels above.
+void fitColumns(QFileDialog &panel);
 
 /// The paths of the local files among what is being dragged.
 QStringList localFiles(const QMimeData *data);

@@ -22,7 +22,7 @@ namespace
 
 // In characters of average width
 constexpr int smallestText = 10;
-constexpr int smallestKey = 18;
+constexpr int smallestKey = 22;
 constexpr int smallestPopUp = 14; // with an icon and an arrow
 constexpr int smallestStretched = 14;
 constexpr int widestFit = 60;

@@ -78,8 +78,20 @@ protected:
     {
         QHeaderView::initStyleOptionForIndex(option, section);
         if (option->textAlignment.testFlag(Qt::AlignRight))
-            option->text += QChar::Nbsp;
+            option->text += gap;
     }
+    QSize sectionSizeFromContents(int section) const override
+    {
+        QSize size = QHeaderView::sectionSizeFromContents(section);
+        const Qt::Alignment alignment(
+            model()->headerData(section, orientation(), Qt::TextAlignmentRole).toInt());
+        if (alignment.testFlag(Qt::AlignRight))
+            size.rwidth() += fontMetrics().horizontalAdvance(gap);
+        return size;
+    }
+
+private:
+    const QString gap{2, QChar::Nbsp};
 };
 
 /// Repaints the row below the mouse, and the one that it has left.

@@ -3,6 +3,7 @@
 #include "support/files/PropertyList.h"
 #include "support/settings/UserDefaults.h"
 #include "support/widgets/ElidedLabel.h"
+#include "support/widgets/MessageLine.h"
 #include "support/widgets/SelectableLabel.h"
 #include "support/widgets/ShownText.h"
 #include "table/widgets/ColumnLayout.h"
@@ -74,7 +75,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_busy(new QProgressBar(this))
     , m_busyText(new QLabel(this))
     , m_busyTimer(new QTimer(this))
-    , m_message(new QLabel(this))
+    , m_message(new MessageLine(this))
     , m_messageTime(new QTimer(this))
     , m_newMessage(new QTimer(this))
 {
@@ -97,10 +98,6 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_busy->hide();
     m_busyText->hide();
     m_busyTimer->setInterval(busyInterval);
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
-    makeSelectable(*m_message);
-    m_message->hide();
     m_messageTime->setSingleShot(true);
     m_messageTime->setInterval(messageMs);
     m_newMessage->setSingleShot(true);
@@ -139,7 +136,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         else
             m_prepareTimer->setInterval(0);
     });
-    connect(m_messageTime, &QTimer::timeout, this, [this] { setMessage(QString()); });
+    connect(m_messageTime, &QTimer::timeout, this, &TabPane::clearMessage);
     connect(&m_workbench.document(), &MyDocument::historyChanged, this, &TabPane::dropMessage);
     const RowView &view = m_model->view();
     connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
@@ -566,24 +563,35 @@ void TabPane::whenIdle(std::function<void()> answer)
 
 void TabPane::showMessage(const QString &text)
 {
+    m_message->setMessage(QString());
     setMessage(shownMessage(text));
     m_messageTime->start();
     m_newMessage->start();
 }
 
+void TabPane::clearMessage()
+{
+    m_messageTime->stop();
+    m_message->setMessage(QString());
+    setMessage(QString());
+}
+
 /// Takes away a message that tells of something earlier.
 void TabPane::dropMessage()
 {
-    if (!m_messageTime->isActive() || m_newMessage->isActive())
-        return;
-    m_messageTime->stop();
-    setMessage(QString());
+    if (m_messageTime->isActive() && !m_newMessage->isActive())
+        clearMessage();
+}
+
+void TabPane::showMessage(const QString &text, const QString &path)
+{
+    showMessage(QString()); // wherever the pane shows it
+    m_message->setMessage(shownMessage(text), path);
 }
 
 void TabPane::setMessage(const QString &text)
 {
-    m_message->setText(text.isEmpty() ? text : text + QLatin1Char('.'));
-    m_message->setVisible(!text.isEmpty());
+    m_message->setMessage(text);
 }
 
 void TabPane::addControls(std::initializer_list<QWidget *> controls)

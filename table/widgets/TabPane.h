@@ -26,6 +26,7 @@ namespace vantrell
 {
 
 class ColumnLayout;
+class MessageLine;
 class QVTableView;
 class SearchBar;
 class TableModel;
@@ -99,6 +100,8 @@ public:
     /// Shows a message below the table for a while: until the next edit of the project or another selection.
     /// What follows in the same call of the event loop belongs to what the message tells of.
     void showMessage(const QString &text);
+    /// The same with a button that copies the path that the message is about.
+    void showMessage(const QString &text, const QString &path);
 
     /// Order and widths of the columns and which are hidden, kept in the user defaults under
     /// "%@ColumnLayout", which decides on the order and the hidden ones in all windows. It is stored with
@@ -193,6 +196,7 @@ private:
     void showHeaderMenu(const QPoint &position);
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
+    void clearMessage();
     void dropMessage();
     void updateBusy();
     void updatePlaceholder();
@@ -216,7 +220,7 @@ private:
     QProgressBar *m_busy;
     QLabel *m_busyText;
     QTimer *m_busyTimer;
-    QLabel *m_message;
+    MessageLine *m_message;
     QTimer *m_messageTime;
     QTimer *m_newMessage; // runs while what is told of may go on
     QHash<Label, QLabel *> m_labels;

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -109,6 +110,22 @@ inline QStringList nameless(const QWidget &part)
                          widget->objectName());
     }
     return found;
+}
+
+/// What is wrong with the keys of a window: those that two items of a menu share, or the titles of the menus
+/// and the pane, and the pane's controls without a name. The pane's table has a menu of its own or null.
+inline QStringList keyFaults(const QMenuBar &bar, const QWidget &pane, const QMenu *tableMenu)
+{
+    QStringList titles;
+    QStringList found;
+    for (const QAction *const action : bar.actions()) {
+        titles.append(action->text());
+        Q_EMIT action->menu()->aboutToShow();
+        found += clashesIn(*action->menu());
+    }
+    if (tableMenu)
+        found += clashesIn(*tableMenu);
+    return found + clashes(titles + textsWithKeys(pane)) + nameless(pane);
 }
 
 inline QDialog *visibleDialog()

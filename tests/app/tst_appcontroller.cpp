@@ -375,6 +375,10 @@ private Q_SLOTS:
         const QString edit = QStringLiteral("edit"); // the project asked about first
         QTest::newRow("cancel") << QStringList{cancel} << false << "";
         QTest::newRow("save all") << QStringList{QStringLiteral("Save All")} << true << "ab";
+        const QString discard = QStringLiteral("Discard All");
+        QTest::newRow("discard all") << QStringList{discard} << true << "";
+        QTest::newRow("return") << QStringList{QStringLiteral("Return")} << true << "ab";
+        QTest::newRow("escape") << QStringList{QStringLiteral("Escape")} << false << "";
         QTest::newRow("review") << QStringList{review, save, lose} << true << "a";
         QTest::newRow("review, then cancel") << QStringList{review, save, cancel} << false << "a";
         QTest::newRow("give up, then cancel") << QStringList{review, lose, cancel} << false << "";
@@ -404,7 +408,11 @@ private Q_SLOTS:
             QTRY_VERIFY(visibleBox());
             for (const auto &window : windows)
                 QVERIFY(window && window->isVisible());
-            if (answer != QStringLiteral("edit"))
+            if (answer == QStringLiteral("Return"))
+                QTest::keyClick(visibleBox(), Qt::Key_Return);
+            else if (answer == QStringLiteral("Escape"))
+                QTest::keyClick(visibleBox(), Qt::Key_Escape);
+            else if (answer != QStringLiteral("edit"))
                 QVERIFY(press(visibleBox(), answer));
             else
                 QVERIFY(editCell(*windows[1], Tab::Markers, 0, QStringLiteral("comment"), answer));

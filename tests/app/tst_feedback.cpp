@@ -11,6 +11,7 @@
 #include "markers/widgets/MarkerOffsetSheet.h"
 #include "markers/widgets/MarkersPane.h"
 #include "support/desktop/Workspace.h"
+#include "support/widgets/WrappedLabel.h"
 #include "table/widgets/QVTableView.h"
 #include "workbench/Workbench.h"
 
@@ -19,6 +20,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -160,6 +162,79 @@ private Q_SLOTS:
         window.findChild<MarkerOffsetSheet *>()->reject();
         window.toolbarEffects();
         QVERIFY(!isEnabled());
+    }
+
+    void aLongPathDoesNotWidenTheWindow_data()
+    {
+        QTest::addColumn<QString>("tab");
+        for (const char *const tab : {"media", "effects", "markers"})
+            QTest::newRow(tab) << QString::fromLatin1(tab);
+    }
+    void aLongPathDoesNotWidenTheWindow()
+    {
+        QFETCH(QString, tab);
+        DocumentWindow &window = open();
+        if (tab == QStringLiteral("effects"))
+            window.toolbarEffects();
+        else if (tab == QStringLiteral("markers"))
+            window.toolbarMarkers();
+        window.resize(640, 480);
+        QTest::qWait(0);
+        const int width = window.width();
+        const QString path = QLatin1Char('/') + QString(300, QLatin1Char('x'));
+        TabPane &pane = window.currentPane();
+        pane.showMessage(QStringLiteral("“%1” is here").arg(path), path);
+        QTest::qWait(0);
+        QCOMPARE(window.width(), width);
+        QVERIFY(window.minimumSizeHint().width() <= width);
+        const auto labels = pane.findChildren<WrappedLabel *>();
+        const auto shown = std::find_if(labels.begin(), labels.end(), [&](const WrappedLabel *label) {
+            return label->isVisible() && label->whole().contains(path);
+        });
+        QVERIFY(shown != labels.end());
+        QVERIFY((*shown)->text().contains(QStringLiteral("…")) && (*shown)->toolTip().contains(path));
+        // Without a path of its own: where the pane shows all other messages.
+        pane.showMessage(QStringLiteral("“%1” is here").arg(path));
+        QTest::qWait(0);
+        QVERIFY(window.width() == width && window.minimumSizeHint().width() <= width);
+    }
+
+    void thePathOfTheManualCanBeCopied()
+    {
+        DocumentWindow &window = open();
+        m_controller->helpUserManual();
+        for (auto *const button : window.currentPane().findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Copy Path") && button->isVisible())
+                button->click();
+        }
+        const QString copied = QGuiApplication::clipboard()->text();
+        QVERIFY2(QFileInfo(copied).isFile() && copied.endsWith(QStringLiteral("index.html")),
+                 qPrintable(copied));
+    }
+
+    void filePanelsShowTheirColumnsWhole()
+    {
+        DocumentWindow &window = open();
+        const QString folder = QFileInfo(window.path()).path();
+        m_home->addFile(QStringLiteral("sample/A rather long name of a list.txt"), QByteArray(123456, 'x'));
+        window.importFCPMarkers();
+        QFileDialog *const panel = visiblePanel();
+        QVERIFY(panel);
+        panel->setDirectory(folder);
+        auto *const list = panel->findChild<QTreeView *>(QStringLiteral("treeView"));
+        QTRY_VERIFY(list->model()->rowCount(list->rootIndex()) > 0);
+        const auto isWhole = [list] {
+            int right = 0;
+            for (int column = 0; column < 4; ++column) {
+                if (list->columnWidth(column) <
+                    static_cast<const QAbstractItemView *>(list)->sizeHintForColumn(column))
+                    return false;
+                right += list->columnWidth(column);
+            }
+            return right <= list->viewport()->width();
+        };
+        QTRY_VERIFY(isWhole());
+        panel->close();
     }
 
     void theStartWindowTellsToo()

@@ -5,6 +5,7 @@
 #include "markers/MarkerKeys.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkersPane.h"
+#include "media/MediaKeys.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
@@ -102,6 +103,14 @@ private Q_SLOTS:
         TabPane &media = m_window->pane(Tab::Media);
         choose(QStringLiteral("State of files"), QStringLiteral("Missing"));
         QCOMPARE(media.model().rowCount(), 11);
+        // Sizes beside the counts: of the files on show, and of all.
+        for (const RowRecordPtr &file : media.model().view().list())
+            file->set(MediaKey::filesize, std::int64_t(1024));
+        choose(QStringLiteral("State of files"), QStringLiteral("Any State"));
+        QTRY_COMPARE(bar().counts(), QStringLiteral("11 files, 11.00 KB"));
+        QTest::keyClicks(&bar().field(), QStringLiteral("HARBOUR M"));
+        QTRY_COMPARE(bar().counts(), QStringLiteral("1 of 11 files, 1.00 KB of 11.00 KB"));
+        bar().clear();
         choose(QStringLiteral("State of files"), QStringLiteral("Unknown Kind"));
         QCOMPARE(media.model().rowCount(), 0);
         // Of the files that are listed each is used: what plays sound only, too.

@@ -39,17 +39,8 @@ private Q_SLOTS:
     {
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
             showTab(tab);
-            QStringList bar;
-            for (const QAction *const action : m_window->menuBar()->actions()) {
-                bar.append(action->text());
-                Q_EMIT action->menu()->aboutToShow();
-                QCOMPARE(clashesIn(*action->menu()), QStringList());
-            }
-            // The pane shares its keys with the menu bar.
-            QCOMPARE(clashes(bar + textsWithKeys(m_window->pane(tab))), QStringList());
-            QCOMPARE(nameless(m_window->pane(tab)), QStringList());
-            if (const QMenu *const menu = table().menu())
-                QCOMPARE(clashesIn(*menu), QStringList());
+            QCOMPARE(keyFaults(*m_window->menuBar(), m_window->pane(tab), table().menu()).join(u'\n'),
+                     QString());
         }
         QCOMPARE(clashes(textsWithKeys(*m_controller->startWindow().centralWidget())), QStringList());
         QCOMPARE(nameless(*m_controller->startWindow().centralWidget()), QStringList());

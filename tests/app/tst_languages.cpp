@@ -16,6 +16,7 @@
 #include "support/widgets/CoreTexts.h"
 #include "support/widgets/ShownText.h"
 #include "table/widgets/QVTableView.h"
+#include "table/widgets/TabPane.h"
 #include "tests/support/TemporaryHome.h"
 #include "workbench/Workbench.h"
 
@@ -99,6 +100,30 @@ public:
 private:
     bool m_isInstalled;
 };
+
+/// The literals of a source that are sentences or name a failure, but for those that are written to the log.
+QStringList sentencesIn(const QString &code)
+{
+    static const QRegularExpression literals(QStringLiteral(
+        R"re((?:\bu|QStringLiteral\(\s*|QLatin1String\(\s*)((?:u?"(?:[^"\\\n]|\\.)*"\s*)+))re"));
+    static const QRegularExpression seams(QStringLiteral(R"re("\s*u?")re"));
+    static const QRegularExpression sentences(
+        QStringLiteral(R"re(^(?:[A-Z“%"][^\n]* [^\n]*[.?]|(?:Unable|Error) [^\n]*)$)re"));
+    QStringList found;
+    for (auto match = literals.globalMatch(code); match.hasNext();) {
+        const QRegularExpressionMatch literal = match.next();
+        const QStringView before = QStringView(code).left(literal.capturedStart()).trimmed();
+        if (before.endsWith(u"Log(") || before.endsWith(u"LogAndPrint(") ||
+            before.endsWith(u"SystemLog::write("))
+            continue;
+        QString text = literal.captured(1).trimmed();
+        text =
+            text.mid(1, text.size() - 2).remove(seams).replace(QStringLiteral("\\\""), QStringLiteral("\""));
+        if (sentences.match(text).hasMatch())
+            found.append(text);
+    }
+    return found;
+}
 
 QString translated(const char *context, const QString &source)
 {
@@ -242,6 +267,47 @@ private Q_SLOTS:
         }
     }
 
+    /// Complete sentences only, and those that name a failure: other texts do not tell what they are for.
+    void sentencesOfTheCoreAreListed()
+    {
+        const auto plain = [](QString text) {
+            static const QRegularExpression places(QStringLiteral("%(?:@|[0-9]|l?[iud])"));
+            return text.replace(places, QStringLiteral("%"));
+        };
+        QSet<QString> listed{
+            // Listed as they are once they are completed
+            QStringLiteral("Are you sure you wish to remove % marker%?"),
+            QStringLiteral("Are you sure you wish to remove % effect%?"),
+            // For the log only
+            QStringLiteral("A property list cannot hold nothing."),
+            QStringLiteral("The file is damaged and cannot be renamed."),
+            QStringLiteral("There is not enough memory to evaluate it."),
+        };
+        for (const auto &texts : {CoreTexts::messages(), CoreTexts::values()}) {
+            for (const char *const source : texts)
+                listed.insert(plain(QString::fromUtf8(source)));
+        }
+        QStringList missing;
+        int found = 0;
+        for (const char *const folder :
+             {"support/alerts", "support/files", "support/settings", "support/desktop", "xml", "journal",
+              "rows", "timecode", "document", "markers", "media", "effects", "interchange",
+              "interchange/notes", "report", "compare", "handover", "workbench"}) {
+            const QDir dir(qEnvironmentVariable("VANTRELL_SOURCE_DIR") + QLatin1Char('/') +
+                           QString::fromLatin1(folder));
+            for (const QString &name : dir.entryList({QStringLiteral("*.cpp"), QStringLiteral("*.h")})) {
+                for (const QString &sentence :
+                     sentencesIn(QString::fromUtf8(contentOf(dir.filePath(name))))) {
+                    ++found;
+                    if (!listed.contains(plain(sentence)))
+                        missing.append(name + QStringLiteral(": ") + sentence);
+                }
+            }
+        }
+        QVERIFY2(found > 50, qPrintable(QString::number(found)));
+        QCOMPARE(missing.join(u'\n'), QString());
+    }
+
     void differencesAreTranslated()
     {
         const Speaks german(QStringLiteral("de"));
@@ -263,19 +329,32 @@ private Q_SLOTS:
         open();
         for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
             showTab(tab);
-            QStringList bar;
-            for (const QAction *const action : m_window->menuBar()->actions()) {
-                bar.append(action->text());
-                Q_EMIT action->menu()->aboutToShow();
-                QCOMPARE(clashesIn(*action->menu()), QStringList());
-            }
-            QCOMPARE(clashes(bar + textsWithKeys(m_window->pane(tab))), QStringList());
-            QCOMPARE(nameless(m_window->pane(tab)), QStringList());
-            const QVTableView &table = *m_window->pane(tab).findChild<QVTableView *>();
-            if (const QMenu *const menu = table.menu())
-                QCOMPARE(clashesIn(*menu), QStringList());
+            const TabPane &pane = m_window->pane(tab);
+            QCOMPARE(keyFaults(*m_window->menuBar(), pane, pane.table().menu()).join(u'\n'), QString());
         }
         QCOMPARE(clashes(textsWithKeys(*m_controller->startWindow().centralWidget())), QStringList());
+        close();
+    }
+
+    void buttonsFitInTheSmallestWindow_data() { addLanguages(); }
+    void buttonsFitInTheSmallestWindow()
+    {
+        QFETCH(QString, language);
+        const Speaks speaks(language);
+        open();
+        m_window->resize(m_window->minimumSize());
+        for (const Tab tab : {Tab::Media, Tab::Effects, Tab::Markers}) {
+            showTab(tab);
+            QCoreApplication::processEvents();
+            const QWidget &pane = m_window->pane(tab);
+            QCOMPARE(pane.width(), m_window->width());
+            for (const auto *const button : pane.findChildren<QPushButton *>()) {
+                QString text = button->text().remove(QLatin1Char('&'));
+                QVERIFY2(!button->isVisible() ||
+                             button->width() > button->fontMetrics().horizontalAdvance(text),
+                         qPrintable(text));
+            }
+        }
         close();
     }
 

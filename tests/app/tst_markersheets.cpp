@@ -4,6 +4,7 @@
 #include "markers/widgets/MarkerFieldsSheet.h"
 #include "markers/widgets/MarkerPresetPopUp.h"
 #include "markers/widgets/MarkerPresetSheet.h"
+#include "markers/widgets/MarkerPresetsSheet.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/PropertyList.h"
 #include "support/log/QVLog.h"
@@ -316,6 +317,29 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(MarkerPresets::folder() + QStringLiteral("/Cut.markerpreset")));
         for (const DocumentWindow *const window : {m_window.data(), m_other.data()})
             QTRY_COMPARE(presets(window), QStringLiteral("None*||Create preset..."));
+    }
+
+    void theListOfPresetsTellsHowToMakeOne()
+    {
+        for (const bool hasPreset : {false, true}) {
+            if (hasPreset) {
+                MarkerPresetSheet *const made = choosePresetSheet();
+                QVERIFY(made);
+                QTest::keyClicks(made->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly),
+                                 QStringLiteral("Cut"));
+                click(made, QStringLiteral("Save"));
+                QTRY_VERIFY(!shown<MarkerPresetSheet>(m_window));
+            }
+            m_window->showMarkerPresetsDialog();
+            auto *const sheet = m_window->findChild<MarkerPresetsSheet *>();
+            QTRY_VERIFY(sheet && sheet->isVisible());
+            const auto labels = sheet->findChildren<QLabel *>();
+            const bool isTold = std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+                return label->isVisible() && label->text().contains(QStringLiteral("Create Marker Preset…"));
+            });
+            QCOMPARE(isTold, !hasPreset);
+            delete sheet;
+        }
     }
 
     void aFailureLeavesThePresetSheet()

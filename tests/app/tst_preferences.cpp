@@ -1,8 +1,10 @@
 #include "ProgramTest.h"
 
+#include "app/Application.h"
 #include "app/PreferencesWindow.h"
 #include "app/SampleProject.h"
 #include "app/StartWindow.h"
+#include "app/ThemeColors.h"
 #include "document/DocumentJournal.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerInventory.h"
@@ -17,6 +19,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPalette>
 #include <QSpinBox>
 #include <QTest>
 
@@ -38,6 +41,44 @@ private Q_SLOTS:
         makeProgram();
     }
     void cleanup() { QVERIFY(end()); }
+
+    /// Some themes of desktops leave secondary texts black when they turn dark.
+    void secondaryTextsCanBeRead_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<QColor>("secondary");
+        QTest::addColumn<bool>("isKept");
+        const QColor dark(49, 54, 59);
+        QTest::newRow("dark") << dark << QColor(Qt::white) << QColor(Qt::black) << false;
+        QTest::newRow("dark, half black") << dark << QColor(Qt::white) << QColor(0, 0, 0, 128) << false;
+        QTest::newRow("light, white") << QColor(Qt::white) << QColor(Qt::black) << QColor(Qt::white) << false;
+        QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black) << QColor(0, 0, 0, 128) << true;
+        QTest::newRow("dark, gray") << dark << QColor(Qt::white) << QColor(150, 150, 150) << true;
+    }
+    void secondaryTextsCanBeRead()
+    {
+        QFETCH(QColor, window);
+        QFETCH(QColor, text);
+        QFETCH(QColor, secondary);
+        QFETCH(bool, isKept);
+        const QPalette before = QApplication::palette();
+        QPalette theme;
+        theme.setColor(QPalette::Window, window);
+        theme.setColor(QPalette::Base, window);
+        theme.setColor(QPalette::Text, text);
+        theme.setColor(QPalette::PlaceholderText, secondary);
+        QApplication::setPalette(theme);
+        QCoreApplication::processEvents();
+        const QPalette shown = QApplication::palette();
+        QApplication::setPalette(before);
+        QCOMPARE(shown.color(QPalette::PlaceholderText) == secondary, isKept);
+        QCOMPARE(shown.color(QPalette::Window), window);
+        QColor readable = shown.color(QPalette::PlaceholderText);
+        QVERIFY(isKept || (readable.alpha() > 128 && readable.alpha() < 255));
+        readable.setAlpha(255);
+        QVERIFY(contrastOf(readable, window) > 2.5);
+    }
 
     void theStartWindowOffersAllWaysIn()
     {
@@ -288,7 +329,7 @@ private:
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
     PreferencesTest test;

@@ -2,8 +2,11 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "support/widgets/MessageLine.h"
+#include "support/widgets/WrappedLabel.h"
 #include "table/widgets/QVTableView.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
@@ -88,6 +91,76 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified() && !m_window->document()->canUndo());
     }
 
+    void stepsOfHiddenEffectsAreTold()
+    {
+        m_window->toolbarEffects();
+        TabPane &effects = m_window->pane(Tab::Effects);
+        const int all = effects.model().rowCount();
+        const QString on = QStringLiteral("enabled");
+        const TableModel &model = effects.model();
+        const int row =
+            int(model.match(model.index(0, model.columnOf(on)), Qt::CheckStateRole, int(Qt::Checked), 1)
+                    .value(0)
+                    .row());
+        QVERIFY(editCell(*m_window, Tab::Effects, row, on, Qt::Unchecked, Qt::CheckStateRole));
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Switch Off Effect")));
+        QVERIFY(!message(effects).contains(QStringLiteral("Undone")));
+        QVERIFY(trigger(*m_window, QStringLiteral("Redo Switch Off Effect")));
+        QVERIFY(!showsHidden());
+        QTest::keyClick(&effects.table(), Qt::Key_Delete);
+        QCOMPARE(effects.model().rowCount(), all - 1);
+
+        QVERIFY(trigger(*m_window, QStringLiteral("Undo Switch Off Effect")));
+        QCOMPARE(message(effects), QStringLiteral("Undone: Switch Off Effect."));
+        QVERIFY(trigger(*m_window, QStringLiteral("Redo Switch Off Effect")));
+        QCOMPARE(message(effects), QStringLiteral("Redone: Switch Off Effect."));
+        QCOMPARE(effects.model().rowCount(), all - 1);
+        QVERIFY(showsHidden());
+        QCOMPARE(effects.model().rowCount(), all);
+        QVERIFY(!showsHidden() && message(effects).isEmpty());
+    }
+
+    /// As long as they are hidden, a button and a command bring them back.
+    void hiddenEffectsComeBack_data()
+    {
+        QTest::addColumn<QString>("by");
+        for (const char *const way : {"button", "filter", "tab"})
+            QTest::newRow(way) << QString::fromLatin1(way);
+    }
+    void hiddenEffectsComeBack()
+    {
+        QFETCH(QString, by);
+        m_window->toolbarEffects();
+        TabPane &effects = m_window->pane(Tab::Effects);
+        const int all = effects.model().rowCount();
+        const auto *const show = buttonOf(effects, QStringLiteral("Show Hidden Effects"));
+        QVERIFY(show && !show->isVisible());
+        effects.selectRows({1});
+        QTest::keyClick(&effects.table(), Qt::Key_Delete);
+        effects.table().selectAll();
+        QTest::keyClick(&effects.table(), Qt::Key_Backspace);
+        QCOMPARE(effects.model().rowCount(), 0);
+        QVERIFY(effects.table().placeholder().contains(QStringLiteral("taken off this list")));
+        effects.sortBy(QStringLiteral("name")); // shows the same rows in another order
+        QVERIFY(show->isVisible());
+        if (by == QStringLiteral("button")) {
+            Q_EMIT buttonOf(effects, QStringLiteral("Show Hidden Effects"))->clicked();
+        } else if (by == QStringLiteral("tab")) {
+            m_window->toolbarMedia();
+            QVERIFY(!showsHidden());
+            m_window->toolbarEffects();
+        } else {
+            auto *const types = effects.findChild<QComboBox *>();
+            types->setCurrentIndex(1);
+            Q_EMIT types->activated(1);
+            QVERIFY(effects.model().rowCount() > 0 && effects.model().rowCount() < all);
+        }
+        if (by != QStringLiteral("filter"))
+            QCOMPARE(effects.model().rowCount(), all);
+        QVERIFY(!show->isVisible() && !showsHidden());
+        QVERIFY(!m_window->isWindowModified());
+    }
+
     void aTextThatIsEditedHasItsOwn()
     {
         QVERIFY(editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
@@ -112,6 +185,25 @@ private Q_SLOTS:
     }
 
 private:
+    /// Triggers the command as its menu offers it; false when it is disabled.
+    bool showsHidden()
+    {
+        for (const QAction *const action : m_window->menuBar()->actions())
+            Q_EMIT action->menu()->aboutToShow();
+        return trigger(*m_window, QStringLiteral("Show Hidden Effects"));
+    }
+    static QPushButton *buttonOf(const TabPane &pane, const QString &title)
+    {
+        for (auto *const button : pane.findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == title)
+                return button;
+        }
+        return nullptr;
+    }
+    static QString message(const TabPane &pane)
+    {
+        return pane.findChild<MessageLine *>()->findChild<WrappedLabel *>()->whole();
+    }
     QString nameAt(int row) const
     {
         return columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).value(row);

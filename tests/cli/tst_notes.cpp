@@ -101,6 +101,11 @@ private Q_SLOTS:
         const QByteArray markers = run(u"markers ~/scenes.xml --json"_s).output;
         QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"12, 3\""), markers.constData());
         QVERIFY2(markers.contains("\"QVCUSTOM_SCENE\":\"4\""), markers.constData());
+        // Of several fields one is read back; the row is known by what is left.
+        const QString import = u"import ~/%1 ~/scenes.csv --format auto --map Scene=field:Scene "
+                               "--map Scene#=field:Take -o ~/twice.xml"_s;
+        QVERIFY(run(import.arg(u"project.xml"_s)).messages.endsWith("2 of 2 rows added\n"));
+        QVERIFY(run(import.arg(u"twice.xml"_s)).messages.endsWith("0 of 2 rows added\n"));
     }
 
     void chosenSequence()
