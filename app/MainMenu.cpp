@@ -152,6 +152,7 @@ void MainMenu::makeEditMenu()
                            &DocumentWindow::duplicateSelection)
                     << add(menu, tr("Move &In, Keep Duration"), QKeySequence(Qt::ALT | Qt::Key_Return),
                            m_document, &DocumentWindow::moveInPoint);
+    m_offset = add(menu, tr("&Offset…"), {}, m_document, &DocumentWindow::offsetSelection);
     m_remove = add(menu, tr("R&emove…"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document,
                    &DocumentWindow::removeSelection);
     menu->addSeparator();
@@ -332,6 +333,7 @@ void MainMenu::validate()
         m_markerActions[i]->setEnabled(showsPanes && m_document->mayEdit() &&
                                        (i == 0 || m_document->selectedTab() == Tab::Markers));
     validateUndo();
+    m_offset->setEnabled(showsPanes && m_document->mayOffsetSelection());
     if (!showsPanes) {
         m_remove->setEnabled(false);
         return;

@@ -69,6 +69,7 @@ private:
     QAction *m_exportNotes = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
+    QAction *m_offset = nullptr;
     QAction *m_remove = nullptr;
     QList<QAction *> m_markerActions; // edit markers
     QAction *m_qcLogging = nullptr;

@@ -334,6 +334,14 @@ QString NotePreview::remark(std::size_t row) const
     case PlannedNote::State::Add:
         break;
     }
+    if (note.label && note.state != PlannedNote::State::Outside) {
+        const QString shown = timecode(row);
+        const qint64 seconds = note.label->seconds;
+        const QString read = QVTimecode::formatHours(seconds / 3600 % 24, seconds / 60 % 60, seconds % 60,
+                                                     note.label->frames, true);
+        if (read != shown)
+            parts.append(tr("Shown as %1").arg(shown));
+    }
     if (note.isChapter)
         parts.append(tr("Chapter"));
     for (const auto &[title, value] : note.fields)

@@ -95,7 +95,8 @@ public:
     /// The timecode in the sequence; null for a row without one.
     QString timecode(std::size_t row) const;
     QString duration(std::size_t row) const;
-    /// Why the row is not added, or the values of its custom fields; empty when there is nothing to say.
+    /// Why the row is not added, the timecode of the table where the list has another one, or the values of
+    /// its custom fields; empty when there is nothing to say.
     QString remark(std::size_t row) const;
     /// Such as "11 of 12 notes will be added; 1 is already there".
     QString summary() const;

@@ -147,6 +147,12 @@ std::optional<MarkerInventory::Extracted> MarkerInventory::extract() const
     return extracted;
 }
 
+void MarkerInventory::setListedUnderOthers(std::size_t count)
+{
+    m_listed = m_document.markerArray().size();
+    m_listedUnderOthers = count;
+}
+
 QString MarkerInventory::listedUnderOthersText() const
 {
     if (m_listedUnderOthers == 0)

@@ -3,6 +3,7 @@
 #include "document/MyDocument.h"
 #include "markers/OwnOwner.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
@@ -37,6 +38,9 @@ public:
     /// How many markers populateMarkerData() listed under another sequence or clip than their own, as a
     /// clause without a full stop; empty when there are none. Main thread.
     QString listedUnderOthersText() const;
+    std::size_t listedUnderOthers() const { return m_listedUnderOthers; }
+    /// The number as it is after edits, for the two above; see UnderOthers. Main thread.
+    void setListedUnderOthers(std::size_t count);
 
     /// Counts how often the list was replaced by populateMarkerData(). Main thread.
     std::uint64_t generation() const { return m_generation; }

@@ -3117,6 +3117,10 @@
         <source>Show &amp;Hidden Effects</source>
         <translation>Aus&amp;geblendete Effekte anzeigen</translation>
     </message>
+    <message>
+        <source>&amp;Offset…</source>
+        <translation>Verset&amp;zen…</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -4055,6 +4059,10 @@ gesucht unter %2
     <message>
         <source>%1 are not checked</source>
         <translation>%1 sind nicht angekreuzt</translation>
+    </message>
+    <message>
+        <source>Shown as %1</source>
+        <translation>Angezeigt als %1</translation>
     </message>
 </context>
 <context>

@@ -3117,6 +3117,10 @@
         <source>Show &amp;Hidden Effects</source>
         <translation>Mo&amp;strar efectos ocultos</translation>
     </message>
+    <message>
+        <source>&amp;Offset…</source>
+        <translation>Despla&amp;zar…</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -4055,6 +4059,10 @@ buscado en %2
     <message>
         <source>%1 are not checked</source>
         <translation>%1 no están marcadas</translation>
+    </message>
+    <message>
+        <source>Shown as %1</source>
+        <translation>Se muestra como %1</translation>
     </message>
 </context>
 <context>

@@ -3117,6 +3117,10 @@
         <source>Show &amp;Hidden Effects</source>
         <translation>&amp;Afficher les effets masqués</translation>
     </message>
+    <message>
+        <source>&amp;Offset…</source>
+        <translation>Décaler les &amp;marqueurs…</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerAddSheet</name>
@@ -4055,6 +4059,10 @@ cherché dans %2
     <message>
         <source>%1 are not checked</source>
         <translation>%1 non cochées</translation>
+    </message>
+    <message>
+        <source>Shown as %1</source>
+        <translation>Affiché comme %1</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "document/widgets/DocumentDisposal.h"
 #include "document/widgets/DocumentWindowInterface.h"
 #include "document/widgets/NoticeBar.h"
+#include "document/widgets/OwnersNotice.h"
 #include "document/widgets/ProgressSheet.h"
 #include "document/widgets/UnseenRows.h"
 #include "effects/widgets/EffectsPane.h"
@@ -154,16 +155,17 @@ void DocumentWindow::makeContent()
 {
     auto *const central = new QWidget(this);
     m_notice = new NoticeBar(central);
-    m_ownersNotice = new NoticeBar(central);
-    m_ownersNotice->setAction(tr("Show Each Under Its Own"),
-                              [this] { m_defaults.setValue(MarkerInventory::ownOwnersDefault, true); });
+    auto *const owners = new NoticeBar(central);
+    owners->setAction(tr("Show Each Under Its Own"),
+                      [this] { m_defaults.setValue(MarkerInventory::ownOwnersDefault, true); });
+    m_ownersNotice = new OwnersNotice(*owners);
     m_content = new QStackedWidget(central);
     m_content->addWidget(makeFailurePage());
     auto *const layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_notice);
-    layout->addWidget(m_ownersNotice);
+    layout->addWidget(owners);
     layout->addWidget(m_content, 1);
     setCentralWidget(central);
 }
@@ -248,7 +250,6 @@ void DocumentWindow::startSession(const QString &path, const QString &typeName)
     connectSession();
     m_state.load();
     m_notice->setNotice(QString());
-    m_ownersNotice->setNotice(QString());
     m_toolBar->setEnabled(true);
     setWindowModified(false);
     updateEditing();
@@ -270,6 +271,7 @@ void DocumentWindow::connectSession()
             (this->*toolBarItems()[std::size_t(tab)].action)();
     });
     const MyDocument *const document = &m_workbench->document();
+    m_ownersNotice->follow(*m_workbench);
     connect(document, &MyDocument::loadFinished, this, &DocumentWindow::loadEnded);
     connect(document, &MyDocument::inventoriesFinished, this, &DocumentWindow::inventoriesEnded);
     connect(document, &MyDocument::editingAllowedChanged, this, &DocumentWindow::updateEditing);
@@ -292,6 +294,7 @@ void DocumentWindow::leaveSession()
     m_reports.close();
     m_media.close();
     m_workbench->document().disconnect(this);
+    m_ownersNotice->leave();
     m_interface->disconnectFromWindow();
     qDeleteAll(findChildren<MarkerListImport *>());
     m_notes.close();
@@ -400,7 +403,7 @@ void DocumentWindow::showReverted()
     setFile(reverted.path, reverted.typeName);
     setWindowModified(document.isEdited());
     updateEditing();
-    updateOwnersNotice();
+    m_ownersNotice->showListed();
     m_media.resume();
     for (const QString &key : std::as_const(reverted.changedDefaults))
         applyDefaultsChange(key);
@@ -468,7 +471,7 @@ void DocumentWindow::inventoriesEnded()
     }
     m_saving.rememberFile();
     updateEditing();
-    updateOwnersNotice();
+    m_ownersNotice->showListed();
     applyOwnerListing();
     m_media.applyMappings();
     Q_EMIT menusChanged();
@@ -733,13 +736,6 @@ void DocumentWindow::applyJournalSetting()
         current->journal()->setEnabled(m_defaults.boolean(journalKey), current->isEdited());
 }
 
-/// Tells the user when markers are listed under other owners than their own.
-void DocumentWindow::updateOwnersNotice()
-{
-    const QString text = m_workbench->markerInventory().listedUnderOthersText();
-    m_ownersNotice->setNotice(text.isEmpty() ? text : text + QLatin1Char('.'));
-}
-
 /// Lists the markers again when the user has changed which owners are listed, unless something else is going
 /// on. A sheet or alert that waits for an answer may be about rows that are listed now.
 void DocumentWindow::applyOwnerListing()
@@ -765,7 +761,7 @@ void DocumentWindow::listMarkersAgain()
     m_workbench->document().runInBackground([&inventory] { inventory.populateMarkerData(); },
                                             [this] {
                                                 m_work.end();
-                                                updateOwnersNotice();
+                                                m_ownersNotice->showListed();
                                             });
 }
 
@@ -804,6 +800,18 @@ void DocumentWindow::duplicateSelection()
 {
     if (mayEdit() && selectedTab() == Tab::Markers)
         static_cast<MarkersPane &>(pane(Tab::Markers)).duplicateMarkers();
+}
+
+void DocumentWindow::offsetSelection()
+{
+    if (mayOffsetSelection())
+        static_cast<MarkersPane &>(pane(Tab::Markers)).showMarkerOffsetWindow();
+}
+
+bool DocumentWindow::mayOffsetSelection() const
+{
+    return mayEdit() && selectedTab() == Tab::Markers &&
+           pane(Tab::Markers).table().selectionModel()->hasSelection();
 }
 
 void DocumentWindow::moveInPoint()

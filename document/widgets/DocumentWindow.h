@@ -38,6 +38,7 @@ class AlertParent;
 class DocumentWindowInterface;
 class MyDocument;
 class MarkersPane;
+class OwnersNotice;
 class PrintOperation;
 
 class TabPane;
@@ -230,6 +231,8 @@ public Q_SLOTS:
     void removeSelection();
     // For the Markers tab; nothing on the others
     void duplicateSelection();
+    void offsetSelection();
+    bool mayOffsetSelection() const;
     void moveInPoint();
     /// Moves the keyboard focus into its search field.
     void find();
@@ -352,7 +355,6 @@ private:
     void updateEditing();
     void workEnded(WindowState::Next next);
     void cancelProgress();
-    void updateOwnersNotice();
     void updateTitle();
     MarkersPane &showMarkers();
     void applyOwnerListing();
@@ -380,7 +382,7 @@ private:
     QActionGroup *m_toolBarItems = nullptr;
     QString m_selectedToolbarItemIdentifier;
     NoticeBar *m_notice = nullptr;
-    NoticeBar *m_ownersNotice = nullptr;
+    OwnersNotice *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
     QLabel *m_failureReason = nullptr;

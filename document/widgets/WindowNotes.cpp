@@ -9,6 +9,7 @@
 #include "interchange/widgets/NoteAddition.h"
 #include "interchange/widgets/NotePreviewSheet.h"
 #include "markers/MarkerKeys.h"
+#include "markers/widgets/MarkersPane.h"
 #include "support/files/CancellableWrite.h"
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
@@ -189,20 +190,21 @@ void WindowNotes::tellUnusable(const QString &name, const QString &reason)
         m_window.showFailure(tr("“%1” could not be read").arg(name), reason);
 }
 
-/// What is pasted belongs to the sequence of the first selected marker; to the first one without any.
+/// What is pasted belongs to the sequence of the first selected marker; without any to that of the overview.
 std::int64_t WindowNotes::selectedSequence() const
 {
     MyDocument &document = m_window.workbench().document();
     const RowList selected = document.selectedRecords(Tab::Markers);
+    const std::int64_t inOverview = static_cast<MarkersPane &>(m_window.pane(Tab::Markers)).overviewItem();
     if (selected.empty())
-        return 1;
+        return inOverview;
     // Which need not be the one that the marker is listed under.
     const XmlNode sequence =
         QVXMLParser::parentWithName(selected.front()->get(MarkerKey::markerElement), "sequence");
     const MenuPtr menu = document.sequenceMenu();
     const auto item = std::find_if(menu->begin(), menu->end(),
                                    [sequence](const auto &entry) { return entry.element == sequence; });
-    return !sequence || item == menu->end() ? 1 : item - menu->begin();
+    return !sequence || item == menu->end() ? inOverview : item - menu->begin();
 }
 
 void WindowNotes::show(const NoteSource &source)

@@ -277,6 +277,17 @@ private:
         return m_converter.frames(position);
     }
 
+    std::optional<NoteRate::Label> labelOf(const NoteTime &time, qint64 in) const
+    {
+        const qint64 frame = in + m_sequence.startFrame;
+        if (!m_sequence.rate.dropFrame || time.kind != NoteTime::Kind::Timecode ||
+            m_meaning == NoteMeaning::Elapsed || frame < 0)
+            return std::nullopt;
+        if (m_meaning == NoteMeaning::Record && m_rate == m_sequence.rate)
+            return NoteRate::Label{time.seconds, time.frames};
+        return m_sequence.rate.labelOf(frame);
+    }
+
     qint64 durationOf(const NoteRow &row, const NoteTime &time) const
     {
         const std::optional<NoteTime> duration = NoteTime::parse(row.duration, m_list.durationUnit);
@@ -323,6 +334,7 @@ private:
         }
         note.in = inOf(*time, m_meaning);
         note.duration = durationOf(row, *time);
+        note.label = labelOf(*time, note.in);
         for (const auto &[column, value] : row.fields) {
             if (std::find(m_fieldColumns.begin(), m_fieldColumns.end(), column) != m_fieldColumns.end())
                 note.fields.emplace_back(m_list.columns[column].title, allowedText(value));

@@ -78,8 +78,11 @@ struct PlannedNote {
     QString comment;
     qint64 in = 0;       ///< frames from the sequence's first; not for an unreadable row
     qint64 duration = 0; ///< frames; 0 for none
-    int color = 0;       ///< index of MarkerColors::table()
-    QString user;        ///< who wrote it; empty where the list does not say
+    /// The timecode in a drop frame sequence: as the list has it where both count alike, else by the usual
+    /// rule. Nothing in other sequences and for times that are no timecodes.
+    std::optional<NoteRate::Label> label = std::nullopt;
+    int color = 0; ///< index of MarkerColors::table()
+    QString user;  ///< who wrote it; empty where the list does not say
     bool isChapter = false;
     std::vector<std::pair<QString, QString>> fields = {}; ///< titles and values
 };

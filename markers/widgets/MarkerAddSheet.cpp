@@ -43,10 +43,11 @@ void showReading(const TimecodeEntry::Reading &reading, QLabel &note, QLineEdit 
 
 } // namespace
 
-MarkerAddSheet::MarkerAddSheet(MenuPtr sequences, std::int64_t item, const QString &name,
+MarkerAddSheet::MarkerAddSheet(MenuPtr sequences, Start start, const QString &name,
                                const QStringList &colorLabels, QWidget *parent)
     : QDialog(parent, Qt::Sheet)
     , m_sequences(std::move(sequences))
+    , m_start(std::move(start))
     , m_sequence(new QComboBox(this))
     , m_in(new QLineEdit(this))
     , m_inNote(makeNote(this))
@@ -59,7 +60,7 @@ MarkerAddSheet::MarkerAddSheet(MenuPtr sequences, std::int64_t item, const QStri
     setWindowTitle(tr("Add Marker"));
     setWindowModality(Qt::WindowModal);
     m_sequence->addItems(MenuTitles::ofSequences(*m_sequences).mid(1));
-    m_sequence->setCurrentIndex(std::clamp(int(item) - 1, 0, std::max(0, m_sequence->count() - 1)));
+    m_sequence->setCurrentIndex(std::clamp(int(m_start.item) - 1, 0, std::max(0, m_sequence->count() - 1)));
     m_sequence->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_sequence->setMinimumContentsLength(36);
     for (int color = 0; color < colorLabels.size(); ++color)
@@ -123,11 +124,12 @@ MarkerEditor::NewMarker MarkerAddSheet::marker() const
     return marker;
 }
 
-/// Begins at the start of the sequence unless the user has typed a place.
+/// Begins where the sheet shall, in another sequence at its start, unless the user has typed a place.
 void MarkerAddSheet::sequenceChosen()
 {
     if (!m_in->isModified()) {
-        m_in->setText(TimecodeEntry::startOf(sequenceElement()));
+        const bool isGiven = !m_start.timecode.isEmpty() && sequence() == m_start.item;
+        m_in->setText(isGiven ? m_start.timecode : TimecodeEntry::startOf(sequenceElement()));
         m_in->selectAll();
     }
     follow();

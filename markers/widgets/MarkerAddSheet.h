@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <cstdint>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -20,9 +22,15 @@ class MarkerAddSheet : public QDialog
     Q_OBJECT
 
 public:
-    /// The item of the sequence menu that is chosen at first, the name that the marker gets if the user does
-    /// not change it, and the labels of the colours.
-    MarkerAddSheet(MenuPtr sequences, std::int64_t item, const QString &name, const QStringList &colorLabels,
+    /// What is there at first.
+    struct Start {
+        std::int64_t item = 1; ///< of the sequence menu
+        QString timecode;      ///< in that sequence; empty for its first one
+    };
+
+    /// `name` is what the marker is called if the user does not change it; the labels are those of the
+    /// colours.
+    MarkerAddSheet(MenuPtr sequences, Start start, const QString &name, const QStringList &colorLabels,
                    QWidget *parent);
 
     /// The chosen item of the sequence menu.
@@ -35,6 +43,7 @@ private:
     void follow();
 
     MenuPtr m_sequences;
+    Start m_start;
     QComboBox *m_sequence;
     QLineEdit *m_in;
     QLabel *m_inNote;

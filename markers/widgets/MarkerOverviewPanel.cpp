@@ -92,6 +92,12 @@ MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
     });
 }
 
+XmlNode MarkerOverviewPanel::sequence() const
+{
+    const bool isWanted = isVisibleTo(&m_pane);
+    return isWanted && m_shown && m_shown.isAttached() ? m_shown : XmlNode();
+}
+
 void MarkerOverviewPanel::recordsChanged()
 {
     m_revision.reset();

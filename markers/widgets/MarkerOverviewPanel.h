@@ -43,6 +43,8 @@ public:
     MarkerStrip &strip() const { return *m_strip; }
     /// Its first item follows the selected row.
     OverviewPopUp &popUp() const { return *m_popUp; }
+    /// The sequence that the strip shows; null without one, and when the user has hidden the overview.
+    XmlNode sequence() const;
     /// Whether rows have changed that the strip does not show yet.
     bool isOutdated() const { return m_isOutdated; }
 

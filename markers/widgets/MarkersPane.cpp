@@ -2,6 +2,7 @@
 
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerOffset.h"
+#include "markers/MarkerTableValues.h"
 #include "markers/MarkerTotals.h"
 #include "markers/widgets/GoToTimecodeSheet.h"
 #include "markers/widgets/MarkerAddSheet.h"
@@ -200,6 +201,27 @@ void MarkersPane::goToRow(std::size_t row)
     table().setFocus();
 }
 
+/// The current row if it is selected, else the first selected one; null without a selection.
+RowRecordPtr MarkersPane::chosenRow() const
+{
+    const QModelIndex current = table().currentIndex();
+    if (current.isValid() && table().selectionModel()->isSelected(current))
+        return model().recordAt(current.row());
+    const std::vector<std::size_t> selected = selectedRows();
+    return selected.empty() ? nullptr : model().recordAt(int(selected.front()));
+}
+
+std::int64_t MarkersPane::overviewItem() const
+{
+    const XmlNode shown = m_overview->sequence();
+    const MenuPtr menu = workbench().document().sequenceMenu();
+    for (std::size_t item = 1; shown && item < menu->size(); ++item) {
+        if ((*menu)[item].element == shown)
+            return std::int64_t(item);
+    }
+    return 1;
+}
+
 void MarkersPane::showGoToTimecode()
 {
     table().commitEditing();
@@ -208,15 +230,21 @@ void MarkersPane::showGoToTimecode()
         showMessage(tr("There is no marker to go to"));
         return;
     }
-    const auto inSequence = std::find_if(
-        rows.begin(), rows.end(), [](const RowRecordPtr &row) { return row->contains(MarkerKey::sequence); });
-    const int current = table().currentIndex().row();
-    const bool hasCurrent = current >= 0 && current < int(rows.size());
-    auto *const sheet = new GoToTimecodeSheet(rows,
-                                              hasCurrent                 ? rows[std::size_t(current)]
-                                              : inSequence != rows.end() ? *inSequence
-                                                                         : rows.front(),
-                                              this);
+    RowRecordPtr start = chosenRow();
+    if (!start || !start->get(MarkerKey::sequence)) {
+        const XmlNode shown = m_overview->sequence();
+        const auto findRow = [&rows](const auto &fits) {
+            const auto found = std::find_if(rows.begin(), rows.end(), [&](const RowRecordPtr &row) {
+                return fits(row->get(MarkerKey::sequence));
+            });
+            return found == rows.end() ? nullptr : *found;
+        };
+        if (shown)
+            start = findRow([shown](XmlNode sequence) { return sequence == shown; });
+        if (!start || !start->get(MarkerKey::sequence))
+            start = findRow([](XmlNode sequence) { return bool(sequence); });
+    }
+    auto *const sheet = new GoToTimecodeSheet(rows, start ? start : rows.front(), this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
         const RowList &shown = model().view().visibleRows();
@@ -321,10 +349,14 @@ void MarkersPane::showMarkerAddDialog()
         workbench().markerEditor().addMarker(); // which says why not
         return;
     }
-    const QModelIndex current = table().currentIndex();
-    const std::int64_t item =
-        current.isValid() ? model().recordAt(current.row())->get(MarkerKey::sequenceIndex) : 1;
-    auto *const sheet = new MarkerAddSheet(sequences, item, workbench().markerEditor().freeName(),
+    const RowRecordPtr row = chosenRow();
+    const std::int64_t item = row ? row->get(MarkerKey::sequenceIndex) : 0;
+    const bool hasSequence = item > 0 && item < std::int64_t(sequences->size());
+    // That of a marker on a clip is no place in the sequence.
+    const bool hasPlace = hasSequence && !row->get(MarkerKey::clip);
+    const MarkerAddSheet::Start start{hasSequence ? item : overviewItem(),
+                                      hasPlace ? MarkerTableValues::inText(*row) : QString()};
+    auto *const sheet = new MarkerAddSheet(sequences, start, workbench().markerEditor().freeName(),
                                            markerModel().shownColorLabels(), this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &QDialog::accepted, this, [this, sheet] {

@@ -6,6 +6,8 @@
 
 #include <QPointer>
 
+#include <cstdint>
+
 class QCheckBox;
 class QComboBox;
 class QDialog;
@@ -32,6 +34,8 @@ public:
     void applyDefaultsChange(const QString &key) override;
 
     MarkerOverviewPanel &overview() const { return *m_overview; }
+    /// The item of the sequence menu that the overview shows; the first sequence without an overview.
+    std::int64_t overviewItem() const;
 
 public Q_SLOTS:
     void addMarker();
@@ -77,6 +81,7 @@ private:
     void makeMenus();
     void makeSearch();
     void fillSequences();
+    RowRecordPtr chosenRow() const;
     void goToRow(std::size_t row);
     void goToOfColor(MarkerNavigation::Direction direction);
     void placeOverview();

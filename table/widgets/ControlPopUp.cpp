@@ -32,9 +32,25 @@ void ControlPopUp::showPopup()
     QComboBox::showPopup();
 }
 
+/// On either side of the title.
+int ControlPopUp::margin() const
+{
+    return fontMetrics().averageCharWidth() / 2;
+}
+
 QSize ControlPopUp::sizeHint() const
 {
-    return QComboBox::sizeHint() + QSize(fontMetrics().averageCharWidth() * 3 / 2, 0);
+    // The styles leave a title less place than they take for it.
+    constexpr int contentWidth = 200;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize size = style()->sizeFromContents(QStyle::CT_ComboBox, &option,
+                                                 QSize(contentWidth, fontMetrics().height()), this);
+    option.rect = QRect(QPoint(), size);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int missing = contentWidth + 2 * margin() + 2 - field.width();
+    return QComboBox::sizeHint() + QSize(std::max(missing, fontMetrics().averageCharWidth() * 3 / 2), 0);
 }
 
 void ControlPopUp::paintEvent(QPaintEvent *)
@@ -47,9 +63,8 @@ void ControlPopUp::paintEvent(QPaintEvent *)
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int iconWidth = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
-    const int margin = fontMetrics().averageCharWidth() / 2;
-    option.currentText =
-        fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - iconWidth - 2 * margin);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight,
+                                                  field.width() - iconWidth - 2 * margin());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -21,31 +21,50 @@ namespace
 // In characters of average width
 constexpr int narrowestField = 12;
 constexpr int widestField = 40;
-constexpr int narrowestCounts = 8;
+constexpr int narrowestPopUp = 15;
+constexpr int narrowestCounts = 36;
 
 } // namespace
 
-/// A text at the right that is shortened to its place, and then shown by its tool tip.
+/// A text at the right that is shortened where it has no place, and then shown by its tool tip.
 class CountLabel : public QLabel
 {
 public:
     using QLabel::QLabel;
 
+    void setTexts(const QString &text, const QString &shorter)
+    {
+        m_shorter = shorter.isEmpty() ? text : shorter;
+        setText(text);
+        updateGeometry();
+        update();
+    }
+
     QSize minimumSizeHint() const override
     {
-        return {std::min(sizeHint().width(), fontMetrics().averageCharWidth() * narrowestCounts),
+        return {std::min(fontMetrics().horizontalAdvance(m_shorter) + 1,
+                         fontMetrics().averageCharWidth() * narrowestCounts),
                 QLabel::minimumSizeHint().height()};
+    }
+
+    QString shownText() const
+    {
+        const bool fits = fontMetrics().horizontalAdvance(text()) <= width();
+        return fits ? text() : fontMetrics().elidedText(m_shorter, Qt::ElideRight, width());
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        const QString shown = shownText();
         setToolTip(shown == text() ? QString() : text());
         QPainter painter(this);
         painter.setPen(palette().color(foregroundRole()));
         painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, shown);
     }
+
+private:
+    QString m_shorter;
 };
 
 SearchBar::SearchBar(QWidget *parent)
@@ -81,6 +100,7 @@ QString SearchBar::text() const
 void SearchBar::addPopUp(QComboBox *popUp)
 {
     m_line->insertWidget(m_line->indexOf(m_counts), popUp);
+    popUp->setMinimumWidth(fontMetrics().averageCharWidth() * narrowestPopUp);
     setTabOrder(m_popUps.isEmpty() ? static_cast<QWidget *>(m_field) : m_popUps.last(), popUp);
     m_popUps.append(popUp);
     connect(popUp, &QComboBox::activated, this, &SearchBar::applyNow);
@@ -100,14 +120,19 @@ bool SearchBar::isNarrowing() const
                                             [](const QComboBox *popUp) { return popUp->currentIndex() > 0; });
 }
 
-void SearchBar::setCounts(const QString &text)
+void SearchBar::setCounts(const QString &text, const QString &shorter)
 {
-    m_counts->setText(text);
+    m_counts->setTexts(text, shorter);
 }
 
 QString SearchBar::counts() const
 {
     return m_counts->text();
+}
+
+QString SearchBar::shownCounts() const
+{
+    return m_counts->shownText();
 }
 
 void SearchBar::applyNow()

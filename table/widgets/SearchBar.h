@@ -31,9 +31,11 @@ public:
     /// Whether there is a text, or a pop-up shows another than its first item.
     bool isNarrowing() const;
 
-    /// At the end of the line, shortened when there is no place for all of it.
-    void setCounts(const QString &text);
+    /// At the end of the line; where there is no place for all of it, the shorter text, which may be cut.
+    void setCounts(const QString &text, const QString &shorter = QString());
     QString counts() const;
+    /// What of them has place.
+    QString shownCounts() const;
 
 Q_SIGNALS:
     /// A condition has changed; once for all keys that are there.

@@ -77,6 +77,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_busyTimer(new QTimer(this))
     , m_message(new MessageLine(this))
     , m_messageTime(new QTimer(this))
+    , m_newMessage(new QTimer(this))
 {
     m_model->setParent(this);
     m_model->setDateFormat(TableDates::storedFormat(m_defaults));
@@ -99,6 +100,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_busyTimer->setInterval(busyInterval);
     m_messageTime->setSingleShot(true);
     m_messageTime->setInterval(messageMs);
+    m_newMessage->setSingleShot(true);
+    m_newMessage->setInterval(0);
     m_countTimer->setSingleShot(true);
     m_countTimer->setInterval(countMs);
 
@@ -133,7 +136,8 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         else
             m_prepareTimer->setInterval(0);
     });
-    connect(m_messageTime, &QTimer::timeout, this, [this] { showMessage(QString()); });
+    connect(m_messageTime, &QTimer::timeout, this, &TabPane::clearMessage);
+    connect(&m_workbench.document(), &MyDocument::historyChanged, this, &TabPane::dropMessage);
     const RowView &view = m_model->view();
     connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
     connect(&view, &RowView::didReload, this, &TabPane::tableDidReload);
@@ -325,6 +329,7 @@ void TabPane::noteSelectionChange()
 {
     if (m_selectionMuted || m_reloads > 0)
         return;
+    dropMessage();
     updateControls();
     Q_EMIT selectionChanged();
 }
@@ -561,6 +566,21 @@ void TabPane::showMessage(const QString &text)
     m_message->setMessage(QString());
     setMessage(shownMessage(text));
     m_messageTime->start();
+    m_newMessage->start();
+}
+
+void TabPane::clearMessage()
+{
+    m_messageTime->stop();
+    m_message->setMessage(QString());
+    setMessage(QString());
+}
+
+/// Takes away a message that tells of something earlier.
+void TabPane::dropMessage()
+{
+    if (m_messageTime->isActive() && !m_newMessage->isActive())
+        clearMessage();
 }
 
 void TabPane::showMessage(const QString &text, const QString &path)
@@ -638,7 +658,11 @@ void TabPane::updateCounts()
     const std::size_t all = view.list().size();
     const QString shownNumber =
         shown.size() == all ? number(all) : tr("%1 of %2").arg(number(shown.size()), number(all));
-    QString text = withTotal(countText(shownNumber, all), shown);
+    const auto both = [](const QString &counted, const QString &chosen) {
+        return tr("%1 · %2", "shown and selected").arg(counted, chosen);
+    };
+    QString shorter = countText(shownNumber, all);
+    QString text = withTotal(shorter, shown);
     const std::vector<std::size_t> selected = selectedRows();
     if (!selected.empty()) {
         RowList rows;
@@ -647,10 +671,11 @@ void TabPane::updateCounts()
             if (row < shown.size())
                 rows.push_back(shown[row]);
         }
-        text = tr("%1 · %2", "shown and selected")
-                   .arg(text, withTotal(tr("%1 selected").arg(number(selected.size())), rows));
+        const QString chosen = tr("%1 selected").arg(number(selected.size()));
+        text = both(text, withTotal(chosen, rows));
+        shorter = both(shorter, chosen);
     }
-    m_search->setCounts(text);
+    m_search->setCounts(text, shorter);
 }
 
 QLabel *TabPane::makeLabel(Label label, QWidget *parent)

@@ -97,7 +97,8 @@ public:
     /// Whether the project may be changed; false until all its inventories are there.
     virtual void setEditingEnabled(bool enabled);
 
-    /// Shows a message below the table for a while.
+    /// Shows a message below the table for a while: until the next edit of the project or another selection.
+    /// What follows in the same call of the event loop belongs to what the message tells of.
     void showMessage(const QString &text);
     /// The same with a button that copies the path that the message is about.
     void showMessage(const QString &text, const QString &path);
@@ -195,6 +196,8 @@ private:
     void showHeaderMenu(const QPoint &position);
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
+    void clearMessage();
+    void dropMessage();
     void updateBusy();
     void updatePlaceholder();
     void updateCounts();
@@ -219,6 +222,7 @@ private:
     QTimer *m_busyTimer;
     MessageLine *m_message;
     QTimer *m_messageTime;
+    QTimer *m_newMessage; // runs while what is told of may go on
     QHash<Label, QLabel *> m_labels;
     QSet<QString> m_newColumns; // added without a position in the stored layout
 

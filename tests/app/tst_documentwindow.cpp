@@ -4,6 +4,8 @@
 #include "document/widgets/NoticeBar.h"
 #include "document/widgets/ProgressSheet.h"
 #include "interchange/widgets/MarkerListImport.h"
+#include "markers/MarkerEditor.h"
+#include "markers/MarkerInventory.h"
 #include "markers/MarkerKeys.h"
 #include "support/alerts/QVAlert.h"
 #include "support/log/QVLog.h"
@@ -25,7 +27,9 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 
+#include <algorithm>
 #include <future>
 
 using namespace vantrell;
@@ -651,6 +655,42 @@ private Q_SLOTS:
         QTRY_VERIFY(notice());
         QTRY_VERIFY(!second.isBusy());
         QCOMPARE(second.document()->markerArray().at(1)->get(MarkerKey::clipName), byPosition.at(1));
+    }
+
+    /// As edits change how many markers are listed under other owners, the notice follows.
+    void theNoticeOfOwnersFollowsEdits()
+    {
+        m_path = m_home->addFile(QStringLiteral("owners.xml"),
+                                 "<xmeml><sequence><uuid>U</uuid><name>S</name><media><video><track>"
+                                 "<clipitem><name>A</name><marker/></clipitem><clipitem><name>B</name>"
+                                 "<marker><name>b</name></marker></clipitem></track></video></media>"
+                                 "</sequence></xmeml>");
+        openSample();
+        m_window->toolbarMarkers();
+        const auto bars = m_window->findChildren<NoticeBar *>();
+        const auto bar = std::find_if(bars.begin(), bars.end(), [](const NoticeBar *each) {
+            return each->notice().contains(QStringLiteral("than their own"));
+        });
+        QVERIFY(bar != bars.end());
+        const auto counts = [bar] { return (*bar)->notice().section(QStringLiteral(" markers"), 0, 0); };
+        QCOMPARE(counts(), QStringLiteral("1 of 2"));
+        m_window->pane(Tab::Markers).selectRows({1});
+        m_window->duplicateSelection();
+        QTRY_COMPARE(counts(), QStringLiteral("2 of 3"));
+        m_window->undo();
+        QTRY_COMPARE(counts(), QStringLiteral("1 of 2"));
+
+        // Dismissed, it comes back for more of them only.
+        (*bar)->findChild<QToolButton *>()->click();
+        QCOMPARE(counts(), QString());
+        const MarkerInventory &inventory = m_window->workbench().markerInventory();
+        QVERIFY(m_window->workbench().markerEditor().addMarkerAt(1, {.name = QStringLiteral("own")}));
+        QTRY_VERIFY(inventory.listedUnderOthersText().startsWith(QStringLiteral("1 of 3 markers")));
+        QCOMPARE(counts(), QString());
+        m_window->pane(Tab::Markers).selectRows({1});
+        m_window->duplicateSelection();
+        m_window->duplicateSelection();
+        QTRY_COMPARE(counts(), QStringLiteral("3 of 5"));
     }
 
     void sortsWhatAnImportHasAdded()

@@ -103,6 +103,67 @@ private Q_SLOTS:
             window.endReading();
     }
 
+    void messagesGoWithTheNextChange_data()
+    {
+        QTest::addColumn<QString>("change");
+        for (const char *const change : {"selection", "edit", "undo"})
+            QTest::newRow(change) << QString::fromLatin1(change);
+    }
+    void messagesGoWithTheNextChange()
+    {
+        QFETCH(QString, change);
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        TabPane &markers = window.pane(Tab::Markers);
+        TabPane &media = window.pane(Tab::Media);
+        media.copySelection();
+        QCoreApplication::processEvents();
+        markers.selectRows({0});
+        QVERIFY(trigger(window, QStringLiteral("Duplicate")));
+        QCoreApplication::processEvents();
+        QVERIFY(statusOf(window).contains(QStringLiteral("1 marker duplicated")));
+        if (change == QStringLiteral("selection"))
+            markers.selectRows({1});
+        else if (change == QStringLiteral("undo"))
+            window.undo();
+        else
+            QVERIFY(markers.model().setData(
+                markers.model().index(markers.model().rowCount() - 1,
+                                      markers.model().columnOf(QStringLiteral("comment"))),
+                QStringLiteral("New"), Qt::EditRole));
+        QVERIFY2(!statusOf(window).contains(QStringLiteral("duplicated")), qPrintable(statusOf(window)));
+        const QList<QLabel *> labels = media.findChildren<QLabel *>();
+        const bool isToldOfMedia = std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->text().contains(QStringLiteral("Nothing was copied"));
+        });
+        QCOMPARE(isToldOfMedia, change == QStringLiteral("selection")); // of another tab
+    }
+
+    void theEditMenuOffsets()
+    {
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        QAction *const offset = commandOf(window, QStringLiteral("Offset…"), QStringLiteral("Edit"));
+        QVERIFY(offset);
+        const auto isEnabled = [offset] {
+            Q_EMIT qobject_cast<QMenu *>(offset->parent())->aboutToShow();
+            return offset->isEnabled();
+        };
+        window.pane(Tab::Markers).selectRows({});
+        QVERIFY(!isEnabled());
+        window.pane(Tab::Markers).selectRows({2});
+        QVERIFY(isEnabled());
+        window.beginReading({});
+        QVERIFY(!isEnabled());
+        window.endReading();
+        QVERIFY(isEnabled());
+        offset->trigger();
+        QVERIFY(window.findChild<MarkerOffsetSheet *>());
+        window.findChild<MarkerOffsetSheet *>()->reject();
+        window.toolbarEffects();
+        QVERIFY(!isEnabled());
+    }
+
     void aLongPathDoesNotWidenTheWindow_data()
     {
         QTest::addColumn<QString>("tab");

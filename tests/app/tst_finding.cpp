@@ -3,7 +3,10 @@
 #include "app/WindowTitles.h"
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "markers/widgets/MarkerOverviewPanel.h"
+#include "markers/widgets/MarkersPane.h"
 #include "media/MediaKeys.h"
+#include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "workbench/Workbench.h"
@@ -11,6 +14,8 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTest>
 
 using namespace vantrell;
@@ -173,6 +178,63 @@ private Q_SLOTS:
         QTRY_COMPARE(names().size(), 0);
         QVERIFY(trigger(*m_window, QStringLiteral("Go to Timecode…")));
         QVERIFY(statusOf(*m_window).contains(QStringLiteral("no marker to go to")));
+    }
+
+    /// Without a selected row sheets begin with the sequence that the overview shows.
+    void sheetsBeginWithTheSequenceOfTheOverview()
+    {
+        show(Tab::Markers);
+        auto &markers = static_cast<MarkersPane &>(m_window->pane(Tab::Markers));
+        const QString reel = QStringLiteral("Harbour Lights – Reel 1");
+        const QString opening = columnTexts(*m_window, Tab::Markers, QStringLiteral("in")).at(15);
+        QTRY_VERIFY_WITH_TIMEOUT(!markers.overview().isOutdated(), 20000);
+        const auto begin = [&](const QString &command, QString &sequence, QString &timecode) {
+            QVERIFY(trigger(*m_window, command));
+            QDialog *const sheet = visibleSheet();
+            QVERIFY(sheet);
+            sequence = sheet->findChild<QComboBox *>()->currentText();
+            timecode = sheet->findChild<QLineEdit *>()->text();
+            sheet->reject();
+        };
+        QString sequence;
+        QString timecode;
+        markers.selectRows({15}); // Opening, which the overview follows
+        begin(QStringLiteral("Add Marker…"), sequence, timecode);
+        QCOMPARE(sequence, reel);
+        QCOMPARE(timecode, opening);
+        markers.selectRows({});
+        markers.scrollToRow(0); // in another sequence
+        begin(QStringLiteral("Add Marker…"), sequence, timecode);
+        QCOMPARE(sequence, reel);
+        QCOMPARE(timecode, QStringLiteral("01:00:00;00"));
+        begin(QStringLiteral("Go to Timecode…"), sequence, timecode);
+        QCOMPARE(sequence, reel);
+        m_defaults->setValue(MarkerOverviewPanel::shownDefault, false);
+        begin(QStringLiteral("Add Marker…"), sequence, timecode);
+        QVERIFY(sequence != reel);
+    }
+
+    /// Pop-ups are wide enough for their titles, and numbers go last when there is little place.
+    void theSearchLineFits()
+    {
+        ControlPopUp popUp(nullptr);
+        popUp.addItems({QStringLiteral("All Sequences"), QStringLiteral("Trailer selects")});
+        popUp.setCurrentIndex(1);
+        popUp.resize(popUp.sizeHint());
+        QStyleOptionComboBox option;
+        option.initFrom(&popUp);
+        const QRect field =
+            popUp.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &popUp);
+        const QFontMetrics metrics = popUp.fontMetrics();
+        QVERIFY(metrics.horizontalAdvance(popUp.currentText()) <= field.width() - metrics.averageCharWidth());
+
+        show(Tab::Markers);
+        m_window->resize(1280, 600);
+        m_window->currentPane().table().selectAll();
+        QTRY_VERIFY(bar().counts().contains(QStringLiteral("24 selected")));
+        QTRY_COMPARE(bar().shownCounts(), bar().counts());
+        m_window->resize(m_window->minimumSizeHint().expandedTo(m_window->minimumSize()));
+        QTRY_COMPARE(bar().shownCounts(), QStringLiteral("24 markers · 24 selected"));
     }
 
     void goesToTheNextMarkerOfTheColor()

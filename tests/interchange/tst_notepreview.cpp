@@ -116,6 +116,25 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(preview).mid(0, 2), QStringList({u"x A@01:00:10:00+0"_s, u"x B@01:00:20:00+48"_s}));
     }
 
+    /// The table's numbers of drop frame are not everywhere those of other systems.
+    void otherNumbersInDropFrameAreTold()
+    {
+        const QByteArray rate = "<rate><timebase>30</timebase><ntsc>TRUE</ntsc></rate>";
+        MarkerProject project(::project("<sequence><name>Reel</name><duration>17982</duration>" + rate +
+                                        "<timecode>" + rate +
+                                        "<frame>107892</frame><displayformat>DF</displayformat></timecode>"
+                                        "<media/></sequence>"));
+        NotePreview preview(project.document, project.editor,
+                            sourceOf("Timecode,Name\n01:00:02;29,a\n01:00:03;00,b\n01:01:00;02,c\n",
+                                     NoteRoleMemory(m_defaults)));
+        QCOMPARE(rowsOf(preview),
+                 QStringList({u"x a@01:00:02;29+0"_s, u"x b@01:00:03;02+0 Shown as 01:00:03;02"_s,
+                              u"x c@01:01:00;00+0 Shown as 01:01:00;00"_s}));
+        // 60.08 seconds are 1801 frames, 01:01:00;03 elsewhere.
+        preview.setRate(NoteRate{25, false, false});
+        QCOMPARE(rowsOf(preview).at(2), u"x c@01:01:00;01+0 Shown as 01:01:00;01"_s);
+    }
+
     void colorsAreMapped()
     {
         MarkerProject project(projectXml());
