@@ -1419,6 +1419,10 @@
         <source>%1 of the effects were removed from the project.</source>
         <translation>%1 der Effekte wurden aus dem Projekt entfernt.</translation>
     </message>
+    <message>
+        <source>Markers of %1 sequences and clips stand in one list.</source>
+        <translation>Marker von %1 Sequenzen und Clips stehen in einer Liste.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

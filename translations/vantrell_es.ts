@@ -1419,6 +1419,10 @@
         <source>%1 of the effects were removed from the project.</source>
         <translation>%1 de los efectos se quitaron del proyecto.</translation>
     </message>
+    <message>
+        <source>Markers of %1 sequences and clips stand in one list.</source>
+        <translation>Los marcadores de %1 secuencias y clips están en una misma lista.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

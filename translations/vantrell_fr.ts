@@ -1419,6 +1419,10 @@
         <source>%1 of the effects were removed from the project.</source>
         <translation>%1 des effets ont été supprimés du projet.</translation>
     </message>
+    <message>
+        <source>Markers of %1 sequences and clips stand in one list.</source>
+        <translation>Les marqueurs de %1 séquences et clips figurent dans une même liste.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>
@@ -4826,7 +4830,7 @@ cherché dans %2
     </message>
     <message>
         <source>All rows on show are included: %1.</source>
-        <translation>Toutes les lignes affichées sont incluses : %1.</translation>
+        <translation>Toutes les lignes affichées sont incluses&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Only the selected row of %1 is included.</source>

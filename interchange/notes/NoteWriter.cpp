@@ -91,6 +91,7 @@ public:
             m_leftOutFields += note->fields.empty() ? 0 : 1;
         }
         tellFields();
+        tellPlaces();
         if (m_withBars > 0)
             m_changes.append(
                 QStringLiteral("A bar was replaced by a slash in %1.").arg(counted(m_withBars, "text")));
@@ -135,6 +136,7 @@ public:
             m_changes.append(
                 QStringLiteral("The duration of %1 is left out.").arg(counted(withLength, "marker")));
         tellColorsLeftOut();
+        tellPlaces();
     }
 
     void webVtt()
@@ -152,6 +154,7 @@ public:
             }
         }
         tellColorsLeftOut();
+        tellPlaces();
     }
 
     Written written()
@@ -310,6 +313,17 @@ private:
         });
         if (isMixed)
             m_changes.append(QStringLiteral("The timecodes of several frame rates stand in one list."));
+    }
+
+    /// The list has one timeline.
+    void tellPlaces()
+    {
+        QSet<QString> places;
+        for (const WrittenNote &note : m_notes)
+            places.insert(note.sequence.isEmpty() ? QLatin1Char('/') + note.clip : note.sequence);
+        if (places.size() > 1)
+            m_changes.append(
+                QStringLiteral("Markers of %1 sequences and clips stand in one list.").arg(places.size()));
     }
 
     static QString clock(qint64 frame, const NoteRate &rate)

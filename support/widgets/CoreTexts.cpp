@@ -227,6 +227,7 @@ constexpr const char *messageTexts[] = {
     QT_TRANSLATE_NOOP("Message", "The custom fields of %1 are left out."),
     QT_TRANSLATE_NOOP("Message", "Colours are left out."),
     QT_TRANSLATE_NOOP("Message", "The timecodes of several frame rates stand in one list."),
+    QT_TRANSLATE_NOOP("Message", "Markers of %1 sequences and clips stand in one list."),
     QT_TRANSLATE_NOOP("Message", "1 marker"),
     QT_TRANSLATE_NOOP("Message", "%1 markers"),
     QT_TRANSLATE_NOOP("Message", "1 text"),

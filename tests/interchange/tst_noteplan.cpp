@@ -205,6 +205,21 @@ private Q_SLOTS:
         QTEST(rows.join(u'\n'), "rows");
         QTEST(written.changes, "changes");
     }
+
+    void listsOfSeveralSequences()
+    {
+        WrittenNote note;
+        note.time = note.endTime = u"01:00:00:00"_s;
+        note.rate = pal;
+        std::vector<WrittenNote> notes(3, note);
+        notes[0].sequence = u"Reel 1"_s;
+        notes[1].clip = notes[2].clip = u"Wide"_s;
+        const QString told = u"Markers of 2 sequences and clips stand in one list."_s;
+        for (const QString &format : NoteWriter::formats()) {
+            const bool isTold = format.contains(u"edl"_s) || format == u"chapters"_s || format == u"webvtt"_s;
+            QCOMPARE(NoteWriter::write(format, notes).changes.contains(told), isTold);
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(NotePlanTest)
