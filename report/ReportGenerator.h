@@ -47,6 +47,8 @@ public:
     /// consumer. An invalid index is ignored.
     void setColumnSelected(std::size_t index, bool selected);
 
+    ReportTable::RowCounts rowCounts() const { return table().rowCounts(); }
+
     /// The whole report as HTML, or only the content of its body; null when the printed table has no rows.
     QString generateHTMLForPrinting(bool wholeDocument = true) const;
 

@@ -82,6 +82,15 @@ public:
     const QStringList &columnTitles() const { return m_columnTitles; }
     const ReportImages &images() const { return m_images; }
 
+    /// How many rows the report includes, of how many on show.
+    struct RowCounts {
+        std::size_t included;
+        std::size_t onShow;
+    };
+    RowCounts rowCounts() const
+    {
+        return {m_hasSelection ? m_selection.size() : m_rows.size(), m_rows.size()};
+    }
     bool isEmpty() const { return m_hasSelection ? m_selection.empty() : m_rows.empty(); }
     /// Calls the function for each row of the report, in table order.
     void forEachRow(const std::function<void(const RowRecord &)> &use) const;

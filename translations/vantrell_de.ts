@@ -4824,6 +4824,22 @@ gesucht unter %2
         <source>&amp;Columns:</source>
         <translation>&amp;Spalten:</translation>
     </message>
+    <message>
+        <source>All rows on show are included: %1.</source>
+        <translation>Alle angezeigten Zeilen sind enthalten: %1.</translation>
+    </message>
+    <message>
+        <source>Only the selected row of %1 is included.</source>
+        <translation>Nur die ausgewählte von %1 Zeilen ist enthalten.</translation>
+    </message>
+    <message>
+        <source>Only the %1 selected rows of %2 are included.</source>
+        <translation>Nur die %1 ausgewählten von %2 Zeilen sind enthalten.</translation>
+    </message>
+    <message>
+        <source>To have all of them, select all (Ctrl+A) first.</source>
+        <translation>Für alle wählen Sie vorher alle aus (Strg+A).</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

@@ -4824,6 +4824,22 @@ buscado en %2
         <source>&amp;Columns:</source>
         <translation>Col&amp;umnas:</translation>
     </message>
+    <message>
+        <source>All rows on show are included: %1.</source>
+        <translation>Se incluyen todas las filas mostradas: %1.</translation>
+    </message>
+    <message>
+        <source>Only the selected row of %1 is included.</source>
+        <translation>Solo se incluye la fila seleccionada de %1.</translation>
+    </message>
+    <message>
+        <source>Only the %1 selected rows of %2 are included.</source>
+        <translation>Solo se incluyen las %1 filas seleccionadas de %2.</translation>
+    </message>
+    <message>
+        <source>To have all of them, select all (Ctrl+A) first.</source>
+        <translation>Para incluirlas todas, selecciónelas antes (Ctrl+A).</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

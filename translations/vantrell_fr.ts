@@ -4824,6 +4824,22 @@ cherché dans %2
         <source>&amp;Columns:</source>
         <translation>&amp;Colonnes&#xa0;:</translation>
     </message>
+    <message>
+        <source>All rows on show are included: %1.</source>
+        <translation>Toutes les lignes affichées sont incluses : %1.</translation>
+    </message>
+    <message>
+        <source>Only the selected row of %1 is included.</source>
+        <translation>Seule la ligne sélectionnée parmi %1 est incluse.</translation>
+    </message>
+    <message>
+        <source>Only the %1 selected rows of %2 are included.</source>
+        <translation>Seules les %1 lignes sélectionnées sur %2 sont incluses.</translation>
+    </message>
+    <message>
+        <source>To have all of them, select all (Ctrl+A) first.</source>
+        <translation>Pour les avoir toutes, sélectionnez d’abord tout (Ctrl+A).</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

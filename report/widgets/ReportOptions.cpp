@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -63,8 +64,12 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
         report.setColumnSelected(std::size_t(m_columns->row(item)), item->checkState() == Qt::Checked);
     });
 
+    auto *const rows = new QLabel(rowsText(report.rowCounts()), this);
+    rows->setWordWrap(true);
+
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(rows);
     layout->addWidget(titleLabel);
     layout->addWidget(m_title);
     layout->addWidget(m_colorLabels);
@@ -74,6 +79,17 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
     connect(&m_defaults, &UserDefaults::changed, this, &ReportOptions::showDefault);
     showDefault(projectTitleKey);
     showDefault(printColorLabelsKey);
+}
+
+QString ReportOptions::rowsText(ReportTable::RowCounts rows)
+{
+    const auto number = [](std::size_t count) { return QLocale().toString(qulonglong(count)); };
+    if (rows.included == rows.onShow)
+        return tr("All rows on show are included: %1.").arg(number(rows.onShow));
+    return (rows.included == 1 ? tr("Only the selected row of %1 is included.").arg(number(rows.onShow))
+                               : tr("Only the %1 selected rows of %2 are included.")
+                                     .arg(number(rows.included), number(rows.onShow))) +
+           QLatin1Char(' ') + tr("To have all of them, select all (Ctrl+A) first.");
 }
 
 void ReportOptions::showDefault(const QString &key)

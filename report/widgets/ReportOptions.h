@@ -1,5 +1,7 @@
 #pragma once
 
+#include "report/ReportTable.h"
+
 #include <QWidget>
 
 class QCheckBox;
@@ -13,9 +15,9 @@ namespace vantrell
 class ReportGenerator;
 class UserDefaults;
 
-/// The options of a report: title, labels of marker colours, and columns. Title and labels are kept in the
-/// user defaults; every change affects the report at once. Main thread; the generator and the defaults
-/// outlive the widget.
+/// Tells how many rows a report includes, and has its options: title, labels of marker colours, and columns.
+/// Title and labels are kept in the user defaults; every change affects the report at once. Main thread; the
+/// generator and the defaults outlive the widget.
 class ReportOptions final : public QWidget
 {
     Q_OBJECT
@@ -25,6 +27,7 @@ public:
     ReportOptions(ReportGenerator &report, UserDefaults &defaults, const QString &fileTitle, QWidget *parent);
 
 private:
+    static QString rowsText(ReportTable::RowCounts rows);
     void showDefault(const QString &key);
     void storeTitle();
 

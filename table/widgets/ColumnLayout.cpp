@@ -22,15 +22,16 @@ namespace
 
 // In characters of average width
 constexpr int smallestText = 10;
-constexpr int smallestKey = 22;
 constexpr int smallestPopUp = 14; // with an icon and an arrow
 constexpr int smallestStretched = 14;
 constexpr int widestFit = 60;
 constexpr int aroundDigits = 4; // of a column's characters, those that leave room about its digits
 
-/// Which column cannot be hidden, and which take the remaining width: the first one that is shown.
+/// Which column cannot be hidden, how narrow it may become in characters, and which columns take the
+/// remaining width: the first one that is shown.
 struct Roles {
     QString key;
+    int smallestKey;
     std::array<QString, 2> stretched;
 };
 
@@ -39,13 +40,13 @@ Roles rolesOf(Tab tab)
     using namespace Qt::StringLiterals;
     switch (tab) {
     case Tab::Media:
-        return {u"filename"_s, {u"directory"_s, u"filename"_s}};
+        return {u"filename"_s, 26, {u"directory"_s, u"filename"_s}};
     case Tab::Effects:
-        return {u"name"_s, {u"name"_s, u"name"_s}};
+        return {u"name"_s, 18, {u"name"_s, u"name"_s}};
     case Tab::Markers:
         break;
     }
-    return {u"name"_s, {u"comment"_s, u"name"_s}};
+    return {u"name"_s, 18, {u"comment"_s, u"name"_s}};
 }
 
 /// Whether the cells may be shortened: their texts can be read elsewhere.
@@ -289,7 +290,7 @@ int ColumnLayout::smallestWidth(int section) const
     else if (!canShorten(one) || one.title.isEmpty()) // what tells the color
         smallest = usualWidth(one);
     else if (one.identifier == key())
-        smallest = smallestKey * m_characterWidth;
+        smallest = rolesOf(m_model.tab()).smallestKey * m_characterWidth;
     else if (section == stretchedSection())
         smallest = smallestStretched * m_characterWidth;
     else

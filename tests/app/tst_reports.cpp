@@ -112,6 +112,10 @@ private Q_SLOTS:
         m_window->exportReport();
         auto *const sheet = m_window->findChild<ExportReportSheet *>();
         QVERIFY(sheet && sheet->isVisible());
+        QStringList labels;
+        for (const auto *const label : sheet->findChildren<QLabel *>())
+            labels.append(label->text());
+        QVERIFY2(labels.join(u' ').contains(u"Only the selected row of "_s), qPrintable(labels.join(u' ')));
         // A report that can be written only later holds what was selected when it was chosen.
         QSignalSpy late(m_window.get(), &DocumentWindow::reportExported);
         m_window->beginReading({});
