@@ -116,10 +116,18 @@ private Q_SLOTS:
         window.toolbarMarkers();
         TabPane &markers = window.pane(Tab::Markers);
         TabPane &media = window.pane(Tab::Media);
+        const auto tellsOfMedia = [&media] {
+            const auto labels = media.findChildren<WrappedLabel *>();
+            return std::any_of(labels.begin(), labels.end(), [](const WrappedLabel *label) {
+                return label->whole().contains(QStringLiteral("Nothing was copied"));
+            });
+        };
         media.copySelection();
         QCoreApplication::processEvents();
         markers.selectRows({0});
+        QVERIFY(tellsOfMedia()); // that was another tab's
         QVERIFY(trigger(window, QStringLiteral("Duplicate")));
+        QVERIFY(!tellsOfMedia());
         QCoreApplication::processEvents();
         QVERIFY(statusOf(window).contains(QStringLiteral("1 marker duplicated")));
         if (change == QStringLiteral("selection"))
@@ -132,11 +140,6 @@ private Q_SLOTS:
                                       markers.model().columnOf(QStringLiteral("comment"))),
                 QStringLiteral("New"), Qt::EditRole));
         QVERIFY2(!statusOf(window).contains(QStringLiteral("duplicated")), qPrintable(statusOf(window)));
-        const QList<QLabel *> labels = media.findChildren<QLabel *>();
-        const bool isToldOfMedia = std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
-            return label->text().contains(QStringLiteral("Nothing was copied"));
-        });
-        QCOMPARE(isToldOfMedia, change == QStringLiteral("selection")); // of another tab
     }
 
     void theEditMenuOffsets()
