@@ -263,10 +263,9 @@ void MediaPane::updateShares()
         bar.setShares(std::move(shown));
     };
     show(m_mediaFooter->kinds(),
-         mediaShares(rows,
-                     [&](const RowRecord &row) {
-                         return kindNames.value(row.get(MediaKey::filetype), unknownKind);
-                     }),
+         mediaShares(
+             rows,
+             [&](const RowRecord &row) { return kindNames.value(row.get(MediaKey::filetype), unknownKind); }),
          [&](const QString &name, std::size_t) { return kindColors.value(name, other); });
     show(
         m_mediaFooter->drives(),
