@@ -2261,6 +2261,10 @@
         <source>The changes could not be exported to “%1”.</source>
         <translation>Die Änderungen konnten nicht nach „%1“ exportiert werden.</translation>
     </message>
+    <message>
+        <source>, %1 added</source>
+        <translation>, %1 hinzugefügt</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ComparedProject</name>

@@ -2261,6 +2261,10 @@
         <source>The changes could not be exported to “%1”.</source>
         <translation>No se pudieron exportar los cambios a «%1».</translation>
     </message>
+    <message>
+        <source>, %1 added</source>
+        <translation>, %1 añadidos</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ComparedProject</name>

@@ -2261,6 +2261,10 @@
         <source>The changes could not be exported to “%1”.</source>
         <translation>Impossible d’exporter les modifications dans «&#xa0;%1&#xa0;».</translation>
     </message>
+    <message>
+        <source>, %1 added</source>
+        <translation>, %1 ajoutés</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ComparedProject</name>

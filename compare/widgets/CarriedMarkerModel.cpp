@@ -69,8 +69,17 @@ std::size_t CarriedMarkerModel::thereCount() const
 {
     if (!m_comparison)
         return 0;
+    return std::size_t(
+        std::count_if(m_comparison->markers.begin(), m_comparison->markers.end(),
+                      [](const CarriedMarker &marker) { return marker.isThere && !marker.isAdded; }));
+}
+
+std::size_t CarriedMarkerModel::addedCount() const
+{
+    if (!m_comparison)
+        return 0;
     return std::size_t(std::count_if(m_comparison->markers.begin(), m_comparison->markers.end(),
-                                     [](const CarriedMarker &marker) { return marker.isThere; }));
+                                     [](const CarriedMarker &marker) { return marker.isAdded; }));
 }
 
 void CarriedMarkerModel::wantAll(bool areWanted)

@@ -36,7 +36,9 @@ public:
     std::size_t count() const { return m_comparison ? m_comparison->markers.size() : 0; }
     /// Those of the state that are not there.
     std::size_t countOf(MarkerPlace::State state) const;
+    /// Those that the new cut had already, and those that were added to it.
     std::size_t thereCount() const;
+    std::size_t addedCount() const;
     /// Wants all that have a place and are not there, or none.
     void wantAll(bool areWanted);
 

@@ -474,6 +474,8 @@ void CompareWindow::updateButtons()
                             counted(m_markerModel->countOf(MarkerPlace::State::Nearest)),
                             counted(m_markerModel->countOf(MarkerPlace::State::Gone)),
                             counted(m_markerModel->thereCount()), counted(wanted));
+    if (const std::size_t added = m_markerModel->addedCount(); added > 0)
+        text += tr(", %1 added").arg(counted(added));
     if (m_markerModel->count() == 0)
         text = tr("The old cut has no markers.");
     else if (!isOwnNew())

@@ -297,6 +297,10 @@ void CompareWindowTest::placesWhatIsGone()
              QStringLiteral("01:00:02;00"));
     QCOMPARE(columnTexts(*m_window, Tab::Markers, QStringLiteral("out")).value(row),
              QStringLiteral("00:00:05;00"));
+    QStringList labels;
+    for (const auto *const label : view()->findChildren<QLabel *>())
+        labels.append(label->text());
+    QVERIFY2(!labels.filter(QStringLiteral("; 0 ticked, 1 added")).isEmpty(), qPrintable(labels.join(u'\n')));
 }
 
 void CompareWindowTest::followsChangesAndSwaps()
