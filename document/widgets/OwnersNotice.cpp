@@ -93,8 +93,8 @@ void OwnersNotice::show()
     const std::size_t count = m_inventory->listedUnderOthers();
     const bool isShown = !m_bar.notice().isEmpty();
     if (!isShown && count <= m_told)
-        return; // dismissed
-    m_told = std::max(m_told, count);
+        return;                                       // dismissed
+    m_told = count > 0 ? std::max(m_told, count) : 0; // it may come back by Undo
     const QString text = m_inventory->listedUnderOthersText();
     m_bar.setNotice(text.isEmpty() ? text : text + QLatin1Char('.'));
 }

@@ -679,6 +679,12 @@ private Q_SLOTS:
         QTRY_COMPARE(counts(), QStringLiteral("2 of 3"));
         m_window->undo();
         QTRY_COMPARE(counts(), QStringLiteral("1 of 2"));
+        m_window->pane(Tab::Markers).selectRows({1});
+        pressLater(QStringLiteral("Remove"));
+        m_window->removeSelection();
+        QTRY_COMPARE(counts(), QString());
+        m_window->undo();
+        QTRY_COMPARE(counts(), QStringLiteral("1 of 2"));
 
         // Dismissed, it comes back for more of them only.
         (*bar)->findChild<QToolButton *>()->click();
