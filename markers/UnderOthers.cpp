@@ -20,8 +20,10 @@ bool UnderOthers::work(const RowList &list, std::size_t rows)
             m_parent = parent;
             m_own = OwnOwner::ofMarkersIn(parent);
         }
+        // A marker can be moved to a generator, which is no clip of its own.
+        const XmlNode clip = record.get(MarkerKey::clip);
         const bool isOwn =
-            record.get(MarkerKey::sequence) == m_own.sequence && record.get(MarkerKey::clip) == m_own.clip;
+            record.get(MarkerKey::sequence) == m_own.sequence && (clip == m_own.clip || clip == parent);
         m_count += isOwn ? 0 : 1;
     }
     return m_next >= list.size();

@@ -53,6 +53,7 @@ constexpr const char *messageTexts[] = {
     QT_TRANSLATE_NOOP("Message", "Content is missing: %1, and %2 left out behind that."),
     QT_TRANSLATE_NOOP(
         "Message", "Content is missing: %1 in a comment or instruction that does not end where it should."),
+    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one text on two lines
     QT_TRANSLATE_NOOP("Message", "Content is missing from its place: the tags do not match, so elements near "
                                  "or behind line %1 may be outside of those that they belong to."),
     QT_TRANSLATE_NOOP(

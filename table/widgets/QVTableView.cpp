@@ -306,6 +306,20 @@ void QVTableView::focusInEvent(QFocusEvent *event)
     setAutoScroll(true);
 }
 
+bool QVTableView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+        m_isPressed = true;
+    else if (event->type() == QEvent::MouseButtonRelease)
+        m_isPressed = false;
+    return QTableView::viewportEvent(event);
+}
+
+bool QVTableView::isPressed() const
+{
+    return m_isPressed && QGuiApplication::mouseButtons() != Qt::NoButton;
+}
+
 void QVTableView::keyPressEvent(QKeyEvent *event)
 {
     if (isEditing()) {

@@ -70,6 +70,9 @@ public:
     /// the first one.
     QModelIndex cellBeside(const QModelIndex &index, bool next) const;
 
+    /// Whether the mouse is pressed on the rows.
+    bool isPressed() const;
+
     void reset() override;
 
 Q_SIGNALS:
@@ -85,6 +88,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
@@ -105,6 +109,7 @@ private:
     KeyHandler m_keyDown;
     KeyHandler m_keyUp;
     QPointer<QMenu> m_menu;
+    bool m_isPressed = false;       ///< by a button of the mouse
     QPersistentModelIndex m_edited; // the cell whose editor was opened last
     QString m_placeholder;
 };

@@ -14,8 +14,8 @@
 #include "table/widgets/TableModel.h"
 #include "workbench/Workbench.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -99,7 +99,6 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     m_busyText->hide();
     m_busyTimer->setInterval(busyInterval);
     m_messageTime->setSingleShot(true);
-    m_messageTime->setInterval(messageMs);
     m_newMessage->setSingleShot(true);
     m_newMessage->setInterval(0);
     m_countTimer->setSingleShot(true);
@@ -136,7 +135,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
         else
             m_prepareTimer->setInterval(0);
     });
-    connect(m_messageTime, &QTimer::timeout, this, &TabPane::clearMessage);
+    connect(m_messageTime, &QTimer::timeout, this, &TabPane::endMessage);
     connect(&m_workbench.document(), &MyDocument::historyChanged, this, &TabPane::dropMessage);
     const RowView &view = m_model->view();
     connect(&view, &RowView::willReload, this, &TabPane::tableWillReload);
@@ -565,7 +564,7 @@ void TabPane::showMessage(const QString &text)
 {
     m_message->setMessage(QString());
     setMessage(shownMessage(text));
-    m_messageTime->start();
+    m_messageTime->start(messageMs);
     m_newMessage->start();
 }
 
@@ -576,11 +575,21 @@ void TabPane::clearMessage()
     setMessage(QString());
 }
 
+/// Takes the message away, but not while the mouse is pressed: with its line the rows would move away from
+/// under the mouse, between press and release or between the clicks of a double click.
+void TabPane::endMessage()
+{
+    if (!m_table->isPressed())
+        clearMessage();
+    else
+        m_messageTime->start(QApplication::doubleClickInterval());
+}
+
 /// Takes away a message that tells of something earlier.
 void TabPane::dropMessage()
 {
     if (m_messageTime->isActive() && !m_newMessage->isActive())
-        clearMessage();
+        endMessage();
 }
 
 void TabPane::showMessage(const QString &text, const QString &path)

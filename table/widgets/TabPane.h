@@ -197,6 +197,7 @@ private:
     void moveSection(int section, int from, int to);
     void noteSelectionChange();
     void clearMessage();
+    void endMessage();
     void dropMessage();
     void updateBusy();
     void updatePlaceholder();

@@ -142,6 +142,25 @@ private Q_SLOTS:
         QVERIFY2(!statusOf(window).contains(QStringLiteral("duplicated")), qPrintable(statusOf(window)));
     }
 
+    /// The rows would move away from under the mouse.
+    void messagesStayWhileTheMouseIsPressed()
+    {
+        DocumentWindow &window = open();
+        window.toolbarMarkers();
+        TabPane &markers = window.pane(Tab::Markers);
+        markers.selectRows({0});
+        QVERIFY(trigger(window, QStringLiteral("Duplicate")));
+        QCoreApplication::processEvents();
+        markers.table().scrollToTop();
+        const QRect cell = markers.table().visualRect(markers.model().index(2, 1));
+        const QPoint place = markers.table().viewport()->mapTo(&window, cell.center());
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(markers.selectedRows(), std::vector<std::size_t>{2});
+        QVERIFY(statusOf(window).contains(QStringLiteral("duplicated")));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place);
+        QTRY_VERIFY(!statusOf(window).contains(QStringLiteral("duplicated")));
+    }
+
     void theEditMenuOffsets()
     {
         DocumentWindow &window = open();
