@@ -5,7 +5,11 @@
 #include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
+#include <algorithm>
 #include <cmath>
+#include <compare>
+#include <tuple>
+#include <vector>
 
 namespace vantrell
 {
@@ -29,7 +33,7 @@ struct MarkerRate {
         const double fps = QVTimecode::frameRateFromTimebase(timebase, ntsc);
         return fps > 0 ? fps : double(timebase);
     }
-    friend bool operator==(const MarkerRate &, const MarkerRate &) = default;
+    friend auto operator<=>(const MarkerRate &, const MarkerRate &) = default;
 };
 
 QString durationText(quint64 frames, const MarkerRate &rate)
@@ -54,9 +58,12 @@ QString durationText(quint64 frames, const MarkerRate &rate)
 
 QString totalDurationText(const RowList &markers)
 {
-    std::optional<MarkerRate> first;
-    quint64 frames = 0;
-    double otherSeconds = 0;
+    struct Part {
+        MarkerRate rate;
+        std::size_t markers = 0;
+        quint64 frames = 0;
+    };
+    std::vector<Part> parts;
     for (const RowRecordPtr &marker : markers) {
         const RecordValue *const value = marker->find(MarkerKey::out);
         const QString *const out = value ? std::get_if<QString>(value) : nullptr;
@@ -66,16 +73,24 @@ QString totalDurationText(const RowList &markers)
         if (length <= 0)
             continue;
         const MarkerRate rate = MarkerRate::of(*marker);
-        if (!first)
-            first = rate;
-        if (rate == *first)
-            frames += quint64(length);
-        else
-            otherSeconds += double(length) / rate.fps();
+        auto part =
+            std::find_if(parts.begin(), parts.end(), [&rate](const Part &each) { return each.rate == rate; });
+        if (part == parts.end())
+            part = parts.insert(parts.end(), {.rate = rate});
+        ++part->markers;
+        part->frames += quint64(length);
     }
-    if (!first)
+    if (parts.empty())
         return QString();
-    return durationText(frames + quint64(std::llround(otherSeconds * first->fps())), *first);
+    // Not the first one: the sum does not depend on the order of the markers.
+    std::sort(parts.begin(), parts.end(), [](const Part &a, const Part &b) {
+        return std::tie(a.markers, a.frames, a.rate) > std::tie(b.markers, b.frames, b.rate);
+    });
+    const Part &most = parts.front();
+    double otherSeconds = 0;
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        otherSeconds += double(parts[i].frames) / parts[i].rate.fps();
+    return durationText(most.frames + quint64(std::llround(otherSeconds * most.rate.fps())), most.rate);
 }
 
 } // namespace vantrell

@@ -8,7 +8,7 @@ namespace vantrell
 {
 
 /// The sum of the markers' durations as a timecode, whose hours may exceed 23; empty when none has a
-/// duration. Markers at another rate than the first one with a duration count in real time. Any thread.
+/// duration. It is at the rate of most of these markers; those at others count in real time. Any thread.
 QString totalDurationText(const RowList &markers);
 
 } // namespace vantrell

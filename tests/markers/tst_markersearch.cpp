@@ -324,6 +324,7 @@ private Q_SLOTS:
         const RowList &rows = p.document.markerArray(); // a: 25, c: 10 frames at 25; f: 30 at 30
         QCOMPARE(totalDurationText({rows[0], rows[2]}), QStringLiteral("00:00:01:10"));
         QCOMPARE(totalDurationText(rows), QStringLiteral("00:00:02:10"));
+        QCOMPARE(totalDurationText({rows[4], rows[2], rows[0]}), QStringLiteral("00:00:02:10"));
         QCOMPARE(totalDurationText({rows[4]}), QStringLiteral("00:00:01:00"));
         QCOMPARE(totalDurationText({rows[1], rows[3]}), QString());
         QCOMPARE(totalDurationText({}), QString());
