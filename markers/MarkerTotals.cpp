@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <tuple>
 #include <vector>
 
@@ -33,7 +32,7 @@ struct MarkerRate {
         const double fps = QVTimecode::frameRateFromTimebase(timebase, ntsc);
         return fps > 0 ? fps : double(timebase);
     }
-    friend auto operator<=>(const MarkerRate &, const MarkerRate &) = default;
+    friend bool operator==(const MarkerRate &, const MarkerRate &) = default;
 };
 
 QString durationText(quint64 frames, const MarkerRate &rate)
@@ -84,7 +83,8 @@ QString totalDurationText(const RowList &markers)
         return QString();
     // Not the first one: the sum does not depend on the order of the markers.
     std::sort(parts.begin(), parts.end(), [](const Part &a, const Part &b) {
-        return std::tie(a.markers, a.frames, a.rate) > std::tie(b.markers, b.frames, b.rate);
+        return std::tie(a.markers, a.frames, a.rate.timebase, a.rate.ntsc, a.rate.dropFrame) >
+               std::tie(b.markers, b.frames, b.rate.timebase, b.rate.ntsc, b.rate.dropFrame);
     });
     const Part &most = parts.front();
     double otherSeconds = 0;
