@@ -106,8 +106,10 @@ public:
         m_table->viewport()->installEventFilter(this);
     }
 
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *viewport, QEvent *event) override
     {
+        if (!qobject_cast<QTableView *>(viewport->parent()))
+            return false; // the table is being destroyed, and its viewport is left by the mouse
         if (event->type() == QEvent::MouseMove)
             moveTo(m_table->rowAt(int(static_cast<QMouseEvent *>(event)->position().y())));
         else if (event->type() == QEvent::Leave)
