@@ -19,7 +19,7 @@ packaging_packages=(dpkg-dev file)
 # files, the package and the manual pages; the shells with completions; a display; PDF readers; and what
 # computes checksums to compare with.
 check_packages=(
-    clang-format libxml2-utils
+    clang-format libxml2-utils mold
     appstream desktop-file-utils fakeroot libglib2.0-bin lintian mandoc shared-mime-info
     bash-completion zsh
     x11-utils xvfb
