@@ -24,6 +24,7 @@ namespace
 {
 
 const QString closeQuestion = QStringLiteral("closeQuestionDidEnd:returnCode:contextInfo:");
+const QString failureAnswer = QStringLiteral("saveFailureDidEnd:returnCode:contextInfo:");
 const QString revertQuestion = QStringLiteral("revertQuestionDidEnd:returnCode:contextInfo:");
 
 } // namespace
@@ -115,8 +116,9 @@ void WindowSaving::writeEnded(const QString &path, const Result<void> &written)
     }
     const bool isKnown = reason == SaveFailure::notOverwritten || reason == SaveFailure::cancelled;
     if (!written && !isKnown)
-        m_window.showFailure(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()),
-                             reason);
+        QVAlert::alertSheetWithMessageText(
+            tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName()), tr("Save As…"),
+            tr("Cancel"), QString(), reason, m_window.alertParent(), this, failureAnswer, false, nullptr);
     if (written)
         saved(path);
     finish(written.isOk());
@@ -289,8 +291,7 @@ void WindowSaving::settleChanges(Settling settling)
         changesEnded(true);
     } else {
         m_state.saveForClosing();
-        if (!m_state.isSending())
-            m_window.save();
+        saveForClosing();
     }
 }
 
@@ -324,7 +325,7 @@ void WindowSaving::askBeforeClosing()
 
 bool WindowSaving::respondsTo(const QString &selector) const
 {
-    return selector == closeQuestion || selector == revertQuestion;
+    return selector == closeQuestion || selector == revertQuestion || selector == failureAnswer;
 }
 
 void WindowSaving::perform(const QString &selector, QVAlert *, int code)
@@ -333,8 +334,10 @@ void WindowSaving::perform(const QString &selector, QVAlert *, int code)
         return;
     if (selector == closeQuestion)
         closeQuestionEnded(code);
-    else if (code == AlertAnswer::Alternate)
+    else if (selector == revertQuestion && code == AlertAnswer::Alternate)
         m_window.whenIdle([this] { revertWithoutQuestion(); });
+    else if (selector == failureAnswer && code == AlertAnswer::Default)
+        m_window.whenIdle([this] { saveAs(); });
 }
 
 void WindowSaving::closeQuestionEnded(int code)
@@ -351,9 +354,19 @@ void WindowSaving::closeQuestionEnded(int code)
         changesEnded(true);
     } else {
         m_state.answerSave();
-        if (!m_state.isSending())
-            m_window.save();
+        saveForClosing();
     }
+}
+
+/// The window may be busy with something that began after the question.
+void WindowSaving::saveForClosing()
+{
+    if (m_state.isSending())
+        return; // what is sent counts as the save
+    m_window.whenIdle([this] {
+        if (m_state.isSaveForClosing())
+            m_window.save();
+    });
 }
 
 /// The changes have been dealt with, or the user wants to keep the window.

@@ -66,6 +66,7 @@ private:
     void reloadIf(bool isReadable);
     void askBeforeClosing();
     void closeQuestionEnded(int code);
+    void saveForClosing();
     void changesEnded(bool areSettled);
 
     bool respondsTo(const QString &selector) const override;

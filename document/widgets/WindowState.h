@@ -105,10 +105,15 @@ public:
     {
         m_changes = m_changes == Changes::Asking ? Changes::AskingWhileSaving : Changes::Saving;
     }
+    /// Whether a save, or send, for closing is wanted or under way.
+    bool isSaveForClosing() const
+    {
+        return m_changes == Changes::Saving || m_changes == Changes::AskingWhileSaving;
+    }
     /// Whether the save, or send, was for closing.
     bool saveEnded()
     {
-        if (m_changes != Changes::Saving && m_changes != Changes::AskingWhileSaving)
+        if (!isSaveForClosing())
             return false;
         m_changes = m_changes == Changes::Saving ? Changes::Kept : Changes::Asking;
         return true;

@@ -352,6 +352,24 @@ private Q_SLOTS:
         QVERIFY(!visibleBox());
     }
 
+    /// The question that closing asks is answered while something else has begun.
+    void aSaveForClosingWaitsForTheOperation()
+    {
+        const QPointer<DocumentWindow> window = &open();
+        window->toolbarMarkers();
+        QVERIFY(editCell(*window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("New")));
+        const QString path = window->path();
+        window->close();
+        QTRY_VERIFY(visibleBox());
+        window->beginReading({});
+        QVERIFY(press(visibleBox(), QStringLiteral("Save")));
+        QTest::qWait(50);
+        QVERIFY(window && window->isBusy() && window->document()->isEdited());
+        window->endReading();
+        QTRY_VERIFY(!window || !window->isVisible());
+        QVERIFY(contentOf(path).contains("<name>New</name>"));
+    }
+
     void answersAreAppliedOneAfterTheOther()
     {
         DocumentWindow &window = open();
