@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/FramedCheckStyle.h"
 #include "app/ThemeColors.h"
 #include "support/log/QVException.h"
 #include "support/widgets/DialogMnemonics.h"
@@ -28,6 +29,7 @@ Application::Application(int &argc, char **argv)
     setDesktopFileName(QStringLiteral("vantrell"));
     setWindowIcon(
         QIcon::fromTheme(QStringLiteral("vantrell"), QIcon(QStringLiteral(":/icons/vantrell.svg"))));
+    FramedCheckStyle::install();
     mendPalette();
     DialogMnemonics::install(*this);
     setQuitOnLastWindowClosed(false); // the controller decides

@@ -131,6 +131,9 @@ QList<KeyGroup> otherKeys()
             {keys({Key_Menu, SHIFT | Key_F10}), QT_TRANSLATE_NOOP("KeyList", "The context menu of the selected rows")},
             {keys({CTRL | Key_Menu}), QT_TRANSLATE_NOOP("KeyList", "The menu of the table's header: its columns")},
         }),
+        group(QT_TRANSLATE_NOOP("KeyList", "Media Table"), {
+            {keys({Key_Return, Key_Enter}), QT_TRANSLATE_NOOP("KeyList", "Open the file with its application")},
+        }),
         group(QT_TRANSLATE_NOOP("KeyList", "Markers Table"), {
             {keys({Key_Return, Key_Enter}), QT_TRANSLATE_NOOP("KeyList", "Edit the current cell, or open its list")},
         }),

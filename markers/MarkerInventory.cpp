@@ -153,14 +153,13 @@ void MarkerInventory::setListedUnderOthers(std::size_t count)
     m_listedUnderOthers = count;
 }
 
-QString MarkerInventory::listedUnderOthersText() const
+QString MarkerInventory::listedUnderOthersText(const QLocale &numbers) const
 {
     if (m_listedUnderOthers == 0)
         return QString();
     return QStringLiteral("%1 of %2 markers %3 listed under another sequence or clip than their own")
-        .arg(m_listedUnderOthers)
-        .arg(m_listed)
-        .arg(m_listedUnderOthers == 1 ? QLatin1String("is") : QLatin1String("are"));
+        .arg(numbers.toString(qulonglong(m_listedUnderOthers)), numbers.toString(qulonglong(m_listed)),
+             m_listedUnderOthers == 1 ? QStringLiteral("is") : QStringLiteral("are"));
 }
 
 void MarkerInventory::populateFilteredMarkerData()

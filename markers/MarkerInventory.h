@@ -3,6 +3,8 @@
 #include "document/MyDocument.h"
 #include "markers/OwnOwner.h"
 
+#include <QLocale>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -36,8 +38,9 @@ public:
     void setOwnerListing(OwnerListing listing) { m_listing = listing; }
     OwnerListing ownerListing() const { return m_listing; }
     /// How many markers populateMarkerData() listed under another sequence or clip than their own, as a
-    /// clause without a full stop; empty when there are none. Main thread.
-    QString listedUnderOthersText() const;
+    /// clause without a full stop, with numbers as the locale writes them; empty when there are none. Main
+    /// thread.
+    QString listedUnderOthersText(const QLocale &numbers = QLocale::c()) const;
     std::size_t listedUnderOthers() const { return m_listedUnderOthers; }
     /// The number as it is after edits, for the two above; see UnderOthers. Main thread.
     void setListedUnderOthers(std::size_t count);

@@ -137,9 +137,26 @@ void MarkerPresets::changeMarkerPreset(int item)
 
 void MarkerPresets::showMarkerPresetDialog()
 {
+    m_edited = QString();
     m_rows.clear();
     for (const MarkerColor &color : MarkerColors::table())
         m_rows.push_back({color.icon(), color.label});
+    showSheet();
+}
+
+void MarkerPresets::editMarkerPreset(const QString &name)
+{
+    m_edited = name;
+    const std::optional<QVariantMap> labels = readPreset(name);
+    m_rows.clear();
+    for (const MarkerColor &color : MarkerColors::table())
+        m_rows.push_back({color.icon(), labels ? labels->value(color.label).toString() : color.label});
+    showSheet();
+}
+
+/// The pop-up does not keep the item that asked for the sheet.
+void MarkerPresets::showSheet()
+{
     Q_EMIT sheetRequested();
     m_selected = rememberedItem();
     showMenu();
@@ -153,7 +170,8 @@ void MarkerPresets::cancelMarkerPresetDialog()
 bool MarkerPresets::addMarkerPreset(const QString &typedName)
 {
     DocumentInterface &interface = m_document.interface();
-    const QString name = nameOf(typedName);
+    const bool isEdited = !m_edited.isNull() && typedName == m_edited;
+    const QString name = isEdited ? m_edited : nameOf(typedName);
     if (name.isEmpty()) {
         QVAlert::alertSheetWithMessageText(QStringLiteral("No name specified"),
                                            QStringLiteral("Please choose a name for this preset."),
@@ -170,7 +188,7 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
     }
     const QString path = pathOf(name);
     QDir().mkpath(folder());
-    if (!mayWrite(path))
+    if (!isEdited && !mayWrite(path))
         return false;
     QVariantMap preset;
     for (std::size_t k = 0; k < m_rows.size(); ++k)
@@ -185,7 +203,8 @@ bool MarkerPresets::addMarkerPreset(const QString &typedName)
         return false;
     }
     populateMarkerPresets();
-    changeMarkerPreset(int(m_items.indexOf(name, 1))); // not the "None" that is no preset
+    if (!isEdited)
+        changeMarkerPreset(int(m_items.indexOf(name, 1))); // not the "None" that is no preset
     Q_EMIT sheetEnded();
     return true;
 }

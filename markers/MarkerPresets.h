@@ -50,9 +50,13 @@ public:
 
     /// The last item of the pop-up: fills the rows of the sheet and shows it.
     void showMarkerPresetDialog();
+    /// Shows the sheet with the labels of a preset; the default ones when its file cannot be read.
+    void editMarkerPreset(const QString &name);
+    /// The preset that the sheet was shown for; null for a new one.
+    const QString &editedPreset() const { return m_edited; }
     void cancelMarkerPresetDialog();
-    /// Saves the rows as the preset of that name, chooses it and ends the sheet. False when the sheet stays:
-    /// the user has been told why, or did not want to replace a preset.
+    /// Saves the rows as the preset of that name and ends the sheet; a new preset becomes the chosen one.
+    /// False when the sheet stays: the user has been told why, or did not want to replace another preset.
     bool addMarkerPreset(const QString &name);
 
     /// The presets, without "None".
@@ -86,6 +90,7 @@ private:
     void showMenu();
     void apply();
     void storeChoice();
+    void showSheet();
     bool mayWrite(const QString &path);
 
     MyDocument &m_document;
@@ -95,6 +100,7 @@ private:
     bool m_isStoring = false;
     std::optional<QVariantMap> m_markerLabelDict;
     std::vector<MarkerPresetRow> m_rows;
+    QString m_edited;
 };
 
 } // namespace vantrell

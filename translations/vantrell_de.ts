@@ -475,6 +475,14 @@
         <source>The menu of the table&apos;s header: its columns</source>
         <translation>Das Menü des Tabellenkopfes: seine Spalten</translation>
     </message>
+    <message>
+        <source>Media Table</source>
+        <translation>Medientabelle</translation>
+    </message>
+    <message>
+        <source>Open the file with its application</source>
+        <translation>Datei mit ihrem Programm öffnen</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -522,15 +530,15 @@
     <name>MarkerOffset</name>
     <message>
         <source>Timecodes count at %1 frames per second, without drop frame.</source>
-        <translation>Timecodes zählen mit %1 Bildern pro Sekunde, ohne Drop-Frame.</translation>
+        <translation>Timecodes zählen mit %1 Frames pro Sekunde, ohne Drop-Frame.</translation>
     </message>
     <message>
         <source>Timecodes count at %1 frames per second, the rate of the first row, without drop frame.</source>
-        <translation>Timecodes zählen mit %1 Bildern pro Sekunde, der Framerate der ersten Zeile, ohne Drop-Frame.</translation>
+        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile, ohne Drop-Frame.</translation>
     </message>
     <message>
         <source>Timecodes count at %1 frames per second, the rate of the first row (%2), without drop frame.</source>
-        <translation>Timecodes zählen mit %1 Bildern pro Sekunde, der Framerate der ersten Zeile (%2), ohne Drop-Frame.</translation>
+        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile (%2), ohne Drop-Frame.</translation>
     </message>
     <message>
         <source>%1 frame</source>
@@ -1249,7 +1257,7 @@
     </message>
     <message>
         <source>%1 frames a second have no “%2”.</source>
-        <translation>Bei %1 Bildern pro Sekunde gibt es „%2“ nicht.</translation>
+        <translation>Bei %1 Frames pro Sekunde gibt es „%2“ nicht.</translation>
     </message>
     <message>
         <source>A bar was replaced by a slash in %1.</source>
@@ -1570,6 +1578,25 @@
     <message>
         <source>The logs cannot be read.</source>
         <translation>Die Protokolle können nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Unit</name>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
     </message>
 </context>
 <context>
@@ -2383,6 +2410,10 @@
     <message>
         <source>Redone: %1</source>
         <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>File ▸ Import Notes… adds its markers to an open project.</source>
+        <translation>Datei ▸ Notizen importieren… fügt ihre Marker zu einem geöffneten Projekt hinzu.</translation>
     </message>
 </context>
 <context>
@@ -3290,6 +3321,10 @@ Sequenz der Übersicht wählen oder der ausgewählten Zeile folgen lassen</trans
         <source>The labels stand for the colors in the filter and in the table.</source>
         <translation>Die Bezeichnungen stehen im Filter und in der Tabelle für die Farben.</translation>
     </message>
+    <message>
+        <source>Edit Marker Preset</source>
+        <translation>Marker-Vorgabe bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerPresetsSheet</name>
@@ -3322,6 +3357,10 @@ Sequenz der Übersicht wählen oder der ausgewählten Zeile folgen lassen</trans
 Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
         <translation>Es gibt noch keine Vorgaben.
 Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufklappmenü „Vorgabe“ über den Markern.</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Labels…</source>
+        <translation>Be&amp;zeichnungen bearbeiten…</translation>
     </message>
 </context>
 <context>
@@ -5498,6 +5537,10 @@ hier ablegen</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Wenn Sie Ihre Änderungen nicht speichern, gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter…</translation>
     </message>
 </context>
 <context>

@@ -475,6 +475,14 @@
         <source>The menu of the table&apos;s header: its columns</source>
         <translation>El menú del encabezado de la tabla: sus columnas</translation>
     </message>
+    <message>
+        <source>Media Table</source>
+        <translation>Tabla de medios</translation>
+    </message>
+    <message>
+        <source>Open the file with its application</source>
+        <translation>Abrir el archivo con su aplicación</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -1573,6 +1581,25 @@
     </message>
 </context>
 <context>
+    <name>Unit</name>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+</context>
+<context>
     <name>UnsavedChanges</name>
     <message>
         <source>1 marker</source>
@@ -2383,6 +2410,10 @@
     <message>
         <source>Redone: %1</source>
         <translation>Rehecho: %1</translation>
+    </message>
+    <message>
+        <source>File ▸ Import Notes… adds its markers to an open project.</source>
+        <translation>Archivo ▸ Importar notas… añade sus marcadores a un proyecto abierto.</translation>
     </message>
 </context>
 <context>
@@ -3290,6 +3321,10 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
         <source>The labels stand for the colors in the filter and in the table.</source>
         <translation>Las etiquetas representan los colores en el filtro y en la tabla.</translation>
     </message>
+    <message>
+        <source>Edit Marker Preset</source>
+        <translation>Editar preajuste de marcador</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerPresetsSheet</name>
@@ -3322,6 +3357,10 @@ Elija la secuencia de la vista general o deje que siga la fila seleccionada</tra
 Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
         <translation>Todavía no hay preajustes.
 Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú «Preajuste» sobre los marcadores.</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Labels…</source>
+        <translation>Editar e&amp;tiquetas…</translation>
     </message>
 </context>
 <context>
@@ -5498,6 +5537,10 @@ o un archivo XML</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Los cambios se perderán si no los guarda.</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Guardar como…</translation>
     </message>
 </context>
 <context>

@@ -475,6 +475,14 @@
         <source>The menu of the table&apos;s header: its columns</source>
         <translation>Le menu de l’en-tête du tableau&#xa0;: ses colonnes</translation>
     </message>
+    <message>
+        <source>Media Table</source>
+        <translation>Tableau des médias</translation>
+    </message>
+    <message>
+        <source>Open the file with its application</source>
+        <translation>Ouvrir le fichier avec son application</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -1573,6 +1581,25 @@
     </message>
 </context>
 <context>
+    <name>Unit</name>
+    <message>
+        <source>B</source>
+        <translation>o</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>Go</translation>
+    </message>
+</context>
+<context>
     <name>UnsavedChanges</name>
     <message>
         <source>1 marker</source>
@@ -2383,6 +2410,10 @@
     <message>
         <source>Redone: %1</source>
         <translation>Rétabli&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File ▸ Import Notes… adds its markers to an open project.</source>
+        <translation>Fichier ▸ Importer des notes… ajoute ses marqueurs à un projet ouvert.</translation>
     </message>
 </context>
 <context>
@@ -3290,6 +3321,10 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
         <source>The labels stand for the colors in the filter and in the table.</source>
         <translation>Les libellés remplacent les couleurs dans le filtre et dans le tableau.</translation>
     </message>
+    <message>
+        <source>Edit Marker Preset</source>
+        <translation>Modifier le préréglage de marqueur</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkerPresetsSheet</name>
@@ -3322,6 +3357,10 @@ Choisir la séquence de la vue d’ensemble, ou la laisser suivre la ligne séle
 Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Preset” above the markers.</source>
         <translation>Il n’y a pas encore de préréglages.
 Édition ▸ Créer un préréglage de marqueur… en crée un, tout comme «&#xa0;%1&#xa0;» dans la liste «&#xa0;Préréglage&#xa0;» au-dessus des marqueurs.</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Labels…</source>
+        <translation>Modifier les &amp;libellés…</translation>
     </message>
 </context>
 <context>
@@ -5498,6 +5537,10 @@ ou un fichier XML</translation>
     <message>
         <source>Your changes will be lost if you don’t save them.</source>
         <translation>Vos modifications seront perdues si vous ne les enregistrez pas.</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
     </message>
 </context>
 <context>

@@ -415,17 +415,20 @@ void DocumentWindow::showReverted()
         inventoriesEnded(); // while it was put aside
 }
 
-void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &notice)
+void DocumentWindow::loadEnded(bool loaded, const QString &message, const QString &loadNotice)
 {
     if (!loaded) {
         showLoadFailure(message);
         return;
     }
+    QString notice = loadNotice;
     m_state.treeLoaded();
     if (std::exchange(m_isReloading, false))
         forgetOlderReverted(notice.isEmpty());
     const XmlDocument *const tree = m_workbench->document().xmlDoc();
     const bool hasLoss = tree && !tree->loss().isEmpty();
+    if (tree && tree->rootElement() && tree->rootElement().name() == QLatin1String("fcpxml"))
+        notice += QLatin1Char('\n') + tr("File ▸ Import Notes… adds its markers to an open project.");
     m_notice->setNotice(notice, hasLoss ? NoticeBar::Kind::Lasting : NoticeBar::Kind::Dismissible);
     showOutcomeOfRestoring();
     applyJournalSetting();

@@ -5,6 +5,7 @@
 #include "workbench/Workbench.h"
 
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -95,7 +96,7 @@ void OwnersNotice::show()
     if (!isShown && count <= m_told)
         return;                                       // dismissed
     m_told = count > 0 ? std::max(m_told, count) : 0; // it may come back by Undo
-    const QString text = m_inventory->listedUnderOthersText();
+    const QString text = m_inventory->listedUnderOthersText(QLocale());
     m_bar.setNotice(text.isEmpty() ? text : text + QLatin1Char('.'));
 }
 

@@ -66,13 +66,10 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
 
     table().setAccessibleName(tr("Effects"));
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
-        if (!isEditingEnabled())
-            tellWhyNotEditable();
-        else if (model().columnAt(index.column()).kind == Column::Kind::Text)
-            showMessage(
-                tr("An effect has nothing to open here. Its box switches it on and off, Remove… takes "
-                   "it out, and the editing application changes its settings"));
+        if (!isEditingEnabled() || model().columnAt(index.column()).kind == Column::Kind::Text)
+            openEffect();
     });
+    table().addWatchKeys({13, 3}, "openEffect");
     table().setKeyDownHandler([this](QVTableView &, QKeyEvent &event) {
         const bool isDelete = event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
         if (!isDelete || !table().selectionModel()->hasSelection())
@@ -95,12 +92,22 @@ void EffectsPane::applyFilters()
     const bool isSearch = state.effectSearch != searchBar().text();
     state.effectSearch = searchBar().text();
     if (state.selectedTab != Tab::Effects)
-        return;     // showing the tab applies them
+        return; // showing the tab applies them
+    dropMessage();
     keepHidden({}); // the list is made anew
     if (isSearch)
         workbench().effectInventory().effectSearchAction();
     else
         workbench().effectInventory().changeEffectFilter();
+}
+
+void EffectsPane::openEffect()
+{
+    if (!isEditingEnabled())
+        tellWhyNotEditable();
+    else
+        showMessage(tr("An effect has nothing to open here. Its box switches it on and off, Remove… takes "
+                       "it out, and the editing application changes its settings"));
 }
 
 void EffectsPane::hideSelectedEffects()

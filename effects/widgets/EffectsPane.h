@@ -41,6 +41,8 @@ protected:
 
 private:
     void applyFilters();
+    /// Tells that nothing opens.
+    Q_INVOKABLE void openEffect();
     void hideSelectedEffects();
     void noteReload();
     void keepHidden(RowList hidden);

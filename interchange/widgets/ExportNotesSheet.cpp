@@ -2,9 +2,9 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
+#include "support/widgets/CheckFrame.h"
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/ShownText.h"
-#include "table/widgets/CheckFrame.h"
 #include "table/widgets/TableIcons.h"
 
 #include <QComboBox>

@@ -3,7 +3,7 @@
 #include "interchange/NotePreview.h"
 #include "interchange/widgets/NotePreviewModel.h"
 #include "interchange/widgets/NoteStrip.h"
-#include "table/widgets/CheckFrame.h"
+#include "support/widgets/CheckFrame.h"
 #include "table/widgets/QVTableView.h"
 
 #include <QCheckBox>

@@ -70,7 +70,9 @@ MarkerPresetSheet::MarkerPresetSheet(MarkerPresets &presets, QWidget *parent)
     , m_markerPresetNameText(new QLineEdit(this))
     , m_table(new SheetTable(new PresetRows(presets, this), this))
 {
-    setWindowTitle(tr("Create Marker Preset"));
+    const QString &edited = presets.editedPreset();
+    setWindowTitle(edited.isNull() ? tr("Create Marker Preset") : tr("Edit Marker Preset"));
+    m_markerPresetNameText->setText(edited);
     setWindowModality(Qt::WindowModal);
     auto *const name = new QLabel(tr("Preset &name:"), this);
     name->setBuddy(m_markerPresetNameText);
@@ -99,7 +101,10 @@ MarkerPresetSheet::MarkerPresetSheet(MarkerPresets &presets, QWidget *parent)
     layout->addWidget(hint);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    m_markerPresetNameText->setFocus();
+    if (edited.isNull())
+        m_markerPresetNameText->setFocus();
+    else
+        m_table->setFocus();
 }
 
 void MarkerPresetSheet::reject()

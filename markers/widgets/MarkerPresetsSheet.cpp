@@ -28,6 +28,7 @@ MarkerPresetsSheet::MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent)
           m_list->viewport()))
     , m_failure(new QLabel(this))
     , m_rename(new QPushButton(tr("&Rename"), this))
+    , m_edit(new QPushButton(tr("Edit &Labels…"), this))
     , m_delete(new QPushButton(tr("D&elete…"), this))
 {
     setWindowTitle(tr("Marker Presets"));
@@ -50,10 +51,11 @@ MarkerPresetsSheet::MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent)
     m_failure->hide();
     auto *const close = new QPushButton(tr("&Done"), this);
     close->setDefault(true);
-    for (QPushButton *const button : {m_rename, m_delete})
+    for (QPushButton *const button : {m_rename, m_edit, m_delete})
         button->setAutoDefault(false);
     auto *const buttons = new QHBoxLayout;
     buttons->addWidget(m_rename);
+    buttons->addWidget(m_edit);
     buttons->addWidget(m_delete);
     buttons->addStretch();
     buttons->addWidget(close);
@@ -62,6 +64,7 @@ MarkerPresetsSheet::MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent)
     layout->addWidget(m_failure);
     layout->addLayout(buttons);
     connect(m_rename, &QPushButton::clicked, this, &MarkerPresetsSheet::rename);
+    connect(m_edit, &QPushButton::clicked, this, &MarkerPresetsSheet::editLabels);
     connect(m_delete, &QPushButton::clicked, this, &MarkerPresetsSheet::remove);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_list, &QListWidget::itemChanged, this,
@@ -120,6 +123,16 @@ void MarkerPresetsSheet::nameTyped(int row, const QString &name)
     m_list->item(row)->setText(m_names[row]);
 }
 
+/// In the sheet of a single preset, which takes the place of this one.
+void MarkerPresetsSheet::editLabels()
+{
+    const QString name = m_names.value(m_list->currentRow());
+    if (name.isNull())
+        return;
+    accept();
+    m_presets.editMarkerPreset(name);
+}
+
 void MarkerPresetsSheet::remove()
 {
     tell(QString());
@@ -146,6 +159,7 @@ void MarkerPresetsSheet::updateButtons()
     const bool isChosen = m_list->currentRow() >= 0;
     m_hint->setVisible(m_names.isEmpty());
     m_rename->setEnabled(isChosen);
+    m_edit->setEnabled(isChosen);
     m_delete->setEnabled(isChosen);
 }
 

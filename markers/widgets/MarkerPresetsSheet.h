@@ -23,6 +23,7 @@ public:
 private:
     void fill();
     void rename();
+    void editLabels();
     void remove();
     void nameTyped(int row, const QString &name);
     void tell(const QString &failure);
@@ -33,6 +34,7 @@ private:
     QLabel *m_hint; ///< while there are no presets
     QLabel *m_failure;
     QPushButton *m_rename;
+    QPushButton *m_edit;
     QPushButton *m_delete;
     QStringList m_names; // as they stand in the list
 };

@@ -105,6 +105,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
 
     connect(m_filter, &QComboBox::activated, this, [this](int item) {
         table().commitEditing();
+        dropMessage();
         this->workbench().document().viewState().markerFilter = item;
         this->workbench().markerInventory().changeMarkerFilter();
     });

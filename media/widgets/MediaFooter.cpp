@@ -3,6 +3,7 @@
 #include "media/MediaChart.h"
 #include "media/MediaFile.h"
 #include "media/widgets/QVGraphView.h"
+#include "support/widgets/ShownText.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -90,8 +91,8 @@ void MediaFooter::setChart(const std::vector<double> &values)
     m_chart->refresh();
     if (values.size() != 2)
         return;
-    const QString media = MediaFile::formatFileSize(values[0]);
-    const QString free = MediaFile::formatFileSize(values[1]);
+    const QString media = shownSize(MediaFile::formatFileSize(values[0]));
+    const QString free = shownSize(MediaFile::formatFileSize(values[1]));
     m_media->setText(media);
     m_free->setText(free);
     const QString text =

@@ -8,6 +8,7 @@
 #include "support/settings/UserDefaults.h"
 #include "support/threads/BackgroundWork.h"
 #include "support/threads/MainThread.h"
+#include "support/widgets/ShownText.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableIcons.h"
@@ -40,6 +41,11 @@ constexpr std::chrono::milliseconds prepareTime{4};
 constexpr int shareMs = 30;
 const QString useColumnsKey = QStringLiteral("mediaUseColumns");
 
+QString sizeText(double bytes)
+{
+    return shownSize(MediaFile::formatFileSize(bytes));
+}
+
 } // namespace
 
 MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *parent)
@@ -65,13 +71,8 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
         this->workbench().mediaInventory().mediaTableViewDoubleClick(index.row());
     });
     auto *menu = new QMenu(this);
-    menu->addAction(tr("Open"), this, [this] {
-        const std::vector<std::size_t> rows = selectedRows();
-        if (rows.empty())
-            showMessage(tr("No file is selected. Click its row first"));
-        else
-            this->workbench().mediaInventory().mediaTableViewDoubleClick(std::ptrdiff_t(rows.front()));
-    });
+    menu->addAction(tr("Open"), this, &MediaPane::openSelectedFile);
+    table().addWatchKeys({13, 3}, "openSelectedFile");
     menu->addAction(tr("Reveal in File Browser"), this, &MediaPane::revealMediaInFinder);
     menu->addAction(tr("Copy"), this, &TabPane::copySelection);
     menu->addSeparator();
@@ -88,6 +89,15 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     restoreUseColumns();
     updateControls();
+}
+
+void MediaPane::openSelectedFile()
+{
+    const std::vector<std::size_t> rows = selectedRows();
+    if (rows.empty())
+        showMessage(tr("No file is selected. Click its row first"));
+    else
+        workbench().mediaInventory().mediaTableViewDoubleClick(std::ptrdiff_t(rows.front()));
 }
 
 void MediaPane::makeControls()
@@ -150,13 +160,11 @@ QString MediaPane::totalText(const RowList &rows) const
     };
     const RowView &view = model().view();
     const double bytes = sizeOf(rows);
-    const QString size = bytes > 0 ? MediaFile::formatFileSize(bytes) : QString();
+    const QString size = bytes > 0 ? sizeText(bytes) : QString();
     if (&rows != &view.visibleRows() || rows.size() == view.list().size())
         return size;
     const double all = sizeOf(view.list());
-    return all > 0
-               ? tr("%1 of %2", "sizes").arg(MediaFile::formatFileSize(bytes), MediaFile::formatFileSize(all))
-               : size;
+    return all > 0 ? tr("%1 of %2", "sizes").arg(sizeText(bytes), sizeText(all)) : size;
 }
 
 void MediaPane::makeFooter()
@@ -254,11 +262,10 @@ void MediaPane::updateShares()
         for (const MediaShare &share : shares) {
             const QString number = QLocale().toString(qulonglong(share.files));
             const QString files = share.files == 1 ? tr("%1 file").arg(number) : tr("%1 files").arg(number);
-            shown.push_back(
-                {.name = share.name,
-                 .figure = shares.front().bytes > 0 ? MediaFile::formatFileSize(share.bytes) : files,
-                 .part = share.part,
-                 .color = colorOf(share.name, shown.size())});
+            shown.push_back({.name = share.name,
+                             .figure = shares.front().bytes > 0 ? sizeText(share.bytes) : files,
+                             .part = share.part,
+                             .color = colorOf(share.name, shown.size())});
         }
         bar.setShares(std::move(shown));
     };

@@ -60,6 +60,7 @@ private:
     QString driveNameOf(const QString &directory);
     QString systemDriveName() const;
     void setDrives(std::vector<DriveItem> drives);
+    Q_INVOKABLE void openSelectedFile();
     void makeControls();
     void makeFooter();
     void makeSearch();

@@ -63,6 +63,8 @@ QString MediaTableModel::text(const RowRecord &record, const Column &column) con
     if (column.key == MediaKey::missing)
         return isChecked(record, column) ? tr("missing") : QString();
     const QString text = TableModel::text(record, column);
+    if (column.key == MediaKey::filesize)
+        return shownSize(text);
     static const QStringList ownWords{MediaKey::filetype.text(), QStringLiteral("length"),
                                       QStringLiteral("used"), QStringLiteral("notes")};
     if (!ownWords.contains(column.identifier))

@@ -340,6 +340,13 @@ constexpr const char *valueTexts[] = {
     QT_TRANSLATE_NOOP("Value", "Removed"),
 };
 
+constexpr const char *unitTexts[] = {
+    QT_TRANSLATE_NOOP("Unit", "B"),
+    QT_TRANSLATE_NOOP("Unit", "KB"),
+    QT_TRANSLATE_NOOP("Unit", "MB"),
+    QT_TRANSLATE_NOOP("Unit", "GB"),
+};
+
 constexpr const char *editTexts[] = {
     QT_TRANSLATE_NOOP("Edit", "Rename Marker"),
     QT_TRANSLATE_NOOP("Edit", "Rename Markers"),
@@ -407,6 +414,11 @@ std::span<const char *const> CoreTexts::columns()
 std::span<const char *const> CoreTexts::values()
 {
     return valueTexts;
+}
+
+std::span<const char *const> CoreTexts::units()
+{
+    return unitTexts;
 }
 
 std::span<const char *const> CoreTexts::edits()

@@ -13,6 +13,8 @@ std::span<const char *const> messages();
 std::span<const char *const> columns();
 /// What the program itself writes into cells and menus.
 std::span<const char *const> values();
+/// Units of sizes in bytes.
+std::span<const char *const> units();
 /// Names of steps that can be undone.
 std::span<const char *const> edits();
 std::span<const char *const> differences();

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QLocale>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -154,10 +156,25 @@ const Texts &messages()
 
 QString messagePart(const QString &english);
 
+/// Null for what is no size.
+QString sizeText(const QString &english)
+{
+    static const Texts texts("Unit", CoreTexts::units());
+    static const QRegularExpression size(QStringLiteral("^([0-9]+)(?:\\.([0-9]+))? ([KMG]?B)$"));
+    const QRegularExpressionMatch match = size.match(english);
+    if (!match.hasMatch())
+        return QString();
+    const QString fraction = match.hasCaptured(2) ? QLocale().decimalPoint() + match.captured(2) : QString();
+    return match.captured(1) + fraction + u' ' + simpleText(texts, match.captured(3));
+}
+
 /// A name of a single word is never taken for a text of the program.
 QString argumentText(const QString &english)
 {
-    return english.contains(u' ') ? messagePart(english) : english;
+    if (!english.contains(u' '))
+        return english;
+    const QString size = sizeText(english);
+    return size.isNull() ? messagePart(english) : size;
 }
 
 /// A line, a sentence or a part of one; null when it is not known.
@@ -197,6 +214,12 @@ QString messagePart(const QString &english)
 QString shownMessage(const QString &english)
 {
     return english.isEmpty() ? english : messagePart(english);
+}
+
+QString shownSize(const QString &english)
+{
+    const QString size = sizeText(english);
+    return size.isNull() ? english : size;
 }
 
 QString shownColumn(const QString &english)

@@ -12,6 +12,8 @@ namespace vantrell
 /// Of a message, such as that of an alert, each part is translated that CoreTexts has: a line, a sentence,
 /// and what stands in another message in turn. Names and paths stay as they are.
 QString shownMessage(const QString &english);
+/// A number of bytes with its unit, such as "1.50 GB", with the decimal point of the system's locale.
+QString shownSize(const QString &english);
 /// The title of a column.
 QString shownColumn(const QString &english);
 /// A value that the program itself gives to a cell or a menu, such as a kind of file or a colour.

@@ -338,12 +338,26 @@ void QVTableView::keyPressEvent(QKeyEvent *event)
         Q_EMIT copyRequested();
         return;
     }
+    if (selectsCurrentRow(*event))
+        return;
     if (m_keyDown && !m_keyDown(*this, *event))
         QTableView::keyPressEvent(event);
     if (const char16_t character = characterOf(*event))
         performWatched(character);
     if (!m_keyDown)
         QTableView::keyPressEvent(event);
+}
+
+/// Without a selected row the arrow keys select the current one, which is the first row of a new table.
+bool QVTableView::selectsCurrentRow(const QKeyEvent &event)
+{
+    const bool isArrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!isArrow || !isPlain || !currentIndex().isValid() || selectionModel()->hasSelection())
+        return false;
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(currentIndex());
+    return true;
 }
 
 void QVTableView::performWatched(char16_t character)

@@ -100,6 +100,7 @@ private:
     bool moveToCellBeside(bool next);
     bool holdsFocus() const;
     void performWatched(char16_t character);
+    bool selectsCurrentRow(const QKeyEvent &event);
     void openPopUp(const QModelIndex &index);
     void setRowHeight();
 

@@ -367,6 +367,13 @@ void TabPane::sortBy(const QString &identifier)
 void TabPane::clickHeader(int section)
 {
     sortBy(m_model->columnAt(section).identifier);
+    // The selected row stays in view.
+    const std::vector<std::size_t> selected = selectedRows();
+    const QModelIndex current = m_table->currentIndex();
+    if (!selected.empty() && current.isValid()) {
+        const bool isSelected = m_table->selectionModel()->isSelected(current);
+        m_table->scrollTo(m_model->index(isSelected ? current.row() : int(selected.front()), section));
+    }
 }
 
 std::optional<SortDescriptor> TabPane::shownSort() const
@@ -585,7 +592,6 @@ void TabPane::endMessage()
         m_messageTime->start(QApplication::doubleClickInterval());
 }
 
-/// Takes away a message that tells of something earlier.
 void TabPane::dropMessage()
 {
     if (m_messageTime->isActive() && !m_newMessage->isActive())
@@ -628,7 +634,10 @@ SearchBar &TabPane::addSearchBar()
     if (m_lastControl)
         setTabOrder(m_lastControl, &m_search->field());
     setTabOrder(&m_search->field(), m_table);
-    connect(m_search, &SearchBar::changed, this, &TabPane::search);
+    connect(m_search, &SearchBar::changed, this, [this] {
+        dropMessage();
+        search();
+    });
     connect(m_search, &SearchBar::left, this, [this] { m_table->setFocus(Qt::OtherFocusReason); });
     connect(m_search, &SearchBar::entered, m_prepareTimer, [this] { m_prepareTimer->start(0); });
     return *m_search;

@@ -163,6 +163,8 @@ protected:
     /// Shows the text of showMessage(), empty when its time is up. A pane with a status line of its own
     /// overrides it.
     virtual void setMessage(const QString &text);
+    /// Takes away a message that tells of something earlier.
+    void dropMessage();
     /// The selection or the rows changed.
     virtual void updateControls() {}
     /// Shows the rows that fulfil the conditions of the search bar.
@@ -198,7 +200,6 @@ private:
     void noteSelectionChange();
     void clearMessage();
     void endMessage();
-    void dropMessage();
     void updateBusy();
     void updatePlaceholder();
     void updateCounts();

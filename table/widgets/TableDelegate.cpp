@@ -1,6 +1,6 @@
 #include "table/widgets/TableDelegate.h"
 
-#include "table/widgets/CheckFrame.h"
+#include "support/widgets/CheckFrame.h"
 #include "table/widgets/EntryHint.h"
 #include "table/widgets/PopUpCell.h"
 #include "table/widgets/TableModel.h"
@@ -169,7 +169,7 @@ void TableDelegate::paintCheckBox(QPainter *painter, const QStyleOptionViewItem 
     const bool isDim = !isChecked && !index.flags().testFlag(Qt::ItemIsUserCheckable);
     cell.state.setFlag(QStyle::State_Enabled, !isDim);
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &cell, painter, cell.widget);
-    paintCheckFrame(*painter, cell, isDim);
+    paintCheckFrame(*painter, cell, CheckShape::Box, isDim);
     if (option.state.testFlag(QStyle::State_HasFocus))
         paintFocus(painter, option, option.rect);
 }

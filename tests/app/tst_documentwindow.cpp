@@ -353,11 +353,22 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
     }
 
+    void tellsOfAFileThatIsNoProject_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("root");
+        QTest::addColumn<bool>("hasNotes");
+        QTest::newRow("drawing") << QByteArray("<svg><sequence/></svg>") << "svg" << false;
+        QTest::newRow("fcpxml") << QByteArray("<fcpxml version=\"1.9\"/>") << "fcpxml" << true;
+    }
     void tellsOfAFileThatIsNoProject()
     {
-        m_path = m_home->addFile(QStringLiteral("drawing.xml"), "<svg><sequence/></svg>");
+        QFETCH(QByteArray, content);
+        QFETCH(QString, root);
+        m_path = m_home->addFile(QStringLiteral("other.xml"), content);
         openSample();
-        QVERIFY(m_window->message().contains(QStringLiteral("svg")));
+        QVERIFY(m_window->message().contains(root));
+        QTEST(m_window->message().contains(QStringLiteral("File ▸ Import Notes…")), "hasNotes");
         QCOMPARE(m_window->pane(Tab::Media).model().rowCount(), 0);
     }
 
@@ -403,10 +414,17 @@ private Q_SLOTS:
         QCOMPARE(panel->proposedName, QStringLiteral("other Markers.txt"));
         editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Twice"));
         // Where nothing can be written the changes stay unsaved, and the user hears of it.
-        pressLater(QStringLiteral("OK"));
         QVERIFY(!saves(*m_window, m_home->path(QStringLiteral("missing/other.xml"))));
         QVERIFY(m_window->isWindowModified());
-        QTRY_VERIFY(!visibleBox());
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("Save As…")));
+        QTRY_VERIFY(visiblePanel());
+        QSignalSpy saved(m_window, &DocumentWindow::saved);
+        choosePath(m_home->path(QStringLiteral("third.xml")));
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(contentOf(m_home->path(QStringLiteral("third.xml"))).contains("Twice"));
+        editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Thrice"));
         m_window->revert();
         QTRY_VERIFY(visibleBox());
         QVERIFY(press(visibleBox(), QStringLiteral("Revert")));
@@ -414,7 +432,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window->state(), DocumentWindow::State::Ready);
         QTRY_COMPARE(m_window->selectedTab(), Tab::Markers);
         QVERIFY(
-            columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).contains(QStringLiteral("Renamed")));
+            columnTexts(*m_window, Tab::Markers, QStringLiteral("name")).contains(QStringLiteral("Twice")));
     }
 
     void whatIsBeingTypedCounts_data()

@@ -247,6 +247,37 @@ private Q_SLOTS:
         QVERIFY(text(row, "out") != duration);
     }
 
+    /// The first arrow key in a table selects its first row, and Return says or does something in each.
+    void firstKeysInEachTable_data()
+    {
+        QTest::addColumn<Tab>("tab");
+        QTest::newRow("media") << Tab::Media;
+        QTest::newRow("effects") << Tab::Effects;
+        QTest::newRow("markers") << Tab::Markers;
+    }
+    void firstKeysInEachTable()
+    {
+        QFETCH(Tab, tab);
+        showTab(tab);
+        TabPane &pane = m_window->pane(tab);
+        table().setFocus();
+        QTRY_VERIFY(table().hasFocus());
+        const auto message = [&pane] {
+            QString texts;
+            for (const QLabel *const label : pane.findChildren<QLabel *>())
+                texts += label->isVisible() ? label->text() + QLatin1Char('\n') : QString();
+            return texts;
+        };
+        key(Qt::Key_Down);
+        QCOMPARE(pane.selectedRows(), std::vector<std::size_t>{0});
+        key(Qt::Key_Down);
+        QCOMPARE(pane.selectedRows(), std::vector<std::size_t>{1});
+        pane.selectRows({});
+        const QString before = message();
+        key(Qt::Key_Return);
+        QVERIFY(message() != before || table().isEditing());
+    }
+
     void duplicatesAndAdds()
     {
         const int count = table().model()->rowCount();
@@ -346,7 +377,14 @@ private Q_SLOTS:
         }
         QTRY_COMPARE(names(), QStringLiteral("B"));
         QVERIFY(!QFile::exists(m_home->path(folder + QStringLiteral("C.markerpreset"))));
-        sheet->reject();
+        for (QPushButton *const button : sheet->findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Edit Labels…"))
+                button->click();
+        }
+        QTRY_VERIFY(visibleDialog() && visibleDialog() != sheet);
+        QCOMPARE(visibleDialog()->windowTitle(), QStringLiteral("Edit Marker Preset"));
+        QCOMPARE(visibleDialog()->findChild<QLineEdit *>()->text(), QStringLiteral("B"));
+        visibleDialog()->reject();
     }
 
     void switchesAllSelectedEffects()

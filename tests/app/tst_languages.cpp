@@ -23,7 +23,9 @@
 #include <QBuffer>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLocale>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <QTest>
 #include <QTranslator>
@@ -250,6 +252,18 @@ private Q_SLOTS:
         QCOMPARE(shownMessage(english), english);
         const Speaks german(QStringLiteral("de"));
         QTEST(shownMessage(english), "german");
+    }
+
+    void sizesFollowTheLocale()
+    {
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German));
+        const auto restore = qScopeGuard([&before] { QLocale::setDefault(before); });
+        const Speaks french(QStringLiteral("fr"));
+        QCOMPARE(shownSize(QStringLiteral("1.50 GB")), QStringLiteral("1,50 Go"));
+        QCOMPARE(shownSize(QStringLiteral("12 B")), QStringLiteral("12 o"));
+        QCOMPARE(shownSize(QStringLiteral("Take 1.5")), QStringLiteral("Take 1.5"));
+        QVERIFY(shownMessage(QStringLiteral("Total size: 1.50 GB")).endsWith(QStringLiteral("1,50 Go")));
     }
 
     void nothingIsMarkedInVain()

@@ -180,7 +180,9 @@ private Q_SLOTS:
         click(place);
         QVERIFY(selectedNames().isEmpty());
         QVERIFY(statusOf(*m_window).contains(QStringLiteral("“Opening” is hidden by the filter")));
+        QCoreApplication::processEvents();
         filter(0);
+        QVERIFY(!statusOf(*m_window).contains(QStringLiteral("hidden")));
         QVERIFY(std::all_of(strip().sequence()->markers.begin(), strip().sequence()->markers.end(),
                             [](const OverviewMarker &marker) { return marker.isShown; }));
     }

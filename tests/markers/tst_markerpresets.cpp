@@ -267,6 +267,36 @@ private Q_SLOTS:
         QCOMPARE(question.text(AlertKey::AlternateButtonTitle), QStringLiteral("Cancel"));
     }
 
+    void editing_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("questions");
+        QTest::newRow("the same") << "Cut" << 0;
+        QTest::newRow("another") << "New" << 0;
+        QTest::newRow("one that is there") << "Loud" << 1;
+    }
+    void editing()
+    {
+        QFETCH(QString, name);
+        addPreset(QStringLiteral("Cut"), preset(QStringLiteral("Red=Old Blue=Sky")));
+        addPreset(QStringLiteral("Loud"), preset(QStringLiteral("Red=Noise")));
+        m_alerts->queueAnswer(AlertAnswer::Default);
+        Presets presets(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->editMarkerPreset(QStringLiteral("Cut"));
+        QCOMPARE(presets.sheets, QStringList(QStringLiteral("requested")));
+        QCOMPARE(presets->markerPresetTableDataArray()[0].label, QStringLiteral("Old"));
+        presets->setObjectValue(QStringLiteral("New"), QStringLiteral("label"), 0);
+        QVERIFY(presets->addMarkerPreset(name));
+        QTEST(int(m_alerts->shown().size()), "questions");
+        QCOMPARE(contentOf(pathOf(name + QStringLiteral(".markerpreset"))),
+                 preset(QStringLiteral("Red=New Blue=Sky")));
+        QCOMPARE(selected(), name == QStringLiteral("Cut") ? QStringLiteral("None") : name);
+        presets->showMarkerPresetDialog();
+        QVERIFY(presets->editedPreset().isNull());
+        QCOMPARE(presets->markerPresetTableDataArray()[0].label, QStringLiteral("Red"));
+    }
+
     void whereNothingCanBeWritten()
     {
         const QString file = m_home->addFile(presetFolder, "a file");

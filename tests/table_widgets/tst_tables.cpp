@@ -38,6 +38,7 @@ private Q_SLOTS:
     void cleanup();
 
     void sortByHeader();
+    void sortingShowsTheSelectedRow();
     void keepSelection();
     void hideEffectsByKey();
     void watchKeys();
@@ -138,6 +139,22 @@ void TestTables::sortByHeader()
     const MarkersPane next(project().bench, project().defaults);
     QCOMPARE(next.table().horizontalHeader()->sortIndicatorSection(),
              project().markers.model().columnOf(QStringLiteral("name")));
+}
+
+/// A selected row that was in view stays there when it moves.
+void TestTables::sortingShowsTheSelectedRow()
+{
+    project().show(Tab::Markers);
+    QVTableView &table = project().markers.table();
+    clickHeader(Tab::Markers, QStringLiteral("name"));
+    table.resize(table.width(), table.horizontalHeader()->height() + 4 * table.rowHeight(0));
+    project().markers.selectRows({0});
+    table.setCurrentIndex(table.model()->index(0, 0));
+    clickHeader(Tab::Markers, QStringLiteral("name"));
+    const std::vector<std::size_t> selected = project().markers.selectedRows();
+    QCOMPARE(selected, std::vector<std::size_t>{std::size_t(table.model()->rowCount()) - 1});
+    const QRect cell = table.visualRect(table.model()->index(int(selected.front()), 0));
+    QVERIFY(table.viewport()->rect().contains(QPoint(1, cell.center().y())));
 }
 
 void TestTables::keepSelection()

@@ -7,9 +7,11 @@ class QPainter;
 namespace vantrell
 {
 
-/// Paints the frame of a check box in the rectangle of the option on a dark background, where that of most
-/// styles cannot be seen; nothing on a light one.
-void paintCheckFrame(QPainter &painter, const QStyleOptionViewItem &box, bool isDim);
+enum class CheckShape { Box, Circle };
+
+/// Paints the frame of a check box, or a radio button, in the rectangle of the option on a dark background,
+/// where that of most styles cannot be seen; nothing on a light one.
+void paintCheckFrame(QPainter &painter, const QStyleOption &box, CheckShape shape, bool isDim);
 
 /// Paints the cells of the style, and frames their check boxes. Main thread.
 class FramedCheckDelegate final : public QStyledItemDelegate

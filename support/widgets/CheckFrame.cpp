@@ -1,4 +1,4 @@
-#include "table/widgets/CheckFrame.h"
+#include "support/widgets/CheckFrame.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -6,7 +6,7 @@
 namespace vantrell
 {
 
-void paintCheckFrame(QPainter &painter, const QStyleOptionViewItem &box, bool isDim)
+void paintCheckFrame(QPainter &painter, const QStyleOption &box, CheckShape shape, bool isDim)
 {
     if (box.palette.color(QPalette::Base).lightness() >= 128)
         return;
@@ -16,7 +16,11 @@ void paintCheckFrame(QPainter &painter, const QStyleOptionViewItem &box, bool is
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, 1));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(box.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    const QRectF frame = QRectF(box.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (shape == CheckShape::Box)
+        painter.drawRoundedRect(frame, 2, 2);
+    else
+        painter.drawEllipse(frame);
     painter.restore();
 }
 
@@ -32,7 +36,7 @@ void FramedCheckDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     cell.rect = style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, cell.widget);
     const bool isUsable =
         index.flags().testFlag(Qt::ItemIsUserCheckable) && cell.state.testFlag(QStyle::State_Enabled);
-    paintCheckFrame(*painter, cell, !isUsable);
+    paintCheckFrame(*painter, cell, CheckShape::Box, !isUsable);
 }
 
 } // namespace vantrell
