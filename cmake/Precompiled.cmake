@@ -26,6 +26,7 @@ endfunction()
 vantrell_precompile(core LIBRARIES Qt6::Core HEADERS ${vantrell_precompiled_core})
 vantrell_precompile(json LIBRARIES Qt6::Core nlohmann_json::nlohmann_json
     HEADERS ${vantrell_precompiled_core} <nlohmann/json.hpp>)
+target_compile_options(vantrell_precompiled_json PRIVATE ${VANTRELL_JSON_OPTIMISATION})
 if(VANTRELL_WINDOW)
     vantrell_precompile(window LIBRARIES Qt6::Widgets HEADERS ${vantrell_precompiled_window})
 endif()

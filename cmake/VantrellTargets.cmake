@@ -30,11 +30,15 @@ set(VANTRELL_LIBRARY_KIND STATIC)
 if(VANTRELL_SANITIZER_FLAGS)
     set(VANTRELL_LIBRARY_KIND SHARED)
 endif()
-# Tests take about as long to compile as to run, so no build spends time on optimising them, nor on the template code
-# of the argument parser.
+# Tests take about as long to compile as to run, so no build spends time on optimising them; nor does a build for
+# tests only on the template code of JSON and the argument parser.
 set(VANTRELL_TEST_OPTIMISATION $<$<CONFIG:Release>:-O1>)
-set(VANTRELL_PARSER_OPTIMISATION $<$<CONFIG:Release>:-O1>)
+set(VANTRELL_JSON_OPTIMISATION "")
+set(VANTRELL_PARSER_OPTIMISATION -O1)
 if(VANTRELL_SANITIZER_FLAGS)
+    set(VANTRELL_TEST_OPTIMISATION -O0)
+    set(VANTRELL_JSON_OPTIMISATION -O0)
+    set(VANTRELL_PARSER_OPTIMISATION -O0)
     # Ahead of the options of a target, which take checks away: of -fsanitize and -fno-sanitize the last one counts.
     add_compile_options(${VANTRELL_SANITIZER_FLAGS})
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
@@ -68,6 +72,9 @@ function(vantrell_library folder)
     add_library(vantrell_${folder} ${VANTRELL_LIBRARY_KIND} ${ARG_SOURCES})
     set_target_properties(vantrell_${folder} PROPERTIES DEFINE_SYMBOL "")
     target_precompile_headers(vantrell_${folder} REUSE_FROM vantrell_precompiled_${ARG_PRECOMPILED})
+    if(ARG_PRECOMPILED STREQUAL "json")
+        target_compile_options(vantrell_${folder} PRIVATE ${VANTRELL_JSON_OPTIMISATION})
+    endif()
     target_link_libraries(vantrell_${folder} PUBLIC vantrell_common ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
