@@ -113,14 +113,17 @@ void EffectEditor::removeXMLEffect(const RowRecordPtr &effect)
     });
 }
 
-/// Tells when markers went with the elements.
+/// Tells which markers went with the elements.
 void EffectEditor::noteRemoved(const XmlNodeList &elements)
 {
     static const XmlQuery marker(QStringLiteral(".//marker"));
-    const bool heldMarkers = std::any_of(elements.begin(), elements.end(),
-                                         [](XmlNode element) { return bool(marker.first(element)); });
-    if (heldMarkers && m_markersRemoved)
-        m_markersRemoved();
+    XmlNodeList markers;
+    for (const XmlNode element : elements) {
+        const XmlNodeList held = marker.evaluate(element).nodes;
+        markers.insert(markers.end(), held.begin(), held.end());
+    }
+    if (!markers.empty() && m_markersRemoved)
+        m_markersRemoved(markers);
 }
 
 void EffectEditor::removeEffects()

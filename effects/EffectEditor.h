@@ -25,8 +25,11 @@ public:
     EffectEditor(const EffectEditor &) = delete;
     EffectEditor &operator=(const EffectEditor &) = delete;
 
-    /// What to do when effects were removed that held markers.
-    void setMarkersRemovedHandler(std::function<void()> handler) { m_markersRemoved = std::move(handler); }
+    /// What to do with the marker elements that went with effects.
+    void setMarkersRemovedHandler(std::function<void(const XmlNodeList &markers)> handler)
+    {
+        m_markersRemoved = std::move(handler);
+    }
 
     /// Gives the effect's child element of that name the value as its text, adding the child at the end
     /// when there is none. For the key "enabled", "1" switches the effect on and anything else switches it
@@ -61,7 +64,7 @@ private:
 
     MyDocument &m_document;
     EffectInventory &m_inventory;
-    std::function<void()> m_markersRemoved;
+    std::function<void(const XmlNodeList &markers)> m_markersRemoved;
 };
 
 } // namespace vantrell

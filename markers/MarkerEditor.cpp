@@ -40,17 +40,31 @@ MarkerEditor::~MarkerEditor()
     m_document.setRowFollower(Tab::Markers, {});
 }
 
-/// Keeps the free names and in points right.
+/// Keeps the free names and in points right, and the rows that are found by their elements.
 void MarkerEditor::noteRestored(const MyDocument::RestoredRows &rows)
 {
-    if (!m_freeSlots)
+    if (!m_freeSlots || m_listGeneration != m_inventory.generation())
         return;
     for (const RowRecordPtr &record : rows.changed)
         m_freeSlots->update(*record);
     for (const RowRecordPtr &record : rows.added)
-        m_freeSlots->add(*record);
+        noteListed(record);
     for (const RowRecordPtr &record : rows.removed)
-        m_freeSlots->remove(*record);
+        noteRemoved(record);
+}
+
+void MarkerEditor::noteListed(const RowRecordPtr &record)
+{
+    freeSlots().add(*record);
+    if (m_rowIndex)
+        m_rowIndex->add(record);
+}
+
+void MarkerEditor::noteRemoved(const RowRecordPtr &record)
+{
+    freeSlots().remove(*record);
+    if (m_rowIndex)
+        m_rowIndex->remove(*record);
 }
 
 void MarkerEditor::addMarker()
@@ -187,7 +201,7 @@ XmlNode MarkerEditor::parentSequence(std::optional<std::int64_t> parentItem) con
 
 void MarkerEditor::addRecord(const RowRecordPtr &record)
 {
-    freeSlots().add(*record);
+    noteListed(record);
     m_document.appendRow(Tab::Markers, record);
 }
 
@@ -236,7 +250,7 @@ bool MarkerEditor::remove(const RowList &selected)
         const DocumentEdit edit(m_document, Tab::Markers, MarkerEditNames::ofRemoving(records.size()));
         for (const RowRecordPtr &record : records) {
             removeXMLMarker(record);
-            freeSlots().remove(*record);
+            noteRemoved(record);
         }
         m_document.removeRows(Tab::Markers, records);
         m_inventory.populateFilteredMarkerData();
@@ -245,14 +259,14 @@ bool MarkerEditor::remove(const RowList &selected)
     return isRemoved;
 }
 
-void MarkerEditor::dropRemovedMarkers()
+void MarkerEditor::dropRemovedMarkers(const XmlNodeList &markers)
 {
     RowList removed;
-    for (const RowRecordPtr &record : m_document.markerArray()) {
-        const XmlNode marker = record->get(MarkerKey::markerElement);
-        if (!marker || marker.isAttached())
+    for (const XmlNode marker : markers) {
+        const RowRecordPtr record = rowIndex().rowOf(marker);
+        if (!record)
             continue;
-        freeSlots().remove(*record);
+        noteRemoved(record);
         removed.push_back(record);
     }
     if (removed.empty())
@@ -290,11 +304,20 @@ SequenceInfoCache &MarkerEditor::sequences()
 
 FreeMarkerSlots &MarkerEditor::freeSlots()
 {
-    if (!m_freeSlots || m_slotsGeneration != m_inventory.generation()) {
+    if (!m_freeSlots || m_listGeneration != m_inventory.generation()) {
         m_freeSlots.emplace().reset(m_document.markerArray());
-        m_slotsGeneration = m_inventory.generation();
+        m_rowIndex.reset();
+        m_listGeneration = m_inventory.generation();
     }
     return *m_freeSlots;
+}
+
+MarkerRowIndex &MarkerEditor::rowIndex()
+{
+    freeSlots(); // both are of the same list
+    if (!m_rowIndex)
+        m_rowIndex.emplace(m_document.markerArray());
+    return *m_rowIndex;
 }
 
 } // namespace vantrell

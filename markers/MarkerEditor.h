@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/FreeMarkerSlots.h"
+#include "markers/MarkerRowIndex.h"
 #include "markers/OwnerIndexes.h"
 #include "markers/SequenceInfoCache.h"
 
@@ -82,8 +83,8 @@ public:
     bool remove(const RowList &records);
     /// The Remove button: the same with the selected rows, which leaves none selected.
     void removeMarkers();
-    /// Drops the rows of markers whose elements are no longer in the tree, as they went with an effect.
-    void dropRemovedMarkers();
+    /// Drops the rows of those marker elements, which went with an effect.
+    void dropRemovedMarkers(const XmlNodeList &markers);
     /// Takes the record's element out of the tree; the lists stay as they are.
     void removeXMLMarker(const RowRecordPtr &record);
 
@@ -128,6 +129,8 @@ private:
     XmlNode parentSequence(std::optional<std::int64_t> parentItem) const;
     void addRecord(const RowRecordPtr &record);
     void noteRestored(const MyDocument::RestoredRows &rows);
+    void noteListed(const RowRecordPtr &record);
+    void noteRemoved(const RowRecordPtr &record);
     /// The rows of the list with the elements of those records.
     RowList rowsOf(const RowList &records) const;
 
@@ -146,13 +149,15 @@ private:
 
     SequenceInfoCache &sequences();
     FreeMarkerSlots &freeSlots();
+    MarkerRowIndex &rowIndex();
 
     MyDocument &m_document;
     MarkerInventory &m_inventory;
     std::optional<SequenceInfoCache> m_sequences;
     std::optional<OwnerIndexes> m_ownerIndexes;
     std::optional<FreeMarkerSlots> m_freeSlots;
-    std::uint64_t m_slotsGeneration = 0; // of the list that m_freeSlots was made from
+    std::optional<MarkerRowIndex> m_rowIndex;
+    std::uint64_t m_listGeneration = 0; // of the list that these two were made from
 };
 
 } // namespace vantrell

@@ -19,7 +19,8 @@ Workbench::Workbench(DocumentInterface &interface, Inventories inventories, User
 {
     if (defaults && defaults->boolean(MarkerInventory::ownOwnersDefault))
         m_markerInventory.setOwnerListing(OwnerListing::Own);
-    m_effectEditor.setMarkersRemovedHandler([this] { m_markerEditor.dropRemovedMarkers(); });
+    m_effectEditor.setMarkersRemovedHandler(
+        [this](const XmlNodeList &markers) { m_markerEditor.dropRemovedMarkers(markers); });
     m_document.setRowFollower(Tab::Media, {{}, [this] { m_mediaInventory.populateMediaData(); }});
     m_isMade = true;
 }

@@ -2,6 +2,7 @@
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/LongSeries.h"
 #include "tests/support/TemporaryHome.h"
+#include "xml/QVXMLParser.h"
 
 #include <QElapsedTimer>
 
@@ -252,7 +253,9 @@ private Q_SLOTS:
 
         // The rows of markers that went with their owner go, too.
         p.document.rowView(Tab::Markers).show(p.document.markerArray());
-        p.editor.dropRemovedMarkers();
+        XmlNodeList removed = QVXMLParser::nodesForQuery(QStringLiteral("./marker"), clip).value();
+        removed.push_back(gone->get(MarkerKey::markerElement));
+        p.editor.dropRemovedMarkers(removed);
         QCOMPARE(p.document.markerArray(), RowList{kept});
         QCOMPARE(p.document.rowsOnShow(Tab::Markers), RowList{kept});
     }

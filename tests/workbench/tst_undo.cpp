@@ -3,6 +3,8 @@
 #include "tests/workbench/RandomEdits.h"
 #include "tests/workbench/UndoProject.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
 #include <unordered_set>
 
@@ -387,6 +389,28 @@ private Q_SLOTS:
         QVERIFY(p.document().redo() && p.document().undo() && p.document().undo());
         QVERIFY(!p.document().isEdited());
         QCOMPARE(p.state().file, UndoProject(twoSequences).state().file);
+    }
+
+    /// A removed effect costs as much as it holds, not as much as the project has markers.
+    void removesEffectsOfManyMarkers()
+    {
+        const int generators = longWork(1500);
+        const QByteArray generator = "<generatoritem><name>Text</name><effect><name>Text</name></effect>" +
+                                     marker("on text", 7).repeated(66) + "</generatoritem>";
+        UndoProject p("<xmeml><project><children><sequence><name>A</name><media><video><track>" +
+                      generator.repeated(generators) +
+                      "</track></video></media></sequence></children></project></xmeml>");
+        const RowList markers = p.document().markerArray();
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 1; i < generators; ++i) {
+            p.alerts->queueAnswer(1);
+            p.workbench.effectEditor().remove(p.rows(Tab::Effects, {0}));
+        }
+        QVERIFY(p.document().markerArray() == RowList(markers.end() - 66, markers.end()));
+        QVERIFY(p.document().undo() && p.document().undo());
+        QVERIFY(p.document().markerArray() == RowList(markers.end() - 3 * 66, markers.end()));
+        QVERIFY2(timer.elapsed() < 6000, qPrintable(QString::number(timer.elapsed())));
     }
 
     /// However many rows were selected, all of them are again.
