@@ -11,6 +11,38 @@
 namespace vantrell
 {
 
+namespace
+{
+
+/// A copy of the rows, made from one of earlier rows: what they share is moved, for counting the references
+/// to a record touches it.
+RowList copyOf(const RowList &rows, RowList earlier)
+{
+    RowList copy;
+    copy.reserve(rows.size());
+    auto next = earlier.begin();
+    for (const RowRecordPtr &row : rows) {
+        if (next != earlier.end() && *next == row)
+            copy.push_back(std::move(*next++));
+        else
+            copy.push_back(row);
+    }
+    return copy;
+}
+
+RowList sortedByClick(RowList rows, std::vector<SortDescriptor> descriptors, const Columns &columns)
+{
+    const Column *const column =
+        descriptors.empty() ? nullptr : findColumn(columns, descriptors.front().column);
+    const bool isReversed = column && column->reversesWhole && descriptors.front().descending;
+    if (isReversed)
+        descriptors.front().descending = false;
+    rows = sortedRows(std::move(rows), descriptors, columns);
+    return isReversed ? reverseArray(rows) : rows;
+}
+
+} // namespace
+
 /// What a rebuild is made of.
 struct RowView::Snapshot {
     std::uint64_t rebuild = 0;
@@ -115,11 +147,13 @@ RowList RowView::exchange(RowList rows, Order order)
 
 void RowView::showList()
 {
-    if (!m_isVisible || m_visibleRows != m_list) {
+    if (!m_isVisible) {
         show(m_list, Order::Document);
         return;
     }
     Q_EMIT willReload();
+    if (m_visibleRows != m_list)
+        m_visibleRows = copyOf(m_list, std::move(m_visibleRows));
     m_order = Order::Document;
     m_waitingRows.clear();
     Q_EMIT didReload();
@@ -129,13 +163,7 @@ void RowView::sortBy(std::vector<SortDescriptor> descriptors)
 {
     if (m_isVisible) {
         showWaitingRows();
-        std::vector<SortDescriptor> sort = descriptors;
-        const Column *const column = sort.empty() ? nullptr : findColumn(columns(), sort.front().column);
-        const bool isReversed = column && column->reversesWhole && sort.front().descending;
-        if (isReversed)
-            sort.front().descending = false;
-        RowList rows = sortedRows(m_visibleRows, sort, columns());
-        show(isReversed ? reverseArray(rows) : std::move(rows));
+        show(sortedByClick(m_visibleRows, descriptors, columns()));
     }
     m_sortDescriptors = std::move(descriptors);
 }
@@ -208,6 +236,9 @@ RowView::Snapshot RowView::snapshot()
 
 void RowView::commit(Snapshot snapshot)
 {
+    // The user may have clicked a title since.
+    if (snapshot.filter.order == Order::Sorted && snapshot.sortDescriptors != m_sortDescriptors)
+        snapshot.rows = sortedByClick(std::move(snapshot.rows), m_sortDescriptors, columns());
     if (snapshot.isWholeList())
         showList();
     else

@@ -9,6 +9,8 @@ namespace vantrell
 struct SortDescriptor {
     QString column;
     bool descending = false;
+
+    bool operator==(const SortDescriptor &) const = default;
 };
 
 } // namespace vantrell

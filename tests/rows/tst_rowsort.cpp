@@ -1,9 +1,11 @@
 #include "rows/RowSort.h"
+#include "rows/RowView.h"
 
 #include <QRandomGenerator>
 #include <QTest>
 
 #include <algorithm>
+#include <thread>
 
 using namespace vantrell;
 
@@ -92,6 +94,42 @@ private Q_SLOTS:
         QCOMPARE(order({}), Order({0, 1, 2, 3, 4}));
         QCOMPARE(order({{textColumn, false}, {number, true}}), Order({1, 3, 4, 2, 0}));
         QCOMPARE(order({{number, false}, {textColumn, false}}), Order({2, 4, 1, 3, 0}));
+    }
+
+    /// A click on a title while another thread sorts the rows counts.
+    void sortsAsChosenMeanwhile()
+    {
+        MainThreadGate mainThread;
+        RowView view;
+        const Columns columns;
+        std::atomic<bool> isSorting = false;
+        std::atomic<bool> isClicked = false;
+        view.setFilter(columns, [&] {
+            return RowView::Filter{.passes = [&](const RowRecord &) {
+                isSorting = true;
+                isClicked.wait(false);
+                return true;
+            }};
+        });
+        view.setList({row(QStringLiteral("b")), row(QStringLiteral("c")), row(QStringLiteral("a"))});
+        view.setSortDescriptors({{textColumn, false}});
+        view.show({});
+        std::atomic<bool> isDone = false;
+        std::thread worker([&] {
+            view.rebuild(mainThread, [] { return true; });
+            isDone = true;
+        });
+        MainThread::drainUntil([&] { return isSorting.load(); });
+        view.sortBy({{textColumn, true}});
+        isClicked = true;
+        isClicked.notify_all();
+        MainThread::drainUntil([&] { return isDone.load(); });
+        worker.join();
+        QString texts;
+        for (const RowRecordPtr &shown : view.visibleRows())
+            texts += shown->get(textKey);
+        QCOMPARE(texts, QStringLiteral("cba"));
+        QVERIFY(view.order() == RowView::Order::Sorted);
     }
 };
 
