@@ -23,6 +23,7 @@ namespace
 {
 
 const QString selectedPresetKey = QStringLiteral("selectedPreset");
+const QString nonePresetKey = QStringLiteral("selectedPresetIsNamedNone");
 const QString extension = QStringLiteral(".markerpreset");
 const QString noPreset = QStringLiteral("None");
 const QString labelColumn = QStringLiteral("label");
@@ -113,8 +114,8 @@ void MarkerPresets::populateMarkerPresets()
     findPresets();
     apply();
     // What is remembered already may have changed elsewhere in the meantime.
-    if (m_defaults && m_defaults->string(selectedPresetKey) != m_items[m_selected])
-        storeChoice();
+    if (!isRemembered(m_items[m_selected], m_selected > 0))
+        storeChoice(m_items[m_selected], m_selected > 0);
 }
 
 void MarkerPresets::refreshMarkerPresets()
@@ -132,7 +133,7 @@ void MarkerPresets::changeMarkerPreset(int item)
     m_selected = item;
     showMenu();
     apply();
-    storeChoice();
+    storeChoice(m_items[m_selected], m_selected > 0);
 }
 
 void MarkerPresets::showMarkerPresetDialog()
@@ -229,11 +230,8 @@ Result<void> MarkerPresets::renameMarkerPreset(const QString &name, const QStrin
         return Failure{
             QStringLiteral("\"%1\" could not be renamed: %2.").arg(name, file.errorString().trimmed())};
     }
-    if (m_defaults->string(selectedPresetKey) == name) {
-        m_isStoring = true;
-        m_defaults->setValue(selectedPresetKey, newName);
-        m_isStoring = false;
-    }
+    if (isRemembered(name, true))
+        storeChoice(newName, true);
     findPresets();
     apply();
     return {};
@@ -281,7 +279,19 @@ void MarkerPresets::findPresets()
 int MarkerPresets::rememberedItem() const
 {
     const QString remembered = m_defaults ? m_defaults->string(selectedPresetKey) : QString();
-    return remembered.isNull() ? 0 : std::max(0, int(m_items.indexOf(remembered)));
+    if (remembered.isNull())
+        return 0;
+    const int first = remembered == noPreset && m_defaults->boolean(nonePresetKey) ? 1 : 0;
+    return std::max(0, int(m_items.indexOf(remembered, first)));
+}
+
+/// True without defaults.
+bool MarkerPresets::isRemembered(const QString &title, bool isPreset) const
+{
+    if (!m_defaults)
+        return true;
+    return m_defaults->string(selectedPresetKey) == title &&
+           m_defaults->boolean(nonePresetKey) == (isPreset && title == noPreset);
 }
 
 void MarkerPresets::showMenu()
@@ -298,12 +308,14 @@ void MarkerPresets::apply()
     Q_EMIT labelsChanged(labels);
 }
 
-void MarkerPresets::storeChoice()
+/// A second value tells a preset with the name "None" from the item that stands for none.
+void MarkerPresets::storeChoice(const QString &title, bool isPreset)
 {
     if (!m_defaults)
         return;
     m_isStoring = true;
-    m_defaults->setValue(selectedPresetKey, m_items[m_selected]);
+    m_defaults->setValues({{selectedPresetKey, title},
+                           {nonePresetKey, isPreset && title == noPreset ? QVariant(true) : QVariant()}});
     m_isStoring = false;
 }
 

@@ -89,7 +89,8 @@ private:
     int rememberedItem() const;
     void showMenu();
     void apply();
-    void storeChoice();
+    bool isRemembered(const QString &title, bool isPreset) const;
+    void storeChoice(const QString &title, bool isPreset);
     void showSheet();
     bool mayWrite(const QString &path);
 

@@ -496,7 +496,7 @@ void MarkersPane::applyDefaultsChange(const QString &key)
     TabPane::applyDefaultsChange(key);
     if (key == QStringLiteral("customMarkerFields"))
         workbench().markerFields().definitionsChanged();
-    else if (key == QStringLiteral("selectedPreset"))
+    else if (key == QStringLiteral("selectedPreset") || key == QStringLiteral("selectedPresetIsNamedNone"))
         workbench().markerPresets().refreshMarkerPresets();
     else if (key == MarkerInventory::ownOwnersDefault)
         m_ownOwners->setChecked(m_defaults.boolean(key));

@@ -239,6 +239,36 @@ private Q_SLOTS:
         QCOMPARE(presets.sheets, sheets);
     }
 
+    /// It stays the chosen one, here and in other windows, beside the item that stands for none.
+    void aPresetNamedNone()
+    {
+        const QString none = QStringLiteral("None");
+        Presets presets(m_defaults.get());
+        Presets others(m_defaults.get());
+        presets->populateMarkerPresets();
+        presets->showMarkerPresetDialog();
+        presets->setObjectValue(QStringLiteral("Fix"), QStringLiteral("label"), 0);
+        QVERIFY(presets->addMarkerPreset(none));
+        const QString isChosen = QStringLiteral("None|None*|-|Create preset...");
+        presets->refreshMarkerPresets();
+        QCOMPARE(presets.menu(), isChosen);
+        QVERIFY(presets.labels.startsWith(QStringLiteral("Fix ")));
+        others->populateMarkerPresets();
+        QCOMPARE(others.menu(), isChosen);
+
+        others->changeMarkerPreset(0);
+        presets->refreshMarkerPresets();
+        QCOMPARE(presets.menu(), QStringLiteral("None*|None|-|Create preset..."));
+        QVERIFY(presets->renameMarkerPreset(none, QStringLiteral("Cut")));
+        QCOMPARE(selected(), none);
+        presets->changeMarkerPreset(1);
+        QVERIFY(presets->renameMarkerPreset(QStringLiteral("Cut"), none));
+        QCOMPARE(presets.menu(), isChosen);
+        QVERIFY(presets->renameMarkerPreset(none, QStringLiteral("Cut")));
+        others->refreshMarkerPresets();
+        QCOMPARE(others.menu(), QStringLiteral("None|Cut*|-|Create preset..."));
+    }
+
     void overwriting_data()
     {
         QTest::addColumn<int>("answer");
