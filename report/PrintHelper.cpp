@@ -118,8 +118,12 @@ Result<void> writePDF(const QString &program, const FileUtilities::Writer &html,
         const QString reason = QString::fromUtf8(run.value().standardError).trimmed();
         return Failure{reason.isEmpty() ? QStringLiteral("The PDF could not be made.") : reason};
     }
-    return FileUtilities::writeAtomically(output,
-                                          [&pdf](QIODevice &device) { return copy(pdf.path(), device); });
+    const auto mayReplace = [&isCancelled](int) {
+        return isCancelled && isCancelled() ? Result<void>(Failure{QStringLiteral("Writing was cancelled.")})
+                                            : Result<void>();
+    };
+    return FileUtilities::writeAtomically(
+        output, [&pdf](QIODevice &device) { return copy(pdf.path(), device); }, mayReplace);
 }
 
 } // namespace vantrell::PrintHelper

@@ -5,6 +5,7 @@
 #include "markers/MarkerPresets.h"
 #include "media/MediaColumns.h"
 #include "media/MediaKeys.h"
+#include "report/PrintHelper.h"
 #include "report/ReportGenerator.h"
 #include "report/ReportWriter.h"
 #include "support/settings/UserDefaults.h"
@@ -15,6 +16,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <csignal>
 #include <malloc.h>
 
 using namespace vantrell;
@@ -379,6 +381,28 @@ private Q_SLOTS:
         constexpr qint64 block = 64 * 1024;
         QVERIFY(all.largestWrite < 2 * block);
         QVERIFY2(all.heapGrowth < 8 * block, qPrintable(QString::number(all.heapGrowth)));
+    }
+
+    /// Also once the helper has ended.
+    void aCancelledPdfLeavesTheOldFile()
+    {
+        const TemporaryHome home;
+        const QString output = home.addFile(u"report.pdf"_s, "old");
+        const QString pid = home.path(u"pid"_s);
+        QFile helper(
+            home.addFile(u"helper"_s, "#!/bin/sh\necho new >\"$6\"; echo $$ >" + QFile::encodeName(pid)));
+        QVERIFY(helper.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const auto write = [&](bool isCancelled) {
+            const auto html = [](QIODevice &) { return Result<void>(); };
+            return PrintHelper::writePDF(helper.fileName(), html, QString(), output, std::nullopt, [&] {
+                const int process = contentOf(pid).simplified().toInt();
+                return isCancelled && process > 0 && ::kill(process, 0) != 0;
+            });
+        };
+        QVERIFY(!write(true));
+        QCOMPARE(contentOf(output), QByteArray("old"));
+        QVERIFY(write(false));
+        QCOMPARE(contentOf(output), QByteArray("new\n"));
     }
 
     void unwritableDevice()
