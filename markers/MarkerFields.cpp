@@ -169,12 +169,17 @@ void MarkerFields::columnMoved(const QString &identifier, int newIndex)
 }
 
 /// Takes in what other windows stored since the definitions were loaded: the fields that they defined, and
-/// what they changed of fields that are left as they were here.
+/// what they changed of fields that are left as they were here, or that they removed these.
 void MarkerFields::mergeStored()
 {
     if (!m_defaults)
         return;
-    for (const MarkerField &theirs : storedFields()) {
+    const std::vector<MarkerField> stored = storedFields();
+    std::erase_if(m_markerFieldArray, [&](const MarkerField &ours) {
+        const MarkerField *const before = fieldLike(ours, m_loaded);
+        return before && before->title == ours.title && !fieldLike(ours, stored);
+    });
+    for (const MarkerField &theirs : stored) {
         const MarkerField *const before = fieldLike(theirs, m_loaded);
         if (MarkerField *const ours = fieldLike(theirs, m_markerFieldArray)) {
             ours->colIndex = theirs.colIndex;

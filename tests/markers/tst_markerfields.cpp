@@ -72,6 +72,40 @@ private Q_SLOTS:
         QCOMPARE(columns(other), QStringLiteral("QVCUSTOM_TAKE QVCUSTOM_LENS"));
     }
 
+    /// What another window defined, renamed and removed while the sheet is open counts when it closes.
+    void sheetsTakeInChangesOfOthers()
+    {
+        UserDefaults defaults(m_home.path(QStringLiteral("two.plist")), UserDefaults::Access::Volatile);
+        MarkerProject project("<xmeml/>", &defaults);
+        MarkerFields &ours = project.fields;
+        const QString title = QStringLiteral("title");
+        const auto add = [&title](MarkerFields &fields, const char *name) {
+            fields.markerFieldAdd();
+            fields.setObjectValue(QString::fromLatin1(name), title, fields.markerFieldArray().size() - 1);
+        };
+        for (const char *name : {"Take", "Lens", "Crew", "Mood"})
+            add(ours, name);
+        ours.hideMarkerFieldsDialog();
+
+        MarkerProject otherProject("<xmeml/>", &defaults);
+        MarkerFields &theirs = otherProject.fields;
+        ours.showMarkerFieldsDialog();
+        ours.setObjectValue(QStringLiteral("Lens, ours"), title, 1);
+        ours.markerFieldRemove(3);
+        add(ours, "Day");
+        theirs.showMarkerFieldsDialog();
+        theirs.setObjectValue(QStringLiteral("Crew, theirs"), title, 2);
+        theirs.markerFieldRemove(0);
+        theirs.markerFieldRemove(0);
+        add(theirs, "Night");
+        theirs.hideMarkerFieldsDialog();
+        ours.hideMarkerFieldsDialog();
+        QStringList titles;
+        for (const MarkerField &field : ours.markerFieldArray())
+            titles.append(field.title);
+        QCOMPARE(titles.join(QLatin1Char('|')), QStringLiteral("Lens, ours|Crew, theirs|Day|Night"));
+    }
+
     void tellsOfIdentifiersThatOthersHave()
     {
         MarkerProject project("<xmeml/>");
