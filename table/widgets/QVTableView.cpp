@@ -173,11 +173,11 @@ void QVTableView::addWatchKeys(const std::vector<char16_t> &keycodes, const QByt
 QMenu *QVTableView::menuForEvent(const QPoint &position)
 {
     const QModelIndex index = indexAt(position);
-    if (index.isValid()) {
-        // Unlike QTableView's setCurrentIndex() and selectRow(), whatever keys are held.
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    }
+    if (!index.isValid())
+        return nullptr;
+    // Unlike QTableView's setCurrentIndex() and selectRow(), whatever keys are held.
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     return m_menu;
 }
 

@@ -47,7 +47,7 @@ public:
 
     /// The context menu, which the table does not own.
     void setMenu(QMenu *menu) { m_menu = menu; }
-    /// Selects the row at the position alone and gives the menu.
+    /// Selects the row at the position alone and gives the menu; null where there is no row.
     QMenu *menuForEvent(const QPoint &position);
     QMenu *menu() const { return m_menu; }
 

@@ -245,6 +245,11 @@ void TestTables::contextMenuSelectsOneRow()
     const QPoint point = table.visualRect(cell).center();
     QVERIFY(table.menuForEvent(point));
     QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{1});
+    // There is none below the last row, for it would act on rows elsewhere.
+    const QModelIndex last =
+        project().cell(Tab::Markers, table.model()->rowCount() - 1, QStringLiteral("name"));
+    QVERIFY(!table.menuForEvent(table.visualRect(last).bottomLeft() + QPoint(5, 5)));
+    QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{1});
     // Also with a key held that otherwise takes the row out of the selection, or more into it.
     for (const auto key : {Qt::ControlModifier, Qt::ShiftModifier}) {
         project().markers.selectRows({0, 1, 2});
