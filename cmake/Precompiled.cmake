@@ -3,8 +3,8 @@
 # used only with the options that it was compiled with.
 
 set(vantrell_precompiled_std
-    <algorithm> <array> <atomic> <chrono> <condition_variable> <cstdint> <functional> <memory> <mutex> <optional>
-    <string> <thread> <unordered_map> <unordered_set> <utility> <variant> <vector>)
+    <algorithm> <array> <atomic> <chrono> <condition_variable> <cstdint> <deque> <functional> <memory> <mutex>
+    <optional> <set> <span> <string> <thread> <unordered_map> <unordered_set> <utility> <variant> <vector>)
 set(vantrell_precompiled_core
     ${vantrell_precompiled_std}
     <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QFileInfo> <QHash> <QObject> <QSet> <QString>
@@ -32,11 +32,15 @@ if(VANTRELL_WINDOW)
 endif()
 # Qt Test's header depends on the Qt modules of a program, so all tests use the same ones.
 if(BUILD_TESTING)
-    vantrell_precompile(test LIBRARIES Qt6::Test Qt6::Network HEADERS ${vantrell_precompiled_core} <QTest>)
+    set(vantrell_precompiled_testing
+        <QBuffer> <QElapsedTimer> <QJsonArray> <QJsonObject> <QProcess> <QRandomGenerator> <QRegularExpression>
+        <QSignalSpy> <QTemporaryDir> <QTest>)
+    vantrell_precompile(test LIBRARIES Qt6::Test Qt6::Network
+        HEADERS ${vantrell_precompiled_core} ${vantrell_precompiled_testing})
     set(test_sets test)
     if(VANTRELL_WINDOW)
         vantrell_precompile(window_test LIBRARIES Qt6::Widgets Qt6::Test Qt6::Network
-            HEADERS ${vantrell_precompiled_window} <QTest>)
+            HEADERS ${vantrell_precompiled_window} ${vantrell_precompiled_testing} <QCheckBox> <QListWidget> <QMenuBar>)
         list(APPEND test_sets window_test)
     endif()
     foreach(set ${test_sets})

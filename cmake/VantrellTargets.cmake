@@ -44,6 +44,12 @@ if(VANTRELL_SANITIZER_FLAGS)
     target_link_options(vantrell_common INTERFACE ${VANTRELL_SANITIZER_FLAGS})
 endif()
 
+# GCC looks for unused memory whenever its heap has doubled, which the precompiled headers make it do at once. Without
+# that most files take a seventh less time and up to 1 GB.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options($<$<COMPILE_LANGUAGE:CXX>:--param=ggc-min-heapsize=800000>)
+endif()
+
 # A faster linker, if available, for programs that are never shipped.
 include(CheckLinkerFlag)
 check_linker_flag(CXX -fuse-ld=mold VANTRELL_HAS_MOLD)

@@ -2,7 +2,7 @@
 #include "interchange/QVFCPXMLParser.h"
 #include "tests/support/TemporaryHome.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

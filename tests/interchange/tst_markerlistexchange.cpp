@@ -3,7 +3,7 @@
 #include "tests/markers/MarkerProject.h"
 #include "tests/support/TemporaryHome.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 #include "support/log/QVLog.h"
 #include "tests/support/TemporaryHome.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;

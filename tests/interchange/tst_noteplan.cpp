@@ -2,7 +2,7 @@
 #include "interchange/notes/NoteReader.h"
 #include "interchange/notes/NoteWriter.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;

@@ -3,7 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QStringEncoder>
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;

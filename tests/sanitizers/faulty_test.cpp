@@ -1,7 +1,7 @@
 // A Qt Test program with a race: what is left out of the reports for Qt Test's own sake must not
 // hide a race in a test function or in what it calls.
 
-#include <QtTest>
+#include <QTest>
 
 #include <thread>
 

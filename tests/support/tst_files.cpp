@@ -5,7 +5,7 @@
 #include "support/files/StandardFolders.h"
 #include "support/files/TransientFile.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <atomic>
 #include <csignal>

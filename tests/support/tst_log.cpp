@@ -9,7 +9,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 #include <array>
 #include <condition_variable>

@@ -2,7 +2,7 @@
 
 #include "support/files/PropertyList.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 using Dictionary = QVariantMap;

@@ -7,7 +7,7 @@
 
 #include <QProcess>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <thread>

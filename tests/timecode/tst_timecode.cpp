@@ -1,7 +1,7 @@
 #include "support/text/TextNumbers.h"
 #include "timecode/QVTimecode.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <limits>

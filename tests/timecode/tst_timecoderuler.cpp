@@ -1,6 +1,6 @@
 #include "timecode/TimecodeRuler.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace vantrell;
 
