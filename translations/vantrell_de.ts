@@ -3414,6 +3414,10 @@ Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufk
         <source>%1; the duration is kept</source>
         <translation>%1; die Dauer bleibt erhalten</translation>
     </message>
+    <message>
+        <source>On the clip “%1”, which is in no sequence</source>
+        <translation>Auf dem Clip „%1“, der in keiner Sequenz liegt</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkersPane</name>

@@ -3414,6 +3414,10 @@ Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú
         <source>%1; the duration is kept</source>
         <translation>%1; se conserva la duración</translation>
     </message>
+    <message>
+        <source>On the clip “%1”, which is in no sequence</source>
+        <translation>En el clip «%1», que no está en ninguna secuencia</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkersPane</name>

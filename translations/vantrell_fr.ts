@@ -3414,6 +3414,10 @@ Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Pr
         <source>%1; the duration is kept</source>
         <translation>%1&#xa0;; la durée est conservée</translation>
     </message>
+    <message>
+        <source>On the clip “%1”, which is in no sequence</source>
+        <translation>Sur le clip « %1 », qui n’est dans aucune séquence</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MarkersPane</name>

@@ -135,7 +135,11 @@ QIcon MarkerTableModel::icon(const RowRecord &record, const Column &column) cons
 
 QString MarkerTableModel::toolTip(const RowRecord &record, const Column &column) const
 {
-    return column.key == MarkerKey::color ? text(record, column) : TableModel::toolTip(record, column);
+    if (column.key == MarkerKey::color)
+        return text(record, column);
+    const QString tip = TableModel::toolTip(record, column);
+    const bool isInBin = column.key == MarkerKey::clip && !tip.isEmpty() && !sequenceOf(record);
+    return isInBin ? tr("On the clip “%1”, which is in no sequence").arg(tip) : tip;
 }
 
 } // namespace vantrell

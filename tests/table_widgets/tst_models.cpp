@@ -186,6 +186,13 @@ void TestModels::offerClipsOfTheRow()
                           QStringLiteral("Trailer 25 fps"), QStringLiteral("Harbour Lights – Reel 1")}));
     QCOMPARE(titles(QStringLiteral("Opening"), QStringLiteral("color")).value(4),
              QStringLiteral("Turquoise"));
+    // A clip in a bin has no menu to be in, so the cell is empty; its tool tip names the clip.
+    const QModelIndex inBin = m_project->cell(
+        Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("Tide turns")),
+        clip);
+    QCOMPARE(inBin.data(), QString());
+    const QString tip = inBin.data(Qt::ToolTipRole).toString();
+    QVERIFY2(tip.contains(QStringLiteral("which is in no sequence")), qPrintable(tip));
 }
 
 void TestModels::knowVolumes_data()
