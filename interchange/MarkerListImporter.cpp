@@ -37,7 +37,7 @@ std::optional<MarkerListPanel> MarkerListImporter::showMarkerListOpenDialog(cons
 }
 
 std::optional<RowList> MarkerListImporter::rowsOfFile(const QString &path, const QString &format,
-                                                      std::vector<std::size_t> *lines)
+                                                      ListLines *lines)
 {
     if (format == MarkerListFormat::fcpx)
         return QVFCPXMLParser::markersFromXMLFile(path, true);
@@ -71,22 +71,30 @@ MarkerListImporter::Rows MarkerListImporter::rowsOfFiles(const QStringList &path
 {
     Rows all;
     const auto read = [&](const QString &path) {
-        std::vector<std::size_t> lines;
+        ListLines lines;
         const RowList found = rowsOfFile(path, format, &lines).value_or(RowList());
         const QString file = paths.size() > 1 ? QFileInfo(path).fileName() + QStringLiteral(", ") : QString();
         for (std::size_t i = 0; i < found.size(); ++i) {
-            const QString source = lines.empty() ? QStringLiteral("marker %1").arg(i + 1)
-                                                 : QStringLiteral("line %1").arg(lines[i]);
+            const QString source = lines.ofRows.empty() ? QStringLiteral("marker %1").arg(i + 1)
+                                                        : QStringLiteral("line %1").arg(lines.ofRows[i]);
             all.rows.push_back(found[i]);
             all.sources.append(file + source);
+        }
+        for (const ListLines::Skipped &skipped : lines.skipped) {
+            all.skipped.push_back({file + QStringLiteral("line %1").arg(skipped.line), QString(),
+                                   QStringLiteral("The line has %1 fields instead of %2.")
+                                       .arg(skipped.fields)
+                                       .arg(skipped.wanted)});
         }
     };
     const bool isWhole = guarded("-[MyDocument markerOpenDialogDidEnd:returnCode:contextInfo:]", [&] {
         for (const QString &path : paths)
             read(path);
     });
-    if (!isWhole)
-        all = {{}, {}, false};
+    if (!isWhole) {
+        all = Rows();
+        all.isWhole = false;
+    }
     return all;
 }
 
@@ -125,12 +133,15 @@ void MarkerListImporter::addMarkers(const Rows &rows, Progress &progress,
             if (limit && std::chrono::steady_clock::now() - start >= *limit)
                 break;
         }
+        if (progress.next == rows.rows.size())
+            progress.rejected.insert(progress.rejected.end(), rows.skipped.begin(), rows.skipped.end());
     });
 }
 
 QString MarkerListImporter::Rejected::text() const
 {
-    return QStringLiteral("%1, “%2”: %3").arg(source, name, reason);
+    return name.isNull() ? QStringLiteral("%1: %2").arg(source, reason)
+                         : QStringLiteral("%1, “%2”: %3").arg(source, name, reason);
 }
 
 void MarkerListImporter::tellOfRejected(const Progress &progress) const
@@ -144,9 +155,10 @@ void MarkerListImporter::tellOfRejected(const Progress &progress) const
         lines.append(rejected[i].text());
     if (rejected.size() > maximumListed)
         lines.append(QStringLiteral("… and %1 more").arg(rejected.size() - maximumListed));
-    QVAlert::alertSheetWithMessageText(
-        QStringLiteral("%1 of %2 rows could not be added").arg(rejected.size()).arg(progress.next),
-        lines.join(QLatin1Char('\n')), m_document.interface().alertParent());
+    QVAlert::alertSheetWithMessageText(QStringLiteral("%1 of %2 rows could not be added")
+                                           .arg(rejected.size())
+                                           .arg(progress.added + rejected.size()),
+                                       lines.join(QLatin1Char('\n')), m_document.interface().alertParent());
 }
 
 } // namespace vantrell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/MarkerListPanel.h"
+#include "interchange/QVMarkerListParser.h"
 #include "rows/RowRecord.h"
 
 #include <QStringList>
@@ -33,28 +34,29 @@ public:
     std::optional<MarkerListPanel> importFCPXMarkers() const;
     std::optional<MarkerListPanel> showMarkerListOpenDialog(const QString &format) const;
 
+    /// A row or line that could not be added as a marker.
+    struct Rejected {
+        QString source;
+        QString name; ///< null for a line that is no row
+        QString reason;
+
+        QString text() const;
+    };
     /// The rows of several files, in order.
     struct Rows {
         RowList rows;
         /// Where each one comes from: the file's name, where there are several files, and the line, counted
         /// from 1; of an interchange file the number of the marker.
         QStringList sources;
-        bool isWhole = true; ///< false when there was not enough memory for all of them
-    };
-    /// A row that could not be added as a marker.
-    struct Rejected {
-        QString source;
-        QString name;
-        QString reason;
-
-        QString text() const;
+        std::vector<Rejected> skipped = {}; ///< the lines that are no rows
+        bool isWhole = true;                ///< false when there was not enough memory for all of them
     };
     /// The progress of adding.
     struct Progress {
-        std::size_t next = 0;  ///< index of the next row
-        std::size_t added = 0; ///< markers added from the rows before it
-        std::vector<Rejected> rejected;
-        std::uint64_t group = 0; ///< of the edits, which are one step to undo
+        std::size_t next = 0;           ///< index of the next row
+        std::size_t added = 0;          ///< markers added from the rows before it
+        std::vector<Rejected> rejected; ///< rows; the lines that are none follow when all rows are added
+        std::uint64_t group = 0;        ///< of the edits, which are one step to undo
     };
 
     /// Adds the markers of the files, in order, when the panel was accepted. Files that cannot be read or
@@ -68,7 +70,7 @@ public:
     /// The rows of one file, with the keys of ImportedMarkerKey; nullopt for a list that cannot be read and
     /// for an unknown format. `lines` as in QVMarkerListParser; empty for an interchange file. Any thread.
     static std::optional<RowList> rowsOfFile(const QString &path, const QString &format,
-                                             std::vector<std::size_t> *lines = nullptr);
+                                             ListLines *lines = nullptr);
     /// Without memory, none. Any thread.
     static Rows rowsOfFiles(const QStringList &paths, const QString &format);
     void tellNothingToImport(const Rows &rows) const;
@@ -76,8 +78,8 @@ public:
     /// Stops when the document is being closed.
     void addMarkers(const Rows &rows, Progress &progress,
                     std::optional<std::chrono::milliseconds> limit = std::nullopt) const;
-    /// One alert for all rows that were rejected, the first twenty with their sources and reasons; nothing
-    /// when none was.
+    /// One alert for all rows and lines that were rejected, the first twenty with their sources and reasons;
+    /// nothing when none was.
     void tellOfRejected(const Progress &progress) const;
 
 private:

@@ -28,9 +28,12 @@ QString descriptionOf(const RowList &rows)
     return text + QLatin1Char(')');
 }
 
+constexpr std::size_t fcpFields = 7;
+constexpr std::size_t avidFields = 5;
+
 RowRecordPtr fcpRow(QStringView line)
 {
-    std::array<QStringView, 7> fields;
+    std::array<QStringView, fcpFields> fields;
     if (!MarkerListText::splitFields(line, fields))
         return nullptr;
     auto row = std::make_shared<RowRecord>();
@@ -46,7 +49,7 @@ RowRecordPtr fcpRow(QStringView line)
 
 RowRecordPtr avidRow(QStringView line)
 {
-    std::array<QStringView, 5> fields;
+    std::array<QStringView, avidFields> fields;
     if (!MarkerListText::splitFields(line, fields))
         return nullptr;
     auto row = std::make_shared<RowRecord>();
@@ -58,26 +61,27 @@ RowRecordPtr avidRow(QStringView line)
 }
 
 RowList rowsOfText(const QString &text, std::size_t firstLine, RowRecordPtr (*rowOfLine)(QStringView),
-                   std::vector<std::size_t> *lines)
+                   std::size_t wantedFields, ListLines *lines)
 {
     RowList rows;
     MarkerListText::forEachLine(text, [&](std::size_t index, QStringView line) {
         if (index < firstLine)
             return;
         RowRecordPtr row = rowOfLine(line);
-        if (!row)
-            return;
-        rows.push_back(std::move(row));
-        if (lines)
-            lines->push_back(index + 1);
+        if (row && lines)
+            lines->ofRows.push_back(index + 1);
+        else if (!row && lines && index > 0 && !line.trimmed().isEmpty())
+            lines->skipped.push_back(
+                {index + 1, std::size_t(line.count(QLatin1Char('\t'))) + 1, wantedFields});
+        if (row)
+            rows.push_back(std::move(row));
     });
     return rows;
 }
 
 } // namespace
 
-std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &path,
-                                                                 std::vector<std::size_t> *lines)
+std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &path, ListLines *lines)
 {
     const Result<QByteArray> bytes = FileUtilities::readFile(path);
     if (!bytes)
@@ -87,13 +91,12 @@ std::optional<RowList> QVMarkerListParser::fcpMarkerListFromFile(const QString &
         text = MarkerListText::fromUtf8(bytes.value());
     if (text.isNull())
         return std::nullopt;
-    RowList rows = rowsOfText(text, 1, fcpRow, lines);
+    RowList rows = rowsOfText(text, 1, fcpRow, fcpFields, lines);
     QVLog::appendLog(u"FCP marker list: %@", descriptionOf(rows));
     return rows;
 }
 
-std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString &path,
-                                                                   std::vector<std::size_t> *lines)
+std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString &path, ListLines *lines)
 {
     const Result<QByteArray> bytes = FileUtilities::readFile(path);
     if (!bytes)
@@ -101,7 +104,7 @@ std::optional<RowList> QVMarkerListParser::avidLocatorListFromFile(const QString
     const QString text = MarkerListText::fromUtf8(bytes.value());
     if (text.isNull())
         return std::nullopt;
-    RowList rows = rowsOfText(text, 0, avidRow, lines);
+    RowList rows = rowsOfText(text, 0, avidRow, avidFields, lines);
     QVLog::appendLog(u"Avid locator list: %@", descriptionOf(rows));
     return rows;
 }

@@ -1431,6 +1431,18 @@
         <source>Markers of %1 sequences and clips stand in one list.</source>
         <translation>Marker von %1 Sequenzen und Clips stehen in einer Liste.</translation>
     </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>The line has %1 fields instead of %2.</source>
+        <translation>Die Zeile hat %1 Felder statt %2.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

@@ -1431,6 +1431,18 @@
         <source>Markers of %1 sequences and clips stand in one list.</source>
         <translation>Los marcadores de %1 secuencias y clips están en una misma lista.</translation>
     </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, línea %2: %3</translation>
+    </message>
+    <message>
+        <source>The line has %1 fields instead of %2.</source>
+        <translation>La línea tiene %1 campos en lugar de %2.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

@@ -1431,6 +1431,18 @@
         <source>Markers of %1 sequences and clips stand in one list.</source>
         <translation>Les marqueurs de %1 séquences et clips figurent dans une même liste.</translation>
     </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>The line has %1 fields instead of %2.</source>
+        <translation>La ligne a %1 champs au lieu de %2.</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

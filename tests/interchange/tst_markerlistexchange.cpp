@@ -258,17 +258,21 @@ private Q_SLOTS:
 
         // Rejected rows are reported together, with their lines.
         const QByteArray row = "<\t00:00:00:02\tV1\tred\t\n";
-        const QString broken = m_home.addFile(
-            u"list.txt"_s, row + "\n" + row + "ok \U0001F386\t00:00:00:02\tV1\tred\t\n" + row.repeated(20));
+        const QString broken = m_home.addFile(u"list.txt"_s, "Name\tTime\n" + row + " \n" + row +
+                                                                 "ok \U0001F386\t00:00:00:02\tV1\tred\t\n" +
+                                                                 row.repeated(20) + "cut\t00:00:00:02\r\n");
         const auto imported = project.importer.markerOpenDialogDidEnd({broken}, accepted, u"avid"_s);
         QCOMPARE(imported->added, std::size_t(1));
-        QCOMPARE(imported->rejected.size(), std::size_t(22));
-        QCOMPARE(imported->rejected.at(1).source, u"line 3"_s);
+        QCOMPARE(imported->next, std::size_t(23));
+        QCOMPARE(imported->rejected.size(), std::size_t(23));
+        QCOMPARE(imported->rejected.at(1).source, u"line 4"_s);
+        // Lines that are no rows are told, too, but for a header and blank ones.
+        QCOMPARE(imported->rejected.back().text(), u"line 26: The line has 2 fields instead of 5."_s);
         QCOMPARE(project.document.markerArray().back()->text(MarkerKey::name), u"ok \U0001F386"_s);
         project.importer.tellOfRejected(*imported);
         expected.append(alertsOf(project).value(1));
-        QVERIFY(expected.last().startsWith(u"22 of 23 rows could not be added: line 1, “<”: "_s));
-        QVERIFY(expected.last().endsWith(u"\n… and 2 more"_s));
+        QVERIFY(expected.last().startsWith(u"23 of 24 rows could not be added: line 2, “<”: "_s));
+        QVERIFY(expected.last().endsWith(u"\n… and 3 more"_s));
         project.importer.tellOfRejected({});
 
         const QString path = m_home.path(u"missing/list.txt"_s);
