@@ -10,6 +10,7 @@
 #include "xml/XmlElementOrder.h"
 
 #include <QFileInfo>
+#include <QPointer>
 
 #include <exception>
 #include <memory>
@@ -74,7 +75,10 @@ bool MyDocument::runInBackground(std::function<void()> work, std::function<void(
         if (m_saver.joinable())
             m_saver.join();
         m_isSaving = false;
+        const QPointer<MyDocument> document(this);
         done();
+        if (document)
+            Q_EMIT editingAllowedChanged();
     };
     const auto run = [this, work = std::move(work), end] {
         guarded("MyDocument::runInBackground", work);

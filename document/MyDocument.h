@@ -348,7 +348,8 @@ Q_SIGNALS:
     void labelChanged(Label label, const QString &text);
     /// What was done, or why nothing was, for the tab to show for a while; a clause without a full stop.
     void messageGiven(Tab tab, const QString &text);
-    /// The tree is read to be sent and may not be edited, or may be edited again; see isSaving().
+    /// The tree is read to be sent and may not be edited, or may be edited again, also after work in the
+    /// background; see isSaving().
     void editingAllowedChanged();
     /// Other steps than before can be undone or redone.
     void historyChanged();

@@ -274,7 +274,10 @@ void DocumentWindow::connectSession()
     m_ownersNotice->follow(*m_workbench);
     connect(document, &MyDocument::loadFinished, this, &DocumentWindow::loadEnded);
     connect(document, &MyDocument::inventoriesFinished, this, &DocumentWindow::inventoriesEnded);
-    connect(document, &MyDocument::editingAllowedChanged, this, &DocumentWindow::updateEditing);
+    connect(document, &MyDocument::editingAllowedChanged, this, [this] {
+        updateEditing();
+        Q_EMIT menusChanged();
+    });
     connect(document, &MyDocument::historyChanged, this, &DocumentWindow::menusChanged);
     connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
         setWindowModified(edited);

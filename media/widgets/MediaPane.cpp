@@ -83,9 +83,10 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     table().setMenu(menu);
     // Relinking gives files other URLs.
     const MyDocument &document = workbench.document();
-    for (const auto signal :
-         {&MyDocument::inventoriesFinished, &MyDocument::historyChanged, &MyDocument::editingAllowedChanged})
+    for (const auto signal : {&MyDocument::historyChanged, &MyDocument::editingAllowedChanged})
         connect(&document, signal, this, &MediaPane::updateUses);
+    // What the window does with the lists comes first, for nothing is edited while the uses are read.
+    connect(&document, &MyDocument::inventoriesFinished, this, &MediaPane::updateUses, Qt::QueuedConnection);
     mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     restoreUseColumns();
     updateControls();
@@ -136,6 +137,7 @@ void MediaPane::search()
 {
     m_mediaSearch.setConditions(
         {.text = searchBar().text(), .state = MediaSearch::State(m_states->currentIndex())});
+    m_triesUses = true;
     updateUses();
 }
 
@@ -345,6 +347,7 @@ void MediaPane::restoreUseColumns()
         else if (!isShown && wasShown)
             removeColumn(column.identifier);
     }
+    m_triesUses = true;
     updateUses();
 }
 
@@ -353,19 +356,24 @@ void MediaPane::updateUses()
 {
     MyDocument &document = workbench().document();
     const bool areWanted = showsUses() || m_mediaSearch.conditions().state == MediaSearch::State::Unused;
-    if (!areWanted || m_readsUses || !document.xmlDoc() || document.isPopulating(Tab::Media) ||
-        document.isPopulating(Tab::Effects) || document.isPopulating(Tab::Markers) ||
-        m_uses->holds(document.mediaArray()))
+    if (!areWanted || m_readsUses || !m_triesUses || !document.xmlDoc() ||
+        document.isPopulating(Tab::Media) || document.isPopulating(Tab::Effects) ||
+        document.isPopulating(Tab::Markers) || m_uses->holds(document.mediaArray()))
         return;
     QStringList urls; // the records may change meanwhile
     for (const RowRecordPtr &record : document.mediaArray())
         urls.append(record->get(MediaKey::rawpath));
+    const auto areRead = std::make_shared<bool>(false);
     m_readsUses = document.runInBackground(
-        [&document, urls, uses = m_uses] { uses->set(mediaUseTable(document, urls)); },
-        [pane = QPointer(this)] {
+        [&document, urls, areRead, uses = m_uses] {
+            uses->set(mediaUseTable(document, urls));
+            *areRead = true;
+        },
+        [pane = QPointer(this), areRead] {
             if (!pane)
                 return;
             pane->m_readsUses = false;
+            pane->m_triesUses = *areRead;
             pane->m_mediaSearch.forget();
             MyDocument &shown = pane->workbench().document();
             if (shown.isSelected(Tab::Media))

@@ -88,6 +88,7 @@ private:
     Columns m_useColumns;
     QStringList m_shownUseColumns;
     bool m_readsUses = false; // in the background
+    bool m_triesUses = true;  // unless they could not be read
 };
 
 } // namespace vantrell

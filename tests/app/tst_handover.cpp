@@ -236,6 +236,18 @@ private Q_SLOTS:
         QCOMPARE(pane.columns(), usual);
     }
 
+    /// Nothing is edited while the uses are read, which begins when a project has been opened.
+    void usesLeaveProjectsEditable()
+    {
+        m_defaults->setValue(u"mediaUseColumns"_s, QVariantList{u"uses"_s});
+        QVERIFY(open());
+        QTRY_COMPARE(columnTexts(*m_window, Tab::Media, u"uses"_s).value(0), u"4"_s);
+        QTRY_VERIFY(m_window->mayEdit());
+        m_window->toolbarMarkers();
+        const TableModel &markers = m_window->pane(Tab::Markers).model();
+        QVERIFY(markers.index(0, markers.columnOf(u"name"_s)).flags().testFlag(Qt::ItemIsEditable));
+    }
+
 private:
     bool open()
     {
