@@ -26,6 +26,7 @@ struct Content {
     QSet<QString> distinct;
 
     bool holdsTimes() const { return filled > 0 && times * 5 >= filled * 4; }
+    bool holdsMostlyTimes() const { return times > 0 && times * 2 >= filled; }
     bool holdsNumbers() const { return filled > 0 && (wholeNumbers + decimals) * 5 >= filled * 4; }
     bool holds(std::size_t count) const { return filled > 0 && count * 5 >= filled * 4; }
     bool holdsUsers() const
@@ -177,6 +178,11 @@ private:
                     m_contents[i].filled * 2 > m_sample.size())
                     columns.push_back(i);
             }
+        }
+        // Rather a column with a few other texts than none.
+        for (std::size_t i = 0; i < m_contents.size() && columns.empty(); ++i) {
+            if (!m_isChosen[i] && m_contents[i].holdsMostlyTimes())
+                columns.push_back(i);
         }
         if (columns.empty())
             return;

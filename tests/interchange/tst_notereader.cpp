@@ -233,6 +233,10 @@ private Q_SLOTS:
         QCOMPARE(list.unreadable[0].line, std::size_t(3));
         QCOMPARE(list.unreadable[0].reason, u"“01:00:75:00” is no time."_s);
         QCOMPARE(list.unreadable[1].line, std::size_t(4));
+        // A few such lines do not hide which column has the times.
+        const NoteList total = NoteReader::read("00:00:10:00\tFirst\n00:00:20:00\tSecond\nTotal 2\n");
+        QCOMPARE(rowsOf(total), u"1|00:00:10:00|First|-|-|-|-|-\n2|00:00:20:00|Second|-|-|-|-|-"_s);
+        QCOMPARE(total.unreadable.size(), std::size_t(1));
         QVERIFY(NoteReader::read("no list\nat all\n").rows.empty());
         QVERIFY(NoteReader::read({}).rows.empty());
     }
