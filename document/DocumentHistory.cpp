@@ -225,17 +225,19 @@ void MyDocument::showRestored(const EditStep &step, Tab tab, Restoring what)
     const bool isConcerned = tab == step.tab || (step.isRestored && tab != Tab::Media);
     if (added.empty() && removed.empty() && !isConcerned)
         return;
+    const bool wasSorted = view.order() == RowView::Order::Sorted;
     if (view.generation() != step.generations[std::size_t(tab)]) {
         if (follower.relist)
             follower.relist();
+        if (wasSorted && view.order() != RowView::Order::Sorted)
+            view.sortBy(view.sortDescriptors());
         return;
     }
     if (follower.restored)
         follower.restored({step.rows.changedRows(), added, removed});
     if (!view.isVisible() || added.empty())
         return;
-    const bool isSorted =
-        view.order() == RowView::Order::Sorted || (what == Restoring::Undo && step.wasSorted);
+    const bool isSorted = wasSorted || (what == Restoring::Undo && step.wasSorted);
     rebuildRows(tab);
     if (isSorted && view.order() != RowView::Order::Sorted)
         view.sortBy(view.sortDescriptors());

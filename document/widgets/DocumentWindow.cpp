@@ -763,9 +763,13 @@ void DocumentWindow::listMarkersAgain()
     if (!mayEdit())
         return;
     MarkerInventory &inventory = m_workbench->markerInventory();
+    RowView &view = m_workbench->document().rowView(Tab::Markers);
+    const bool wasSorted = view.isVisible() && view.order() == RowView::Order::Sorted;
     m_work.begin(tr("Listing markers…"), WindowState::Work::Fixed);
     m_workbench->document().runInBackground([&inventory] { inventory.populateMarkerData(); },
-                                            [this] {
+                                            [this, &view, wasSorted] {
+                                                if (wasSorted && view.order() != RowView::Order::Sorted)
+                                                    view.sortBy(view.sortDescriptors());
                                                 m_work.end();
                                                 m_ownersNotice->showListed();
                                             });

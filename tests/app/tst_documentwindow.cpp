@@ -668,9 +668,11 @@ private Q_SLOTS:
         for (const RowRecordPtr &marker : second.document()->markerArray())
             inSecond.append(marker->get(MarkerKey::clipName));
         QCOMPARE(inSecond, owners());
+        m_window->pane(Tab::Markers).sortBy(QStringLiteral("name"));
         QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
         QTRY_VERIFY(!m_window->isBusy() && owners() == byPosition);
         QTRY_VERIFY(notice());
+        QVERIFY(document.rowView(Tab::Markers).order() == RowView::Order::Sorted);
         QTRY_VERIFY(!second.isBusy());
         QCOMPARE(second.document()->markerArray().at(1)->get(MarkerKey::clipName), byPosition.at(1));
     }
