@@ -56,12 +56,14 @@ QString MarkerOffset::rateText(const RowList &table)
     if (table.empty())
         return tr("Timecodes count at %1 frames per second, without drop frame.").arg(rate);
     const QString sequence = table.front()->get(MarkerKey::sequenceName);
-    return sequence.isEmpty()
-               ? tr("Timecodes count at %1 frames per second, the rate of the first row, without drop frame.")
-                     .arg(rate)
-               : tr("Timecodes count at %1 frames per second, the rate of the first row (%2), without drop "
-                    "frame.")
-                     .arg(rate, sequence);
+    return sequence.isEmpty() ? tr("Timecodes count at %1 frames per second, the rate of the table's first "
+                                   "row, without drop "
+                                   "frame.")
+                                    .arg(rate)
+                              : tr("Timecodes count at %1 frames per second, the rate of the table's first "
+                                   "row (%2), without drop "
+                                   "frame.")
+                                    .arg(rate, sequence);
 }
 
 TimecodeEntry::Reading MarkerOffset::preview(const QString &text, const RowList &records,

@@ -27,7 +27,7 @@ QString missingText(const RowRecord &file)
 
 const Columns mediaColumns{
     {.identifier = u"filename"_s, .title = u"Name"_s, .width = 44, .elidesMiddle = true, .hasToolTip = true},
-    {.identifier = u"filetype"_s, .title = u"Kind"_s, .width = 13},
+    {.identifier = u"filetype"_s, .title = u"Kind"_s, .width = 15},
     {.identifier = u"filesize"_s,
      .title = u"Size"_s,
      .width = 13,

@@ -533,12 +533,12 @@
         <translation>Timecodes zählen mit %1 Frames pro Sekunde, ohne Drop-Frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row, without drop frame.</source>
-        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile, ohne Drop-Frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row, without drop frame.</source>
+        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile der Tabelle, ohne Drop-Frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row (%2), without drop frame.</source>
-        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile (%2), ohne Drop-Frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row (%2), without drop frame.</source>
+        <translation>Timecodes zählen mit %1 Frames pro Sekunde, der Framerate der ersten Zeile der Tabelle (%2), ohne Drop-Frame.</translation>
     </message>
     <message>
         <source>%1 frame</source>
@@ -2550,6 +2550,10 @@
         <source>All effects were taken off this list. They are still in the project.</source>
         <translation>Alle Effekte sind aus dieser Liste genommen. Sie sind noch im Projekt.</translation>
     </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>Nichts entfernt: Keine Zeile ist ausgewählt</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3648,6 +3652,14 @@ Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufk
     <message>
         <source>The column In is hidden. View ▸ Columns shows it again</source>
         <translation>Die Spalte In ist ausgeblendet. Ansicht ▸ Spalten zeigt sie wieder</translation>
+    </message>
+    <message>
+        <source>Nothing was duplicated: no row is selected</source>
+        <translation>Nichts dupliziert: Keine Zeile ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>Nichts entfernt: Keine Zeile ist ausgewählt</translation>
     </message>
 </context>
 <context>
@@ -5045,6 +5057,13 @@ hier ablegen</translation>
     <message>
         <source>&amp;Reset Columns</source>
         <translation>Spalten &amp;zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::TableDelegate</name>
+    <message>
+        <source>%1, in all %2 selected rows</source>
+        <translation>%1, in allen %2 ausgewählten Zeilen</translation>
     </message>
 </context>
 <context>

@@ -533,12 +533,12 @@
         <translation>Los códigos de tiempo cuentan a %1 fotogramas por segundo, sin drop frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row, without drop frame.</source>
-        <translation>Los códigos de tiempo cuentan a %1 fotogramas por segundo, la velocidad de la primera fila, sin drop frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row, without drop frame.</source>
+        <translation>Los códigos de tiempo cuentan a %1 fotogramas por segundo, la velocidad de la primera fila de la tabla, sin drop frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row (%2), without drop frame.</source>
-        <translation>Los códigos de tiempo cuentan a %1 fotogramas por segundo, la velocidad de la primera fila (%2), sin drop frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row (%2), without drop frame.</source>
+        <translation>Los códigos de tiempo cuentan a %1 fotogramas por segundo, la velocidad de la primera fila de la tabla (%2), sin drop frame.</translation>
     </message>
     <message>
         <source>%1 frame</source>
@@ -2550,6 +2550,10 @@
         <source>All effects were taken off this list. They are still in the project.</source>
         <translation>Todos los efectos se retiraron de esta lista. Siguen en el proyecto.</translation>
     </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>No se eliminó nada: no hay ninguna fila seleccionada</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3648,6 +3652,14 @@ Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú
     <message>
         <source>The column In is hidden. View ▸ Columns shows it again</source>
         <translation>La columna Entrada está oculta. Ver ▸ Columnas la muestra de nuevo</translation>
+    </message>
+    <message>
+        <source>Nothing was duplicated: no row is selected</source>
+        <translation>No se duplicó nada: no hay ninguna fila seleccionada</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>No se eliminó nada: no hay ninguna fila seleccionada</translation>
     </message>
 </context>
 <context>
@@ -5045,6 +5057,13 @@ o un archivo XML</translation>
     <message>
         <source>&amp;Reset Columns</source>
         <translation>&amp;Restablecer columnas</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::TableDelegate</name>
+    <message>
+        <source>%1, in all %2 selected rows</source>
+        <translation>%1, en las %2 filas seleccionadas</translation>
     </message>
 </context>
 <context>

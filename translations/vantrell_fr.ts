@@ -533,12 +533,12 @@
         <translation>Les timecodes comptent %1 images par seconde, sans drop frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row, without drop frame.</source>
-        <translation>Les timecodes comptent %1 images par seconde, la cadence de la première ligne, sans drop frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row, without drop frame.</source>
+        <translation>Les timecodes comptent %1 images par seconde, la cadence de la première ligne du tableau, sans drop frame.</translation>
     </message>
     <message>
-        <source>Timecodes count at %1 frames per second, the rate of the first row (%2), without drop frame.</source>
-        <translation>Les timecodes comptent %1 images par seconde, la cadence de la première ligne (%2), sans drop frame.</translation>
+        <source>Timecodes count at %1 frames per second, the rate of the table&apos;s first row (%2), without drop frame.</source>
+        <translation>Les timecodes comptent %1 images par seconde, la cadence de la première ligne du tableau (%2), sans drop frame.</translation>
     </message>
     <message>
         <source>%1 frame</source>
@@ -2550,6 +2550,10 @@
         <source>All effects were taken off this list. They are still in the project.</source>
         <translation>Tous les effets ont été retirés de cette liste. Ils restent dans le projet.</translation>
     </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>Rien n’a été supprimé&#xa0;: aucune ligne n’est sélectionnée</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3648,6 +3652,14 @@ Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Pr
     <message>
         <source>The column In is hidden. View ▸ Columns shows it again</source>
         <translation>La colonne Entrée est masquée. Affichage ▸ Colonnes la réaffiche</translation>
+    </message>
+    <message>
+        <source>Nothing was duplicated: no row is selected</source>
+        <translation>Rien n’a été dupliqué&#xa0;: aucune ligne n’est sélectionnée</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: no row is selected</source>
+        <translation>Rien n’a été supprimé&#xa0;: aucune ligne n’est sélectionnée</translation>
     </message>
 </context>
 <context>
@@ -5045,6 +5057,13 @@ ou un fichier XML</translation>
     <message>
         <source>&amp;Reset Columns</source>
         <translation>&amp;Rétablir les colonnes</translation>
+    </message>
+</context>
+<context>
+    <name>vantrell::TableDelegate</name>
+    <message>
+        <source>%1, in all %2 selected rows</source>
+        <translation>%1, dans les %2 lignes sélectionnées</translation>
     </message>
 </context>
 <context>

@@ -167,6 +167,8 @@ void EffectsPane::removeEffects()
         return;
     // The indexes stay selected, whatever rows have them afterwards.
     const std::vector<std::size_t> rows = selectedRows();
+    if (rows.empty())
+        showMessage(tr("Nothing was removed: no row is selected"));
     workbench().effectEditor().removeEffects();
     selectRows(rows);
 }

@@ -41,6 +41,12 @@ void showReading(const TimecodeEntry::Reading &reading, QLabel &note, QLineEdit 
     field.setAccessibleDescription(note.text());
 }
 
+/// The sheet grows with the note, and stays as it is when that gets shorter.
+void makeRoom(QLabel &note)
+{
+    note.setMinimumHeight(std::max(note.minimumHeight(), note.heightForWidth(note.width())));
+}
+
 } // namespace
 
 MarkerAddSheet::MarkerAddSheet(MenuPtr sequences, Start start, const QString &name,
@@ -143,6 +149,22 @@ void MarkerAddSheet::follow()
                     ? TimecodeEntry::Reading()
                     : TimecodeEntry::ofNewDuration(m_duration->text(), sequenceElement(), in.frames),
                 *m_durationNote, *m_duration);
+    makeRoomForNotes();
+}
+
+void MarkerAddSheet::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    makeRoomForNotes();
+}
+
+/// Not before the sheet is laid out.
+void MarkerAddSheet::makeRoomForNotes()
+{
+    if (!isVisible())
+        return;
+    for (QLabel *const note : {m_inNote, m_durationNote})
+        makeRoom(*note);
 }
 
 } // namespace vantrell

@@ -37,10 +37,14 @@ public:
     std::int64_t sequence() const;
     MarkerEditor::NewMarker marker() const;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     XmlNode sequenceElement() const;
     void sequenceChosen();
     void follow();
+    void makeRoomForNotes();
 
     MenuPtr m_sequences;
     Start m_start;

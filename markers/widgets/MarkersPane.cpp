@@ -374,6 +374,8 @@ void MarkersPane::duplicateMarkers()
     if (!isEditingEnabled())
         return;
     table().commitEditing();
+    if (!table().selectionModel()->hasSelection())
+        showMessage(tr("Nothing was duplicated: no row is selected"));
     const RowList copies =
         workbench().markerEditor().duplicate(workbench().document().selectedRecords(Tab::Markers));
     selectAdded(copies);
@@ -419,8 +421,11 @@ void MarkersPane::moveInPoint()
 
 void MarkersPane::removeMarkers()
 {
-    if (isEditingEnabled())
-        workbench().markerEditor().removeMarkers();
+    if (!isEditingEnabled())
+        return;
+    if (!table().selectionModel()->hasSelection())
+        showMessage(tr("Nothing was removed: no row is selected"));
+    workbench().markerEditor().removeMarkers();
 }
 
 void MarkersPane::editCurrentCell()

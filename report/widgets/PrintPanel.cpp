@@ -96,7 +96,8 @@ QStringList PrintPanel::systemPrinters()
 QWidget *PrintPanel::makeSettings()
 {
     auto *const settings = new QWidget(this);
-    settings->setFixedWidth(settingsWidth);
+    settings->setMinimumWidth(settingsWidth);
+    settings->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // wider where texts need it
     auto *const form = new QFormLayout;
     form->addRow(tr("&Printer:"), m_printer);
     form->addRow(tr("C&opies:"), m_copies);

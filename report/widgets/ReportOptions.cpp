@@ -3,6 +3,7 @@
 #include "markers/MarkerColumns.h"
 #include "report/ReportGenerator.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/CheckFrame.h"
 #include "support/widgets/ShownText.h"
 
 #include <QCheckBox>
@@ -59,6 +60,7 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
         item->setCheckState(column.selected == 1 ? Qt::Checked : Qt::Unchecked);
     }
     m_columns->setUniformItemSizes(true);
+    m_columns->setItemDelegate(new FramedCheckDelegate(m_columns));
     m_columns->setCurrentRow(0);
     connect(m_columns, &QListWidget::itemChanged, this, [this, &report](const QListWidgetItem *item) {
         report.setColumnSelected(std::size_t(m_columns->row(item)), item->checkState() == Qt::Checked);

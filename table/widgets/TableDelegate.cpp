@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -64,6 +65,20 @@ QRect checkBoxRect(const QStyleOptionViewItem &option)
 int roleOf(const QWidget &editor)
 {
     return editor.property(writesAlong).toBool() ? TableModel::AlongRole : Qt::EditRole;
+}
+
+/// What is told while the text is typed; also how many rows it is written to.
+std::optional<EntryNote> noteOf(const QModelIndex &cell, const QString &typed, const QLineEdit &field)
+{
+    std::optional<EntryNote> note = modelOf(cell).entryNote(cell, typed, roleOf(field));
+    const auto *const view = qobject_cast<const QAbstractItemView *>(field.parentWidget()->parentWidget());
+    if (!note || !view || columnOf(cell).edits != Column::Edits::Rows)
+        return note;
+    const qsizetype rows = view->selectionModel()->selectedRows(cell.column()).size();
+    if (rows > 1)
+        note->text =
+            TableDelegate::tr("%1, in all %2 selected rows").arg(note->text, QLocale().toString(rows));
+    return note;
 }
 
 /// Whether the cell is in the current row, or in that below the mouse.
@@ -220,7 +235,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         field->selectAll();
         if (modelOf(index).entryNote(index, field->text(), Qt::EditRole))
             new EntryHint(*field, [field, cell = QPersistentModelIndex(index)](const QString &typed) {
-                return cell.isValid() ? modelOf(cell).entryNote(cell, typed, roleOf(*field)) : std::nullopt;
+                return cell.isValid() ? noteOf(cell, typed, *field) : std::nullopt;
             });
         editor = field;
     }

@@ -124,6 +124,10 @@ private Q_SLOTS:
         };
         media.copySelection();
         QCoreApplication::processEvents();
+        for (const char *command : {"Duplicate", "Remove…"}) {
+            QVERIFY(trigger(window, QString::fromUtf8(command)));
+            QVERIFY(statusOf(window).contains(QStringLiteral("no row is selected")));
+        }
         markers.selectRows({0});
         QVERIFY(tellsOfMedia()); // that was another tab's
         QVERIFY(trigger(window, QStringLiteral("Duplicate")));

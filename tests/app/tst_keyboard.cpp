@@ -205,6 +205,14 @@ private Q_SLOTS:
         QVERIFY(shownIn(*hint).contains(QStringLiteral("Only digits")));
         QTest::keyClick(editor(), Qt::Key_Escape);
         QTRY_VERIFY(table().findChildren<EntryHint *>().isEmpty());
+        // It also tells how many rows are written.
+        select({1, 2});
+        table().edit(table().model()->index(1, column("in")));
+        QTest::keyClicks(editor(), QStringLiteral("1.."));
+        const QString told = shownIn(*table().findChild<EntryHint *>());
+        QVERIFY2(told.contains(QStringLiteral(", in all 2 selected rows")), qPrintable(told));
+        QTest::keyClick(editor(), Qt::Key_Escape);
+        QTRY_VERIFY(table().findChildren<EntryHint *>().isEmpty());
         go(1, column("name"));
         key(Qt::Key_Return);
         QVERIFY(!table().findChild<EntryHint *>());
@@ -296,6 +304,18 @@ private Q_SLOTS:
         auto *const sequence = sheet->findChildren<QComboBox *>().constFirst();
         sequence->setCurrentIndex(2); // Harbour Lights – Reel 1, from one hour
         QCOMPARE(fields.at(0)->text(), QStringLiteral("01:00:00;00"));
+        // All warnings can be read.
+        QTest::keyClicks(fields.at(0), QStringLiteral("10:00:99"));
+        QCoreApplication::processEvents();
+        int notes = 0;
+        for (const QLabel *const label : sheet->findChildren<QLabel *>()) {
+            if (!label->wordWrap())
+                continue;
+            ++notes;
+            QVERIFY(label->height() >= label->heightForWidth(label->width()));
+        }
+        QCOMPARE(notes, 2);
+        fields.at(0)->selectAll();
         QTest::keyClicks(fields.at(0), QStringLiteral("5."));
         QTest::keyClicks(fields.at(1), QStringLiteral("1."));
         QTest::keyClick(sheet, Qt::Key_Return);
