@@ -98,6 +98,13 @@ XmlNode MarkerOverviewPanel::sequence() const
     return isWanted && m_shown && m_shown.isAttached() ? m_shown : XmlNode();
 }
 
+void MarkerOverviewPanel::follow(XmlNode sequence)
+{
+    m_followed = sequence;
+    if (!m_isOutdated && isVisible())
+        showSequence();
+}
+
 void MarkerOverviewPanel::recordsChanged()
 {
     m_revision.reset();

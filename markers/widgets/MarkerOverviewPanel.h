@@ -45,6 +45,8 @@ public:
     OverviewPopUp &popUp() const { return *m_popUp; }
     /// The sequence that the strip shows; null without one, and when the user has hidden the overview.
     XmlNode sequence() const;
+    /// Shows that sequence, unless the user has chosen one, until a row of another is selected.
+    void follow(XmlNode sequence);
     /// Whether rows have changed that the strip does not show yet.
     bool isOutdated() const { return m_isOutdated; }
 

@@ -178,6 +178,9 @@ void MarkersPane::search()
     if (m_flags->currentIndex() > 0)
         conditions.flag = MarkerFlag(m_flags->currentIndex() - 1);
     m_markerSearch.setConditions(conditions);
+    if (conditions.sequence)
+        m_overview->follow(
+            workbench().document().sequenceMenu()->at(std::size_t(*conditions.sequence)).element);
 }
 
 bool MarkersPane::prepareSearch()

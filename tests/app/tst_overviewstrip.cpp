@@ -9,6 +9,7 @@
 #include "tests/support/LongSeries.h"
 
 #include <QComboBox>
+#include <QComboBox>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -99,6 +100,20 @@ private Q_SLOTS:
         QCOMPARE(overview().popUp().followedTitle(), trailer);
         pane().selectRows({std::size_t(rowOf(QStringLiteral("Tide turns")))}); // of a clip in a bin
         QCOMPARE(strip().sequence()->name, trailer);
+        // The filter of sequences counts as well.
+        const auto popUps = pane().findChildren<QComboBox *>();
+        const auto found = std::find_if(popUps.begin(), popUps.end(), [](const QComboBox *box) {
+            return box->accessibleName() == QStringLiteral("Sequence of markers");
+        });
+        QVERIFY(found != popUps.end());
+        QComboBox *const filter = *found;
+        filter->setCurrentIndex(filter->findText(reel));
+        Q_EMIT filter->activated(filter->currentIndex());
+        QTRY_COMPARE(strip().sequence()->name, reel);
+        filter->setCurrentIndex(0);
+        Q_EMIT filter->activated(0);
+        pane().selectRows({std::size_t(rowOf(QStringLiteral("First light")))});
+        QTRY_COMPARE(strip().sequence()->name, trailer);
 
         OverviewPopUp &popUp = overview().popUp();
         const auto choose = [&popUp](int item) {
