@@ -198,17 +198,20 @@ void TableDelegate::paintPopUp(QPainter *painter, const QStyleOptionViewItem &op
     const QRect whole = cell.rect;
     const int arrow = iconSide / 2;
     const int margin = arrowMargin(cell);
-    // The background goes over the whole cell; icon and text leave room for the arrow.
+    const bool hasChoices = !cell.text.isEmpty() || !cell.icon.isNull();
+    const bool hasArrow =
+        hasChoices && index.flags().testFlag(Qt::ItemIsEditable) && isCurrentOrHovered(option, index);
+    // The background goes over the whole cell; icon and text leave room for the arrow where there is one.
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
-    cell.rect.adjust(0, 0, -arrowRoom(cell), 0);
+    if (hasArrow)
+        cell.rect.adjust(0, 0, -arrowRoom(cell), 0);
     cell.backgroundBrush = QBrush();
     const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
     cell.state &= ~QStyle::State_HasFocus;
     style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     if (hasFocus)
         paintFocus(painter, cell, whole);
-    const bool hasChoices = !cell.text.isEmpty() || !cell.icon.isNull();
-    if (!hasChoices || !index.flags().testFlag(Qt::ItemIsEditable) || !isCurrentOrHovered(option, index))
+    if (!hasArrow)
         return;
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
     QColor ink = cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
