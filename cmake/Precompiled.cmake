@@ -29,6 +29,7 @@ vantrell_precompile(json LIBRARIES Qt6::Core nlohmann_json::nlohmann_json
 target_compile_options(vantrell_precompiled_json PRIVATE ${VANTRELL_JSON_OPTIMISATION})
 if(VANTRELL_WINDOW)
     vantrell_precompile(window LIBRARIES Qt6::Widgets HEADERS ${vantrell_precompiled_window})
+    target_compile_options(vantrell_precompiled_window PRIVATE ${VANTRELL_WINDOW_OPTIMISATION})
 endif()
 # Qt Test's header depends on the Qt modules of a program, so all tests use the same ones.
 if(BUILD_TESTING)
