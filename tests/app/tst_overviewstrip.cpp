@@ -9,7 +9,6 @@
 #include "tests/support/LongSeries.h"
 
 #include <QComboBox>
-#include <QComboBox>
 #include <QTest>
 #include <QWheelEvent>
 
