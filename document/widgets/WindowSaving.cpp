@@ -93,6 +93,10 @@ void WindowSaving::findOpen(const QString &path, bool thisToo, const QString &te
 void WindowSaving::write(const QString &path)
 {
     MyDocument *const document = m_window.document();
+    if (document->isSaving()) { // the tree is being read for something that the window does not wait for
+        m_window.whenIdle([this, path] { write(path); });
+        return;
+    }
     const QPointer window(&m_window);
     document->writeInBackground(QUrl::fromLocalFile(path), DocumentType::finalCutProXMLFile,
                                 [this, path, window](const Result<void> &written) {

@@ -19,6 +19,7 @@
 
 #include <QComboBox>
 #include <QTest>
+#include <QThread>
 
 using namespace vantrell;
 using namespace Qt::StringLiterals;
@@ -246,6 +247,16 @@ private Q_SLOTS:
         m_window->toolbarMarkers();
         const TableModel &markers = m_window->pane(Tab::Markers).model();
         QVERIFY(markers.index(0, markers.columnOf(u"name"_s)).flags().testFlag(Qt::ItemIsEditable));
+        // A save waits for them.
+        m_window->showMediaUses(false);
+        m_window->workbench().markerEditor().addMarker();
+        m_window->document()->runInBackground([] { QThread::msleep(200); }, [] {});
+        QSignalSpy saved(m_window, &DocumentWindow::saved);
+        m_window->save();
+        QVERIFY(saved.isEmpty() && !m_window->isBusy());
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(saved.at(0).at(0).toBool());
+        QVERIFY(!m_window->isBusy() && !m_window->isWindowModified());
     }
 
 private:
