@@ -1,5 +1,7 @@
 #include "xml/XmlInput.h"
 
+#include "xml/WideEncoding.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -33,51 +35,6 @@ constexpr Signature signatures[] = {
     {"\xFE\xFF"sv, "UTF-16BE", 2, 2, false},     {"\x4C\x6F\xA7\x94"sv, "IBM037", 1, 0, true},
 };
 
-/// An encoding in which all bytes of an ASCII character but one are zero.
-struct WideEncoding {
-    const char *name;
-    std::size_t unit;      ///< bytes
-    std::size_t character; ///< the index of the byte that is not zero
-};
-
-constexpr WideEncoding wideEncodings[] = {
-    {"UTF-32LE", 4, 0}, {"UTF-32BE", 4, 3}, {"UTF-16LE", 2, 0}, {"UTF-16BE", 2, 1}};
-
-/// How many of the first characters, up to \a looked, are ASCII in that encoding.
-std::size_t asciiIn(const WideEncoding &encoding, std::string_view bytes, std::size_t looked)
-{
-    std::size_t matching = 0;
-    for (std::size_t i = 0; i < looked && bytes.size() >= encoding.unit; ++i) {
-        bool isAscii = true;
-        for (std::size_t j = 0; j < encoding.unit; ++j)
-            isAscii = isAscii && (bytes[j] != 0) == (j == encoding.character);
-        matching += isAscii;
-        bytes.remove_prefix(encoding.unit);
-    }
-    return matching;
-}
-
-/// Whether the first three characters or most of the first ones are ASCII in that encoding. Single zero bytes
-/// in another one are no sign of it.
-bool startsIn(const WideEncoding &encoding, std::string_view bytes)
-{
-    const std::size_t looked = std::min<std::size_t>(32, bytes.size() / encoding.unit);
-    return asciiIn(encoding, bytes, 3) == 3 || asciiIn(encoding, bytes, looked) * 2 > looked;
-}
-
-/// The bytes to skip where a character of four bytes is invalid: fewer than four where bytes are missing and
-/// the characters behind them show where they start.
-std::size_t skippedInUtf32(std::string_view bytes)
-{
-    for (std::size_t skipped = 1; skipped < std::min<std::size_t>(4, bytes.size()); ++skipped) {
-        for (const WideEncoding &encoding : wideEncodings) {
-            if (encoding.unit == 4 && asciiIn(encoding, bytes.substr(skipped), 3) == 3)
-                return skipped;
-        }
-    }
-    return 4;
-}
-
 /// What the first bytes tell; none when they tell nothing.
 std::optional<Signature> signatureOf(std::string_view bytes)
 {
@@ -85,13 +42,12 @@ std::optional<Signature> signatureOf(std::string_view bytes)
         // A mark of UTF-16 and a zero character look like one of UTF-32.
         if (!bytes.starts_with(mark.bytes))
             continue;
-        if (mark.unit < 4 || startsIn(wideEncodings[mark.bytes[0] == 0], bytes.substr(mark.skipped)))
+        const std::string_view rest = bytes.substr(mark.skipped);
+        if (mark.unit < 4 || WideEncoding::ofStart(rest) == WideEncoding::find(mark.encoding))
             return mark;
     }
-    for (const WideEncoding &encoding : wideEncodings) {
-        if (startsIn(encoding, bytes))
-            return Signature{{}, encoding.name, int(encoding.unit), 0, false};
-    }
+    if (const WideEncoding *const encoding = WideEncoding::ofStart(bytes))
+        return Signature{{}, encoding->name, int(encoding->unit), 0, false};
     return std::nullopt;
 }
 
@@ -245,6 +201,7 @@ public:
     Decoder(const std::string &encoding, std::size_t unit)
         : m_handle(iconv_open("UTF-8", encoding.c_str()))
         , m_unit(unit)
+        , m_wide(WideEncoding::find(encoding))
         , m_part(inputBlockSize / 4)
     {
     }
@@ -258,33 +215,49 @@ public:
 
     bool isOpen() const { return m_handle != iconv_t(-1); }
 
-    /// Converts what it can of the bytes from the offset on, and moves the offset behind that. False at bytes
-    /// that stand for nothing, which it passes over.
+    /// Converts what it can of the bytes from the offset on, which is 0 for other bytes than before, and
+    /// moves the offset behind that. False at bytes that stand for nothing, which it passes over.
     bool convert(std::vector<char> &bytes, std::size_t &offset, std::vector<char> &text, bool atEnd)
     {
+        if (offset == 0)
+            findShift(bytes, 0, atEnd);
         while (offset < bytes.size()) {
+            if (offset == m_shift.index) {
+                if (m_shift.skipped == 0)
+                    return true; // what follows tells how to go on
+                offset += m_shift.skipped;
+                findShift(bytes, offset, atEnd);
+                return false;
+            }
             char *in = bytes.data() + offset;
-            std::size_t inLeft = bytes.size() - offset;
+            std::size_t inLeft = m_shift.index - offset;
             char *out = m_part.data();
             std::size_t outLeft = m_part.size();
             const std::size_t result = iconv(m_handle, &in, &inLeft, &out, &outLeft);
             const int error = errno;
             text.insert(text.end(), m_part.data(), out);
-            offset = bytes.size() - inLeft;
+            offset = m_shift.index - inLeft;
             if (result != std::size_t(-1) || error == E2BIG)
                 continue;
-            if (error == EINVAL && !atEnd)
+            if (error == EINVAL && !atEnd && m_shift.skipped == 0)
                 return true; // the rest of the character is to come
-            const std::size_t skipped = m_unit == 4 ? skippedInUtf32({in, inLeft}) : m_unit;
-            offset += std::min(skipped, inLeft);
+            offset += std::min(m_unit, inLeft);
             return false;
         }
         return true;
     }
 
 private:
+    void findShift(const std::vector<char> &bytes, std::size_t offset, bool atEnd)
+    {
+        const std::string_view all(bytes.data(), bytes.size());
+        m_shift = m_wide ? m_wide->nextShift(all, offset, atEnd) : WideEncoding::Shift{all.size(), 0};
+    }
+
     iconv_t m_handle;
     std::size_t m_unit;
+    const WideEncoding *m_wide; // null for another encoding
+    WideEncoding::Shift m_shift;
     std::vector<char> m_part; // what comes out, of a fixed size: there may be a fault at every byte
 };
 

@@ -252,6 +252,27 @@ private Q_SLOTS:
             utf16 += char(unit >> 8);
         }
         add("lone surrogates", utf16, "<a>é!<b/>\U0001F3AC</a>", "line 1: bytes that are no UTF-16LE");
+        // A byte that is missing or one too many moves all that follows.
+        const QByteArray text = "<a>xyz<b>0123456789</b>\n<c>0123456789</c></a>";
+        for (const bool isBig : {false, true}) {
+            QByteArray wide;
+            for (const char c : text)
+                wide += isBig ? QByteArray("\0", 1) + c : c + QByteArray("\0", 1);
+            const auto shifted = [&](const char *name, const QByteArray &bytes, const char *left,
+                                     int line = 1) {
+                const QByteArray told =
+                    "line " + QByteArray::number(line) + ": bytes that are no UTF-16" + (isBig ? "BE" : "LE");
+                add((QByteArray(name) + (isBig ? "BE" : "LE")).constData(), bytes, left, told.constData());
+            };
+            shifted("first byte missing in UTF-16", QByteArray(wide).remove(8, 1),
+                    "<a>xz<b>0123456789</b>\n<c>0123456789</c></a>");
+            shifted("second byte missing in UTF-16", QByteArray(wide).remove(9, 1),
+                    "<a>xz<b>0123456789</b>\n<c>0123456789</c></a>");
+            shifted("byte too many in UTF-16", QByteArray(wide).insert(8, 'q'),
+                    "<a>xyz<b>0123456789</b>\n<c>0123456789</c></a>");
+            shifted("byte missing near the end of UTF-16", QByteArray(wide).remove(wide.size() - 12, 1),
+                    "<a>xyz<b>0123456789</b>\n<c>0123456789</c></a>", 2);
+        }
         QByteArray utf32;
         for (const char c : QByteArray("<a>xy<b/>z</a>"))
             utf32 += QByteArray(1, c) + QByteArray(3, '\0');
