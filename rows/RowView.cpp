@@ -14,12 +14,10 @@ namespace vantrell
 namespace
 {
 
-/// A copy of the rows, made from one of earlier rows: what they share is moved, for counting the references
-/// to a record touches it.
-RowList copyOf(const RowList &rows, RowList earlier)
+/// Fills the copy, which has room for them, with the rows. What they share with the earlier ones is moved,
+/// for counting the references to a record touches it.
+void fill(RowList &copy, const RowList &rows, RowList &earlier)
 {
-    RowList copy;
-    copy.reserve(rows.size());
     auto next = earlier.begin();
     for (const RowRecordPtr &row : rows) {
         if (next != earlier.end() && *next == row)
@@ -27,7 +25,6 @@ RowList copyOf(const RowList &rows, RowList earlier)
         else
             copy.push_back(row);
     }
-    return copy;
 }
 
 RowList sortedByClick(RowList rows, std::vector<SortDescriptor> descriptors, const Columns &columns)
@@ -151,9 +148,15 @@ void RowView::showList()
         show(m_list, Order::Document);
         return;
     }
+    const bool isChanged = m_visibleRows != m_list;
+    RowList copy;
+    if (isChanged)
+        copy.reserve(m_list.size()); // nothing may fail between the signals
     Q_EMIT willReload();
-    if (m_visibleRows != m_list)
-        m_visibleRows = copyOf(m_list, std::move(m_visibleRows));
+    if (isChanged) {
+        fill(copy, m_list, m_visibleRows);
+        m_visibleRows.swap(copy);
+    }
     m_order = Order::Document;
     m_waitingRows.clear();
     Q_EMIT didReload();
