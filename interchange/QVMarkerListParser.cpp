@@ -60,6 +60,15 @@ RowRecordPtr avidRow(QStringView line)
     return row;
 }
 
+/// Whether a line that is no row names the columns of a list: what is broken has a timecode.
+bool isAvidHeader(QStringView line)
+{
+    const QStringView timecode = line.split(QLatin1Char('\t')).value(1);
+    return std::none_of(timecode.begin(), timecode.end(), [](QChar c) { return c.isDigit(); });
+}
+
+/// A row for each line from the first one on. Lines that are none are told as skipped, but blank ones and a
+/// header.
 RowList rowsOfText(const QString &text, std::size_t firstLine, RowRecordPtr (*rowOfLine)(QStringView),
                    std::size_t wantedFields, ListLines *lines)
 {
@@ -70,7 +79,7 @@ RowList rowsOfText(const QString &text, std::size_t firstLine, RowRecordPtr (*ro
         RowRecordPtr row = rowOfLine(line);
         if (row && lines)
             lines->ofRows.push_back(index + 1);
-        else if (!row && lines && index > 0 && !line.trimmed().isEmpty())
+        else if (!row && lines && !line.trimmed().isEmpty() && (index > 0 || !isAvidHeader(line)))
             lines->skipped.push_back(
                 {index + 1, std::size_t(line.count(QLatin1Char('\t'))) + 1, wantedFields});
         if (row)

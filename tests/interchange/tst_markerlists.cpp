@@ -106,6 +106,17 @@ private Q_SLOTS:
             const QString path = m_home.addFile(u"list.txt"_s, list.bytes);
             QCOMPARE(text(QVMarkerListParser::avidLocatorListFromFile(path)), list.rows);
         }
+        // A header is not told as skipped, a broken row is.
+        for (const bool isHeader : {true, false}) {
+            const QByteArray first = isHeader ? "Name\tTimecode\tTrack\tColor" : "A\t01:00:00:00\tV1\tred";
+            const QString path = m_home.addFile(u"list.txt"_s, first + "\n" + line + "\n\nB\t2\n");
+            ListLines lines;
+            QVERIFY(QVMarkerListParser::avidLocatorListFromFile(path, &lines));
+            std::vector<std::size_t> skipped;
+            for (const ListLines::Skipped &found : lines.skipped)
+                skipped.push_back(found.line);
+            QCOMPARE(skipped, isHeader ? std::vector<std::size_t>({4}) : std::vector<std::size_t>({1, 4}));
+        }
     }
 
     void noFile()
