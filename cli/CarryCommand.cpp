@@ -82,7 +82,8 @@ int carry(const CarryOptions &options)
         const QString output = fromArgument(*options.output);
         const bool replacesOld = output != QLatin1String("-") && !after.document().knownFile()->isAt(output);
         if (replacesOld) {
-            if (const Result<void> may = before.document().confirmReplacing(output); !may)
+            const Result<void> may = after.document().confirmReplacing(before.document(), output);
+            if (!may)
                 return fail(may.message());
         }
         if (!writeProject(after.document(), output))

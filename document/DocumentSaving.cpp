@@ -85,6 +85,7 @@ bool MyDocument::runInBackground(std::function<void()> work, std::function<void(
         persistently("MyDocument::runInBackground", [&] { m_mainThread->post(end); });
     };
     m_isSaving = true;
+    Q_EMIT editingAllowedChanged();
     try {
         m_saver = std::thread(run);
     } catch (const std::exception &) {
@@ -109,16 +110,14 @@ Result<void> MyDocument::writeFile(const QString &path)
     const auto mayReplace = [&](int descriptor) -> Result<void> {
         if (m_savingCancelled)
             return Failure{SaveFailure::cancelled};
-        m_changedFile = m_knownFile->changeAt(path);
-        if (m_changedFile)
+        if (isChangedElsewhere(path))
             return Failure{SaveFailure::changedElsewhere};
         written = FileStamp::ofDescriptor(descriptor);
         if (m_journal && written && m_knownFile->isAt(path))
             m_journal->willReplaceFile(*written);
         return {};
     };
-    m_changedFile = m_knownFile->changeAt(path); // or all would be written in vain
-    if (m_changedFile)
+    if (isChangedElsewhere(path)) // or all would be written in vain
         return Failure{SaveFailure::changedElsewhere};
     const Result<void> saved = FileUtilities::writeAtomically(path, write, mayReplace);
     if (!saved)
@@ -131,10 +130,21 @@ Result<void> MyDocument::writeFile(const QString &path)
     return saved;
 }
 
+/// On the thread that saves.
+bool MyDocument::isChangedElsewhere(const QString &path)
+{
+    m_changed = {};
+    for (const std::shared_ptr<KnownFile> &file : {m_knownFile, m_replacedFile}) {
+        if (!m_changed.stamp && file)
+            m_changed = {file, file->changeAt(path)};
+    }
+    return m_changed.stamp.has_value();
+}
+
 void MyDocument::overwriteChangedFile()
 {
-    if (m_changedFile)
-        m_knownFile->accept(*m_changedFile);
+    if (m_changed.stamp)
+        m_changed.file->accept(*m_changed.stamp);
 }
 
 /// Starts sending the document in place of saving it; a failure says why not.
@@ -183,16 +193,13 @@ bool MyDocument::refusesWhileSaving(const QString &alertTitle)
     return true;
 }
 
-Result<void> MyDocument::confirmReplacing(const QString &path)
+Result<void> MyDocument::confirmReplacing(const MyDocument &other, const QString &path)
 {
-    if (!confirmSavingRepaired(path))
-        return Failure{SaveFailure::notOverwritten};
-    if (m_knownFile->changeAt(path) && !confirmOverwriting(path))
-        return Failure{SaveFailure::changedElsewhere};
-    return {};
+    m_replacedFile = other.m_knownFile;
+    return other.confirmSavingRepaired(path) ? Result<void>() : Failure{SaveFailure::notOverwritten};
 }
 
-bool MyDocument::confirmSavingRepaired(const QString &path)
+bool MyDocument::confirmSavingRepaired(const QString &path) const
 {
     const bool isDamaged = !m_damagedFile.isNull() && QFileInfo(path) == QFileInfo(m_damagedFile);
     if (!isDamaged || !QFileInfo::exists(path))

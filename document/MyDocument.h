@@ -141,8 +141,9 @@ public:
     /// What the last save found at the path of the document's file may be overwritten; what comes there
     /// later may not.
     void overwriteChangedFile();
-    /// Asks what a save to that path would ask, for a path to which something else will be written.
-    Result<void> confirmReplacing(const QString &path);
+    /// To be called before a save to that path that replaces the file of another document: asks what a save
+    /// of that one would ask, now or, whether another program has changed the file, when it is replaced.
+    Result<void> confirmReplacing(const MyDocument &other, const QString &path);
     /// Keeps the unsaved changes in a journal, and restores those that it was given; called before loading.
     /// Null ends that.
     void setJournal(std::shared_ptr<DocumentJournal> journal) { m_journal = std::move(journal); }
@@ -368,6 +369,7 @@ private:
     Result<void> startSending(std::function<void()> ended);
     Result<void> noteSaved(Result<void> saved);
     Result<void> tryWriting(const QString &path);
+    bool isChangedElsewhere(const QString &path);
     Result<void> writeFile(const QString &path);
     template <typename Note>
     void noteChange(Note note);
@@ -378,7 +380,7 @@ private:
     void restore(Restoring what);
     void showRestored(const EditStep &step, Tab tab, Restoring what);
     void selectRestored(const EditStep &step, Restoring what);
-    bool confirmSavingRepaired(const QString &path);
+    bool confirmSavingRepaired(const QString &path) const;
     bool confirmOverwriting(const QString &path);
 
     DocumentInterface &m_interface;
@@ -389,8 +391,13 @@ private:
     QUrl m_fileURL;
     QString m_damagedFile; ///< that was repaired while it was loaded and has not been replaced; null for none
     std::shared_ptr<KnownFile> m_knownFile = std::make_shared<KnownFile>();
+    std::shared_ptr<KnownFile>
+        m_replacedFile; ///< that of another document, which a save may replace; or null
     // The saver's while it runs
-    std::optional<FileStamp> m_changedFile; ///< what the last save found at the path of the file
+    struct {
+        std::shared_ptr<KnownFile> file;
+        std::optional<FileStamp> stamp;
+    } m_changed; ///< what the last save found of it, if another program has changed it
     struct {
         QString path;
         std::optional<FileStamp> stamp;

@@ -521,6 +521,27 @@ private Q_SLOTS:
         QVERIFY(document.knownFile()->changeAt(path));
     }
 
+    void whatAnotherDocumentWasReadFromIsNotOverwritten()
+    {
+        const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{1, 0});
+        QVAlert::setPresenter(alerts);
+        ScriptedDocumentInterface world;
+        MyDocument document(world, {});
+        world.watch(document);
+        load(document, world, "<xmeml/>");
+        MyDocument old(world, {});
+        const QString path = m_home.addFile(QStringLiteral("p/old.xml"), "<xmeml>old</xmeml>");
+        old.knownFile()->note(path, FileStamp::ofPath(path));
+        QVERIFY(document.confirmReplacing(old, path));
+        m_home.addFile(QStringLiteral("p/old.xml"), "<xmeml>theirs</xmeml>");
+        const QUrl url = QUrl::fromLocalFile(path);
+        QCOMPARE(document.writeToURL(url, DocumentType::publicXML).message(), SaveFailure::changedElsewhere);
+        QCOMPARE(contentOf(path), QByteArray("<xmeml>theirs</xmeml>"));
+        QVERIFY(document.writeToURL(url, DocumentType::publicXML)); // the user overwrites it
+        QCOMPARE(alerts->shown().size(), std::size_t(2));
+        QVERIFY(contentOf(path).endsWith("<xmeml/>\n"));
+    }
+
     void aHardLinkLeadsToTheSameFile()
     {
         const auto alerts = std::make_shared<ScriptedAlertPresenter>(std::initializer_list<int>{1});
