@@ -390,8 +390,8 @@ std::vector<DocumentWindow *> AppController::windowsOf(const QString &typeName) 
     return windows;
 }
 
-/// Nothing when the disk does not answer at once; then `late` gets the window, or null, on the main thread
-/// when it does.
+/// A file that is being saved under that name is open, too. Nothing when the disk does not answer at once;
+/// then `late` gets the window, or null, on the main thread when it does.
 std::optional<AppController::Place> AppController::place(const QString &path,
                                                          const std::vector<DocumentWindow *> &windows,
                                                          const std::function<void(DocumentWindow *)> &late)
@@ -399,8 +399,12 @@ std::optional<AppController::Place> AppController::place(const QString &path,
     QStringList files;
     std::vector<QPointer<DocumentWindow>> kept;
     for (DocumentWindow *const window : windows) {
-        files.append(window->path());
-        kept.emplace_back(window);
+        for (const QString &file : {window->path(), window->saveTarget()}) {
+            if (file.isEmpty())
+                continue;
+            files.append(file);
+            kept.emplace_back(window);
+        }
     }
     const auto windowAt = [kept](qsizetype index) {
         DocumentWindow *const window = index < 0 ? nullptr : kept[std::size_t(index)].data();

@@ -265,7 +265,7 @@ void DocumentWindow::fitMinimumWidth()
 
 void DocumentWindow::connectSession()
 {
-    m_saving.forgetGivenUpChanges(); // those of another document
+    m_saving.reset();
     m_interface->connectTo(m_panes, &m_work.sheet(), [this](Tab tab) {
         if (tab != selectedTab())
             (this->*toolBarItems()[std::size_t(tab)].action)();
@@ -277,6 +277,7 @@ void DocumentWindow::connectSession()
     connect(document, &MyDocument::editingAllowedChanged, this, [this] {
         updateEditing();
         Q_EMIT menusChanged();
+        QMetaObject::invokeMethod(this, &DocumentWindow::applyOwnerListing, Qt::QueuedConnection);
     });
     connect(document, &MyDocument::historyChanged, this, &DocumentWindow::menusChanged);
     connect(document, &MyDocument::editedChanged, this, [this](bool edited) {
@@ -525,10 +526,21 @@ bool DocumentWindow::isIdle() const
     return !isBusy() && !m_workbench->document().isSaving();
 }
 
+/// Disabled controls lose the focus. It returns to them unless the user has moved it meanwhile.
 void DocumentWindow::updateEditing()
 {
+    const bool isAllowed = mayEdit();
+    QWidget *const focus = focusWidget();
     for (TabPane *const pane : m_panes)
-        pane->setEditingEnabled(mayEdit());
+        pane->setEditingEnabled(isAllowed);
+    const bool wasAllowed = std::exchange(m_isEditingAllowed, isAllowed);
+    if (wasAllowed && !isAllowed) {
+        m_focusBefore = focus;
+        m_focusMeanwhile = focusWidget();
+    } else if (!wasAllowed && isAllowed && (!focus || focus == m_focusMeanwhile) && m_focusBefore &&
+               m_focusBefore != focus && m_focusBefore->isVisible()) {
+        m_focusBefore->setFocus();
+    }
     if (!m_answers.empty())
         QMetaObject::invokeMethod(this, &DocumentWindow::applyAnswers, Qt::QueuedConnection);
 }
@@ -754,6 +766,8 @@ void DocumentWindow::applyOwnerListing()
     if (inventory.ownerListing() == wanted)
         return;
     commitEditing();
+    if (!mayEdit())
+        return; // what was answered meanwhile comes first
     inventory.setOwnerListing(wanted);
     listMarkersAgain();
 }

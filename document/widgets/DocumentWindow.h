@@ -15,6 +15,7 @@
 #include "journal/JournalFolder.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QSet>
 #include <QVariantMap>
 
@@ -74,6 +75,8 @@ public:
     /// The window's file, and the document type it was last opened or saved as.
     QString path() const { return m_path; }
     QString typeName() const { return m_typeName; }
+    /// The path that the project is being saved to under another name; null for none.
+    QString saveTarget() const { return m_saving.target(); }
     State state() const { return m_state.stage(); }
     bool isLoading() const { return state() == State::Loading || state() == State::Listing; }
     /// Whether a long operation has the project to itself; nobody may edit it meanwhile.
@@ -390,7 +393,10 @@ private:
     // The document and its views, replaced together when the file is reloaded
     std::shared_ptr<DocumentWindowInterface> m_interface;
     std::unique_ptr<Workbench> m_workbench;
-    std::array<TabPane *, 3> m_panes = {};                 // by tab, children of m_content
+    std::array<TabPane *, 3> m_panes = {}; // by tab, children of m_content
+    bool m_isEditingAllowed = false;
+    QPointer<QWidget> m_focusBefore;                       // when editing was allowed last
+    QPointer<QWidget> m_focusMeanwhile;                    // since then, by itself
     std::optional<JournalFolder::Restorable> m_restorable; ///< for the next session
 
     /// What reverting gave up.

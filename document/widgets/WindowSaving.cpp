@@ -48,6 +48,7 @@ void WindowSaving::saveTo(const QString &path)
         write(path);
         return;
     }
+    m_target = path;
     const QString name = QFileInfo(path).fileName();
     const auto found = [this, path, name](bool isOpen) {
         if (!isOpen) {
@@ -60,6 +61,12 @@ void WindowSaving::saveTo(const QString &path)
         finish(false);
     };
     findOpen(path, false, tr("Saving “%1”…").arg(name), found, [this] { finish(false); });
+}
+
+void WindowSaving::reset()
+{
+    forgetGivenUpChanges();
+    m_target.clear();
 }
 
 void WindowSaving::findOpen(const QString &path, bool thisToo, const QString &text,
@@ -163,6 +170,7 @@ void WindowSaving::saved(const QString &path)
 
 void WindowSaving::finish(bool isSaved)
 {
+    m_target.clear();
     Q_EMIT m_window.saved(isSaved);
     if (m_state.saveEnded())
         changesEnded(isSaved);

@@ -41,6 +41,8 @@ public:
                   const std::function<void(bool isOpen)> &found, const std::function<void()> &cancelled = {});
 
     void saveTo(const QString &path);
+    /// The other path that a save is under way to, from its start to its end; null for none.
+    QString target() const { return m_target; }
     void saveAs();
     void revert();
     void revertWithoutQuestion();
@@ -54,6 +56,8 @@ public:
     void settleChanges(Settling settling);
     bool hasUnsettledChanges();
     void forgetGivenUpChanges() { m_givenUp.reset(); }
+    /// The document is gone, and a save of it that has not begun.
+    void reset();
     void closeSettled();
 
 private:
@@ -73,6 +77,7 @@ private:
     void perform(const QString &selector, QVAlert *alert, int code) override;
 
     FindOpen m_findOpen;
+    QString m_target;
     std::optional<ChangeMarks::State> m_givenUp; // the state of the project when the user gave it up
 };
 

@@ -25,6 +25,10 @@ void WindowSending::sendToFCP()
         m_window.finishSaving(false);
         return;
     }
+    if (document->isSaving()) { // the tree is being read for something that the window does not wait for
+        m_window.whenIdle([this] { sendToFCP(); });
+        return;
+    }
     // The sender shows the progress sheet once there is something to send.
     m_state.setSending(true);
     m_work.sheet().setCancelTitle(tr("Hide"));

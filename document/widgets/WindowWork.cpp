@@ -33,12 +33,10 @@ void WindowWork::begin(const QString &text, WindowState::Work work, std::functio
 {
     m_state.begin(work, next);
     m_cancel = std::move(cancel);
-    m_focusBefore = m_window->focusWidget();
     m_sheet->setCancelTitle(QString());
     m_sheet->updateProgressLabel(text);
     m_delay.start();
     Q_EMIT changed();
-    m_focusMeanwhile = m_window->focusWidget();
 }
 
 void WindowWork::makeFixed(const QString &text, std::size_t done, std::size_t total)
@@ -56,11 +54,6 @@ void WindowWork::end()
     m_cancel = nullptr;
     const WindowState::Next next = m_state.end();
     Q_EMIT changed();
-    // Disabled controls have lost the focus.
-    QWidget *const focus = m_window->focusWidget();
-    const bool isUnmoved = !focus || focus == m_focusMeanwhile;
-    if (isUnmoved && m_focusBefore && m_focusBefore != focus && m_focusBefore->isVisible())
-        m_focusBefore->setFocus();
     Q_EMIT ended(next);
 }
 

@@ -3,7 +3,6 @@
 #include "document/widgets/WindowState.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QTimer>
 
@@ -17,8 +16,8 @@ namespace vantrell
 
 class ProgressSheet;
 
-/// Shows the progress sheet for an operation that takes a while, lets it be cancelled, and keeps the keyboard
-/// focus where it was. One operation at a time. Main thread.
+/// Shows the progress sheet for an operation that takes a while, and lets it be cancelled. One operation at a
+/// time. Main thread.
 class WindowWork final : public QObject
 {
     Q_OBJECT
@@ -57,8 +56,6 @@ private:
     ProgressSheet *m_sheet;
     QTimer m_delay;
     std::function<void()> m_cancel;
-    QPointer<QWidget> m_focusBefore;
-    QPointer<QWidget> m_focusMeanwhile;
 };
 
 } // namespace vantrell

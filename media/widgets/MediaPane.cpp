@@ -82,11 +82,7 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
             [this, relink] { relink->setEnabled(isEditingEnabled() && !selectedMissingUrl().isNull()); });
     table().setMenu(menu);
     // Relinking gives files other URLs.
-    const MyDocument &document = workbench.document();
-    for (const auto signal : {&MyDocument::historyChanged, &MyDocument::editingAllowedChanged})
-        connect(&document, signal, this, &MediaPane::updateUses);
-    // What the window does with the lists comes first, for nothing is edited while the uses are read.
-    connect(&document, &MyDocument::inventoriesFinished, this, &MediaPane::updateUses, Qt::QueuedConnection);
+    connect(&workbench.document(), &MyDocument::historyChanged, this, &MediaPane::updateUses);
     mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     restoreUseColumns();
     updateControls();
@@ -351,14 +347,22 @@ void MediaPane::restoreUseColumns()
     updateUses();
 }
 
-/// Reads them in the background when they are shown or searched and not known of all files.
+void MediaPane::setEditingEnabled(bool enabled)
+{
+    TabPane::setEditingEnabled(enabled);
+    // What the window does next comes first, for nothing is edited while the uses are read.
+    if (enabled)
+        QMetaObject::invokeMethod(this, &MediaPane::updateUses, Qt::QueuedConnection);
+}
+
+/// Reads them in the background when they are shown or searched and not known of all files, unless something
+/// may be changing the project.
 void MediaPane::updateUses()
 {
     MyDocument &document = workbench().document();
     const bool areWanted = showsUses() || m_mediaSearch.conditions().state == MediaSearch::State::Unused;
-    if (!areWanted || m_readsUses || !m_triesUses || !document.xmlDoc() ||
-        document.isPopulating(Tab::Media) || document.isPopulating(Tab::Effects) ||
-        document.isPopulating(Tab::Markers) || m_uses->holds(document.mediaArray()))
+    if (!areWanted || m_readsUses || !m_triesUses || !isEditingEnabled() ||
+        m_uses->holds(document.mediaArray()))
         return;
     QStringList urls; // the records may change meanwhile
     for (const RowRecordPtr &record : document.mediaArray())

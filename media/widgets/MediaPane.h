@@ -43,6 +43,7 @@ Q_SIGNALS:
     void exportListRequested();
 
 protected:
+    void setEditingEnabled(bool enabled) override;
     void updateControls() override;
     Columns otherColumns() const override { return m_useColumns; }
     void search() override;

@@ -471,7 +471,19 @@ private Q_SLOTS:
         QVERIFY(press(visibleBox(), QStringLiteral("OK")));
         QCOMPARE(contentOf(m_path), before);
         QVERIFY(saves(*window, m_home->path(QStringLiteral("jump/../Harbour Lights.xml"))));
-        m_controller->documentWindows().front()->close();
+        // Two cannot be saved to one name at once.
+        DocumentWindow *const first = m_controller->documentWindows().front();
+        const QString same = m_home->path(QStringLiteral("project/Same.xml"));
+        QSignalSpy saved(first, &DocumentWindow::saved);
+        first->saveTo(same);
+        QVERIFY(!saves(*window, same));
+        QTRY_VERIFY(visibleBox());
+        QVERIFY(press(visibleBox(), QStringLiteral("OK")));
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(saved.at(0).at(0).toBool());
+        QVERIFY(saves(*first, m_path) && QFile::remove(same) && saves(*window, same));
+        QVERIFY(saves(*window, other));
+        first->close();
         QTRY_COMPARE(m_controller->documentWindows().size(), std::size_t(1));
         QVERIFY(saves(*window, fileLink));
         QVERIFY(contentOf(m_path).contains("<name>New</name>"));

@@ -259,6 +259,22 @@ private Q_SLOTS:
         QVERIFY(!m_window->isBusy() && !m_window->isWindowModified());
     }
 
+    void usesWaitForAnImport()
+    {
+        QVERIFY(open());
+        const QString list =
+            m_home->addFile(u"list.txt"_s, QByteArray("Cue\t01:00:20:00\tV1\tred\t\n").repeated(3000));
+        QSignalSpy imported(m_window, &DocumentWindow::markersImported);
+        m_window->importMarkerLists({list}, MarkerListFormat::avid);
+        m_window->showMediaUses(true);
+        while (imported.isEmpty()) {
+            QVERIFY(!m_window->document()->isSaving());
+            QTest::qWait(1);
+        }
+        m_window->toolbarMedia();
+        QTRY_COMPARE(columnTexts(*m_window, Tab::Media, u"uses"_s).value(0), u"4"_s);
+    }
+
 private:
     bool open()
     {

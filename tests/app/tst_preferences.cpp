@@ -22,6 +22,7 @@
 #include <QPalette>
 #include <QSpinBox>
 #include <QTest>
+#include <QThread>
 
 using namespace vantrell;
 
@@ -159,6 +160,8 @@ private Q_SLOTS:
     void ownersFollowInAllWindows()
     {
         openTwo();
+        MyDocument *const busy = m_controller->documentWindows().front()->document();
+        QVERIFY(busy->runInBackground([] { QThread::msleep(100); }, [] {})); // it follows when that is over
         button(show(), QStringLiteral("List each marker under its own sequence and clip"))->click();
         for (DocumentWindow *const window : m_controller->documentWindows())
             QTRY_COMPARE(window->workbench().markerInventory().ownerListing(), OwnerListing::Own);

@@ -19,6 +19,7 @@
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 #include <vector>
 
@@ -152,7 +153,10 @@ private Q_SLOTS:
         QVERIFY(!m_window->findChild<ProgressSheet *>()->isVisible());
         QCOMPARE(importsInLog(), 1);
 
+        // It waits while the project is being read.
+        QVERIFY(m_window->document()->runInBackground([] { QThread::msleep(100); }, [] {}));
         m_window->sendToFCP();
+        QVERIFY(!m_window->isSending());
         QCOMPARE(answerAlert(), text("No changes to send to Final Cut Pro"));
         QTRY_VERIFY(!m_window->isSending());
         QCOMPARE(importsInLog(), 1);
