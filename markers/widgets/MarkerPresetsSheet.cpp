@@ -123,14 +123,20 @@ void MarkerPresetsSheet::nameTyped(int row, const QString &name)
     m_list->item(row)->setText(m_names[row]);
 }
 
-/// In the sheet of a single preset, which takes the place of this one.
+void MarkerPresetsSheet::select(const QString &name)
+{
+    const int row = int(m_names.indexOf(name));
+    if (row >= 0)
+        m_list->setCurrentRow(row);
+}
+
 void MarkerPresetsSheet::editLabels()
 {
     const QString name = m_names.value(m_list->currentRow());
     if (name.isNull())
         return;
     accept();
-    m_presets.editMarkerPreset(name);
+    Q_EMIT labelsRequested(name);
 }
 
 void MarkerPresetsSheet::remove()

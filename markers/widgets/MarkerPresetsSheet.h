@@ -20,6 +20,13 @@ public:
     /// The presets outlive the sheet.
     explicit MarkerPresetsSheet(MarkerPresets &presets, QWidget *parent);
 
+    /// Makes the preset the current one, if there is one of that name.
+    void select(const QString &name);
+
+Q_SIGNALS:
+    /// The labels of that preset are to be edited in a sheet that takes the place of this one.
+    void labelsRequested(const QString &name);
+
 private:
     void fill();
     void rename();

@@ -485,9 +485,24 @@ void MarkersPane::showMarkerPresetsDialog()
 {
     if (isOpen(m_presetsSheet))
         return;
-    m_presetsSheet = new MarkerPresetsSheet(workbench().markerPresets(), this);
+    auto *const sheet = new MarkerPresetsSheet(workbench().markerPresets(), this);
+    connect(sheet, &MarkerPresetsSheet::labelsRequested, this, &MarkersPane::editPresetLabels);
+    m_presetsSheet = sheet;
     m_presetsSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_presetsSheet->open();
+}
+
+/// In the sheet of a single preset, after which that of all presets comes back.
+void MarkersPane::editPresetLabels(const QString &name)
+{
+    workbench().markerPresets().editMarkerPreset(name);
+    if (!isOpen(m_presetSheet))
+        return;
+    const auto goBack = [this, name] {
+        showMarkerPresetsDialog();
+        static_cast<MarkerPresetsSheet &>(*m_presetsSheet).select(name);
+    };
+    connect(m_presetSheet, &QDialog::finished, this, goBack, Qt::QueuedConnection);
 }
 
 void MarkersPane::showMarkerFieldsDialog()

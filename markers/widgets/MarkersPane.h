@@ -88,6 +88,7 @@ private:
     void setMarkerLabels(const QStringList &labels);
     void selectAdded(const RowList &added);
     void openPresetSheet();
+    void editPresetLabels(const QString &name);
     void closePresetSheet();
 
     UserDefaults &m_defaults;

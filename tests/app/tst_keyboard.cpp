@@ -405,6 +405,9 @@ private Q_SLOTS:
         QCOMPARE(visibleDialog()->windowTitle(), QStringLiteral("Edit Marker Preset"));
         QCOMPARE(visibleDialog()->findChild<QLineEdit *>()->text(), QStringLiteral("B"));
         visibleDialog()->reject();
+        QTRY_VERIFY(visibleDialog() && visibleDialog()->findChild<QListWidget *>());
+        QCOMPARE(visibleDialog()->findChild<QListWidget *>()->currentItem()->text(), QStringLiteral("B"));
+        visibleDialog()->reject();
     }
 
     void switchesAllSelectedEffects()
