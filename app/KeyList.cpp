@@ -131,6 +131,10 @@ QList<KeyGroup> otherKeys()
             {keys({Key_Menu, SHIFT | Key_F10}), QT_TRANSLATE_NOOP("KeyList", "The context menu of the selected rows")},
             {keys({CTRL | Key_Menu}), QT_TRANSLATE_NOOP("KeyList", "The menu of the table's header: its columns")},
         }),
+        group(QT_TRANSLATE_NOOP("KeyList", "Search Field"), {
+            {keys({Key_Return, Key_Down}), QT_TRANSLATE_NOOP("KeyList", "To the rows that were found")},
+            {keys({Key_Escape}), QT_TRANSLATE_NOOP("KeyList", "Clear the search, then back to the table")},
+        }),
         group(QT_TRANSLATE_NOOP("KeyList", "Media Table"), {
             {keys({Key_Return, Key_Enter}), QT_TRANSLATE_NOOP("KeyList", "Open the file with its application")},
         }),

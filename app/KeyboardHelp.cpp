@@ -9,8 +9,11 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace vantrell
 {
@@ -91,9 +94,21 @@ void KeyboardHelp::fill(const QMainWindow &window)
     for (const KeyGroup &group : shortcutsOf(window) + otherKeys())
         makeGroup(group, m_list)->setFirstColumnSpanned(true);
     m_list->expandAll();
+    fitWidth();
     m_search->setFocus();
     m_search->selectAll();
     filter();
+}
+
+/// Makes the window wide enough for the texts.
+void KeyboardHelp::fitWidth()
+{
+    const int texts = static_cast<const QAbstractItemView *>(m_list)->sizeHintForColumn(Text) +
+                      static_cast<const QAbstractItemView *>(m_list)->sizeHintForColumn(Keys);
+    const int frame = m_list->verticalScrollBar()->sizeHint().width() + 2 * m_list->frameWidth() +
+                      layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    resize(std::clamp(texts + frame, width(), std::max(width(), screen()->availableSize().width() * 9 / 10)),
+           height());
 }
 
 /// Shows the lines that contain the text, and all lines of a group that does.

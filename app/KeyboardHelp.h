@@ -28,6 +28,7 @@ private:
     explicit KeyboardHelp(QMainWindow &window);
 
     void fill(const QMainWindow &window);
+    void fitWidth();
     void filter();
 
     QLineEdit *m_search;

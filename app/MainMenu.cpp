@@ -4,6 +4,7 @@
 #include "app/ApplicationWatch.h"
 #include "app/KeyboardHelp.h"
 #include "app/RecentFiles.h"
+#include "app/WindowTitles.h"
 #include "document/MyDocument.h"
 #include "document/widgets/CommandValidation.h"
 #include "document/widgets/DocumentWindow.h"
@@ -298,8 +299,12 @@ void MainMenu::fillRecentMenu()
 {
     m_recentMenu->clear();
     const QStringList paths = m_controller.recentFiles().paths();
-    for (const QString &path : paths) {
+    const QStringList folders = foldersThatTellApart(paths);
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const QString &path = paths[i];
         QString title = QFileInfo(path).fileName();
+        if (!folders[i].isEmpty())
+            title = tr("%1 — %2", "file and folder").arg(title, folders[i]);
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction *const action = m_recentMenu->addAction(title);
         action->setToolTip(path);

@@ -80,7 +80,7 @@ StartWindow::StartWindow(RecentFiles &recentFiles, UserDefaults &defaults)
     layout->addLayout(columns, 1);
     layout->addWidget(m_message);
     setCentralWidget(central);
-    resize(760, 480);
+    resize(QSize(760, 480).boundedTo(screen()->availableSize() * 0.9));
     connect(&m_defaults, &UserDefaults::changed, this, [this](const QString &key) {
         if (key == PreferenceKey::showOpenDialog)
             showSetting();
@@ -104,7 +104,7 @@ QWidget *StartWindow::makeWelcome()
     open->setDefault(true);
     open->setToolTip(tr("Choose a project or an XML file"));
     connect(open, &QPushButton::clicked, this, &StartWindow::openRequested);
-    auto *const sample = new QPushButton(tr("Open Sa&mple Project"), welcome);
+    auto *const sample = new QPushButton(tr("Open Sam&ple Project"), welcome);
     sample->setToolTip(tr("Try the program with a copy of a small project that has something of everything"));
     connect(sample, &QPushButton::clicked, this, &StartWindow::sampleRequested);
     m_dropArea = new DropArea(tr("Drop a project or\nan XML file here"), welcome);

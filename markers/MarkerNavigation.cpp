@@ -1,9 +1,7 @@
 #include "markers/MarkerNavigation.h"
 
-#include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
 #include "support/text/TextNumbers.h"
-#include "timecode/QVTimecode.h"
 
 namespace vantrell::MarkerNavigation
 {
@@ -20,15 +18,6 @@ std::optional<std::size_t> nextOfColor(const RowList &rows, std::size_t row, Dir
             return row;
     }
     return std::nullopt;
-}
-
-Position positionOf(const QString &typed, const RowRecord &marker)
-{
-    const QString timecode = QVTimecode::timecodeFromUserString(typed, marker.get(TimecodeKey::dropFrame),
-                                                                QStringLiteral("01:00:00:00"));
-    const std::int64_t frame = MyDocument::frameCountFromTimecode(timecode, marker);
-    // As the table would show it: numbers out of range become those that they stand for.
-    return {MyDocument::timecodeFromFrameCount(std::int32_t(frame), marker), frame};
 }
 
 std::optional<std::size_t> nearestRow(const RowList &rows, const RowRecord &marker, std::int64_t frame)

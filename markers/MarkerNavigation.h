@@ -20,15 +20,8 @@ enum class Direction { Down, Up };
 /// The nearest row in that direction whose colour is that of the row; nothing when there is none.
 std::optional<std::size_t> nextOfColor(const RowList &rows, std::size_t row, Direction direction);
 
-/// What a text that is typed as an in point means in the sequence of a marker.
-struct Position {
-    QString timecode;
-    std::int64_t frame = 0; ///< from the sequence's first, below 0 before that
-};
-Position positionOf(const QString &typed, const RowRecord &marker);
-
-/// The row in the marker's sequence whose in point is nearest to the frame, the first of several; nothing
-/// without a row of that sequence.
+/// The row in the marker's sequence whose in point is nearest to the frame (from the sequence's first), the
+/// first of several; nothing without a row of that sequence.
 std::optional<std::size_t> nearestRow(const RowList &rows, const RowRecord &marker, std::int64_t frame);
 
 } // namespace MarkerNavigation

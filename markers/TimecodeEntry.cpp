@@ -87,9 +87,15 @@ TimecodeEntry::Reading TimecodeEntry::ofDuration(const QString &typed, const Row
     return duration(typed, ownerOf(marker), integerValue(marker.get(MarkerKey::in)));
 }
 
+TimecodeEntry::Reading TimecodeEntry::ofPlace(const QString &typed, const RowRecord &marker)
+{
+    const XmlNode sequence = marker.get(MarkerKey::sequence);
+    return place(typed, {marker.get(MarkerKey::sequenceName), timingOf(marker), lengthOf(sequence)});
+}
+
 TimecodeEntry::Reading TimecodeEntry::ofNewInPoint(const QString &typed, XmlNode sequence)
 {
-    return inPoint(typed, startOf(sequence), ownerOf(sequence));
+    return place(typed, ownerOf(sequence));
 }
 
 TimecodeEntry::Reading TimecodeEntry::ofNewDuration(const QString &typed, XmlNode sequence,
@@ -111,6 +117,7 @@ TimecodeEntry::Reading TimecodeEntry::inPoint(const QString &typed, const QStrin
     reading.frames = written(QVTimecode::frameCountFromTimecode(
         timecode, timing.timebase, timing.ntsc, timing.dropFrame, quint64(timing.startFrame)));
     const QString result = timecodeAt(reading.frames, timing);
+    reading.timecode = result;
     const QString what = typed.isEmpty() ? tr("An empty field") : shown(typed);
     reading.text =
         owner.name.isEmpty()
@@ -124,6 +131,23 @@ TimecodeEntry::Reading TimecodeEntry::inPoint(const QString &typed, const QStrin
         reading.warnings.append(
             tr("This is after the end of %1 at %2.").arg(name, timecodeAt(*owner.length, timing)));
     return reading;
+}
+
+/// The first place of the sequence with the digits that were typed: what is not typed comes from its start,
+/// or from a second, a minute or an hour later where that would be before it.
+TimecodeEntry::Reading TimecodeEntry::place(const QString &typed, const Owner &owner)
+{
+    const SequenceTiming &timing = owner.timing;
+    const std::int64_t second = timing.timebase > 0 ? timing.timebase : 30;
+    const Reading first = inPoint(typed, timecodeAt(0, timing), owner);
+    for (const std::int64_t later : {second, 60 * second, 3600 * second}) {
+        if (first.frames >= 0)
+            break;
+        Reading reading = inPoint(typed, timecodeAt(later, timing), owner);
+        if (reading.frames >= 0)
+            return reading;
+    }
+    return first;
 }
 
 TimecodeEntry::Reading TimecodeEntry::duration(const QString &typed, const Owner &owner, std::int64_t inPoint)

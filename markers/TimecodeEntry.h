@@ -25,6 +25,7 @@ public:
         QString text;
         QStringList warnings;
         std::int64_t frames = 0; ///< position or duration that would be written
+        QString timecode;        ///< of the position; null for a duration
     };
 
     TimecodeEntry() = delete;
@@ -32,6 +33,9 @@ public:
     /// Typed into the cell of a marker's in point or duration.
     static Reading ofInPoint(const QString &typed, const RowRecord &marker);
     static Reading ofDuration(const QString &typed, const RowRecord &marker);
+
+    /// Typed as a place in the sequence of a marker.
+    static Reading ofPlace(const QString &typed, const RowRecord &marker);
 
     /// Typed as the in point, or as the duration, of a marker that is to be added to the sequence at a
     /// position in frames.
@@ -55,6 +59,7 @@ private:
     static Owner ownerOf(const RowRecord &marker);
     static Owner ownerOf(XmlNode sequence);
     static Reading inPoint(const QString &typed, const QString &start, const Owner &owner);
+    static Reading place(const QString &typed, const Owner &owner);
     static Reading duration(const QString &typed, const Owner &owner, std::int64_t inPoint);
     static QStringList faultsOfTyping(const QString &typed);
     static QStringList faultsOfFields(const QString &timecode, const SequenceTiming &timing);

@@ -483,6 +483,18 @@
         <source>Open the file with its application</source>
         <translation>Datei mit ihrem Programm öffnen</translation>
     </message>
+    <message>
+        <source>Search Field</source>
+        <translation>Suchfeld</translation>
+    </message>
+    <message>
+        <source>To the rows that were found</source>
+        <translation>Zu den gefundenen Zeilen</translation>
+    </message>
+    <message>
+        <source>Clear the search, then back to the table</source>
+        <translation>Suche leeren, dann zurück zur Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2768,6 +2780,11 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>custom field</comment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportReportSheet</name>
@@ -2841,6 +2858,10 @@
     <message>
         <source>Nearest: “%1” at %2.</source>
         <translation>Am nächsten: „%1“ bei %2.</translation>
+    </message>
+    <message>
+        <source>⚠ %1</source>
+        <translation>⚠ %1</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3196,11 @@
     <message>
         <source>&amp;Offset…</source>
         <translation>Verset&amp;zen…</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <comment>file and folder</comment>
+        <translation>%1 — %2</translation>
     </message>
 </context>
 <context>
@@ -4968,10 +4994,6 @@ eines Schnittprojekts</translation>
         <translation>Ein Projekt oder eine XML-Datei auswählen</translation>
     </message>
     <message>
-        <source>Open Sa&amp;mple Project</source>
-        <translation>B&amp;eispielprojekt öffnen</translation>
-    </message>
-    <message>
         <source>Try the program with a copy of a small project that has something of everything</source>
         <translation>Das Programm mit der Kopie eines kleinen Projekts ausprobieren, das von allem etwas enthält</translation>
     </message>
@@ -5000,6 +5022,10 @@ hier ablegen</translation>
     <message>
         <source>Projects that you open are listed here.</source>
         <translation>Hier werden Projekte aufgelistet, die Sie öffnen.</translation>
+    </message>
+    <message>
+        <source>Open Sam&amp;ple Project</source>
+        <translation>B&amp;eispielprojekt öffnen</translation>
     </message>
 </context>
 <context>

@@ -483,6 +483,18 @@
         <source>Open the file with its application</source>
         <translation>Abrir el archivo con su aplicación</translation>
     </message>
+    <message>
+        <source>Search Field</source>
+        <translation>Campo de búsqueda</translation>
+    </message>
+    <message>
+        <source>To the rows that were found</source>
+        <translation>A las filas encontradas</translation>
+    </message>
+    <message>
+        <source>Clear the search, then back to the table</source>
+        <translation>Borrar la búsqueda, luego volver a la tabla</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2768,6 +2780,11 @@
         <source>Export</source>
         <translation>Exportar</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>custom field</comment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportReportSheet</name>
@@ -2841,6 +2858,10 @@
     <message>
         <source>Nearest: “%1” at %2.</source>
         <translation>Más próximo: «%1» en %2.</translation>
+    </message>
+    <message>
+        <source>⚠ %1</source>
+        <translation>⚠ %1</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3196,11 @@
     <message>
         <source>&amp;Offset…</source>
         <translation>Despla&amp;zar…</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <comment>file and folder</comment>
+        <translation>%1 — %2</translation>
     </message>
 </context>
 <context>
@@ -4968,10 +4994,6 @@ de un proyecto de edición</translation>
         <translation>Elegir un proyecto o un archivo XML</translation>
     </message>
     <message>
-        <source>Open Sa&amp;mple Project</source>
-        <translation>Abrir &amp;proyecto de ejemplo</translation>
-    </message>
-    <message>
         <source>Try the program with a copy of a small project that has something of everything</source>
         <translation>Probar el programa con una copia de un proyecto pequeño que tiene un poco de todo</translation>
     </message>
@@ -5000,6 +5022,10 @@ o un archivo XML</translation>
     <message>
         <source>Projects that you open are listed here.</source>
         <translation>Aquí se muestran los proyectos que abra.</translation>
+    </message>
+    <message>
+        <source>Open Sam&amp;ple Project</source>
+        <translation>Abrir &amp;proyecto de ejemplo</translation>
     </message>
 </context>
 <context>

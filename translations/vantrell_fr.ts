@@ -483,6 +483,18 @@
         <source>Open the file with its application</source>
         <translation>Ouvrir le fichier avec son application</translation>
     </message>
+    <message>
+        <source>Search Field</source>
+        <translation>Champ de recherche</translation>
+    </message>
+    <message>
+        <source>To the rows that were found</source>
+        <translation>Aux lignes trouvées</translation>
+    </message>
+    <message>
+        <source>Clear the search, then back to the table</source>
+        <translation>Effacer la recherche, puis retour au tableau</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2768,6 +2780,11 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>custom field</comment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportReportSheet</name>
@@ -2841,6 +2858,10 @@
     <message>
         <source>Nearest: “%1” at %2.</source>
         <translation>Le plus proche&#xa0;: «&#xa0;%1&#xa0;» à %2.</translation>
+    </message>
+    <message>
+        <source>⚠ %1</source>
+        <translation>⚠ %1</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3196,11 @@
     <message>
         <source>&amp;Offset…</source>
         <translation>Décaler les &amp;marqueurs…</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <comment>file and folder</comment>
+        <translation>%1 — %2</translation>
     </message>
 </context>
 <context>
@@ -4968,10 +4994,6 @@ d’un projet de montage</translation>
         <translation>Choisir un projet ou un fichier XML</translation>
     </message>
     <message>
-        <source>Open Sa&amp;mple Project</source>
-        <translation>Ouvrir le projet d’e&amp;xemple</translation>
-    </message>
-    <message>
         <source>Try the program with a copy of a small project that has something of everything</source>
         <translation>Essayer le programme avec une copie d’un petit projet qui contient un peu de tout</translation>
     </message>
@@ -5000,6 +5022,10 @@ ou un fichier XML</translation>
     <message>
         <source>Projects that you open are listed here.</source>
         <translation>Les projets que vous ouvrez sont listés ici.</translation>
+    </message>
+    <message>
+        <source>Open Sam&amp;ple Project</source>
+        <translation>Ouvrir le projet d’e&amp;xemple</translation>
     </message>
 </context>
 <context>

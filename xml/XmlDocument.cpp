@@ -61,7 +61,7 @@ QString lossText(const XmlLoss &loss)
         return QStringLiteral(
                    "Content is missing from its place: the tags do not match, so elements near or behind "
                    "line %1 may be outside of those that they belong to.")
-            .arg(grouped(loss.misplacedLine));
+            .arg(loss.misplacedLine);
     }
     if (!loss.isCutOff && loss.droppedReferences > 0) {
         return QStringLiteral(
@@ -69,7 +69,7 @@ QString lossText(const XmlLoss &loss)
             .arg(loss.droppedReferences == 1
                      ? QStringLiteral("1 place")
                      : QStringLiteral("%1 places").arg(grouped(loss.droppedReferences)),
-                 grouped(loss.firstDropped));
+                 QString::number(loss.firstDropped));
     }
     if (!loss.isCutOff && loss.droppedText)
         return QStringLiteral("Content is missing: %1, and what follows is no part of the project.")

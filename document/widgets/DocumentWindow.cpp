@@ -17,6 +17,7 @@
 #include "support/files/StandardFolders.h"
 #include "support/log/QVException.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/AlertBox.h"
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/SelectableLabel.h"
@@ -60,6 +61,7 @@ const QString journalKey = QStringLiteral("journal");
 
 constexpr int redrawMs = 50;
 constexpr QSize smallestSize(680, 460);
+constexpr int failureMargin = 60; // pixels beside the texts of the page
 
 struct ToolBarItem {
     QString identifier;
@@ -179,17 +181,14 @@ QWidget *DocumentWindow::makeFailurePage()
     QFont font = m_failure->font();
     font.setPointSizeF(font.pointSizeF() * 1.3);
     m_failure->setFont(font);
-    m_failureReason = new QLabel(page);
+    m_failureDetail = new QLabel(page);
     auto *const layout = new QVBoxLayout(page);
-    layout->setContentsMargins(60, 20, 60, 20);
+    layout->setContentsMargins(failureMargin, 20, failureMargin, 20);
     layout->setSpacing(12);
     layout->addStretch(1);
     layout->addWidget(icon, 0, Qt::AlignHCenter);
-    for (QLabel *const label : {m_failure, m_failureReason}) {
+    for (QLabel *const label : {m_failure, m_failureDetail}) {
         label->setAlignment(Qt::AlignCenter);
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        makeSelectable(*label);
         layout->addWidget(label);
     }
     layout->addStretch(2);
@@ -488,12 +487,15 @@ void DocumentWindow::showLoadFailure(const QString &message)
 {
     m_state.loadFailed();
     m_toolBar->setEnabled(false);
-    m_failure->setText(tr("“%1” could not be opened.").arg(QFileInfo(m_path).fileName()));
+    m_failureText = tr("“%1” could not be opened.").arg(QFileInfo(m_path).fileName());
     // An empty message: an alert has said that there is no Final Cut Pro.
-    m_failureReason->setText(message.isEmpty() || message == LoadFailure::noProject
-                                 ? tr("Project files are read by way of Final Cut Pro 7, which gave "
-                                      "no project. An XML export of it opens without.")
-                                 : shownMessage(message));
+    m_failureReason = message.isEmpty() || message == LoadFailure::noProject
+                          ? tr("Project files are read by way of Final Cut Pro 7, which gave "
+                               "no project. An XML export of it opens without.")
+                          : shownMessage(message);
+    constexpr int width = smallestSize.width() - 2 * failureMargin;
+    setTextWithPaths(*m_failure, m_failureText, width);
+    setTextWithPaths(*m_failureDetail, m_failureReason, width);
     if (std::exchange(m_isReloading, false)) {
         // The document that failed is telling of it: it is replaced after that.
         m_hasReloadFailed = true;
@@ -511,9 +513,8 @@ void DocumentWindow::returnFromFailedReload()
     if (isClosing() || !std::exchange(m_hasReloadFailed, false))
         return;
     showReverted();
-    showFailure(m_failure->text(),
-                m_failureReason->text() + QLatin1Char('\n') +
-                    tr("The project stays open as it is. You can save it to another place."));
+    showFailure(m_failureText, m_failureReason + QLatin1Char('\n') +
+                                   tr("The project stays open as it is. You can save it to another place."));
 }
 
 bool DocumentWindow::mayEdit() const
@@ -634,7 +635,7 @@ MyDocument *DocumentWindow::document() const
 QString DocumentWindow::message() const
 {
     if (state() == State::Failed)
-        return (m_failure->text() + QLatin1Char('\n') + m_failureReason->text()).trimmed();
+        return (m_failureText + QLatin1Char('\n') + m_failureReason).trimmed();
     return m_notice->notice();
 }
 
@@ -642,7 +643,7 @@ bool DocumentWindow::refusesAfterFailedLoad()
 {
     if (state() != State::Failed)
         return false;
-    showFailure(m_failure->text(), m_failureReason->text());
+    showFailure(m_failureText, m_failureReason);
     return true;
 }
 

@@ -388,7 +388,9 @@ private:
     OwnersNotice *m_ownersNotice = nullptr;
     QStackedWidget *m_content = nullptr;
     QLabel *m_failure = nullptr;
-    QLabel *m_failureReason = nullptr;
+    QLabel *m_failureDetail = nullptr;
+    QString m_failureText; // as a whole, as is the reason
+    QString m_failureReason;
 
     // The document and its views, replaced together when the file is reloaded
     std::shared_ptr<DocumentWindowInterface> m_interface;

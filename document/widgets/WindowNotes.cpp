@@ -8,6 +8,7 @@
 #include "interchange/widgets/ExportNotesSheet.h"
 #include "interchange/widgets/NoteAddition.h"
 #include "interchange/widgets/NotePreviewSheet.h"
+#include "markers/MarkerFields.h"
 #include "markers/MarkerKeys.h"
 #include "markers/widgets/MarkersPane.h"
 #include "support/files/CancellableWrite.h"
@@ -341,8 +342,11 @@ void WindowNotes::exportNotes()
     RowList selected;
     for (const std::size_t row : m_window.pane(Tab::Markers).selectedRows())
         selected.push_back(shown[row]);
-    m_export = new ExportNotesSheet(workbench.document(), {std::move(selected), shown}, m_window.fileTitle(),
-                                    m_window.folder(), &m_window);
+    ExportNotesSheet::FieldTitles fields;
+    for (const MarkerField &field : workbench.markerFields().markerFieldArray())
+        fields.insert(field.identifier.mid(MarkerKey::customPrefix.size()), field.title);
+    m_export = new ExportNotesSheet(workbench.document(), {std::move(selected), shown}, fields,
+                                    m_window.fileTitle(), m_window.folder(), &m_window);
     ExportNotesSheet *const sheet = m_export;
     QObject::connect(sheet, &ExportNotesSheet::chosen, &m_window, [this, sheet](const QString &path) {
         m_window.whenIdle([this, path, list = exportOf(*sheet)] { exportTo(path, list); });

@@ -30,8 +30,8 @@ enum WhichMarkers { AllMarkers, SelectedMarkers, ShownMarkers };
 
 } // namespace
 
-ExportNotesSheet::ExportNotesSheet(MyDocument &document, Markers markers, const QString &fileTitle,
-                                   const QString &folder, QWidget *window)
+ExportNotesSheet::ExportNotesSheet(MyDocument &document, Markers markers, const FieldTitles &fields,
+                                   const QString &fileTitle, const QString &folder, QWidget *window)
     : QDialog(window)
     , m_document(document)
     , m_exporter(document)
@@ -65,7 +65,7 @@ ExportNotesSheet::ExportNotesSheet(MyDocument &document, Markers markers, const 
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_export = buttons->addButton(tr("&Export…"), QDialogButtonBox::AcceptRole);
     m_export->setDefault(true);
-    m_columnsBox = makeColumns();
+    m_columnsBox = makeColumns(fields);
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(m_columnsBox, 1);
@@ -132,7 +132,7 @@ void ExportNotesSheet::fillMarkers()
     m_flag->addItem(tr("Scoring"), int(NoteExporter::Flag::Scoring));
 }
 
-QWidget *ExportNotesSheet::makeColumns()
+QWidget *ExportNotesSheet::makeColumns(const FieldTitles &fields)
 {
     auto *const box = new QWidget(this);
     auto *const label = new QLabel(tr("Col&umns, in the order of the list:"), box);
@@ -142,7 +142,11 @@ QWidget *ExportNotesSheet::makeColumns()
     m_columns->setItemDelegate(new FramedCheckDelegate(m_columns));
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);
     for (const QString &title : NoteExporter::columnTitles(m_document.markerArray())) {
-        auto *const item = new QListWidgetItem(shownColumn(title), m_columns);
+        const QString field = fields.value(title);
+        const QString name = field.isEmpty()  ? shownColumn(title)
+                             : field == title ? field
+                                              : tr("%1 (%2)", "custom field").arg(field, title);
+        auto *const item = new QListWidgetItem(name, m_columns);
         item->setData(Qt::UserRole, title); // as the list has it
         item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsDropEnabled);
         item->setCheckState(Qt::Checked);

@@ -4,6 +4,7 @@
 #include "rows/RowRecord.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QStringList>
 
 class QComboBox;
@@ -29,9 +30,11 @@ public:
         RowList selected;
         RowList shown;
     };
+    /// The titles of custom fields by their titles in lists.
+    using FieldTitles = QHash<QString, QString>;
     /// `fileTitle` begins the proposed name of the file, in the given folder.
-    ExportNotesSheet(MyDocument &document, Markers markers, const QString &fileTitle, const QString &folder,
-                     QWidget *window);
+    ExportNotesSheet(MyDocument &document, Markers markers, const FieldTitles &fields,
+                     const QString &fileTitle, const QString &folder, QWidget *window);
 
     /// A format of NoteWriter, or "json" for MarkerJson.
     QString format() const;
@@ -50,7 +53,7 @@ private:
     void fillFormats();
     void fillMarkers();
     QWidget *makeFilters();
-    QWidget *makeColumns();
+    QWidget *makeColumns(const FieldTitles &fields);
     void countMarkers();
     void updateColumns();
     void askForFile();

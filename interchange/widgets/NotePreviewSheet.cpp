@@ -107,6 +107,7 @@ QWidget *NotePreviewSheet::makeSettings()
     connect(m_sequence, &QComboBox::activated, m_preview,
             [this](int index) { m_preview->setSequence(index + 1); });
     connect(m_meaning, &QComboBox::activated, this, &NotePreviewSheet::meaningChosen);
+    m_meaning->installEventFilter(this);
     connect(m_timecode, &QLineEdit::textEdited, this, &NotePreviewSheet::timecodeTyped);
     connect(m_rate, &QComboBox::activated, m_preview, [this](int index) {
         m_preview->setRate(index == 0 ? std::nullopt
@@ -184,6 +185,17 @@ QWidget *NotePreviewSheet::makeButtons()
     return line;
 }
 
+/// Keys that step through the meanings keep the focus for the next step.
+bool NotePreviewSheet::eventFilter(QObject *object, QEvent *event)
+{
+    if (object == m_meaning && event->type() == QEvent::KeyPress) {
+        m_isStepping = true;
+        QMetaObject::invokeMethod(
+            this, [this] { m_isStepping = false; }, Qt::QueuedConnection);
+    }
+    return QDialog::eventFilter(object, event);
+}
+
 void NotePreviewSheet::meaningChosen()
 {
     const auto meaning = NoteMeaning(m_meaning->currentData().toInt());
@@ -193,7 +205,7 @@ void NotePreviewSheet::meaningChosen()
     else if (meaning == NoteMeaning::First)
         m_timecode->setText(m_preview->startTimecode());
     m_preview->setMeaning(meaning, m_timecode->text());
-    if (needsTimecode(meaning)) {
+    if (needsTimecode(meaning) && !m_isStepping) {
         m_timecode->setFocus();
         m_timecode->selectAll();
     }

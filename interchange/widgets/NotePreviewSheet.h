@@ -38,6 +38,7 @@ private:
     QWidget *makeButtons();
     void fillMeanings();
     void fillRates();
+    bool eventFilter(QObject *object, QEvent *event) override;
     void meaningChosen();
     void timecodeTyped();
     void takePlan();
@@ -58,6 +59,7 @@ private:
     QLabel *m_summary;
     QPushButton *m_add = nullptr;
     bool m_addsWhenPlanned = false;
+    bool m_isStepping = false; // by a key that goes to the closed list of meanings
 };
 
 } // namespace vantrell

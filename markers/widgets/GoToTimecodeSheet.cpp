@@ -3,6 +3,7 @@
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerNavigation.h"
 #include "markers/MarkerTableValues.h"
+#include "markers/TimecodeEntry.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -81,15 +82,17 @@ void GoToTimecodeSheet::look()
             tr("Goes to the marker that is nearest to the timecode, among those that are shown."));
     } else {
         const RowRecord &example = *m_examples[std::size_t(m_sequences->currentIndex())];
-        const MarkerNavigation::Position position = MarkerNavigation::positionOf(typed, example);
-        m_marker = m_rows[MarkerNavigation::nearestRow(m_rows, example, position.frame).value()];
+        const TimecodeEntry::Reading place = TimecodeEntry::ofPlace(typed, example);
+        m_marker = m_rows[MarkerNavigation::nearestRow(m_rows, example, place.frames).value()];
         const QString name = m_marker->get(MarkerKey::name);
         const QString in = MarkerTableValues::inText(*m_marker);
-        QString text = tr("Timecode %1.").arg(position.timecode) + QLatin1Char(' ');
+        QString text = tr("Timecode %1.").arg(place.timecode) + QLatin1Char(' ');
         if (name.isEmpty())
             text += tr("Nearest: a marker without a name at %1.").arg(in);
         else
             text += tr("Nearest: “%1” at %2.").arg(name, in);
+        for (const QString &warning : place.warnings)
+            text += QLatin1Char('\n') + tr("⚠ %1").arg(warning);
         m_hint->setText(text);
     }
     m_go->setEnabled(m_marker != nullptr);

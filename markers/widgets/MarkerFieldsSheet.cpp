@@ -147,6 +147,9 @@ void MarkerFieldsSheet::tell(const QString &conflict)
 {
     m_conflict->setText(tr("⚠ %1 It was left as it was.").arg(shownMessage(conflict)));
     m_conflict->setVisible(!conflict.isEmpty());
+    // The sheet grows with a text of several lines.
+    const QMargins margins = layout()->contentsMargins();
+    m_conflict->setMinimumHeight(m_conflict->heightForWidth(width() - margins.left() - margins.right()));
 }
 
 void MarkerFieldsSheet::markerFieldAdd()

@@ -27,15 +27,19 @@ constexpr QChar ellipsis(0x2026);
 constexpr int minimumWidth = 380;     // pixels, of the texts
 constexpr int maximumWordWidth = 376; // pixels; fits into each line
 
-/// The text with its paths kept on one line each, and words that are too wide elided in the middle.
-QString fitted(const QString &text, const QFontMetrics &metrics)
+/// The text with its paths kept on one line each, and paths and words of more pixels elided in the middle. A
+/// path with blanks is one in quotation marks or with an extension at its end.
+QString fitted(const QString &text, const QFontMetrics &metrics, int width)
 {
-    static const QRegularExpression words(QStringLiteral("\\S+"));
+    static const QRegularExpression words(
+        QStringLiteral("(?<=[\"“„«])/[^\"”“»\n]+(?=[\"”“»])"
+                       "|(?<![^\\s\"“„«])/(?:[^/\n]+/)+[^/\n]*?\\.\\w{1,8}(?!\\w)"
+                       "|[^\\s\"“„«]+"));
     QString result;
     qsizetype end = 0;
     for (auto match = words.globalMatch(text); match.hasNext();) {
         const QRegularExpressionMatch word = match.next();
-        QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, maximumWordWidth);
+        QString shown = metrics.elidedText(word.captured(), Qt::ElideMiddle, width);
         // A line could be broken behind these.
         QList<QChar> breaks;
         if (shown != word.captured())
@@ -44,6 +48,7 @@ QString fitted(const QString &text, const QFontMetrics &metrics)
             breaks.append({QLatin1Char('/'), QLatin1Char('-')});
         for (const QChar character : std::as_const(breaks))
             shown.replace(character, QString(character) + wordJoiner);
+        shown.replace(QLatin1Char(' '), QChar::Nbsp);
         result += text.mid(end, word.capturedStart() - end) + shown;
         end = word.capturedEnd();
     }
@@ -68,7 +73,9 @@ public:
             return false;
         QString copied = m_texts;
         if (const auto *const label = qobject_cast<QLabel *>(object)) {
-            const QString selected = selectedTextOf(*label).remove(wordJoiner);
+            QString selected = selectedTextOf(*label).remove(wordJoiner);
+            if (!m_texts.contains(QChar::Nbsp))
+                selected.replace(QChar::Nbsp, QLatin1Char(' '));
             if (!selected.isEmpty() && (!selected.contains(ellipsis) || m_texts.contains(ellipsis)))
                 copied = selected;
         }
@@ -82,15 +89,8 @@ private:
 
 void setText(QLabel &label, const QString &text)
 {
-    label.setTextFormat(Qt::PlainText);
-    label.setWordWrap(true);
     label.setMinimumWidth(minimumWidth);
-    makeSelectable(label);
-    const QString shown = fitted(text, QFontMetrics(label.font()));
-    label.setText(shown);
-    const bool isElided = shown.contains(ellipsis) && !text.contains(ellipsis);
-    label.setToolTip(isElided ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
-    new CopiesTexts(&label, text);
+    setTextWithPaths(label, text, maximumWordWidth);
 }
 
 void setIcon(QMessageBox &box)
@@ -104,6 +104,18 @@ void setIcon(QMessageBox &box)
 }
 
 } // namespace
+
+void setTextWithPaths(QLabel &label, const QString &text, int width)
+{
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
+    makeSelectable(label);
+    const QString shown = fitted(text, QFontMetrics(label.font()), width);
+    label.setText(shown);
+    const bool isElided = shown.contains(ellipsis) && !text.contains(ellipsis);
+    label.setToolTip(isElided ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
+    new CopiesTexts(&label, text);
+}
 
 void setMessageText(QLabel &label, const QString &message)
 {

@@ -19,4 +19,7 @@ void setUpAlert(QMessageBox &box, const QString &message, const QString &explana
 void setMessageText(QLabel &label, const QString &message);
 void setExplanationText(QLabel &label, const QString &explanation);
 
+/// The same for a label of any width, with paths and words of at most that many pixels.
+void setTextWithPaths(QLabel &label, const QString &text, int width);
+
 } // namespace vantrell

@@ -27,7 +27,10 @@ ControlPopUp::ControlPopUp(QWidget *parent)
 
 void ControlPopUp::showPopup()
 {
-    const int content = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+    int content = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+    // Styles that draw the list as a menu do not ask for the column of its icons.
+    if (!itemIcon(count() - 1).isNull())
+        content += iconSize().width() + 2 * fontMetrics().averageCharWidth();
     view()->setMinimumWidth(std::min(content, fontMetrics().averageCharWidth() * widestOpen));
     QComboBox::showPopup();
 }

@@ -64,6 +64,13 @@ bool actsOnClick(const QModelIndex &index)
     return index.flags().testFlag(Qt::ItemIsUserCheckable) || isPopUp(index);
 }
 
+void updateRow(const QTableView &table, int row)
+{
+    if (row >= 0)
+        table.viewport()->update(0, table.rowViewportPosition(row), table.viewport()->width(),
+                                 table.rowHeight(row));
+}
+
 /// Leaves room behind titles at the right, as the cells below them do.
 class TableHeader final : public QHeaderView
 {
@@ -94,7 +101,8 @@ private:
     const QString gap{2, QChar::Nbsp};
 };
 
-/// Repaints the row below the mouse, and the one that it has left.
+/// Repaints the row below the mouse, and the one that it has left, also when not the mouse has moved but the
+/// rows, or when the table has come up below it.
 class HoveredRow final : public QObject
 {
 public:
@@ -110,8 +118,8 @@ public:
     {
         if (!qobject_cast<QTableView *>(viewport->parent()))
             return false; // the table is being destroyed, and its viewport is left by the mouse
-        if (event->type() == QEvent::MouseMove)
-            moveTo(m_table->rowAt(int(static_cast<QMouseEvent *>(event)->position().y())));
+        if (event->type() == QEvent::MouseMove || event->type() == QEvent::Paint)
+            moveTo(TableDelegate::hoveredRow(*m_table));
         else if (event->type() == QEvent::Leave)
             moveTo(-1);
         return false;
@@ -122,11 +130,8 @@ private:
     {
         if (row == m_row)
             return;
-        for (const int changed : {std::exchange(m_row, row), row}) {
-            if (changed >= 0)
-                m_table->viewport()->update(0, m_table->rowViewportPosition(changed),
-                                            m_table->viewport()->width(), m_table->rowHeight(changed));
-        }
+        for (const int changed : {std::exchange(m_row, row), row})
+            updateRow(*m_table, changed);
     }
 
     QTableView *m_table;
@@ -241,6 +246,16 @@ void QVTableView::reset()
     QTableView::reset();
     if (heldFocus)
         setFocus();
+}
+
+/// The arrows of a row's pop-up cells come and go with its being the current one.
+void QVTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.row() == previous.row())
+        return;
+    updateRow(*this, previous.row());
+    updateRow(*this, current.row());
 }
 
 void QVTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

@@ -94,6 +94,7 @@ protected:
                                                          const QEvent *event) const override;
 
 protected Q_SLOTS:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:

@@ -5,7 +5,6 @@
 #include "table/widgets/PopUpCell.h"
 #include "table/widgets/TableModel.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
@@ -14,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTableView>
 #include <QTimer>
 
 #include <limits>
@@ -84,13 +84,9 @@ std::optional<EntryNote> noteOf(const QModelIndex &cell, const QString &typed, c
 /// Whether the cell is in the current row, or in that below the mouse.
 bool isCurrentOrHovered(const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
-    if (!view || view->currentIndex().row() == index.row())
-        return true;
-    const QWidget *viewport = view->viewport();
-    const QPoint mouse = viewport->mapFromGlobal(QCursor::pos());
-    return viewport->underMouse() && viewport->rect().contains(mouse) && option.rect.top() <= mouse.y() &&
-           mouse.y() <= option.rect.bottom();
+    const auto *view = qobject_cast<const QTableView *>(option.widget);
+    return !view || view->currentIndex().row() == index.row() ||
+           TableDelegate::hoveredRow(*view) == index.row();
 }
 
 /// Frames the whole current cell.
@@ -107,6 +103,13 @@ void paintFocus(QPainter *painter, const QStyleOptionViewItem &cell, const QRect
 }
 
 } // namespace
+
+int TableDelegate::hoveredRow(const QTableView &table)
+{
+    const QWidget *const viewport = table.viewport();
+    const QPoint mouse = viewport->mapFromGlobal(QCursor::pos());
+    return viewport->underMouse() && viewport->rect().contains(mouse) ? table.rowAt(mouse.y()) : -1;
+}
 
 void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {

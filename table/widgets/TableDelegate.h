@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+class QTableView;
+
 namespace vantrell
 {
 
@@ -18,6 +20,9 @@ public:
 
     /// What the editor holds is to be written along with what belongs to the cell; see TableModel::AlongRole.
     static void setWritesAlong(QWidget &editor);
+
+    /// The row below the mouse; -1 for none.
+    static int hoveredRow(const QTableView &table);
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,

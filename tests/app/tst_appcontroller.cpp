@@ -132,6 +132,9 @@ private Q_SLOTS:
                 projects.append(QString::number(i));
         }
         QCOMPARE(projects.join(QLatin1Char(' ')), QStringLiteral("3 7 9 11"));
+        recent.add(QStringLiteral("/q/5.xml"), false);
+        for (const char *const title : {"5.xml — q", "5.xml — p", "11.xml"})
+            QVERIFY2(commandOf(m_controller->startWindow(), QString::fromUtf8(title)), title);
         recent.clear();
         QVERIFY(!recent.isFCPProject(QStringLiteral("/p/3.xml")));
     }

@@ -186,7 +186,7 @@ private Q_SLOTS:
         const auto told = [sheet] {
             for (const QLabel *const label : sheet->findChildren<QLabel *>()) {
                 if (label->isVisible() && label->text().contains(take))
-                    return true;
+                    return label->height() >= label->heightForWidth(label->width());
             }
             return false;
         };

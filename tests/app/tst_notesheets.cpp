@@ -215,9 +215,14 @@ private Q_SLOTS:
         choose(sheet->findChild<NoteColorStrip *>()->popUps()[0], u"Pink"_s);
         choose(popUpWith(*sheet, u"Film"_s), u"Film"_s);
         QComboBox *const meaning = popUpWith(*sheet, u"First note is at"_s);
-        choose(meaning, u"First note is at"_s);
         auto *const timecode = sheet->findChild<QLineEdit *>();
+        meaning->setFocus();
+        QTest::keyClick(meaning, Qt::Key_End); // steps on with the next key
         QVERIFY(timecode->isVisible());
+        QCOMPARE(sheet->focusWidget(), meaning);
+        QCoreApplication::processEvents();
+        choose(meaning, u"First note is at"_s);
+        QCOMPARE(sheet->focusWidget(), timecode);
         QCOMPARE(timecode->text(), u"01:00:00:00"_s);
         QTest::keyClicks(timecode, u"9.."_s); // which was selected
         choose(popUpWith(*sheet, u"29.97 drop frame"_s), u"25"_s);

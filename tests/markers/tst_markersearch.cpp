@@ -1,6 +1,7 @@
 #include "markers/MarkerNavigation.h"
 #include "markers/MarkerSearch.h"
 #include "markers/MarkerTotals.h"
+#include "markers/TimecodeEntry.h"
 #include "rows/RowSort.h"
 #include "support/threads/BackgroundWork.h"
 #include "tests/markers/MarkerProject.h"
@@ -302,7 +303,7 @@ private Q_SLOTS:
         add("beyond all", 3, "02:00:00:00", "02:00:00:00", "d");
         // At 30 frames a second from zero: f at frame 7, e at frame 50.
         add("in the other sequence", 5, "00:00:01:00", "00:00:01:00", "e");
-        add("in it near the beginning", 5, "00:00:00:20", "00:00:00:20", "f");
+        add("in it near the beginning", 5, "20", "00:00:00:20", "f");
     }
     void findsATimecode()
     {
@@ -310,10 +311,9 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         MarkerProject p(twoSequences());
         const RowList &rows = p.document.markerArray();
-        const MarkerNavigation::Position position =
-            MarkerNavigation::positionOf(typed, *rows[std::size_t(from)]);
-        QTEST(position.timecode, "timecode");
-        const auto row = MarkerNavigation::nearestRow(rows, *rows[std::size_t(from)], position.frame);
+        const TimecodeEntry::Reading place = TimecodeEntry::ofPlace(typed, *rows[std::size_t(from)]);
+        QTEST(place.timecode, "timecode");
+        const auto row = MarkerNavigation::nearestRow(rows, *rows[std::size_t(from)], place.frames);
         QVERIFY(row);
         QTEST(rows[*row]->get(MarkerKey::name), "expected");
     }

@@ -1,5 +1,6 @@
 #include "support/alerts/QVAlert.h"
 #include "support/settings/UserDefaults.h"
+#include "support/widgets/AlertBox.h"
 #include "support/widgets/NestedEvents.h"
 #include "support/widgets/WindowAlertPresenter.h"
 #include "tests/support/TemporaryHome.h"
@@ -183,10 +184,18 @@ private Q_SLOTS:
         QVERIFY(labels.contains(QStringLiteral("a < b & %i")));
     }
 
+    void alertsAreWideAndKeepPathsWhole_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QString end = QStringLiteral("/last.mov");
+        QTest::newRow("long name") << QStringLiteral("/Volumes/") + QString(200, QLatin1Char('x')) + end;
+        QTest::newRow("blanks") << QStringLiteral("/Volumes/") +
+                                       QStringLiteral("Reel 3 Final/").repeated(20) +
+                                       QStringLiteral("Take 2") + end;
+    }
     void alertsAreWideAndKeepPathsWhole()
     {
-        const QString path =
-            QStringLiteral("/Volumes/") + QString(200, QLatin1Char('x')) + QStringLiteral("/last.mov");
+        QFETCH(QString, path);
         bool isBold = false;
         int width = 0;
         QString shown;
@@ -225,10 +234,24 @@ private Q_SLOTS:
         QVERIFY(shown.startsWith(QStringLiteral("/\u2060Volumes")));
         QVERIFY(shown.endsWith(QStringLiteral("last.mov")));
         QVERIFY(shown.size() < path.size());
+        QVERIFY(!shown.contains(QLatin1Char(' '))); // where a line could be broken
         QVERIFY(tip.contains(path));
         QCOMPARE(all, QStringLiteral("Short\n") + path);
         QCOMPARE(part, QStringLiteral("/Volumes/"));
         QCOMPARE(whole, path); // although it is elided
+    }
+
+    void pathsInSentencesStayWhole()
+    {
+        const auto shown = [](const QString &text) {
+            QLabel label;
+            setTextWithPaths(label, text, 400);
+            return label.text().remove(QChar(0x2060)).replace(QChar::Nbsp, QLatin1Char('_'));
+        };
+        QCOMPARE(shown(QStringLiteral("\"/a b/c d\" is in use, and/or gone.")),
+                 QStringLiteral("\"/a_b/c_d\" is in use, and/or gone."));
+        QCOMPARE(shown(QStringLiteral("No /a b/c 1.5 d.xml: no such file. See /x y")),
+                 QStringLiteral("No /a_b/c_1.5 d.xml: no such file. See /x y"));
     }
 
     /// The box itself reckons with letters that are not bold.

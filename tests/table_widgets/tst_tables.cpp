@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -27,6 +28,27 @@ public:
 
 public Q_SLOTS:
     void note() { ++count; }
+};
+
+/// What of a widget is painted while this lives.
+class PaintedRegion : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PaintedRegion(QWidget &widget) { widget.installEventFilter(this); }
+
+    const QRegion &region() const { return m_region; }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_region += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+
+private:
+    QRegion m_region;
 };
 
 class TestTables : public QObject
@@ -53,6 +75,7 @@ private Q_SLOTS:
     void longTextsAreKeptWhole();
     void arrowTellsTheOrder();
     void editOnlyWhenEnabled();
+    void popUpCellsOfAFormerRowAreRepainted();
     void copyRows();
     void moveColumns();
     void filterEffects();
@@ -464,6 +487,25 @@ void TestTables::editOnlyWhenEnabled()
     QCOMPARE(project().markers.model().rowCount(), count + 1);
     QCOMPARE(project().markers.selectedRows(), std::vector<std::size_t>{std::size_t(count)});
     QVERIFY(project().markers.table().isEditing());
+}
+
+/// Their arrows show in the current row alone.
+void TestTables::popUpCellsOfAFormerRowAreRepainted()
+{
+    project().show(Tab::Markers);
+    QVTableView &table = project().markers.table();
+    const auto setCurrent = [&table](int row) {
+        table.selectionModel()->setCurrentIndex(table.model()->index(row, 1), QItemSelectionModel::NoUpdate);
+    };
+    setCurrent(0);
+    QCoreApplication::processEvents();
+    const int column = project().markers.model().columnOf(QStringLiteral("sequence"));
+    const QRect cell = table.visualRect(table.model()->index(0, column));
+    const QImage current = table.viewport()->grab(cell).toImage();
+    PaintedRegion painted(*table.viewport());
+    setCurrent(2);
+    QTRY_VERIFY(painted.region().contains(cell));
+    QVERIFY(table.viewport()->grab(cell).toImage() != current);
 }
 
 void TestTables::copyRows()
