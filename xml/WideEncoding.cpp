@@ -1,6 +1,7 @@
 #include "xml/WideEncoding.h"
 
 #include <algorithm>
+#include <bitset>
 
 namespace vantrell
 {
@@ -45,22 +46,53 @@ bool WideEncoding::prevails(std::string_view bytes) const
 
 WideEncoding::Shift WideEncoding::nextShift(std::string_view bytes, std::size_t index, bool atEnd) const
 {
-    constexpr std::size_t shortestRun = 16;
-    constexpr std::size_t shortestLastRun = 3;
+    std::array<std::size_t, 4> runEnds = {}; // by the bytes skipped, of runs that are no markup
     for (; index + unit <= bytes.size(); index += unit) {
         if (startsWithAscii(bytes.substr(index)))
             continue;
         for (std::size_t skipped = 1; skipped < unit; ++skipped) {
-            const std::string_view rest = bytes.substr(index + skipped);
-            const std::size_t run = asciiRun(rest, shortestRun);
-            const bool isLast = rest.size() < (run + 1) * unit;
-            if (run == shortestRun || (atEnd && isLast && run >= shortestLastRun))
+            const std::size_t start = index + skipped;
+            if (start < runEnds[skipped])
+                continue;
+            const Run run = runOfMarkup(bytes.substr(start), atEnd);
+            if (run.isMarkup)
                 return {index, skipped};
-            if (isLast && !atEnd)
+            if (run.needsMore)
                 return {index, 0};
+            runEnds[skipped] = start + run.size;
         }
     }
     return {bytes.size(), 0};
+}
+
+/// Reads as many ASCII characters from the start as it takes to tell whether they are markup: at least
+/// sixteen, or all up to the end, of several kinds and with a bracket. Lines and blanks of other scripts,
+/// such as those of box drawings, have neither.
+WideEncoding::Run WideEncoding::runOfMarkup(std::string_view bytes, bool atEnd) const
+{
+    constexpr std::size_t shortest = 16;
+    constexpr std::size_t longest = 1024;
+    constexpr std::size_t fewestKinds = 4;
+    std::bitset<128> kinds;
+    Run run;
+    for (std::size_t count = 1; count <= longest; ++count, run.size += unit) {
+        const std::string_view rest = bytes.substr(run.size);
+        const bool isEnd = rest.size() < unit;
+        run.needsMore = isEnd && !atEnd;
+        if (run.needsMore || (!isEnd && !startsWithAscii(rest)))
+            break;
+        const auto byte = isEnd ? 0U : static_cast<unsigned char>(rest[character]);
+        const bool isText = (byte >= 0x20 && byte < 0x7F) || byte == '\t' || byte == '\n' || byte == '\r';
+        if (isText)
+            kinds.set(byte);
+        else if (!isEnd)
+            break;
+        run.isMarkup = (isEnd || count >= shortest) && kinds.count() >= fewestKinds &&
+                       (kinds.test('<') || kinds.test('>'));
+        if (isEnd || run.isMarkup)
+            break;
+    }
+    return run;
 }
 
 bool WideEncoding::startsWithAscii(std::string_view bytes) const

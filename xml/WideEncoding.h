@@ -28,8 +28,8 @@ struct WideEncoding {
                                  ///< before the index, from where on more bytes are needed to tell
     };
 
-    /// The first shift from the index on. It shows by a run of ASCII characters between those that are read,
-    /// as a shifted one is a valid character of another script.
+    /// The first shift from the index on. It shows by markup between the characters that are read, as a
+    /// shifted one is a valid character of another script.
     Shift nextShift(std::string_view bytes, std::size_t index, bool atEnd) const;
 
 private:
@@ -37,7 +37,15 @@ private:
 
     bool starts(std::string_view bytes) const;
     bool prevails(std::string_view bytes) const;
+    /// ASCII characters one after the other.
+    struct Run {
+        std::size_t size = 0; ///< bytes
+        bool isMarkup = false;
+        bool needsMore = false; ///< bytes, to tell
+    };
+
     bool startsWithAscii(std::string_view bytes) const;
+    Run runOfMarkup(std::string_view bytes, bool atEnd) const;
     std::size_t asciiRun(std::string_view bytes, std::size_t most) const;
 };
 

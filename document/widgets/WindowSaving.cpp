@@ -170,7 +170,8 @@ void WindowSaving::saved(const QString &path)
 
 void WindowSaving::finish(bool isSaved)
 {
-    m_target.clear();
+    if (!m_state.isBusy()) // or another save was refused
+        m_target.clear();
     Q_EMIT m_window.saved(isSaved);
     if (m_state.saveEnded())
         changesEnded(isSaved);

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <unordered_set>
 #include <utility>
 
@@ -94,6 +95,9 @@ void GoToTimecodeSheet::look()
         for (const QString &warning : place.warnings)
             text += QLatin1Char('\n') + tr("⚠ %1").arg(warning);
         m_hint->setText(text);
+        if (isVisible()) // the sheet grows with the text
+            m_hint->setMinimumHeight(
+                std::max(m_hint->minimumHeight(), m_hint->heightForWidth(m_hint->width())));
     }
     m_go->setEnabled(m_marker != nullptr);
 }

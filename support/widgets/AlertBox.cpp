@@ -33,7 +33,7 @@ QString fitted(const QString &text, const QFontMetrics &metrics, int width)
 {
     static const QRegularExpression words(
         QStringLiteral("(?<=[\"“„«])/[^\"”“»\n]+(?=[\"”“»])"
-                       "|(?<![^\\s\"“„«])/(?:[^/\n]+/)+[^/\n]*?\\.\\w{1,8}(?!\\w)"
+                       "|(?<![^\\s\"“„«])/(?:[^/\n]+/)+[^/\n]*?\\.[A-Za-z]\\w{0,7}(?!\\w)"
                        "|[^\\s\"“„«]+"));
     QString result;
     qsizetype end = 0;

@@ -251,7 +251,7 @@ private Q_SLOTS:
         QCOMPARE(shown(QStringLiteral("\"/a b/c d\" is in use, and/or gone.")),
                  QStringLiteral("\"/a_b/c_d\" is in use, and/or gone."));
         QCOMPARE(shown(QStringLiteral("No /a b/c 1.5 d.xml: no such file. See /x y")),
-                 QStringLiteral("No /a_b/c_1.5 d.xml: no such file. See /x y"));
+                 QStringLiteral("No /a_b/c_1.5_d.xml: no such file. See /x y"));
     }
 
     /// The box itself reckons with letters that are not bold.
