@@ -8,8 +8,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include <algorithm>
-
 namespace vantrell
 {
 
@@ -30,8 +28,12 @@ void NotePreviewModel::takePlan()
         beginResetModel();
     m_rows = rows;
     m_owner = m_preview.sequences().value(qsizetype(m_preview.sequence()) - 1);
-    m_hasUsers = std::any_of(m_preview.notes().begin(), m_preview.notes().end(),
-                             [](const PlannedNote &note) { return !note.user.isEmpty(); });
+    m_columnsWithTexts = 0;
+    for (const PlannedNote &note : m_preview.notes()) {
+        m_columnsWithTexts |= (note.name.isEmpty() ? 0U : 1U << Name) |
+                              (note.comment.isEmpty() ? 0U : 1U << Comment) |
+                              (note.user.isEmpty() ? 0U : 1U << User);
+    }
     if (isReset)
         endResetModel();
     else

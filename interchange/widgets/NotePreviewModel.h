@@ -18,8 +18,8 @@ public:
     /// The preview outlives the model.
     NotePreviewModel(NotePreview &preview, QObject *parent);
 
-    /// Whether a row says who wrote it.
-    bool hasUsers() const { return m_hasUsers; }
+    /// Whether any row has a text in the name, comment or user column.
+    bool hasTexts(int column) const { return (m_columnsWithTexts & (1U << column)) != 0; }
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -35,7 +35,7 @@ private:
 
     NotePreview &m_preview;
     int m_rows = 0;
-    bool m_hasUsers = false;
+    unsigned m_columnsWithTexts = 0; ///< one bit each
     QString m_owner; ///< the title of the sequence
 };
 

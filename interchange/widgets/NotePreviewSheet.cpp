@@ -223,7 +223,10 @@ void NotePreviewSheet::takePlan()
         m_meaning->setCurrentIndex(m_meaning->findData(int(m_preview->meaning())));
     m_timecode->setVisible(needsTimecode(m_preview->meaning()));
     m_description->setText(m_preview->description());
-    m_table->setColumnHidden(NotePreviewModel::User, !m_model->hasUsers());
+    // Empty columns leave their room to the remarks.
+    for (const int column : {NotePreviewModel::Name, NotePreviewModel::Comment})
+        m_table->setColumnHidden(column, m_model->rowCount() > 0 && !m_model->hasTexts(column));
+    m_table->setColumnHidden(NotePreviewModel::User, !m_model->hasTexts(NotePreviewModel::User));
     showChecks();
     if (m_addsWhenPlanned && !m_preview->isPlanning())
         add();

@@ -32,6 +32,8 @@ public:
     /// The wished width of a column, also of one that is not there.
     int width(const QString &identifier) const;
     void setWidth(const QString &identifier, int width);
+    /// Whether the width was set; otherwise it is the usual one.
+    bool hasOwnWidth(const QString &identifier) const { return m_widths.contains(identifier); }
     /// After a column was added to the model, and when widths or hidden columns were set.
     void apply();
 

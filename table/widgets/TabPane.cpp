@@ -426,7 +426,6 @@ void TabPane::removeColumn(const QString &identifier)
     if (column < 0)
         return;
     m_table->commitEditing();
-    m_columnLayout->setWidth(identifier, m_columnLayout->width(identifier));
     m_model->removeColumn(identifier);
     m_columnLayout->apply();
     showSortIndicator();
@@ -475,8 +474,11 @@ void TabPane::saveLayout()
     for (const QString &identifier : order) {
         QVariantMap column;
         column.insert(identifierKey, identifier);
-        column.insert(widthKey, m_columnLayout->width(identifier));
-        column.insert(characterKey, m_columnLayout->characterWidth());
+        // Usual widths are not stored: they follow the language of the titles.
+        if (m_columnLayout->hasOwnWidth(identifier)) {
+            column.insert(widthKey, m_columnLayout->width(identifier));
+            column.insert(characterKey, m_columnLayout->characterWidth());
+        }
         if (m_columnLayout->isHidden(identifier))
             column.insert(hiddenKey, true);
         layout.emplace_back(column);

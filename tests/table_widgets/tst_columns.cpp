@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QTest>
+#include <QTranslator>
 
 #include <memory>
 
@@ -93,15 +94,43 @@ private Q_SLOTS:
         QFont large = font;
         large.setPointSizeF(font.pointSizeF() * 2);
         QApplication::setFont(large, "QTableView");
+        QApplication::processEvents();
         QTRY_VERIFY(widthOf(Tab::Markers, u"in"_s) > usual * 3 / 2);
         QVERIFY(timecodeFits());
         // As wide in a new window, and back.
         m_project->markers.saveLayout();
         const int wide = widthOf(Tab::Markers, u"in"_s);
         MarkersPane next(m_project->bench, m_project->defaults);
+        next.table().ensurePolished(); // takes the font, as when it is shown
+        QApplication::processEvents();
         QCOMPARE(next.table().columnWidth(next.model().columnOf(u"in"_s)), wide);
         QApplication::setFont(font, "QTableView");
         QTRY_COMPARE(widthOf(Tab::Markers, u"in"_s), usual);
+    }
+
+    /// Widths that were not set give titles of another language their room.
+    void usualWidthsFollowTheLanguage()
+    {
+        struct LongTitles : QTranslator {
+            QString translate(const char *, const char *text, const char *, int) const override
+            {
+                return qstrcmp(text, "Chapter") == 0 ? u"Markierungen von Kapiteln"_s : QString();
+            }
+            bool isEmpty() const override { return false; }
+        };
+        TabPane &pane = show(Tab::Markers, 2400);
+        const int name = widthOf(Tab::Markers, u"name"_s);
+        pane.table().setColumnWidth(columnOf(Tab::Markers, u"name"_s), name + 50);
+        pane.saveLayout();
+        LongTitles titles;
+        QCoreApplication::installTranslator(&titles);
+        MarkersPane next(m_project->bench, m_project->defaults);
+        QCoreApplication::removeTranslator(&titles);
+        const int chapter = next.model().columnOf(u"chapter"_s);
+        QVERIFY(next.table().columnWidth(chapter) > widthOf(Tab::Markers, u"chapter"_s));
+        QVERIFY(next.table().columnWidth(chapter) >=
+                next.table().horizontalHeader()->sectionSizeHint(chapter));
+        QCOMPARE(next.table().columnWidth(next.model().columnOf(u"name"_s)), name + 50);
     }
 
     void dragsOfEdgesAreKept()
