@@ -55,6 +55,30 @@ bool canShorten(const Column &column)
     return column.kind != Column::Kind::CheckBox && (column.hasToolTip || column.elidesMiddle);
 }
 
+struct SectionWidth {
+    int section;
+    int wished;
+    int smallest;
+};
+
+/// Takes the missing pixels from the wished widths. Each section gives up the same share of what it can; the
+/// stretched one gives up less as long as the others have room.
+void narrow(std::vector<SectionWidth> &widths, int stretched, qint64 missing)
+{
+    qint64 ofStretched = 0;
+    qint64 ofOthers = 0;
+    for (const SectionWidth &one : widths)
+        (one.section == stretched ? ofStretched : ofOthers) += one.wished - one.smallest;
+    const double share = double(missing) / double(ofStretched + ofOthers);
+    const qint64 others = std::min(ofOthers, missing - qint64(double(ofStretched) * share * share));
+    for (SectionWidth &one : widths) {
+        if (one.section == stretched)
+            one.wished -= int(missing - others);
+        else if (ofOthers > 0)
+            one.wished -= int((one.wished - one.smallest) * others / ofOthers);
+    }
+}
+
 } // namespace
 
 ColumnLayout::ColumnLayout(QVTableView &table, TableModel &model, QObject *parent)
@@ -329,12 +353,7 @@ void ColumnLayout::arrange()
     if (m_isPressed && m_dragged >= 0)
         return;
     const QScopedValueRollback<bool> arranges(m_arranges, true);
-    struct Width {
-        int section;
-        int wished;
-        int smallest;
-    };
-    std::vector<Width> widths;
+    std::vector<SectionWidth> widths;
     qint64 wished = 0;
     qint64 smallest = 0;
     for (int section = 0; section < m_model.columnCount(); ++section) {
@@ -349,15 +368,13 @@ void ColumnLayout::arrange()
     }
     const int stretched = stretchedSection();
     const qint64 room = m_hasRoom ? m_table.viewport()->width() : wished;
-    // Each gives up the same share of what it can.
     const qint64 missing = std::clamp<qint64>(wished - room, 0, wished - smallest);
     qint64 left = std::max(room, wished - missing);
-    for (Width &one : widths) {
-        if (missing > 0)
-            one.wished -= int((one.wished - one.smallest) * missing / (wished - smallest));
+    if (missing > 0)
+        narrow(widths, stretched, missing);
+    for (const SectionWidth &one : widths)
         left -= one.wished;
-    }
-    for (const Width &one : widths) {
+    for (const SectionWidth &one : widths) {
         // What the rounding left, too; it may be missing by some pixels.
         const int width =
             one.section == stretched ? std::max(one.smallest, one.wished + int(left)) : one.wished;
