@@ -231,13 +231,13 @@ QStringList TimecodeEntry::faultsOfFields(const QString &timecode, const Sequenc
     if (std::any_of(fields.begin(), fields.end(), [](const QString &field) { return field.size() < 2; }))
         faults.append(tr("A digit is missing: each field needs two."));
     if (integerValue(fields[0]) > 23)
-        faults.append(tr("There are no more than 23 hours."));
+        faults.append(tr("Hours cannot exceed 23."));
     if (minutes > 59)
-        faults.append(tr("There are no more than 59 minutes."));
+        faults.append(tr("Minutes cannot exceed 59."));
     if (seconds > 59)
-        faults.append(tr("There are no more than 59 seconds."));
+        faults.append(tr("Seconds cannot exceed 59."));
     if (frames >= rate)
-        faults.append(tr("At this rate there are no more than %1 frames.").arg(rate - 1));
+        faults.append(tr("Frames cannot exceed %1 at this rate.").arg(rate - 1));
     const auto dropped = std::int64_t(std::round(double(rate) / 15));
     if (timing.dropFrame && minutes % 10 != 0 && seconds == 0 && frames < dropped)
         faults.append(tr("Drop-frame timecode leaves this number out."));

@@ -1561,20 +1561,20 @@
         <translation>Eine Ziffer fehlt: Jedes Feld braucht zwei.</translation>
     </message>
     <message>
-        <source>There are no more than 23 hours.</source>
-        <translation>Es gibt höchstens 23 Stunden.</translation>
+        <source>Hours cannot exceed 23.</source>
+        <translation>Die Stunden können höchstens 23 sein.</translation>
     </message>
     <message>
-        <source>There are no more than 59 minutes.</source>
-        <translation>Es gibt höchstens 59 Minuten.</translation>
+        <source>Minutes cannot exceed 59.</source>
+        <translation>Die Minuten können höchstens 59 sein.</translation>
     </message>
     <message>
-        <source>There are no more than 59 seconds.</source>
-        <translation>Es gibt höchstens 59 Sekunden.</translation>
+        <source>Seconds cannot exceed 59.</source>
+        <translation>Die Sekunden können höchstens 59 sein.</translation>
     </message>
     <message>
-        <source>At this rate there are no more than %1 frames.</source>
-        <translation>Bei dieser Framerate gibt es höchstens %1 Frames.</translation>
+        <source>Frames cannot exceed %1 at this rate.</source>
+        <translation>Bei dieser Framerate können die Frames höchstens %1 sein.</translation>
     </message>
     <message>
         <source>Drop-frame timecode leaves this number out.</source>

@@ -1561,19 +1561,19 @@
         <translation>Falta un dígito: cada campo necesita dos.</translation>
     </message>
     <message>
-        <source>There are no more than 23 hours.</source>
+        <source>Hours cannot exceed 23.</source>
         <translation>Las horas no pueden pasar de 23.</translation>
     </message>
     <message>
-        <source>There are no more than 59 minutes.</source>
+        <source>Minutes cannot exceed 59.</source>
         <translation>Los minutos no pueden pasar de 59.</translation>
     </message>
     <message>
-        <source>There are no more than 59 seconds.</source>
+        <source>Seconds cannot exceed 59.</source>
         <translation>Los segundos no pueden pasar de 59.</translation>
     </message>
     <message>
-        <source>At this rate there are no more than %1 frames.</source>
+        <source>Frames cannot exceed %1 at this rate.</source>
         <translation>A esta velocidad, los fotogramas no pueden pasar de %1.</translation>
     </message>
     <message>

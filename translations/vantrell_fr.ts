@@ -1561,20 +1561,20 @@
         <translation>Il manque un chiffre&#xa0;: chaque champ en demande deux.</translation>
     </message>
     <message>
-        <source>There are no more than 23 hours.</source>
-        <translation>Il n’y a pas plus de 23 heures.</translation>
+        <source>Hours cannot exceed 23.</source>
+        <translation>Les heures ne peuvent pas dépasser 23.</translation>
     </message>
     <message>
-        <source>There are no more than 59 minutes.</source>
-        <translation>Il n’y a pas plus de 59 minutes.</translation>
+        <source>Minutes cannot exceed 59.</source>
+        <translation>Les minutes ne peuvent pas dépasser 59.</translation>
     </message>
     <message>
-        <source>There are no more than 59 seconds.</source>
-        <translation>Il n’y a pas plus de 59 secondes.</translation>
+        <source>Seconds cannot exceed 59.</source>
+        <translation>Les secondes ne peuvent pas dépasser 59.</translation>
     </message>
     <message>
-        <source>At this rate there are no more than %1 frames.</source>
-        <translation>À cette cadence, il n’y a pas plus de %1 images.</translation>
+        <source>Frames cannot exceed %1 at this rate.</source>
+        <translation>À cette cadence, les images ne peuvent pas dépasser %1.</translation>
     </message>
     <message>
         <source>Drop-frame timecode leaves this number out.</source>

@@ -89,8 +89,8 @@ private Q_SLOTS:
         add("1:2:3", "01:00:01:23, frame 48", {QStringLiteral("A digit is missing")});
         add("1..5", "01:00:01:05, frame 30", {QStringLiteral("Digits are missing")});
         add("01:00:61:30", "01:01:02:05, frame 1555",
-            {QStringLiteral("59 seconds"), QStringLiteral("no more than 24 frames")});
-        add("01:60:00:00", "02:00:00:00, frame 90000", {QStringLiteral("59 minutes"), behind});
+            {QStringLiteral("Seconds cannot exceed 59"), QStringLiteral("Frames cannot exceed 24")});
+        add("01:60:00:00", "02:00:00:00, frame 90000", {QStringLiteral("Minutes cannot exceed 59"), behind});
         add("1:00:00:000", "01:00:00:00, frame 0", {QStringLiteral("A digit is missing")});
         add("1....", "00:00:00:00, frame -90000", {QStringLiteral("last eight"), before});
         add("123456789", "23:46:10:14, frame 2049264", {QStringLiteral("last eight"), behind});
@@ -131,7 +131,7 @@ private Q_SLOTS:
                               << QStringList(QStringLiteral("after the end of Reel 1"));
         QTest::newRow("range") << "30"
                                << "30 is 00:00:01:05, 30 frames, to 01:00:05:05"
-                               << QStringList(QStringLiteral("no more than 24 frames"));
+                               << QStringList(QStringLiteral("Frames cannot exceed 24"));
     }
     void readsDurations()
     {
