@@ -304,8 +304,10 @@ void WindowNotes::select(const NoteAddition &addition)
     }
     TabPane &pane = m_window.pane(Tab::Markers);
     pane.selectRows(indexes);
-    if (!indexes.empty())
-        pane.scrollToRow(indexes.front());
+    if (indexes.empty())
+        return;
+    pane.scrollToRow(indexes.back());
+    pane.scrollToRow(indexes.front()); // all of them are visible if there is room
 }
 
 void WindowNotes::tellRejected(const NoteAddition &addition)
