@@ -27,12 +27,13 @@ constexpr QChar ellipsis(0x2026);
 constexpr int minimumWidth = 380;     // pixels, of the texts
 constexpr int maximumWordWidth = 376; // pixels; fits into each line
 
-/// The text with its paths kept on one line each, and paths and words of more pixels elided in the middle. A
-/// path with blanks is one in quotation marks or with an extension at its end.
+/// The text with its paths and file names kept on one line each, and those and words of more pixels elided in
+/// the middle. A path with blanks is one in quotation marks or with an extension at its end, a file name with
+/// blanks is both.
 QString fitted(const QString &text, const QFontMetrics &metrics, int width)
 {
     static const QRegularExpression words(
-        QStringLiteral("(?<=[\"“„«])/[^\"”“»\n]+(?=[\"”“»])"
+        QStringLiteral("(?<=[\"“„«])\u00a0?(?:/[^\"”“»\n]+|[^\"”“»\n]*\\.\\w{1,8})\u00a0?(?=[\"”“»])"
                        "|(?<![^\\s\"“„«])/(?:[^/\n]+/)+[^/\n]*?\\.[A-Za-z]\\w{0,7}(?!\\w)"
                        "|[^\\s\"“„«]+"));
     QString result;

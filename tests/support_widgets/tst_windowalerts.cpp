@@ -252,6 +252,10 @@ private Q_SLOTS:
                  QStringLiteral("\"/a_b/c_d\" is in use, and/or gone."));
         QCOMPARE(shown(QStringLiteral("No /a b/c 1.5 d.xml: no such file. See /x y")),
                  QStringLiteral("No /a_b/c_1.5_d.xml: no such file. See /x y"));
+        QCOMPARE(shown(QStringLiteral("Save “Reel 3 v1.2 b.xml” of “Part 2”, not now.")),
+                 QStringLiteral("Save “Reel_3_v1.2_b.xml” of “Part 2”, not now."));
+        QCOMPARE(shown(QStringLiteral("Enregistrer «\u00a0Bobine 3.xml\u00a0» ?")),
+                 QStringLiteral("Enregistrer «_Bobine_3.xml_» ?"));
     }
 
     /// The box itself reckons with letters that are not bold.
