@@ -316,6 +316,8 @@ void MarkerOverviewPanel::choose(std::size_t marker, bool toggles)
     }
     m_pane.selectRows(selected);
     m_pane.scrollToRow(row);
+    if (!m_strip->hasFocus())
+        m_pane.table().setFocus(); // for the keys that follow a click
 }
 
 std::shared_ptr<const SequenceClips> MarkerOverviewPanel::clipsOf(XmlNode sequence)

@@ -220,12 +220,38 @@ void TabPane::rememberRows()
     m_keptCurrent = current.isValid() ? m_model->recordAt(current.row()) : nullptr;
     m_keptColumn = current.column();
     m_keptScroll = {m_table->horizontalScrollBar()->value(), m_table->verticalScrollBar()->value()};
+    rememberPlace();
+}
+
+/// A selected row on the screen, the current one if it can be, stays where it is when rows above it come and
+/// go, as with another filter.
+void TabPane::rememberPlace()
+{
+    m_keptInPlace = nullptr;
+    m_keptCount = m_model->rowCount();
+    const int first = m_table->rowAt(0);
+    if (first < 0)
+        return;
+    const int below = m_table->rowAt(m_table->viewport()->height() - 1);
+    const int last = below < 0 ? m_keptCount - 1 : below;
+    const QItemSelectionModel &selection = *m_table->selectionModel();
+    int row = m_table->currentIndex().row();
+    if (row < first || row > last || !selection.rowIntersectsSelection(row)) {
+        row = first;
+        while (row <= last && !selection.rowIntersectsSelection(row))
+            ++row;
+    }
+    if (row > last)
+        return;
+    m_keptInPlace = m_model->recordAt(row);
+    m_keptInPlaceAt = row;
 }
 
 void TabPane::restoreRows()
 {
     std::vector<std::size_t> selected;
     std::ptrdiff_t current = -1;
+    std::ptrdiff_t moved = 0; // rows
     if (!m_keptSelection.empty() || m_keptCurrent) {
         const std::unordered_set<RowRecordPtr> kept(m_keptSelection.begin(), m_keptSelection.end());
         const RowList &rows = m_model->view().visibleRows();
@@ -234,6 +260,8 @@ void TabPane::restoreRows()
                 selected.push_back(row);
             if (rows[row] == m_keptCurrent)
                 current = std::ptrdiff_t(row);
+            if (rows[row] == m_keptInPlace && int(rows.size()) != m_keptCount)
+                moved = std::ptrdiff_t(row) - m_keptInPlaceAt;
         }
     }
     m_selectionMuted = true;
@@ -247,7 +275,10 @@ void TabPane::restoreRows()
     m_table->setAutoScroll(true);
     static_cast<QAbstractItemView *>(m_table)->doItemsLayout(); // the scroll bars reach to the last row again
     m_table->horizontalScrollBar()->setValue(m_keptScroll.x());
-    m_table->verticalScrollBar()->setValue(m_keptScroll.y());
+    const int step = m_table->verticalScrollMode() == QAbstractItemView::ScrollPerItem
+                         ? 1
+                         : m_table->verticalHeader()->defaultSectionSize();
+    m_table->verticalScrollBar()->setValue(m_keptScroll.y() + int(moved) * step);
 }
 
 std::vector<std::size_t> TabPane::selectedRows() const

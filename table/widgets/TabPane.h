@@ -205,6 +205,7 @@ private:
     void updateCounts();
     void prepareSoon();
     void rememberRows();
+    void rememberPlace();
     void restoreRows();
 
     Workbench &m_workbench;
@@ -240,7 +241,10 @@ private:
     RowList m_keptSelection;
     RowRecordPtr m_keptCurrent;
     int m_keptColumn = 0;
-    QPoint m_keptScroll; // of the scroll bars
+    QPoint m_keptScroll;        // of the scroll bars
+    RowRecordPtr m_keptInPlace; // a selected row on the screen
+    int m_keptInPlaceAt = 0;    // its index
+    int m_keptCount = 0;        // of all rows
 };
 
 } // namespace vantrell

@@ -83,6 +83,24 @@ private Q_SLOTS:
         QVERIFY(!pane.table().placeholder().isEmpty());
     }
 
+    /// What was found and selected stays on the screen when all rows show again.
+    void selectedRowsStayInPlace()
+    {
+        show(Tab::Effects);
+        TabPane &pane = m_window->pane(Tab::Effects);
+        m_window->resize(900, 380);
+        bar().field().setText(QStringLiteral("blur"));
+        QTRY_COMPARE(pane.model().rowCount(), 3);
+        pane.selectRows({2});
+        const RowRecordPtr found = pane.model().recordAt(2);
+        const int place = pane.table().rowViewportPosition(2);
+        bar().clear();
+        const std::size_t row = pane.selectedRows().at(0);
+        QCOMPARE(pane.model().recordAt(int(row)), found);
+        QVERIFY(row > 2);
+        QCOMPARE(pane.table().rowViewportPosition(int(row)), place);
+    }
+
     void popUpsNarrowFurther()
     {
         show(Tab::Markers);

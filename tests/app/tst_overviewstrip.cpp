@@ -42,11 +42,11 @@ private Q_SLOTS:
     {
         QCOMPARE(strip().sequence()->name, reel); // it has most markers
         m_window->activateWindow();
-        pane().table().setFocus();
         pane().table().scrollToTop();
         m_window->resize(1000, 460);
         for (const QString &name : {QStringLiteral("Ende"), QStringLiteral("Opening")}) {
             const std::size_t marker = find(name);
+            pane().focusSearch();
             click(strip().placeOf(marker));
             QCOMPARE(selectedNames(), QStringList(name));
             QVERIFY(strip().sequence()->markers[marker].isSelected);
