@@ -5651,4 +5651,11 @@ hier ablegen</translation>
         <translation>Die geänderten Sequenzen konnten nicht nach „%1“ exportiert werden.</translation>
     </message>
 </context>
+<context>
+    <name>vantrell::WindowWork</name>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen…</translation>
+    </message>
+</context>
 </TS>

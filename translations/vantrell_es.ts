@@ -5651,4 +5651,11 @@ o un archivo XML</translation>
         <translation>No se pudieron exportar las secuencias modificadas a «%1».</translation>
     </message>
 </context>
+<context>
+    <name>vantrell::WindowWork</name>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Cancelando…</translation>
+    </message>
+</context>
 </TS>

@@ -5651,4 +5651,11 @@ ou un fichier XML</translation>
         <translation>Impossible d’exporter les séquences modifiées dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
+<context>
+    <name>vantrell::WindowWork</name>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
+    </message>
+</context>
 </TS>

@@ -32,6 +32,7 @@ void WindowWork::begin(const QString &text, WindowState::Work work, std::functio
                        WindowState::Next next)
 {
     m_state.begin(work, next);
+    m_isCancelled = false;
     m_cancel = std::move(cancel);
     m_sheet->setCancelTitle(QString());
     m_sheet->updateProgressLabel(text);
@@ -65,8 +66,16 @@ void WindowWork::cancelIfExpendable()
 
 void WindowWork::cancel()
 {
-    if (const auto cancel = m_cancel) // which may replace it
-        cancel();
+    const auto cancel = m_cancel; // which may replace it
+    if (!cancel)
+        return;
+    m_isCancelled = true;
+    cancel();
+    if (!m_isCancelled || !m_cancel) // it has ended, or the next one has begun
+        return;
+    // The worker may have to wait for a volume that does not answer.
+    m_sheet->updateProgressLabel(tr("Cancelling…"));
+    m_sheet->setCancellable(false);
 }
 
 void WindowWork::reset()
@@ -88,7 +97,7 @@ void WindowWork::showSheet()
         return;
     }
     m_sheet->startProgress();
-    m_sheet->setCancellable(m_state.isCancellable());
+    m_sheet->setCancellable(m_state.isCancellable() && !m_isCancelled);
 }
 
 } // namespace vantrell

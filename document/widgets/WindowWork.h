@@ -56,6 +56,7 @@ private:
     ProgressSheet *m_sheet;
     QTimer m_delay;
     std::function<void()> m_cancel;
+    bool m_isCancelled = false; // but has not ended
 };
 
 } // namespace vantrell

@@ -214,10 +214,28 @@ void TabPane::rememberRows()
     if (!m_model->view().isVisible())
         return;
     m_keptSelection.clear();
-    for (const std::size_t row : selectedRows())
+    const std::vector<std::size_t> selected = selectedRows();
+    for (const std::size_t row : selected)
         m_keptSelection.push_back(m_model->recordAt(int(row)));
     const QModelIndex current = m_table->currentIndex();
     m_keptCurrent = current.isValid() ? m_model->recordAt(current.row()) : nullptr;
+    m_keptBeside = {};
+    if (current.isValid()) {
+        // The next row and the one before, but for those that are selected: they may go as well.
+        const auto isSelected = [&](int row) {
+            return std::binary_search(selected.begin(), selected.end(), std::size_t(row));
+        };
+        int below = current.row() + 1;
+        while (isSelected(below))
+            ++below;
+        int above = current.row() - 1;
+        while (above >= 0 && isSelected(above))
+            --above;
+        if (below < m_model->rowCount())
+            m_keptBeside[0] = m_model->recordAt(below);
+        if (above >= 0)
+            m_keptBeside[1] = m_model->recordAt(above);
+    }
     m_keptColumn = current.column();
     m_keptScroll = {m_table->horizontalScrollBar()->value(), m_table->verticalScrollBar()->value()};
     rememberPlace();
@@ -251,6 +269,7 @@ void TabPane::restoreRows()
 {
     std::vector<std::size_t> selected;
     std::ptrdiff_t current = -1;
+    std::array<std::ptrdiff_t, 2> beside = {-1, -1};
     std::ptrdiff_t moved = 0; // rows
     if (!m_keptSelection.empty() || m_keptCurrent) {
         const std::unordered_set<RowRecordPtr> kept(m_keptSelection.begin(), m_keptSelection.end());
@@ -260,10 +279,16 @@ void TabPane::restoreRows()
                 selected.push_back(row);
             if (rows[row] == m_keptCurrent)
                 current = std::ptrdiff_t(row);
+            for (std::size_t i = 0; i < beside.size(); ++i) {
+                if (rows[row] == m_keptBeside[i])
+                    beside[i] = std::ptrdiff_t(row);
+            }
             if (rows[row] == m_keptInPlace && int(rows.size()) != m_keptCount)
                 moved = std::ptrdiff_t(row) - m_keptInPlaceAt;
         }
     }
+    if (current < 0)
+        current = beside[0] < 0 ? beside[1] : beside[0];
     m_selectionMuted = true;
     m_table->setAutoScroll(false); // to the current row
     if (current >= 0 && m_keptColumn < m_model->columnCount())

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <array>
 #include <initializer_list>
 #include <optional>
 #include <vector>
@@ -240,6 +241,7 @@ private:
     bool m_selectionMuted = false;
     RowList m_keptSelection;
     RowRecordPtr m_keptCurrent;
+    std::array<RowRecordPtr, 2> m_keptBeside; // takes the place of the current row when that goes
     int m_keptColumn = 0;
     QPoint m_keptScroll;        // of the scroll bars
     RowRecordPtr m_keptInPlace; // a selected row on the screen

@@ -494,7 +494,10 @@ private Q_SLOTS:
         QVERIFY(!editCell(*m_window, Tab::Markers, 0, QStringLiteral("name"), QStringLiteral("Too late")));
         m_window->revert();
         if (meanwhile == QStringLiteral("cancel")) {
-            Q_EMIT m_window->findChild<ProgressSheet *>()->cancelled();
+            auto *const sheet = m_window->findChild<ProgressSheet *>();
+            Q_EMIT sheet->cancelled();
+            if (m_window->isBusy()) // the worker has not noticed yet
+                QVERIFY(!sheet->findChild<QPushButton *>()->isEnabled());
         } else if (meanwhile == QStringLiteral("close")) {
             m_window->close();
             QCOMPARE(closed.count(), 0);
