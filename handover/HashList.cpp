@@ -151,6 +151,7 @@ Result<HashList> HashList::fromFile(const QString &path)
 {
     XmlDocument::LoadOptions options;
     options.tolerant = false;
+    options.failure = QStringLiteral("The file \"%1\" is no media hash list: %2");
     const Result<std::unique_ptr<XmlDocument>> document = XmlDocument::fromFile(path, options);
     if (!document)
         return document.failure();

@@ -1455,6 +1455,10 @@
         <source>The line has %1 fields instead of %2.</source>
         <translation>Die Zeile hat %1 Felder statt %2.</translation>
     </message>
+    <message>
+        <source>The file &quot;%1&quot; is no media hash list: %2</source>
+        <translation>Die Datei „%1“ ist keine Media-Hash-Liste: %2</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

@@ -1455,6 +1455,10 @@
         <source>The line has %1 fields instead of %2.</source>
         <translation>La línea tiene %1 campos en lugar de %2.</translation>
     </message>
+    <message>
+        <source>The file &quot;%1&quot; is no media hash list: %2</source>
+        <translation>El archivo «%1» no es una lista de hashes de medios: %2</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

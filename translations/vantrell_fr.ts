@@ -1455,6 +1455,10 @@
         <source>The line has %1 fields instead of %2.</source>
         <translation>La ligne a %1 champs au lieu de %2.</translation>
     </message>
+    <message>
+        <source>The file &quot;%1&quot; is no media hash list: %2</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas une liste d’empreintes de médias&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>PrintPlugin</name>

@@ -115,8 +115,7 @@ Result<std::unique_ptr<XmlDocument>> XmlDocument::fromFile(const QString &path, 
                                                            .tolerant = options.tolerant,
                                                            .cancelled = options.cancelled});
     if (!document)
-        return Failure{QStringLiteral("The file \"%1\" cannot be opened as a project: %2")
-                           .arg(path, document.message())};
+        return Failure{options.failure.arg(path, document.message())};
     return document;
 }
 

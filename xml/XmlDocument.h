@@ -30,6 +30,8 @@ public:
         bool tolerant = true;
         /// Polled while parsing; setting it ends the parse with a failure. May be null.
         const std::atomic<bool> *cancelled = nullptr;
+        /// What fromFile() says of a file whose text cannot be parsed: "%1" is its path, "%2" the reason.
+        QString failure = QStringLiteral("The file \"%1\" cannot be opened as a project: %2");
     };
 
     /// White space between written elements: a line end and two blanks per level, or none.

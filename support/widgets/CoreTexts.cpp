@@ -73,6 +73,7 @@ constexpr const char *messageTexts[] = {
     QT_TRANSLATE_NOOP("Message", "%1 places"),
     // Reading XML
     QT_TRANSLATE_NOOP("Message", "The file \"%1\" cannot be opened as a project: %2"),
+    QT_TRANSLATE_NOOP("Message", "The file \"%1\" is no media hash list: %2"),
     QT_TRANSLATE_NOOP("Message", "The file \"%1\" does not exist."),
     QT_TRANSLATE_NOOP("Message", "The file \"%1\" cannot be opened: %2."),
     QT_TRANSLATE_NOOP("Message", "The file \"%1\" cannot be read: %2."),

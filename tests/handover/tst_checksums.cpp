@@ -277,7 +277,9 @@ private Q_SLOTS:
         QVERIFY(!entryOf("<md5>900150983cd24fb0d6963f7d28e17f72</md5><sha1>00</sha1>").agreesWith(found));
         QVERIFY(!entryOf("<null/>").agreesWith(found));
         QVERIFY(!HashList::fromFile(m_home.addFile(QStringLiteral("other"), "<xmeml/>")));
-        QVERIFY(!HashList::fromFile(m_home.addFile(QStringLiteral("cut"), "<hashlist>")));
+        const auto cut = HashList::fromFile(m_home.addFile(QStringLiteral("cut"), "<hashlist>"));
+        QVERIFY(!cut);
+        QVERIFY(cut.message().contains(QStringLiteral("is no media hash list: it is not well-formed")));
     }
 };
 
