@@ -89,8 +89,8 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     // Narrower than usual in a small window.
     for (QPushButton *const button : {m_add, m_addAt, m_remove, m_offset, m_fields})
         button->setMinimumWidth(
-            std::min(button->sizeHint().width(),
-                     fontMetrics().horizontalAdvance(button->text()) + 2 * fontMetrics().averageCharWidth()));
+            std::min(button->sizeHint().width(), fontMetrics().horizontalAdvance(button->text()) +
+                                                     fontMetrics().averageCharWidth() * 3 / 2));
     makeSearch();
     m_ownOwners->setToolTip(
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "

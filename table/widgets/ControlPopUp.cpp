@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr int widestClosed = 24; // characters of average width
+constexpr int widestNarrow = 21;
 constexpr int widestOpen = 60;
 
 } // namespace
@@ -23,6 +24,7 @@ ControlPopUp::ControlPopUp(QWidget *parent)
     setSizeAdjustPolicy(AdjustToContents);
     setMaximumWidth(fontMetrics().averageCharWidth() * widestClosed);
     setMaxVisibleItems(24);
+    connect(this, &QComboBox::currentTextChanged, this, &ControlPopUp::updateGeometry);
 }
 
 void ControlPopUp::showPopup()
@@ -41,9 +43,9 @@ int ControlPopUp::margin() const
     return fontMetrics().averageCharWidth() / 2;
 }
 
-QSize ControlPopUp::sizeHint() const
+/// The styles leave a title less place than they take for it.
+int ControlPopUp::missingWidth() const
 {
-    // The styles leave a title less place than they take for it.
     constexpr int contentWidth = 200;
     QStyleOptionComboBox option;
     initStyleOption(&option);
@@ -53,7 +55,26 @@ QSize ControlPopUp::sizeHint() const
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int missing = contentWidth + 2 * margin() + 2 - field.width();
-    return QComboBox::sizeHint() + QSize(std::max(missing, fontMetrics().averageCharWidth() * 3 / 2), 0);
+    return std::max(missing, fontMetrics().averageCharWidth() * 3 / 2);
+}
+
+QSize ControlPopUp::sizeHint() const
+{
+    return QComboBox::sizeHint() + QSize(missingWidth(), 0);
+}
+
+QSize ControlPopUp::minimumSizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
+    const QSize content(fontMetrics().horizontalAdvance(option.currentText) + icon, fontMetrics().height());
+    const int needed =
+        style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this).width() + missingWidth();
+    const QSize usual = QComboBox::sizeHint();
+    return {
+        std::min({needed, usual.width() + missingWidth(), fontMetrics().averageCharWidth() * widestNarrow}),
+        usual.height()};
 }
 
 void ControlPopUp::paintEvent(QPaintEvent *)

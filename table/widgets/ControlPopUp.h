@@ -17,12 +17,15 @@ public:
     void showPopup() override;
     /// Wide enough for its titles with the margins around them.
     QSize sizeHint() const override;
+    /// Wide enough for the chosen title, unless that is a long one.
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     int margin() const;
+    int missingWidth() const;
 };
 
 } // namespace vantrell

@@ -672,7 +672,8 @@ void TabPane::addControls(std::initializer_list<QWidget *> controls)
     QWidget *previous = nullptr;
     for (QWidget *control : controls) {
         if (!control) {
-            m_controls->addSpacing(fontMetrics().averageCharWidth() * 3);
+            m_controls->addSpacerItem(
+                new QSpacerItem(fontMetrics().averageCharWidth() * 3, 0, QSizePolicy::Maximum));
             continue;
         }
         m_controls->addWidget(control);
