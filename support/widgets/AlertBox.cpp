@@ -1,5 +1,6 @@
 #include "support/widgets/AlertBox.h"
 
+#include "support/widgets/GoBack.h"
 #include "support/widgets/SelectableLabel.h"
 
 #include <QClipboard>
@@ -135,6 +136,8 @@ void setUpAlert(QMessageBox &box, const QString &message, const QString &explana
 {
     box.setWindowTitle(QCoreApplication::applicationName());
     box.setWindowModality(box.parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+    if (QWidget *const window = box.parentWidget())
+        QObject::connect(&box, &QDialog::finished, window, [window] { goBackTo(*window->window()); });
     setIcon(box);
     new CopiesTexts(&box, message + QLatin1Char('\n') + explanation);
     box.setTextFormat(Qt::PlainText);

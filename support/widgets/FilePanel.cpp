@@ -1,17 +1,15 @@
 #include "support/widgets/FilePanel.h"
 
+#include "support/widgets/GoBack.h"
 #include "support/widgets/ReplaceQuestion.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QMimeData>
-#include <QPointer>
 #include <QScreen>
-#include <QTimer>
 #include <QTreeView>
 #include <QUrl>
 
@@ -86,18 +84,6 @@ private:
     QTreeView &m_list;
     bool m_isWidened = false; ///< for the first folder; after that the size is the user's
 };
-
-/// Activates the window when the panel has closed, or that of which the window was a sheet: window managers
-/// may choose another one when a panel and the sheet that it belongs to close at once.
-void goBackTo(QWidget &window)
-{
-    const QPointer<QWidget> parent(window.parentWidget() ? window.parentWidget()->window() : nullptr);
-    QTimer::singleShot(0, qApp, [window = QPointer(&window), parent] {
-        QWidget *const shown = window && window->isVisible() ? window.data() : parent.data();
-        if (shown && shown->isVisible() && !QApplication::activeModalWidget())
-            shown->activateWindow();
-    });
-}
 
 QFileDialog *makeDialog(const Request &request, QFileDialog::AcceptMode mode,
                         const std::function<void(const QStringList &)> &chosen)

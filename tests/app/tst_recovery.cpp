@@ -146,6 +146,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!sheet());
         QTRY_VERIFY(journals().isEmpty());
         QVERIFY(!m_window->isWindowModified());
+        QTRY_COMPARE(QApplication::activeWindow(), m_window);
     }
 
     void aMissingProjectKeepsItsChanges()
