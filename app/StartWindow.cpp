@@ -197,11 +197,15 @@ void StartWindow::closeEvent(QCloseEvent *event)
 
 void StartWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (FilePanel::localFiles(event->mimeData()).isEmpty())
+    if (!FilePanel::acceptFiles(*event))
         return;
-    event->acceptProposedAction();
     m_dropArea->setProperty("isTarget", true);
     m_dropArea->update();
+}
+
+void StartWindow::dragMoveEvent(QDragMoveEvent *event)
+{
+    FilePanel::acceptFiles(*event);
 }
 
 void StartWindow::dragLeaveEvent(QDragLeaveEvent *)
@@ -213,8 +217,8 @@ void StartWindow::dragLeaveEvent(QDragLeaveEvent *)
 void StartWindow::dropEvent(QDropEvent *event)
 {
     dragLeaveEvent(nullptr);
-    event->acceptProposedAction();
-    Q_EMIT filesChosen(FilePanel::localFiles(event->mimeData()));
+    if (FilePanel::acceptFiles(*event))
+        Q_EMIT filesChosen(FilePanel::localFiles(event->mimeData()));
 }
 
 } // namespace vantrell

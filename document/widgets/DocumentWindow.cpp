@@ -1043,16 +1043,19 @@ void DocumentWindow::shutDown()
 
 void DocumentWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!FilePanel::localFiles(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    FilePanel::acceptFiles(*event);
+}
+
+void DocumentWindow::dragMoveEvent(QDragMoveEvent *event)
+{
+    FilePanel::acceptFiles(*event);
 }
 
 void DocumentWindow::dropEvent(QDropEvent *event)
 {
-    const QStringList paths = FilePanel::localFiles(event->mimeData());
-    if (paths.isEmpty())
+    if (!FilePanel::acceptFiles(*event))
         return;
-    event->acceptProposedAction();
+    const QStringList paths = FilePanel::localFiles(event->mimeData());
     if (state() == State::Ready)
         m_notes.takeDropped(paths);
     else

@@ -3,6 +3,7 @@
 #include "support/widgets/GoBack.h"
 #include "support/widgets/ReplaceQuestion.h"
 
+#include <QDropEvent>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -172,6 +173,18 @@ QStringList localFiles(const QMimeData *data)
             paths.append(url.toLocalFile());
     }
     return paths;
+}
+
+bool acceptFiles(QDropEvent &event)
+{
+    const Qt::DropActions offered = event.possibleActions();
+    if (!(offered & (Qt::CopyAction | Qt::LinkAction)) || localFiles(event.mimeData()).isEmpty()) {
+        event.ignore();
+        return false;
+    }
+    event.setDropAction(offered.testFlag(Qt::CopyAction) ? Qt::CopyAction : Qt::LinkAction);
+    event.accept();
+    return true;
 }
 
 } // namespace vantrell::FilePanel

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QDropEvent;
 class QFileDialog;
 class QMimeData;
 class QWidget;
@@ -41,5 +42,8 @@ void fitColumns(QFileDialog &panel);
 
 /// The paths of the local files among what is being dragged.
 QStringList localFiles(const QMimeData *data);
+/// Accepts a drag or a drop of local files as a copy or link, whatever the source proposes: after a move it
+/// would remove them. False, and nothing is accepted, without such files or when it offers nothing else.
+bool acceptFiles(QDropEvent &event);
 
 } // namespace vantrell::FilePanel

@@ -838,11 +838,18 @@ private Q_SLOTS:
         QMimeData data;
         data.setUrls(
             {QUrl::fromLocalFile(m_path), QUrl(QStringLiteral("https://www.orvandel.example/a.xml"))});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        // A source that moves would remove the files.
+        QDropEvent moved(QPointF(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &moved);
+        QVERIFY(!moved.isAccepted());
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(QPoint(5, 5), offered, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window, &enter);
         QVERIFY(enter.isAccepted());
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(QPointF(5, 5), offered, &data, Qt::LeftButton, Qt::NoModifier);
+        event.setDropAction(Qt::MoveAction);
         QCoreApplication::sendEvent(m_window, &event);
+        QCOMPARE(event.dropAction(), Qt::CopyAction);
         QCOMPARE(dropped.count(), 1);
         QCOMPARE(dropped.at(0).at(0).toStringList(), QStringList(m_path));
     }
