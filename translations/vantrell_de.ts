@@ -2570,6 +2570,10 @@
         <source>Nothing was removed: no row is selected</source>
         <translation>Nichts entfernt: Keine Zeile ist ausgewählt</translation>
     </message>
+    <message>
+        <source>No effect left the list: no row is selected</source>
+        <translation>Kein Effekt verließ die Liste: Keine Zeile ist ausgewählt</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3691,6 +3695,14 @@ Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufk
         <source>Nothing was removed: no row is selected</source>
         <translation>Nichts entfernt: Keine Zeile ist ausgewählt</translation>
     </message>
+    <message>
+        <source>The space bar sets and clears the box</source>
+        <translation>Die Leertaste setzt und löscht das Häkchen</translation>
+    </message>
+    <message>
+        <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
+        <translation>Diese Taste entfernt keine Marker, das tut Bearbeiten ▸ Entfernen… (Strg+Entf)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>
@@ -3895,6 +3907,10 @@ Frei auf dem Startvolume: %2 (blau)</translation>
     <message>
         <source>The size of the files on show</source>
         <translation>Die Größe der angezeigten Dateien</translation>
+    </message>
+    <message>
+        <source>Files cannot be removed here: the list shows what the project uses</source>
+        <translation>Dateien lassen sich hier nicht entfernen: Die Liste zeigt, was das Projekt verwendet</translation>
     </message>
 </context>
 <context>

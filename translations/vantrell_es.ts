@@ -2570,6 +2570,10 @@
         <source>Nothing was removed: no row is selected</source>
         <translation>No se eliminó nada: no hay ninguna fila seleccionada</translation>
     </message>
+    <message>
+        <source>No effect left the list: no row is selected</source>
+        <translation>Ningún efecto salió de la lista: no hay ninguna fila seleccionada</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3691,6 +3695,14 @@ Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú
         <source>Nothing was removed: no row is selected</source>
         <translation>No se eliminó nada: no hay ninguna fila seleccionada</translation>
     </message>
+    <message>
+        <source>The space bar sets and clears the box</source>
+        <translation>La barra espaciadora marca y desmarca la casilla</translation>
+    </message>
+    <message>
+        <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
+        <translation>Esta tecla no elimina marcadores; lo hace Editar ▸ Quitar… (Ctrl+Supr)</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>
@@ -3895,6 +3907,10 @@ Libre en el volumen de arranque: %2 (azul)</translation>
     <message>
         <source>The size of the files on show</source>
         <translation>El tamaño de los archivos mostrados</translation>
+    </message>
+    <message>
+        <source>Files cannot be removed here: the list shows what the project uses</source>
+        <translation>Aquí no se puede eliminar ningún archivo: la lista muestra lo que usa el proyecto</translation>
     </message>
 </context>
 <context>

@@ -2570,6 +2570,10 @@
         <source>Nothing was removed: no row is selected</source>
         <translation>Rien n’a été supprimé&#xa0;: aucune ligne n’est sélectionnée</translation>
     </message>
+    <message>
+        <source>No effect left the list: no row is selected</source>
+        <translation>Aucun effet n’a quitté la liste&#xa0;: aucune ligne n’est sélectionnée</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>
@@ -3691,6 +3695,14 @@ Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Pr
         <source>Nothing was removed: no row is selected</source>
         <translation>Rien n’a été supprimé&#xa0;: aucune ligne n’est sélectionnée</translation>
     </message>
+    <message>
+        <source>The space bar sets and clears the box</source>
+        <translation>La barre d’espace coche et décoche la case</translation>
+    </message>
+    <message>
+        <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
+        <translation>Cette touche ne supprime pas de marqueurs&#xa0;; Édition ▸ Supprimer… (Ctrl+Suppr) le fait</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>
@@ -3895,6 +3907,10 @@ Libre sur le volume de démarrage&#xa0;: %2 (bleu)</translation>
     <message>
         <source>The size of the files on show</source>
         <translation>La taille des fichiers affichés</translation>
+    </message>
+    <message>
+        <source>Files cannot be removed here: the list shows what the project uses</source>
+        <translation>Aucun fichier ne peut être supprimé ici&#xa0;: la liste montre ce que le projet utilise</translation>
     </message>
 </context>
 <context>

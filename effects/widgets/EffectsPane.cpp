@@ -72,8 +72,12 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     table().addWatchKeys({13, 3}, "openEffect");
     table().setKeyDownHandler([this](QVTableView &, QKeyEvent &event) {
         const bool isDelete = event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
-        if (!isDelete || !table().selectionModel()->hasSelection())
+        if (!isDelete)
             return false;
+        if (!table().selectionModel()->hasSelection()) {
+            showMessage(tr("No effect left the list: no row is selected"));
+            return false;
+        }
         hideSelectedEffects();
         return true;
     });

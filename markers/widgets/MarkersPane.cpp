@@ -118,6 +118,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     connect(&workbench.document(), &MyDocument::sequenceMenuChanged, &markerModel(),
             &MarkerTableModel::sequenceMenuChanged);
     table().addWatchKeys({13, 3}, "editCurrentCell");
+    table().addWatchKeys({8, 127}, "explainDelete");
     connect(&table(), &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
         const bool isText = model().columnAt(index.column()).kind == Column::Kind::Text;
         if (isText && index.flags().testFlag(Qt::ItemIsEditable))
@@ -434,8 +435,19 @@ void MarkersPane::removeMarkers()
 void MarkersPane::editCurrentCell()
 {
     const QModelIndex index = table().currentIndex();
-    if (index.isValid() && index.flags().testFlag(Qt::ItemIsEditable))
+    if (!index.isValid())
+        return;
+    if (index.flags().testFlag(Qt::ItemIsEditable))
         table().edit(index);
+    else if (index.flags().testFlag(Qt::ItemIsUserCheckable))
+        showMessage(tr("The space bar sets and clears the box"));
+    else
+        tellWhyNotEditable();
+}
+
+void MarkersPane::explainDelete()
+{
+    showMessage(tr("This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does"));
 }
 
 void MarkersPane::showMarkerOffsetWindow()

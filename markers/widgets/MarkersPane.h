@@ -56,6 +56,8 @@ public Q_SLOTS:
     /// Opens the sheet that renames and deletes presets.
     void showMarkerPresetsDialog();
     void editCurrentCell();
+    /// Tells what removes markers, since this key does not.
+    void explainDelete();
     /// Opens the sheet that asks for a timecode, and goes to the nearest marker on show.
     void showGoToTimecode();
     /// Go to the next marker of the current one's colour, below or above it.

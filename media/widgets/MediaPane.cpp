@@ -73,6 +73,7 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     auto *menu = new QMenu(this);
     menu->addAction(tr("Open"), this, &MediaPane::openSelectedFile);
     table().addWatchKeys({13, 3}, "openSelectedFile");
+    table().addWatchKeys({8, 127}, "explainDelete");
     menu->addAction(tr("Reveal in File Browser"), this, &MediaPane::revealMediaInFinder);
     menu->addAction(tr("Copy"), this, &TabPane::copySelection);
     menu->addSeparator();
@@ -86,6 +87,11 @@ MediaPane::MediaPane(Workbench &workbench, UserDefaults &defaults, QWidget *pare
     mediaModel().setPathMappings(PathMappings::stored(m_defaults));
     restoreUseColumns();
     updateControls();
+}
+
+void MediaPane::explainDelete()
+{
+    showMessage(tr("Files cannot be removed here: the list shows what the project uses"));
 }
 
 void MediaPane::openSelectedFile()

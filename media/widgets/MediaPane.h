@@ -62,6 +62,7 @@ private:
     QString systemDriveName() const;
     void setDrives(std::vector<DriveItem> drives);
     Q_INVOKABLE void openSelectedFile();
+    Q_INVOKABLE void explainDelete();
     void makeControls();
     void makeFooter();
     void makeSearch();

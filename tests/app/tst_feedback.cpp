@@ -62,6 +62,14 @@ private Q_SLOTS:
                                          << "no row is selected";
         QTest::newRow("an effect") << "double-click an effect"
                                    << "An effect has nothing to open";
+        QTest::newRow("delete, media") << "press Delete in media"
+                                       << "Files cannot be removed here";
+        QTest::newRow("delete, effects") << "press Delete in effects"
+                                         << "no row is selected";
+        QTest::newRow("delete, markers") << "press Delete in markers"
+                                         << "Ctrl+Delete";
+        QTest::newRow("return, box") << "press Return in markers"
+                                     << "The space bar";
         QTest::newRow("a marker while busy") << "double-click a marker"
                                              << "until the operation";
         QTest::newRow("no manual") << "manual"
@@ -86,6 +94,17 @@ private Q_SLOTS:
                 window.beginReading({});
             doubleClick(window.pane(tab), tab == Tab::Media ? rowOf(window, action.section(u' ', 1)) : 0,
                         tab == Tab::Media ? QStringLiteral("filename") : QStringLiteral("name"));
+        } else if (action.startsWith(QStringLiteral("press "))) {
+            if (action.endsWith(QStringLiteral("effects")))
+                window.toolbarEffects();
+            else if (action.endsWith(QStringLiteral("markers")))
+                window.toolbarMarkers();
+            TabPane &pane = window.currentPane();
+            const bool isDelete = action.contains(QStringLiteral("Delete"));
+            if (!isDelete)
+                pane.table().setCurrentIndex(
+                    pane.model().index(0, pane.model().columnOf(QStringLiteral("chapter"))));
+            QTest::keyClick(&pane.table(), isDelete ? Qt::Key_Delete : Qt::Key_Return);
         } else if (action.startsWith(QStringLiteral("reveal "))) {
             media.selectRows({std::size_t(rowOf(window, action.section(u' ', 1)))});
             QVERIFY(triggerOf(media, QStringLiteral("Reveal in File Browser")));
