@@ -3703,6 +3703,10 @@ Bearbeiten ▸ Marker-Vorgabe erstellen… legt eine an, ebenso „%1“ im Aufk
         <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
         <translation>Diese Taste entfernt keine Marker, das tut Bearbeiten ▸ Entfernen… (Strg+Entf)</translation>
     </message>
+    <message>
+        <source>There is no clip to choose: the marker is in no sequence</source>
+        <translation>Es gibt keinen Clip zur Auswahl: Der Marker gehört zu keiner Sequenz</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>

@@ -3703,6 +3703,10 @@ Editar ▸ Crear preajuste de marcador… crea uno, igual que «%1» en el menú
         <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
         <translation>Esta tecla no elimina marcadores; lo hace Editar ▸ Quitar… (Ctrl+Supr)</translation>
     </message>
+    <message>
+        <source>There is no clip to choose: the marker is in no sequence</source>
+        <translation>No hay ningún clip que elegir: el marcador no está en ninguna secuencia</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>

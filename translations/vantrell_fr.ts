@@ -3703,6 +3703,10 @@ Edit ▸ Create Marker Preset… makes one, as does “%1” in the pop-up “Pr
         <source>This key removes no markers. Edit ▸ Remove… (Ctrl+Delete) does</source>
         <translation>Cette touche ne supprime pas de marqueurs&#xa0;; Édition ▸ Supprimer… (Ctrl+Suppr) le fait</translation>
     </message>
+    <message>
+        <source>There is no clip to choose: the marker is in no sequence</source>
+        <translation>Il n’y a pas de clip à choisir&#xa0;: le marqueur n’est dans aucune séquence</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::MediaFooter</name>

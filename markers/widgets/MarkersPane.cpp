@@ -126,6 +126,12 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         else
             tellWhyNotEditable();
     });
+    connect(&table(), &QVTableView::popUpRefused, this, [this] {
+        if (isEditingEnabled())
+            showMessage(tr("There is no clip to choose: the marker is in no sequence"));
+        else
+            tellWhyNotEditable();
+    });
     makeMenus();
     placeOverview();
     updateControls();
@@ -437,10 +443,10 @@ void MarkersPane::editCurrentCell()
     const QModelIndex index = table().currentIndex();
     if (!index.isValid())
         return;
-    if (index.flags().testFlag(Qt::ItemIsEditable))
-        table().edit(index);
-    else if (index.flags().testFlag(Qt::ItemIsUserCheckable))
+    if (index.flags().testFlag(Qt::ItemIsUserCheckable))
         showMessage(tr("The space bar sets and clears the box"));
+    else if (index.flags().testFlag(Qt::ItemIsEditable) || isEditingEnabled())
+        table().edit(index);
     else
         tellWhyNotEditable();
 }

@@ -206,10 +206,14 @@ bool QVTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
         selectRow(index.row());
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     }
-    if (!QTableView::edit(index, trigger, event))
-        return false;
-    m_edited = index;
-    return true;
+    const QPersistentModelIndex cell = index;
+    const bool edits = QTableView::edit(index, trigger, event); // also without an editor for the cell
+    if (edits)
+        m_edited = cell;
+    const auto *const shown = qobject_cast<const TableModel *>(cell.model());
+    if (starts && !isEditing() && shown && shown->columnAt(cell.column()).kind == Column::Kind::PopUp)
+        Q_EMIT popUpRefused();
+    return edits;
 }
 
 void QVTableView::commitEditing()

@@ -79,6 +79,8 @@ Q_SIGNALS:
     void copyRequested();
     /// By the context menu key with the control key.
     void headerMenuRequested();
+    /// A pop-up cell was to be edited, but cannot be or has no items.
+    void popUpRefused();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;

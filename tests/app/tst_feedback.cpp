@@ -70,6 +70,8 @@ private Q_SLOTS:
                                          << "Ctrl+Delete";
         QTest::newRow("return, box") << "press Return in markers"
                                      << "The space bar";
+        QTest::newRow("no clips") << "press F2 in markers"
+                                  << "There is no clip to choose";
         QTest::newRow("a marker while busy") << "double-click a marker"
                                              << "until the operation";
         QTest::newRow("no manual") << "manual"
@@ -100,11 +102,12 @@ private Q_SLOTS:
             else if (action.endsWith(QStringLiteral("markers")))
                 window.toolbarMarkers();
             TabPane &pane = window.currentPane();
-            const bool isDelete = action.contains(QStringLiteral("Delete"));
-            if (!isDelete)
-                pane.table().setCurrentIndex(
-                    pane.model().index(0, pane.model().columnOf(QStringLiteral("chapter"))));
-            QTest::keyClick(&pane.table(), isDelete ? Qt::Key_Delete : Qt::Key_Return);
+            const QString key = action.section(u' ', 1, 1);
+            const QString column =
+                key == QStringLiteral("F2") ? QStringLiteral("clip") : QStringLiteral("chapter");
+            if (key != QStringLiteral("Delete"))
+                pane.table().setCurrentIndex(pane.model().index(0, pane.model().columnOf(column)));
+            QTest::keySequence(&pane.table(), QKeySequence(key));
         } else if (action.startsWith(QStringLiteral("reveal "))) {
             media.selectRows({std::size_t(rowOf(window, action.section(u' ', 1)))});
             QVERIFY(triggerOf(media, QStringLiteral("Reveal in File Browser")));
