@@ -223,13 +223,29 @@ void NotePreviewSheet::takePlan()
         m_meaning->setCurrentIndex(m_meaning->findData(int(m_preview->meaning())));
     m_timecode->setVisible(needsTimecode(m_preview->meaning()));
     m_description->setText(m_preview->description());
-    // Empty columns leave their room to the remarks.
-    for (const int column : {NotePreviewModel::Name, NotePreviewModel::Comment})
-        m_table->setColumnHidden(column, m_model->rowCount() > 0 && !m_model->hasTexts(column));
-    m_table->setColumnHidden(NotePreviewModel::User, !m_model->hasTexts(NotePreviewModel::User));
+    showColumns();
     showChecks();
     if (m_addsWhenPlanned && !m_preview->isPlanning())
         add();
+}
+
+/// Empty columns leave their room to comments or names, and to the remarks.
+void NotePreviewSheet::showColumns()
+{
+    const auto isEmpty = [this](int column) { return m_model->rowCount() > 0 && !m_model->hasTexts(column); };
+    const bool hasNames = !isEmpty(NotePreviewModel::Name);
+    const bool hasComments = !isEmpty(NotePreviewModel::Comment);
+    if (m_table->isColumnHidden(NotePreviewModel::Name) == hasNames ||
+        m_table->isColumnHidden(NotePreviewModel::Comment) == hasComments) {
+        const int character = m_table->fontMetrics().averageCharWidth();
+        m_table->setColumnHidden(NotePreviewModel::Name, !hasNames);
+        m_table->setColumnHidden(NotePreviewModel::Comment, !hasComments);
+        if (hasNames)
+            m_table->setColumnWidth(NotePreviewModel::Name, character * (hasComments ? 22 : 36));
+        if (hasComments)
+            m_table->setColumnWidth(NotePreviewModel::Comment, character * (hasNames ? 28 : 40));
+    }
+    m_table->setColumnHidden(NotePreviewModel::User, !m_model->hasTexts(NotePreviewModel::User));
 }
 
 void NotePreviewSheet::showChecks()

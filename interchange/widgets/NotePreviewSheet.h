@@ -42,6 +42,7 @@ private:
     void meaningChosen();
     void timecodeTyped();
     void takePlan();
+    void showColumns();
     void showChecks();
     void toggleSelected();
     void checkAll(bool isChecked);
