@@ -2574,6 +2574,18 @@
         <source>No effect left the list: no row is selected</source>
         <translation>Kein Effekt verließ die Liste: Keine Zeile ist ausgewählt</translation>
     </message>
+    <message>
+        <source>No effect has a name with “%1”.</source>
+        <translation>Kein Effekt hat „%1“ im Namen.</translation>
+    </message>
+    <message>
+        <source>All effects of this project are default ones.</source>
+        <translation>Alle Effekte dieses Projekts sind Standardeffekte.</translation>
+    </message>
+    <message>
+        <source>“Show defaults” lists default effects as well.</source>
+        <translation>„Standardeffekte anzeigen“ listet auch Standardeffekte auf.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>

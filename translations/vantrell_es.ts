@@ -2574,6 +2574,18 @@
         <source>No effect left the list: no row is selected</source>
         <translation>Ningún efecto salió de la lista: no hay ninguna fila seleccionada</translation>
     </message>
+    <message>
+        <source>No effect has a name with “%1”.</source>
+        <translation>Ningún efecto contiene «%1» en su nombre.</translation>
+    </message>
+    <message>
+        <source>All effects of this project are default ones.</source>
+        <translation>Todos los efectos de este proyecto son predeterminados.</translation>
+    </message>
+    <message>
+        <source>“Show defaults” lists default effects as well.</source>
+        <translation>«Mostrar predeterminados» muestra también los efectos predeterminados.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>

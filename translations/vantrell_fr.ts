@@ -2574,6 +2574,18 @@
         <source>No effect left the list: no row is selected</source>
         <translation>Aucun effet n’a quitté la liste&#xa0;: aucune ligne n’est sélectionnée</translation>
     </message>
+    <message>
+        <source>No effect has a name with “%1”.</source>
+        <translation>Aucun effet n’a un nom contenant «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>All effects of this project are default ones.</source>
+        <translation>Tous les effets de ce projet sont des effets par défaut.</translation>
+    </message>
+    <message>
+        <source>“Show defaults” lists default effects as well.</source>
+        <translation>«&#xa0;Effets par défaut&#xa0;» liste aussi les effets par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ExportListSheet</name>

@@ -209,9 +209,19 @@ QString EffectsPane::filteredText() const
 {
     if (hidesEffects())
         return tr("All effects were taken off this list. They are still in the project.");
-    return searchBar().text().isEmpty()
-               ? tr("No effect is of this type.")
-               : tr("No effect of this type has a name with “%1”.").arg(searchBar().text());
+    const QString searched = searchBar().text();
+    const bool isOfAll = m_types->currentIndex() == 0;
+    QString text;
+    if (!searched.isEmpty())
+        text = (isOfAll ? tr("No effect has a name with “%1”.")
+                        : tr("No effect of this type has a name with “%1”."))
+                   .arg(searched);
+    else
+        text =
+            isOfAll ? tr("All effects of this project are default ones.") : tr("No effect is of this type.");
+    if (!m_showDefaults->isChecked())
+        text += QLatin1Char(' ') + tr("“Show defaults” lists default effects as well.");
+    return text;
 }
 
 EffectTableModel::EffectTableModel(MyDocument &document, QObject *parent)
