@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <memory>
 
 namespace vantrell::FilePanel
 {
@@ -86,6 +87,12 @@ private:
     bool m_isWidened = false; ///< for the first folder; after that the size is the user's
 };
 
+/// The list of a panel of the program's own; null in a panel of the platform.
+QTreeView *listOf(const QFileDialog &panel)
+{
+    return panel.findChild<QTreeView *>(QStringLiteral("treeView"));
+}
+
 QFileDialog *makeDialog(const Request &request, QFileDialog::AcceptMode mode,
                         const std::function<void(const QStringList &)> &chosen)
 {
@@ -126,16 +133,15 @@ void runForFolder(const Request &request, const std::function<void(const QString
 void runForSaving(const Request &request, const std::function<void(const QString &)> &chosen,
                   const std::function<void()> &cancelled)
 {
-    // Panels of the platform ask about the name as it was typed. QFileDialog would add the extension after
-    // that.
-    const auto complete = [request, chosen, cancelled](const QStringList &paths) {
+    // Panels of the platform ask themselves, about the name as it was typed. QFileDialog would add the
+    // extension after that.
+    const auto asksItself = std::make_shared<bool>(true);
+    const auto complete = [request, chosen, cancelled, asksItself](const QStringList &paths) {
         const QFileInfo typed(paths.value(0));
-        if (request.extension.isEmpty() || typed.fileName().contains(QLatin1Char('.'))) {
-            chosen(typed.filePath());
-            return;
-        }
-        const QString path = typed.filePath() + QLatin1Char('.') + request.extension;
-        if (!QFileInfo::exists(path)) {
+        const bool isWhole = request.extension.isEmpty() || typed.fileName().contains(QLatin1Char('.'));
+        const QString path =
+            isWhole ? typed.filePath() : typed.filePath() + QLatin1Char('.') + request.extension;
+        if ((isWhole && *asksItself) || !QFileInfo::exists(path)) {
             chosen(path);
             return;
         }
@@ -151,6 +157,10 @@ void runForSaving(const Request &request, const std::function<void(const QString
         });
     };
     QFileDialog *const dialog = makeDialog(request, QFileDialog::AcceptSave, complete);
+    if (listOf(*dialog)) {
+        *asksItself = false;
+        dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    }
     dialog->selectFile(request.proposedName);
     if (cancelled)
         QObject::connect(dialog, &QDialog::rejected, request.window, cancelled);
@@ -159,9 +169,9 @@ void runForSaving(const Request &request, const std::function<void(const QString
 
 void fitColumns(QFileDialog &panel)
 {
-    auto *const list = panel.findChild<QTreeView *>(QStringLiteral("treeView"));
+    QTreeView *const list = listOf(panel);
     const auto *const files = panel.findChild<QFileSystemModel *>();
-    if (list && files) // there are none in a panel of the platform
+    if (list && files)
         new PanelColumns(panel, *list, *files);
 }
 

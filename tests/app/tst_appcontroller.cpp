@@ -205,22 +205,29 @@ private Q_SLOTS:
         }
     }
 
-    /// The panel of the platform asks about the name without the extension, the program about the file.
-    void savingAsksAboutTheFileWithTheExtension()
+    /// In an alert of the program's own, once, also for a name without its extension.
+    void savingAsksBeforeItReplaces_data()
     {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("name") << QStringLiteral("project/cut2");
+        QTest::newRow("name with extension") << QStringLiteral("project/cut2.xml");
+    }
+    void savingAsksBeforeItReplaces()
+    {
+        QFETCH(QString, typed);
         start();
         m_controller->applicationOpenFile(m_path);
         DocumentWindow *const window = m_controller->currentWindow();
         QTRY_COMPARE(window->state(), DocumentWindow::State::Ready);
         const QString path = m_home->addFile(QStringLiteral("project/cut2.xml"), "other");
         QVERIFY(trigger(*window, QStringLiteral("Save As…")));
-        choosePath(m_home->path(QStringLiteral("project/cut2")));
+        choosePath(m_home->path(typed));
         QTRY_VERIFY(visibleBox());
         QVERIFY(visibleBox()->text().contains(QStringLiteral("“cut2.xml” already exists")));
         QVERIFY(press(visibleBox(), QStringLiteral("Cancel")));
         QTRY_VERIFY(visiblePanel());
         QCOMPARE(contentOf(path), QByteArray("other"));
-        choosePath(m_home->path(QStringLiteral("project/cut2")));
+        choosePath(m_home->path(typed));
         QTRY_VERIFY(visibleBox());
         QVERIFY(press(visibleBox(), QStringLiteral("Replace")));
         QTRY_COMPARE(window->path(), path);
