@@ -368,7 +368,9 @@ void ColumnLayout::arrange()
     }
     const int stretched = stretchedSection();
     const qint64 room = m_hasRoom ? m_table.viewport()->width() : wished;
-    const qint64 missing = std::clamp<qint64>(wished - room, 0, wished - smallest);
+    // A table that scrolls in any case keeps its texts readable.
+    const qint64 missing =
+        smallest > room ? (wished - smallest) / 2 : std::clamp<qint64>(wished - room, 0, wished - smallest);
     qint64 left = std::max(room, wished - missing);
     if (missing > 0)
         narrow(widths, stretched, missing);

@@ -18,8 +18,8 @@ class TableModel;
 /// follows the font of the table. One column, such as the comment, takes what the others leave; where there
 /// is too little room, the columns whose cells can be read in a tool tip become narrower, so that the table
 /// has a horizontal scroll bar only when the smallest widths do not fit, or when the user has made columns
-/// wider since the table got its size. Widths are pixels of the window. Main thread; table and model outlive
-/// the object.
+/// wider since the table got its size. With the scroll bar they are less narrow. Widths are pixels of the
+/// window. Main thread; table and model outlive the object.
 class ColumnLayout : public QObject
 {
     Q_OBJECT

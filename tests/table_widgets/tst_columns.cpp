@@ -68,9 +68,11 @@ private Q_SLOTS:
         TabPane &pane = show(Tab::Markers, 500);
         QTRY_VERIFY(pane.table().horizontalScrollBar()->isVisible());
         QVERIFY(timecodeFits());
+        const int readable = widthOf(Tab::Markers, u"sequence"_s);
         pane.resize(1000, 600);
         QTRY_VERIFY(!pane.table().horizontalScrollBar()->isVisible());
         QVERIFY(timecodeFits());
+        QVERIFY(widthOf(Tab::Markers, u"sequence"_s) < readable);
         // What the user widens stays so, until the window gets another size.
         pane.table().setColumnWidth(columnOf(Tab::Markers, u"name"_s), 900);
         QTRY_VERIFY(pane.table().horizontalScrollBar()->isVisible());
