@@ -3,6 +3,7 @@
 #include "support/widgets/GoBack.h"
 #include "support/widgets/SelectableLabel.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QFont>
@@ -95,6 +96,16 @@ void setText(QLabel &label, const QString &text)
     setTextWithPaths(label, text, maximumWordWidth);
 }
 
+/// Whether the active window is neither the box nor one that the box is a sheet of.
+bool isUserElsewhere(const QMessageBox &box)
+{
+    const QWidget *const active = QApplication::activeWindow();
+    const QWidget *own = &box;
+    while (own && own != active)
+        own = own->parentWidget();
+    return active && !own;
+}
+
 void setIcon(QMessageBox &box)
 {
     constexpr int side = 48;
@@ -137,7 +148,10 @@ void setUpAlert(QMessageBox &box, const QString &message, const QString &explana
     box.setWindowTitle(QCoreApplication::applicationName());
     box.setWindowModality(box.parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
     if (QWidget *const window = box.parentWidget())
-        QObject::connect(&box, &QDialog::finished, window, [window] { goBackTo(*window->window()); });
+        QObject::connect(&box, &QDialog::finished, window, [&box, window] {
+            if (!isUserElsewhere(box))
+                goBackTo(*window->window());
+        });
     setIcon(box);
     new CopiesTexts(&box, message + QLatin1Char('\n') + explanation);
     box.setTextFormat(Qt::PlainText);
