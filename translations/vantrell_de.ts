@@ -4977,6 +4977,10 @@ gesucht unter %2
         <source>To have all of them, select all (Ctrl+A) first.</source>
         <translation>Für alle wählen Sie vorher alle aus (Strg+A).</translation>
     </message>
+    <message>
+        <source>No row is on show: the report is empty.</source>
+        <translation>Keine Zeile wird angezeigt: Der Bericht ist leer.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

@@ -4977,6 +4977,10 @@ buscado en %2
         <source>To have all of them, select all (Ctrl+A) first.</source>
         <translation>Para incluirlas todas, selecciónelas antes (Ctrl+A).</translation>
     </message>
+    <message>
+        <source>No row is on show: the report is empty.</source>
+        <translation>No se muestra ninguna fila: el informe está vacío.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

@@ -4977,6 +4977,10 @@ cherché dans %2
         <source>To have all of them, select all (Ctrl+A) first.</source>
         <translation>Pour les avoir toutes, sélectionnez d’abord tout (Ctrl+A).</translation>
     </message>
+    <message>
+        <source>No row is on show: the report is empty.</source>
+        <translation>Aucune ligne n’est affichée&#xa0;: le rapport est vide.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::ReportView</name>

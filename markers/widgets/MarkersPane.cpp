@@ -426,6 +426,8 @@ void MarkersPane::moveInPoint()
         table().selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
         table().scrollTo(cell);
         table().editAlong(cell);
+    } else if (!edited.isValid()) {
+        showMessage(tr("Select a marker first"));
     }
 }
 

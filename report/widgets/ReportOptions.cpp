@@ -86,6 +86,8 @@ ReportOptions::ReportOptions(ReportGenerator &report, UserDefaults &defaults, co
 QString ReportOptions::rowsText(ReportTable::RowCounts rows)
 {
     const auto number = [](std::size_t count) { return QLocale().toString(qulonglong(count)); };
+    if (rows.onShow == 0)
+        return tr("No row is on show: the report is empty.");
     if (rows.included == rows.onShow)
         return tr("All rows on show are included: %1.").arg(number(rows.onShow));
     return (rows.included == 1 ? tr("Only the selected row of %1 is included.").arg(number(rows.onShow))
