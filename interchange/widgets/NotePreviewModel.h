@@ -36,7 +36,7 @@ private:
     NotePreview &m_preview;
     int m_rows = 0;
     unsigned m_columnsWithTexts = 0; ///< one bit each
-    QString m_owner; ///< the title of the sequence
+    QString m_owner;                 ///< the title of the sequence
 };
 
 } // namespace vantrell
