@@ -185,6 +185,12 @@ QStringList TimecodeEntry::faultsOf(const QString &typed, const QString &timecod
     return faults;
 }
 
+bool TimecodeEntry::isTimecode(const QString &typed)
+{
+    static const QRegularExpression timecode(QStringLiteral("^[:;.,]*[0-9][0-9:;.,]*$"));
+    return timecode.match(typed.trimmed()).hasMatch();
+}
+
 /// Of a text that is put together from its digits, wherever its separators stand.
 QStringList TimecodeEntry::faultsOfTyping(const QString &typed)
 {

@@ -42,6 +42,9 @@ public:
     static Reading ofNewInPoint(const QString &typed, XmlNode sequence);
     static Reading ofNewDuration(const QString &typed, XmlNode sequence, std::int64_t inPoint);
 
+    /// Whether a text can be read as a timecode: it has digits, and nothing but digits and separators.
+    static bool isTimecode(const QString &typed);
+
     /// The timecode of a sequence's first frame.
     static QString startOf(XmlNode sequence);
 

@@ -241,9 +241,9 @@ void NotePreviewSheet::showColumns()
         m_table->setColumnHidden(NotePreviewModel::Name, !hasNames);
         m_table->setColumnHidden(NotePreviewModel::Comment, !hasComments);
         if (hasNames)
-            m_table->setColumnWidth(NotePreviewModel::Name, character * (hasComments ? 22 : 36));
+            m_table->setColumnWidth(NotePreviewModel::Name, character * (hasComments ? 22 : 34));
         if (hasComments)
-            m_table->setColumnWidth(NotePreviewModel::Comment, character * (hasNames ? 28 : 40));
+            m_table->setColumnWidth(NotePreviewModel::Comment, character * (hasNames ? 28 : 34));
     }
     m_table->setColumnHidden(NotePreviewModel::User, !m_model->hasTexts(NotePreviewModel::User));
 }

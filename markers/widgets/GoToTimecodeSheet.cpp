@@ -99,7 +99,7 @@ void GoToTimecodeSheet::look()
             m_hint->setMinimumHeight(
                 std::max(m_hint->minimumHeight(), m_hint->heightForWidth(m_hint->width())));
     }
-    m_go->setEnabled(m_marker != nullptr);
+    m_go->setEnabled(m_marker && TimecodeEntry::isTimecode(typed));
 }
 
 } // namespace vantrell

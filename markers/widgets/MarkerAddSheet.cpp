@@ -75,8 +75,8 @@ MarkerAddSheet::MarkerAddSheet(MenuPtr sequences, Start start, const QString &na
     for (QLineEdit *const field : {m_name, m_comment})
         field->setMaxLength(std::numeric_limits<int>::max());
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    QPushButton *const add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
-    add->setDefault(true);
+    m_add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
+    m_add->setDefault(true);
     auto *const grid = new QGridLayout(this);
     grid->setColumnStretch(1, 1);
     int row = 0;
@@ -149,6 +149,8 @@ void MarkerAddSheet::follow()
                     ? TimecodeEntry::Reading()
                     : TimecodeEntry::ofNewDuration(m_duration->text(), sequenceElement(), in.frames),
                 *m_durationNote, *m_duration);
+    m_add->setEnabled(TimecodeEntry::isTimecode(m_in->text()) &&
+                      (m_duration->text().isEmpty() || TimecodeEntry::isTimecode(m_duration->text())));
     makeRoomForNotes();
 }
 

@@ -56,6 +56,7 @@ private:
     QLineEdit *m_name;
     QLineEdit *m_comment;
     QComboBox *m_color;
+    QPushButton *m_add = nullptr;
 };
 
 } // namespace vantrell

@@ -315,8 +315,14 @@ private Q_SLOTS:
             QVERIFY(label->height() >= label->heightForWidth(label->width()));
         }
         QCOMPARE(notes, 2);
-        fields.at(0)->selectAll();
-        QTest::keyClicks(fields.at(0), QStringLiteral("5."));
+        // Nothing is added for a text that is no timecode.
+        for (const auto &[in, duration] : {std::pair{"five", ""}, {"..", ""}, {"", ""}, {"5.", "one"}}) {
+            fields.at(0)->setText(QString::fromLatin1(in));
+            fields.at(1)->setText(QString::fromLatin1(duration));
+            QTest::keyClick(sheet, Qt::Key_Return);
+            QVERIFY(sheet->isVisible());
+        }
+        fields.at(1)->clear();
         QTest::keyClicks(fields.at(1), QStringLiteral("1."));
         QTest::keyClick(sheet, Qt::Key_Return);
         QCOMPARE(table().model()->rowCount(), count + 3);
