@@ -92,9 +92,12 @@ void GoToTimecodeSheet::look()
             text += tr("Nearest: a marker without a name at %1.").arg(in);
         else
             text += tr("Nearest: “%1” at %2.").arg(name, in);
+        QStringList lines;
+        if (TimecodeEntry::isTimecode(typed))
+            lines.append(text);
         for (const QString &warning : place.warnings)
-            text += QLatin1Char('\n') + tr("⚠ %1").arg(warning);
-        m_hint->setText(text);
+            lines.append(tr("⚠ %1").arg(warning));
+        m_hint->setText(lines.join(QLatin1Char('\n')));
         if (isVisible()) // the sheet grows with the text
             m_hint->setMinimumHeight(
                 std::max(m_hint->minimumHeight(), m_hint->heightForWidth(m_hint->width())));

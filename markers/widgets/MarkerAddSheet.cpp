@@ -34,7 +34,9 @@ QLabel *makeNote(QWidget *parent)
 
 void showReading(const TimecodeEntry::Reading &reading, QLabel &note, QLineEdit &field)
 {
-    QStringList lines(reading.text);
+    QStringList lines;
+    if (field.text().isEmpty() || TimecodeEntry::isTimecode(field.text()))
+        lines.append(reading.text);
     for (const QString &warning : reading.warnings)
         lines.append(MarkerAddSheet::tr("⚠ %1").arg(warning));
     note.setText(lines.join(QLatin1Char('\n')));
