@@ -116,6 +116,8 @@ QString MarkerTableModel::text(const RowRecord &record, const Column &column) co
     const int item = popUpIndex(record, column);
     if (column.key == MarkerKey::color)
         return m_shownLabels.value(item);
+    if (isOnOtherClip(record, column))
+        return record.get(MarkerKey::clipName);
     const MenuPtr menu = ownerMenu(record, column);
     if (!menu || item < 0 || item >= int(menu->size()))
         return QString();
@@ -130,7 +132,13 @@ QIcon MarkerTableModel::icon(const RowRecord &record, const Column &column) cons
     const int item = popUpIndex(record, column);
     if (column.key == MarkerKey::color)
         return TableIcons::marker(item);
-    return item > 0 ? TableIcons::named(column.identifier) : QIcon();
+    return item > 0 || isOnOtherClip(record, column) ? TableIcons::named(column.identifier) : QIcon();
+}
+
+bool MarkerTableModel::isOnOtherClip(const RowRecord &record, const Column &column) const
+{
+    return column.key == MarkerKey::clip && popUpIndex(record, column) <= 0 &&
+           !record.get(MarkerKey::clipName).isEmpty() && sequenceOf(record);
 }
 
 QString MarkerTableModel::toolTip(const RowRecord &record, const Column &column) const

@@ -42,6 +42,8 @@ private:
     MenuPtr clipMenu(const RowRecord &record) const;
     /// The menu of a cell that shows a sequence or clip; null for none.
     MenuPtr ownerMenu(const RowRecord &record, const Column &column) const;
+    /// Whether the cell shows the name of a clip of the sequence that cannot be chosen: one in a multiclip.
+    bool isOnOtherClip(const RowRecord &record, const Column &column) const;
 
     QStringList m_colorLabels;
     QStringList m_shownLabels;

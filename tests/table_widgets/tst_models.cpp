@@ -193,6 +193,11 @@ void TestModels::offerClipsOfTheRow()
     QCOMPARE(inBin.data(), QString());
     const QString tip = inBin.data(Qt::ToolTipRole).toString();
     QVERIFY2(tip.contains(QStringLiteral("which is in no sequence")), qPrintable(tip));
+    // A clip in a multiclip is not in the menu of its sequence, either.
+    const QModelIndex inMulticlip = m_project->cell(
+        Tab::Markers, m_project->rowOf(Tab::Markers, QStringLiteral("name"), QStringLiteral("Chorus")), clip);
+    m_project->markers.model().recordAt(inMulticlip.row())->set(MarkerKey::clipIndex, std::int64_t(0));
+    QCOMPARE(inMulticlip.data(), QStringLiteral("Quay camera A"));
 }
 
 void TestModels::knowVolumes_data()
