@@ -66,7 +66,7 @@ void tellApart(QStringList &titles, const Menu &menu, const Detail &detail)
     const QHash<QString, int> counts = countsOf(titles);
     if (counts.size() == titles.size())
         return;
-    for (std::size_t i = 1; i < menu.size(); ++i) {
+    for (std::size_t i = 0; i < menu.size(); ++i) {
         QString &title = titles[qsizetype(i)];
         const QString text = counts.value(title) > 1 && menu[i].element ? detail(menu[i].element) : QString();
         if (!text.isEmpty())

@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerColors.h"
+#include "markers/MenuTitles.h"
 #include "support/widgets/CheckFrame.h"
 #include "support/widgets/FilePanel.h"
 #include "support/widgets/ShownText.h"
@@ -122,9 +123,7 @@ void ExportNotesSheet::fillMarkers()
     for (std::size_t i = 0; i < MarkerColors::count; ++i)
         m_color->addItem(TableIcons::marker(int(i)), shownValue(MarkerColors::table()[i].label));
     m_sequence->addItem(tr("All sequences"));
-    const MenuPtr menu = m_document.sequenceMenu();
-    for (std::size_t i = 1; i < menu->size(); ++i)
-        m_sequence->addItem((*menu)[i].title);
+    m_sequence->addItems(MenuTitles::ofSequences(*m_document.sequenceMenu()).mid(1));
     m_sequence->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_flag->addItem(tr("Any"));
     m_flag->addItem(tr("Chapter"), int(NoteExporter::Flag::Chapter));

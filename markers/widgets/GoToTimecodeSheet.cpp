@@ -1,8 +1,10 @@
 #include "markers/widgets/GoToTimecodeSheet.h"
 
+#include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerNavigation.h"
 #include "markers/MarkerTableValues.h"
+#include "markers/MenuTitles.h"
 #include "markers/TimecodeEntry.h"
 
 #include <QComboBox>
@@ -32,7 +34,6 @@ GoToTimecodeSheet::GoToTimecodeSheet(RowList rows, const RowRecordPtr &current, 
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_go = buttons->addButton(tr("&Go"), QDialogButtonBox::AcceptRole);
     m_go->setDefault(true);
-    m_timecode->setPlaceholderText(QStringLiteral("01:00:00:00"));
     m_timecode->setToolTip(tr("Digits fill the timecode from the right; a full stop stands for two zeros"));
     m_sequences->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_sequences->setMinimumContentsLength(24);
@@ -60,29 +61,34 @@ GoToTimecodeSheet::GoToTimecodeSheet(RowList rows, const RowRecordPtr &current, 
 
 void GoToTimecodeSheet::fillSequences(const RowRecordPtr &current)
 {
+    Menu menu;
+    int chosen = 0;
     std::unordered_set<XmlNode> seen;
     for (const RowRecordPtr &row : m_rows) {
         const XmlNode sequence = row->get(MarkerKey::sequence);
         if (!seen.insert(sequence).second)
             continue;
         const QString name = row->get(MarkerKey::sequenceName);
-        m_sequences->addItem(name.isEmpty() ? tr("No sequence") : name);
-        m_examples.push_back(row);
         if (sequence == current->get(MarkerKey::sequence))
-            m_sequences->setCurrentIndex(m_sequences->count() - 1);
+            chosen = int(menu.size());
+        menu.push_back({name.isEmpty() ? tr("No sequence") : name, {}, sequence});
+        m_examples.push_back(row);
     }
+    m_sequences->addItems(MenuTitles::ofSequences(menu));
+    m_sequences->setCurrentIndex(chosen);
     m_sequences->setEnabled(m_sequences->count() > 1);
 }
 
 void GoToTimecodeSheet::look()
 {
+    const RowRecord &example = *m_examples[std::size_t(m_sequences->currentIndex())];
+    m_timecode->setPlaceholderText(MyDocument::timecodeFromFrameCount(0, example));
     const QString typed = m_timecode->text().trimmed();
     m_marker = nullptr;
     if (typed.isEmpty()) {
         m_hint->setText(
             tr("Goes to the marker that is nearest to the timecode, among those that are shown."));
     } else {
-        const RowRecord &example = *m_examples[std::size_t(m_sequences->currentIndex())];
         const TimecodeEntry::Reading place = TimecodeEntry::ofPlace(typed, example);
         m_marker = m_rows[MarkerNavigation::nearestRow(m_rows, example, place.frames).value()];
         const QString name = m_marker->get(MarkerKey::name);

@@ -2,6 +2,7 @@
 
 #include "document/MyDocument.h"
 #include "markers/MarkerKeys.h"
+#include "markers/MenuTitles.h"
 #include "markers/widgets/MarkerStrip.h"
 #include "markers/widgets/OverviewPopUp.h"
 #include "support/settings/UserDefaults.h"
@@ -11,7 +12,6 @@
 
 #include <QElapsedTimer>
 #include <QHBoxLayout>
-#include <QHash>
 #include <QLabel>
 #include <QTextDocument>
 #include <QTimer>
@@ -256,30 +256,23 @@ void MarkerOverviewPanel::showSequence()
 /// The sequences of the document's menu, and others that own markers; those of one name with their timecodes.
 void MarkerOverviewPanel::fillPopUp()
 {
-    std::vector<std::pair<XmlNode, QString>> items;
+    Menu listed;
     const MenuPtr menu = m_document.sequenceMenu();
     std::unordered_map<XmlNode, bool> known;
     if (menu) {
         for (const MenuItem &item : *menu) {
             if (item.element && item.element.isAttached() && known.emplace(item.element, true).second)
-                items.emplace_back(item.element, item.title);
+                listed.push_back(item);
         }
     }
     for (const OverviewSequence &sequence : m_overview.sequences()) {
         if (known.emplace(sequence.element, true).second)
-            items.emplace_back(sequence.element, sequence.name);
+            listed.push_back({sequence.name, {}, sequence.element});
     }
-    QHash<QString, int> uses;
-    for (const auto &item : items)
-        ++uses[item.second];
-    for (auto &item : items) {
-        if (uses.value(item.second) > 1) {
-            const auto timing = SequenceTiming::ofFirstTexts(item.first);
-            RowRecord record;
-            timing.store(record);
-            item.second += QStringLiteral(" (%1)").arg(MyDocument::timecodeFromFrameCount(0, record));
-        }
-    }
+    const QStringList titles = MenuTitles::ofSequences(listed);
+    std::vector<std::pair<XmlNode, QString>> items;
+    for (std::size_t item = 0; item < listed.size(); ++item)
+        items.emplace_back(listed[item].element, titles[qsizetype(item)]);
     const bool isEqual = items.size() == m_items.size() && m_popUp->count() > 0 &&
                          std::equal(items.begin(), items.end(), m_items.begin(), [](auto &a, auto &b) {
                              return a.first == b.first && a.second == b.second;

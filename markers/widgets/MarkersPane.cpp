@@ -4,6 +4,7 @@
 #include "markers/MarkerOffset.h"
 #include "markers/MarkerTableValues.h"
 #include "markers/MarkerTotals.h"
+#include "markers/MenuTitles.h"
 #include "markers/widgets/GoToTimecodeSheet.h"
 #include "markers/widgets/MarkerAddSheet.h"
 #include "markers/widgets/MarkerFieldsSheet.h"
@@ -172,8 +173,7 @@ void MarkersPane::fillSequences()
     const MenuPtr menu = workbench().document().sequenceMenu();
     m_sequences->clear();
     m_sequences->addItem(tr("All Sequences"));
-    for (std::size_t item = 1; item < menu->size(); ++item)
-        m_sequences->addItem((*menu)[item].title);
+    m_sequences->addItems(MenuTitles::ofSequences(*menu).mid(1));
     m_sequences->setEnabled(menu->size() > 1);
 }
 

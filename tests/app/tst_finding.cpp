@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QFile>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -253,6 +254,48 @@ private Q_SLOTS:
         QTRY_COMPARE(bar().shownCounts(), bar().counts());
         m_window->resize(m_window->minimumSizeHint().expandedTo(m_window->minimumSize()));
         QTRY_COMPARE(bar().shownCounts(), QStringLiteral("24 markers · 24 selected"));
+    }
+
+    void sequencesOfOneNameAreToldApart()
+    {
+        QFile file(copySample(m_home->path(QStringLiteral("twins"))));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QByteArray xml = file.readAll();
+        file.seek(0);
+        const QString reel = QStringLiteral("Harbour Lights – Reel 1");
+        file.write(QByteArray(xml).replace("Trailer%2025%20fps", reel.toUtf8()));
+        file.close();
+        m_controller->openFiles({file.fileName()});
+        m_window = m_controller->documentWindows().back();
+        QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), DocumentWindow::State::Ready, 40000);
+        show(Tab::Markers);
+        auto &markers = static_cast<MarkersPane &>(m_window->pane(Tab::Markers));
+        QTRY_VERIFY_WITH_TIMEOUT(!markers.overview().isOutdated(), 20000);
+
+        const QStringList titles{reel + QStringLiteral(" (01:00:00;00 – 01:01:06;02)"),
+                                 reel + QStringLiteral(" (10:00:00:00 – 10:00:20:00)")};
+        const auto twinsOfPopUps = [&](const QWidget &parent) {
+            QList<QStringList> found;
+            for (const QComboBox *const popUp : parent.findChildren<QComboBox *>()) {
+                QStringList twins;
+                for (int item = 0; item < popUp->count(); ++item) {
+                    if (popUp->itemText(item).startsWith(reel))
+                        twins.append(popUp->itemText(item));
+                }
+                twins.sort();
+                if (!twins.isEmpty())
+                    found.append(twins);
+            }
+            return found;
+        };
+        QCOMPARE(twinsOfPopUps(markers), QList<QStringList>(2, titles)); // the filter and the overview
+        for (const char *const command : {"Go to Timecode…", "Add Marker…", "Export Notes…"}) {
+            QVERIFY(trigger(*m_window, QString::fromUtf8(command)));
+            QDialog *const sheet = visibleSheet();
+            QVERIFY(sheet);
+            QCOMPARE(twinsOfPopUps(*sheet), QList<QStringList>{titles});
+            sheet->reject();
+        }
     }
 
     void goesToTheNextMarkerOfTheColor()
