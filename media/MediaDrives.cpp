@@ -6,6 +6,7 @@
 #include "support/files/StandardFolders.h"
 
 #include <QFile>
+#include <QHash>
 
 #include <algorithm>
 #include <memory>
@@ -77,6 +78,20 @@ void populateDrivePopUp(std::vector<DriveItem> &menu)
         if (isFolder && candidate.item.title != bootVolume)
             menu.push_back(candidate.item);
     }
+}
+
+QStringList driveTitles(const std::vector<DriveItem> &menu)
+{
+    QHash<QString, int> uses;
+    for (const DriveItem &drive : menu)
+        ++uses[drive.title];
+    QStringList titles;
+    for (const DriveItem &drive : menu) {
+        const QString folder =
+            uses.value(drive.title) > 1 ? drive.path.section(QLatin1Char('/'), 0, -2) : QString();
+        titles.append(folder.isEmpty() ? drive.title : QStringLiteral("%1 (%2)").arg(drive.title, folder));
+    }
+    return titles;
 }
 
 } // namespace vantrell

@@ -26,4 +26,8 @@ QStringList answeringVolumesFolders(const std::function<void(const QStringList &
 /// name. Folders that do not answer within half a second are left out. Any thread.
 void populateDrivePopUp(std::vector<DriveItem> &menu);
 
+/// The titles as a user tells them apart: volumes of one name are followed by the folder that they are in.
+/// Any thread.
+QStringList driveTitles(const std::vector<DriveItem> &menu);
+
 } // namespace vantrell

@@ -202,23 +202,29 @@ void MediaPane::prepareToShow()
 void MediaPane::setDrives(std::vector<DriveItem> drives)
 {
     const QString chosen = workbench().document().viewState().mediaDrive;
+    for (DriveItem &drive : drives) {
+        if (drive.path.isNull())
+            drive.title = tr("All Drives");
+        else if (drive.path == QLatin1Char('/') && drive.title == drive.path)
+            drive.title = tr("System Drive");
+    }
+    const QStringList titles = driveTitles(drives);
     m_driveItems = std::move(drives);
     m_drives->clear();
+    m_volumeNames.clear();
+    QStringList paths;
     int index = 0;
     for (std::size_t i = 0; i < m_driveItems.size(); ++i) {
-        const DriveItem &drive = m_driveItems[i];
-        const bool isSystem = drive.path == QLatin1Char('/');
-        m_drives->addItem(drive.path.isNull() ? QIcon() : TableIcons::volume(drive.path),
-                          drive.path.isNull() ? tr("All Drives")
-                          : isSystem          ? systemDriveName()
-                                              : drive.title);
-        if (!chosen.isNull() && drive.path == chosen)
+        const QString path = m_driveItems[i].path;
+        const QString title = titles[qsizetype(i)];
+        m_drives->addItem(path.isNull() ? QIcon() : TableIcons::volume(path), title);
+        if (!path.isNull())
+            m_volumeNames.insert(path, title);
+        if (!chosen.isNull() && path == chosen)
             index = int(i);
+        paths.append(path);
     }
     m_drives->setCurrentIndex(index);
-    QStringList paths;
-    for (const DriveItem &drive : m_driveItems)
-        paths.append(drive.path);
     mediaModel().setDrives(paths);
     m_driveNames.clear();
     m_shareTimer->start();
@@ -290,21 +296,13 @@ QString MediaPane::driveNameOf(const QString &directory)
     if (known != m_driveNames.constEnd())
         return *known;
     const QString volume = mediaModel().volumeOf(directory);
-    QString name = volume == QLatin1Char('/') ? systemDriveName() : volume.section(QLatin1Char('/'), -1);
+    QString name = m_volumeNames.value(volume);
+    if (name.isEmpty())
+        name = volume == QLatin1Char('/') ? tr("System Drive") : volume.section(QLatin1Char('/'), -1);
     if (directory.isEmpty() || name.isEmpty())
         name = tr("Unknown Drive");
     m_driveNames.insert(directory, name);
     return name;
-}
-
-/// The name of "/" on the screen.
-QString MediaPane::systemDriveName() const
-{
-    for (const DriveItem &drive : m_driveItems) {
-        if (drive.path == QLatin1Char('/') && drive.title != drive.path)
-            return drive.title;
-    }
-    return tr("System Drive");
 }
 
 // What the sequences use

@@ -59,7 +59,6 @@ private:
     void setMediaChart(const std::vector<double> &values);
     void updateShares();
     QString driveNameOf(const QString &directory);
-    QString systemDriveName() const;
     void setDrives(std::vector<DriveItem> drives);
     Q_INVOKABLE void openSelectedFile();
     Q_INVOKABLE void explainDelete();
@@ -79,7 +78,8 @@ private:
     QPushButton *m_exportList;
     MediaFooter *m_mediaFooter = nullptr;
     QTimer *m_shareTimer;
-    QHash<QString, QString> m_driveNames; // by folder, of the files' shares
+    QHash<QString, QString> m_driveNames;  // by folder, of the files' shares
+    QHash<QString, QString> m_volumeNames; // by path, as the drive menu has them
     std::vector<DriveItem> m_driveItems;
     int m_driveLookups = 0; // started so far
 

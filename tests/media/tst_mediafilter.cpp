@@ -194,6 +194,14 @@ private Q_SLOTS:
                  QStringLiteral("All Drives=\n%1=/\na disk=V/a disk\nB=V/B\nlink=V/link\n")
                      .arg(MediaFile::bootVolumeName()));
         QVERIFY(menu[0].path.isNull());
+        menu = {{QStringLiteral("All Drives"), QString()},
+                {QStringLiteral("Root"), QStringLiteral("/")},
+                {QStringLiteral("Root"), QStringLiteral("/Volumes/Root")},
+                {QStringLiteral("A"), QStringLiteral("/Volumes/A")},
+                {QStringLiteral("B"), QStringLiteral("/Volumes/B")},
+                {QStringLiteral("A"), QStringLiteral("/mnt/A")}};
+        QCOMPARE(driveTitles(menu).join(QLatin1Char('|')),
+                 QStringLiteral("All Drives|Root|Root (/Volumes)|A (/Volumes)|B|A (/mnt)"));
         StandardFolders::setVolumesFolder(m_home.path(QStringLiteral("none")));
         MediaFilter::populateDrivePopUp(menu);
         QCOMPARE(menu.size(), std::size_t(2));
