@@ -161,6 +161,12 @@ void DocumentWindow::makeContent()
     owners->setAction(tr("Show Each Under Its Own"),
                       [this] { m_defaults.setValue(MarkerInventory::ownOwnersDefault, true); });
     m_ownersNotice = new OwnersNotice(*owners);
+    for (const NoticeBar *const notice : {m_notice, owners}) {
+        connect(notice, &NoticeBar::focusLeft, this, [this] {
+            if (state() != State::Failed)
+                currentPane().table().setFocus(); // not the next control
+        });
+    }
     m_content = new QStackedWidget(central);
     m_content->addWidget(makeFailurePage());
     auto *const layout = new QVBoxLayout(central);

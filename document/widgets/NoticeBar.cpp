@@ -66,6 +66,14 @@ void NoticeBar::setAction(const QString &title, std::function<void()> action)
     });
 }
 
+void NoticeBar::setVisible(bool visible)
+{
+    const bool leavesFocus = !visible && isAncestorOf(window()->focusWidget());
+    QFrame::setVisible(visible);
+    if (leavesFocus)
+        Q_EMIT focusLeft();
+}
+
 QString NoticeBar::notice() const
 {
     return isHidden() ? QString() : m_text->text();

@@ -33,6 +33,12 @@ public:
     /// Adds a button after the notice, which also dismisses it.
     void setAction(const QString &title, std::function<void()> action);
 
+    void setVisible(bool visible) override;
+
+Q_SIGNALS:
+    /// The bar had the focus when it was hidden.
+    void focusLeft();
+
 private:
     QLabel *m_text;
     QToolButton *m_dismiss;

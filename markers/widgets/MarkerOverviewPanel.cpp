@@ -85,7 +85,7 @@ MarkerOverviewPanel::MarkerOverviewPanel(TabPane &pane, MyDocument &document)
     connect(m_strip, &MarkerStrip::markerChosen, this, &MarkerOverviewPanel::choose);
     connect(m_strip, &MarkerStrip::left, &m_pane.table(), qOverload<>(&QWidget::setFocus));
     connect(m_popUp, &QComboBox::activated, this, [this](int item) {
-        m_chosen = item >= firstItem ? m_items[std::size_t(item - firstItem)].first : XmlNode();
+        m_chosen = item >= firstItem ? m_items[std::size_t(item - firstItem)].element : XmlNode();
         if (!m_chosen)
             takeSelection();
         showSequence();
@@ -218,7 +218,7 @@ void MarkerOverviewPanel::showSequence()
 {
     const auto isThere = [this](XmlNode sequence) {
         return sequence && std::any_of(m_items.begin(), m_items.end(),
-                                       [sequence](const auto &item) { return item.first == sequence; });
+                                       [sequence](const MenuItem &item) { return item.element == sequence; });
     };
     if (!isThere(m_chosen))
         m_chosen = XmlNode();
@@ -226,7 +226,7 @@ void MarkerOverviewPanel::showSequence()
     if (!wanted && m_overview.largest())
         wanted = m_overview.largest()->element;
     if (!wanted && !m_items.empty())
-        wanted = m_items.front().first;
+        wanted = m_items.front().element;
     const OverviewSequence *sequence = wanted ? m_overview.find(wanted) : nullptr;
     if (!sequence && wanted) {
         if (!(m_empty.element == wanted))
@@ -240,10 +240,11 @@ void MarkerOverviewPanel::showSequence()
         m_followed = wanted;
 
     const auto item = std::find_if(m_items.begin(), m_items.end(),
-                                   [wanted](const auto &one) { return one.first == wanted; });
-    const QString title = item == m_items.end() ? QString() : item->second;
+                                   [wanted](const MenuItem &one) { return one.element == wanted; });
+    const bool isFound = item != m_items.end();
+    const QString title = isFound ? m_titles[item - m_items.begin()] : QString();
     m_popUp->setCurrentIndex(m_chosen ? int(item - m_items.begin()) + firstItem : 0);
-    m_popUp->setFollowedTitle(title.isEmpty() ? tr("No sequence") : title);
+    m_popUp->setShownTitle(isFound ? item->title : tr("No sequence")); // the range stands below it
     m_popUp->setAccessibleDescription(title);
     m_popUp->setToolTip(Qt::convertFromPlainText(
         tr("%1\nChoose the sequence of the overview, or let it follow the selected row").arg(title).trimmed(),
@@ -270,20 +271,17 @@ void MarkerOverviewPanel::fillPopUp()
             listed.push_back({sequence.name, {}, sequence.element});
     }
     const QStringList titles = MenuTitles::ofSequences(listed);
-    std::vector<std::pair<XmlNode, QString>> items;
-    for (std::size_t item = 0; item < listed.size(); ++item)
-        items.emplace_back(listed[item].element, titles[qsizetype(item)]);
-    const bool isEqual = items.size() == m_items.size() && m_popUp->count() > 0 &&
-                         std::equal(items.begin(), items.end(), m_items.begin(), [](auto &a, auto &b) {
-                             return a.first == b.first && a.second == b.second;
-                         });
+    const bool isEqual =
+        titles == m_titles && m_popUp->count() > 0 &&
+        std::equal(listed.begin(), listed.end(), m_items.begin(),
+                   [](const MenuItem &a, const MenuItem &b) { return a.element == b.element; });
     if (isEqual)
         return;
-    m_items = std::move(items);
+    m_items = std::move(listed);
+    m_titles = titles;
     m_popUp->clear();
     m_popUp->addItem(tr("Sequence of the Selected Row"));
-    for (const auto &item : m_items)
-        m_popUp->addItem(item.second);
+    m_popUp->addItems(m_titles);
     m_popUp->insertSeparator(1);
 }
 

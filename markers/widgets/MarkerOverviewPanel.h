@@ -10,7 +10,6 @@
 #include <memory>
 #include <optional>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 class QLabel;
@@ -81,9 +80,10 @@ private:
     std::optional<ShownMarkers> m_shownMarkers; ///< of the same
     OverviewSequence m_empty;                   ///< the sequence on show if it has no markers
     XmlNode m_shown;
-    XmlNode m_followed;                               ///< of the row that was selected last
-    XmlNode m_chosen;                                 ///< by the user
-    std::vector<std::pair<XmlNode, QString>> m_items; ///< of the pop-up
+    XmlNode m_followed;   ///< of the row that was selected last
+    XmlNode m_chosen;     ///< by the user
+    Menu m_items;         ///< of the pop-up
+    QStringList m_titles; ///< of the items, told apart
     std::unordered_map<XmlNode, std::shared_ptr<const SequenceClips>>
         m_clips; ///< of sequences that were shown
 };

@@ -11,17 +11,17 @@ OverviewPopUp::OverviewPopUp(QWidget *parent)
 {
 }
 
-void OverviewPopUp::setFollowedTitle(const QString &title)
+void OverviewPopUp::setShownTitle(const QString &title)
 {
-    m_followed = title;
+    m_shown = title;
     update();
 }
 
 void OverviewPopUp::initStyleOption(QStyleOptionComboBox *option) const
 {
     ControlPopUp::initStyleOption(option);
-    if (currentIndex() == 0 && !m_followed.isEmpty())
-        option->currentText = m_followed;
+    if (!m_shown.isEmpty())
+        option->currentText = m_shown;
     // The names of sequences differ at their ends.
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);

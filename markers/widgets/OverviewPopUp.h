@@ -7,8 +7,8 @@
 namespace vantrell
 {
 
-/// The sequences of an overview. While the first item is chosen, which follows the table, the closed pop-up
-/// shows the title of the sequence that this has led to. Main thread.
+/// The sequences of an overview. The closed pop-up shows the name of the one on show, also while the first
+/// item is chosen, which follows the table. Main thread.
 class OverviewPopUp final : public ControlPopUp
 {
     Q_OBJECT
@@ -16,14 +16,14 @@ class OverviewPopUp final : public ControlPopUp
 public:
     explicit OverviewPopUp(QWidget *parent);
 
-    void setFollowedTitle(const QString &title);
-    QString followedTitle() const { return m_followed; }
+    void setShownTitle(const QString &title);
+    QString shownTitle() const { return m_shown; }
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
 
 private:
-    QString m_followed;
+    QString m_shown;
 };
 
 } // namespace vantrell

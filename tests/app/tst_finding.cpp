@@ -5,6 +5,7 @@
 #include "markers/MarkerKeys.h"
 #include "markers/widgets/MarkerOverviewPanel.h"
 #include "markers/widgets/MarkersPane.h"
+#include "markers/widgets/OverviewPopUp.h"
 #include "media/MediaKeys.h"
 #include "table/widgets/ControlPopUp.h"
 #include "table/widgets/QVTableView.h"
@@ -289,6 +290,7 @@ private Q_SLOTS:
             return found;
         };
         QCOMPARE(twinsOfPopUps(markers), QList<QStringList>(2, titles)); // the filter and the overview
+        QCOMPARE(markers.overview().popUp().shownTitle(), reel);         // beside its range
         for (const char *const command : {"Go to Timecode…", "Add Marker…", "Export Notes…"}) {
             QVERIFY(trigger(*m_window, QString::fromUtf8(command)));
             QDialog *const sheet = visibleSheet();

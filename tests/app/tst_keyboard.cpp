@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <QToolButton>
 
 using namespace vantrell;
 
@@ -187,6 +188,21 @@ private Q_SLOTS:
         QVERIFY(m_window->isWindowModified());
         QTRY_COMPARE(m_window->focusWidget(), &table());
         QCOMPARE(table().currentIndex().row(), row);
+    }
+
+    void theFocusLeavesANoticeForTheTable()
+    {
+        showTab(Tab::Markers);
+        m_window->setNotice(QStringLiteral("Something"));
+        const auto buttons = m_window->findChildren<QToolButton *>();
+        const auto dismiss = std::find_if(buttons.begin(), buttons.end(), [](const QToolButton *button) {
+            return button->isVisible() && button->accessibleName() == QStringLiteral("Dismiss notice");
+        });
+        QVERIFY(dismiss != buttons.end());
+        (*dismiss)->setFocus();
+        QTest::keyClick(*dismiss, Qt::Key_Space);
+        QVERIFY(!(*dismiss)->isVisible());
+        QVERIFY(m_window->pane(Tab::Markers).table().hasFocus());
     }
 
     void aLineTellsWhatIsTyped()

@@ -93,10 +93,10 @@ private Q_SLOTS:
 
     void followsTheRowUnlessOneIsChosen()
     {
-        QCOMPARE(overview().popUp().followedTitle(), reel);
+        QCOMPARE(overview().popUp().shownTitle(), reel);
         pane().selectRows({std::size_t(rowOf(QStringLiteral("First light")))});
         QCOMPARE(strip().sequence()->name, trailer);
-        QCOMPARE(overview().popUp().followedTitle(), trailer);
+        QCOMPARE(overview().popUp().shownTitle(), trailer);
         pane().selectRows({std::size_t(rowOf(QStringLiteral("Tide turns")))}); // of a clip in a bin
         QCOMPARE(strip().sequence()->name, trailer);
         // The filter of sequences counts as well.
