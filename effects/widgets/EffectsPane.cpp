@@ -51,6 +51,7 @@ EffectsPane::EffectsPane(Workbench &workbench, UserDefaults &defaults, QWidget *
     deleteKey->setForegroundRole(QPalette::PlaceholderText);
     m_showHidden->setToolTip(tr("List the effects again that the Delete key has taken off the list"));
     m_showHidden->hide();
+    returnFocusFrom(m_showHidden);
     auto *const line = new QHBoxLayout;
     line->addWidget(deleteKey, 1);
     line->addWidget(m_showHidden, 0, Qt::AlignTop);

@@ -97,6 +97,7 @@ MarkersPane::MarkersPane(Workbench &workbench, UserDefaults &defaults, QWidget *
         tr("List each marker under its own sequence and clip. Otherwise sequences at the same "
            "position in different bins share one name, and so do the clips of a track"));
     m_ownOwners->setChecked(defaults.boolean(MarkerInventory::ownOwnersDefault));
+    returnFocusFrom(m_ownOwners);
     connect(m_ownOwners, &QCheckBox::clicked, this,
             [this](bool own) { m_defaults.setValue(MarkerInventory::ownOwnersDefault, own); });
     auto *const line = new QHBoxLayout;
@@ -162,8 +163,10 @@ void MarkersPane::makeSearch()
     m_flags->addItems({tr("All Flags"), tr("Chapter"), tr("Compression"), tr("Scoring")});
     m_flags->setAccessibleName(tr("Flag of markers"));
     m_flags->setToolTip(tr("Show only markers with this flag"));
-    bar.addPopUp(m_sequences);
-    bar.addPopUp(m_flags);
+    for (QComboBox *const popUp : {m_sequences, m_flags}) {
+        bar.addPopUp(popUp);
+        returnFocusFrom(popUp);
+    }
     fillSequences();
     connect(&workbench().document(), &MyDocument::sequenceMenuChanged, this, &MarkersPane::fillSequences);
 }
@@ -317,6 +320,7 @@ void MarkersPane::placeOverview()
     auto *const content = static_cast<QBoxLayout *>(layout());
     content->insertWidget(content->indexOf(&table()), m_overview);
     m_overview->setVisible(MarkerOverviewPanel::isWanted(m_defaults));
+    returnFocusFrom(&m_overview->popUp());
     setTabOrder(m_flags, &m_overview->popUp());
     setTabOrder(&m_overview->popUp(), &m_overview->strip());
     setTabOrder(&m_overview->strip(), &table());

@@ -133,6 +133,7 @@ void MediaPane::makeSearch()
     m_states->setToolTip(
         tr("Show only files that are missing, that no sequence uses, or of an unknown kind"));
     bar.addPopUp(m_states);
+    returnFocusFrom(m_states);
 }
 
 void MediaPane::search()

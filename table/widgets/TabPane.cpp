@@ -7,6 +7,7 @@
 #include "support/widgets/SelectableLabel.h"
 #include "support/widgets/ShownText.h"
 #include "table/widgets/ColumnLayout.h"
+#include "table/widgets/FocusReturn.h"
 #include "table/widgets/QVTableView.h"
 #include "table/widgets/SearchBar.h"
 #include "table/widgets/TableDates.h"
@@ -68,6 +69,7 @@ TabPane::TabPane(Workbench &workbench, UserDefaults &defaults, TableModel *model
     , m_sorting(workbench.document(), defaults, model->tab())
     , m_model(model)
     , m_table(new QVTableView(this))
+    , m_focusReturn(new FocusReturn(m_table))
     , m_controls(new QHBoxLayout)
     , m_countTimer(new QTimer(this))
     , m_prepareTimer(new QTimer(this))
@@ -677,6 +679,7 @@ void TabPane::addControls(std::initializer_list<QWidget *> controls)
             continue;
         }
         m_controls->addWidget(control);
+        returnFocusFrom(control);
         if (previous)
             setTabOrder(previous, control);
         previous = control;
@@ -684,6 +687,11 @@ void TabPane::addControls(std::initializer_list<QWidget *> controls)
     if (previous)
         setTabOrder(previous, m_table);
     m_lastControl = previous;
+}
+
+void TabPane::returnFocusFrom(QWidget *control)
+{
+    m_focusReturn->watch(control);
 }
 
 SearchBar &TabPane::addSearchBar()

@@ -27,6 +27,7 @@ namespace vantrell
 {
 
 class ColumnLayout;
+class FocusReturn;
 class MessageLine;
 class QVTableView;
 class SearchBar;
@@ -137,6 +138,8 @@ protected:
     /// Puts the controls above the table, from the left, with a gap where one is null; the keyboard reaches
     /// them in this order, then the table.
     void addControls(std::initializer_list<QWidget *> controls);
+    /// Such a control, and one elsewhere, leaves the focus to the table when it was used with the mouse.
+    void returnFocusFrom(QWidget *control);
     /// Adds the line between the controls and the table that narrows the rows and counts them; after
     /// addControls(), once.
     SearchBar &addSearchBar();
@@ -214,6 +217,7 @@ private:
     TableSorting m_sorting;
     TableModel *m_model;
     QVTableView *m_table;
+    FocusReturn *m_focusReturn;
     ColumnLayout *m_columnLayout = nullptr;
     QHBoxLayout *m_controls;
     SearchBar *m_search = nullptr;

@@ -5,6 +5,7 @@
 #include "app/StartWindow.h"
 #include "markers/MarkerKeys.h"
 #include "markers/MarkerPresets.h"
+#include "markers/widgets/MarkerFieldsSheet.h"
 #include "support/alerts/QVAlert.h"
 #include "support/files/PropertyList.h"
 #include "table/widgets/EntryHint.h"
@@ -188,6 +189,45 @@ private Q_SLOTS:
         QVERIFY(m_window->isWindowModified());
         QTRY_COMPARE(m_window->focusWidget(), &table());
         QCOMPARE(table().currentIndex().row(), row);
+    }
+
+    void theFocusReturnsFromClickedControls()
+    {
+        QPushButton *const remove = buttonTitled(QStringLiteral("Remove…"));
+        QPushButton *const fields = buttonTitled(QStringLiteral("Fields…"));
+        QVERIFY(remove && fields);
+        table().setFocus();
+        select({3});
+        // By a sheet, and by a button that is disabled afterwards.
+        QTest::mouseClick(fields, Qt::LeftButton);
+        auto *const sheet = m_window->findChild<MarkerFieldsSheet *>();
+        QVERIFY(sheet);
+        QTRY_COMPARE(m_window->focusWidget(), &table());
+        sheet->reject();
+        pressLater(QStringLiteral("Remove"));
+        QTest::mouseClick(remove, Qt::LeftButton);
+        QTRY_VERIFY(!remove->isEnabled());
+        QTRY_COMPARE(m_window->focusWidget(), &table());
+        // A pop-up too, but not one that the keyboard opens.
+        QComboBox *popUp = nullptr;
+        for (QComboBox *const box : m_window->currentPane().findChildren<QComboBox *>()) {
+            if (box->accessibleName() == QStringLiteral("Flag of markers"))
+                popUp = box;
+        }
+        QVERIFY(popUp);
+        const auto closeList = [popUp] {
+            QTRY_VERIFY(popUp->view()->isVisible());
+            QTest::keyClick(popUp->view(), Qt::Key_Escape);
+            QTRY_VERIFY(!popUp->view()->isVisible());
+        };
+        popUp->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(popUp, Qt::Key_Down, Qt::AltModifier);
+        closeList();
+        QTest::qWait(20);
+        QCOMPARE(m_window->focusWidget(), popUp);
+        QTest::mousePress(popUp, Qt::LeftButton);
+        closeList();
+        QTRY_COMPARE(m_window->focusWidget(), &table());
     }
 
     void theFocusLeavesANoticeForTheTable()
@@ -460,6 +500,14 @@ private:
             m_window->toolbarEffects();
         else
             m_window->toolbarMarkers();
+    }
+    QPushButton *buttonTitled(const QString &title) const
+    {
+        for (QPushButton *const button : m_window->currentPane().findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == title)
+                return button;
+        }
+        return nullptr;
     }
     QVTableView &table() const { return m_window->currentPane().table(); }
     void select(const std::vector<std::size_t> &rows) { m_window->pane(Tab::Markers).selectRows(rows); }
