@@ -167,6 +167,7 @@ void StartWindow::fillRecentList()
     if (m_list->count() == 0) {
         auto *const none = new QListWidgetItem(tr("Projects that you open are listed here."), m_list);
         none->setFlags(Qt::NoItemFlags);
+        none->setForeground(palette().placeholderText()); // more than that of disabled items
     } else {
         m_list->setCurrentRow(0);
     }
