@@ -136,7 +136,7 @@ QVariant CarriedMarkerModel::data(const QModelIndex &index, int role) const
         return text(marker, index.column());
     case Qt::CheckStateRole:
         if (index.column() == Name)
-            return marker.isWanted || marker.isThere ? Qt::Checked : Qt::Unchecked;
+            return marker.isWanted && !marker.isThere ? Qt::Checked : Qt::Unchecked;
         break;
     case Qt::FontRole:
         if (index.column() == New && isGone(marker)) {
