@@ -116,7 +116,7 @@ Qt::ItemFlags CarriedMarkerModel::flags(const QModelIndex &index) const
         return flags;
     const CarriedMarker &marker = m_comparison->markers[std::size_t(index.row())];
     if (marker.isThere || !m_isEditable)
-        return index.column() == Name ? flags | Qt::ItemIsUserCheckable : flags;
+        return flags;
     if (index.column() == Name)
         flags |= Qt::ItemIsUserCheckable;
     if (index.column() == New && isGone(marker))
@@ -147,7 +147,7 @@ QVariant CarriedMarkerModel::data(const QModelIndex &index, int role) const
         break;
     case Qt::ForegroundRole:
         if (marker.isThere)
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QGuiApplication::palette().brush(QPalette::PlaceholderText);
         break;
     case Qt::ToolTipRole:
         return toolTip(marker);

@@ -37,12 +37,12 @@ void CandidateDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 
 void CandidateDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    FramedCheckDelegate::initStyleOption(option, index);
     option->textElideMode = index.column() == RelinkTableModel::Match ? Qt::ElideRight : Qt::ElideMiddle;
     const bool isFound =
         (index.siblingAtColumn(RelinkTableModel::Name).flags() & Qt::ItemIsUserCheckable) != 0;
     if (!isFound)
-        option->palette.setBrush(QPalette::Text, option->palette.brush(QPalette::Disabled, QPalette::Text));
+        option->palette.setBrush(QPalette::Text, option->palette.placeholderText());
 }
 
 } // namespace vantrell

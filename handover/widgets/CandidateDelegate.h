@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "support/widgets/CheckFrame.h"
 
 namespace vantrell
 {
 
 /// The cells of a RelinkTableModel: paths keep both their ends, and a file that several were found for offers
 /// them in a pop-up. Main thread.
-class CandidateDelegate final : public QStyledItemDelegate
+class CandidateDelegate final : public FramedCheckDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using FramedCheckDelegate::FramedCheckDelegate;
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;

@@ -14,7 +14,7 @@ enum class CheckShape { Box, Circle };
 void paintCheckFrame(QPainter &painter, const QStyleOption &box, CheckShape shape, bool isDim);
 
 /// Paints the cells of the style, and frames their check boxes. Main thread.
-class FramedCheckDelegate final : public QStyledItemDelegate
+class FramedCheckDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -1,9 +1,10 @@
 #include "table/widgets/SheetTable.h"
 
+#include "support/widgets/CheckFrame.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QStyledItemDelegate>
 
 #include <limits>
 
@@ -14,15 +15,15 @@ namespace
 {
 
 /// Edits texts of any length, and tells screen readers which cell is being edited.
-class SheetDelegate : public QStyledItemDelegate
+class SheetDelegate final : public FramedCheckDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using FramedCheckDelegate::FramedCheckDelegate;
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override
     {
-        QWidget *const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        QWidget *const editor = FramedCheckDelegate::createEditor(parent, option, index);
         if (auto *const field = qobject_cast<QLineEdit *>(editor))
             field->setMaxLength(std::numeric_limits<int>::max());
         if (editor)
