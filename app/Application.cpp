@@ -61,7 +61,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
 
 void Application::mendPalette()
 {
-    const QPalette readable = withReadableSecondaryTexts(palette());
+    const QPalette readable = withReadableTexts(palette());
     if (readable != palette())
         setPalette(readable);
 }

@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr double leastContrast = 2.5; // placeholders of common themes have 2.6 and more
+constexpr double leastTipContrast = 4;
 
 double luminanceOf(const QColor &color)
 {
@@ -39,10 +40,15 @@ double contrastOf(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QPalette withReadableSecondaryTexts(const QPalette &palette)
+QPalette withReadableTexts(const QPalette &palette)
 {
     QPalette readable = palette;
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        if (contrastOf(palette.color(group, QPalette::ToolTipText),
+                       palette.color(group, QPalette::ToolTipBase)) < leastTipContrast) {
+            readable.setColor(group, QPalette::ToolTipText, palette.color(group, QPalette::Text));
+            readable.setColor(group, QPalette::ToolTipBase, palette.color(group, QPalette::Base));
+        }
         const QColor text = palette.color(group, QPalette::PlaceholderText);
         const auto isReadable = [&](QPalette::ColorRole role) {
             const QColor ground = palette.color(group, role);

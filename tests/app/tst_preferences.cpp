@@ -81,6 +81,25 @@ private Q_SLOTS:
         QVERIFY(contrastOf(readable, window) > 2.5);
     }
 
+    void toolTipsCanBeRead()
+    {
+        const QPalette before = QApplication::palette();
+        QPalette theme(QColor(53, 53, 56), QColor(45, 45, 48));
+        theme.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+        theme.setColor(QPalette::ToolTipText, Qt::white);
+        QApplication::setPalette(theme);
+        QCoreApplication::processEvents();
+        const QPalette shown = QApplication::palette();
+        QApplication::setPalette(before);
+        QVERIFY(contrastOf(shown.color(QPalette::ToolTipText), shown.color(QPalette::ToolTipBase)) > 4);
+        theme.setColor(QPalette::ToolTipText, Qt::black);
+        QApplication::setPalette(theme);
+        QCoreApplication::processEvents();
+        const QColor kept = QApplication::palette().color(QPalette::ToolTipBase);
+        QApplication::setPalette(before);
+        QCOMPARE(kept, QColor(255, 255, 220));
+    }
+
     void theStartWindowOffersAllWaysIn()
     {
         StartWindow &start = m_controller->startWindow();
